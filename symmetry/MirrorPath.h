@@ -1,0 +1,64 @@
+#pragma once
+
+/// Mirroring one path across symmetry axes.
+///
+/// 1. The sector that holds the start of the path is the active one; the path is folded into
+///    sector 0.
+/// 2. Open ends near one of the two rays that bound sector 0 are moved onto it.
+/// 3. The path is cut at these rays and the pieces inside sector 0 are kept.
+/// 4. A piece that ends on a ray is joined with its images there, so that no seam is left.
+///
+/// What comes out replaces the source; `Images` says which copies complete it. Mirroring a result
+/// again changes nothing, which is what keeps a live layer calm.
+
+#include "symmetry/PathShape.h"
+#include "symmetry/SymmetryAxes.h"
+
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace facetta {
+
+/// One path of the result and the copies it still needs.
+struct Contour {
+    PathShape shape;
+    Images images = Images::All;
+};
+
+/// What replaces a mirrored path.
+struct MirroredPath {
+    int sector = 0;                ///< the active sector in which the source was drawn
+    std::vector<Contour> contours; ///< the one that holds the start of the source comes first
+    bool compound = false;         ///< the contours are one compound path; they agree in `images`
+    bool unchanged = false;        ///< the contours are the source, bit for bit
+};
+
+/// Mirrors paths across one set of axes. Keeps its working storage from path to path, so that one
+/// object should serve a whole run.
+class PathMirror {
+public:
+    /// `axes` has its origin in the space of the paths and at least one axis. Open ends closer to a
+    /// bounding ray than `snapDistance` (points, not negative) are moved onto it.
+    PathMirror(const SymmetryAxes& axes, double snapDistance);
+    ~PathMirror();
+    PathMirror(const PathMirror&) = delete;
+    PathMirror& operator=(const PathMirror&) = delete;
+
+    /// The mirrored form of one path. The contours of an open source are separate paths, those of a
+    /// closed one are painted together. Coordinates of the result are storable as 32-bit reals. An
+    /// empty path gives no contours.
+    ///
+    /// The reference is good until the next call.
+    [[nodiscard]] const MirroredPath& mirror(const PathShape& source);
+
+    /// The same for the members of a compound path: they share the active sector, found by the
+    /// first one, and the result is always a compound.
+    [[nodiscard]] const MirroredPath& mirrorCompound(std::span<const PathShape> members);
+
+private:
+    class Work;
+    std::unique_ptr<Work> work_;
+};
+
+} // namespace facetta

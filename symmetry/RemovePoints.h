@@ -1,0 +1,15 @@
+#pragma once
+
+/// Removing the anchors that mirroring left on the axes.
+
+#include "symmetry/PathShape.h"
+#include "symmetry/SymmetryAxes.h"
+
+namespace facetta {
+
+/// `shape` without the anchors on any of the 2N rays of `axes` whose removal leaves the curve where
+/// it is, to 0.01 points: straight runs, and smooth curves that were split there. The ends of an
+/// open path stay, and so do the last two anchors of a closed one.
+[[nodiscard]] PathShape removeRedundantAxisPoints(PathShape shape, const SymmetryAxes& axes);
+
+} // namespace facetta
