@@ -1,0 +1,61 @@
+#include "easel/core/HostCalls.h"
+
+#include <utility>
+
+namespace easel {
+
+void HostCalls::arm(FaultPlan plan) {
+    plan_ = std::move(plan);
+    fired_ = false;
+    fallibleCalls_ = 0;
+}
+
+void HostCalls::disarm() { plan_ = {}; }
+
+void HostCalls::resetCounts() noexcept {
+    total_ = 0;
+    time_ = std::chrono::nanoseconds{0};
+}
+
+void HostCalls::setRecording(bool on) {
+    recording_ = on;
+    if (on) recorded_.clear();
+}
+
+bool HostCalls::planned(const SlotRecord& slot) {
+    if (!slot.returnsError) return false;
+    if (!plan_.function.empty() && plan_.function != slot.name) return false;
+    ++fallibleCalls_;
+    switch (plan_.mode) {
+    case FaultPlan::Mode::Never:
+        return false;
+    case FaultPlan::Mode::Once:
+        return fallibleCalls_ == plan_.call;
+    case FaultPlan::Mode::FromThenOn:
+        return fallibleCalls_ >= plan_.call;
+    }
+    return false;
+}
+
+bool HostCalls::enter(SlotRecord& slot) {
+    ++slot.calls;
+    ++total_;
+    if (recording_) recorded_.push_back(&slot);
+    const bool fails = planned(slot);
+    fired_ = fired_ || fails;
+    if (timing_ && depth_ == 0) entered_ = std::chrono::steady_clock::now();
+    ++depth_;
+    return fails;
+}
+
+void HostCalls::leave() noexcept {
+    --depth_;
+    if (timing_ && depth_ == 0) time_ += std::chrono::steady_clock::now() - entered_;
+}
+
+HostCalls& hostCalls() noexcept {
+    static HostCalls calls;
+    return calls;
+}
+
+} // namespace easel

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "host/Codes.h"
+
+#include <chrono>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace easel {
+
+/// One slot of one suite, and what has come through it.
+struct SlotRecord {
+    std::string name; ///< "Suite.Function".
+    bool returnsError = false;
+    std::uint64_t calls = 0;
+};
+
+/// Makes host calls fail, to show what the plug-in does then. Calls are numbered from 1 since
+/// `arm`.
+struct FaultPlan {
+    enum class Mode { Never, Once, FromThenOn };
+    Mode mode = Mode::Never;
+    std::uint64_t call = 0; ///< The call to fail, counted over functions that return an error code.
+    std::string function;   ///< When not empty, only calls of this "Suite.Function" count.
+    AIErr code = kBadParameterErr;
+};
+
+/// Everything that the plug-in asks of the host passes through here: counted, timed, and made to
+/// fail on demand. One per process; written by the exposed suite functions only.
+class HostCalls {
+  public:
+    void arm(FaultPlan plan);
+    void disarm();
+    /// Did the armed plan make a call fail?
+    [[nodiscard]] bool fired() const noexcept { return fired_; }
+    /// Calls of functions that return an error code, since `arm`.
+    [[nodiscard]] std::uint64_t fallibleCalls() const noexcept { return fallibleCalls_; }
+
+    [[nodiscard]] std::uint64_t total() const noexcept { return total_; }
+    /// Time spent inside host functions called by the plug-in; grows only while timing is on.
+    [[nodiscard]] std::chrono::nanoseconds time() const noexcept { return time_; }
+    void setTiming(bool on) noexcept { timing_ = on; }
+    void resetCounts() noexcept;
+
+    /// Keeps the names of the calls in order while on, for tests of what must happen in order.
+    void setRecording(bool on);
+    [[nodiscard]] const std::vector<const SlotRecord*>& recorded() const noexcept {
+        return recorded_;
+    }
+
+    // For the exposed functions.
+    /// Counts the call; true when it is to fail with `faultCode()` before it has any effect.
+    [[nodiscard]] bool enter(SlotRecord& slot);
+    void leave() noexcept;
+    [[nodiscard]] AIErr faultCode() const noexcept { return plan_.code; }
+
+  private:
+    [[nodiscard]] bool planned(const SlotRecord& slot);
+
+    FaultPlan plan_;
+    bool fired_ = false;
+    bool timing_ = false;
+    bool recording_ = false;
+    int depth_ = 0; ///< A host function may call the plug-in, which calls the host again.
+    std::uint64_t total_ = 0;
+    std::uint64_t fallibleCalls_ = 0;
+    std::chrono::nanoseconds time_{0};
+    std::chrono::steady_clock::time_point entered_;
+    std::vector<const SlotRecord*> recorded_;
+};
+
+[[nodiscard]] HostCalls& hostCalls() noexcept;
+
+} // namespace easel

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "host/Types.h"
+
+inline constexpr char kAIURLSuite[] = "AI URL Suite";
+inline constexpr ai::int32 kAIURLSuiteVersion = 2;
+
+struct AIURLSuite {
+    AIBoolean (*IsBrowserAvailable)();
+    AIBoolean (*OpenURL)(const char*);
+};
