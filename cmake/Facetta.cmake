@@ -1,0 +1,143 @@
+# How Facetta's rooms, tests and products are built: one function each, one set of flags for all.
+#
+#   facetta_room(symmetry SOURCES Geometry.cpp ... DEPENDS host)
+#       the static library facetta::symmetry; sources include from the root of the repository
+#   facetta_tests(symmetry SOURCES GeometryTests.cpp ... DEPENDS symmetry)
+#       the doctest program symmetry_tests, known to CTest under that name; in the Windows presets
+#       it runs under Wine
+#   facetta_program(easel SOURCES main.cpp DEPENDS easel facetta::cli11)
+#       a program of that name
+#   facetta_plugin(facetta SOURCES PluginMain.cpp DEPENDS shell)
+#       the plug-in, exporting PluginMain alone: Facetta.aip for Windows, facetta.so for Linux
+#
+# DEPENDS takes names of rooms and whole target names (those with "::" and those of system
+# libraries written with a leading -l). A test may add TIMEOUT seconds and LABELS.
+
+include_guard(GLOBAL)
+enable_testing()
+
+set(CMAKE_POSITION_INDEPENDENT_CODE ON) # every room ends up in facetta.so
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+option(FACETTA_SANITIZE "Check addresses, leaks and undefined behaviour while running" OFF)
+
+# Paths inside the objects are relative to the repository, so that two clones build the same bytes
+# and share one compiler cache.
+find_program(FACETTA_CCACHE ccache)
+if(FACETTA_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${FACETTA_CCACHE})
+endif()
+
+add_library(facetta_flags INTERFACE)
+target_compile_features(facetta_flags INTERFACE cxx_std_20)
+target_include_directories(facetta_flags INTERFACE ${CMAKE_SOURCE_DIR})
+target_compile_options(facetta_flags INTERFACE $<$<COMPILE_LANGUAGE:CXX>:
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wold-style-cast -Werror
+    -Wno-multichar # the host names things by four-letter codes: 'ARTg'
+    -ffile-prefix-map=${CMAKE_SOURCE_DIR}/=>)
+
+if(FACETTA_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined,float-cast-overflow
+        -fno-sanitize-recover=all -fno-omit-frame-pointer -D_GLIBCXX_ASSERTIONS)
+    add_link_options(-fsanitize=address,undefined,float-cast-overflow)
+endif()
+
+if(WIN32)
+    enable_language(RC)
+    target_compile_definitions(facetta_flags INTERFACE
+        UNICODE _UNICODE NOMINMAX WINVER=0x0A00 _WIN32_WINNT=0x0A00)
+    target_compile_options(facetta_flags INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wa,-mbig-obj>)
+    # The runtime goes inside: products import DLLs of the system only. No time stamp, so that
+    # two builds of one state are the same bytes.
+    target_link_options(facetta_flags INTERFACE -static -Wl,--no-insert-timestamp
+        -Wl,--dynamicbase,--high-entropy-va,--nxcompat)
+    add_test(NAME wine_prefix COMMAND ${CMAKE_SOURCE_DIR}/scripts/wine-prefix)
+    set_tests_properties(wine_prefix PROPERTIES TIMEOUT 300 FIXTURES_SETUP wine)
+endif()
+
+configure_file(${CMAKE_SOURCE_DIR}/cmake/Version.h.in ${CMAKE_BINARY_DIR}/generated/Version.h @ONLY)
+target_include_directories(facetta_flags INTERFACE ${CMAKE_BINARY_DIR}/generated)
+
+# The names given to DEPENDS as target names: a room's name stands for facetta::<room>.
+function(facetta_targets result)
+    set(targets)
+    foreach(name IN LISTS ARGN)
+        if(name MATCHES "::|^-l")
+            list(APPEND targets ${name})
+        else()
+            list(APPEND targets facetta::${name})
+        endif()
+    endforeach()
+    set(${result} ${targets} PARENT_SCOPE)
+endfunction()
+
+# Reads SOURCES, DEPENDS and the like; a word that belongs to none of them is a mistake.
+macro(facetta_arguments function single)
+    cmake_parse_arguments(arg "" "${single}" "SOURCES;DEPENDS;LABELS" ${ARGN})
+    if(arg_UNPARSED_ARGUMENTS OR NOT arg_SOURCES)
+        message(FATAL_ERROR "${function}(name SOURCES ... [DEPENDS ...]): ${arg_UNPARSED_ARGUMENTS}")
+    endif()
+    facetta_targets(depends ${arg_DEPENDS})
+endmacro()
+
+function(facetta_room name)
+    facetta_arguments(facetta_room "" ${ARGN})
+    add_library(facetta_${name} STATIC ${arg_SOURCES})
+    add_library(facetta::${name} ALIAS facetta_${name})
+    target_link_libraries(facetta_${name} PUBLIC facetta_flags ${depends})
+endfunction()
+
+function(facetta_program name)
+    facetta_arguments(facetta_program "" ${ARGN})
+    add_executable(${name} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE facetta_flags ${depends})
+endfunction()
+
+function(facetta_tests name)
+    facetta_arguments(facetta_tests "TIMEOUT" ${ARGN})
+    if(NOT arg_TIMEOUT)
+        set(arg_TIMEOUT 120)
+    endif()
+    if(NOT TARGET facetta_test_main)
+        set(system $<IF:$<BOOL:${WIN32}>,win32,headless>)
+        add_library(facetta_test_main OBJECT ${CMAKE_SOURCE_DIR}/tests/main.cpp
+            ${CMAKE_SOURCE_DIR}/tests/CrashFilter_${system}.cpp)
+        target_link_libraries(facetta_test_main PUBLIC facetta_flags facetta::doctest)
+    endif()
+    add_executable(${name}_tests ${arg_SOURCES})
+    target_link_libraries(${name}_tests PRIVATE facetta_test_main ${depends})
+    add_test(NAME ${name}_tests COMMAND ${name}_tests WORKING_DIRECTORY ${CMAKE_SOURCE_DIR})
+    set_tests_properties(${name}_tests PROPERTIES TIMEOUT ${arg_TIMEOUT} LABELS "${arg_LABELS}"
+        ENVIRONMENT "ASAN_OPTIONS=detect_stack_use_after_return=1;UBSAN_OPTIONS=print_stacktrace=1")
+    if(WIN32)
+        # Two programs that open windows in one Wine prefix can wait for each other for ever.
+        set_tests_properties(${name}_tests PROPERTIES RESOURCE_LOCK wine FIXTURES_REQUIRED wine)
+    endif()
+endfunction()
+
+function(facetta_plugin name)
+    facetta_arguments(facetta_plugin "" ${ARGN})
+    add_library(${name} MODULE ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE facetta_flags ${depends})
+    # The library's own sources hold the entry, which the linker alone lets out; -u finds it in a
+    # room's archive as well.
+    set_target_properties(${name} PROPERTIES CXX_VISIBILITY_PRESET default PREFIX "")
+    target_link_options(${name} PRIVATE -Wl,-u,PluginMain)
+    if(WIN32)
+        target_sources(${name} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/PluginMain.def)
+        set_target_properties(${name} PROPERTIES OUTPUT_NAME Facetta SUFFIX .aip)
+        # Fixed, because the linker would otherwise make it up from the path of the output.
+        target_link_options(${name} PRIVATE -Wl,--image-base,0x180000000)
+    else()
+        set_target_properties(${name} PROPERTIES OUTPUT_NAME facetta SUFFIX .so
+            LINK_DEPENDS ${CMAKE_SOURCE_DIR}/cmake/PluginMain.map)
+        target_link_options(${name} PRIVATE
+            -Wl,--version-script=${CMAKE_SOURCE_DIR}/cmake/PluginMain.map -Wl,-z,defs)
+    endif()
+    add_test(NAME ${name}_library COMMAND ${CMAKE_COMMAND} -D library=$<TARGET_FILE:${name}>
+        -D objdump=${CMAKE_OBJDUMP} -P ${CMAKE_SOURCE_DIR}/cmake/CheckPlugin.cmake)
+    set_tests_properties(${name}_library PROPERTIES TIMEOUT 30)
+endfunction()

@@ -1,0 +1,3 @@
+#include "tests/CrashFilter.h"
+
+void facetta::tests::installCrashFilter() {}
