@@ -4,4 +4,19 @@
 export WINEPREFIX=$PWD/build/wine
 export WINEARCH=win64
 export WINEDEBUG=${WINEDEBUG:--all}
-export WINEDLLOVERRIDES="mscoree,mshtml=" # no .NET, no browser: asking for them would wait for a person
+export WINEDLLOVERRIDES="mscoree,mshtml=" # no .NET, no browser: their absence would ask for a person
+
+# Starts this prefix's server unless it runs. It stays for ten minutes after its last program, which
+# makes the next start 0.03 s instead of 0.4 s. The services that come with the first program
+# outlive it, so that program must not hand them the output that our caller waits to see closed.
+start_wine_server() {
+    if wineserver -p600 </dev/null >/dev/null 2>&1; then
+        wine cmd /c exit </dev/null >/dev/null 2>&1
+    fi
+}
+
+# Ends this prefix's server and every program in it. Nothing to end is no failure.
+stop_wine_server() {
+    wineserver -k >/dev/null 2>&1 || true
+    wineserver -w >/dev/null 2>&1 || true
+}
