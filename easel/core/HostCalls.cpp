@@ -45,11 +45,13 @@ bool HostCalls::enter(SlotRecord& slot) {
     fired_ = fired_ || fails;
     if (timing_ && depth_ == 0) entered_ = std::chrono::steady_clock::now();
     ++depth_;
+    current_ = &slot;
     return fails;
 }
 
-void HostCalls::leave() noexcept {
+void HostCalls::leave(const SlotRecord* outer) noexcept {
     --depth_;
+    current_ = outer;
     if (timing_ && depth_ == 0) time_ += std::chrono::steady_clock::now() - entered_;
 }
 

@@ -37,6 +37,9 @@ class HostCalls {
     /// Calls of functions that return an error code, since `arm`.
     [[nodiscard]] std::uint64_t fallibleCalls() const noexcept { return fallibleCalls_; }
 
+    /// The host function that is running, the innermost one; null while the plug-in is not in one.
+    [[nodiscard]] const SlotRecord* current() const noexcept { return current_; }
+
     [[nodiscard]] std::uint64_t total() const noexcept { return total_; }
     /// Time spent inside host functions called by the plug-in; grows only while timing is on.
     [[nodiscard]] std::chrono::nanoseconds time() const noexcept { return time_; }
@@ -52,7 +55,8 @@ class HostCalls {
     // For the exposed functions.
     /// Counts the call; true when it is to fail with `faultCode()` before it has any effect.
     [[nodiscard]] bool enter(SlotRecord& slot);
-    void leave() noexcept;
+    /// `outer` is what `current()` was before `enter`.
+    void leave(const SlotRecord* outer) noexcept;
     [[nodiscard]] AIErr faultCode() const noexcept { return plan_.code; }
 
   private:
@@ -62,6 +66,7 @@ class HostCalls {
     bool fired_ = false;
     bool timing_ = false;
     bool recording_ = false;
+    const SlotRecord* current_ = nullptr;
     int depth_ = 0; ///< A host function may call the plug-in, which calls the host again.
     std::uint64_t total_ = 0;
     std::uint64_t fallibleCalls_ = 0;

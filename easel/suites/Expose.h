@@ -17,13 +17,15 @@ namespace easel {
 /// Counts one call from entry to exit.
 class HostCallScope {
   public:
-    explicit HostCallScope(SlotRecord& slot) : fails_(hostCalls().enter(slot)) {}
-    ~HostCallScope() { hostCalls().leave(); }
+    explicit HostCallScope(SlotRecord& slot)
+        : outer_(hostCalls().current()), fails_(hostCalls().enter(slot)) {}
+    ~HostCallScope() { hostCalls().leave(outer_); }
     HostCallScope(const HostCallScope&) = delete;
     HostCallScope& operator=(const HostCallScope&) = delete;
     [[nodiscard]] bool fails() const noexcept { return fails_; }
 
   private:
+    const SlotRecord* outer_;
     bool fails_;
 };
 

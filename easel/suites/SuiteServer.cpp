@@ -1,5 +1,6 @@
 #include "easel/suites/SuiteServer.h"
 
+#include "easel/suites/Expose.h"
 #include "easel/suites/SlotTables.h"
 
 #include <algorithm>
@@ -26,8 +27,7 @@ std::array<std::unique_ptr<SlotRecord>, kMostSlots>& records() {
 /// What an unimplemented slot does: tells its name, answers '!IMP'.
 template <std::size_t Index> AIErr notImplemented() {
     SlotRecord& record = *records()[Index];
-    static_cast<void>(hostCalls().enter(record));
-    hostCalls().leave();
+    const HostCallScope scope{record};
     std::fprintf(stderr, "easel: %s is not implemented\n", record.name.c_str());
     return kNotImplementedErr;
 }
