@@ -29,7 +29,7 @@ struct FaultPlan {
 /// Everything that the plug-in asks of the host passes through here: counted, timed, and made to
 /// fail on demand. One per process; written by the exposed suite functions only.
 class HostCalls {
-  public:
+public:
     void arm(FaultPlan plan);
     void disarm();
     /// Did the armed plan make a call fail?
@@ -59,7 +59,7 @@ class HostCalls {
     void leave(const SlotRecord* outer) noexcept;
     [[nodiscard]] AIErr faultCode() const noexcept { return plan_.code; }
 
-  private:
+private:
     [[nodiscard]] bool planned(const SlotRecord& slot);
 
     FaultPlan plan_;

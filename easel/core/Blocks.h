@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstddef>
+
+/// Memory that plug-in and host hand to each other. Contents are not initialised; every block is on
+/// loan in the ledger until it is freed.
+
+namespace easel {
+
+/// Throws '!MEM' when there is none. A size of 0 gives a block all the same.
+[[nodiscard]] void* allocateBlock(std::size_t size);
+/// Null is accepted. Throws 'PARM' for what is no block.
+void freeBlock(void* block);
+/// May move; a null block is allocated. On failure `block` stays as it is.
+[[nodiscard]] void* reallocateBlock(void* block, std::size_t size);
+[[nodiscard]] std::size_t blockSize(const void* block);
+
+} // namespace easel
