@@ -1,6 +1,6 @@
 # What we build with and did not write, each as one target, the same in every preset:
 # facetta::doctest, facetta::cli11, facetta::json, facetta::boost, facetta::tinyxml2, and natively
-# facetta::cairo. All of it comes from the system's packages (see docs/dependencies.md).
+# facetta::cairo and facetta::benchmark. All of it comes from the system's packages (see docs/dependencies.md).
 
 include_guard(GLOBAL)
 
@@ -40,4 +40,6 @@ else()
     add_library(facetta::tinyxml2 ALIAS PkgConfig::tinyxml2)
     pkg_check_modules(cairo REQUIRED IMPORTED_TARGET GLOBAL cairo)
     add_library(facetta::cairo ALIAS PkgConfig::cairo)
+    find_package(benchmark REQUIRED)
+    add_library(facetta::benchmark ALIAS benchmark::benchmark_main)
 endif()

@@ -6,9 +6,13 @@
 #       the doctest program symmetry_tests, known to CTest under that name; in the Windows presets
 #       it runs under Wine
 #   facetta_program(easel SOURCES main.cpp DEPENDS easel facetta::cli11)
-#       a program of that name
+#       a product of that name
+#   facetta_benchmarks(mirror SOURCES MirrorBenchmarks.cpp DEPENDS symmetry)
+#       the Google Benchmark program mirror_benchmarks, run by the target "bench"; Linux only
 #   facetta_plugin(facetta SOURCES PluginMain.cpp DEPENDS shell)
 #       the plug-in, exporting PluginMain alone: Facetta.aip for Windows, facetta.so for Linux
+#
+# Products land side by side in build/<preset>/products.
 #
 # DEPENDS takes names of rooms and whole target names (those with "::" and those of system
 # libraries written with a leading -l). A test may add TIMEOUT seconds and LABELS.
@@ -90,10 +94,20 @@ function(facetta_room name)
     target_link_libraries(facetta_${name} PUBLIC facetta_flags ${depends})
 endfunction()
 
+# Products stand side by side, so that the host finds the plug-in; they carry no symbols when
+# optimised.
+function(facetta_product name)
+    target_link_options(${name} PRIVATE $<$<CONFIG:Release>:-s>)
+    set_target_properties(${name} PROPERTIES
+        RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/products
+        LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/products)
+endfunction()
+
 function(facetta_program name)
     facetta_arguments(facetta_program "" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE facetta_flags ${depends})
+    facetta_product(${name})
 endfunction()
 
 function(facetta_tests name)
@@ -118,6 +132,21 @@ function(facetta_tests name)
     endif()
 endfunction()
 
+function(facetta_benchmarks name)
+    facetta_arguments(facetta_benchmarks "" ${ARGN})
+    if(WIN32)
+        return() # no package has Google Benchmark for Windows
+    endif()
+    if(NOT TARGET bench)
+        add_custom_target(bench)
+    endif()
+    add_executable(${name}_benchmarks ${arg_SOURCES})
+    target_link_libraries(${name}_benchmarks PRIVATE facetta_flags facetta::benchmark ${depends})
+    add_custom_target(run_${name}_benchmarks COMMAND ${name}_benchmarks USES_TERMINAL
+        WORKING_DIRECTORY ${CMAKE_SOURCE_DIR})
+    add_dependencies(bench run_${name}_benchmarks)
+endfunction()
+
 function(facetta_plugin name)
     facetta_arguments(facetta_plugin "" ${ARGN})
     add_library(${name} MODULE ${arg_SOURCES})
@@ -126,6 +155,7 @@ function(facetta_plugin name)
     # room's archive as well.
     set_target_properties(${name} PROPERTIES CXX_VISIBILITY_PRESET default PREFIX "")
     target_link_options(${name} PRIVATE -Wl,-u,PluginMain)
+    facetta_product(${name})
     if(WIN32)
         target_sources(${name} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/PluginMain.def)
         set_target_properties(${name} PROPERTIES OUTPUT_NAME Facetta SUFFIX .aip)

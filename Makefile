@@ -1,0 +1,6 @@
+# Short names for the scripts that do the work; docs/building.md tells what each does.
+
+.PHONY: demo check dist bench format tidy
+
+demo check dist bench format tidy:
+	scripts/$@
