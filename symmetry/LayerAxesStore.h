@@ -1,0 +1,53 @@
+#pragma once
+
+/// The axes that a layer carries inside the document.
+///
+/// They live in the dictionary of the group art of a TOP-LEVEL layer, under "FacettaFT"; all its
+/// sublayers share them. Where a function takes a layer, a null one means the current layer. A
+/// missing layer, group art or entry is no error: there is nothing to read, and nothing is done.
+/// A host call that fails for another reason throws `ai::Error`.
+
+#include "host/Handles.h"
+#include "host/Types.h"
+#include "symmetry/SymmetryAxes.h"
+
+namespace facetta {
+
+/// The layer without a parent above `layer`; null when there is no layer.
+[[nodiscard]] AILayerHandle topLevelLayer(AILayerHandle layer);
+
+/// The group that holds the art of exactly this layer; null when there is none.
+[[nodiscard]] AIArtHandle groupArtOf(AILayerHandle layer);
+
+/// The host's modification stamp of the layer's own group art as a stored entry holds it, cut to 32
+/// bits; 0 without group art. Any change of art on the layer changes it, a dictionary write does
+/// not.
+[[nodiscard]] ai::int32 currentStamp(AILayerHandle layer);
+
+namespace LayerAxesStore {
+
+/// Sets `out.axisCount` to 0; then, when the top-level layer of `layer` has axes, fills `out` from
+/// them and sets `out.onLayer`. What is missing or unreadable reads as its default: origin and
+/// angle 0, one axis, automatic mirroring on; the count is clamped to 1..72. Returns whether axes
+/// were found.
+bool read(AILayerHandle layer, SymmetryAxes& out);
+
+/// Stores `axes` on the top-level layer of the current layer. The entry is replaced as a whole, and
+/// with it goes the stamp.
+void write(const SymmetryAxes& axes);
+
+/// Whether `layer` itself has axes; its top-level layer is not looked up.
+[[nodiscard]] bool hasAxes(AILayerHandle layer);
+
+/// Deletes the axes of `layer`, or of its top-level layer when `resolveTopLevel`, and turns the
+/// copies on `layer` into ordinary art: their tags go and they are unlocked.
+void remove(AILayerHandle layer, bool resolveTopLevel);
+
+/// Notes the current stamp of the top-level layer of `layer` beside its axes, if it has any.
+void stamp(AILayerHandle layer);
+
+/// The stamp noted last; 0 when there is none.
+[[nodiscard]] ai::int32 stampOf(AILayerHandle layer);
+
+} // namespace LayerAxesStore
+} // namespace facetta

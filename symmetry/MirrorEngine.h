@@ -1,0 +1,44 @@
+#pragma once
+
+/// Turns art into its symmetric whole.
+///
+/// In selection mode the selected art is mirrored once across the current axes, and plain art is
+/// left behind. In layer mode the copies on a layer are thrown away and made anew from the layer's
+/// source art, each copy locked and tagged, so that the next run finds it.
+
+#include "host/Handles.h"
+#include "symmetry/SymmetryAxes.h"
+
+#include <functional>
+#include <string_view>
+
+namespace facetta {
+
+/// What a run takes from the plug-in.
+struct MirrorEnvironment {
+    SymmetryAxes& currentAxes;      ///< What the user sees; the same after a run as before.
+    bool removePoints = false;      ///< The preference "FTRemovePoints".
+    AIToolHandle ownTool = nullptr; ///< Selected for a moment to make the pen start afresh.
+    std::function<void(std::string_view text)> showMessage; ///< Shows one text to the user.
+};
+
+class MirrorEngine {
+public:
+    explicit MirrorEngine(MirrorEnvironment environment);
+
+    /// Mirrors the selection (`selectionMode`) or regenerates the top-level layer of `layer` (null:
+    /// of the current layer), with the layer's own axes unless `keepCurrentAxes`. Without axes
+    /// nothing is done.
+    ///
+    /// A path whose mirrored form would be longer than the host allows is left as it is; the user
+    /// is then told once, at the end. `option` asks for that message in any case.
+    ///
+    /// All changes belong to the undo step of the message in which the run happens. Throws
+    /// `ai::Error` when a host call fails; the host's undo then brings back the art as it was.
+    void run(bool selectionMode, bool keepCurrentAxes, bool option, AILayerHandle layer);
+
+private:
+    MirrorEnvironment environment_;
+};
+
+} // namespace facetta
