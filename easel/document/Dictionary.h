@@ -1,0 +1,89 @@
+#pragma once
+
+#include "easel/document/Value.h"
+
+#include <span>
+#include <string_view>
+
+namespace easel {
+
+class UndoLog;
+class Art;
+
+/// An interned key: equal texts have equal keys, for the life of the process.
+using Key = const std::string*;
+
+/// The key of `text`, case-sensitive, compared byte by byte.
+[[nodiscard]] Key internKey(std::string_view text);
+/// Keys that begin with '-' are kept in memory only, never saved.
+[[nodiscard]] bool isTemporary(Key key) noexcept;
+
+struct DictionaryItem {
+    Key key;
+    Value value;
+};
+
+/// Entries shared by whoever holds the dictionary. Once it belongs to a document (as the dictionary
+/// of art or of the document, or nested in one that does) its changes are recorded for undo.
+class Dictionary final : public Counted {
+public:
+    Dictionary() noexcept : Counted(HandleKind::Dictionary, Lent::Dictionary) {}
+
+    [[nodiscard]] std::span<const DictionaryItem> items() const noexcept { return items_; }
+    /// Ordered by the text of their keys, so that what is written does not depend on history.
+    [[nodiscard]] std::vector<DictionaryItem> sortedItems() const;
+    /// Null when absent.
+    [[nodiscard]] const Value* find(Key key) const noexcept;
+    /// Replaces what is there, of whatever type. Throws 'PARM' when `value` contains this
+    /// dictionary, 'NEST' when it is nested too deeply, 'PARM' for a pointer under a lasting key.
+    void set(Key key, Value value);
+    /// False when absent.
+    bool erase(Key key);
+    /// Takes over copies of the entries of `other`; what was here is gone.
+    void copyFrom(const Dictionary& other);
+
+    /// From now on changes are recorded there, those of nested dictionaries and arrays as well.
+    void attach(const std::shared_ptr<UndoLog>& log);
+    [[nodiscard]] const std::shared_ptr<UndoLog>& log() const noexcept { return log_; }
+    /// The art whose dictionary this is; null for any other. Cleared when the art is gone.
+    [[nodiscard]] Art* owner() const noexcept { return owner_; }
+    void setOwner(Art* art) noexcept { owner_ = art; }
+
+    /// For the undo log: exchanges the entries with kept ones.
+    void swapItems(std::vector<DictionaryItem>& items) noexcept { items_.swap(items); }
+
+private:
+    void keepFormerState();
+
+    std::vector<DictionaryItem> items_;
+    std::shared_ptr<UndoLog> log_;
+    Art* owner_ = nullptr;
+    std::uint64_t keptIn_ = 0; ///< The epoch of the undo log in which the former state was kept.
+};
+
+/// A counted list of values, otherwise like a dictionary.
+class Array final : public Counted {
+public:
+    Array() noexcept : Counted(HandleKind::Array, Lent::Array) {}
+
+    [[nodiscard]] std::span<const Value> values() const noexcept { return values_; }
+    /// Throws 'EnNS' out of range.
+    [[nodiscard]] const Value& at(ai::int32 index) const;
+    void set(ai::int32 index, Value value);
+    /// Before `index`; at the end when `index` is the count.
+    void insert(ai::int32 index, Value value);
+    void erase(ai::int32 index);
+    void copyFrom(const Array& other);
+
+    void attach(const std::shared_ptr<UndoLog>& log);
+    void swapValues(std::vector<Value>& values) noexcept { values_.swap(values); }
+
+private:
+    void keepFormerState();
+
+    std::vector<Value> values_;
+    std::shared_ptr<UndoLog> log_;
+    std::uint64_t keptIn_ = 0;
+};
+
+} // namespace easel

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "easel/document/Document.h"
+#include "easel/document/HandleTable.h"
+#include "easel/document/Switches.h"
+
+#include <string>
+
+namespace easel {
+
+/// What the art side of the host keeps besides its documents: one per process, because the suites
+/// are plain functions that carry nothing with them.
+struct Session {
+    HandleTable handles;
+    Switches switches;
+    /// The document that calls without a document mean; set with `setCurrentDocument`.
+    Document* current = nullptr;
+    /// The last time stamp given. It starts at 0 in every session.
+    std::uint64_t lastStamp = 0;
+    /// Set by the current context: changes under locked or hidden parents are allowed.
+    bool allowAllChanges = false;
+};
+
+[[nodiscard]] Session& session() noexcept;
+[[nodiscard]] inline Switches& switches() noexcept { return session().switches; }
+
+/// Throws 'DOC?' when there is none.
+[[nodiscard]] Document& currentDocument();
+/// Null: none is current.
+void setCurrentDocument(Document* document) noexcept;
+
+/// The live object behind a handle. A null, stale, dead or invented one is refused: throws 'PARM'.
+[[nodiscard]] Art& artOf(AIArtHandle handle);
+/// Null unless `handle` is that of a live object.
+[[nodiscard]] Art* findArt(AIArtHandle handle) noexcept;
+/// The layer's group; throws 'PARM'.
+[[nodiscard]] Art& layerOf(AILayerHandle handle);
+/// Throws 'PARM'.
+[[nodiscard]] Document& documentOf(AIDocumentHandle handle);
+
+/// Drops what lives for one message only: leftover hits, strings handed out of entries. To be
+/// called when the outermost message has ended.
+void endMessageLoans();
+
+} // namespace easel

@@ -1,0 +1,43 @@
+#pragma once
+
+namespace easel {
+
+/// What the host's interface leaves open, decided here once. Each can be turned the other way, so
+/// that a plug-in is tried against both kinds of host.
+struct Switches {
+    /// A duplicate keeps the locked and hidden state of its original.
+    bool duplicatesKeepLocks = true;
+    /// A duplicate of selected art is selected.
+    bool duplicatesKeepSelection = true;
+    /// `LayerArtSet` lists the layer's own group first.
+    bool layerSetHasOwnGroup = true;
+    /// The parent of a sublayer's group is the parent layer's group; otherwise there is none.
+    bool sublayerGroupHasParent = true;
+    /// Undo brings time stamps back with the state they belong to; otherwise it gives new ones.
+    bool undoRestoresStamps = true;
+    /// Locked art refuses to be disposed of.
+    bool disposeRefusesLocked = true;
+    /// Reading a preference that does not exist succeeds and changes nothing; otherwise 'PARM'.
+    bool absentPreferenceSucceeds = true;
+    /// A hit test that finds nothing gives an object that says so; otherwise null.
+    bool missIsHitObject = true;
+    /// Reading an entry as another type answers 100; otherwise 'PARM'.
+    bool wrongEntryTypeHasOwnCode = true;
+    /// Cursor snapping takes its point by address; otherwise by value.
+    bool snapPointByReference = true;
+    /// Undo takes silent records back together with the step they follow; otherwise each silent
+    /// record is a step of its own that has no name.
+    bool silentFollowsStep = true;
+    /// `CountArtSet` writes all of its 64 bits; otherwise the low 32 only.
+    bool countIs64Bits = true;
+    /// Selecting locked or hidden art is refused; otherwise nothing happens, and successfully.
+    bool selectingLockedFails = true;
+    /// Pointer entries sit at slots 29 and 30 of the dictionary suite; otherwise they are not there
+    /// and what follows them sits two slots earlier.
+    bool dictionaryHasPointerSlots = true;
+    /// Strings handed out of entries live until the message ends; otherwise until the next
+    /// dictionary call, which overwrites them.
+    bool entryStringsLast = true;
+};
+
+} // namespace easel

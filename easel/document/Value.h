@@ -1,0 +1,44 @@
+#pragma once
+
+#include "easel/document/Counted.h"
+#include "host/Art.h"
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace easel {
+
+class Dictionary;
+class Array;
+
+/// Booleans are a type of their own, apart from integers.
+struct Boolean {
+    bool value = false;
+    bool operator==(const Boolean&) const = default;
+};
+using SharedText = std::shared_ptr<const std::string>;
+using UnicodeText = std::shared_ptr<const std::u16string>;
+using Binary = std::shared_ptr<const std::vector<std::byte>>;
+/// An address kept for a plug-in in the running session; never saved.
+struct Pointer {
+    ai::intptr value = 0;
+    bool operator==(const Pointer&) const = default;
+};
+
+/// What a dictionary or array holds under one key or index. Empty: of no known type.
+using Value = std::variant<std::monostate, ai::int32, Boolean, AIReal, SharedText, Ref<Dictionary>,
+                           Ref<Array>, Binary, AIRealPoint, AIRealMatrix, UnicodeText, Pointer>;
+
+[[nodiscard]] AIEntryType typeOf(const Value& value) noexcept;
+/// Equal in type and content; dictionaries and arrays all the way down.
+[[nodiscard]] bool equivalent(const Value& a, const Value& b);
+/// A copy that shares nothing that can change.
+[[nodiscard]] Value deepCopy(const Value& value);
+
+[[nodiscard]] Value textValue(std::string text);
+[[nodiscard]] Value unicodeValue(std::u16string text);
+
+} // namespace easel
