@@ -10,6 +10,9 @@ namespace {
 
 constexpr int kChannels = 4;
 
+/// Shorter runs of odd pixels along an axis are the tips of shapes that point along it.
+constexpr int kShortestSeam = 12;
+
 int channel(std::uint32_t pixel, int index) {
     return static_cast<int>(pixel >> (8 * index) & 0xFFU);
 }
@@ -51,7 +54,8 @@ std::vector<Image> imagesOf(const PictureAxes& axes) {
     for (int k = 0; k < axes.axisCount; ++k) {
         const double axis = axes.angle + k * std::numbers::pi / axes.axisCount;
         // Across the line at `axis`, with y counted downwards.
-        images.push_back({std::cos(2 * axis), -std::sin(2 * axis), -std::sin(2 * axis), -std::cos(2 * axis)});
+        images.push_back(
+            {std::cos(2 * axis), -std::sin(2 * axis), -std::sin(2 * axis), -std::cos(2 * axis)});
         const double turn = (k + 1) * 2 * std::numbers::pi / axes.axisCount;
         images.push_back({std::cos(turn), -std::sin(turn), std::sin(turn), std::cos(turn)});
     }
@@ -68,13 +72,12 @@ void note(Mismatch& mismatch, bool right, int x, int y) {
     ++mismatch.wrong;
 }
 
-int rounded(double value) {
-    return static_cast<int>(std::lround(value));
-}
+int rounded(double value) { return static_cast<int>(std::lround(value)); }
 
 double radiusInside(const Picture& picture, const PictureAxes& axes) {
     return std::min({axes.centreX, axes.centreY, picture.width - axes.centreX,
-                     picture.height - axes.centreY}) - 3.0;
+                     picture.height - axes.centreY}) -
+           3.0;
 }
 
 bool near(std::uint32_t a, std::uint32_t b, int tolerance) {
@@ -113,6 +116,7 @@ Mismatch findSeams(const Picture& picture, const PictureAxes& axes, int toleranc
         const double direction = axes.angle + k * std::numbers::pi / axes.axisCount;
         const double alongX = std::cos(direction);
         const double alongY = -std::sin(direction);
+        int run = 0;
         for (int distance = 6; distance < radius; ++distance) {
             std::array<std::uint32_t, 9> across{};
             int x = 0;
@@ -131,7 +135,8 @@ Mismatch findSeams(const Picture& picture, const PictureAxes& axes, int toleranc
             const bool clean = std::all_of(across.begin() + 3, across.begin() + 6, [&](auto pixel) {
                 return near(pixel, across[0], tolerance);
             });
-            note(mismatch, clean, x, y);
+            run = clean ? 0 : run + 1;
+            note(mismatch, run < kShortestSeam, x, y);
         }
     }
     return mismatch;

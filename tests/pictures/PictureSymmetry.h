@@ -4,7 +4,8 @@
 #include <string>
 #include <vector>
 
-/// Whether a picture shows the symmetry that it should: pixels alone, nothing of the geometry that made it.
+/// Whether a picture shows the symmetry that it should: pixels alone, nothing of the geometry that
+/// made it.
 
 namespace facetta::tests {
 
@@ -15,8 +16,8 @@ struct Picture {
     std::vector<std::uint32_t> pixels;
 };
 
-/// Axes as a viewer sees them: `centre` in pixels (y down), `angle` in radians counter-clockwise from
-/// the positive x axis.
+/// Axes as a viewer sees them: `centre` in pixels (y down), `angle` in radians counter-clockwise
+/// from the positive x axis.
 struct PictureAxes {
     int axisCount = 1;
     double angle = 0.0;
@@ -32,13 +33,15 @@ struct Mismatch {
     int y = -1;
 };
 
-/// Compares the picture, inside the largest circle about the centre, with itself mirrored across every axis
-/// and turned by every step. A pixel is right when each channel lies within the range of the 3 x 3
-/// neighbourhood of its image, widened by `tolerance`: what antialiasing may do to it.
-[[nodiscard]] Mismatch compareWithImages(const Picture& picture, const PictureAxes& axes, int tolerance);
+/// Compares the picture, inside the largest circle about the centre, with itself mirrored across
+/// every axis and turned by every step. A pixel is right when each channel lies within the range of
+/// the 3 x 3 neighbourhood of its image, widened by `tolerance`: what antialiasing may do to it.
+[[nodiscard]] Mismatch compareWithImages(const Picture& picture, const PictureAxes& axes,
+                                         int tolerance);
 
-/// Looks along every axis for lines that should not be there: where the pixels 3 and 4 to both sides of
-/// the axis have one colour, the pixels on it and beside it must have this colour too.
+/// Looks along every axis for lines that should not be there: where the pixels 3 and 4 to both
+/// sides of the axis have one colour, the pixels on it and beside it must have this colour too. A
+/// few odd pixels in a row are the tip of a shape; what is wrong counts from the twelfth on.
 [[nodiscard]] Mismatch findSeams(const Picture& picture, const PictureAxes& axes, int tolerance);
 
 } // namespace facetta::tests
