@@ -12,7 +12,7 @@
 #   facetta_plugin(facetta SOURCES PluginMain.cpp DEPENDS shell)
 #       the plug-in, exporting PluginMain alone: Facetta.aip for Windows, facetta.so for Linux
 #
-# Products land side by side in build/<preset>/products.
+# Products land side by side in build/<preset>/products; the target "products" builds them alone.
 #
 # DEPENDS takes names of rooms and whole target names (those with "::" and those of system
 # libraries written with a leading -l). A test may add TIMEOUT seconds and LABELS.
@@ -94,6 +94,8 @@ function(facetta_room name)
     target_link_libraries(facetta_${name} PUBLIC facetta_flags ${depends})
 endfunction()
 
+add_custom_target(products)
+
 # Products stand side by side, so that the host finds the plug-in; they carry no symbols when
 # optimised.
 function(facetta_product name)
@@ -101,6 +103,7 @@ function(facetta_product name)
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/products
         LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/products)
+    add_dependencies(products ${name})
 endfunction()
 
 function(facetta_program name)
