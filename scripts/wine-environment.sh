@@ -4,7 +4,8 @@
 export WINEPREFIX=$PWD/build/wine
 export WINEARCH=win64
 export WINEDEBUG=${WINEDEBUG:--all}
-export WINEDLLOVERRIDES="mscoree,mshtml=" # no .NET, no browser: their absence would ask for a person
+# No .NET and no browser, whose absence would ask for a person; no entries in the desktop's menus.
+export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe="
 
 # Starts this prefix's server unless it runs. It stays for ten minutes after its last program, which
 # makes the next start 0.03 s instead of 0.4 s. The services that come with the first program
