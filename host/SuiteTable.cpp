@@ -48,6 +48,7 @@
 namespace ai {
 
 Suites suites;
+const SPBasicSuite* basicSuite = nullptr;
 
 namespace {
 

@@ -43,6 +43,7 @@ struct AIUndoSuite;
 struct AIUnicodeStringSuite;
 struct AIUserSuite;
 struct SPAccessSuite;
+struct SPBasicSuite;
 struct SPBlocksSuite;
 struct SPPluginsSuite;
 
@@ -108,8 +109,12 @@ struct Suites {
     std::array<const void*, 87> text{};
 };
 
-/// Written by `SuiteHolder` only.
+/// Written by `SuiteHolder` and `BorrowedSuite` only.
 extern Suites suites;
+
+/// Through which every suite is acquired. The host passes it with each message; the entry stores it
+/// before it does anything else.
+extern const SPBasicSuite* basicSuite;
 
 } // namespace ai
 
