@@ -1,0 +1,24 @@
+#pragma once
+
+/// What stands in for keyboard, clock and desktop where there are none.
+
+#include "platform/Platform.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace facetta::platform::headless {
+
+/// No key is down, time is the machine's, until somebody says otherwise.
+struct Surroundings {
+    KeyState keys;
+    std::optional<ai::uint64> ticks; ///< A clock that stands still.
+    std::optional<std::u16string> moduleFileName;
+    std::vector<std::string> openedAddresses;
+    std::vector<std::u16string> shownMessages;
+};
+
+[[nodiscard]] Surroundings& surroundings() noexcept;
+
+} // namespace facetta::platform::headless

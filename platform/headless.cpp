@@ -1,0 +1,47 @@
+#include "platform/Headless.h"
+
+#include <dlfcn.h>
+
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+
+namespace facetta::platform {
+namespace headless {
+
+Surroundings& surroundings() noexcept {
+    static Surroundings instance; // the one keyboard, clock and desktop of this process
+    return instance;
+}
+
+} // namespace headless
+
+KeyState readKeys() { return headless::surroundings().keys; }
+
+ai::uint64 ticks() noexcept {
+    if (const auto still = headless::surroundings().ticks) return *still;
+    using namespace std::chrono;
+    const auto sinceStart = steady_clock::now().time_since_epoch();
+    return static_cast<ai::uint64>(duration_cast<milliseconds>(sinceStart).count());
+}
+
+std::u16string moduleFileName() {
+    if (const auto& name = headless::surroundings().moduleFileName)
+        return name->size() < kLongestModuleName ? *name : std::u16string{};
+    Dl_info info{};
+    if (dladdr(reinterpret_cast<const void*>(&moduleFileName), &info) == 0) return {};
+    std::u16string name = std::filesystem::absolute(info.dli_fname).u16string();
+    return name.size() < kLongestModuleName ? name : std::u16string{};
+}
+
+bool openAddress(const std::string& address) {
+    headless::surroundings().openedAddresses.push_back(address);
+    return true;
+}
+
+void showMessage(void*, const std::u16string& text) {
+    headless::surroundings().shownMessages.push_back(text);
+    std::fprintf(stderr, "%s\n", std::filesystem::path(text).string().c_str());
+}
+
+} // namespace facetta::platform
