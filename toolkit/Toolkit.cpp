@@ -1,0 +1,60 @@
+#include "toolkit/Toolkit.h"
+
+#include "host/Error.h"
+#include "host/MessageNames.h"
+
+#include <algorithm>
+
+namespace NRDM {
+namespace {
+
+/// In the order of `Toolkit::notifiers_`; `kShutdown` names a row.
+constexpr std::array kNotifierTypes = {
+    kUIBrightnessChangedNotifier,
+    kApplicationShutdownNotifier,
+    kAllPluginsStartedNotifier,
+};
+constexpr std::size_t kShutdown = 1;
+
+constexpr char kNotifierName[] = "NRDM Toolkit";
+
+/// The host's numbers for the colours of a dialog.
+constexpr ai::int32 kDialogTheme = 0;
+struct ColourRow {
+    ai::int32 component;
+    AIUIThemeColor Theme::*colour;
+};
+constexpr ColourRow kColours[] = {
+    {0, &Theme::background}, {1, &Theme::text},           {2, &Theme::focusRing},
+    {3, &Theme::editText},   {4, &Theme::editBackground},
+};
+
+} // namespace
+
+Toolkit::Toolkit(SPPluginRef self) {
+    ai::check(notifierSuite_.acquire());
+    if (themeSuite_.acquire() == kNoErr) readTheme();
+    for (std::size_t i = 0; i < kNotifierCount; ++i)
+        ai::check(
+            notifierSuite_->AddNotifier(self, kNotifierName, kNotifierTypes[i], &notifiers_[i]));
+}
+
+bool Toolkit::serve(AINotifierHandle notifier) {
+    const auto own = std::find(notifiers_.begin(), notifiers_.end(), notifier);
+    if (notifier == nullptr || own == notifiers_.end()) return false;
+    // When the host closes, windows go before the suites do: nothing is drawn from here on. At the
+    // other two the colours may be new ones: other plug-ins set them while they start.
+    if (own - notifiers_.begin() == kShutdown)
+        themeSuite_.release();
+    else if (themeSuite_)
+        readTheme();
+    return true;
+}
+
+void Toolkit::readTheme() noexcept {
+    theme_.dark = themeSuite_->IsUIThemeDark() != 0;
+    for (const auto& [component, colour] : kColours)
+        themeSuite_->GetUIThemeColor(kDialogTheme, component, theme_.*colour);
+}
+
+} // namespace NRDM
