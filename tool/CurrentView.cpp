@@ -1,0 +1,46 @@
+#include "tool/CurrentView.h"
+
+#include "host/Error.h"
+#include "host/Suites.h"
+#include "host/suites/AIAnnotatorSuite.h"
+#include "host/suites/AIDocumentViewSuite.h"
+
+namespace facetta {
+namespace {
+
+constexpr ai::int32 kCurrentViewNumber = 0;
+
+AIPoint toPixels(AIDocumentViewHandle view, AIReal h, AIReal v) {
+    const AIRealPoint point{h, v};
+    AIPoint pixel{};
+    ai::check(ai::suites.documentView->ArtworkPointToViewPoint(view, &point, &pixel));
+    return pixel;
+}
+
+} // namespace
+
+CurrentView fetchCurrentView() {
+    CurrentView view;
+    ai::check(ai::suites.documentView->GetNthDocumentView(kCurrentViewNumber, &view.handle));
+    AIRealRect page{};
+    ai::check(ai::suites.documentView->GetDocumentViewBounds(view.handle, &page));
+    const AIPoint topLeft = toPixels(view.handle, page.left, page.top);
+    const AIPoint bottomRight = toPixels(view.handle, page.right, page.bottom);
+    view.pixels = {topLeft.h, topLeft.v, bottomRight.h, bottomRight.v};
+    return view;
+}
+
+double currentZoom() {
+    constexpr double kZoomInPlaceOfNone = 0.01;
+    AIReal zoom = 0;
+    ai::check(ai::suites.documentView->GetDocumentViewZoom(nullptr, &zoom));
+    return zoom > 0 ? static_cast<double>(zoom) : kZoomInPlaceOfNone;
+}
+
+void redrawOverlay(const CurrentView& view) {
+    // Axes reach from edge to edge: what changes is the whole view.
+    if (view.handle != nullptr)
+        ai::check(ai::suites.annotator->InvalAnnotationRect(view.handle, &view.pixels));
+}
+
+} // namespace facetta

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "host/Handles.h"
+#include "host/Types.h"
+
+namespace facetta {
+
+/// The view of the document the user works in; no handle while no document is open.
+struct CurrentView {
+    AIDocumentViewHandle handle = nullptr;
+    AIRect pixels{}; ///< its visible part in view pixels, y down
+};
+
+/// The current view as the host has it now. Throws `ai::Error`, as without a document.
+[[nodiscard]] CurrentView fetchCurrentView();
+
+/// Pixels per point of the current view; 0 counts as 0.01, so that it can be divided by.
+[[nodiscard]] double currentZoom();
+
+/// Asks the host to draw the overlay of `view` anew.
+void redrawOverlay(const CurrentView& view);
+
+} // namespace facetta
