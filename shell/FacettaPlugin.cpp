@@ -1,0 +1,151 @@
+#include "shell/FacettaPlugin.h"
+
+#include "host/Error.h"
+#include "host/MessageNames.h"
+#include "host/UnicodeString.h"
+#include "host/suites/AIAnnotatorSuite.h"
+#include "host/suites/AIToolSuite.h"
+#include "host/suites/AIUserSuite.h"
+#include "shell/Help.h"
+#include "shell/PreferenceStore.h"
+
+#include <new>
+#include <string>
+
+namespace facetta {
+
+FacettaPlugin* thePlugin = nullptr;
+
+namespace {
+
+constexpr char kAnnotatorName[] = "Norvane FT Annotator";
+constexpr char kToolName[] = "Facetta Tool";
+constexpr ai::uint32 kToolIconLight = 2100;
+constexpr ai::uint32 kToolIconDark = 3100;
+
+/// What the host's info display shows while the tool runs: document X and Y, size X and Y,
+/// distance, angle.
+constexpr ai::int32 kToolInfoVariables[] = {15, 16, 2, 3, 4, 5, -1};
+
+/// What stands between whole and fraction in the user's locale: the host is asked to write a
+/// number that has one.
+char16_t findDecimalSeparator() {
+    ai::UnicodeString number;
+    ai::suites.user->IUAIRealToString(1.75F, 2, number);
+    const std::u16string text = number.utf16();
+    return text.size() > 1 ? text[1] : u'.';
+}
+
+} // namespace
+
+FacettaPlugin::~FacettaPlugin() {
+    // A start-up that fails half-way ends here as well.
+    if (thePlugin == this) thePlugin = nullptr;
+}
+
+void* FacettaPlugin::operator new(std::size_t size) {
+    void* block = nullptr;
+    if (ai::basicSuite->AllocateBlock(size, &block) != kNoErr || block == nullptr)
+        throw std::bad_alloc();
+    return block;
+}
+
+void FacettaPlugin::operator delete(void* object) noexcept { ai::basicSuite->FreeBlock(object); }
+
+AIErr FacettaPlugin::Startup(SPInterfaceMessage& message) {
+    ai::check(Plugin::Startup(message));
+    if (!licence.allows(GuardedAction::StartUp)) return kNoErr;
+    // Once the base has started the plug-in stays, with whatever could be registered; a failure
+    // here is told to the user and no more.
+    try {
+        startProduct();
+    } catch (...) {
+        ReportError(ai::currentErrorCode(), kCallerInterface, kSelectorStartup, &message);
+    }
+    return kNoErr;
+}
+
+void FacettaPlugin::startProduct() {
+    licenceChanged = false;
+    loadPreferences(hostPreferences, preferences);
+    tool.dialog = {preferences.dialogX, preferences.dialogY};
+
+    addAboutItem(self(), menuItems);
+    addHelpItems(self(), menuItems);
+    const bool canShowAllPanels = addShowAllPanelsItem(self(), menuItems);
+    decimalSeparator = findDecimalSeparator();
+    if (licence.state() == LicenceState::Expired) return;
+
+    if (canShowAllPanels) {
+        if (!addWindowGroup(self())) return;
+        if (addPanelItem(self(), menuItems)) registerNotifiers(self(), notifiers);
+    }
+    // The panel is made last, once there is a tool for it to hand to the host: that needs the
+    // toolkit's dialogs, which are not there yet.
+    if (addAnnotator()) addTool();
+}
+
+bool FacettaPlugin::addAnnotator() {
+    return ai::suites.annotator->AddAnnotator(self(), kAnnotatorName, &annotator) == kNoErr &&
+           ai::suites.annotator->SetAnnotatorOptions(annotator, kAnnotatorSuppressInactiveViews) ==
+               kNoErr;
+}
+
+bool FacettaPlugin::addTool() {
+    AIAddToolData data{};
+    data.title = kToolName;
+    data.tooltip = kToolName;
+    data.normalIconResID = kToolIconLight;
+    data.darkIconResID = kToolIconDark;
+    data.sameGroupAs = kNoTool;
+    data.sameToolsetAs = kNoTool;
+    constexpr ai::int32 kOptions = kToolWantsToTrackCursorOption | kToolWantsBrushControlOption;
+    return ai::suites.tool->AddTool(self(), kToolName, &data, kOptions, &toolHandle) == kNoErr &&
+           ai::suites.tool->SetToolInfoVars(toolHandle, kToolInfoVariables) == kNoErr;
+}
+
+AIErr FacettaPlugin::Shutdown(SPInterfaceMessage& message) {
+    AIErr saved = kNoErr;
+    if (hasSuites()) {
+        preferences.dialogX = tool.dialog.x;
+        preferences.dialogY = tool.dialog.y;
+        saved = savePreferences(preferences);
+    }
+    const AIErr err = Plugin::Shutdown(message);
+    return err != kNoErr ? err : saved;
+}
+
+AIErr FacettaPlugin::Message(std::string_view caller, std::string_view selector, void* message) {
+    const AIErr err = Plugin::Message(caller, selector, message);
+    if (err != kNoErr && err != kUnhandledMsgErr) ReportError(err, caller, selector, message);
+    return err;
+}
+
+AIErr FacettaPlugin::SetGlobal(Plugin* plugin) {
+    thePlugin = static_cast<FacettaPlugin*>(plugin);
+    return kNoErr;
+}
+
+AIErr FacettaPlugin::Notify(AINotifierMessage& message) {
+    if (message.type != nullptr && message.type == std::string_view(kApplicationStartedNotifier))
+        welcomeOnFirstStart();
+    handleNotification(*this, message.notifier);
+    return kNoErr;
+}
+
+AIErr FacettaPlugin::GoMenuItem(AIMenuMessage& message) {
+    chooseMenuItem(menuItems, message.menuItem);
+    return kNoErr;
+}
+
+AIErr FacettaPlugin::UpdateMenuItem(AIMenuMessage&) {
+    // The check mark of "Facetta Panel" follows the panel; without one it stays as it is.
+    return kNoErr;
+}
+
+AIErr FacettaPlugin::GoTimer(AITimerMessage&) {
+    // Timers are the licensing module's, and it has none running.
+    return kNoErr;
+}
+
+} // namespace facetta

@@ -1,0 +1,135 @@
+#include "shell/Menus.h"
+
+#include "host/Codes.h"
+#include "host/Error.h"
+#include "host/Messages.h"
+#include "host/Suites.h"
+#include "host/UnicodeString.h"
+#include "host/suites/AIMenuSuite.h"
+#include "host/suites/AINotifierSuite.h"
+#include "shell/Help.h"
+#include "shell/Notifications.h"
+
+#include <string_view>
+
+namespace facetta {
+namespace {
+
+/// Shared by all of the vendor's plug-ins: the first to start makes the group.
+constexpr char kVendorGroup[] = "com.norvane.graphics";
+constexpr char kHelpGroup[] = "FacettaHelpGroup";
+constexpr char kWindowGroup[] = "FacettaWindowGroup";
+constexpr char kShowAllPanelsItem[] = "NorvaneShowAllPanels";
+
+// Groups of the host.
+constexpr char kAboutMenu[] = "About";
+constexpr char kHelpMenu[] = "Help Menu";
+constexpr char kPanelList[] = "Tool Palettes";
+
+struct HelpItem {
+    const char* key;
+    const char* label;
+    void (*chosen)();
+};
+
+/// The licensing dialog belongs to the licensing module; without one there is nothing to show.
+void openLicensingDialog() {}
+
+constexpr HelpItem kHelpItems[kHelpItemCount] = {
+    {"Facetta Help", "Help...", openManual},
+    {"Facetta Tutorial Movies", "Tutorial Movies...", [] { openWebPage("tutorialmovies"); }},
+    {"Facetta Check for Updates", "Check for Updates...", [] { openWebPage("checkforupdates"); }},
+    {"Facetta Licensing", "Licensing...", openLicensingDialog},
+    {"Facetta Buy License", "Buy/Upgrade License...", [] { openWebPage("buyupgrade"); }},
+    {"Facetta Licensing Help", "Licensing Help...", [] { openWebPage("licensinghelp"); }},
+};
+
+bool addItem(SPPluginRef self, const char* key, const char* label, const char* group,
+             AIMenuItemHandle& item, AIMenuItemOption options = kMenuItemNoOptions) {
+    AIPlatformAddMenuItemDataUS data{group, ai::UnicodeString(std::string_view(label))};
+    return ai::suites.menu->AddMenuItem(self, key, &data, options, &item) == kNoErr;
+}
+
+/// The host does not tolerate a group made twice, so it is looked for first.
+bool groupExists(std::string_view name) {
+    ai::int32 count = 0;
+    ai::suites.menu->CountMenuGroups(&count);
+    for (ai::int32 i = 0; i < count; ++i) {
+        AIMenuGroup group = nullptr;
+        const char* groupName = nullptr;
+        if (ai::suites.menu->GetNthMenuGroup(i, &group) == kNoErr &&
+            ai::suites.menu->GetMenuGroupName(group, &groupName) == kNoErr &&
+            groupName != nullptr && name == groupName)
+            return true;
+    }
+    return false;
+}
+
+/// The group `name`, made if need be as the submenu of an item `key` in the group `parent`.
+bool ensureSubmenu(SPPluginRef self, const char* name, const char* key, const char* label,
+                   const char* parent) {
+    if (groupExists(name)) return true;
+    AIMenuItemHandle opener = nullptr;
+    AIMenuGroup group = nullptr;
+    return addItem(self, key, label, parent, opener) &&
+           ai::suites.menu->AddMenuGroupAsSubMenu(name, 0, opener, &group) == kNoErr;
+}
+
+AIMenuItemHandle findItem(std::string_view name) {
+    ai::int32 count = 0;
+    ai::suites.menu->CountMenuItems(&count);
+    for (ai::int32 i = 0; i < count; ++i) {
+        AIMenuItemHandle item = nullptr;
+        const char* key = nullptr;
+        if (ai::suites.menu->GetNthMenuItem(i, &item) == kNoErr &&
+            ai::suites.menu->GetMenuItemKeyboardShortcutDictionaryKey(item, &key) == kNoErr &&
+            key != nullptr && name == key)
+            return item;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+bool addAboutItem(SPPluginRef self, MenuItems& items) {
+    return addItem(self, "Facetta About", "About Facetta...", kAboutMenu, items.about);
+}
+
+bool addHelpItems(SPPluginRef self, MenuItems& items) {
+    if (!ensureSubmenu(self, kVendorGroup, kVendorGroup, "Norvane Graphics", kHelpMenu) ||
+        !ensureSubmenu(self, kHelpGroup, kHelpGroup, "Facetta", kVendorGroup))
+        return false;
+    bool added = true;
+    for (std::size_t i = 0; i < kHelpItemCount; ++i) {
+        const auto& [key, label, chosen] = kHelpItems[i];
+        added = addItem(self, key, label, kHelpGroup, items.help[i]) && added;
+    }
+    return added;
+}
+
+bool addShowAllPanelsItem(SPPluginRef self, MenuItems& items) {
+    items.showAllPanels = findItem(kShowAllPanelsItem);
+    return items.showAllPanels != nullptr ||
+           addItem(self, kShowAllPanelsItem, "Show All Norvane Graphics Panels", kPanelList,
+                   items.showAllPanels);
+}
+
+bool addWindowGroup(SPPluginRef self) {
+    return ensureSubmenu(self, kWindowGroup, kWindowGroup, "Facetta", kPanelList);
+}
+
+bool addPanelItem(SPPluginRef self, MenuItems& items) {
+    // Its check mark follows the panel, so it asks to be told before the menu opens.
+    return addItem(self, "Facetta Panel Menu Item", "Facetta Panel", kWindowGroup, items.panel,
+                   kMenuItemWantsUpdateOption);
+}
+
+void chooseMenuItem(const MenuItems& items, AIMenuItemHandle item) {
+    if (item == nullptr) return;
+    if (item == items.showAllPanels)
+        ai::check(ai::suites.notifier->Notify(kShowAllPanelsNotifier, nullptr));
+    for (std::size_t i = 0; i < kHelpItemCount; ++i)
+        if (item == items.help[i]) kHelpItems[i].chosen();
+}
+
+} // namespace facetta
