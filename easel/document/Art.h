@@ -64,10 +64,11 @@ struct ArtContent {
     Cow<ArtDetails> details;
 };
 
-/// Does writing count as an edit of the art, which gives it a new time stamp?
+/// What writing to an object counts as.
 enum class Edit : std::uint8_t {
-    Art,
-    Selection,
+    Art,       ///< An edit of the art: it gets a new time stamp.
+    Selection, ///< A change of the selection only.
+    Quiet,     ///< Neither; still a change that is undone.
 };
 
 /// One object of the art tree.

@@ -30,6 +30,10 @@ void moveArt(Art& art, Position position);
 /// A deep copy with the dictionaries, flags, names and notes of the original.
 Art& duplicateArt(const Art& art, Position position);
 
+// For the document only: the object that everything hangs on, and the end of it all.
+[[nodiscard]] Art& makeRoot(Document& document);
+void freeTree(Art& root);
+
 // Walks; `next...` never leaves the subtree of `root`.
 
 /// The object after `art` in pre-order: parents before children, front before back. Null at the

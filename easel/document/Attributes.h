@@ -33,5 +33,7 @@ void selectAll(Document& document);
 /// `AISegmentSelection` of one anchor.
 [[nodiscard]] ai::int16 segmentSelection(const Art& path, std::size_t index) noexcept;
 void setSegmentSelection(Art& path, std::size_t index, ai::int16 selection);
+/// Brings the attributes of a path in line with the selection and the number of its anchors.
+void settleSelection(ArtContent& content);
 
 } // namespace easel

@@ -23,6 +23,7 @@ Art& createLayer(Document& document, std::string title, Position position);
 [[nodiscard]] Art* parentLayer(const Art& layer) noexcept;
 /// Layers in pre-order over the whole document; null at the end.
 [[nodiscard]] Art* nextLayerInPreorder(const Art& layer) noexcept;
+[[nodiscard]] Art* nextLayerSkippingSublayers(const Art& layer) noexcept;
 /// Null when there is none of that title.
 [[nodiscard]] Art* findLayer(const Document& document, std::string_view title);
 
@@ -40,7 +41,7 @@ template <typename Change> void changeLayer(Art& layer, Change change);
 namespace easel {
 
 template <typename Change> void changeLayer(Art& layer, Change change) {
-    change(layer.write(Edit::Selection).details.write().layer);
+    change(layer.write(Edit::Quiet).details.write().layer);
     layer.document().note(&DocumentChanges::layerOptions);
 }
 

@@ -2,6 +2,7 @@
 
 #include "easel/document/Document.h"
 #include "easel/document/HandleTable.h"
+#include "easel/document/MessageLoans.h"
 #include "easel/document/Switches.h"
 
 #include <string>
@@ -17,8 +18,11 @@ struct Session {
     Document* current = nullptr;
     /// The last time stamp given. It starts at 0 in every session.
     std::uint64_t lastStamp = 0;
+    /// The last epoch of any undo log.
+    std::uint64_t lastEpoch = 0;
     /// Set by the current context: changes under locked or hidden parents are allowed.
     bool allowAllChanges = false;
+    MessageLoans messageLoans;
 };
 
 [[nodiscard]] Session& session() noexcept;

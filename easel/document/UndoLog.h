@@ -97,13 +97,21 @@ private:
     struct ContentState;
     struct LinksState;
 
+    [[nodiscard]] static bool isOwnStep(const Record& record) noexcept;
+    /// The standard record that lies `back` standard records before the end; null when none does.
+    [[nodiscard]] static const Record* step(const std::deque<Record>& records,
+                                            ai::int32 back) noexcept;
     [[nodiscard]] bool recording();
-    void flipLife(Art& art);
-    void takeBack(Record& record);
-    void bringBack(Record& record);
-    void forget(Record& record);
+    void keepLife(Art& art);
+    static void releaseLife(Art& art);
+    static void exchange(Step& step);
+    static void takeBack(Record& record);
+    static void bringBack(Record& record);
+    static void forget(Record& record);
+    void dropBriefLives();
     void discardFuture();
     void limitHistory();
+    void noteEverything();
 
     Document* document_;
     std::deque<Record> past_;

@@ -1,0 +1,39 @@
+#include "easel/document/Art.h"
+
+#include "easel/document/Session.h"
+
+namespace easel {
+
+Art::Art(Document& document, ai::int16 type)
+    : document_(&document),
+      handle_(static_cast<AIArtHandle>(session().handles.add(HandleKind::Art, this))),
+      stamp_(++session().lastStamp), type_(type) {}
+
+Art::~Art() {
+    session().handles.remove(handle_);
+    if (dictionary_) dictionary_->setOwner(nullptr);
+}
+
+ArtContent& Art::write(Edit edit) {
+    document_->undo().keepContent(*this);
+    if (edit == Edit::Art) stamp_ = ++session().lastStamp;
+    document_->note(edit == Edit::Selection ? &DocumentChanges::selection : &DocumentChanges::art);
+    return content_;
+}
+
+void Art::touch() {
+    document_->undo().keepLinks(*this);
+    stamp_ = ++session().lastStamp;
+    document_->note(&DocumentChanges::art);
+}
+
+Dictionary& Art::dictionary() {
+    if (!dictionary_) {
+        dictionary_ = Ref<Dictionary>(new Dictionary);
+        dictionary_->setOwner(this);
+        dictionary_->attach(document_->sharedUndo());
+    }
+    return *dictionary_;
+}
+
+} // namespace easel

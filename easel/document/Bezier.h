@@ -1,0 +1,53 @@
+#pragma once
+
+#include "host/Types.h"
+
+#include <array>
+
+/// Cubic curves in double precision, for what the host itself computes.
+
+namespace easel {
+
+struct CurvePoint {
+    double x = 0;
+    double y = 0;
+};
+
+[[nodiscard]] constexpr CurvePoint curvePoint(AIRealPoint point) noexcept {
+    return {point.h, point.v};
+}
+/// Rounded once to the host's precision.
+[[nodiscard]] constexpr AIRealPoint realPoint(CurvePoint point) noexcept {
+    return {static_cast<AIReal>(point.x), static_cast<AIReal>(point.y)};
+}
+
+/// Four control points; the curve runs from the first to the last as t goes from 0 to 1.
+using Curve = std::array<CurvePoint, 4>;
+
+[[nodiscard]] Curve curveOf(const AIRealBezier& bezier) noexcept;
+[[nodiscard]] AIRealBezier bezierOf(const Curve& curve) noexcept;
+
+[[nodiscard]] CurvePoint pointAt(const Curve& curve, double t) noexcept;
+/// The derivative B'(t), not normalised.
+[[nodiscard]] CurvePoint tangentAt(const Curve& curve, double t) noexcept;
+/// The parts before and after t.
+[[nodiscard]] std::array<Curve, 2> splitAt(const Curve& curve, double t) noexcept;
+/// Within about a ten-thousandth of a point for curves of ordinary size.
+[[nodiscard]] double lengthOf(const Curve& curve) noexcept;
+/// The t at which the part from 0 to t has that length; 0 and 1 beyond the ends.
+[[nodiscard]] double parameterAtLength(const Curve& curve, double length) noexcept;
+
+struct NearestPoint {
+    double t;
+    double distance;
+};
+[[nodiscard]] NearestPoint nearestPoint(const Curve& curve, CurvePoint point) noexcept;
+
+/// Smallest and largest value of one coordinate over the whole curve.
+struct Extent {
+    double low;
+    double high;
+};
+[[nodiscard]] Extent extentOf(double p0, double p1, double p2, double p3) noexcept;
+
+} // namespace easel

@@ -1,0 +1,191 @@
+#include "easel/document/Dictionary.h"
+
+#include "easel/document/UndoLog.h"
+#include "host/Error.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace easel {
+namespace {
+
+/// Dictionaries and arrays within each other, counted along the deepest chain. Copies and
+/// comparisons recurse, so the depth is bounded.
+constexpr int kDeepestNesting = 100;
+/// Those met on the way down. Sharing children could make their number double with each level.
+constexpr int kMostNested = 10'000;
+
+/// Walks down what is to be put into `holder`: throws 'PARM' on meeting it, 'NEST' when there is
+/// too much or it lies too deep.
+class NestingCheck {
+public:
+    explicit NestingCheck(const Counted& holder) : holder_(&holder) {}
+
+    void descend(const Value& value, int depth = 1) {
+        if (const auto* dictionary = std::get_if<Ref<Dictionary>>(&value)) {
+            enter(dictionary->get(), depth);
+            for (const DictionaryItem& item : (*dictionary)->items())
+                descend(item.value, depth + 1);
+        } else if (const auto* array = std::get_if<Ref<Array>>(&value)) {
+            enter(array->get(), depth);
+            for (const Value& item : (*array)->values())
+                descend(item, depth + 1);
+        }
+    }
+
+private:
+    void enter(const Counted* container, int depth) {
+        if (container == holder_) throw ai::Error{kBadParameterErr};
+        if (depth > kDeepestNesting || ++met_ > kMostNested) throw ai::Error{kTooDeepNestingErr};
+    }
+
+    const Counted* holder_;
+    int met_ = 0;
+};
+
+void attachValue(const Value& value, const std::shared_ptr<UndoLog>& log) {
+    if (log == nullptr) return;
+    if (const auto* dictionary = std::get_if<Ref<Dictionary>>(&value)) (*dictionary)->attach(log);
+    if (const auto* array = std::get_if<Ref<Array>>(&value)) (*array)->attach(log);
+}
+
+/// Exchanges what a dictionary or an array holds.
+template <typename Container, typename Item, void (Container::*Swap)(std::vector<Item>&) noexcept>
+class ContainerState final : public KeptState {
+public:
+    ContainerState(Container& container, std::vector<Item> items)
+        : container_(&container), items_(std::move(items)) {}
+    void exchange() override { ((*container_).*Swap)(items_); }
+
+private:
+    Ref<Container> container_;
+    std::vector<Item> items_;
+};
+
+} // namespace
+
+Key internKey(std::string_view text) {
+    struct Hash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view key) const noexcept {
+            return std::hash<std::string_view>{}(key);
+        }
+    };
+    static std::unordered_set<std::string, Hash, std::equal_to<>> keys;
+    const auto known = keys.find(text);
+    return known != keys.end() ? &*known : &*keys.emplace(text).first;
+}
+
+bool isTemporary(Key key) noexcept { return !key->empty() && key->front() == '-'; }
+
+std::vector<DictionaryItem> Dictionary::sortedItems() const {
+    std::vector<DictionaryItem> sorted = items_;
+    std::ranges::sort(sorted, {}, [](const DictionaryItem& item) { return *item.key; });
+    return sorted;
+}
+
+const Value* Dictionary::find(Key key) const noexcept {
+    const auto found = std::ranges::find(items_, key, &DictionaryItem::key);
+    return found != items_.end() ? &found->value : nullptr;
+}
+
+void Dictionary::set(Key key, Value value) {
+    if (std::holds_alternative<Pointer>(value) && !isTemporary(key))
+        throw ai::Error{kBadParameterErr};
+    NestingCheck(*this).descend(value);
+    keepFormerState();
+    attachValue(value, log_);
+    const auto found = std::ranges::find(items_, key, &DictionaryItem::key);
+    if (found != items_.end())
+        found->value = std::move(value);
+    else
+        items_.push_back({key, std::move(value)});
+}
+
+bool Dictionary::erase(Key key) {
+    const auto found = std::ranges::find(items_, key, &DictionaryItem::key);
+    if (found == items_.end()) return false;
+    keepFormerState();
+    items_.erase(items_.begin() + (found - items_.begin()));
+    return true;
+}
+
+void Dictionary::copyFrom(const Dictionary& other) {
+    if (&other == this) return;
+    std::vector<DictionaryItem> copies;
+    copies.reserve(other.items_.size());
+    for (const auto& [key, value] : other.items_)
+        copies.push_back({key, deepCopy(value)});
+    keepFormerState();
+    items_ = std::move(copies);
+    for (const DictionaryItem& item : items_)
+        attachValue(item.value, log_);
+}
+
+void Dictionary::attach(const std::shared_ptr<UndoLog>& log) {
+    if (log_ == log) return;
+    log_ = log;
+    for (const DictionaryItem& item : items_)
+        attachValue(item.value, log);
+}
+
+void Dictionary::keepFormerState() {
+    using State = ContainerState<Dictionary, DictionaryItem, &Dictionary::swapItems>;
+    if (log_ != nullptr && log_->mustKeep(keptIn_))
+        log_->keep(std::make_unique<State>(*this, items_));
+}
+
+const Value& Array::at(ai::int32 index) const {
+    if (index < 0 || index >= std::ssize(values_)) throw ai::Error{kNoSuchEntry};
+    return values_[static_cast<std::size_t>(index)];
+}
+
+void Array::set(ai::int32 index, Value value) {
+    static_cast<void>(at(index));
+    if (std::holds_alternative<Pointer>(value)) throw ai::Error{kBadParameterErr};
+    NestingCheck(*this).descend(value);
+    keepFormerState();
+    attachValue(value, log_);
+    values_[static_cast<std::size_t>(index)] = std::move(value);
+}
+
+void Array::insert(ai::int32 index, Value value) {
+    if (index < 0 || index > std::ssize(values_)) throw ai::Error{kNoSuchEntry};
+    NestingCheck(*this).descend(value);
+    keepFormerState();
+    attachValue(value, log_);
+    values_.insert(values_.begin() + index, std::move(value));
+}
+
+void Array::erase(ai::int32 index) {
+    static_cast<void>(at(index));
+    keepFormerState();
+    values_.erase(values_.begin() + index);
+}
+
+void Array::copyFrom(const Array& other) {
+    if (&other == this) return;
+    std::vector<Value> copies;
+    copies.reserve(other.values_.size());
+    for (const Value& value : other.values_)
+        copies.push_back(deepCopy(value));
+    keepFormerState();
+    values_ = std::move(copies);
+    for (const Value& value : values_)
+        attachValue(value, log_);
+}
+
+void Array::attach(const std::shared_ptr<UndoLog>& log) {
+    if (log_ == log) return;
+    log_ = log;
+    for (const Value& value : values_)
+        attachValue(value, log);
+}
+
+void Array::keepFormerState() {
+    using State = ContainerState<Array, Value, &Array::swapValues>;
+    if (log_ != nullptr && log_->mustKeep(keptIn_))
+        log_->keep(std::make_unique<State>(*this, values_));
+}
+
+} // namespace easel

@@ -1,0 +1,29 @@
+#include "easel/document/MessageLoans.h"
+
+#include "easel/document/Session.h"
+
+#include <algorithm>
+
+namespace easel {
+
+const char* MessageLoans::characters(SharedText text) {
+    if (!switches().entryStringsLast) {
+        fleeting_.assign(text->c_str(), text->c_str() + text->size() + 1);
+        return fleeting_.data();
+    }
+    // Read again and again, one text is kept once.
+    if (texts_.empty() || texts_.back() != text) texts_.push_back(std::move(text));
+    return texts_.back()->c_str();
+}
+
+void MessageLoans::dictionaryCalled() noexcept {
+    if (!fleeting_.empty()) std::fill(fleeting_.begin(), fleeting_.end() - 1, '?');
+}
+
+void MessageLoans::clear() {
+    texts_.clear();
+    fleeting_.clear();
+    objects_.clear();
+}
+
+} // namespace easel

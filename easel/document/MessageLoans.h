@@ -1,0 +1,27 @@
+#pragma once
+
+#include "easel/document/Value.h"
+
+#include <vector>
+
+namespace easel {
+
+/// What the plug-in was given for the running message only: characters of strings, and hits that
+/// it need not release.
+class MessageLoans {
+public:
+    /// The characters of `text`, kept until the message ends. With the switch `entryStringsLast`
+    /// off they stay until `dictionaryCalled`.
+    [[nodiscard]] const char* characters(SharedText text);
+    /// A dictionary function is running: overwrites the last characters when they are not to last.
+    void dictionaryCalled() noexcept;
+    void keep(Ref<Counted> object) { objects_.push_back(std::move(object)); }
+    void clear();
+
+private:
+    std::vector<SharedText> texts_;
+    std::vector<char> fleeting_;
+    std::vector<Ref<Counted>> objects_;
+};
+
+} // namespace easel
