@@ -11,20 +11,17 @@
 /// What comes out replaces the source; `Images` says which copies complete it. Mirroring a result
 /// again changes nothing, which is what keeps a live layer calm.
 
+#include "symmetry/CutPath.h"
+#include "symmetry/JoinPieces.h"
 #include "symmetry/PathShape.h"
 #include "symmetry/SymmetryAxes.h"
 
-#include <memory>
+#include <array>
+#include <cstddef>
 #include <span>
 #include <vector>
 
 namespace facetta {
-
-/// One path of the result and the copies it still needs.
-struct Contour {
-    PathShape shape;
-    Images images = Images::All;
-};
 
 /// What replaces a mirrored path.
 struct MirroredPath {
@@ -41,9 +38,6 @@ public:
     /// `axes` has its origin in the space of the paths and at least one axis. Open ends closer to a
     /// bounding ray than `snapDistance` (points, not negative) are moved onto it.
     PathMirror(const SymmetryAxes& axes, double snapDistance);
-    ~PathMirror();
-    PathMirror(const PathMirror&) = delete;
-    PathMirror& operator=(const PathMirror&) = delete;
 
     /// The mirrored form of one path. The contours of an open source are separate paths, those of a
     /// closed one are painted together. Coordinates of the result are storable as 32-bit reals. An
@@ -57,8 +51,35 @@ public:
     [[nodiscard]] const MirroredPath& mirrorCompound(std::span<const PathShape> members);
 
 private:
-    class Work;
-    std::unique_ptr<Work> work_;
+    /// The sector in which a path starts and the place that tells it.
+    struct Start {
+        int sector = 0;
+        double position = 0.0; ///< segment index plus parameter
+    };
+
+    [[nodiscard]] Start findStart(const PathShape& path, double clear) const;
+    void fold(const PathShape& source, int sector);
+    void snapEnds();
+    void snapEnd(PathSegment& end) const;
+    void moveOnto(Ray ray, PathSegment& segment) const;
+
+    void begin();
+    Contour& nextContour();
+    void addMirrored(const PathShape& shape, double clear);
+    void addContours(double start);
+    void addAlongRay(const Stretch& stretch);
+    void agreeInImages();
+
+    SymmetryAxes axes_;
+    Wedge wedge_;
+    std::array<LineSegment, 2> rays_;
+    double snapDistance_;
+    PathCutter cutter_;
+    PieceJoiner joiner_;
+    PathShape folded_;
+    Piece piece_;
+    MirroredPath result_;
+    std::size_t contourCount_ = 0; // of the contours in result_, which keep their storage
 };
 
 } // namespace facetta

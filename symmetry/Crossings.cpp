@@ -1,0 +1,280 @@
+#include "symmetry/Crossings.h"
+
+#include "symmetry/Tolerances.h"
+
+#include <cmath>
+
+namespace facetta {
+
+namespace {
+
+/// Signed distances of the four control points of a curve from the line of a ray.
+BernsteinCubic distancesFrom(const Wedge& wedge, Ray ray, const Cubic& curve) {
+    const auto distance = [&](Point point) {
+        const Wedge::Distances both = wedge.distances(point);
+        return ray == Ray::First ? both.fromFirst : both.fromLast;
+    };
+    return {distance(curve.p0), distance(curve.p1), distance(curve.p2), distance(curve.p3)};
+}
+
+/// Whether a curve runs along the line of a ray: its control points do.
+bool liesOnLine(const Wedge& wedge, Ray ray, const Cubic& curve) {
+    return std::ranges::all_of(distancesFrom(wedge, ray, curve), [](double distance) {
+        return std::abs(distance) <= kOnAxisDistance;
+    });
+}
+
+/// Whether four points are clear of both bounding rays on the same side, so that their curve has
+/// nothing to do with them. This is all that is asked about most curves.
+bool staysClear(const Wedge::Distances& a, const Wedge::Distances& b, const Wedge::Distances& c,
+                const Wedge::Distances& d) {
+    const double lowestFirst =
+        std::min(std::min(a.fromFirst, b.fromFirst), std::min(c.fromFirst, d.fromFirst));
+    const double lowestLast =
+        std::min(std::min(a.fromLast, b.fromLast), std::min(c.fromLast, d.fromLast));
+    if (std::min(lowestFirst, lowestLast) > kOnAxisDistance) return true;
+    const double highestFirst =
+        std::max(std::max(a.fromFirst, b.fromFirst), std::max(c.fromFirst, d.fromFirst));
+    const double highestLast =
+        std::max(std::max(a.fromLast, b.fromLast), std::max(c.fromLast, d.fromLast));
+    return std::min(highestFirst, highestLast) < -kOnAxisDistance;
+}
+
+Side sideOf(double margin) { return margin > 0.0 ? Side::Inside : Side::Outside; }
+
+bool leavesEdge(Side side) { return side == Side::Inside || side == Side::Outside; }
+
+} // namespace
+
+Wedge::Wedge(const SymmetryAxes& axes)
+    : origin_(originOf(axes)), first_(direction(rayAngle(axes, 0))),
+      last_(direction(rayAngle(axes, sectorCount(axes) - 1))) {}
+
+bool Wedge::atOrigin(Point point) const { return distance(point, origin_) <= kOnAxisDistance; }
+
+Ray Wedge::rayAt(Point point) const {
+    const Distances both = distances(point);
+    const bool onFirst =
+        std::abs(both.fromFirst) <= kOnAxisDistance && along(Ray::First, point) >= -kOnAxisDistance;
+    const bool onLast =
+        std::abs(both.fromLast) <= kOnAxisDistance && along(Ray::Last, point) >= -kOnAxisDistance;
+    if (onFirst && onLast && atOrigin(point)) return Ray::Origin;
+    if (onFirst && (!onLast || std::abs(both.fromFirst) <= std::abs(both.fromLast)))
+        return Ray::First;
+    return onLast ? Ray::Last : Ray::None;
+}
+
+void ContactFinder::examine(const PathShape& path) {
+    crossings_.clear();
+    sides_.clear();
+    contacts_.clear();
+    whole_ = Side::Nowhere;
+    collectCrossings(path);
+
+    const std::size_t anchors = path.segments.size();
+    if (crossings_.empty()) {
+        whole_ = sideOf(farthestMargin(0, anchors));
+        return;
+    }
+    for (std::size_t i = 0; i + 1 < crossings_.size(); ++i)
+        sides_.push_back(sideBetween(path, crossings_[i], crossings_[i + 1]));
+    if (path.closed)
+        groupClosed(path);
+    else
+        groupOpen(path);
+}
+
+void ContactFinder::collectCrossings(const PathShape& path) {
+    const std::vector<PathSegment>& segments = path.segments;
+    margins_.resize(segments.size());
+    if (segments.empty()) return;
+    const std::size_t curves = curveCount(path);
+    Wedge::Distances here = wedge_.distances(segments.front().anchor);
+    for (std::size_t i = 0; i < curves; ++i) {
+        const PathSegment& next = segments[i + 1 == segments.size() ? 0 : i + 1];
+        const Wedge::Distances there = wedge_.distances(next.anchor);
+        margins_[i] = here.margin();
+        if (!staysClear(here, wedge_.distances(segments[i].out), wedge_.distances(next.in), there))
+            addCurveCrossings(i, curveAt(path, i));
+        here = there;
+    }
+    if (!path.closed) {
+        margins_.back() = here.margin();
+        const Crossing end = anchorCrossing(segments.size() - 1, segments.back().anchor);
+        if (end.ray != Ray::None) crossings_.push_back(end);
+    }
+}
+
+Crossing ContactFinder::anchorCrossing(std::size_t index, Point anchor) const {
+    return {static_cast<std::int32_t>(index), 0.0, anchor, wedge_.rayAt(anchor), true};
+}
+
+/// Adds the crossings of one curve: its first anchor and the places up to the second one.
+void ContactFinder::addCurveCrossings(std::size_t index, const Cubic& curve) {
+    const Crossing start = anchorCrossing(index, curve.p0);
+    const Crossing end = anchorCrossing(index + 1, curve.p3);
+    if (start.ray != Ray::None) crossings_.push_back(start);
+    const auto first = std::ssize(crossings_);
+    addRayCrossings(index, curve, Ray::First);
+    addRayCrossings(index, curve, Ray::Last);
+    const auto found = std::ranges::subrange(crossings_.begin() + first, crossings_.end());
+    std::ranges::sort(found, {}, &Crossing::parameter);
+
+    // Places at which the curve has hardly left an anchor on the axis are that anchor's own.
+    const auto isStart = [&](const Crossing& crossing) {
+        const double limit = crossing.parameter < kAnchorParameter ? kTouchDepth : kOnAxisDistance;
+        return start.ray != Ray::None && !runsAlong(curve, start, crossing) &&
+               std::abs(farthestMargin(curve, start, crossing)) <= limit;
+    };
+    const auto isEnd = [&](const Crossing& crossing) {
+        const double limit =
+            crossing.parameter > 1.0 - kAnchorParameter ? kTouchDepth : kOnAxisDistance;
+        return end.ray != Ray::None && !runsAlong(curve, crossing, end) &&
+               std::abs(farthestMargin(curve, crossing, end)) <= limit;
+    };
+    while (std::ssize(crossings_) > first && isEnd(crossings_.back()))
+        crossings_.pop_back();
+    const auto begin = crossings_.begin() + first;
+    crossings_.erase(begin, std::find_if_not(begin, crossings_.end(), isStart));
+}
+
+void ContactFinder::addRayCrossings(std::size_t index, const Cubic& curve, Ray ray) {
+    const Roots roots = signChanges(distancesFrom(wedge_, ray, curve));
+    for (const double t : roots.all()) {
+        const Point found = evaluate(curve, t);
+        if (wedge_.along(ray, found) < -kOnAxisDistance) continue; // behind the origin
+        const Point point = rounded(wedge_.onto(ray, found));
+        const Ray place = wedge_.atOrigin(point) ? Ray::Origin : ray;
+        crossings_.push_back({static_cast<std::int32_t>(index), t, point, place, false});
+    }
+}
+
+double ContactFinder::farthestMargin(std::size_t firstAnchor, std::size_t endAnchor) const {
+    double farthest = 0.0;
+    for (std::size_t i = firstAnchor; i < endAnchor; ++i) {
+        const double margin = margins_[i < margins_.size() ? i : i - margins_.size()];
+        if (std::abs(margin) > std::abs(farthest)) farthest = margin;
+    }
+    return farthest;
+}
+
+Side ContactFinder::sideBetween(const PathShape& path, const Crossing& from,
+                                const Crossing& to) const {
+    const auto firstAnchor = static_cast<std::size_t>(from.segment) + 1;
+    const auto endAnchor = static_cast<std::size_t>(to.segment) + (to.onAnchor ? 0 : 1);
+    if (firstAnchor == endAnchor)
+        return sideOnCurve(curveAt(path, static_cast<std::size_t>(from.segment)), from, to);
+    if (endAnchor == firstAnchor + 1 && isTipThroughEdge(path, from, to)) return Side::Touching;
+    return sideOf(farthestMargin(firstAnchor, endAnchor));
+}
+
+/// Whether the path only touches the edge with the one anchor between two crossings: they all but
+/// coincide, and it does not reach far beyond them.
+bool ContactFinder::isTipThroughEdge(const PathShape& path, const Crossing& from,
+                                     const Crossing& to) const {
+    const bool coincide = to.position() - from.position() < kTouchParameter ||
+                          distance(from.point, to.point) < kOnAxisDistance;
+    if (from.onAnchor || to.onAnchor || !coincide) return false;
+    const std::size_t tipIndex = static_cast<std::size_t>(to.segment) % path.segments.size();
+    Crossing tip{to.segment, 0.0, path.segments[tipIndex].anchor, Ray::None, true};
+    const Cubic before = curveAt(path, static_cast<std::size_t>(from.segment));
+    const Cubic after = curveAt(path, tipIndex);
+    return std::abs(wedge_.margin(tip.point)) <= kTouchDepth &&
+           std::abs(farthestMargin(before, from, tip)) <= kTouchDepth &&
+           std::abs(farthestMargin(after, tip, to)) <= kTouchDepth;
+}
+
+double ContactFinder::farthestMargin(const Cubic& curve, const Crossing& from,
+                                     const Crossing& to) const {
+    const double end = to.segment == from.segment ? to.parameter : 1.0;
+    double farthest = 0.0;
+    for (const double part : {0.25, 0.5, 0.75}) {
+        const double t = std::lerp(from.parameter, end, part);
+        const double margin = wedge_.margin(evaluate(curve, t));
+        if (std::abs(margin) > std::abs(farthest)) farthest = margin;
+    }
+    return farthest;
+}
+
+/// Whether a curve that does not leave the edge between two places runs along it there.
+bool ContactFinder::runsAlong(const Cubic& curve, const Crossing& from, const Crossing& to) const {
+    return distance(from.point, to.point) > kOnAxisDistance &&
+           (liesOnLine(wedge_, Ray::First, curve) || liesOnLine(wedge_, Ray::Last, curve));
+}
+
+Side ContactFinder::sideOnCurve(const Cubic& curve, const Crossing& from,
+                                const Crossing& to) const {
+    const double margin = farthestMargin(curve, from, to);
+    // Between anchors half the distance is enough, so that a piece that was once worth cutting out
+    // is found again whatever rounding has done to it since.
+    const bool betweenAnchors = from.onAnchor && to.onAnchor;
+    if (std::abs(margin) > (betweenAnchors ? 0.5 * kOnAxisDistance : kOnAxisDistance))
+        return sideOf(margin);
+    return runsAlong(curve, from, to) ? Side::AlongRay : Side::Touching;
+}
+
+void ContactFinder::groupClosed(const PathShape& path) {
+    Crossing nextLap = crossings_.front();
+    nextLap.segment += static_cast<std::int32_t>(path.segments.size());
+    sides_.push_back(sideBetween(path, crossings_.back(), nextLap));
+    const auto leaving = std::ranges::find_if(sides_, leavesEdge);
+    if (leaving == sides_.end()) {
+        whole_ = Side::AlongRay;
+        return;
+    }
+    const auto turn = leaving + 1 - sides_.begin();
+    std::ranges::rotate(sides_, sides_.begin() + turn);
+    std::ranges::rotate(crossings_, crossings_.begin() + turn);
+    const Side seam = sides_.back();
+    group(seam, seam);
+}
+
+void ContactFinder::groupOpen(const PathShape& path) {
+    const Crossing& front = crossings_.front();
+    const std::size_t anchors = path.segments.size();
+    const auto anchorsBefore = static_cast<std::size_t>(front.segment) + (front.onAnchor ? 0 : 1);
+    const auto firstAfter = static_cast<std::size_t>(crossings_.back().segment) + 1;
+    group(anchorsBefore > 0 ? sideOf(farthestMargin(0, anchorsBefore)) : Side::Nowhere,
+          firstAfter < anchors ? sideOf(farthestMargin(firstAfter, anchors)) : Side::Nowhere);
+    if (contacts_.size() == 1 && contacts_[0].before == contacts_[0].after &&
+        contacts_[0].before == Side::Nowhere) {
+        contacts_.clear();
+        whole_ = Side::AlongRay;
+    }
+}
+
+/// Joins the crossings between which the path does not leave the edge into contacts.
+void ContactFinder::group(Side before, Side after) {
+    std::size_t begin = 0;
+    while (begin < crossings_.size()) {
+        std::size_t last = begin;
+        while (last + 1 < crossings_.size() && !leavesEdge(sides_[last]))
+            ++last;
+        const Side next = last + 1 < crossings_.size() ? sides_[last] : after;
+        addContact(begin, last, before, next);
+        before = next;
+        begin = last + 1;
+    }
+}
+
+/// The contact of the crossings `begin` to `last`. Where the path touches the edge near an anchor
+/// that lies on it, the anchor is the place, so that no second anchor arises beside it.
+void ContactFinder::addContact(std::size_t begin, std::size_t last, Side before, Side after) {
+    const auto touches = [this](std::size_t i) { return sides_[i] == Side::Touching; };
+    std::size_t from = begin;
+    while (from < last && !crossings_[from].onAnchor && touches(from))
+        ++from;
+    std::size_t to = last;
+    while (to > begin && !crossings_[to].onAnchor && touches(to - 1))
+        --to;
+    bool alongRay = false;
+    for (std::size_t i = begin; i < last; ++i)
+        alongRay = alongRay || sides_[i] == Side::AlongRay;
+    if (!alongRay && from > to) { // touches without an anchor
+        from = begin;
+        to = last;
+    }
+    contacts_.push_back({crossings_[from], crossings_[to], before, after, alongRay});
+}
+
+} // namespace facetta

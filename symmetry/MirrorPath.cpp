@@ -1,0 +1,210 @@
+#include "symmetry/MirrorPath.h"
+
+#include "symmetry/Tolerances.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace facetta {
+
+PathMirror::PathMirror(const SymmetryAxes& axes, double snapDistance)
+    : axes_(axes),
+      wedge_(axes), rays_{raySegment(axes, 0), raySegment(axes, sectorCount(axes) - 1)},
+      snapDistance_(std::max(snapDistance, kOnAxisDistance)), cutter_(wedge_), joiner_(axes) {}
+
+const MirroredPath& PathMirror::mirror(const PathShape& source) {
+    begin();
+    addMirrored(source, kOnAxisDistance);
+    // Moving an end can take a short path out of the sector in which it was drawn. Then it belongs
+    // to the sector beyond. Asking for ever clearer samples ends any going to and fro.
+    double clear = kOnAxisDistance;
+    for (; contourCount_ == 0 && !source.segments.empty() && clear < kRayLength; clear *= 4.0)
+        addMirrored(folded_, clear);
+    result_.compound = source.closed && contourCount_ > 1;
+    if (result_.compound) agreeInImages();
+    result_.contours.resize(contourCount_);
+    result_.unchanged = contourCount_ == 1 && sameShape(result_.contours.front().shape, source);
+    return result_;
+}
+
+void PathMirror::addMirrored(const PathShape& shape, double clear) {
+    const Start start = findStart(shape, clear);
+    // An odd sector was turned over when it was folded: beyond it the sectors count downwards.
+    const int turn = result_.sector % 2 == 0 ? start.sector : sectorCount(axes_) - start.sector;
+    result_.sector = (result_.sector + turn) % sectorCount(axes_);
+    fold(shape, start.sector);
+    if (!shape.closed) snapEnds();
+    addContours(start.position);
+}
+
+const MirroredPath& PathMirror::mirrorCompound(std::span<const PathShape> members) {
+    begin();
+    const Start start = members.empty() ? Start{} : findStart(members.front(), kOnAxisDistance);
+    result_.sector = start.sector;
+    for (const PathShape& member : members) {
+        fold(member, start.sector);
+        if (!member.closed) snapEnds();
+        addContours(start.position);
+    }
+    result_.compound = true;
+    agreeInImages();
+    result_.contours.resize(contourCount_);
+    result_.unchanged = std::ranges::equal(
+        result_.contours, members,
+        [](const PathShape& one, const PathShape& other) { return sameShape(one, other); },
+        &Contour::shape);
+    return result_;
+}
+
+/// The sample that tells the sector must be clear of the axes to mean anything: a shape drawn
+/// against an axis may well start with an edge on it. So samples are taken along the path until one
+/// is clear of them by the distance `clear`, or else just clear of them.
+PathMirror::Start PathMirror::findStart(const PathShape& path, double clear) const {
+    constexpr double kSamples[] = {kSampleParameter, 1.0 - kSampleParameter, 0.5};
+    for (const double distance : {clear, 0.5 * kOnAxisDistance})
+        for (std::size_t i = 0; i < curveCount(path); ++i)
+            for (const double t : kSamples) {
+                const Point sample = evaluate(curveAt(path, i), t);
+                if (wedge_.margin(foldIntoSector0(axes_, sample)) > distance)
+                    return {sectorIndexOf(axes_, sample), static_cast<double>(i) + t};
+            }
+    if (path.segments.empty()) return {};
+    // The path lies on axes throughout, or is a single anchor. One on a ray of sector 0 is at home.
+    const Point sample = curveCount(path) > 0 ? evaluate(curveAt(path, 0), kSampleParameter)
+                                              : path.segments.front().anchor;
+    const bool atHome = wedge_.margin(sample) >= -kOnAxisDistance;
+    return {atHome ? 0 : sectorIndexOf(axes_, sample), kSampleParameter};
+}
+
+/// Fills `folded_` with the source carried into sector 0; `source` may be `folded_` itself.
+void PathMirror::fold(const PathShape& source, int sector) {
+    folded_.closed = source.closed;
+    if (&source != &folded_)
+        folded_.segments.assign(source.segments.begin(), source.segments.end());
+    if (sector == 0) return;
+    const Matrix map = foldMatrix(axes_, sector);
+    for (PathSegment& segment : folded_.segments)
+        segment = transformed(segment, map);
+}
+
+void PathMirror::snapEnds() {
+    if (folded_.segments.empty()) return;
+    snapEnd(folded_.segments.front());
+    if (folded_.segments.size() > 1) snapEnd(folded_.segments.back());
+}
+
+/// Moves an end onto the nearer of the two rays when one is near enough; otherwise the end is free
+/// and its handles, which no curve needs, go onto it.
+void PathMirror::snapEnd(PathSegment& end) const {
+    Ray nearest = Ray::None;
+    double reach = snapDistance_;
+    for (const Ray ray : {Ray::First, Ray::Last}) {
+        const LineSegment& segment = rays_[ray == Ray::First ? 0 : 1];
+        const double away = distance(end.anchor, nearestPoint(segment, end.anchor));
+        if (away < reach && wedge_.along(ray, end.anchor) >= 0.0) {
+            nearest = ray;
+            reach = away;
+        }
+    }
+    if (nearest != Ray::None)
+        moveOnto(nearest, end);
+    else if (wedge_.rayAt(end.anchor) == Ray::None)
+        end.in = end.out = end.anchor;
+}
+
+/// Moves a segment so that its anchor lies on `ray`. An anchor that is as near to it as stored
+/// coordinates can be stays: moving it again would only shift its rounding along the ray.
+void PathMirror::moveOnto(Ray ray, PathSegment& segment) const {
+    const Point target = wedge_.onto(ray, segment.anchor);
+    const Vector offset = target - segment.anchor;
+    const double spacing =
+        kStorageSpacing * std::max(std::abs(segment.anchor.x), std::abs(segment.anchor.y));
+    if (length(offset) <= spacing) return;
+    segment.anchor = rounded(target);
+    segment.in = rounded(segment.in + offset);
+    segment.out = rounded(segment.out + offset);
+}
+
+void PathMirror::begin() {
+    result_.sector = 0;
+    contourCount_ = 0;
+}
+
+Contour& PathMirror::nextContour() {
+    if (contourCount_ == result_.contours.size()) result_.contours.emplace_back();
+    return result_.contours[contourCount_++];
+}
+
+/// Adds what is kept of the folded path.
+void PathMirror::addContours(double start) {
+    if (folded_.segments.empty()) return;
+    cutter_.cut(folded_, start);
+    if (cutter_.keepsWhole()) {
+        Contour& contour = nextContour();
+        contour.shape = folded_;
+        contour.images = cutter_.wholeAlongRay() ? Images::Rotations : Images::All;
+        return;
+    }
+    for (const Stretch& stretch : cutter_.kept()) {
+        if (stretch.alongRay) {
+            addAlongRay(stretch);
+            continue;
+        }
+        extract(folded_, stretch, piece_.segments);
+        piece_.start = stretch.from.ray;
+        piece_.end = stretch.to.ray;
+        Contour& contour = nextContour();
+        joiner_.join(piece_, contour);
+    }
+}
+
+/// Adds a stretch that lies on a ray as an open path of its own. Handles that led into the curves
+/// beside it go.
+void PathMirror::addAlongRay(const Stretch& stretch) {
+    Contour& contour = nextContour();
+    std::vector<PathSegment>& run = contour.shape.segments;
+    extract(folded_, stretch, run);
+    moveOnto(stretch.from.ray, run.front());
+    moveOnto(stretch.to.ray, run.back());
+    const double lastPosition = static_cast<double>(folded_.segments.size() - 1);
+    if (folded_.closed || stretch.from.position() > 0.0) run.front().in = run.front().anchor;
+    if (folded_.closed || stretch.to.position() < lastPosition) run.back().out = run.back().anchor;
+    contour.shape.closed = false;
+    contour.images = Images::Rotations;
+}
+
+namespace {
+
+/// The image of a shape under `map`. That of a reflection runs backwards, so that it winds around
+/// its inside as the original does.
+PathShape imageOf(const PathShape& shape, const Matrix& map) {
+    PathShape image;
+    image.closed = shape.closed;
+    image.segments.reserve(shape.segments.size());
+    for (const PathSegment& segment : shape.segments)
+        image.segments.push_back(transformed(segment, map));
+    if (mirrors(map))
+        reverseRun(std::span(image.segments).subspan(shape.closed ? 1 : 0)); // begins as before
+    return image;
+}
+
+} // namespace
+
+/// Contours painted as one path can only be copied together. When they need different copies, each
+/// gets its own right here.
+void PathMirror::agreeInImages() {
+    const std::span<Contour> contours = std::span(result_.contours).first(contourCount_);
+    if (std::ranges::adjacent_find(contours, std::ranges::not_equal_to{}, &Contour::images) ==
+        contours.end())
+        return;
+    std::vector<Contour> complete;
+    for (const Contour& contour : contours) {
+        complete.push_back({contour.shape, Images::None});
+        for (const Matrix& map : imageTransforms(axes_, contour.images))
+            complete.push_back({imageOf(contour.shape, map), Images::None});
+    }
+    result_.contours = std::move(complete);
+    contourCount_ = result_.contours.size();
+}
+
+} // namespace facetta

@@ -1,0 +1,123 @@
+#include "symmetry/RemovePoints.h"
+
+#include "symmetry/Tolerances.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace facetta {
+
+namespace {
+
+/// Whether `point` lies on one of the N lines.
+bool isOnAxis(const SymmetryAxes& axes, Point point) {
+    const Vector offset = point - originOf(axes);
+    const double fromAnAxis =
+        std::remainder(std::atan2(offset.y, offset.x) - axes.angle, halfStep(axes));
+    return length(offset) * std::abs(std::sin(fromAnAxis)) <= kOnAxisDistance;
+}
+
+/// One curve in place of two, and how far it is from them at most.
+struct MergedCurve {
+    Cubic curve;
+    double deviation = 0.0;
+};
+
+bool isStraight(const Cubic& curve) { return curve.p0 == curve.p1 && curve.p2 == curve.p3; }
+
+/// A straight run through the common end of two straight lines; none when the second turns back.
+std::optional<MergedCurve> mergeLines(const Cubic& first, const Cubic& second) {
+    const Point joint = first.p3;
+    if (dot(joint - first.p0, second.p3 - joint) < 0.0) return std::nullopt;
+    const Point nearest = nearestPoint({first.p0, second.p3}, joint);
+    return MergedCurve{{first.p0, first.p0, second.p3, second.p3}, distance(joint, nearest)};
+}
+
+/// The curve of which `first` and `second` are the two parts, as splitting it at t makes them: the
+/// handles at the joint are to each other as t to 1 - t, and the outer handles are the curve's own
+/// times t and times 1 - t.
+std::optional<MergedCurve> mergeParts(const Cubic& first, const Cubic& second) {
+    const double before = distance(first.p2, first.p3);
+    const double after = distance(second.p0, second.p1);
+    if (before == 0.0 || after == 0.0) return std::nullopt;
+    const double t = before / (before + after);
+    const Cubic whole{first.p0, rounded(first.p0 + (1.0 / t) * (first.p1 - first.p0)),
+                      rounded(second.p3 + (1.0 / (1.0 - t)) * (second.p2 - second.p3)), second.p3};
+    const auto [head, tail] = split(whole, t);
+    const double deviation = std::max({distance(head.p1, first.p1), distance(head.p2, first.p2),
+                                       distance(head.p3, first.p3), distance(tail.p1, second.p1),
+                                       distance(tail.p2, second.p2)});
+    return MergedCurve{whole, deviation};
+}
+
+std::optional<MergedCurve> merge(const Cubic& first, const Cubic& second) {
+    return isStraight(first) && isStraight(second) ? mergeLines(first, second)
+                                                   : mergeParts(first, second);
+}
+
+Cubic curveBetween(const PathSegment& from, const PathSegment& to) {
+    return {from.anchor, from.out, to.in, to.anchor};
+}
+
+/// Thins a path out while it is run through. What has been run through is kept in place, at the
+/// front of the path's own segments.
+class Thinner {
+public:
+    Thinner(std::vector<PathSegment>& segments, const SymmetryAxes& axes)
+        : segments_(segments), axes_(axes), deviations_(segments.size(), 0.0) {}
+
+    /// Goes on to the next segment; the one before it goes if it is redundant.
+    void step(std::size_t next) {
+        if (count_ >= 2 && removable(count_ - 2, count_ - 1, next)) --count_;
+        segments_[count_] = segments_[next];
+        deviations_[count_] = deviations_[next];
+        ++count_;
+    }
+
+    /// Treats the last and the first anchor of a closed path, whose neighbours meet at its seam.
+    void closeSeam() {
+        if (count_ > 2 && removable(count_ - 2, count_ - 1, 0)) --count_;
+        if (count_ > 2 && removable(count_ - 1, 0, 1)) {
+            std::ranges::rotate(segments_.begin(), segments_.begin() + 1,
+                                segments_.begin() + static_cast<std::ptrdiff_t>(count_));
+            --count_;
+        }
+    }
+
+    void finish() { segments_.resize(count_); }
+
+private:
+    /// Whether the anchor `middle` can go; if so, its neighbours get the handles of the one curve
+    /// that then joins them. The deviations of removals in a row add up and count together.
+    bool removable(std::size_t before, std::size_t middle, std::size_t after) {
+        if (!isOnAxis(axes_, segments_[middle].anchor)) return false;
+        const auto merged = merge(curveBetween(segments_[before], segments_[middle]),
+                                  curveBetween(segments_[middle], segments_[after]));
+        if (!merged) return false;
+        const double deviation = deviations_[middle] + deviations_[after] + merged->deviation;
+        if (deviation > kRemovalDistance) return false;
+        segments_[before].out = merged->curve.p1;
+        segments_[after].in = merged->curve.p2;
+        deviations_[after] = deviation;
+        return true;
+    }
+
+    std::vector<PathSegment>& segments_;
+    const SymmetryAxes& axes_;
+    std::vector<double> deviations_; // of the curve that ends at each anchor, from the original
+    std::size_t count_ = 0;
+};
+
+} // namespace
+
+PathShape removeRedundantAxisPoints(PathShape shape, const SymmetryAxes& axes) {
+    Thinner thinner(shape.segments, axes);
+    for (std::size_t i = 0; i < shape.segments.size(); ++i)
+        thinner.step(i);
+    if (shape.closed) thinner.closeSeam();
+    thinner.finish();
+    return shape;
+}
+
+} // namespace facetta
