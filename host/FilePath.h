@@ -7,14 +7,14 @@ namespace ai {
 /// A path of the host: one pointer that only the host's file-path suite looks behind. Crosses the
 /// interface by address. Throws `Error` when the host cannot make one.
 class FilePath {
-  public:
+public:
     FilePath();
     FilePath(const FilePath& other);
     FilePath(FilePath&& other) noexcept;
     FilePath& operator=(FilePath other) noexcept;
     ~FilePath();
 
-  private:
+private:
     void* impl_ = nullptr;
 };
 

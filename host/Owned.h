@@ -7,7 +7,7 @@ namespace ai {
 /// The one owner of what the host lends: move-only, given back on every path. `Traits` names the
 /// reference type `Ref` (a pointer) and a `release(Ref) noexcept`.
 template <typename Traits> class Owned {
-  public:
+public:
     using Ref = typename Traits::Ref;
 
     Owned() noexcept = default;
@@ -40,7 +40,7 @@ template <typename Traits> class Owned {
         if (ref_ != nullptr) Traits::release(std::exchange(ref_, nullptr));
     }
 
-  private:
+private:
     Ref ref_ = nullptr;
 };
 

@@ -58,13 +58,13 @@ using PluginAccess = Owned<PluginAccessTraits>;
 /// current document and makes what is changed meanwhile one undo step. Contexts nest strictly.
 /// Throws `Error`.
 class AppContext {
-  public:
+public:
     explicit AppContext(SPPluginRef self);
     ~AppContext();
     AppContext(const AppContext&) = delete;
     AppContext& operator=(const AppContext&) = delete;
 
-  private:
+private:
     AIAppContextHandle context_ = nullptr;
 };
 

@@ -13,7 +13,7 @@ namespace ai {
 /// Only the first eleven slots of the suite are used: they are the same in every generation of the
 /// host.
 class UnicodeString {
-  public:
+public:
     UnicodeString() noexcept = default;
     explicit UnicodeString(std::string_view utf8);
     explicit UnicodeString(std::u16string_view utf16);
@@ -26,7 +26,7 @@ class UnicodeString {
     [[nodiscard]] std::u16string utf16() const;
     [[nodiscard]] std::string utf8() const;
 
-  private:
+private:
     void* impl_ = nullptr;
 };
 

@@ -16,7 +16,7 @@ namespace easel {
 
 /// Counts one call from entry to exit.
 class HostCallScope {
-  public:
+public:
     explicit HostCallScope(SlotRecord& slot)
         : outer_(hostCalls().current()), fails_(hostCalls().enter(slot)) {}
     ~HostCallScope() { hostCalls().leave(outer_); }
@@ -24,7 +24,7 @@ class HostCallScope {
     HostCallScope& operator=(const HostCallScope&) = delete;
     [[nodiscard]] bool fails() const noexcept { return fails_; }
 
-  private:
+private:
     const SlotRecord* outer_;
     bool fails_;
 };

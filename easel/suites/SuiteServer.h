@@ -15,7 +15,7 @@ namespace easel {
 /// The table of one suite, every slot filled: with an answer "not implemented" that tells its name,
 /// until a function of Easel is exposed in it.
 class AnySuiteTable {
-  public:
+public:
     AnySuiteTable(std::string suite, ai::int32 version)
         : name_(std::move(suite)), version_(version) {}
     void addSlot(std::string_view function, bool returnsError);
@@ -30,7 +30,7 @@ class AnySuiteTable {
 
     int acquired = 0; ///< Acquisitions not yet released.
 
-  private:
+private:
     std::string name_;
     ai::int32 version_;
     std::vector<void (*)()> slots_;
@@ -39,7 +39,7 @@ class AnySuiteTable {
 
 /// The same, seen as the suite's record of functions.
 template <typename Suite> class SuiteTable {
-  public:
+public:
     explicit SuiteTable(AnySuiteTable& table) : table_(table) {}
     [[nodiscard]] Suite& functions() { return *static_cast<Suite*>(table_.slots()); }
 
@@ -51,14 +51,14 @@ template <typename Suite> class SuiteTable {
         return table_.recordAt(static_cast<std::size_t>(member - first) / sizeof(Function));
     }
 
-  private:
+private:
     AnySuiteTable& table_;
 };
 
 /// All suites that Easel offers, found by name and exactly the right version. The tables live as
 /// long as the server and never move.
 class SuiteServer {
-  public:
+public:
     /// One table for every suite in the slot tables and every text suite.
     SuiteServer();
 
@@ -78,7 +78,7 @@ class SuiteServer {
     /// The acquisition to refuse, counted from 1 over all that follow; 0 refuses none.
     void refuseAcquisition(int number) noexcept { refuse_ = number; }
 
-  private:
+private:
     [[nodiscard]] AnySuiteTable& at(std::string_view name, ai::int32 version);
 
     std::map<std::pair<std::string, ai::int32>, std::unique_ptr<AnySuiteTable>, std::less<>>
