@@ -1,0 +1,34 @@
+#include "symmetry/ArtMarks.h"
+
+#include "host/Error.h"
+#include "host/suites/AIArtSuite.h"
+#include "symmetry/GuideTag.h"
+#include "symmetry/MirrorTag.h"
+
+#include <algorithm>
+
+namespace facetta {
+
+ai::Dictionary dictionaryOf(AIArtHandle art) {
+    ai::Dictionary entries;
+    if (art != nullptr) ai::check(suites.art->GetDictionary(art, entries.put()));
+    return entries;
+}
+
+MarkKeys markKeys() { return {MirrorTag::key(), GuideTag::key()}; }
+
+ai::int32 mirrorMarkIn(AIDictionaryRef entries, AIDictKey key) {
+    if (!suites.dictionary->IsKnown(entries, key)) return MirrorTag::kSource;
+    ai::int32 value = MirrorTag::kCopy;
+    const bool readable = suites.dictionary->GetIntegerEntry(entries, key, &value) == kNoErr;
+    return readable ? std::clamp(value, MirrorTag::kCopy, MirrorTag::kKept) : MirrorTag::kCopy;
+}
+
+ArtMarks marksOf(AIArtHandle art, const MarkKeys& keys) {
+    const ai::Dictionary entries = dictionaryOf(art);
+    if (!entries) return {};
+    return {mirrorMarkIn(entries.get(), keys.mirror),
+            suites.dictionary->IsKnown(entries.get(), keys.guide) != 0};
+}
+
+} // namespace facetta

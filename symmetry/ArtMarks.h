@@ -1,0 +1,31 @@
+#pragma once
+
+/// The dictionary of an object and the marks that Facetta keeps in it.
+
+#include "host/References.h"
+
+namespace facetta {
+
+/// The dictionary of `art`; empty for null art. Throws `ai::Error`.
+[[nodiscard]] ai::Dictionary dictionaryOf(AIArtHandle art);
+
+/// The keys of both marks, looked up once for many objects.
+struct MarkKeys {
+    AIDictKey mirror = nullptr;
+    AIDictKey guide = nullptr;
+};
+[[nodiscard]] MarkKeys markKeys();
+
+/// What one object carries.
+struct ArtMarks {
+    ai::int32 mirror = 0; ///< As `MirrorTag::get`.
+    bool guide = false;   ///< As `GuideTag::has`.
+};
+
+/// Both marks in one look at the dictionary. Throws `ai::Error`.
+[[nodiscard]] ArtMarks marksOf(AIArtHandle art, const MarkKeys& keys);
+
+/// The mirror mark in `entries`, by the rule of `MirrorTag::get`.
+[[nodiscard]] ai::int32 mirrorMarkIn(AIDictionaryRef entries, AIDictKey key);
+
+} // namespace facetta

@@ -1,0 +1,29 @@
+#include "symmetry/GuideTag.h"
+
+#include "host/Error.h"
+#include "symmetry/ArtMarks.h"
+#include "symmetry/MirrorTag.h"
+
+namespace facetta::GuideTag {
+
+AIDictKey key() { return suites.dictionary->Key("FTAxisGuide"); }
+
+void set(AIArtHandle art) {
+    const ai::Dictionary entries = dictionaryOf(art);
+    if (!entries || suites.dictionary->IsKnown(entries.get(), MirrorTag::key())) return;
+    ai::check(suites.dictionary->SetBooleanEntry(entries.get(), key(), true));
+}
+
+bool has(AIArtHandle art) {
+    const ai::Dictionary entries = dictionaryOf(art);
+    return entries && suites.dictionary->IsKnown(entries.get(), key());
+}
+
+void clear(AIArtHandle art) {
+    const ai::Dictionary entries = dictionaryOf(art);
+    const AIDictKey mark = key();
+    if (entries && suites.dictionary->IsKnown(entries.get(), mark))
+        ai::check(suites.dictionary->DeleteEntry(entries.get(), mark));
+}
+
+} // namespace facetta::GuideTag
