@@ -13,6 +13,9 @@
 
 namespace facetta {
 
+/// Null when there is none, as without a document.
+[[nodiscard]] AILayerHandle currentLayer();
+
 /// The layer without a parent above `layer`; null when there is no layer.
 [[nodiscard]] AILayerHandle topLevelLayer(AILayerHandle layer);
 

@@ -1,0 +1,44 @@
+#include "symmetry/ArtList.h"
+
+#include "host/Error.h"
+#include "host/References.h"
+
+#include <cstddef>
+
+namespace facetta {
+namespace {
+
+std::vector<AIArtHandle> membersOf(AIArtSet set) {
+    std::size_t count = 0;
+    ai::check(suites.artSet->CountArtSet(set, &count));
+    std::vector<AIArtHandle> members;
+    members.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        AIArtHandle art = nullptr;
+        ai::check(suites.artSet->IndexArtSet(set, i, &art));
+        if (art != nullptr) members.push_back(art); // a set may hold empty places
+    }
+    return members;
+}
+
+ai::ArtSet newSet() {
+    ai::ArtSet set;
+    ai::check(suites.artSet->NewArtSet(set.put()));
+    return set;
+}
+
+} // namespace
+
+std::vector<AIArtHandle> selectedArt() {
+    const ai::ArtSet set = newSet();
+    ai::check(suites.artSet->SelectedArtSet(set.get()));
+    return membersOf(set.get());
+}
+
+std::vector<AIArtHandle> artOnLayer(AILayerHandle layer) {
+    const ai::ArtSet set = newSet();
+    ai::check(suites.artSet->LayerArtSet(layer, set.get()));
+    return membersOf(set.get());
+}
+
+} // namespace facetta

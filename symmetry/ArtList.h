@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/Handles.h"
+
+#include <vector>
+
+namespace facetta {
+
+/// The selected objects, containers with a selected part among them, in paint order, a container
+/// before what it contains. Throws `ai::Error`.
+[[nodiscard]] std::vector<AIArtHandle> selectedArt();
+
+/// Every object on `layer` (not null) and its sublayers, in the same order; the groups of layers
+/// may be among them. Throws `ai::Error`.
+[[nodiscard]] std::vector<AIArtHandle> artOnLayer(AILayerHandle layer);
+
+} // namespace facetta

@@ -1,0 +1,97 @@
+#include "symmetry/ArtTree.h"
+
+#include "host/Art.h"
+#include "host/Error.h"
+#include "host/Suites.h"
+#include "host/suites/AIArtSuite.h"
+#include "host/suites/AIGroupSuite.h"
+#include "host/suites/AILayerSuite.h"
+#include "host/suites/AIPathSuite.h"
+
+#include <algorithm>
+
+namespace facetta {
+
+AIArtHandle parentOf(AIArtHandle art) {
+    AIArtHandle parent = nullptr;
+    ai::check(suites.art->GetArtParent(art, &parent));
+    return parent;
+}
+
+ai::int16 typeOf(AIArtHandle art) {
+    ai::int16 type = kUnknownArt;
+    ai::check(suites.art->GetArtType(art, &type));
+    return type;
+}
+
+ai::int32 attributesOf(AIArtHandle art, ai::int32 mask) {
+    ai::int32 attributes = 0;
+    ai::check(suites.art->GetArtUserAttr(art, mask, &attributes));
+    return attributes;
+}
+
+std::vector<AIArtHandle> childrenOf(AIArtHandle art) {
+    std::vector<AIArtHandle> children;
+    AIArtHandle child = nullptr;
+    ai::check(suites.art->GetArtFirstChild(art, &child));
+    while (child != nullptr) {
+        children.push_back(child);
+        AIArtHandle behind = nullptr;
+        ai::check(suites.art->GetArtSibling(child, &behind));
+        child = behind;
+    }
+    return children;
+}
+
+std::vector<AIArtHandle> pathsInside(AIArtHandle compound) {
+    std::vector<AIArtHandle> paths;
+    std::vector<AIArtHandle> toVisit{compound}; // a stack of its own: groups nest at any depth
+    while (!toVisit.empty()) {
+        const AIArtHandle art = toVisit.back();
+        toVisit.pop_back();
+        if (typeOf(art) == kPathArt) {
+            paths.push_back(art);
+            continue;
+        }
+        const std::vector<AIArtHandle> children = childrenOf(art);
+        toVisit.insert(toVisit.end(), children.rbegin(), children.rend());
+    }
+    return paths;
+}
+
+bool isLayerGroup(AIArtHandle group) {
+    AIBoolean belongsToLayer = false;
+    ai::check(suites.art->IsArtLayerGroup(group, &belongsToLayer));
+    return belongsToLayer != 0;
+}
+
+bool isClipGroup(AIArtHandle group) {
+    AIBoolean clipped = false;
+    ai::check(suites.group->GetGroupClipped(group, &clipped));
+    if (!clipped) return false;
+    const std::vector<AIArtHandle> members = childrenOf(group);
+    return std::ranges::any_of(
+        members, [](AIArtHandle member) { return attributesOf(member, kArtIsClipMask) != 0; });
+}
+
+bool isGuide(AIArtHandle path) {
+    AIBoolean guide = false;
+    ai::check(suites.path->GetPathGuide(path, &guide));
+    return guide != 0;
+}
+
+bool isLayerBlocked(AILayerHandle layer) {
+    while (layer != nullptr) {
+        AIBoolean visible = false;
+        AIBoolean editable = false;
+        ai::check(suites.layer->GetLayerVisible(layer, &visible));
+        ai::check(suites.layer->GetLayerEditable(layer, &editable));
+        if (!visible || !editable) return true;
+        AILayerHandle parent = nullptr;
+        ai::check(suites.layer->GetLayerParent(layer, &parent));
+        layer = parent;
+    }
+    return false;
+}
+
+} // namespace facetta

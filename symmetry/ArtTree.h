@@ -1,0 +1,37 @@
+#pragma once
+
+/// Questions about one object of the art tree. All throw `ai::Error`.
+
+#include "host/Handles.h"
+#include "host/Types.h"
+
+#include <vector>
+
+namespace facetta {
+
+/// Null for the topmost object of a tree.
+[[nodiscard]] AIArtHandle parentOf(AIArtHandle art);
+
+[[nodiscard]] ai::int16 typeOf(AIArtHandle art);
+
+/// Those of the attributes in `mask` that are set on the object itself.
+[[nodiscard]] ai::int32 attributesOf(AIArtHandle art, ai::int32 mask);
+
+/// Front-most first; empty for what is no container.
+[[nodiscard]] std::vector<AIArtHandle> childrenOf(AIArtHandle art);
+
+/// The paths inside a compound path, at any depth, in paint order.
+[[nodiscard]] std::vector<AIArtHandle> pathsInside(AIArtHandle compound);
+
+/// Whether the group belongs to a layer or sublayer.
+[[nodiscard]] bool isLayerGroup(AIArtHandle group);
+
+/// Whether a member of the group clips the others.
+[[nodiscard]] bool isClipGroup(AIArtHandle group);
+
+[[nodiscard]] bool isGuide(AIArtHandle path);
+
+/// Whether the layer or one that contains it is hidden or locked.
+[[nodiscard]] bool isLayerBlocked(AILayerHandle layer);
+
+} // namespace facetta
