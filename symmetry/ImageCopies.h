@@ -3,6 +3,8 @@
 /// Reflecting and rotating whole objects, in place or as copies.
 
 #include "host/Handles.h"
+#include "host/Types.h"
+#include "symmetry/ArtMarks.h"
 #include "symmetry/SymmetryAxes.h"
 
 #include <span>
@@ -16,6 +18,47 @@ enum class Duplicate { No, Yes };
 enum class CopyMode {
     Plain, ///< Ordinary art.
     Live,  ///< A copy on a live layer: tagged as generated, and locked.
+};
+
+/// Which parts of an object a transformation changes.
+enum class Transform {
+    Whole,          ///< Geometry and what is painted inside it: gradients, patterns, children.
+    PaintOnly,      ///< Gradients and patterns, for new geometry that is in its place already.
+    AndTellPlugins, ///< As `Whole`, for a plug-in group that its plug-in is to keep up to date.
+};
+
+/// Transforms one object. Throws `ai::Error`.
+void transformArt(AIArtHandle art, AIRealMatrix& matrix, Transform parts);
+
+/// An object to be copied and what of it a copy has to shed.
+struct CopySource {
+    AIArtHandle art = nullptr;
+    ArtMarks marks;
+    bool selected = false;
+    Transform parts = Transform::Whole;
+};
+
+/// `source` with its marks and selection read from the host. Throws `ai::Error`.
+[[nodiscard]] CopySource copySource(AIArtHandle art, const MarkKeys& keys);
+
+/// Makes the copies of one run.
+class CopyMaker {
+public:
+    explicit CopyMaker(CopyMode mode) : mode_(mode), keys_(markKeys()) {}
+
+    /// A duplicate of `source` under `matrix`, directly behind the object `behind`, without the
+    /// marks of its source. Throws `ai::Error`.
+    [[nodiscard]] AIArtHandle make(const CopySource& source, AIRealMatrix& matrix,
+                                   AIArtHandle behind) const;
+
+    [[nodiscard]] const MarkKeys& keys() const { return keys_; }
+
+private:
+    void markAndLock(AIArtHandle copy, const CopySource& source) const;
+    void shedMarks(AIArtHandle copy, const CopySource& source) const;
+
+    CopyMode mode_;
+    MarkKeys keys_;
 };
 
 /// Reflects every object of `set` across the line of ray `rayIndex`: the object itself, or a

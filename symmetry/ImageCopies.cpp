@@ -1,0 +1,101 @@
+#include "symmetry/ImageCopies.h"
+
+#include "host/Art.h"
+#include "host/Error.h"
+#include "host/suites/AIArtSuite.h"
+#include "host/suites/AITransformArtSuite.h"
+#include "symmetry/ArtSpace.h"
+#include "symmetry/ArtTree.h"
+#include "symmetry/MirrorTag.h"
+
+namespace facetta {
+namespace {
+
+constexpr ai::int32 kPaint = kTransformFillGradients | kTransformFillPatterns |
+                             kTransformStrokePatterns | kTransformLinkedMasks | kTransformChildren |
+                             kTransformStrokeGradients;
+
+constexpr AIReal kSameStrokeWeight = 1.0F; // reflections and rotations do not scale
+
+ai::int32 optionsOf(Transform parts) {
+    switch (parts) {
+    case Transform::Whole:
+        return kPaint | kTransformObjects;
+    case Transform::PaintOnly:
+        return kPaint;
+    case Transform::AndTellPlugins:
+        return kPaint | kTransformObjects | kTellParentPluginGroups;
+    }
+    return kPaint;
+}
+
+std::vector<AIArtHandle> mapAll(std::span<const AIArtHandle> set, const Matrix& map,
+                                Duplicate duplicate, CopyMode mode) {
+    const CopyMaker copies{mode};
+    AIRealMatrix matrix = narrow(map);
+    std::vector<AIArtHandle> made;
+    for (const AIArtHandle art : set) {
+        const CopySource source = copySource(art, copies.keys());
+        if (duplicate == Duplicate::Yes)
+            made.push_back(copies.make(source, matrix, art));
+        else
+            transformArt(art, matrix, source.parts);
+    }
+    return made;
+}
+
+} // namespace
+
+void transformArt(AIArtHandle art, AIRealMatrix& matrix, Transform parts) {
+    ai::check(suites.transformArt->TransformArt(art, &matrix, kSameStrokeWeight, optionsOf(parts)));
+}
+
+CopySource copySource(AIArtHandle art, const MarkKeys& keys) {
+    return {.art = art,
+            .marks = marksOf(art, keys),
+            .selected = attributesOf(art, kArtSelected) != 0,
+            .parts = typeOf(art) == kPluginArt ? Transform::AndTellPlugins : Transform::Whole};
+}
+
+AIArtHandle CopyMaker::make(const CopySource& source, AIRealMatrix& matrix,
+                            AIArtHandle behind) const {
+    AIArtHandle copy = nullptr;
+    ai::check(suites.art->DuplicateArt(source.art, kPlaceBelow, behind, &copy));
+    transformArt(copy, matrix, source.parts);
+    if (mode_ == CopyMode::Live)
+        markAndLock(copy, source);
+    else
+        shedMarks(copy, source);
+    return copy;
+}
+
+/// The source's own mark, which came along with its dictionary, is overwritten. Locking comes last,
+/// because the host changes no locked art.
+void CopyMaker::markAndLock(AIArtHandle copy, const CopySource& source) const {
+    const ai::Dictionary entries = dictionaryOf(copy);
+    if (source.marks.guide) ai::check(suites.dictionary->DeleteEntry(entries.get(), keys_.guide));
+    ai::check(suites.dictionary->SetIntegerEntry(entries.get(), keys_.mirror, MirrorTag::kCopy));
+    const ai::int32 toClear = source.selected ? kArtSelected | kArtHidden : kArtHidden;
+    ai::check(suites.art->SetArtUserAttr(copy, kArtLocked | toClear, kArtLocked));
+}
+
+void CopyMaker::shedMarks(AIArtHandle copy, const CopySource& source) const {
+    if (source.marks.mirror == MirrorTag::kSource && !source.marks.guide) return;
+    const ai::Dictionary entries = dictionaryOf(copy);
+    for (const AIDictKey key : {keys_.mirror, keys_.guide})
+        if (suites.dictionary->IsKnown(entries.get(), key))
+            ai::check(suites.dictionary->DeleteEntry(entries.get(), key));
+}
+
+std::vector<AIArtHandle> reflectCopies(std::span<const AIArtHandle> set, const SymmetryAxes& axes,
+                                       int rayIndex, Duplicate duplicate, CopyMode mode) {
+    return mapAll(set, rayReflection(axes, rayIndex), duplicate, mode);
+}
+
+std::vector<AIArtHandle> rotateCopies(std::span<const AIArtHandle> set, const SymmetryAxes& axes,
+                                      double angle, Duplicate duplicate, CopyMode mode) {
+    const Matrix clockwise = rotationAbout(originOf(axes), -angle); // `angle` is counter-clockwise
+    return mapAll(set, clockwise, duplicate, mode);
+}
+
+} // namespace facetta

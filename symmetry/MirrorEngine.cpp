@@ -1,0 +1,192 @@
+#include "symmetry/MirrorEngine.h"
+
+#include "host/Art.h"
+#include "host/Error.h"
+#include "host/Suites.h"
+#include "host/suites/AIDocumentViewSuite.h"
+#include "host/suites/AIToolSuite.h"
+#include "symmetry/ArtSpace.h"
+#include "symmetry/ArtTree.h"
+#include "symmetry/ImageCopies.h"
+#include "symmetry/LayerAxesStore.h"
+#include "symmetry/MirrorPath.h"
+#include "symmetry/PathArt.h"
+#include "symmetry/PathReplacement.h"
+#include "symmetry/RemovePoints.h"
+#include "symmetry/WorkSet.h"
+
+#include <array>
+#include <utility>
+
+namespace facetta {
+namespace {
+
+constexpr double kSnapPixels = 12.0;
+constexpr double kSmallestZoom = 0.01; ///< Stands for a zoom of 0.
+
+constexpr std::string_view kPathsTooLong =
+    "Some paths could not be mirrored, because doing so would cause them to exceed the maximum "
+    "number of points in path.";
+
+constexpr ai::int32 kSelectionAttributes = kArtSelected | kArtFullySelected;
+
+constexpr const char* kPenTool = "Adobe Pen Tool";
+
+/// Puts a value back when the scope ends.
+template <typename Value> class Restore {
+public:
+    explicit Restore(Value& value) : value_(value), saved_(value) {}
+    ~Restore() { value_ = saved_; }
+    Restore(const Restore&) = delete;
+    Restore& operator=(const Restore&) = delete;
+
+private:
+    Value& value_;
+    Value saved_;
+};
+
+/// The distance in points within which open ends are moved onto an axis.
+double snapDistance() {
+    AIReal zoom = 0.0F;
+    ai::check(suites.documentView->GetDocumentViewZoom(nullptr, &zoom));
+    return kSnapPixels / (zoom > 0.0F ? static_cast<double>(zoom) : kSmallestZoom);
+}
+
+/// The pen goes on with the path that it was drawing, which may be gone now: choosing it afresh
+/// makes it let go.
+void restartPen(AIToolHandle ownTool) {
+    const char* current = nullptr;
+    ai::check(suites.tool->GetCurrentToolName(&current));
+    if (current == nullptr || std::string_view{current} != kPenTool || ownTool == nullptr) return;
+    ai::check(suites.tool->SetSelectedTool(ownTool));
+    ai::check(suites.tool->SetSelectedToolByName(kPenTool));
+}
+
+/// The maps that make the copies, as the host takes them, by `Images`.
+class ImageMatrices {
+public:
+    explicit ImageMatrices(const SymmetryAxes& axes) {
+        for (const Images images : {Images::All, Images::Rotations})
+            for (const Matrix& map : imageTransforms(axes, images))
+                of(images).push_back(narrow(map));
+    }
+
+    [[nodiscard]] std::vector<AIRealMatrix>& of(Images images) {
+        return matrices_.at(static_cast<std::size_t>(images));
+    }
+
+private:
+    std::array<std::vector<AIRealMatrix>, 3> matrices_;
+};
+
+/// One run over the units of a work set.
+class Run {
+public:
+    Run(const SymmetryAxes& axes, CopyMode mode, bool removePoints)
+        : axes_(axes), removePoints_(removePoints), copies_(mode), matrices_(axes),
+          mirror_(axes, snapDistance()) {}
+
+    void mirror(const Unit& unit) {
+        try {
+            mirrorAs(unit);
+        } catch (const ai::Error& error) {
+            if (error.code != kTooManySegmentsErr) throw;
+            pathsTooLong_ = true; // this path is as it was; the run goes on with the others
+        }
+    }
+
+    [[nodiscard]] bool pathsTooLong() const { return pathsTooLong_; }
+
+private:
+    void mirrorAs(const Unit& unit) {
+        switch (unit.kind) {
+        case UnitKind::Path:
+            return mirrorPath(unit);
+        case UnitKind::CompoundPath:
+            return mirrorCompound(unit);
+        case UnitKind::PluginGroup:
+        case UnitKind::Whole:
+            return makeCopies(unit, {unit.art, Images::All});
+        }
+    }
+
+    void mirrorPath(const Unit& unit) {
+        const PathShape original = readPath(unit.art, unit.selection);
+        const MirroredPath& mirrored = mirror_.mirror(original);
+        for (const PlacedArt& placed :
+             replacePath(unit, original, finished(mirrored), foldOf(mirrored)))
+            makeCopies(unit, placed);
+    }
+
+    void mirrorCompound(const Unit& unit) {
+        std::vector<PathShape> originals;
+        for (const AIArtHandle path : pathsInside(unit.art))
+            originals.push_back(readPath(path, attributesOf(path, kSelectionAttributes)));
+        const MirroredPath& mirrored = mirror_.mirrorCompound(originals);
+        if (mirrored.contours.empty()) return;
+        makeCopies(unit, replaceMembers(unit, originals, finished(mirrored), foldOf(mirrored)));
+    }
+
+    [[nodiscard]] Matrix foldOf(const MirroredPath& mirrored) const {
+        return foldMatrix(axes_, mirrored.sector);
+    }
+
+    /// `mirrored` as it enters the document: when the user wants it, without the anchors on the
+    /// axes.
+    [[nodiscard]] const MirroredPath& finished(const MirroredPath& mirrored) {
+        if (!removePoints_ || mirrored.unchanged) return mirrored;
+        finished_ = mirrored;
+        for (Contour& contour : finished_.contours)
+            contour.shape = removeRedundantAxisPoints(std::move(contour.shape), axes_);
+        return finished_;
+    }
+
+    /// The copies lie directly behind `placed`, so that all images of one object are neighbours in
+    /// paint order.
+    void makeCopies(const Unit& unit, const PlacedArt& placed) {
+        const CopySource source{.art = placed.art,
+                                .marks = unit.marks,
+                                .selected = (unit.selection & kArtSelected) != 0,
+                                .parts = unit.kind == UnitKind::PluginGroup
+                                             ? Transform::AndTellPlugins
+                                             : Transform::Whole};
+        AIArtHandle behind = placed.art;
+        for (AIRealMatrix& matrix : matrices_.of(placed.images))
+            behind = copies_.make(source, matrix, behind);
+    }
+
+    SymmetryAxes axes_; ///< In page coordinates.
+    bool removePoints_;
+    CopyMaker copies_;
+    ImageMatrices matrices_;
+    PathMirror mirror_;
+    MirroredPath finished_;
+    bool pathsTooLong_ = false;
+};
+
+} // namespace
+
+MirrorEngine::MirrorEngine(MirrorEnvironment environment) : environment_(std::move(environment)) {}
+
+void MirrorEngine::run(bool selectionMode, bool keepCurrentAxes, bool option, AILayerHandle layer) {
+    const AILayerHandle top = selectionMode ? nullptr : topLevelLayer(layer);
+    if (!selectionMode && top == nullptr) return;
+    bool pathsTooLong = option;
+    {
+        const Restore saved{environment_.currentAxes};
+        if (!selectionMode && !keepCurrentAxes) LayerAxesStore::read(top, environment_.currentAxes);
+        if (environment_.currentAxes.axisCount < kFewestAxes) return;
+        // A live layer keeps the anchors on its axes: its joined paths are cut there again and
+        // again, and an anchor in place is a cut that moves nothing.
+        Run mirroring{inArtSpace(environment_.currentAxes),
+                      selectionMode ? CopyMode::Plain : CopyMode::Live,
+                      selectionMode && environment_.removePoints};
+        for (const Unit& unit : selectionMode ? unitsOfSelection() : unitsOfLayer(top))
+            mirroring.mirror(unit);
+        pathsTooLong = pathsTooLong || mirroring.pathsTooLong();
+    }
+    restartPen(environment_.ownTool);
+    if (pathsTooLong && environment_.showMessage) environment_.showMessage(kPathsTooLong);
+}
+
+} // namespace facetta

@@ -1,0 +1,165 @@
+#include "symmetry/PathReplacement.h"
+
+#include "host/Art.h"
+#include "host/Error.h"
+#include "host/Owned.h"
+#include "host/Suites.h"
+#include "host/suites/AIArtSuite.h"
+#include "host/suites/AIPathSuite.h"
+#include "symmetry/ArtSpace.h"
+#include "symmetry/ArtTree.h"
+#include "symmetry/ImageCopies.h"
+#include "symmetry/MirrorTag.h"
+#include "symmetry/PathArt.h"
+
+#include <algorithm>
+#include <span>
+
+namespace facetta {
+namespace {
+
+/// New art that is disposed of again unless it is released: so a path that turns out too long
+/// leaves nothing behind.
+struct DraftTraits {
+    using Ref = AIArtHandle;
+    static void release(Ref art) noexcept { suites.art->DisposeArt(art); }
+};
+using Draft = ai::Owned<DraftTraits>;
+
+/// A bit of `TransferAttributes`: fill, stroke and appearance.
+constexpr ai::uint32 kTransferStyle = 1U << 1;
+
+Draft newArt(ai::int16 type, ai::int16 order, AIArtHandle place) {
+    Draft art;
+    ai::check(suites.art->NewArt(type, order, place, art.put()));
+    return art;
+}
+
+void foldArt(AIArtHandle art, const Matrix& fold, Transform parts) {
+    AIRealMatrix matrix = narrow(fold);
+    transformArt(art, matrix, parts);
+}
+
+/// Gradients and patterns follow the art into sector 0; new geometry is in its place already.
+void foldPaint(AIArtHandle art, const Matrix& fold) {
+    if (fold != Matrix{}) foldArt(art, fold, Transform::PaintOnly);
+}
+
+void carryOver(const Unit& source, AIArtHandle art, const Matrix& fold) {
+    ai::check(suites.art->TransferAttributes(source.art, art, kTransferAll));
+    foldPaint(art, fold);
+    if (source.marks.mirror != MirrorTag::kSource) MirrorTag::set(art, source.marks.mirror);
+}
+
+Draft newPath(const Contour& contour, ai::int16 order, AIArtHandle place) {
+    Draft path = newArt(kPathArt, order, place);
+    writePath(path.get(), contour.shape);
+    ai::check(suites.path->SetPathGuide(path.get(), false));
+    return path;
+}
+
+void selectAll(std::span<const Draft> paths, const std::vector<Contour>& contours) {
+    for (std::size_t i = 0; i < paths.size(); ++i)
+        selectAnchors(paths[i].get(), contours[i].shape);
+}
+
+/// Members for `compound`, behind those that it has.
+std::vector<Draft> newMembers(AIArtHandle compound, const std::vector<Contour>& contours) {
+    std::vector<Draft> members;
+    for (const Contour& contour : contours)
+        members.push_back(newPath(contour, kPlaceInsideOnBottom, compound));
+    return members;
+}
+
+/// The members share one style, which the host may keep on each of them.
+void styleMembers(std::span<const Draft> members, AIArtHandle like) {
+    for (const Draft& member : members)
+        ai::check(suites.art->TransferAttributes(like, member.get(), kTransferStyle));
+}
+
+void keep(std::vector<Draft>& drafts) {
+    for (Draft& draft : drafts)
+        static_cast<void>(draft.release());
+}
+
+std::vector<PlacedArt> replaceByCompound(const Unit& source, const MirroredPath& mirrored,
+                                         const Matrix& fold) {
+    Draft compound = newArt(kCompoundPathArt, kPlaceBelow, source.art);
+    std::vector<Draft> members = newMembers(compound.get(), mirrored.contours);
+    styleMembers(members, source.art);
+    carryOver(source, compound.get(), fold);
+    selectAll(members, mirrored.contours);
+    ai::check(suites.art->DisposeArt(source.art));
+    keep(members);
+    return {{compound.release(), mirrored.contours.front().images}};
+}
+
+std::vector<PlacedArt> replaceByPaths(const Unit& source, const MirroredPath& mirrored,
+                                      const Matrix& fold) {
+    std::vector<Draft> paths;
+    AIArtHandle inFront = source.art;
+    for (const Contour& contour : mirrored.contours) {
+        paths.push_back(newPath(contour, kPlaceBelow, inFront));
+        inFront = paths.back().get();
+        carryOver(source, inFront, fold);
+    }
+    selectAll(paths, mirrored.contours);
+    ai::check(suites.art->DisposeArt(source.art));
+    std::vector<PlacedArt> placed;
+    for (std::size_t i = 0; i < paths.size(); ++i)
+        placed.push_back({paths[i].release(), mirrored.contours[i].images});
+    return placed;
+}
+
+bool isFolded(const PathShape& original, const Contour& contour, const Matrix& fold) {
+    return contour.images == Images::All && original.closed == contour.shape.closed &&
+           std::ranges::equal(original.segments, contour.shape.segments,
+                              [&fold](const PathSegment& before, const PathSegment& after) {
+                                  return sameShape(transformed(before, fold), after);
+                              });
+}
+
+/// Whether the fold alone leads from the originals to the contours.
+bool onlyFolded(std::span<const PathShape> originals, const MirroredPath& mirrored,
+                const Matrix& fold) {
+    return std::ranges::equal(originals, mirrored.contours,
+                              [&fold](const PathShape& original, const Contour& contour) {
+                                  return isFolded(original, contour, fold);
+                              });
+}
+
+} // namespace
+
+std::vector<PlacedArt> replacePath(const Unit& source, const PathShape& original,
+                                   const MirroredPath& mirrored, const Matrix& fold) {
+    if (mirrored.contours.empty()) return {};
+    if (mirrored.unchanged) return {{source.art, mirrored.contours.front().images}};
+    if (onlyFolded({&original, 1}, mirrored, fold)) {
+        foldArt(source.art, fold, Transform::Whole);
+        return {{source.art, Images::All}};
+    }
+    return mirrored.compound && mirrored.contours.size() > 1
+               ? replaceByCompound(source, mirrored, fold)
+               : replaceByPaths(source, mirrored, fold);
+}
+
+PlacedArt replaceMembers(const Unit& compound, const std::vector<PathShape>& originals,
+                         const MirroredPath& mirrored, const Matrix& fold) {
+    const PlacedArt placed{compound.art, mirrored.contours.front().images};
+    if (mirrored.unchanged) return placed;
+    if (onlyFolded(originals, mirrored, fold)) {
+        foldArt(compound.art, fold, Transform::Whole);
+        return placed;
+    }
+    const std::vector<AIArtHandle> formerMembers = childrenOf(compound.art);
+    std::vector<Draft> members = newMembers(compound.art, mirrored.contours);
+    styleMembers(members, pathsInside(compound.art).front());
+    selectAll(members, mirrored.contours);
+    for (const AIArtHandle former : formerMembers)
+        ai::check(suites.art->DisposeArt(former));
+    keep(members);
+    foldPaint(compound.art, fold);
+    return placed;
+}
+
+} // namespace facetta

@@ -1,0 +1,34 @@
+#pragma once
+
+/// Putting the mirrored form of a path in the place of its source.
+
+#include "host/Handles.h"
+#include "symmetry/MirrorPath.h"
+#include "symmetry/WorkSet.h"
+
+#include <vector>
+
+namespace facetta {
+
+/// One object that stands for a mirrored source and the copies it still needs.
+struct PlacedArt {
+    AIArtHandle art = nullptr;
+    Images images = Images::All;
+};
+
+/// Replaces the path of `source`, which reads `original`, by `mirrored`, under `fold` (the map that
+/// carried its active sector onto sector 0). A source that comes out the same stays untouched, and
+/// one that is only folded stays the same object. Otherwise new paths take its place, with its
+/// style and other attributes, its marks and what was selected of it, and it is deleted.
+///
+/// 'SEGM', thrown as `ai::Error`, leaves the document as it was.
+[[nodiscard]] std::vector<PlacedArt> replacePath(const Unit& source, const PathShape& original,
+                                                 const MirroredPath& mirrored, const Matrix& fold);
+
+/// The same for a compound path, whose `members` read `originals`. The compound itself stays and
+/// gets new members.
+[[nodiscard]] PlacedArt replaceMembers(const Unit& compound,
+                                       const std::vector<PathShape>& originals,
+                                       const MirroredPath& mirrored, const Matrix& fold);
+
+} // namespace facetta

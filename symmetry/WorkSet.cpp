@@ -1,0 +1,205 @@
+#include "symmetry/WorkSet.h"
+
+#include "host/Art.h"
+#include "host/Error.h"
+#include "host/suites/AIArtSuite.h"
+#include "host/suites/AIPluginGroupSuite.h"
+#include "host/suites/AISymbolSuite.h"
+#include "symmetry/AllChangesAllowed.h"
+#include "symmetry/ArtList.h"
+#include "symmetry/ArtTree.h"
+#include "symmetry/MirrorTag.h"
+
+#include <algorithm>
+#include <ranges>
+#include <span>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace facetta {
+namespace {
+
+/// What an object inherits from the containers around it.
+struct Surroundings {
+    bool blocked = false;       ///< One of them is locked or hidden.
+    bool generated = false;     ///< One of them is a copy of an earlier run.
+    AIArtHandle unit = nullptr; ///< The outermost that is mirrored as one.
+};
+
+bool isPlainGroup(AIArtHandle art, ai::int16 type) {
+    return type == kGroupArt && (isLayerGroup(art) || !isClipGroup(art));
+}
+
+/// Whether the object itself is locked or hidden, or the layer whose group it is. Layers are asked
+/// for all that contain them: a host may give the group of a sublayer no parent.
+bool isBlocked(AIArtHandle container, ai::int16 type) {
+    if (attributesOf(container, kArtLocked | kArtHidden) != 0) return true;
+    if (type != kGroupArt || !isLayerGroup(container)) return false;
+    AILayerHandle layer = nullptr;
+    ai::check(suites.art->GetLayerOfArt(container, &layer));
+    return isLayerBlocked(layer);
+}
+
+/// Answers what surrounds an object, asking the host about each container once.
+class Containers {
+public:
+    explicit Containers(const MarkKeys& keys) : keys_(keys) {}
+
+    [[nodiscard]] const Surroundings& around(AIArtHandle art) {
+        const AIArtHandle parent = parentOf(art);
+        if (lastAnswer_ == nullptr || parent != lastParent_) {
+            lastAnswer_ = &inside(parent);
+            lastParent_ = parent;
+        }
+        return *lastAnswer_;
+    }
+
+    /// A plug-in group does not list its edit and result art as children, and a host may give them
+    /// no parent either.
+    void enterPluginGroup(AIArtHandle group, const Surroundings& around) {
+        Surroundings within = around;
+        if (within.unit == nullptr) within.unit = group;
+        AIArtHandle edit = nullptr;
+        AIArtHandle result = nullptr;
+        ai::check(suites.pluginGroup->GetPluginArtEditArt(group, &edit));
+        ai::check(suites.pluginGroup->GetPluginArtResultArt(group, &result));
+        for (const AIArtHandle part : {edit, result})
+            if (part != nullptr) known_.insert_or_assign(part, within);
+    }
+
+private:
+    /// References stay good: a map of nodes moves none of them.
+    const Surroundings& inside(AIArtHandle container) {
+        std::vector<AIArtHandle> unknown;
+        auto found = known_.find(container);
+        while (found == known_.end() && container != nullptr) {
+            unknown.push_back(container);
+            container = parentOf(container);
+            found = known_.find(container);
+        }
+        const Surroundings* answer = found != known_.end() ? &found->second : &known_[nullptr];
+        for (const AIArtHandle inner : std::views::reverse(unknown))
+            answer = &(known_[inner] = entered(*answer, inner));
+        return *answer;
+    }
+
+    Surroundings entered(Surroundings around, AIArtHandle container) const {
+        const ai::int16 type = typeOf(container);
+        around.blocked = around.blocked || isBlocked(container, type);
+        around.generated = around.generated || marksOf(container, keys_).mirror == MirrorTag::kCopy;
+        if (around.unit == nullptr && !isPlainGroup(container, type)) around.unit = container;
+        return around;
+    }
+
+    MarkKeys keys_;
+    std::unordered_map<AIArtHandle, Surroundings> known_;
+    AIArtHandle lastParent_ = nullptr;
+    const Surroundings* lastAnswer_ = nullptr;
+};
+
+bool isGuideUnit(AIArtHandle art, ai::int16 type) {
+    if (type == kPathArt) return isGuide(art);
+    if (type != kCompoundPathArt) return false;
+    AIArtHandle first = nullptr;
+    ai::check(suites.art->GetArtFirstChild(art, &first));
+    return first != nullptr && typeOf(first) == kPathArt && isGuide(first);
+}
+
+/// An instance whose definition belongs to another document cannot be copied in this one.
+bool isForeignSymbol(AIArtHandle art, ai::int16 type) {
+    if (type != kSymbolArt) return false;
+    AIPatternHandle definition = nullptr;
+    const AIErr error = suites.symbol->GetSymbolPatternOfSymbolArt(art, &definition);
+    if (error == kSymbolNotInCurrentDocument) return true;
+    ai::check(error);
+    return false;
+}
+
+UnitKind kindOf(ai::int16 type) {
+    switch (type) {
+    case kPathArt:
+        return UnitKind::Path;
+    case kCompoundPathArt:
+        return UnitKind::CompoundPath;
+    case kPluginArt:
+        return UnitKind::PluginGroup;
+    default:
+        return UnitKind::Whole;
+    }
+}
+
+/// Turns a list of art, containers before their members, into units.
+class UnitCollector {
+public:
+    enum class Copies { AreArt, AreDeleted };
+
+    explicit UnitCollector(Copies copies) : copies_(copies) {}
+
+    void examine(AIArtHandle art) {
+        const Surroundings& around = containers_.around(art);
+        if (around.generated && copies_ == Copies::AreDeleted) return; // goes with its container
+        const ArtMarks marks = marksOf(art, keys_);
+        if (marks.mirror == MirrorTag::kCopy && copies_ == Copies::AreDeleted) {
+            doomed_.push_back(art);
+            return;
+        }
+        if (around.unit == nullptr)
+            consider(art, marks, around);
+        else if (!seen_.contains(around.unit))
+            consider(around.unit, marksOf(around.unit, keys_), containers_.around(around.unit));
+    }
+
+    /// Deletes the copies that were found; unlocking comes first, whether or not the host asks for
+    /// it.
+    void deleteCopies() {
+        if (doomed_.empty()) return;
+        const AllChangesAllowed evenInLockedGroups;
+        for (const AIArtHandle copy : std::views::reverse(doomed_)) {
+            ai::check(suites.art->SetArtUserAttr(copy, kArtLocked | kArtHidden, 0));
+            ai::check(suites.art->DisposeArt(copy));
+        }
+        doomed_.clear();
+    }
+
+    [[nodiscard]] std::vector<Unit> take() { return std::move(units_); }
+
+private:
+    void consider(AIArtHandle art, const ArtMarks& marks, const Surroundings& around) {
+        if (!seen_.insert(art).second) return;
+        const ai::int16 type = typeOf(art);
+        if (type == kPluginArt) containers_.enterPluginGroup(art, around);
+        if (around.blocked || isPlainGroup(art, type)) return;
+        const ai::int32 state =
+            attributesOf(art, kArtLocked | kArtHidden | kArtSelected | kArtFullySelected);
+        if ((state & (kArtLocked | kArtHidden)) != 0) return;
+        if (isGuideUnit(art, type) || isForeignSymbol(art, type)) return;
+        units_.push_back({art, kindOf(type), state, marks});
+    }
+
+    Copies copies_;
+    MarkKeys keys_ = markKeys();
+    Containers containers_{keys_};
+    std::unordered_set<AIArtHandle> seen_;
+    std::vector<AIArtHandle> doomed_;
+    std::vector<Unit> units_;
+};
+
+std::vector<Unit> collect(std::span<const AIArtHandle> art, UnitCollector::Copies copies) {
+    UnitCollector collector{copies};
+    for (const AIArtHandle object : art)
+        collector.examine(object);
+    collector.deleteCopies();
+    return collector.take();
+}
+
+} // namespace
+
+std::vector<Unit> unitsOfSelection() {
+    return collect(selectedArt(), UnitCollector::Copies::AreArt);
+}
+
+std::vector<Unit> unitsOfLayer(AILayerHandle layer) {
+    return collect(artOnLayer(layer), UnitCollector::Copies::AreDeleted);
+}
+
+} // namespace facetta

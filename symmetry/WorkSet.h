@@ -1,0 +1,39 @@
+#pragma once
+
+/// What one run of the engine mirrors.
+
+#include "host/Handles.h"
+#include "host/Types.h"
+#include "symmetry/ArtMarks.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace facetta {
+
+/// How an object is mirrored.
+enum class UnitKind : std::uint8_t {
+    Path,         ///< Cut and joined at the axes.
+    CompoundPath, ///< The same, member by member; it stays one compound path.
+    PluginGroup,  ///< As it is; the plug-in that owns it is told.
+    Whole,        ///< As it is: clip groups, symbols, text, pictures and all else.
+};
+
+/// An object that is mirrored as one. No unit contains another.
+struct Unit {
+    AIArtHandle art = nullptr;
+    UnitKind kind = UnitKind::Whole;
+    ai::int32 selection = 0; ///< `kArtSelected` and `kArtFullySelected`, as far as they are set.
+    ArtMarks marks;
+};
+
+/// The units of the selection, front-most first. Guides, and what is locked or hidden, are left
+/// out. Plain groups are opened: their members are units, and the group stays around them. Where
+/// only part of a unit is selected, it counts whole. Throws `ai::Error`.
+[[nodiscard]] std::vector<Unit> unitsOfSelection();
+
+/// The same for the source art of a layer and its sublayers. The copies of earlier runs on it, even
+/// locked and hidden ones, are DELETED from the document.
+[[nodiscard]] std::vector<Unit> unitsOfLayer(AILayerHandle layer);
+
+} // namespace facetta
