@@ -9,13 +9,13 @@ namespace facetta {
 /// While it lives the host lets changes through to objects inside locked or hidden groups and
 /// layers. Copies may lie there, and must be reached to be deleted or released. Throws `ai::Error`.
 class AllChangesAllowed {
-  public:
+public:
     AllChangesAllowed() { ai::check(suites.appContext->AllowAllChanges(true, &before_)); }
     ~AllChangesAllowed() { suites.appContext->AllowAllChanges(before_, &ignored_); }
     AllChangesAllowed(const AllChangesAllowed&) = delete;
     AllChangesAllowed& operator=(const AllChangesAllowed&) = delete;
 
-  private:
+private:
     AIBoolean before_ = false;
     AIBoolean ignored_ = false;
 };

@@ -1,5 +1,6 @@
 #include "symmetry/RealText.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
