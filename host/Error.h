@@ -22,4 +22,13 @@ inline void check(AIErr code) {
 /// foreign code calls us. Out of memory is '!MEM', whatever is not ours is 'CANT'.
 [[nodiscard]] AIErr currentErrorCode() noexcept;
 
+/// Runs `work` and answers its code, or the code of what it threw.
+template <typename Work> [[nodiscard]] AIErr codeOf(const Work& work) noexcept {
+    try {
+        return work();
+    } catch (...) {
+        return currentErrorCode();
+    }
+}
+
 } // namespace ai

@@ -6,8 +6,11 @@
 #include "host/suites/AIAnnotatorSuite.h"
 #include "host/suites/AIToolSuite.h"
 #include "host/suites/AIUserSuite.h"
+#include "platform/Platform.h"
+#include "shell/Alert.h"
 #include "shell/Help.h"
 #include "shell/PreferenceStore.h"
+#include "tool/SymmetryTool.h"
 
 #include <new>
 #include <string>
@@ -57,11 +60,11 @@ AIErr FacettaPlugin::Startup(SPInterfaceMessage& message) {
     if (!licence.allows(GuardedAction::StartUp)) return kNoErr;
     // Once the base has started the plug-in stays, with whatever could be registered; a failure
     // here is told to the user and no more.
-    try {
+    const AIErr err = ai::codeOf([&] {
         startProduct();
-    } catch (...) {
-        ReportError(ai::currentErrorCode(), kCallerInterface, kSelectorStartup, &message);
-    }
+        return kNoErr;
+    });
+    if (err != kNoErr) ReportError(err, kCallerInterface, kSelectorStartup, &message);
     return kNoErr;
 }
 
@@ -140,6 +143,70 @@ AIErr FacettaPlugin::GoMenuItem(AIMenuMessage& message) {
 
 AIErr FacettaPlugin::UpdateMenuItem(AIMenuMessage&) {
     // The check mark of "Facetta Panel" follows the panel; without one it stays as it is.
+    return kNoErr;
+}
+
+MirrorEnvironment FacettaPlugin::mirroring() {
+    return {.currentAxes = tool.axes,
+            .removePoints = preferences.removePoints,
+            .ownTool = toolHandle,
+            .showMessage = showAlert};
+}
+
+template <typename Handler>
+AIErr FacettaPlugin::withTool(const AIToolMessage& message, Handler handler) {
+    if (message.tool == nullptr || message.tool != toolHandle) return kNoErr;
+    // The view may have come up before the notification that tells of it.
+    if (view.handle == nullptr && documentIsOpen()) view = fetchCurrentView();
+    ToolSession session{tool, preferences, hostPreferences, view, licence, mirroring()};
+    handler(session);
+    return kNoErr;
+}
+
+AIErr FacettaPlugin::EditTool(AIToolMessage& message) {
+    return withTool(message, [](ToolSession& s) { editOptions(s, platform::readKeys()); });
+}
+
+AIErr FacettaPlugin::TrackToolCursor(AIToolMessage& message) {
+    return withTool(message, [&](ToolSession& s) { trackCursor(s, message); });
+}
+
+AIErr FacettaPlugin::ToolMouseDown(AIToolMessage& message) {
+    if (!licence.allows(GuardedAction::ToolMouseDown)) return kNoErr;
+    return withTool(message, [&](ToolSession& s) { mouseDown(s, message); });
+}
+
+AIErr FacettaPlugin::ToolMouseDrag(AIToolMessage& message) {
+    return withTool(message, [&](ToolSession& s) { mouseDrag(s, message, platform::readKeys()); });
+}
+
+AIErr FacettaPlugin::ToolMouseUp(AIToolMessage& message) {
+    return withTool(message, [&](ToolSession& s) { mouseUp(s, message); });
+}
+
+AIErr FacettaPlugin::SelectTool(AIToolMessage& message) {
+    return withTool(message, [&](ToolSession& s) { facetta::selectTool(s, message); });
+}
+
+AIErr FacettaPlugin::DeselectTool(AIToolMessage& message) {
+    return withTool(message, [](ToolSession& s) { facetta::deselectTool(s); });
+}
+
+AIErr FacettaPlugin::DecreaseDiameter(AIToolMessage& message) {
+    return withTool(message, [](ToolSession& s) { changeAxisCount(s, -1); });
+}
+
+AIErr FacettaPlugin::IncreaseDiameter(AIToolMessage& message) {
+    return withTool(message, [](ToolSession& s) { changeAxisCount(s, 1); });
+}
+
+AIErr FacettaPlugin::AnnotatorDraw(AIAnnotatorMessage&) {
+    // The overlay paints here once it is there; an empty picture is no failure.
+    return kNoErr;
+}
+
+AIErr FacettaPlugin::AnnotatorInvalidate(AIAnnotatorMessage& message) {
+    if (message.annotator == annotator) redrawOverlay(view);
     return kNoErr;
 }
 

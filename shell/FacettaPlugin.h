@@ -3,6 +3,7 @@
 #include "shell/Menus.h"
 #include "shell/Notifications.h"
 #include "shell/Plugin.h"
+#include "symmetry/MirrorEngine.h"
 #include "tool/CurrentView.h"
 #include "tool/Licensing.h"
 #include "tool/Preferences.h"
@@ -29,7 +30,21 @@ public:
     AIErr Notify(AINotifierMessage& message) override;
     AIErr GoMenuItem(AIMenuMessage& message) override;
     AIErr UpdateMenuItem(AIMenuMessage& message) override;
+    AIErr EditTool(AIToolMessage& message) override;
+    AIErr TrackToolCursor(AIToolMessage& message) override;
+    AIErr ToolMouseDown(AIToolMessage& message) override;
+    AIErr ToolMouseDrag(AIToolMessage& message) override;
+    AIErr ToolMouseUp(AIToolMessage& message) override;
+    AIErr SelectTool(AIToolMessage& message) override;
+    AIErr DeselectTool(AIToolMessage& message) override;
+    AIErr DecreaseDiameter(AIToolMessage& message) override;
+    AIErr IncreaseDiameter(AIToolMessage& message) override;
+    AIErr AnnotatorDraw(AIAnnotatorMessage& message) override;
+    AIErr AnnotatorInvalidate(AIAnnotatorMessage& message) override;
     AIErr GoTimer(AITimerMessage& message) override;
+
+    /// What the symmetry room takes from the plug-in for one message.
+    [[nodiscard]] MirrorEnvironment mirroring();
 
     Licensing licence;
     bool licenceChanged = false;      ///< since start-up
@@ -46,6 +61,9 @@ public:
     AIToolHandle toolHandle = nullptr;
 
 private:
+    /// Runs a handler of the tool on a message to our tool; messages to others are none of ours.
+    template <typename Handler> AIErr withTool(const AIToolMessage& message, Handler handler);
+
     void startProduct();
     bool addAnnotator();
     bool addTool();

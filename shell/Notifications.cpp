@@ -3,10 +3,11 @@
 #include "host/Codes.h"
 #include "host/MessageNames.h"
 #include "host/Suites.h"
-#include "host/suites/AIDocumentListSuite.h"
 #include "host/suites/AINotifierSuite.h"
 #include "shell/FacettaPlugin.h"
 #include "shell/PreferenceStore.h"
+#include "symmetry/LiveLayers.h"
+#include "tool/CurrentAxes.h"
 
 #include <algorithm>
 
@@ -15,11 +16,6 @@ namespace {
 
 constexpr char kRegistrationName[] = "FacettaPlugin";
 
-bool documentsRemain() {
-    ai::int32 count = 0;
-    return ai::suites.documentList->Count(&count) == kNoErr && count > 0;
-}
-
 void followLicence(FacettaPlugin& plugin) { plugin.licenceChanged = true; }
 
 void followConstrainAngle(FacettaPlugin& plugin) {
@@ -27,47 +23,45 @@ void followConstrainAngle(FacettaPlugin& plugin) {
 }
 
 void fetchView(FacettaPlugin& plugin) {
-    plugin.view = fetchCurrentView();
-    plugin.tool.dialog = placedIn(plugin.view.pixels, plugin.tool.dialog);
+    plugin.view = documentIsOpen() ? fetchCurrentView() : CurrentView{};
 }
 
-void fetchViewOfRemaining(FacettaPlugin& plugin) {
-    if (documentsRemain())
-        fetchView(plugin);
-    else
-        plugin.view = {};
-}
-
-void fetchViewOnly(FacettaPlugin& plugin) {
-    if (documentsRemain()) plugin.view = fetchCurrentView();
+void fetchViewAndPlaceDialog(FacettaPlugin& plugin) {
+    fetchView(plugin);
+    if (plugin.view.handle != nullptr)
+        plugin.tool.dialog = placedIn(plugin.view.pixels, plugin.tool.dialog);
 }
 
 /// Known to the handlers that follow, with no reaction of its own.
 void passOn(FacettaPlugin&) {}
 
+/// May the art of a live layer, or which layer is current, be another than before?
+enum class Document : bool { Same, MayHaveChanged };
+
 struct Row {
     const char* type;
     void (*react)(FacettaPlugin&);
+    Document document = Document::Same;
 };
 
 constexpr Row kRows[] = {
     {kLicenceChangedNotifier, followLicence},
     {kPreferenceChangedNotifier, followConstrainAngle},
-    {"AI Document Opened Notifier", fetchView},
-    {"AI Document Closed Notifier", fetchViewOfRemaining},
-    {"AI Document Changed Notifier", fetchViewOfRemaining},
-    {"AI Document View Changed Notifier", fetchViewOfRemaining},
-    {"AI Document View Style Active View Changed Notifier", fetchView},
+    {"AI Document Opened Notifier", fetchViewAndPlaceDialog},
+    {"AI Document Closed Notifier", fetchViewAndPlaceDialog},
+    {"AI Document Changed Notifier", fetchViewAndPlaceDialog, Document::MayHaveChanged},
+    {"AI Document View Changed Notifier", fetchViewAndPlaceDialog},
+    {"AI Document View Style Active View Changed Notifier", fetchViewAndPlaceDialog},
     {"AI Document Write Preprocess Notifier", passOn},
-    {kArtSelectionChangedNotifier, passOn},
-    {kArtPropertiesChangedNotifier, passOn},
-    {"AI Current Layer Notifier", passOn},
-    {"AI Layer Set Notifier", passOn},
-    {"AI Layer Options Notifier", passOn},
-    {"AI Command Notifier: After Undo", passOn},
-    {"AI Command Notifier: After Redo", passOn},
-    {"AI Command Notifier: After Lock", passOn},
-    {"AI Command Notifier: After Unlock All", passOn},
+    {kArtSelectionChangedNotifier, passOn, Document::MayHaveChanged},
+    {kArtPropertiesChangedNotifier, passOn, Document::MayHaveChanged},
+    {"AI Current Layer Notifier", passOn, Document::MayHaveChanged},
+    {"AI Layer Set Notifier", passOn, Document::MayHaveChanged},
+    {"AI Layer Options Notifier", passOn, Document::MayHaveChanged},
+    {"AI Command Notifier: After Undo", passOn, Document::MayHaveChanged},
+    {"AI Command Notifier: After Redo", passOn, Document::MayHaveChanged},
+    {"AI Command Notifier: After Lock", passOn, Document::MayHaveChanged},
+    {"AI Command Notifier: After Unlock All", passOn, Document::MayHaveChanged},
     {"AI Document Ruler Unit Changed Notifier", passOn},
     {"AI Tool Suspend Notifier", passOn},
     {"AI Tool Resume Notifier", passOn},
@@ -75,11 +69,21 @@ constexpr Row kRows[] = {
     {"AI Tool Resumed by Cmd Key Notifier", passOn},
     {"AI Tool Suspended by Spacebar Notifier", passOn},
     {"AI Tool Resumed by Spacebar Notifier", passOn},
-    {"AI Current Coordinate System Changed Notifier", fetchViewOnly},
+    {"AI Current Coordinate System Changed Notifier", fetchView},
     {"AI Document Ruler Origin Changed Notifier", passOn},
     {kShowAllPanelsNotifier, passOn}, // the panel shows itself here once there is one
 };
 static_assert(std::size(kRows) == kNotifierCount);
+
+/// Live layers are brought up to date, and the axes shown are those of the current layer.
+void followDocument(FacettaPlugin& plugin) {
+    if (!documentIsOpen()) {
+        dropAxes(plugin.tool);
+        return;
+    }
+    regenerateChangedLayers(plugin.mirroring());
+    followCurrentLayer(plugin.tool);
+}
 
 } // namespace
 
@@ -95,7 +99,9 @@ void handleNotification(FacettaPlugin& plugin, AINotifierHandle notifier) {
     const auto& handles = plugin.notifiers;
     const auto found = std::ranges::find(handles, notifier);
     if (notifier == nullptr || found == handles.end()) return;
-    kRows[found - handles.begin()].react(plugin);
+    const Row& row = kRows[found - handles.begin()];
+    row.react(plugin);
+    if (row.document == Document::MayHaveChanged) followDocument(plugin);
 }
 
 } // namespace facetta

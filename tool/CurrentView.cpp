@@ -3,6 +3,7 @@
 #include "host/Error.h"
 #include "host/Suites.h"
 #include "host/suites/AIAnnotatorSuite.h"
+#include "host/suites/AIDocumentListSuite.h"
 #include "host/suites/AIDocumentViewSuite.h"
 
 namespace facetta {
@@ -18,6 +19,11 @@ AIPoint toPixels(AIDocumentViewHandle view, AIReal h, AIReal v) {
 }
 
 } // namespace
+
+bool documentIsOpen() {
+    ai::int32 count = 0;
+    return ai::suites.documentList->Count(&count) == kNoErr && count > 0;
+}
 
 CurrentView fetchCurrentView() {
     CurrentView view;

@@ -11,6 +11,8 @@ struct CurrentView {
     AIRect pixels{}; ///< its visible part in view pixels, y down
 };
 
+[[nodiscard]] bool documentIsOpen();
+
 /// The current view as the host has it now. Throws `ai::Error`, as without a document.
 [[nodiscard]] CurrentView fetchCurrentView();
 

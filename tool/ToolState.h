@@ -19,6 +19,9 @@ enum class ToolZone : ai::int32 {
     LayerLocked = 7,
 };
 
+/// How this host takes the point of a cursor-snap call; it differs between generations.
+enum class SnapPointForm : ai::uint8 { Unknown, Reference, Value };
+
 /// Where the tool stands between two messages. Written by the tool's handlers; read by the panel
 /// and the overlay.
 struct ToolState {
@@ -40,10 +43,17 @@ struct ToolState {
     AIRealPoint mouseDown{};
     AIRealPoint previousCursor{};
     AIRealPoint cursor{};
-    AIRealPoint newAxesAnchor{}; ///< the mouse-down point after snapping: origin of new axes
+    AIRealPoint anchor{}; ///< the mouse-down point after snapping: the origin of new axes
 
-    double snapDistance = 0.0; ///< points; fixed when a drag begins
-    DialogPosition dialog;     ///< top left corner of the on-canvas dialog
+    double snapDistance = 0.0;            ///< points; fixed when a drag begins
+    bool sectorHandleHighlighted = false; ///< the cursor is over the active sector's handle
+    SnapPointForm snapPointForm = SnapPointForm::Unknown;
+    DialogPosition dialog; ///< top left corner of the on-canvas dialog
 };
+
+/// Are axes being made, or edited apart from their layer?
+[[nodiscard]] constexpr bool hasAxes(const ToolState& state) {
+    return state.axes.provisional || state.axes.onLayer;
+}
 
 } // namespace facetta

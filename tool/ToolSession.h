@@ -1,0 +1,22 @@
+#pragma once
+
+#include "symmetry/MirrorEngine.h"
+#include "tool/CurrentView.h"
+#include "tool/Licensing.h"
+#include "tool/Preferences.h"
+#include "tool/ToolState.h"
+
+namespace facetta {
+
+/// What the tool's handlers work on for the length of one message: the state they own and what the
+/// plug-in lends them.
+struct ToolSession {
+    ToolState& state;
+    Preferences& preferences; ///< angle and count of the next new axes follow the tool
+    const HostPreferences& host;
+    const CurrentView& view;
+    const Licensing& licence;
+    MirrorEnvironment mirroring;
+};
+
+} // namespace facetta
