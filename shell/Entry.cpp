@@ -26,15 +26,6 @@ FacettaPlugin* pluginOf(const Call& call) {
     return static_cast<FacettaPlugin*>(call.data().globals);
 }
 
-/// Runs `work` and answers its code, or the code of what it threw.
-template <typename Work> SPErr guarded(const Work& work) noexcept {
-    try {
-        return work();
-    } catch (...) {
-        return ai::currentErrorCode();
-    }
-}
-
 void endPlugin(const Call& call) {
     delete pluginOf(call);
     call.data().globals = nullptr;
@@ -43,14 +34,14 @@ void endPlugin(const Call& call) {
 SPErr startUp(const Licensing& licensing, const Call& call) {
     // The object is in `globals` while it starts, and leaves again when that fails.
     call.data().globals = new FacettaPlugin(call.data().self, licensing);
-    const SPErr err = guarded(
+    const SPErr err = ai::codeOf(
         [&] { return pluginOf(call)->Startup(*static_cast<SPInterfaceMessage*>(call.message)); });
     if (err != kNoErr) endPlugin(call);
     return err;
 }
 
 SPErr shutDown(const Call& call) {
-    const SPErr err = guarded(
+    const SPErr err = ai::codeOf(
         [&] { return pluginOf(call)->Shutdown(*static_cast<SPInterfaceMessage*>(call.message)); });
     endPlugin(call);
     return err;
@@ -89,7 +80,7 @@ SPErr handle(const Licensing& licensing, const Call& call) {
     return plugin != nullptr ? deliver(*plugin, call) : err;
 }
 
-void report(SPErr err, const Call& call) {
+void report(SPErr err, const Call& call) noexcept {
     if (FacettaPlugin* const plugin = pluginOf(call))
         plugin->ReportError(err, call.caller, call.selector, call.message);
     else
@@ -103,12 +94,8 @@ SPErr handleMessage(const Licensing& licensing, const char* caller, const char* 
     if (caller == nullptr || selector == nullptr || message == nullptr) return kSPBadParameterError;
     const Call call{caller, selector, message};
     ai::basicSuite = call.data().basic;
-    const SPErr err = guarded([&] { return handle(licensing, call); });
-    if (err != kNoErr)
-        guarded([&] {
-            report(err, call);
-            return kNoErr;
-        });
+    const SPErr err = ai::codeOf([&] { return handle(licensing, call); });
+    if (err != kNoErr) report(err, call);
     return err;
 }
 

@@ -1,5 +1,6 @@
 #include "shell/ErrorReport.h"
 
+#include "host/Error.h"
 #include "platform/Platform.h"
 #include "shell/Alert.h"
 
@@ -70,11 +71,15 @@ std::string errorText(AIErr code) {
     return text;
 }
 
-void showError(AIErr code) {
-    if (!isSilent(code)) showAlert(errorText(code));
+void showError(AIErr code) noexcept {
+    if (isSilent(code)) return;
+    static_cast<void>(ai::codeOf([code] {
+        showAlert(errorText(code));
+        return kNoErr;
+    }));
 }
 
-void ErrorReporter::report(AIErr code) {
+void ErrorReporter::report(AIErr code) noexcept {
     if (isSilent(code)) return;
     constexpr ai::uint64 kMillisecondsInSecond = 1000;
     const ai::uint64 now = platform::ticks() / kMillisecondsInSecond;

@@ -16,14 +16,14 @@ namespace facetta {
 /// What the user reads about `code`.
 [[nodiscard]] std::string errorText(AIErr code);
 
-/// Shows `code` in a modal alert, unless it is silent.
-void showError(AIErr code);
+/// Shows `code` in a modal alert, unless it is silent. What cannot be shown is let go.
+void showError(AIErr code) noexcept;
 
 /// Keeps one failure from being shown again and again: the code last shown is not shown once more
 /// within `timeout`.
 class ErrorReporter {
 public:
-    void report(AIErr code);
+    void report(AIErr code) noexcept;
 
 private:
     AIErr lastCode_ = kNoErr;

@@ -35,11 +35,11 @@ bool findBesideLibrary(std::string_view name, ai::FilePath& path) {
     const auto& paths = *ai::suites.filePath;
     ai::FilePath file;
     constexpr AIBool8 kAsItIs = 0;
-    ai::check(paths.Set(ai::UnicodeString(library), kAsItIs, file));
-    ai::check(paths.GetParent(file, path));
-    ai::check(paths.AddComponent(ai::UnicodeString(name), path));
     constexpr AIBool8 kResolveLinks = 1;
-    return paths.Exists(path, kResolveLinks, nullptr, nullptr) != 0;
+    return paths.Set(ai::UnicodeString(library), kAsItIs, file) == kNoErr &&
+           paths.GetParent(file, path) == kNoErr &&
+           paths.AddComponent(ai::UnicodeString(name), path) == kNoErr &&
+           paths.Exists(path, kResolveLinks, nullptr, nullptr) != 0;
 }
 
 bool webIsReachable() { return ai::suites.url->IsBrowserAvailable() != 0; }
@@ -83,8 +83,7 @@ void openManual() {
     if (ai::suites.filePath == nullptr) return;
     ai::FilePath manual;
     constexpr AIBoolean kWithoutDocument = 0;
-    if (findBesideLibrary(kManual, manual))
-        ai::check(ai::suites.user->LaunchApp(manual, kWithoutDocument));
+    if (findBesideLibrary(kManual, manual)) ai::suites.user->LaunchApp(manual, kWithoutDocument);
 }
 
 void openWebPage(std::string_view topic) {

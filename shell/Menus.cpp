@@ -1,7 +1,6 @@
 #include "shell/Menus.h"
 
 #include "host/Codes.h"
-#include "host/Error.h"
 #include "host/Messages.h"
 #include "host/Suites.h"
 #include "host/UnicodeString.h"
@@ -126,8 +125,7 @@ bool addPanelItem(SPPluginRef self, MenuItems& items) {
 
 void chooseMenuItem(const MenuItems& items, AIMenuItemHandle item) {
     if (item == nullptr) return;
-    if (item == items.showAllPanels)
-        ai::check(ai::suites.notifier->Notify(kShowAllPanelsNotifier, nullptr));
+    if (item == items.showAllPanels) ai::suites.notifier->Notify(kShowAllPanelsNotifier, nullptr);
     for (std::size_t i = 0; i < kHelpItemCount; ++i)
         if (item == items.help[i]) kHelpItems[i].chosen();
 }
