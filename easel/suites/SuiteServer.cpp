@@ -113,6 +113,12 @@ SPErr SuiteServer::acquire(const char* name, ai::int32 version, const void** fun
     return kNoErr;
 }
 
+const void* SuiteServer::functions(const char* name, ai::int32 version) const {
+    if (name == nullptr) return nullptr;
+    const auto found = tables_.find({std::string(name), version});
+    return found == tables_.end() ? nullptr : found->second->slots();
+}
+
 SPErr SuiteServer::release(const char* name, ai::int32 version) {
     if (name == nullptr) return kSPBadParameterError;
     const auto found = tables_.find({std::string(name), version});

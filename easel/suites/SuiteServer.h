@@ -70,6 +70,8 @@ public:
 
     /// 'S!Fd' and null when there is no such suite, or when acquiring it is made to fail.
     SPErr acquire(const char* name, ai::int32 version, const void** functions);
+    /// The table of a suite, without counting; null when there is no such suite.
+    [[nodiscard]] const void* functions(const char* name, ai::int32 version) const;
     /// 'SRel' when it is released more often than acquired.
     SPErr release(const char* name, ai::int32 version);
     /// "name version" of every suite still held.

@@ -1,0 +1,86 @@
+#include "easel/runtime/Contexts.h"
+
+#include "easel/core/Registry.h"
+#include "easel/document/Session.h"
+
+#include <utility>
+
+namespace easel {
+
+Contexts::~Contexts() {
+    closeRecord();
+    session().allowAllChanges = false;
+}
+
+AIAppContextHandle Contexts::push(SPPluginRef plugin, AIUndoContextKind kind) {
+    const auto handle = reinterpret_cast<AIAppContextHandle>(nextHandleValue());
+    stack_.push_back({handle, plugin, false});
+    applyTop();
+    if (stack_.size() == 1) {
+        openRecord();
+        if (record_ != nullptr) record_->setKind(kind);
+    }
+    return handle;
+}
+
+void Contexts::pop(AIAppContextHandle context) {
+    if (stack_.empty() || stack_.back().handle != context) throw ai::Error{kBadParameterErr};
+    stack_.pop_back();
+    applyTop();
+    if (stack_.empty()) closeRecord();
+}
+
+AIAppContextHandle Contexts::top() const noexcept {
+    return stack_.empty() ? nullptr : stack_.back().handle;
+}
+
+bool Contexts::allowAllChanges() const {
+    if (stack_.empty()) throw ai::Error{kSelectorClashErr};
+    return stack_.back().allowAllChanges;
+}
+
+void Contexts::setAllowAllChanges(bool allow) {
+    if (stack_.empty()) throw ai::Error{kSelectorClashErr};
+    stack_.back().allowAllChanges = allow;
+    applyTop();
+}
+
+AISuspendedAppContext Contexts::suspend() {
+    const auto handle = reinterpret_cast<AISuspendedAppContext>(nextHandleValue());
+    closeRecord();
+    suspended_.push_back({handle, std::exchange(stack_, {})});
+    applyTop();
+    return handle;
+}
+
+void Contexts::resume(AISuspendedAppContext suspended) {
+    const bool isLast = !suspended_.empty() && suspended_.back().handle == suspended;
+    if (!isLast || !stack_.empty()) throw ai::Error{kBadParameterErr};
+    stack_ = std::move(suspended_.back().stack);
+    suspended_.pop_back();
+    applyTop();
+    if (!stack_.empty()) openRecord();
+}
+
+void Contexts::switchTo(Document* document) {
+    closeRecord();
+    setCurrentDocument(document);
+    if (!stack_.empty()) openRecord();
+}
+
+void Contexts::openRecord() {
+    Document* const document = session().current;
+    if (document == nullptr) return;
+    record_ = document->sharedUndo();
+    record_->open();
+}
+
+void Contexts::closeRecord() {
+    if (record_ != nullptr) std::exchange(record_, nullptr)->close();
+}
+
+void Contexts::applyTop() const noexcept {
+    session().allowAllChanges = !stack_.empty() && stack_.back().allowAllChanges;
+}
+
+} // namespace easel

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "host/Art.h"
+#include "host/Handles.h"
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+namespace easel {
+
+class Document;
+class UndoLog;
+
+/// The stack of application contexts. A context says which document is meant by calls that name
+/// none, and the outermost one is one step for undo:
+///
+///   1. The host pushes a context before each message, a plug-in before its own work outside one.
+///   2. The outermost push opens an undo record in the current document.
+///   3. Contexts nest strictly; the outermost pop closes the record.
+class Contexts {
+public:
+    Contexts() = default;
+    ~Contexts();
+    Contexts(const Contexts&) = delete;
+    Contexts& operator=(const Contexts&) = delete;
+
+    /// `kind` matters for the outermost context only.
+    [[nodiscard]] AIAppContextHandle push(SPPluginRef plugin,
+                                          AIUndoContextKind kind = kStandardUndoContext);
+    /// Throws 'PARM' unless `context` is the innermost one.
+    void pop(AIAppContextHandle context);
+    [[nodiscard]] std::size_t depth() const noexcept { return stack_.size(); }
+    /// The innermost context; null when there is none.
+    [[nodiscard]] AIAppContextHandle top() const noexcept;
+
+    /// Whether changes under locked or hidden parents are allowed in the innermost context. Throws
+    /// 'CLSH' when there is none.
+    [[nodiscard]] bool allowAllChanges() const;
+    void setAllowAllChanges(bool allow);
+
+    /// Puts the whole stack aside, for a change of documents, and brings it back.
+    [[nodiscard]] AISuspendedAppContext suspend();
+    /// Throws 'PARM' for a stack that is not the one put aside last.
+    void resume(AISuspendedAppContext suspended);
+
+    /// Makes `document` current; what was done so far in the former one becomes a step of its own.
+    void switchTo(Document* document);
+
+private:
+    struct Context {
+        AIAppContextHandle handle;
+        SPPluginRef plugin;
+        bool allowAllChanges;
+    };
+    struct Suspended {
+        AISuspendedAppContext handle;
+        std::vector<Context> stack;
+    };
+
+    void openRecord();
+    void closeRecord();
+    void applyTop() const noexcept;
+
+    std::vector<Context> stack_;
+    std::vector<Suspended> suspended_;
+    std::shared_ptr<UndoLog> record_; ///< The history in which the outermost context records.
+};
+
+} // namespace easel

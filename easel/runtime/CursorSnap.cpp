@@ -1,0 +1,107 @@
+#include "easel/runtime/CursorSnap.h"
+
+#include "easel/document/Attributes.h"
+#include "easel/document/Bezier.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <optional>
+
+namespace easel {
+namespace {
+
+/// The nearest place found so far, if it lies within reach.
+class Nearest {
+public:
+    Nearest(AIRealPoint point, double reach) : point_(curvePoint(point)), distance_(reach) {}
+
+    void offer(CurvePoint place, double distance) {
+        if (distance > distance_) return;
+        distance_ = distance;
+        place_ = place;
+    }
+    void offerAnchor(AIRealPoint anchor) {
+        const CurvePoint place = curvePoint(anchor);
+        offer(place, std::hypot(place.x - point_.x, place.y - point_.y));
+    }
+    void offerCurve(const Curve& curve) {
+        const NearestPoint nearest = nearestPoint(curve, point_);
+        offer(pointAt(curve, nearest.t), nearest.distance);
+    }
+    void offerSegment(AIRealPoint from, AIRealPoint to) {
+        offerCurve({curvePoint(from), curvePoint(from), curvePoint(to), curvePoint(to)});
+    }
+    [[nodiscard]] std::optional<CurvePoint> found() const { return place_; }
+
+private:
+    CurvePoint point_;
+    double distance_;
+    std::optional<CurvePoint> place_;
+};
+
+/// What one small letter searches for.
+enum class Search { Anchors, Lines };
+
+void offerPath(const Art& path, Search search, Nearest& nearest) {
+    const auto segments = path.segments();
+    for (std::size_t i = 0; i < segments.size(); ++i) {
+        if (search == Search::Anchors) {
+            nearest.offerAnchor(segments[i].p);
+            continue;
+        }
+        const bool isLast = i + 1 == segments.size();
+        if (isLast && !path.content().closed) break;
+        const AIPathSegment& end = segments[isLast ? 0 : i + 1];
+        nearest.offerCurve({curvePoint(segments[i].p), curvePoint(segments[i].out),
+                            curvePoint(end.in), curvePoint(end.p)});
+    }
+}
+
+void offerArt(const Document& document, Search search, Nearest& nearest) {
+    const Art& root = document.root();
+    const Art* art = nextInPreorder(root, root);
+    while (art != nullptr) {
+        const bool hidden = art->has(kArtHidden);
+        if (!hidden && art->type() == kPathArt) offerPath(*art, search, nearest);
+        art = hidden ? nextSkippingChildren(*art, root) : nextInPreorder(*art, root);
+    }
+}
+
+void offerRectangle(const AIRealRect& rect, Search search, Nearest& nearest) {
+    const std::array<AIRealPoint, 4> corners = {{{rect.left, rect.top},
+                                                 {rect.right, rect.top},
+                                                 {rect.right, rect.bottom},
+                                                 {rect.left, rect.bottom}}};
+    for (std::size_t i = 0; i < corners.size(); ++i) {
+        if (search == Search::Anchors)
+            nearest.offerAnchor(corners[i]);
+        else
+            nearest.offerSegment(corners[i], corners[(i + 1) % corners.size()]);
+    }
+}
+
+} // namespace
+
+AIRealPoint snapTo(const DocumentView& view, AIRealPoint point, std::string_view control) {
+    const double reach = static_cast<double>(kSnapPixels / view.zoom);
+    bool art = false;
+    bool page = false;
+    Nearest nearest{point, reach};
+    const auto search = [&](Search what) {
+        if (art) offerArt(*view.document, what, nearest);
+        if (page) offerRectangle(view.document->artboard(), what, nearest);
+        if (page) offerRectangle(view.document->canvas(), what, nearest);
+    };
+    for (const char letter : control) {
+        if (letter == 'A') art = true;
+        if (letter == 'P') page = true;
+        if (letter == 'v') search(Search::Anchors);
+        if (letter == 'o') search(Search::Lines);
+        if (letter == ' ' && nearest.found()) break;
+    }
+    const auto found = nearest.found();
+    return found ? realPoint(*found) : point;
+}
+
+} // namespace easel

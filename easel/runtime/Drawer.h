@@ -1,0 +1,71 @@
+#pragma once
+
+#include "host/Handles.h"
+#include "host/Types.h"
+
+#include <string>
+#include <vector>
+
+namespace easel {
+
+/// The state of an annotator's pen. Each draw message starts with this one: nothing carries over
+/// from one annotator to the next.
+struct DrawStyle {
+    AIRGBColor colour{0, 0, 0};
+    AIReal lineWidth = 1; ///< Document points.
+    bool dashed = false;
+    std::vector<AIFloat> dashes{4, 4}; ///< Document points, on and off in turn.
+    AIReal opacity = 1;
+    bool highlight = false;
+    bool smooth = false;  ///< Anti-aliased.
+    AIReal fontSize = 11; ///< Document points.
+    std::u32string fontName = U"Tahoma";
+};
+
+/// One call of an annotator, with all that is needed to paint it. Points are pixels of the view.
+struct DrawCommand {
+    enum class Kind {
+        Line,
+        Rect,
+        Polygon,
+        Ellipse,
+        Text,
+        TextInRect,
+        Png,
+        PngInRect,
+        ClipStart,
+        ClipEnd,
+        ClipClear
+    };
+    Kind kind;
+    DrawStyle style;
+    /// Line: both ends. Rect, Ellipse and what lies in a rectangle: top left and bottom right.
+    /// Text: its bottom left. Png: its top left.
+    std::vector<AIPoint> points = {};
+    bool fill = false;
+    std::u32string text = {};
+    AIHorizAlignment horizontal = 0; ///< 0 left, 1 centre, 2 right.
+    AIVertAlignment vertical = 0;    ///< 0 top, 1 middle, 2 bottom.
+    std::vector<ai::uint8> png = {};
+};
+
+using DisplayList = std::vector<DrawCommand>;
+
+/// A line for each command, for tests: "line 10,20 30,40 #ff0000".
+[[nodiscard]] std::string dump(const DisplayList& list);
+
+/// The rectangle that a line of `text` takes, from 0, 0: the recorder has no fonts, so every
+/// character is half as wide as the font is tall.
+[[nodiscard]] AIRect textBounds(const std::u32string& text, AIReal fontSize);
+
+} // namespace easel
+
+/// What the annotator suite's draw message lends: it records the calls as a display list.
+class AIAnnotatorDrawer {
+public:
+    easel::DrawStyle style;
+    easel::DisplayList list;
+
+    /// Adds a command in the present style.
+    void add(easel::DrawCommand command);
+};

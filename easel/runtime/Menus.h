@@ -1,0 +1,54 @@
+#pragma once
+
+#include "easel/core/Registry.h"
+#include "host/Handles.h"
+#include "host/Types.h"
+
+#include <optional>
+#include <string>
+
+namespace easel {
+
+struct MenuGroup {
+    std::string name;
+    AIMenuGroupOption options = 0;
+    std::string near;                  ///< The group it lies next to; may be empty.
+    AIMenuItemHandle opener = nullptr; ///< The item whose submenu it is, or null.
+    std::u32string header = {};
+};
+
+struct MenuItem {
+    SPPluginRef plugin;
+    std::optional<std::string> key; ///< Its unique name.
+    std::u32string text;
+    AIMenuGroup group;
+    AIMenuItemOption options = 0;
+    bool enabled = true;
+    bool checked = false;
+    char command = 0; ///< Its keyboard shortcut: character and modifiers, or a function key.
+    ai::int16 commandModifiers = 0;
+    ai::int16 functionKey = 0;
+    ai::int16 functionKeyModifiers = 0;
+};
+
+/// Options of items and groups that the host itself acts on.
+inline constexpr AIMenuItemOption kItemWantsUpdate = 1;
+inline constexpr AIMenuItemOption kItemAlwaysEnabled = 2;
+inline constexpr AIMenuItemOption kItemIsSeparator = 4;
+
+/// The menu bar: the host's groups, and what plug-ins put there.
+struct Menus {
+    /// Starts with the host's own groups and no items.
+    Menus();
+
+    [[nodiscard]] AIMenuGroup groupNamed(const std::string& name) const;
+    /// The item with the unique name `key`; null when there is none.
+    [[nodiscard]] AIMenuItemHandle itemNamed(const std::string& key) const;
+    /// A line for each item: group, key, text, state. For tests.
+    [[nodiscard]] std::string dump() const;
+
+    Registry<AIMenuGroup, MenuGroup> groups;
+    Registry<AIMenuItemHandle, MenuItem> items;
+};
+
+} // namespace easel

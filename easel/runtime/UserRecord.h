@@ -1,0 +1,36 @@
+#pragma once
+
+#include "easel/core/Registry.h"
+#include "host/Handles.h"
+
+#include <deque>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace easel {
+
+/// A question or message to the user. Nothing is shown: it is answered from `UserRecord::answers`.
+struct Alert {
+    std::string kind; ///< "message", "warning", "error", "ok-cancel", "question", "yes-no".
+    std::string text;
+};
+
+/// What the plug-in did to the world outside, and what the world answers. Easel opens nothing and
+/// asks nobody: a session is the same wherever it runs.
+struct UserRecord {
+    std::vector<Alert> alerts;
+    std::deque<AIAnswer> answers; ///< For the coming questions; when empty the answer is yes.
+    std::vector<std::filesystem::path> launched;
+    std::vector<std::string> openedUrls;
+    bool browserAvailable = true;
+    bool cancelRequested = false;
+    std::string progressText;
+    ai::int32 progress = 0;
+    ai::int32 progressMaximum = 0;
+    ai::int32 cursor = -4; ///< The last one shown; -4 is the arrow.
+    Registry<AIResourceManagerHandle, SPPluginRef> cursorManagers;
+    bool darkTheme = false;
+};
+
+} // namespace easel

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "easel/core/Registry.h"
+#include "easel/document/Document.h"
+#include "host/Handles.h"
+
+namespace easel {
+
+/// A window on a document. Its own coordinates are pixels from its top left corner, y down.
+struct DocumentView {
+    Document* document;
+    AIRealPoint centre; ///< Soft coordinates of what lies in the middle.
+    AIReal zoom = 1;    ///< Pixels per point.
+    ai::int32 width = 1280;
+    ai::int32 height = 800;
+    AIRealRect invalid{0, 0, 0, 0}; ///< Soft coordinates; empty: nothing to be redrawn.
+    AIScreenMode screenMode = 1;
+    ai::int16 style = 2; ///< Preview.
+    bool showGuides = true;
+    bool showEdges = true;
+    bool showGrid = false;
+    bool snapToGrid = false;
+    bool showTransparencyGrid = false;
+    bool artboardRuler = false;
+    bool artboardCoordinates = false;
+};
+
+using Views = Registry<AIDocumentViewHandle, DocumentView>;
+
+inline constexpr AIReal kLeastZoom = 1.0F / 32;
+inline constexpr AIReal kMostZoom = 64;
+
+[[nodiscard]] AIRealPoint toView(const DocumentView& view, AIRealPoint artwork) noexcept;
+[[nodiscard]] AIRealPoint toArtwork(const DocumentView& view, AIRealPoint pixels) noexcept;
+/// To the nearest pixel.
+[[nodiscard]] AIPoint toViewPixel(const DocumentView& view, AIRealPoint artwork) noexcept;
+/// What the window shows, in soft coordinates: top above bottom.
+[[nodiscard]] AIRealRect visibleArtwork(const DocumentView& view) noexcept;
+/// The centre stays; `zoom` is brought into range.
+void setZoom(DocumentView& view, AIReal zoom) noexcept;
+
+} // namespace easel
