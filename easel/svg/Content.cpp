@@ -1,0 +1,43 @@
+#include "easel/svg/Content.h"
+
+namespace easel::svg {
+namespace {
+
+AIReal narrowed(double value) { return static_cast<AIReal>(value); }
+
+} // namespace
+
+const ElementSource* DrawingSource::find(const Art& art) const {
+    const auto found = elements.find(art.handle());
+    return found == elements.end() ? nullptr : &found->second;
+}
+
+const DrawingSource* sourceOf(const Document& document) {
+    return dynamic_cast<const DrawingSource*>(document.foreign.get());
+}
+
+Point rulerOffset(const Document& document) {
+    const DrawingSource* const source = sourceOf(document);
+    if (source == nullptr) { // soft (0, 0) on the artboard's top left corner is the drawing's (0, 0)
+        const AIRealRect artboard = document.artboard();
+        return {-static_cast<double>(artboard.left), static_cast<double>(artboard.top)};
+    }
+    const AIRealPoint now = document.state().rulerOrigin;
+    return {static_cast<double>(now.h) - static_cast<double>(source->rulerOrigin.h),
+            static_cast<double>(now.v) - static_cast<double>(source->rulerOrigin.v)};
+}
+
+AIRealPoint toSoft(Point point, Point offset) {
+    return {narrowed(point.x - offset.x), narrowed(-(point.y - offset.y))};
+}
+
+AIRealMatrix toSoft(const Matrix& m, Point offset) {
+    const AIRealPoint origin = toSoft(Point{m.e, m.f}, offset);
+    return {narrowed(m.a), narrowed(-m.b), narrowed(m.c), narrowed(-m.d), origin.h, origin.v};
+}
+
+Matrix fromSoft(const AIRealMatrix& m, Point offset) {
+    return {m.a, -m.b, m.c, -m.d, m.tx + offset.x, -m.ty + offset.y};
+}
+
+} // namespace easel::svg

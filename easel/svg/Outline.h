@@ -1,0 +1,54 @@
+#pragma once
+
+#include "easel/svg/Transform.h"
+
+#include <vector>
+
+/// Curves as every shape of SVG comes down to them.
+namespace easel::svg {
+
+/// The curve from anchor i to i + 1 is the cubic (p[i], out[i], in[i + 1], p[i + 1]); a straight
+/// piece has its handles exactly on its anchors.
+struct Anchor {
+    Point p;
+    Point in;
+    Point out;
+    bool operator==(const Anchor&) const = default;
+};
+
+struct Subpath {
+    std::vector<Anchor> anchors;
+    /// A closed subpath's last curve leads from the last anchor back to the first.
+    bool closed = false;
+    bool operator==(const Subpath&) const = default;
+};
+
+using Outline = std::vector<Subpath>;
+
+[[nodiscard]] constexpr Anchor cornerAt(Point p) { return {p, p, p}; }
+
+/// A quarter ellipse or less is drawn by one cubic; `sweep` is SVG's flag: towards growing angles.
+void appendArc(Subpath& subpath, Point radii, double rotationDegrees, bool largeArc, bool sweep,
+               Point end);
+
+/// Draws a straight piece or a curve on from the last anchor.
+void appendLine(Subpath& subpath, Point end);
+void appendCurve(Subpath& subpath, Point control1, Point control2, Point end);
+
+/// Closes a subpath; where it ends on its first anchor, the two become one.
+void close(Subpath& subpath);
+
+[[nodiscard]] Outline transformed(Outline outline, const Matrix& matrix);
+
+struct Box {
+    Point min;
+    Point max;
+    bool empty = true;
+    void add(Point point);
+    void add(const Box& other);
+};
+
+/// The exact extremes of the curves, without stroke.
+[[nodiscard]] Box boundsOf(const Outline& outline);
+
+} // namespace easel::svg

@@ -1,0 +1,323 @@
+#include "easel/svg/Style.h"
+
+#include "easel/svg/Numbers.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace easel::svg {
+namespace {
+
+/// A dash pattern with more parts is no pattern any more.
+constexpr std::size_t kMostDashes = 1024;
+
+/// Properties by name, in alphabetical order for a binary search.
+struct PropertyRow {
+    std::string_view name;
+    bool understood;
+    bool inherited;
+    bool text; ///< Of text alone.
+};
+constexpr PropertyRow kProperties[] = {
+    {"alignment-baseline", false, false, true},
+    {"baseline-shift", false, false, true},
+    {"clip-path", true, false, false},
+    {"clip-rule", true, true, false},
+    {"color", true, true, false},
+    {"color-interpolation", false, true, false},
+    {"color-interpolation-filters", false, true, false},
+    {"color-rendering", false, true, false},
+    {"cursor", false, true, false},
+    {"direction", false, true, true},
+    {"display", true, false, false},
+    {"dominant-baseline", false, true, true},
+    {"enable-background", false, false, false},
+    {"fill", true, true, false},
+    {"fill-opacity", true, true, false},
+    {"fill-rule", true, true, false},
+    {"filter", false, false, false},
+    {"font", false, true, true},
+    {"font-family", false, true, true},
+    {"font-feature-settings", false, true, true},
+    {"font-kerning", false, true, true},
+    {"font-size", false, true, true},
+    {"font-size-adjust", false, true, true},
+    {"font-stretch", false, true, true},
+    {"font-style", false, true, true},
+    {"font-variant", false, true, true},
+    {"font-weight", false, true, true},
+    {"glyph-orientation-vertical", false, true, true},
+    {"image-rendering", false, true, false},
+    {"isolation", false, false, false},
+    {"kerning", false, true, true},
+    {"letter-spacing", false, true, true},
+    {"line-height", false, true, true},
+    {"marker", false, true, false},
+    {"marker-end", false, true, false},
+    {"marker-mid", false, true, false},
+    {"marker-start", false, true, false},
+    {"mask", false, false, false},
+    {"mix-blend-mode", false, false, false},
+    {"opacity", true, false, false},
+    {"overflow", false, false, false},
+    {"paint-order", false, true, false},
+    {"pointer-events", false, true, false},
+    {"shape-rendering", false, true, false},
+    {"stop-color", true, false, false},
+    {"stop-opacity", true, false, false},
+    {"stroke", true, true, false},
+    {"stroke-dasharray", true, true, false},
+    {"stroke-dashoffset", true, true, false},
+    {"stroke-linecap", true, true, false},
+    {"stroke-linejoin", true, true, false},
+    {"stroke-miterlimit", true, true, false},
+    {"stroke-opacity", true, true, false},
+    {"stroke-width", true, true, false},
+    {"text-align", false, true, true},
+    {"text-anchor", false, true, true},
+    {"text-decoration", false, false, true},
+    {"text-indent", false, true, true},
+    {"text-rendering", false, true, true},
+    {"text-transform", false, true, true},
+    {"unicode-bidi", false, false, true},
+    {"vector-effect", false, false, false},
+    {"visibility", true, true, false},
+    {"white-space", false, true, true},
+    {"word-spacing", false, true, true},
+    {"writing-mode", false, true, true},
+};
+static_assert(std::ranges::is_sorted(kProperties, {}, &PropertyRow::name));
+
+const PropertyRow* rowOf(std::string_view name) {
+    const PropertyRow* const row =
+        std::ranges::lower_bound(kProperties, name, {}, &PropertyRow::name);
+    return row != std::end(kProperties) && row->name == name ? row : nullptr;
+}
+
+std::optional<Paint> parsePaint(std::string_view text, const Colour& current) {
+    text = trimmed(text);
+    if (text == "none") return Paint{};
+    if (equalIgnoringCase(text, "currentColor")) return Paint{Paint::Kind::Plain, current, false, {}};
+    if (const std::string id = referenceIn(text); !id.empty()) {
+        Paint paint{Paint::Kind::Server, {}, false, id};
+        const std::size_t end = text.find(')');
+        const std::string_view spare =
+            end == std::string_view::npos ? std::string_view{} : trimmed(text.substr(end + 1));
+        if (const auto colour = parseColour(spare)) {
+            paint.colour = *colour;
+            paint.spare = true;
+        }
+        return paint;
+    }
+    if (const auto colour = parseColour(text)) return Paint{Paint::Kind::Plain, *colour, false, {}};
+    return std::nullopt;
+}
+
+struct Context {
+    Style& style;
+    const Style& parent;
+    std::string_view value;
+    double viewport;
+
+    [[nodiscard]] std::optional<double> length() const {
+        return parseLength(value, viewport, style.font.size);
+    }
+};
+
+void setFraction(double& target, std::string_view value) {
+    if (const auto fraction = parseFraction(value)) target = *fraction;
+}
+
+template <typename T> struct Word {
+    std::string_view text;
+    T value;
+};
+
+template <typename T, std::size_t N>
+void setWord(T& target, std::string_view value, const Word<T> (&words)[N]) {
+    for (const Word<T>& word : words)
+        if (word.text == value) target = word.value;
+}
+
+void setDashes(const Context& c) {
+    if (c.value == "none") {
+        c.style.dashes.clear();
+        return;
+    }
+    std::vector<double> dashes;
+    double sum = 0.0;
+    for (Cursor cursor{c.value}; !cursor.atEnd(); cursor.skipSeparators()) {
+        const std::string_view rest = cursor.rest();
+        const std::size_t end = std::min(rest.find_first_of(" ,\t\r\n"), rest.size());
+        const auto length = parseLength(rest.substr(0, end), c.viewport, c.style.font.size);
+        if (!length || *length < 0 || dashes.size() >= kMostDashes) return;
+        dashes.push_back(*length);
+        sum += *length;
+        cursor = Cursor{rest.substr(end)};
+    }
+    if (dashes.size() % 2 == 1) dashes.insert(dashes.end(), dashes.begin(), dashes.end());
+    c.style.dashes = sum > 0 ? dashes : std::vector<double>{};
+}
+
+void setFontSize(const Context& c) {
+    constexpr Word<double> kSizes[] = {{"xx-small", 9}, {"x-small", 10},  {"small", 13},
+                                       {"medium", 16},  {"large", 18},    {"x-large", 24},
+                                       {"xx-large", 32}};
+    double size = c.style.font.size;
+    setWord(size, c.value, kSizes);
+    const double parentSize = c.parent.font.size;
+    if (const auto length = parseLength(c.value, parentSize, parentSize)) size = *length;
+    if (size >= 0 && size <= kLargestCoordinate) c.style.font.size = size;
+}
+
+void setFontFamily(const Context& c) {
+    std::string_view first = trimmed(c.value.substr(0, c.value.find(',')));
+    if (first.size() >= 2 && (first.front() == '\'' || first.front() == '"'))
+        first = first.substr(1, first.size() - 2);
+    if (!first.empty()) c.style.font.family = first;
+}
+
+void setStrokeWidth(const Context& c) {
+    const auto width = c.length();
+    if (width && *width >= 0 && *width <= kLargestCoordinate) c.style.strokeWidth = *width;
+}
+
+void setClipPath(const Context& c) { c.style.clipPath = referenceIn(c.value); }
+
+void setPaint(Paint& target, const Context& c) {
+    if (const auto paint = parsePaint(c.value, c.style.color)) target = *paint;
+}
+
+constexpr Word<bool> kRules[] = {{"nonzero", false}, {"evenodd", true}};
+constexpr Word<Cap> kCaps[] = {
+    {"butt", Cap::Butt}, {"round", Cap::Round}, {"square", Cap::Square}};
+constexpr Word<Join> kJoins[] = {
+    {"miter", Join::Miter}, {"round", Join::Round}, {"bevel", Join::Bevel}};
+constexpr Word<bool> kWeights[] = {{"normal", false}, {"bold", true},  {"bolder", true},
+                                   {"lighter", false}, {"600", true},  {"700", true},
+                                   {"800", true},      {"900", true},  {"400", false}};
+constexpr Word<bool> kSlants[] = {{"normal", false}, {"italic", true}, {"oblique", true}};
+constexpr Word<TextAnchor> kAnchors[] = {{"start", TextAnchor::Start},
+                                         {"middle", TextAnchor::Middle},
+                                         {"end", TextAnchor::End}};
+constexpr Word<bool> kVisibility[] = {{"visible", true}, {"hidden", false}, {"collapse", false}};
+
+struct Setter {
+    std::string_view property;
+    void (*set)(const Context&);
+};
+constexpr Setter kSetters[] = {
+    {"color",
+     [](const Context& c) {
+         if (const auto colour = parseColour(c.value)) c.style.color = *colour;
+     }},
+    {"fill", [](const Context& c) { setPaint(c.style.fill, c); }},
+    {"stroke", [](const Context& c) { setPaint(c.style.stroke, c); }},
+    {"fill-opacity", [](const Context& c) { setFraction(c.style.fillOpacity, c.value); }},
+    {"stroke-opacity", [](const Context& c) { setFraction(c.style.strokeOpacity, c.value); }},
+    {"opacity", [](const Context& c) { setFraction(c.style.opacity, c.value); }},
+    {"stroke-width", setStrokeWidth},
+    {"stroke-miterlimit",
+     [](const Context& c) {
+         const auto limit = parseNumber(c.value);
+         if (limit && *limit >= 1) c.style.miterLimit = *limit;
+     }},
+    {"stroke-dasharray", setDashes},
+    {"stroke-dashoffset",
+     [](const Context& c) { c.style.dashOffset = c.length().value_or(c.style.dashOffset); }},
+    {"stroke-linecap", [](const Context& c) { setWord(c.style.cap, c.value, kCaps); }},
+    {"stroke-linejoin", [](const Context& c) { setWord(c.style.join, c.value, kJoins); }},
+    {"fill-rule", [](const Context& c) { setWord(c.style.evenOdd, c.value, kRules); }},
+    {"clip-rule", [](const Context& c) { setWord(c.style.clipEvenOdd, c.value, kRules); }},
+    {"visibility", [](const Context& c) { setWord(c.style.visible, c.value, kVisibility); }},
+    {"display", [](const Context& c) { c.style.displayed = c.value != "none"; }},
+    {"clip-path", setClipPath},
+    {"stop-color",
+     [](const Context& c) {
+         Paint paint;
+         setPaint(paint, c);
+         if (paint.kind == Paint::Kind::Plain) c.style.stopColour = paint.colour;
+     }},
+    {"stop-opacity", [](const Context& c) { setFraction(c.style.stopOpacity, c.value); }},
+    {"font-family", setFontFamily},
+    {"font-size", setFontSize},
+    {"font-weight", [](const Context& c) { setWord(c.style.font.bold, c.value, kWeights); }},
+    {"font-style", [](const Context& c) { setWord(c.style.font.italic, c.value, kSlants); }},
+    {"text-anchor", [](const Context& c) { setWord(c.style.anchor, c.value, kAnchors); }},
+};
+
+/// What a child starts from: the parent's style without what is the parent's own.
+Style handedDown(const Style& parent) {
+    Style style = parent;
+    const Style initial;
+    style.opacity = initial.opacity;
+    style.displayed = initial.displayed;
+    style.clipPath.clear();
+    style.stopColour = initial.stopColour;
+    style.stopOpacity = initial.stopOpacity;
+    style.others.clear();
+    return style;
+}
+
+void apply(Style& style, const Style& parent, std::string_view property, std::string_view value,
+           double viewport) {
+    for (const Setter& setter : kSetters)
+        if (setter.property == property)
+            return setter.set({style, parent, trimmed(value), viewport});
+}
+
+} // namespace
+
+bool isProperty(std::string_view name) { return rowOf(name) != nullptr; }
+
+bool isUnderstood(std::string_view property) {
+    const PropertyRow* const row = rowOf(property);
+    return row != nullptr && row->understood;
+}
+
+bool isInherited(std::string_view property) {
+    const PropertyRow* const row = rowOf(property);
+    return row != nullptr && row->inherited;
+}
+
+bool isTextProperty(std::string_view property) {
+    const PropertyRow* const row = rowOf(property);
+    return row != nullptr && row->text;
+}
+
+Style styleOf(const Properties& properties, const Style& parent, double viewport) {
+    Style style = handedDown(parent);
+    // Other values refer to these two.
+    for (const char* const first : {"font-size", "color"}) {
+        const auto found = properties.find(first);
+        if (found != properties.end()) apply(style, parent, first, found->second, viewport);
+    }
+    std::shared_ptr<Properties> inherited;
+    for (const auto& [property, value] : properties) {
+        apply(style, parent, property, value, viewport);
+        if (isInherited(property)) {
+            if (value == "inherit") continue;
+            if (!inherited)
+                inherited = style.inherited ? std::make_shared<Properties>(*style.inherited)
+                                            : std::make_shared<Properties>();
+            (*inherited)[property] = value;
+        } else if (!isUnderstood(property)) {
+            style.others[property] = value;
+        }
+    }
+    if (inherited) style.inherited = std::move(inherited);
+    return style;
+}
+
+std::string referenceIn(std::string_view text) {
+    Cursor cursor{trimmed(text)};
+    if (!cursor.skipWord("url(")) return {};
+    cursor.skipBlanks();
+    if (!cursor.skip('"')) cursor.skip('\'');
+    if (!cursor.skip('#')) return {};
+    const std::string_view rest = cursor.rest();
+    return std::string{trimmed(rest.substr(0, rest.find_first_of("\"')")))};
+}
+
+} // namespace easel::svg

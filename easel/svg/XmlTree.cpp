@@ -1,0 +1,407 @@
+#include "easel/svg/XmlTree.h"
+
+#include "easel/svg/Numbers.h"
+
+#include <algorithm>
+#include <charconv>
+#include <utility>
+
+namespace easel::svg {
+namespace {
+
+constexpr std::string_view kBlanks = " \t\r\n";
+
+/// An entity's text longer than this is left out: repeated, it would eat memory.
+constexpr std::size_t kLongestEntity = 4096;
+
+/// A reference's end is looked for no further, so that a text of ampersands takes linear time.
+constexpr std::size_t kLongestReference = 64;
+
+bool isBlank(char c) { return kBlanks.find(c) != std::string_view::npos; }
+
+bool endsName(char c) { return isBlank(c) || c == '>' || c == '/' || c == '=' || c == '<'; }
+
+bool startsName(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == ':' ||
+           static_cast<unsigned char>(c) >= 128;
+}
+
+struct Entity {
+    std::string_view name;
+    char character;
+};
+constexpr Entity kEntities[] = {
+    {"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}};
+
+void appendUtf8(std::string& text, std::uint32_t code) {
+    const auto byte = [&](std::uint32_t value) { text += static_cast<char>(value); };
+    if (code < 0x80) {
+        byte(code);
+    } else if (code < 0x800) {
+        byte(0xC0 | code >> 6);
+        byte(0x80 | (code & 0x3F));
+    } else if (code < 0x10000) {
+        byte(0xE0 | code >> 12);
+        byte(0x80 | (code >> 6 & 0x3F));
+        byte(0x80 | (code & 0x3F));
+    } else {
+        byte(0xF0 | code >> 18);
+        byte(0x80 | (code >> 12 & 0x3F));
+        byte(0x80 | (code >> 6 & 0x3F));
+        byte(0x80 | (code & 0x3F));
+    }
+}
+
+/// "#65" or "#x41"; false when it is no character.
+bool appendCharacter(std::string& text, std::string_view reference) {
+    reference.remove_prefix(1);
+    const bool hex = reference.starts_with('x');
+    if (hex) reference.remove_prefix(1);
+    std::uint32_t code = 0;
+    const char* const end = reference.data() + reference.size();
+    const auto result = std::from_chars(reference.data(), end, code, hex ? 16 : 10);
+    const bool surrogate = code >= 0xD800 && code < 0xE000;
+    if (result.ec != std::errc{} || result.ptr != end || code == 0 || code > 0x10FFFF || surrogate)
+        return false;
+    appendUtf8(text, code);
+    return true;
+}
+
+} // namespace
+
+/// Builds the tree in one walk over the text.
+class XmlScanner {
+  public:
+    explicit XmlScanner(XmlTree& tree) : tree_(tree), text_(tree.text_) {}
+
+    void scan() {
+        if (text_.starts_with("\xEF\xBB\xBF")) position_ = 3;
+        while (position_ < text_.size()) {
+            if (text_[position_] != '<')
+                scanText();
+            else if (startsWith("<!--"))
+                scanUntil("-->", "the comment", XmlTree::Kind::Other);
+            else if (startsWith("<![CDATA["))
+                scanUntil("]]>", "the CDATA section", XmlTree::Kind::CData);
+            else if (startsWith("<?"))
+                scanUntil("?>", "the processing instruction", XmlTree::Kind::Other);
+            else if (startsWith("<!"))
+                scanDocumentType();
+            else if (startsWith("</"))
+                scanEndTag();
+            else
+                scanStartTag();
+        }
+        if (!open_.empty()) {
+            const XmlTree::Node& node = tree_.nodes_[open_.back().node];
+            throw SvgError(node.line, "<" + std::string{node.name} +
+                                          "> is never closed; the file may have been cut off");
+        }
+        if (tree_.root_ == kNoNode)
+            throw SvgError(1, "there is no drawing in this file; an SVG file holds one <svg> element");
+    }
+
+  private:
+    struct Open {
+        NodeIndex node;
+        NodeIndex lastChild;
+    };
+
+    [[nodiscard]] bool startsWith(std::string_view wanted) const {
+        return text_.substr(position_).starts_with(wanted);
+    }
+
+    /// Lines are counted only as far as a node needs it, from where the count stands.
+    std::uint32_t lineHere() {
+        const auto from = text_.begin() + static_cast<std::ptrdiff_t>(counted_);
+        const auto to = text_.begin() + static_cast<std::ptrdiff_t>(position_);
+        line_ += static_cast<std::uint32_t>(std::count(from, to, '\n'));
+        counted_ = position_;
+        return line_;
+    }
+
+    [[noreturn]] void fail(const std::string& message) { throw SvgError(lineHere(), message); }
+
+    NodeIndex add(XmlTree::Kind kind, std::size_t end) {
+        if (tree_.nodes_.size() >= 4 * kMostElements) fail("there are more than 4,000,000 nodes");
+        const auto index = static_cast<NodeIndex>(tree_.nodes_.size());
+        XmlTree::Node node;
+        node.kind = kind;
+        node.line = lineHere();
+        node.start = position_;
+        node.contentStart = position_;
+        node.contentEnd = node.end = end;
+        if (!open_.empty()) {
+            Open& parent = open_.back();
+            node.parent = parent.node;
+            NodeIndex& link = parent.lastChild == kNoNode
+                                  ? tree_.nodes_[parent.node].firstChild
+                                  : tree_.nodes_[parent.lastChild].nextSibling;
+            link = index;
+            parent.lastChild = index;
+        }
+        tree_.nodes_.push_back(node);
+        return index;
+    }
+
+    void scanText() {
+        const std::size_t end = std::min(text_.find('<', position_), text_.size());
+        const std::string_view text = text_.substr(position_, end - position_);
+        if (!trimmed(text).empty()) {
+            if (open_.empty())
+                fail("there is text outside the drawing; only comments may stand there");
+            add(XmlTree::Kind::Text, end);
+        }
+        position_ = end;
+    }
+
+    void scanUntil(std::string_view terminator, const std::string& what, XmlTree::Kind kind) {
+        const std::size_t end = text_.find(terminator, position_ + 2);
+        if (end == std::string_view::npos)
+            fail(what + " is never closed; it ends with " + std::string{terminator});
+        if (!open_.empty()) {
+            const NodeIndex node = add(kind, end + terminator.size());
+            if (kind == XmlTree::Kind::CData) {
+                tree_.nodes_[node].contentStart = position_ + 9;
+                tree_.nodes_[node].contentEnd = end;
+            }
+        }
+        position_ = end + terminator.size();
+    }
+
+    /// The document type with its declarations in brackets, of which entities alone matter.
+    void scanDocumentType() {
+        const std::size_t start = position_;
+        bool inside = false;
+        char quote = '\0';
+        for (std::size_t i = position_; i < text_.size(); ++i) {
+            const char c = text_[i];
+            if (quote != '\0') {
+                if (c == quote) quote = '\0';
+            } else if (c == '"' || c == '\'') {
+                quote = c;
+            } else if (c == '[' || c == ']') {
+                inside = c == '[';
+            } else if (c == '>' && !inside) {
+                readEntities(text_.substr(start, i - start));
+                if (!open_.empty()) add(XmlTree::Kind::Other, i + 1);
+                position_ = i + 1;
+                return;
+            }
+        }
+        fail("the document type is never closed; it ends with >");
+    }
+
+    void readEntities(std::string_view declarations) {
+        constexpr std::string_view kMark = "<!ENTITY";
+        for (std::size_t at = declarations.find(kMark); at != std::string_view::npos;
+             at = declarations.find(kMark)) {
+            declarations = trimmed(declarations.substr(at + kMark.size()));
+            const std::string_view name =
+                declarations.substr(0, declarations.find_first_of(kBlanks));
+            declarations = trimmed(declarations.substr(name.size()));
+            const char quote = declarations.empty() ? '\0' : declarations.front();
+            if (quote != '"' && quote != '\'') continue; // parameter or external: never read
+            const std::size_t end = declarations.find(quote, 1);
+            if (end == std::string_view::npos) return;
+            if (end <= kLongestEntity)
+                tree_.entities_.try_emplace(name, declarations.substr(1, end - 1));
+            declarations.remove_prefix(end);
+        }
+    }
+
+    void scanEndTag() {
+        const std::size_t end = text_.find('>', position_);
+        if (end == std::string_view::npos) fail("an end tag is cut off; it ends with >");
+        const std::string_view name = trimmed(text_.substr(position_ + 2, end - position_ - 2));
+        if (open_.empty()) fail("</" + std::string{name} + "> closes nothing; remove it");
+        XmlTree::Node& node = tree_.nodes_[open_.back().node];
+        if (name != node.name)
+            fail("</" + std::string{name} + "> stands where </" + std::string{node.name} +
+                 "> is due, for the <" + std::string{node.name} + "> of line " +
+                 std::to_string(node.line));
+        node.contentEnd = position_;
+        node.end = position_ = end + 1;
+        open_.pop_back();
+    }
+
+    void scanStartTag() {
+        if (open_.empty() && tree_.root_ != kNoNode)
+            fail("there is a second outermost element; an SVG file holds one <svg> element");
+        if (open_.size() >= kMostNesting)
+            fail("elements are nested more than " + std::to_string(kMostNesting) +
+                 " deep; remove groups that hold only a group");
+        if (++tree_.elementCount_ > kMostElements)
+            fail("there are more than 1,000,000 elements; divide the drawing");
+        const std::size_t nameStart = position_ + 1;
+        std::size_t at = nameStart;
+        while (at < text_.size() && !endsName(text_[at])) ++at;
+        const std::string_view name = text_.substr(nameStart, at - nameStart);
+        if (name.empty() || !startsName(name.front()))
+            fail("< is not followed by a name; a plain < is written &lt;");
+
+        const NodeIndex index = add(XmlTree::Kind::Element, text_.size());
+        tree_.nodes_[index].name = name;
+        if (open_.empty()) tree_.root_ = index;
+        const bool empty = scanAttributes(index, at);
+        XmlTree::Node& node = tree_.nodes_[index];
+        node.contentStart = position_;
+        if (empty) {
+            node.contentEnd = node.end = position_;
+        } else {
+            open_.push_back({index, kNoNode});
+        }
+    }
+
+    /// Checks the attributes from `at` on and moves past the tag. True for an empty element.
+    bool scanAttributes(NodeIndex index, std::size_t at) {
+        const auto tag = [&] { return "<" + std::string{tree_.nodes_[index].name} + ">"; };
+        std::vector<std::string_view> names;
+        for (;;) {
+            while (at < text_.size() && isBlank(text_[at])) ++at;
+            if (at >= text_.size() || text_[at] == '<') fail(tag() + " is cut off; a tag ends with >");
+            if (text_[at] == '>') {
+                position_ = at + 1;
+                return false;
+            }
+            if (text_.substr(at).starts_with("/>")) {
+                position_ = at + 2;
+                return true;
+            }
+            const std::size_t nameStart = at;
+            while (at < text_.size() && !endsName(text_[at])) ++at;
+            const std::string_view name = text_.substr(nameStart, at - nameStart);
+            while (at < text_.size() && isBlank(text_[at])) ++at;
+            const bool equals = at < text_.size() && text_[at] == '=';
+            if (name.empty() || !startsName(name.front()) || !equals)
+                fail("an attribute of " + tag() + " is broken; write name=\"value\"");
+            ++at;
+            while (at < text_.size() && isBlank(text_[at])) ++at;
+            const char quote = at < text_.size() ? text_[at] : '\0';
+            const std::size_t end = quote == '"' || quote == '\'' ? text_.find(quote, at + 1)
+                                                                  : std::string_view::npos;
+            if (end == std::string_view::npos)
+                fail("the value of " + std::string{name} + " in " + tag() +
+                     " is not in quotes; write " + std::string{name} + "=\"value\"");
+            if (std::ranges::find(names, name) != names.end())
+                fail(std::string{name} + " stands twice in " + tag() + "; keep one");
+            if (names.size() >= kMostAttributes) fail(tag() + " has more than 1,000 attributes");
+            names.push_back(name);
+            const std::string_view value = text_.substr(at + 1, end - at - 1);
+            if (value.find('<') != std::string_view::npos)
+                fail("the value of " + std::string{name} + " holds a <; write &lt;");
+            if (name == "id") tree_.ids_.try_emplace(tree_.decode(value), index);
+            at = end + 1;
+        }
+    }
+
+    /// More are no drawing; finding a name that stands twice would take long.
+    static constexpr std::size_t kMostAttributes = 1000;
+
+    XmlTree& tree_;
+    std::string_view text_;
+    std::size_t position_ = 0;
+    std::size_t counted_ = 0;
+    std::uint32_t line_ = 1;
+    std::vector<Open> open_;
+};
+
+XmlTree::XmlTree(std::string text) : text_(std::move(text)) { XmlScanner{*this}.scan(); }
+
+std::string_view XmlTree::prologue() const {
+    return std::string_view{text_}.substr(0, nodes_[root_].start);
+}
+
+std::string_view XmlTree::epilogue() const { return std::string_view{text_}.substr(nodes_[root_].end); }
+
+std::string_view XmlTree::source(NodeIndex node) const {
+    return std::string_view{text_}.substr(at(node).start, at(node).end - at(node).start);
+}
+
+std::string_view XmlTree::content(NodeIndex node) const {
+    const Node& n = at(node);
+    return std::string_view{text_}.substr(n.contentStart, n.contentEnd - n.contentStart);
+}
+
+std::vector<XmlAttribute> XmlTree::attributes(NodeIndex index) const {
+    const Node& node = at(index);
+    std::string_view rest = std::string_view{text_}.substr(node.start, node.contentStart - node.start);
+    rest.remove_prefix(1 + node.name.size());
+    std::vector<XmlAttribute> result;
+    for (;;) { // The tag was checked when the tree was built.
+        rest = trimmed(rest);
+        if (rest.empty() || rest.front() == '>' || rest.front() == '/') return result;
+        const std::size_t open = rest.find_first_of("\"'");
+        const std::size_t close = rest.find(rest[open], open + 1);
+        const std::string_view name = trimmed(rest.substr(0, rest.find('=')));
+        result.push_back({name, rest.substr(open + 1, close - open - 1), rest.substr(0, close + 1)});
+        rest.remove_prefix(close + 1);
+    }
+}
+
+NodeIndex XmlTree::find(std::string_view id) const {
+    const auto found = ids_.find(std::string{id});
+    return found == ids_.end() ? kNoNode : found->second;
+}
+
+std::string XmlTree::decode(std::string_view raw) const {
+    std::string text;
+    text.reserve(raw.size());
+    while (!raw.empty()) {
+        const std::size_t ampersand = std::min(raw.find('&'), raw.size());
+        text += raw.substr(0, ampersand);
+        raw.remove_prefix(ampersand);
+        if (raw.empty()) break;
+        const std::size_t semicolon = raw.substr(0, kLongestReference).find(';');
+        const std::string_view name =
+            semicolon == std::string_view::npos ? std::string_view{} : raw.substr(1, semicolon - 1);
+        const auto* const known = std::ranges::find(kEntities, name, &Entity::name);
+        const auto declared = entities_.find(name);
+        bool replaced = true;
+        if (name.starts_with('#'))
+            replaced = appendCharacter(text, name);
+        else if (known != std::end(kEntities))
+            text += known->character;
+        else if (declared != entities_.end())
+            text += declared->second; // not decoded again: entities within entities end here
+        else
+            replaced = false;
+        if (!replaced) text += '&';
+        raw.remove_prefix(replaced ? semicolon + 1 : 1);
+    }
+    return text;
+}
+
+std::string XmlTree::textOf(NodeIndex node) const {
+    std::string text;
+    for (NodeIndex child = at(node).firstChild; child != kNoNode; child = at(child).nextSibling) {
+        const Kind kind = at(child).kind;
+        if (kind == Kind::Text)
+            text += decode(source(child));
+        else if (kind == Kind::CData)
+            text += content(child);
+        else if (kind == Kind::Element)
+            text += textOf(child);
+    }
+    return text;
+}
+
+std::string escaped(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    for (const char c : text) {
+        switch (c) {
+        case '&': result += "&amp;"; break;
+        case '<': result += "&lt;"; break;
+        case '>': result += "&gt;"; break;
+        case '"': result += "&quot;"; break;
+        case '\n': result += "&#10;"; break;
+        case '\r': result += "&#13;"; break;
+        case '\t': result += "&#9;"; break;
+        default: result += c;
+        }
+    }
+    return result;
+}
+
+} // namespace easel::svg

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+/// An XML text as a tree of slices of its source.
+///
+/// A library's tree would not do: what a drawing holds and Easel does not understand is written
+/// back character by character, so every node must know where in the text it stands; and nesting
+/// must not cost stack. Attributes are read from the slice when asked for.
+namespace easel::svg {
+
+/// What is wrong with the text, and what would be right, at a line.
+struct SvgError : std::runtime_error {
+    SvgError(std::size_t errorLine, const std::string& message)
+        : std::runtime_error(message), line(errorLine) {}
+    std::size_t line; ///< Counted from 1.
+};
+
+/// The nesting and the number of elements beyond which a text is refused.
+constexpr std::size_t kMostNesting = 500;
+constexpr std::size_t kMostElements = 1'000'000;
+
+using NodeIndex = std::uint32_t;
+constexpr NodeIndex kNoNode = UINT32_MAX;
+
+struct XmlAttribute {
+    std::string_view name;
+    std::string_view raw;    ///< As it stands between the quotes.
+    std::string_view source; ///< The whole of it: name, equals sign and quotes.
+};
+
+class XmlTree {
+  public:
+    enum class Kind : std::uint8_t { Element, Text, CData, Other }; ///< Other: comments and the like.
+
+    struct Node {
+        std::string_view name; ///< Of an element.
+        std::size_t start = 0; ///< Where the node begins in the source ...
+        std::size_t contentStart = 0;
+        std::size_t contentEnd = 0;
+        std::size_t end = 0;   ///< ... and one past where it ends.
+        NodeIndex parent = kNoNode;
+        NodeIndex firstChild = kNoNode;
+        NodeIndex nextSibling = kNoNode;
+        std::uint32_t line = 0;
+        Kind kind = Kind::Element;
+    };
+
+    /// Reads all of `text`. Throws SvgError where it is not well-formed or beyond the limits.
+    explicit XmlTree(std::string text);
+    XmlTree(const XmlTree&) = delete;
+    XmlTree& operator=(const XmlTree&) = delete;
+
+    [[nodiscard]] NodeIndex root() const { return root_; }
+    [[nodiscard]] const Node& at(NodeIndex node) const { return nodes_[node]; }
+    [[nodiscard]] std::size_t elementCount() const { return elementCount_; }
+
+    /// Everything before and after the root element.
+    [[nodiscard]] std::string_view prologue() const;
+    [[nodiscard]] std::string_view epilogue() const;
+
+    /// The node's text, from "<" to ">".
+    [[nodiscard]] std::string_view source(NodeIndex node) const;
+    /// What stands between the start and the end tag.
+    [[nodiscard]] std::string_view content(NodeIndex node) const;
+    [[nodiscard]] std::vector<XmlAttribute> attributes(NodeIndex node) const;
+
+    /// The element with this id, the first of several; kNoNode when there is none.
+    [[nodiscard]] NodeIndex find(std::string_view id) const;
+
+    /// All text inside the node, decoded, its elements left out.
+    [[nodiscard]] std::string textOf(NodeIndex node) const;
+    /// Replaces character references and entities, those that the document type declares too.
+    [[nodiscard]] std::string decode(std::string_view raw) const;
+
+  private:
+    friend class XmlScanner;
+
+    std::string text_;
+    std::vector<Node> nodes_;
+    NodeIndex root_ = kNoNode;
+    std::size_t elementCount_ = 0;
+    std::unordered_map<std::string, NodeIndex> ids_;
+    std::unordered_map<std::string_view, std::string_view> entities_;
+};
+
+/// `text` with the characters that an attribute value or text must not hold replaced.
+[[nodiscard]] std::string escaped(std::string_view text);
+
+} // namespace easel::svg
