@@ -9,10 +9,6 @@
 namespace easel::svg {
 namespace {
 
-/// Points of a closed subpath nearer than this to its start are the start: what is left of relative
-/// coordinates that add up to nothing.
-constexpr double kSamePoint = 1e-6;
-
 /// The parameters in (0, 1) at which one coordinate of a cubic has a zero derivative.
 std::array<double, 2> extremes(double p0, double p1, double p2, double p3) {
     constexpr double kNone = -1.0;
@@ -118,12 +114,6 @@ void Box::add(Point point) {
     }
     min = {std::min(min.x, point.x), std::min(min.y, point.y)};
     max = {std::max(max.x, point.x), std::max(max.y, point.y)};
-}
-
-void Box::add(const Box& other) {
-    if (other.empty) return;
-    add(other.min);
-    add(other.max);
 }
 
 Box boundsOf(const Outline& outline) {

@@ -23,6 +23,10 @@ struct Subpath {
     bool operator==(const Subpath&) const = default;
 };
 
+/// Anchors of a closed subpath nearer than this to its start are the start: what is left of relative
+/// coordinates that add up to nothing.
+constexpr double kSamePoint = 1e-6;
+
 using Outline = std::vector<Subpath>;
 
 [[nodiscard]] constexpr Anchor cornerAt(Point p) { return {p, p, p}; }
@@ -45,7 +49,6 @@ struct Box {
     Point max;
     bool empty = true;
     void add(Point point);
-    void add(const Box& other);
 };
 
 /// The exact extremes of the curves, without stroke.

@@ -31,6 +31,7 @@ class StyleSheet {
     /// and @-rules, have no effect.
     void add(std::string_view text);
     [[nodiscard]] bool empty() const { return rules_.empty(); }
+    [[nodiscard]] std::size_t size() const { return rules_.size(); }
 
     /// The declarations for the last element of `path`, which leads to it from the root; the later
     /// one wins. `important` picks those marked so, which win over the style attribute.

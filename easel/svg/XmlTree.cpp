@@ -344,6 +344,14 @@ NodeIndex XmlTree::find(std::string_view id) const {
     return found == ids_.end() ? kNoNode : found->second;
 }
 
+std::vector<std::string> XmlTree::idsBeginningWith(std::string_view prefix) const {
+    std::vector<std::string> found;
+    for (const auto& [id, node] : ids_)
+        if (id.starts_with(prefix)) found.push_back(id);
+    std::ranges::sort(found);
+    return found;
+}
+
 std::string XmlTree::decode(std::string_view raw) const {
     std::string text;
     text.reserve(raw.size());

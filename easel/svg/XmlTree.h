@@ -59,6 +59,8 @@ class XmlTree {
 
     [[nodiscard]] NodeIndex root() const { return root_; }
     [[nodiscard]] const Node& at(NodeIndex node) const { return nodes_[node]; }
+    /// All nodes, in the order of the text, are numbered from 0.
+    [[nodiscard]] std::size_t size() const { return nodes_.size(); }
     [[nodiscard]] std::size_t elementCount() const { return elementCount_; }
 
     /// Everything before and after the root element.
@@ -73,6 +75,9 @@ class XmlTree {
 
     /// The element with this id, the first of several; kNoNode when there is none.
     [[nodiscard]] NodeIndex find(std::string_view id) const;
+
+    /// Sorted.
+    [[nodiscard]] std::vector<std::string> idsBeginningWith(std::string_view prefix) const;
 
     /// All text inside the node, decoded, its elements left out.
     [[nodiscard]] std::string textOf(NodeIndex node) const;

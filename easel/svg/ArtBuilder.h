@@ -1,0 +1,107 @@
+#pragma once
+
+#include "easel/svg/ReadingState.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace easel::svg {
+
+/// Makes art of elements, in one document: that of the file, or that of a drawing within it.
+///
+/// Transformations end in the geometry of paths and in the matrices of opaque art; styles end in
+/// the leaves. What groups keep is their opacity, their clip and what is not understood.
+class ArtBuilder {
+  public:
+    /// `source` takes what is not understood; null for a drawing within the drawing, of which the
+    /// text is kept as a whole. `offset` is the document's `rulerOffset`.
+    ArtBuilder(ReadingState& state, Document& document, DrawingSource* source, Point offset)
+        : state_(state), document_(document), source_(source), offset_(offset) {}
+
+    /// Does the element become art? Others are kept as they stand.
+    [[nodiscard]] static bool isArt(const Element& element);
+
+    /// Reads what stands between the tags of `node` into `parent`, front-most last.
+    void readChildren(NodeIndex node, Art& parent, const Context& context,
+                      std::vector<Interlude>* interludes);
+
+    /// Puts one element on top in `parent`. Null when it is no art.
+    Art* readElement(const Element& element, Art& parent, const Context& context);
+
+    /// What the element's own attributes make of what its parent hands down.
+    [[nodiscard]] Context contextOf(const Element& element, const Context& parent);
+
+    /// Gives `group` the name, state, entries and layer flags that the element says it has.
+    void readState(const Element& element, const Style& style, Art& art);
+    /// Keeps what of the element is not understood.
+    void keepSource(const Element& element, Art& art, std::vector<Interlude> interludes);
+    /// Opacity and what is not understood of a container's style.
+    void styleContainer(Art& group, const Style& style);
+
+  private:
+    enum class Entered { Element, Content }; ///< Is the element itself drawn, or its children?
+
+    // ArtBuilder.cpp
+    Art* readGroup(const Element& element, Art& parent, const Context& context);
+    Art* readClipMembers(const Element& element, Art& parent, const Context& context);
+    Art* readShape(const Element& element, Art& parent, const Context& context);
+    Art& addOutline(Outline outline, Art& parent, const Matrix& matrix, const ArtStyle& style);
+    void setSegments(Art& path, const Subpath& subpath, const Matrix& matrix);
+    void readLayer(const Element& element, const std::string& title, LayerProperties& layer);
+    void readMembers(const Element& element, Art& compound);
+    void readDictionary(const Element& element, std::string_view text, Dictionary& dictionary);
+
+    // Styling.cpp
+    /// The style of a shape with this outline in the element's coordinates.
+    [[nodiscard]] ArtStyle styleFor(const Context& context, const Outline& outline);
+    /// Grey and process inks, which stand beside the colours that they look like.
+    static void readInks(const Element& element, ArtStyle& style);
+    struct ServerUse {
+        const Definition* definition = nullptr;
+        AIRealMatrix matrix;
+    };
+    /// Nothing when the paint is to be left out.
+    [[nodiscard]] std::optional<ServerUse> serverFor(const std::string& id, const Context& context,
+                                                     const Outline& outline);
+    [[nodiscard]] ServerUse patternUse(const Element& element, const Context& context,
+                                       const Box& bounds);
+    [[nodiscard]] bool setPaint(const Paint& paint, const Context& context, const Outline& outline,
+                                AIColor& color, const Definition*& definition,
+                                AIRealMatrix& matrix);
+    [[nodiscard]] Definition& definition(Definition::Kind kind, const std::string& id,
+                                         std::shared_ptr<const ForeignContent> content,
+                                         const std::string& variant);
+
+    // Clipping.cpp
+    /// Clips `group`, whose content `bounds` (in the element's coordinates) encloses. False when
+    /// the clip path is not understood.
+    bool clip(Art& group, const std::string& clipPath, const Context& context, const Box& bounds);
+    /// For a clip path that is not understood: it is written back, but does not clip here.
+    void keepClipAsText(Art& art, const std::string& clipPath);
+    [[nodiscard]] std::optional<Outline> clipOutline(const Element& clipPath,
+                                                     const Context& context, bool& evenOdd);
+    [[nodiscard]] Box localBounds(const Art& art, const Matrix& matrix) const;
+
+    // OpaqueArt.cpp
+    Art* readOpaque(const Element& element, Art& parent, const Context& parentContext);
+    Art& addOpaque(ai::int16 type, const Element& element, Art& parent, const Context& context,
+                   const Context& parentContext, const Box& box,
+                   std::shared_ptr<OpaqueContent> content);
+    Art* readUse(const Element& element, Art& parent, const Context& context,
+                 const Context& parentContext);
+    /// What `target` shows, read once for each `variant` of what it inherits. Null when it refers
+    /// to itself.
+    [[nodiscard]] std::shared_ptr<const DrawingContent>
+    drawingOf(const Element& referring, NodeIndex target, const Context& context,
+              const std::string& variant, Entered entered);
+
+    ReadingState& state_;
+    Document& document_;
+    DrawingSource* source_;
+    Point offset_;
+    std::map<std::pair<std::string, std::string>, Definition*> definitions_;
+};
+
+} // namespace easel::svg

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "easel/svg/ReadingState.h"
+
+namespace easel::svg {
+
+/// The element, then those that it refers to for what it does not say itself, in that order.
+[[nodiscard]] std::vector<Element> referenceChain(const XmlTree& tree, NodeIndex node);
+
+/// The attribute of the first in the chain that has it; empty when none has.
+[[nodiscard]] std::string attributeInChain(const std::vector<Element>& chain,
+                                           std::string_view attribute);
+
+/// A <linearGradient> or <radialGradient>; null for any other element.
+[[nodiscard]] std::shared_ptr<const GradientContent>
+gradientContent(ReadingState& state, NodeIndex node, const Viewport& viewport);
+
+/// How a pattern covers a shape with these bounds, without what it shows. `chain` begins with the
+/// <pattern>.
+[[nodiscard]] std::shared_ptr<PatternContent> patternTile(const std::vector<Element>& chain,
+                                         const Viewport& viewport, const Box& bounds);
+
+/// The gradientTransform or patternTransform that takes a definition's coordinates to those of the
+/// drawing for a shape with this matrix from the definition's own space to soft coordinates.
+[[nodiscard]] Matrix derivedTransform(const Definition& definition, const AIRealMatrix& matrix,
+                                      Point offset);
+
+} // namespace easel::svg

@@ -1,0 +1,38 @@
+#include "easel/svg/ReadingState.h"
+
+namespace easel::svg {
+namespace {
+
+/// More comparisons of elements with style rules take longer than anyone would wait.
+constexpr std::size_t kMostRuleChecks = 500'000'000;
+
+/// More warnings help nobody.
+constexpr std::size_t kMostWarnings = 20;
+
+} // namespace
+
+void ReadingState::countElement(const Element& element) {
+    if (++elements_ > kMostElements + kMostReferencedElements)
+        element.fail("references multiply the drawing beyond 2,000,000 elements; use fewer copies");
+    ruleChecks_ += sheet.size();
+    if (ruleChecks_ > kMostRuleChecks)
+        element.fail("there are too many style rules for this many elements; remove unused rules");
+}
+
+void ReadingState::countReference(const Element& element) {
+    if (++references_ > kMostReferences)
+        element.fail("there are more than 500,000 references; use fewer copies");
+}
+
+void ReadingState::warn(const Element& element, const std::string& message) {
+    if (warnings.size() < kMostWarnings)
+        warnings.push_back(std::to_string(element.line()) + ": " + message);
+}
+
+Deeper::Deeper(ReadingState& state, const Element& element) : state_(state) {
+    if (++state.nesting <= static_cast<int>(kMostNesting)) return;
+    --state.nesting;
+    element.fail("elements and references are nested more than 500 deep; use fewer levels");
+}
+
+} // namespace easel::svg
