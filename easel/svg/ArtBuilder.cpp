@@ -207,8 +207,8 @@ Art* ArtBuilder::readShape(const Element& element, Art& parent, const Context& c
 
 Art& ArtBuilder::addOutline(Outline outline, Art& parent, const Matrix& matrix,
                             const ArtStyle& style) {
-    Art& art = createArt(document_, outline.size() > 1 ? kCompoundPathArt : kPathArt,
-                         onTopOf(parent));
+    Art& art =
+        createArt(document_, outline.size() > 1 ? kCompoundPathArt : kPathArt, onTopOf(parent));
     const Cow<ArtStyle> shared{style};
     art.write().style = shared;
     if (art.type() == kPathArt) {
@@ -299,8 +299,8 @@ void ArtBuilder::readDictionary(const Element& element, std::string_view text,
     try {
         readDictionaryJson(text, dictionary);
     } catch (const std::invalid_argument& error) {
-        element.fail("the entries of <" + std::string{element.name()} + "> are broken: " +
-                     error.what());
+        element.fail("the entries of <" + std::string{element.name()} +
+                     "> are broken: " + error.what());
     }
 }
 

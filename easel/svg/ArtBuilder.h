@@ -14,7 +14,7 @@ namespace easel::svg {
 /// Transformations end in the geometry of paths and in the matrices of opaque art; styles end in
 /// the leaves. What groups keep is their opacity, their clip and what is not understood.
 class ArtBuilder {
-  public:
+public:
     /// `source` takes what is not understood; null for a drawing within the drawing, of which the
     /// text is kept as a whole. `offset` is the document's `rulerOffset`.
     ArtBuilder(ReadingState& state, Document& document, DrawingSource* source, Point offset)
@@ -40,7 +40,7 @@ class ArtBuilder {
     /// Opacity and what is not understood of a container's style.
     void styleContainer(Art& group, const Style& style);
 
-  private:
+private:
     enum class Entered { Element, Content }; ///< Is the element itself drawn, or its children?
 
     // ArtBuilder.cpp

@@ -40,15 +40,18 @@ std::optional<Outline> ArtBuilder::clipOutline(const Element& clipPath, const Co
             if (target == kNoNode) continue;
             state_.countReference(child);
             used.emplace(state_.tree, target);
-            inner->matrix = inner->matrix *
-                            Matrix{1, 0, 0, 1, child.length("x", inner->viewport.width, 0),
-                                   child.length("y", inner->viewport.height, 0)};
+            inner->matrix = inner->matrix * Matrix{1,
+                                                   0,
+                                                   0,
+                                                   1,
+                                                   child.length("x", inner->viewport.width, 0),
+                                                   child.length("y", inner->viewport.height, 0)};
             *inner = contextOf(*used, *inner);
             shape = &*used;
         }
         const auto attribute = [&](std::string_view name) { return shape->get(name); };
-        const auto part = shapeOutline(shape->name(), attribute, inner->viewport,
-                                       inner->style.font.size);
+        const auto part =
+            shapeOutline(shape->name(), attribute, inner->viewport, inner->style.font.size);
         if (!part) {
             if (shape->name() == "text" || shape->name() == "use" || shape->name() == "g")
                 return std::nullopt;
@@ -86,8 +89,11 @@ bool ArtBuilder::clip(Art& group, const std::string& clipPath, const Context& co
         Context start{Style{}, context.matrix, context.viewport};
         if (element.get("clipPathUnits") == "objectBoundingBox") {
             if (bounds.empty) return false;
-            start.matrix = start.matrix * Matrix{bounds.max.x - bounds.min.x, 0, 0,
-                                                 bounds.max.y - bounds.min.y, bounds.min.x,
+            start.matrix = start.matrix * Matrix{bounds.max.x - bounds.min.x,
+                                                 0,
+                                                 0,
+                                                 bounds.max.y - bounds.min.y,
+                                                 bounds.min.x,
                                                  bounds.min.y};
         }
         const auto own = std::make_unique<Context>(contextOf(element, start));

@@ -152,8 +152,8 @@ std::optional<Colour> parseColour(std::string_view text) {
     const std::string word = lowered(trimmed(text));
     if (word.starts_with('#')) return parseHex(std::string_view{word}.substr(1));
     if (word == "transparent") return Colour{0, 0, 0, 0};
-    const NamedColour* const found = std::ranges::lower_bound(kNamedColours, std::string_view{word},
-                                                              {}, &NamedColour::name);
+    const NamedColour* const found =
+        std::ranges::lower_bound(kNamedColours, std::string_view{word}, {}, &NamedColour::name);
     if (found != std::end(kNamedColours) && found->name == word) return fromBytes(found->rgb);
     return parseFunction(word);
 }
@@ -163,7 +163,8 @@ std::string formatColour(const Colour& colour) {
     std::string exact = "rgb(";
     bool bytes = true;
     for (const float channel : {colour.red, colour.green, colour.blue}) {
-        const auto byte = static_cast<std::uint32_t>(std::lround(std::clamp(channel, 0.0F, 1.0F) * 255.0F));
+        const auto byte =
+            static_cast<std::uint32_t>(std::lround(std::clamp(channel, 0.0F, 1.0F) * 255.0F));
         bytes = bytes && static_cast<float>(byte) / 255.0F == channel;
         hex += "0123456789abcdef"[byte / 16];
         hex += "0123456789abcdef"[byte % 16];

@@ -1,5 +1,7 @@
 #include "easel/svg/Content.h"
 
+#include "easel/document/Layers.h"
+
 namespace easel::svg {
 namespace {
 
@@ -16,9 +18,34 @@ const DrawingSource* sourceOf(const Document& document) {
     return dynamic_cast<const DrawingSource*>(document.foreign.get());
 }
 
+Art& startingLayer(const Document& document) {
+    Art* const top = layerFrom(document.root().firstChild());
+    for (Art* layer = top; layer != nullptr; layer = layerFrom(layer->next()))
+        if (!layer->has(kArtHidden) && !layer->has(kArtLocked)) return *layer;
+    return *top;
+}
+
+int layerNumber(const Document& document, const Art* wanted) {
+    int number = 0;
+    for (const Art* layer = layerFrom(document.root().firstChild()); layer != nullptr;
+         layer = nextLayerInPreorder(*layer)) {
+        if (layer == wanted) return number;
+        ++number;
+    }
+    return -1;
+}
+
+Art* numberedLayer(const Document& document, int number) {
+    Art* layer = layerFrom(document.root().firstChild());
+    while (layer != nullptr && number-- > 0)
+        layer = nextLayerInPreorder(*layer);
+    return layer;
+}
+
 Point rulerOffset(const Document& document) {
     const DrawingSource* const source = sourceOf(document);
-    if (source == nullptr) { // soft (0, 0) on the artboard's top left corner is the drawing's (0, 0)
+    if (source ==
+        nullptr) { // soft (0, 0) on the artboard's top left corner is the drawing's (0, 0)
         const AIRealRect artboard = document.artboard();
         return {-static_cast<double>(artboard.left), static_cast<double>(artboard.top)};
     }

@@ -131,6 +131,14 @@ struct DrawingSource : ForeignContent {
 /// The name of our own attributes' namespace.
 inline constexpr std::string_view kNamespace = "urn:facetta:easel";
 
+/// The layer that a drawing opens with unless it says otherwise: the top-most top-level one that
+/// can be worked on, or the top-most. The document has a layer.
+[[nodiscard]] Art& startingLayer(const Document& document);
+/// The number of a layer in pre-order from the top, counted from 0; -1 when it is none.
+[[nodiscard]] int layerNumber(const Document& document, const Art* layer);
+/// Null when there is none of that number.
+[[nodiscard]] Art* numberedLayer(const Document& document, int number);
+
 // Between the drawing's coordinates, y downwards, and soft ones, y upwards.
 
 /// Soft coordinates are the drawing's, less this, with y negated: how far the ruler origin lies

@@ -52,7 +52,8 @@ Value jsonValue(const Json& item, int depth);
 
 Json arrayJson(const Array& array) {
     Json list = Json::array();
-    for (const Value& value : array.values()) list.push_back(valueJson(value));
+    for (const Value& value : array.values())
+        list.push_back(valueJson(value));
     return list;
 }
 
@@ -83,7 +84,8 @@ struct Writer {
     }
     Json operator()(const UnicodeText& value) const {
         Json units = Json::array(); // lone surrogates may occur, so no text
-        for (const char16_t unit : *value) units.push_back(static_cast<unsigned>(unit));
+        for (const char16_t unit : *value)
+            units.push_back(static_cast<unsigned>(unit));
         return {{"type", "unicode"}, {"value", std::move(units)}};
     }
     Json operator()(Pointer) const { return {{"type", "unknown"}}; }
@@ -110,7 +112,8 @@ AIReal realOf(const Json& json) {
 
 template <std::size_t N> std::array<AIReal, N> reals(const Json& item) {
     std::array<AIReal, N> numbers{};
-    for (std::size_t i = 0; i < N; ++i) numbers[i] = realOf(item.at("value").at(i));
+    for (std::size_t i = 0; i < N; ++i)
+        numbers[i] = realOf(item.at("value").at(i));
     return numbers;
 }
 
@@ -145,7 +148,8 @@ Value matrixValue(const Json& item, int) {
 
 Value unicodeEntry(const Json& item, int) {
     std::u16string text;
-    for (const Json& unit : item.at("value")) text += static_cast<char16_t>(unit.get<unsigned>());
+    for (const Json& unit : item.at("value"))
+        text += static_cast<char16_t>(unit.get<unsigned>());
     return unicodeValue(std::move(text));
 }
 

@@ -21,8 +21,8 @@ bool isRewritten(std::string_view name) {
 
 /// Attributes that say the same as the outline.
 bool isGeometry(std::string_view element, std::string_view name) {
-    const bool isShape = isOneOf(
-        element, {"rect", "circle", "ellipse", "line", "polygon", "polyline", "path"});
+    const bool isShape =
+        isOneOf(element, {"rect", "circle", "ellipse", "line", "polygon", "polyline", "path"});
     if (!isShape) return false;
     return isOneOf(name, {"d", "x", "y", "width", "height", "rx", "ry", "cx", "cy", "r", "x1", "y1",
                           "x2", "y2", "points", "pathLength"});
@@ -91,12 +91,14 @@ Properties Element::properties(const StyleSheet& sheet,
         result[declaration.property] = declaration.value;
     };
     if (!sheet.empty())
-        for (const Declaration* declaration : sheet.matching(path, false)) add(*declaration);
+        for (const Declaration* declaration : sheet.matching(path, false))
+            add(*declaration);
     const std::vector<Declaration> own = parseDeclarations(get("style"));
     for (const Declaration& declaration : own)
         if (!declaration.important) add(declaration);
     if (!sheet.empty())
-        for (const Declaration* declaration : sheet.matching(path, true)) add(*declaration);
+        for (const Declaration* declaration : sheet.matching(path, true))
+            add(*declaration);
     for (const Declaration& declaration : own)
         if (declaration.important) add(declaration);
     return result;
@@ -128,7 +130,8 @@ std::string carriedAttributes(const Element& element, const Style& parent) {
     std::string text;
     Properties given;
     for (const Declaration& declaration : parseDeclarations(element.get("style")))
-        given[declaration.property] = declaration.value + (declaration.important ? " !important" : "");
+        given[declaration.property] =
+            declaration.value + (declaration.important ? " !important" : "");
     Properties kept = given;
     std::erase_if(kept, [](const auto& property) { return isArtState(property.first); });
     for (const XmlAttribute& attribute : element.attributes()) {

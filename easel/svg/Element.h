@@ -11,7 +11,7 @@ namespace easel::svg {
 
 /// One element of the text with its attributes at hand.
 class Element {
-  public:
+public:
     Element(const XmlTree& tree, NodeIndex node)
         : tree_(&tree), node_(node), attributes_(tree.attributes(node)) {}
 
@@ -20,7 +20,9 @@ class Element {
     [[nodiscard]] std::size_t line() const { return tree_->at(node_).line; }
     [[nodiscard]] const std::vector<XmlAttribute>& attributes() const { return attributes_; }
 
-    [[nodiscard]] bool has(std::string_view attribute) const { return lookUp(attribute) != nullptr; }
+    [[nodiscard]] bool has(std::string_view attribute) const {
+        return lookUp(attribute) != nullptr;
+    }
     /// Decoded; empty when absent.
     [[nodiscard]] std::string get(std::string_view attribute) const;
     /// "true" or "1".
@@ -38,7 +40,7 @@ class Element {
 
     [[noreturn]] void fail(const std::string& message) const;
 
-  private:
+private:
     [[nodiscard]] const XmlAttribute* lookUp(std::string_view attribute) const;
 
     const XmlTree* tree_;

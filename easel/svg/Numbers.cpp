@@ -20,8 +20,8 @@ struct Unit {
 
 /// CSS fixes the inch at 96 user units.
 constexpr Unit kUnits[] = {
-    {"", 1.0},           {"px", 1.0},         {"pt", 96.0 / 72.0},  {"pc", 16.0},
-    {"in", 96.0},        {"mm", 96.0 / 25.4}, {"cm", 96.0 / 2.54}, {"q", 96.0 / 101.6},
+    {"", 1.0},    {"px", 1.0},         {"pt", 96.0 / 72.0}, {"pc", 16.0},
+    {"in", 96.0}, {"mm", 96.0 / 25.4}, {"cm", 96.0 / 2.54}, {"q", 96.0 / 101.6},
 };
 
 template <typename Real> void appendShortest(std::string& text, Real value) {
@@ -34,7 +34,8 @@ template <typename Real> void appendShortest(std::string& text, Real value) {
 } // namespace
 
 void Cursor::skipBlanks() {
-    while (!rest_.empty() && isBlank(rest_.front())) rest_.remove_prefix(1);
+    while (!rest_.empty() && isBlank(rest_.front()))
+        rest_.remove_prefix(1);
 }
 
 void Cursor::skipSeparators() {
@@ -86,7 +87,8 @@ std::optional<double> parseNumber(std::string_view text) {
 NumberList parseNumbers(std::string_view text) {
     Cursor cursor{trimmed(text)};
     NumberList list;
-    while (const std::optional<double> value = cursor.number()) list.numbers.push_back(*value);
+    while (const std::optional<double> value = cursor.number())
+        list.numbers.push_back(*value);
     list.complete = cursor.atEnd();
     return list;
 }

@@ -14,7 +14,7 @@ constexpr double kLargestCoordinate = 1e9;
 
 /// Walks over the text of one attribute.
 class Cursor {
-  public:
+public:
     explicit Cursor(std::string_view text) : rest_(text) {}
 
     [[nodiscard]] bool atEnd() const { return rest_.empty(); }
@@ -33,7 +33,7 @@ class Cursor {
     /// An arc's flag: one digit, 0 or 1, that the next number may follow without a separator.
     [[nodiscard]] std::optional<bool> flag();
 
-  private:
+private:
     std::string_view rest_;
 };
 

@@ -34,8 +34,7 @@ std::size_t letterCount(std::string_view text) {
 }
 
 void addRun(Box& box, const TextRun& run) {
-    const double width =
-        kLetterWidth * run.font.size * static_cast<double>(letterCount(run.text));
+    const double width = kLetterWidth * run.font.size * static_cast<double>(letterCount(run.text));
     const double before = run.anchor == TextAnchor::Start    ? 0.0
                           : run.anchor == TextAnchor::Middle ? width / 2
                                                              : width;
@@ -46,7 +45,7 @@ void addRun(Box& box, const TextRun& run) {
 
 /// Gathers the runs of a text element and of the spans inside it.
 class TextReader {
-  public:
+public:
     TextReader(ReadingState& state, TextContent& content) : state_(state), content_(content) {}
 
     void read(const Element& element, const Context& context) {
@@ -64,7 +63,7 @@ class TextReader {
         }
     }
 
-  private:
+private:
     void readSpan(const Element& element, const Context& parent) {
         if (element.name() != "tspan" && element.name() != "a") return;
         const Pushed pushed{state_.path, element.selectorName()};
@@ -78,8 +77,7 @@ class TextReader {
     void move(const Element& element, const Context& context) {
         const auto first = [&](std::string_view name, double whole) -> std::optional<double> {
             const std::string text = element.get(name);
-            const std::string_view one =
-                std::string_view{text}.substr(0, text.find_first_of(", "));
+            const std::string_view one = std::string_view{text}.substr(0, text.find_first_of(", "));
             return parseLength(one, whole, context.style.font.size);
         };
         const auto x = first("x", context.viewport.width);
@@ -146,7 +144,8 @@ Art* ArtBuilder::readOpaque(const Element& element, Art& parent, const Context& 
     }
     auto content = std::make_shared<TextContent>();
     TextReader{state_, *content}.read(element, *context);
-    for (const TextRun& run : content->runs) addRun(box, run);
+    for (const TextRun& run : content->runs)
+        addRun(box, run);
     return &addOpaque(kTextFrameArt, element, parent, *context, parentContext, box, content);
 }
 
@@ -201,17 +200,16 @@ Art* ArtBuilder::readUse(const Element& element, Art& parent, const Context& con
         }
     Art& art = addOpaque(kSymbolArt, element, parent, context, parentContext, box,
                          std::make_shared<OpaqueContent>());
-    Definition& symbol = definition(Definition::Kind::Symbol, element.reference(), drawing, variant);
+    Definition& symbol =
+        definition(Definition::Kind::Symbol, element.reference(), drawing, variant);
     if (!box.empty) symbol.box = art.details().box;
     art.write().details.write().symbol = &symbol;
     return &art;
 }
 
-std::shared_ptr<const DrawingContent> ArtBuilder::drawingOf(const Element& referring,
-                                                            NodeIndex target,
-                                                            const Context& context,
-                                                            const std::string& variant,
-                                                            Entered entered) {
+std::shared_ptr<const DrawingContent>
+ArtBuilder::drawingOf(const Element& referring, NodeIndex target, const Context& context,
+                      const std::string& variant, Entered entered) {
     if (std::ranges::find(state_.referring, target) != state_.referring.end()) return nullptr;
     const auto known = state_.drawings.find({target, variant});
     if (known != state_.drawings.end()) return known->second;
@@ -230,8 +228,8 @@ std::shared_ptr<const DrawingContent> ArtBuilder::drawingOf(const Element& refer
     ArtBuilder builder{state_, *content->drawing, nullptr, Point{}};
     Art& layer = *content->drawing->root().firstChild();
     const Element element{state_.tree, target};
-    const bool hasContentOnly = entered == Entered::Content || element.name() == "symbol" ||
-                                element.name() == "svg";
+    const bool hasContentOnly =
+        entered == Entered::Content || element.name() == "symbol" || element.name() == "svg";
     if (hasContentOnly) {
         const Pushed own{state_.path, element.selectorName()};
         builder.readChildren(target, layer, context, nullptr);

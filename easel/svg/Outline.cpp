@@ -15,8 +15,7 @@ std::array<double, 2> extremes(double p0, double p1, double p2, double p3) {
     const double a = -p0 + 3 * p1 - 3 * p2 + p3;
     const double b = 2 * (p0 - 2 * p1 + p2);
     const double c = p1 - p0;
-    if (std::abs(a) < 1e-12 * (std::abs(b) + std::abs(c)))
-        return {b == 0 ? kNone : -c / b, kNone};
+    if (std::abs(a) < 1e-12 * (std::abs(b) + std::abs(c))) return {b == 0 ? kNone : -c / b, kNone};
     const double discriminant = b * b - 4 * a * c;
     if (!(discriminant >= 0)) return {kNone, kNone};
     const double root = std::sqrt(discriminant);
@@ -31,8 +30,7 @@ Point onCubic(const Anchor& from, const Anchor& to, double t) {
 void addCurve(Box& box, const Anchor& from, const Anchor& to) {
     box.add(to.p);
     for (double Point::*axis : {&Point::x, &Point::y})
-        for (const double t :
-             extremes(from.p.*axis, from.out.*axis, to.in.*axis, to.p.*axis))
+        for (const double t : extremes(from.p.*axis, from.out.*axis, to.in.*axis, to.p.*axis))
             if (t > 0 && t < 1) box.add(onCubic(from, to, t));
 }
 
@@ -63,8 +61,9 @@ void appendArc(Subpath& subpath, Point radii, double rotationDegrees, bool large
     if (radii.x == 0 || radii.y == 0) return appendLine(subpath, end);
 
     const double angle = std::remainder(rotationDegrees, 360.0) * std::numbers::pi / 180.0;
-    Matrix place = Matrix{std::cos(angle), std::sin(angle), -std::sin(angle), std::cos(angle), 0, 0} *
-                   Matrix{std::abs(radii.x), 0, 0, std::abs(radii.y), 0, 0};
+    Matrix place =
+        Matrix{std::cos(angle), std::sin(angle), -std::sin(angle), std::cos(angle), 0, 0} *
+        Matrix{std::abs(radii.x), 0, 0, std::abs(radii.y), 0, 0};
     const std::optional<Matrix> toUnit = inverse(place);
     if (!toUnit) return appendLine(subpath, end);
     const Point from = *toUnit * start;
@@ -122,7 +121,8 @@ Box boundsOf(const Outline& outline) {
         const std::vector<Anchor>& anchors = subpath.anchors;
         if (anchors.empty()) continue;
         box.add(anchors.front().p);
-        for (std::size_t i = 1; i < anchors.size(); ++i) addCurve(box, anchors[i - 1], anchors[i]);
+        for (std::size_t i = 1; i < anchors.size(); ++i)
+            addCurve(box, anchors[i - 1], anchors[i]);
         if (subpath.closed) addCurve(box, anchors.back(), anchors.front());
     }
     return box;

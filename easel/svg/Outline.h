@@ -23,8 +23,8 @@ struct Subpath {
     bool operator==(const Subpath&) const = default;
 };
 
-/// Anchors of a closed subpath nearer than this to its start are the start: what is left of relative
-/// coordinates that add up to nothing.
+/// Anchors of a closed subpath nearer than this to its start are the start: what is left of
+/// relative coordinates that add up to nothing.
 constexpr double kSamePoint = 1e-6;
 
 using Outline = std::vector<Subpath>;

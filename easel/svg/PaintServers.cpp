@@ -37,7 +37,7 @@ std::vector<GradientStop> readStops(ReadingState& state, const Element& gradient
 /// Reads the coordinates of a gradient or pattern, which are fractions of the shape's bounds or
 /// lengths in user space.
 class ServerLengths {
-  public:
+public:
     ServerLengths(const std::vector<Element>& chain, bool overBounds, const Viewport& viewport)
         : chain_(chain), whole_(overBounds ? Viewport{1, 1} : viewport) {}
 
@@ -51,7 +51,7 @@ class ServerLengths {
         return read(name, standard, whole_.diagonal());
     }
 
-  private:
+private:
     [[nodiscard]] double read(std::string_view name, const char* standard, double whole) const {
         const std::string text = attributeInChain(chain_, name);
         const auto length = parseLength(text.empty() ? standard : text, whole);
@@ -139,7 +139,7 @@ std::shared_ptr<PatternContent> patternTile(const std::vector<Element>& chain,
     pattern->tileSize = {lengths.across("width", "0"), lengths.down("height", "0")};
     if (overBounds) {
         pattern->tileCorner = {bounds.min.x + pattern->tileCorner.x * span.x,
-                              bounds.min.y + pattern->tileCorner.y * span.y};
+                               bounds.min.y + pattern->tileCorner.y * span.y};
         pattern->tileSize = {pattern->tileSize.x * span.x, pattern->tileSize.y * span.y};
     }
     pattern->transform = transformOf(chain, "patternTransform");
@@ -147,7 +147,7 @@ std::shared_ptr<PatternContent> patternTile(const std::vector<Element>& chain,
     const auto box = parseViewBox(attributeInChain(chain, "viewBox"));
     if (box) {
         pattern->contentMatrix = fitted(*box, pattern->tileCorner, pattern->tileSize,
-                                       attributeInChain(chain, "preserveAspectRatio"));
+                                        attributeInChain(chain, "preserveAspectRatio"));
         return pattern;
     }
     pattern->contentMatrix = {1, 0, 0, 1, pattern->tileCorner.x, pattern->tileCorner.y};

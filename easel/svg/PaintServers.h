@@ -17,8 +17,8 @@ gradientContent(ReadingState& state, NodeIndex node, const Viewport& viewport);
 
 /// How a pattern covers a shape with these bounds, without what it shows. `chain` begins with the
 /// <pattern>.
-[[nodiscard]] std::shared_ptr<PatternContent> patternTile(const std::vector<Element>& chain,
-                                         const Viewport& viewport, const Box& bounds);
+[[nodiscard]] std::shared_ptr<PatternContent>
+patternTile(const std::vector<Element>& chain, const Viewport& viewport, const Box& bounds);
 
 /// The gradientTransform or patternTransform that takes a definition's coordinates to those of the
 /// drawing for a shape with this matrix from the definition's own space to soft coordinates.

@@ -19,7 +19,7 @@ bool isSane(Point p) {
 
 /// Reads one `d` attribute from left to right.
 class PathReader {
-  public:
+public:
     explicit PathReader(std::string_view text) : cursor_(text) {}
 
     PathData read() {
@@ -32,7 +32,7 @@ class PathReader {
         return std::move(data_);
     }
 
-  private:
+private:
     /// One letter with all its arguments. False after a mistake.
     bool readCommand() {
         const char letter = cursor_.peek();
@@ -67,15 +67,24 @@ class PathReader {
 
     bool readArguments(char command) {
         switch (command) {
-        case 'M': return moveTo();
-        case 'L': return lineTo();
-        case 'H': return alongAxis(&Point::x);
-        case 'V': return alongAxis(&Point::y);
-        case 'C': return curveTo();
-        case 'S': return smoothCurveTo();
-        case 'Q': return quadraticTo();
-        case 'T': return smoothQuadraticTo();
-        default: return arcTo();
+        case 'M':
+            return moveTo();
+        case 'L':
+            return lineTo();
+        case 'H':
+            return alongAxis(&Point::x);
+        case 'V':
+            return alongAxis(&Point::y);
+        case 'C':
+            return curveTo();
+        case 'S':
+            return smoothCurveTo();
+        case 'Q':
+            return quadraticTo();
+        case 'T':
+            return smoothQuadraticTo();
+        default:
+            return arcTo();
         }
     }
 

@@ -64,6 +64,16 @@ void appendPoint(std::string& text, AIRealPoint point, Point offset) {
     appendY(text, point, offset);
 }
 
+std::string transformText(const AIRealMatrix& m, Point offset) {
+    std::string text = "matrix(";
+    for (const AIReal entry : {m.a, -m.b, m.c, -m.d}) {
+        appendNumber(text, entry);
+        text += ' ';
+    }
+    appendPoint(text, {m.tx, m.ty}, offset);
+    return text += ')';
+}
+
 void appendPathText(std::string& text, std::span<const AIPathSegment> segments, bool closed,
                     Point offset) {
     if (segments.empty()) return;

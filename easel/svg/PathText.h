@@ -17,4 +17,7 @@ void appendPathText(std::string& text, std::span<const AIPathSegment> segments, 
 /// A coordinate pair of the drawing, as path data has it.
 void appendPoint(std::string& text, AIRealPoint point, Point offset);
 
+/// The transform attribute of art with this matrix to soft coordinates.
+[[nodiscard]] std::string transformText(const AIRealMatrix& matrix, Point offset);
+
 } // namespace easel::svg

@@ -28,7 +28,7 @@ struct Context {
 /// What reading one file shares: its text, its style sheets, what was already read of its
 /// definitions, and how much more may be read.
 class ReadingState {
-  public:
+public:
     explicit ReadingState(std::string text) : tree(std::move(text)) {}
 
     /// Counts one more element; throws SvgError where the limits are passed.
@@ -51,7 +51,7 @@ class ReadingState {
     std::map<std::pair<NodeIndex, std::string>, std::shared_ptr<const DrawingContent>> drawings;
     std::unordered_map<NodeIndex, std::shared_ptr<const GradientContent>> gradients;
 
-  private:
+private:
     std::size_t elements_ = 0;
     std::size_t references_ = 0;
     std::size_t ruleChecks_ = 0;
@@ -59,7 +59,7 @@ class ReadingState {
 
 /// Something put back when a scope ends.
 template <typename Container> class Pushed {
-  public:
+public:
     Pushed(Container& container, typename Container::value_type value) : container_(container) {
         container_.push_back(std::move(value));
     }
@@ -67,32 +67,33 @@ template <typename Container> class Pushed {
     Pushed(const Pushed&) = delete;
     Pushed& operator=(const Pushed&) = delete;
 
-  private:
+private:
     Container& container_;
 };
 
 /// Another value until a scope ends.
 template <typename T> class Exchanged {
-  public:
-    Exchanged(T& target, T value) : target_(target), former_(std::exchange(target, std::move(value))) {}
+public:
+    Exchanged(T& target, T value)
+        : target_(target), former_(std::exchange(target, std::move(value))) {}
     ~Exchanged() { target_ = std::move(former_); }
     Exchanged(const Exchanged&) = delete;
     Exchanged& operator=(const Exchanged&) = delete;
 
-  private:
+private:
     T& target_;
     T former_;
 };
 
 /// One level deeper; throws SvgError beyond the limit.
 class Deeper {
-  public:
+public:
     Deeper(ReadingState& state, const Element& element);
     ~Deeper() { --state_.nesting; }
     Deeper(const Deeper&) = delete;
     Deeper& operator=(const Deeper&) = delete;
 
-  private:
+private:
     ReadingState& state_;
 };
 

@@ -12,7 +12,7 @@ namespace {
 
 /// Reads the attributes of one shape, and remembers the first that is no length.
 class Lengths {
-  public:
+public:
     Lengths(const AttributeLookup& attribute, const Viewport& viewport, double fontSize)
         : attribute_(attribute), viewport_(viewport), fontSize_(fontSize) {}
 
@@ -34,7 +34,7 @@ class Lengths {
     [[nodiscard]] const Viewport& viewport() const { return viewport_; }
     [[nodiscard]] const std::string& error() const { return error_; }
 
-  private:
+private:
     const AttributeLookup& attribute_;
     const Viewport& viewport_;
     double fontSize_;
@@ -47,7 +47,8 @@ Subpath ellipse(Point centre, Point radii) {
                           {centre.x - radii.x, centre.y},
                           {centre.x, centre.y - radii.y},
                           {centre.x + radii.x, centre.y}};
-    for (const Point end : ends) appendArc(subpath, radii, 0, false, true, end);
+    for (const Point end : ends)
+        appendArc(subpath, radii, 0, false, true, end);
     close(subpath);
     return subpath;
 }

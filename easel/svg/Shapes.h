@@ -28,7 +28,6 @@ struct ShapeOutline {
 /// element.
 [[nodiscard]] std::optional<ShapeOutline> shapeOutline(std::string_view element,
                                                        const AttributeLookup& attribute,
-                                                       const Viewport& viewport,
-                                                       double fontSize);
+                                                       const Viewport& viewport, double fontSize);
 
 } // namespace easel::svg

@@ -98,7 +98,8 @@ const PropertyRow* rowOf(std::string_view name) {
 std::optional<Paint> parsePaint(std::string_view text, const Colour& current) {
     text = trimmed(text);
     if (text == "none") return Paint{};
-    if (equalIgnoringCase(text, "currentColor")) return Paint{Paint::Kind::Plain, current, false, {}};
+    if (equalIgnoringCase(text, "currentColor"))
+        return Paint{Paint::Kind::Plain, current, false, {}};
     if (const std::string id = referenceIn(text); !id.empty()) {
         Paint paint{Paint::Kind::Server, {}, false, id};
         const std::size_t end = text.find(')');
@@ -161,8 +162,8 @@ void setDashes(const Context& c) {
 }
 
 void setFontSize(const Context& c) {
-    constexpr Word<double> kSizes[] = {{"xx-small", 9}, {"x-small", 10},  {"small", 13},
-                                       {"medium", 16},  {"large", 18},    {"x-large", 24},
+    constexpr Word<double> kSizes[] = {{"xx-small", 9}, {"x-small", 10}, {"small", 13},
+                                       {"medium", 16},  {"large", 18},   {"x-large", 24},
                                        {"xx-large", 32}};
     double size = c.style.font.size;
     setWord(size, c.value, kSizes);
@@ -190,17 +191,15 @@ void setPaint(Paint& target, const Context& c) {
 }
 
 constexpr Word<bool> kRules[] = {{"nonzero", false}, {"evenodd", true}};
-constexpr Word<Cap> kCaps[] = {
-    {"butt", Cap::Butt}, {"round", Cap::Round}, {"square", Cap::Square}};
+constexpr Word<Cap> kCaps[] = {{"butt", Cap::Butt}, {"round", Cap::Round}, {"square", Cap::Square}};
 constexpr Word<Join> kJoins[] = {
     {"miter", Join::Miter}, {"round", Join::Round}, {"bevel", Join::Bevel}};
-constexpr Word<bool> kWeights[] = {{"normal", false}, {"bold", true},  {"bolder", true},
+constexpr Word<bool> kWeights[] = {{"normal", false},  {"bold", true}, {"bolder", true},
                                    {"lighter", false}, {"600", true},  {"700", true},
                                    {"800", true},      {"900", true},  {"400", false}};
 constexpr Word<bool> kSlants[] = {{"normal", false}, {"italic", true}, {"oblique", true}};
-constexpr Word<TextAnchor> kAnchors[] = {{"start", TextAnchor::Start},
-                                         {"middle", TextAnchor::Middle},
-                                         {"end", TextAnchor::End}};
+constexpr Word<TextAnchor> kAnchors[] = {
+    {"start", TextAnchor::Start}, {"middle", TextAnchor::Middle}, {"end", TextAnchor::End}};
 constexpr Word<bool> kVisibility[] = {{"visible", true}, {"hidden", false}, {"collapse", false}};
 
 struct Setter {

@@ -167,7 +167,8 @@ void StyleSheet::addRule(std::string_view selector, const std::vector<Declaratio
         rule.selector.push_back(std::move(simple));
     }
     if (rule.selector.empty() || rule.selector.size() > kLongestSelector) return;
-    const auto stronger = std::ranges::upper_bound(rules_, rule.specificity, {}, &Rule::specificity);
+    const auto stronger =
+        std::ranges::upper_bound(rules_, rule.specificity, {}, &Rule::specificity);
     rules_.insert(stronger, std::move(rule));
 }
 
@@ -180,7 +181,8 @@ void StyleSheet::add(std::string_view text) {
         } else {
             std::string_view selectors = takeUntil(rest, '{');
             const std::vector<Declaration> declarations = parseDeclarations(takeUntil(rest, '}'));
-            while (!selectors.empty()) addRule(takeUntil(selectors, ','), declarations);
+            while (!selectors.empty())
+                addRule(takeUntil(selectors, ','), declarations);
         }
         rest = trimmed(rest);
     }

@@ -26,7 +26,7 @@ struct ElementName {
 };
 
 class StyleSheet {
-  public:
+public:
     /// Adds the rules of one <style> element. Rules with selectors beyond the part of CSS above,
     /// and @-rules, have no effect.
     void add(std::string_view text);
@@ -38,7 +38,7 @@ class StyleSheet {
     [[nodiscard]] std::vector<const Declaration*> matching(const std::vector<ElementName>& path,
                                                            bool important) const;
 
-  private:
+private:
     /// One element's part of a selector, such as "path.thin#rim".
     struct Simple {
         std::string tag; ///< Empty for any.

@@ -31,9 +31,11 @@ std::string dashText(const ArtStyle& style) {
         appendNumber(text, part);
     };
     if (!style.longDash.empty())
-        for (const AIReal part : style.longDash) append(part);
+        for (const AIReal part : style.longDash)
+            append(part);
     else
-        for (int i = 0; i < std::min<int>(dash.length, kHeldDashes); ++i) append(dash.array[i]);
+        for (int i = 0; i < std::min<int>(dash.length, kHeldDashes); ++i)
+            append(dash.array[i]);
     return text.empty() ? "none" : text;
 }
 
@@ -76,8 +78,9 @@ void appendPattern(std::string& text, const PatternContent& pattern) {
     text += " patternUnits=\"userSpaceOnUse\"";
     if (pattern.viewBoxSize == Point{}) return;
     text += " preserveAspectRatio=\"none\"";
-    appendAttribute(text, "viewBox", "0 0 " + formatNumber(pattern.viewBoxSize.x) + ' ' +
-                                         formatNumber(pattern.viewBoxSize.y));
+    appendAttribute(text, "viewBox",
+                    "0 0 " + formatNumber(pattern.viewBoxSize.x) + ' ' +
+                        formatNumber(pattern.viewBoxSize.y));
 }
 
 } // namespace
@@ -85,8 +88,8 @@ void appendPattern(std::string& text, const PatternContent& pattern) {
 std::string DerivedServers::reference(const Definition& definition, const AIRealMatrix& matrix) {
     const auto* const gradient = dynamic_cast<const GradientContent*>(definition.content.get());
     const auto* const pattern = dynamic_cast<const PatternContent*>(definition.content.get());
-    const bool dependsOnBounds = (gradient != nullptr && gradient->overBounds) ||
-                                 (pattern != nullptr && pattern->resolved);
+    const bool dependsOnBounds =
+        (gradient != nullptr && gradient->overBounds) || (pattern != nullptr && pattern->resolved);
     const bool understood = gradient != nullptr || pattern != nullptr;
     if (!understood || (!dependsOnBounds && fromSoft(matrix, offset_) == Matrix{}))
         return "url(#" + definition.id() + ")";
@@ -112,9 +115,9 @@ void DerivedServers::appendElement(const std::string& id, const Definition& defi
                                    const AIRealMatrix& matrix) {
     const auto* const gradient = dynamic_cast<const GradientContent*>(definition.content.get());
     const auto* const pattern = dynamic_cast<const PatternContent*>(definition.content.get());
-    const char* const tag = pattern != nullptr ? "pattern"
+    const char* const tag = pattern != nullptr                                ? "pattern"
                             : gradient->kind == GradientContent::Kind::Linear ? "linearGradient"
-                                                                               : "radialGradient";
+                                                                              : "radialGradient";
     elements_ += "\n    <";
     elements_ += tag;
     appendAttribute(elements_, "id", id);
@@ -139,7 +142,8 @@ void DerivedServers::appendElement(const std::string& id, const Definition& defi
 std::vector<PropertyText> styleText(const ArtStyle& style, Explicit all, DerivedServers& servers) {
     std::vector<PropertyText> properties;
     const auto add = [&](const char* name, std::string value, std::string_view standard) {
-        if (all == Explicit::Yes || value != standard) properties.push_back({name, std::move(value)});
+        if (all == Explicit::Yes || value != standard)
+            properties.push_back({name, std::move(value)});
     };
     const AIPathStyle& path = style.path;
     const AIStrokeStyle& stroke = path.stroke;

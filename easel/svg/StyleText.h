@@ -12,7 +12,7 @@ namespace easel::svg {
 /// Gives out ids for definitions made anew: gradients and patterns whose matrix differs from what
 /// their element says, because the art that they paint was copied or transformed.
 class DerivedServers {
-  public:
+public:
     DerivedServers(const DrawingSource* source, Point offset) : source_(source), offset_(offset) {}
 
     /// What a paint property says: "url(#id)".
@@ -23,7 +23,7 @@ class DerivedServers {
     /// The next id of that family that the drawing does not use itself.
     [[nodiscard]] std::string newId(const char* family, int& counter) const;
 
-  private:
+private:
     void appendElement(const std::string& id, const Definition& definition,
                        const AIRealMatrix& matrix);
 

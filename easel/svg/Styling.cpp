@@ -19,9 +19,11 @@ void setDashes(const Style& style, double scale, ArtStyle& target) {
     dash.offset = narrowed(style.dashOffset * scale);
     const std::size_t held = std::min(style.dashes.size(), std::size(dash.array));
     dash.length = static_cast<ai::int16>(held);
-    for (std::size_t i = 0; i < held; ++i) dash.array[i] = narrowed(style.dashes[i] * scale);
+    for (std::size_t i = 0; i < held; ++i)
+        dash.array[i] = narrowed(style.dashes[i] * scale);
     if (style.dashes.size() <= held) return;
-    for (const double part : style.dashes) target.longDash.push_back(narrowed(part * scale));
+    for (const double part : style.dashes)
+        target.longDash.push_back(narrowed(part * scale));
 }
 
 /// What painted shapes carry along although it is not understood.
@@ -43,8 +45,8 @@ AIRealMatrix floatMatrix(const std::vector<double>& n) {
 }
 
 Matrix boundsMatrix(const Box& bounds) {
-    return {bounds.max.x - bounds.min.x, 0, 0, bounds.max.y - bounds.min.y, bounds.min.x,
-            bounds.min.y};
+    return {
+        bounds.max.x - bounds.min.x, 0, 0, bounds.max.y - bounds.min.y, bounds.min.x, bounds.min.y};
 }
 
 } // namespace
@@ -111,13 +113,12 @@ bool ArtBuilder::setPaint(const Paint& paint, const Context& context, const Outl
     return true;
 }
 
-std::optional<ArtBuilder::ServerUse> ArtBuilder::serverFor(const std::string& id,
-                                                           const Context& context,
-                                                           const Outline& outline) {
+std::optional<ArtBuilder::ServerUse>
+ArtBuilder::serverFor(const std::string& id, const Context& context, const Outline& outline) {
     const AIRealMatrix plain = toSoft(context.matrix, offset_);
     const NodeIndex node = state_.tree.find(id);
-    if (node == kNoNode) return ServerUse{&definition(Definition::Kind::Gradient, id, nullptr, {}),
-                                          plain};
+    if (node == kNoNode)
+        return ServerUse{&definition(Definition::Kind::Gradient, id, nullptr, {}), plain};
     const Element element{state_.tree, node};
     state_.countReference(element);
     const std::string source = element.get("easel:source");

@@ -53,7 +53,7 @@ Artboard artboardOf(const Element& root) {
 
 /// Reads one file into a new document.
 class SvgReader {
-  public:
+public:
     explicit SvgReader(std::string text) : state_(std::move(text)) {}
 
     std::unique_ptr<Document> read() {
@@ -63,9 +63,9 @@ class SvgReader {
                       ">; an SVG file holds an <svg>");
         gatherStyleSheets();
         const Artboard artboard = artboardOf(root);
-        document_ = std::make_unique<Document>(AISize{static_cast<AIReal>(artboard.size.x),
-                                                      static_cast<AIReal>(artboard.size.y)},
-                                               FirstLayer::No);
+        document_ = std::make_unique<Document>(
+            AISize{static_cast<AIReal>(artboard.size.x), static_cast<AIReal>(artboard.size.y)},
+            FirstLayer::No);
         auto source = std::make_shared<DrawingSource>();
         source_ = source.get();
         document_->foreign = source;
@@ -76,8 +76,8 @@ class SvgReader {
         const Pushed pushed{state_.path, root.selectorName()};
         Context start{Style{}, Matrix{}, {artboard.size.x, artboard.size.y}};
         const auto context = std::make_unique<Context>(start);
-        context->style = styleOf(root.properties(state_.sheet, state_.path), Style{},
-                                 start.viewport.diagonal());
+        context->style =
+            styleOf(root.properties(state_.sheet, state_.path), Style{}, start.viewport.diagonal());
         readLayers(builder, root, *context);
         readDocumentState(root);
         static_cast<void>(document_->takeChanges());
@@ -88,7 +88,7 @@ class SvgReader {
 
     [[nodiscard]] std::vector<std::string>& warnings() { return state_.warnings; }
 
-  private:
+private:
     void gatherStyleSheets() {
         for (NodeIndex node = 0; node < state_.tree.size(); ++node) {
             const XmlTree::Node& candidate = state_.tree.at(node);
@@ -144,7 +144,8 @@ class SvgReader {
         Art* loose = nullptr;
         std::vector<std::string> pending;
         const auto keepPending = [&](std::vector<Interlude>& interludes, AIArtHandle before) {
-            for (std::string& source : pending) interludes.push_back({std::move(source), before});
+            for (std::string& source : pending)
+                interludes.push_back({std::move(source), before});
             pending.clear();
         };
         for (NodeIndex node = state_.tree.at(root.node()).firstChild; node != kNoNode;
@@ -210,13 +211,11 @@ class SvgReader {
             document_->rulerUnits = static_cast<ai::int16>(std::clamp(*units, 0.0, 10.0));
         if (const auto model = parseNumber(root.get("easel:color-model")))
             document_->colorModel = static_cast<ai::int16>(std::clamp(*model, 0.0, 2.0));
-        // Layers in pre-order; the number is that of the current one.
-        const auto wanted = parseNumber(root.get("easel:current-layer")).value_or(0);
-        Art* current = document_->root().firstChild();
-        double number = 0;
-        for (Art* layer = current; layer != nullptr; layer = nextLayerInPreorder(*layer))
-            if (number++ == wanted) current = layer;
-        setCurrentLayer(*document_, *current);
+        const auto number = parseNumber(root.get("easel:current-layer"));
+        Art* const current = number && *number >= 0 && *number <= kMostElements
+                                 ? numberedLayer(*document_, static_cast<int>(*number))
+                                 : nullptr;
+        setCurrentLayer(*document_, current != nullptr ? *current : startingLayer(*document_));
     }
 
     static void readEntries(const Element& root, std::string_view attribute, Dictionary& target) {

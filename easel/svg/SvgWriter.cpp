@@ -34,7 +34,9 @@ constexpr Namespace kNamespaces[] = {
     {"xmlns:easel", kNamespace},
 };
 
-bool isWrittenAsGroup(const Art& art) { return art.type() == kGroupArt || art.type() == kPluginArt; }
+bool isWrittenAsGroup(const Art& art) {
+    return art.type() == kGroupArt || art.type() == kPluginArt;
+}
 
 bool isClipMask(const Art& art) {
     return art.has(kArtIsClipMask) && art.parent() != nullptr && art.parent()->content().clipped;
@@ -45,10 +47,17 @@ std::string singleQuoted(std::string_view text) {
     std::string result;
     for (const char c : text) {
         switch (c) {
-        case '&': result += "&amp;"; break;
-        case '<': result += "&lt;"; break;
-        case '\'': result += "&apos;"; break;
-        default: result += c;
+        case '&':
+            result += "&amp;";
+            break;
+        case '<':
+            result += "&lt;";
+            break;
+        case '\'':
+            result += "&apos;";
+            break;
+        default:
+            result += c;
         }
     }
     return result;
@@ -75,25 +84,27 @@ bool isGuide(const Art& art) {
 }
 
 class SvgWriter {
-  public:
+public:
     SvgWriter(const Document& document, std::ostream& out)
         : document_(document), out_(out), source_(sourceOf(document)),
           offset_(rulerOffset(document)), servers_(source_, offset_),
           explicit_(source_ != nullptr && source_->hasStyleSheet ? Explicit::Yes : Explicit::No) {}
 
     void write() {
-        text_ = source_ != nullptr ? source_->prologue : "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+        text_ =
+            source_ != nullptr ? source_->prologue : "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
         writeRootTag();
         open_.push_back({nullptr, document_.root().lastChild(), nullptr, 0, "\n", {}, {}});
         open_.back().interludes = source_ != nullptr ? &source_->interludes : nullptr;
         indexInterludes(open_.back());
-        while (!open_.empty()) writeNext();
+        while (!open_.empty())
+            writeNext();
         text_ += "</svg>";
         text_ += source_ != nullptr ? source_->epilogue : "\n";
         flush();
     }
 
-  private:
+private:
     /// A container between its start and its end tag. An explicit stack, because art may be nested
     /// deeper than the stack of calls allows.
     struct Open {
@@ -103,7 +114,7 @@ class SvgWriter {
         std::size_t interlude;
         std::string endTag;
         std::unordered_map<AIArtHandle, std::size_t> lastBefore; ///< Interludes up to that index.
-        std::string clipId; ///< Of the clip mask last written.
+        std::string clipId;                                      ///< Of the clip mask last written.
     };
 
     void flush() {
@@ -147,8 +158,9 @@ class SvgWriter {
         if (offset_ != Point{} && source_ != nullptr)
             attribute("easel:ruler-origin",
                       formatNumber(state.rulerOrigin.h) + ' ' + formatNumber(state.rulerOrigin.v));
-        if (const int number = currentLayerNumber(); number > 0)
-            attribute("easel:current-layer", std::to_string(number));
+        if (state.currentLayer != nullptr && state.currentLayer != &startingLayer(document_))
+            attribute("easel:current-layer",
+                      std::to_string(layerNumber(document_, state.currentLayer)));
         if (document_.rulerUnits != kPointsUnits)
             attribute("easel:ruler-units", std::to_string(document_.rulerUnits));
         if (document_.colorModel != 1)
@@ -175,17 +187,6 @@ class SvgWriter {
                                  ' ' + height);
     }
 
-    /// Layers in pre-order, counted from 0.
-    int currentLayerNumber() const {
-        const Art* layer = document_.root().firstChild();
-        int number = 0;
-        while (layer != nullptr && layer != document_.state().currentLayer) {
-            layer = nextLayerInPreorder(*layer);
-            ++number;
-        }
-        return layer != nullptr ? number : 0;
-    }
-
     void indexInterludes(Open& open) {
         if (open.interludes == nullptr) return;
         for (std::size_t i = 0; i < open.interludes->size(); ++i)
@@ -196,7 +197,8 @@ class SvgWriter {
     void writeInterludes(Open& open, AIArtHandle before) {
         const auto found = open.lastBefore.find(before);
         if (found == open.lastBefore.end()) return;
-        while (open.interlude < found->second) writeInterlude((*open.interludes)[open.interlude++]);
+        while (open.interlude < found->second)
+            writeInterlude((*open.interludes)[open.interlude++]);
     }
 
     void writeInterlude(const Interlude& interlude) {
@@ -290,9 +292,12 @@ class SvgWriter {
         const AIRGBColor& color = layer.color;
         if (color.red != standard.color.red || color.green != standard.color.green ||
             color.blue != standard.color.blue) {
-            const auto channel = [](ai::uint16 value) { return static_cast<float>(value) / 65535.0F; };
-            attribute("inkscape:highlight-color",
-                      formatColour({channel(color.red), channel(color.green), channel(color.blue)}));
+            const auto channel = [](ai::uint16 value) {
+                return static_cast<float>(value) / 65535.0F;
+            };
+            attribute(
+                "inkscape:highlight-color",
+                formatColour({channel(color.red), channel(color.green), channel(color.blue)}));
         }
         if (!layer.preview) attribute("easel:preview", "false");
         if (!layer.printed) attribute("easel:printed", "false");
@@ -354,12 +359,14 @@ class SvgWriter {
     }
 
     void writePlacement(const Art& art) {
-        const Matrix matrix = fromSoft(art.details().matrix, offset_);
-        if (matrix != Matrix{}) attribute("transform", formatTransform(matrix));
+        const AIRealMatrix& matrix = art.details().matrix;
+        if (fromSoft(matrix, offset_) != Matrix{})
+            attribute("transform", transformText(matrix, offset_));
         writeState(art);
         if (art.has(kArtHidden)) attribute("display", "none");
         if (art.style().opacity != 1.0F) attribute("opacity", formatNumber(art.style().opacity));
-        for (const auto& [property, value] : extras(art.style())) attribute(property, value);
+        for (const auto& [property, value] : extras(art.style()))
+            attribute(property, value);
     }
 
     /// Art that a plug-in made and that no drawing had.

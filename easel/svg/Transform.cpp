@@ -88,8 +88,8 @@ std::optional<Matrix> inverse(const Matrix& m) {
     const double determinant = m.a * m.d - m.b * m.c;
     const double size = m.a * m.a + m.b * m.b + m.c * m.c + m.d * m.d;
     if (!(std::abs(determinant) > kSingular * size)) return std::nullopt;
-    Matrix result{m.d / determinant, -m.b / determinant, -m.c / determinant,
-                  m.a / determinant, 0,                  0};
+    Matrix result{
+        m.d / determinant, -m.b / determinant, -m.c / determinant, m.a / determinant, 0, 0};
     const Point origin = result * Point{m.e, m.f};
     result.e = -origin.x;
     result.f = -origin.y;

@@ -48,9 +48,9 @@ Matrix fitted(const ViewBox& box, Point corner, Point size, std::string_view asp
 void enterViewBox(const Element& element, Context& context, Point given) {
     const Viewport& outer = context.viewport;
     const bool symbol = element.name() == "symbol";
-    const Point corner = symbol ? Point{}
-                                : Point{element.length("x", outer.width, 0),
-                                        element.length("y", outer.height, 0)};
+    const Point corner =
+        symbol ? Point{}
+               : Point{element.length("x", outer.width, 0), element.length("y", outer.height, 0)};
     Point size{element.length("width", outer.width, outer.width),
                element.length("height", outer.height, outer.height)};
     if (given.x > 0) size.x = given.x;

@@ -71,7 +71,7 @@ bool appendCharacter(std::string& text, std::string_view reference) {
 
 /// Builds the tree in one walk over the text.
 class XmlScanner {
-  public:
+public:
     explicit XmlScanner(XmlTree& tree) : tree_(tree), text_(tree.text_) {}
 
     void scan() {
@@ -98,10 +98,11 @@ class XmlScanner {
                                           "> is never closed; the file may have been cut off");
         }
         if (tree_.root_ == kNoNode)
-            throw SvgError(1, "there is no drawing in this file; an SVG file holds one <svg> element");
+            throw SvgError(1,
+                           "there is no drawing in this file; an SVG file holds one <svg> element");
     }
 
-  private:
+private:
     struct Open {
         NodeIndex node;
         NodeIndex lastChild;
@@ -235,7 +236,8 @@ class XmlScanner {
             fail("there are more than 1,000,000 elements; divide the drawing");
         const std::size_t nameStart = position_ + 1;
         std::size_t at = nameStart;
-        while (at < text_.size() && !endsName(text_[at])) ++at;
+        while (at < text_.size() && !endsName(text_[at]))
+            ++at;
         const std::string_view name = text_.substr(nameStart, at - nameStart);
         if (name.empty() || !startsName(name.front()))
             fail("< is not followed by a name; a plain < is written &lt;");
@@ -258,8 +260,10 @@ class XmlScanner {
         const auto tag = [&] { return "<" + std::string{tree_.nodes_[index].name} + ">"; };
         std::vector<std::string_view> names;
         for (;;) {
-            while (at < text_.size() && isBlank(text_[at])) ++at;
-            if (at >= text_.size() || text_[at] == '<') fail(tag() + " is cut off; a tag ends with >");
+            while (at < text_.size() && isBlank(text_[at]))
+                ++at;
+            if (at >= text_.size() || text_[at] == '<')
+                fail(tag() + " is cut off; a tag ends with >");
             if (text_[at] == '>') {
                 position_ = at + 1;
                 return false;
@@ -269,17 +273,20 @@ class XmlScanner {
                 return true;
             }
             const std::size_t nameStart = at;
-            while (at < text_.size() && !endsName(text_[at])) ++at;
+            while (at < text_.size() && !endsName(text_[at]))
+                ++at;
             const std::string_view name = text_.substr(nameStart, at - nameStart);
-            while (at < text_.size() && isBlank(text_[at])) ++at;
+            while (at < text_.size() && isBlank(text_[at]))
+                ++at;
             const bool equals = at < text_.size() && text_[at] == '=';
             if (name.empty() || !startsName(name.front()) || !equals)
                 fail("an attribute of " + tag() + " is broken; write name=\"value\"");
             ++at;
-            while (at < text_.size() && isBlank(text_[at])) ++at;
+            while (at < text_.size() && isBlank(text_[at]))
+                ++at;
             const char quote = at < text_.size() ? text_[at] : '\0';
-            const std::size_t end = quote == '"' || quote == '\'' ? text_.find(quote, at + 1)
-                                                                  : std::string_view::npos;
+            const std::size_t end =
+                quote == '"' || quote == '\'' ? text_.find(quote, at + 1) : std::string_view::npos;
             if (end == std::string_view::npos)
                 fail("the value of " + std::string{name} + " in " + tag() +
                      " is not in quotes; write " + std::string{name} + "=\"value\"");
@@ -312,7 +319,9 @@ std::string_view XmlTree::prologue() const {
     return std::string_view{text_}.substr(0, nodes_[root_].start);
 }
 
-std::string_view XmlTree::epilogue() const { return std::string_view{text_}.substr(nodes_[root_].end); }
+std::string_view XmlTree::epilogue() const {
+    return std::string_view{text_}.substr(nodes_[root_].end);
+}
 
 std::string_view XmlTree::source(NodeIndex node) const {
     return std::string_view{text_}.substr(at(node).start, at(node).end - at(node).start);
@@ -325,7 +334,8 @@ std::string_view XmlTree::content(NodeIndex node) const {
 
 std::vector<XmlAttribute> XmlTree::attributes(NodeIndex index) const {
     const Node& node = at(index);
-    std::string_view rest = std::string_view{text_}.substr(node.start, node.contentStart - node.start);
+    std::string_view rest =
+        std::string_view{text_}.substr(node.start, node.contentStart - node.start);
     rest.remove_prefix(1 + node.name.size());
     std::vector<XmlAttribute> result;
     for (;;) { // The tag was checked when the tree was built.
@@ -334,7 +344,8 @@ std::vector<XmlAttribute> XmlTree::attributes(NodeIndex index) const {
         const std::size_t open = rest.find_first_of("\"'");
         const std::size_t close = rest.find(rest[open], open + 1);
         const std::string_view name = trimmed(rest.substr(0, rest.find('=')));
-        result.push_back({name, rest.substr(open + 1, close - open - 1), rest.substr(0, close + 1)});
+        result.push_back(
+            {name, rest.substr(open + 1, close - open - 1), rest.substr(0, close + 1)});
         rest.remove_prefix(close + 1);
     }
 }
@@ -399,14 +410,29 @@ std::string escaped(std::string_view text) {
     result.reserve(text.size());
     for (const char c : text) {
         switch (c) {
-        case '&': result += "&amp;"; break;
-        case '<': result += "&lt;"; break;
-        case '>': result += "&gt;"; break;
-        case '"': result += "&quot;"; break;
-        case '\n': result += "&#10;"; break;
-        case '\r': result += "&#13;"; break;
-        case '\t': result += "&#9;"; break;
-        default: result += c;
+        case '&':
+            result += "&amp;";
+            break;
+        case '<':
+            result += "&lt;";
+            break;
+        case '>':
+            result += "&gt;";
+            break;
+        case '"':
+            result += "&quot;";
+            break;
+        case '\n':
+            result += "&#10;";
+            break;
+        case '\r':
+            result += "&#13;";
+            break;
+        case '\t':
+            result += "&#9;";
+            break;
+        default:
+            result += c;
         }
     }
     return result;

@@ -36,15 +36,20 @@ struct XmlAttribute {
 };
 
 class XmlTree {
-  public:
-    enum class Kind : std::uint8_t { Element, Text, CData, Other }; ///< Other: comments and the like.
+public:
+    enum class Kind : std::uint8_t {
+        Element,
+        Text,
+        CData,
+        Other
+    }; ///< Other: comments and the like.
 
     struct Node {
         std::string_view name; ///< Of an element.
         std::size_t start = 0; ///< Where the node begins in the source ...
         std::size_t contentStart = 0;
         std::size_t contentEnd = 0;
-        std::size_t end = 0;   ///< ... and one past where it ends.
+        std::size_t end = 0; ///< ... and one past where it ends.
         NodeIndex parent = kNoNode;
         NodeIndex firstChild = kNoNode;
         NodeIndex nextSibling = kNoNode;
@@ -84,7 +89,7 @@ class XmlTree {
     /// Replaces character references and entities, those that the document type declares too.
     [[nodiscard]] std::string decode(std::string_view raw) const;
 
-  private:
+private:
     friend class XmlScanner;
 
     std::string text_;
