@@ -324,8 +324,8 @@ private:
     /// The result of && or || when the left side alone decides it.
     static MaybeValue decidedByLeft(const BinaryOperator& operation, const MaybeValue& left) {
         if (!left) return std::nullopt;
-        if (operation.mark == "&&" && !truthIn(*left)) return Value(false);
-        if (operation.mark == "||" && truthIn(*left)) return Value(true);
+        if (operation.mark == "&&" && !truthIn(*left)) return false;
+        if (operation.mark == "||" && truthIn(*left)) return true;
         return std::nullopt;
     }
 
@@ -343,7 +343,7 @@ private:
     }
 
     MaybeValue readAtom(Evaluate evaluate) {
-        if (current().type == TokenType::Number) return Value(take().number);
+        if (current().type == TokenType::Number) return take().number;
         if (current().type == TokenType::String) return readString();
         if (current().type == TokenType::Word) return readWord(evaluate);
         if (takeMark("[")) return readList(evaluate);
@@ -362,7 +362,7 @@ private:
         if (text.size() > kMaxStringBytes)
             throw Failure{start,
                           "a text has " + std::to_string(kMaxStringBytes) + " bytes at most"};
-        return Value(std::move(text));
+        return text;
     }
 
     MaybeValue readWord(Evaluate evaluate) {
@@ -370,10 +370,10 @@ private:
         if (isMark(following(), "("))
             throw Failure{word.position, inQuotes(word.text) + " cannot be called: "
                                                                "a layout has no functions"};
-        if (word.text == "true" || word.text == "false") return Value(take().text == "true");
+        if (word.text == "true" || word.text == "false") return take().text == "true";
         if (word.text == "empty") {
             take();
-            return Value();
+            return MaybeValue(std::in_place);
         }
         if (isReserved(word.text)) failExpecting("a value");
         take();
