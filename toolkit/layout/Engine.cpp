@@ -399,8 +399,10 @@ private:
     static Length proportionOf(Length share, Length place, const NodeOnAxis& box, Length need) {
         const Length room = box.length - nearRoom(box) - farRoom(box) - need - share;
         if (room == 0) return 0;
-        const auto ratio = static_cast<double>(place - nearRoom(box)) / static_cast<double>(room);
-        const double ahead = std::floor(ratio * static_cast<double>(share) + 0.5);
+        // Single precision decides exact halves: 7/10 of 45 pixels is 32, not 31.
+        const float ratio = static_cast<float>(place - nearRoom(box)) / static_cast<float>(room);
+        const float part = ratio * static_cast<float>(share);
+        const double ahead = std::floor(static_cast<double>(part) + 0.5);
         constexpr auto kMost = static_cast<double>(kBeyondMeasure);
         return static_cast<Length>(std::clamp(ahead, -kMost, kMost));
     }

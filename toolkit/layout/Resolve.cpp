@@ -185,11 +185,12 @@ private:
         Element popup{Kind::Popup, cluster.position, {}, {}};
         moveAttribute(cluster, Key::PopupItemId, popup, Key::ItemId);
         moveAttribute(cluster, Key::PopupItemWidth, popup, Key::Width);
-        const auto entries = std::ranges::stable_partition(
-            cluster.children, [](const Element& child) { return child.kind != Kind::Entry; });
-        popup.children.assign(std::move_iterator(entries.begin()),
-                              std::move_iterator(entries.end()));
-        cluster.children.erase(entries.begin(), entries.end());
+        const auto entries =
+            std::stable_partition(cluster.children.begin(), cluster.children.end(),
+                                  [](const Element& child) { return child.kind != Kind::Entry; });
+        popup.children.assign(std::move_iterator(entries),
+                              std::move_iterator(cluster.children.end()));
+        cluster.children.erase(entries, cluster.children.end());
         if (popup.attributes.empty() && popup.children.empty()) return;
         if (!popup.children.empty() && depth_ == kMaxDepth)
             error(cluster.position, "nested more than " + std::to_string(kMaxDepth) + " deep");

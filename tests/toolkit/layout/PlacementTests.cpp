@@ -173,6 +173,10 @@ TEST_CASE("spare room is shared out") {
         {"a lone proportional one has no end to be near to",
          dialog("width: 50, placement: place_row", button(10, "horizontal: align_proportional")),
          "50x20: 0,0 10x20"},
+        {"halves, 7/10 of 45 here, are rounded up",
+         dialog("width: 60, placement: place_row, spacing: 0",
+                button(7) + button(5, "horizontal: align_proportional") + button(3)),
+         "60x20: 0,0 7x20; 39,0 5x20; 57,0 3x20"},
         {"the far end is served first",
          dialog("width: 101, placement: place_row, spacing: 4, margin: 3",
                 button(10) + button(10, "horizontal: align_center") +
