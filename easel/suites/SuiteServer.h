@@ -78,7 +78,10 @@ public:
     [[nodiscard]] std::vector<std::string> outstanding() const;
 
     /// The acquisition to refuse, counted from 1 over all that follow; 0 refuses none.
-    void refuseAcquisition(int number) noexcept { refuse_ = number; }
+    void refuseAcquisition(int number) noexcept {
+        refuse_ = number;
+        acquisitions_ = 0;
+    }
 
 private:
     [[nodiscard]] AnySuiteTable& at(std::string_view name, ai::int32 version);

@@ -155,6 +155,13 @@ AIAnswer yesNoAlert(const ai::UnicodeString& text) { return ask("yes-no", text);
 void errorAlert(const ai::UnicodeString& text) { tell("error", text); }
 void messageAlert(const ai::UnicodeString& text) { tell("message", text); }
 
+/// Opaque to plug-ins: seconds of the session's own clock, from 1, so that it is never nothing.
+AIErr getDateAndTime(AIUserDateTime* now) {
+    constexpr AIUserDateTime kTicksInSecond = 60;
+    required(now) = 1 + static_cast<AIUserDateTime>(host().clock.ticks()) / kTicksInSecond;
+    return kNoErr;
+}
+
 AIErr createCursors(SPPluginRef plugin, AIResourceManagerHandle* manager) {
     static_cast<void>(host().plugins.at(plugin));
     required(manager) = user().cursorManagers.add(plugin);
@@ -198,6 +205,7 @@ void installUserSuite(SuiteServer& server) {
     expose<&AIUserSuite::GetUnitsString, getUnitsString>(table);
     expose<&AIUserSuite::AppIdle, appIdle>(table);
     expose<&AIUserSuite::OKToAllocateMemory, okToAllocateMemory>(table);
+    expose<&AIUserSuite::GetDateAndTime, getDateAndTime>(table);
     expose<&AIUserSuite::LaunchApp, launchApp>(table);
     expose<&AIUserSuite::SameName, sameName>(table);
     expose<&AIUserSuite::OKCancelAlert, okCancelAlert>(table);
