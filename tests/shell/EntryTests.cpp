@@ -1,0 +1,218 @@
+#include "tests/shell/Session.h"
+
+#include "host/MessageNames.h"
+#include "host/SuiteTable.h"
+
+#include <cstring>
+
+using namespace facetta;
+using namespace facetta::tests;
+
+TEST_CASE("before start-up and after shut-down messages do nothing and succeed") {
+    Session session;
+    const auto sendAll = [&] {
+        CHECK(session.send(kCallerTool, kSelectorSelect, AIToolMessage{}) == kNoErr);
+        CHECK(session.send(kCallerNotifier, kSelectorNotify, AINotifierMessage{}) == kNoErr);
+        CHECK(session.send(kCallerInterface, kSelectorShutdown) == kNoErr);
+        CHECK(session.send(kCallerAccess, kSelectorReload, SPAccessMessage{}) == kNoErr);
+        CHECK(session.send("Nobody", "Nothing") == kNoErr);
+        CHECK(session.record().globals == nullptr);
+        CHECK(session.host.user.alerts.empty());
+    };
+    const auto calls = easel::hostCalls().total();
+    sendAll();
+    CHECK(easel::hostCalls().total() == calls);
+    session.host.start();
+    session.host.quit();
+    sendAll();
+}
+
+TEST_CASE("the object lives from start-up to shut-down, and again") {
+    Session session;
+    for (int round = 0; round < 2; ++round) {
+        session.host.start();
+        CHECK(session.record().globals == thePlugin);
+        REQUIRE(thePlugin != nullptr);
+        CHECK(thePlugin->hasSuites());
+        CHECK(session.send(kCallerInterface, kSelectorStartup) == kNoErr); // no second object
+        CHECK(session.record().globals == thePlugin);
+        session.host.quit();
+        CHECK(session.record().globals == nullptr);
+        CHECK(ai::suites.menu == nullptr);
+    }
+}
+
+TEST_CASE("nulls instead of a message are refused") {
+    SPInterfaceMessage message{};
+    CHECK(handleMessage({}, nullptr, kSelectorStartup, &message) == kSPBadParameterError);
+    CHECK(handleMessage({}, kCallerInterface, nullptr, &message) == kSPBadParameterError);
+    CHECK(handleMessage({}, kCallerInterface, kSelectorStartup, nullptr) == kSPBadParameterError);
+}
+
+TEST_CASE("pairs that nobody handles succeed and show nothing") {
+    Session session;
+    session.host.start();
+    const char* const pairs[][2] = {
+        {"AI Menu", "AI Stop"},
+        {"AI Tool", "AI Mouse"},
+        {"Workspace Manager", "Write Workspace"},
+        {"AI Filter", "AI Go"},
+        {"AI Toolbox", "AI Go"},
+        {"SP Adapters", "Startup"},
+        {"AI Notifier", "AI Other"},
+    };
+    for (const auto& [caller, selector] : pairs) {
+        INFO(caller, " / ", selector);
+        CHECK(session.send(caller, selector, AIPluginGroupMessage{}) == kNoErr);
+    }
+    CHECK(session.host.user.alerts.empty());
+}
+
+TEST_CASE("whichever suite is refused, start-up fails with the host's code and gives all back") {
+    // The toolkit's own two come first; its colours and the overlay's drawer it can do without.
+    constexpr int kToolkitSuites = 2;
+    constexpr int kTheme = 2;
+    const int suites = kToolkitSuites + static_cast<int>(ai::suiteTable().size());
+    for (int refused = 1; refused <= suites; ++refused) {
+        INFO("acquisition ", refused);
+        Session session;
+        session.startUpMayFail = true;
+        easel::suiteServer().refuseAcquisition(refused);
+        const SPErr result = session.send(kCallerInterface, kSelectorStartup);
+        const bool optional = refused == kTheme || refused == suites;
+        CHECK(result == (optional ? kNoErr : kSPSuiteNotFoundError));
+        CHECK((session.record().globals != nullptr) == optional);
+        CHECK((thePlugin != nullptr) == optional);
+        CHECK(session.host.user.alerts.empty()); // a missing suite is silent
+        if (!optional) continue;
+        session.send("AI Menu", "AI Go", AIMenuMessage{}); // tries the optional ones again
+        CHECK(ai::suites.annotatorDrawer != nullptr);
+        session.send(kCallerInterface, kSelectorShutdown);
+    }
+}
+
+TEST_CASE("whichever host call fails, start-up ends tidily and at most one alert tells of it") {
+    // A first run tells which calls can fail, and which of them only give something back.
+    std::vector<std::string> fallible;
+    {
+        Session session;
+        easel::hostCalls().setRecording(true);
+        session.send(kCallerInterface, kSelectorStartup);
+        easel::hostCalls().setRecording(false);
+        for (const easel::SlotRecord* slot : easel::hostCalls().recorded())
+            if (slot->returnsError) fallible.push_back(slot->name);
+        session.send(kCallerInterface, kSelectorShutdown);
+    }
+    REQUIRE(fallible.size() > 200);
+    for (std::size_t call = 1; call <= fallible.size(); ++call) {
+        const std::string& name = fallible[call - 1];
+        if (name.ends_with("Destroy") || name.ends_with("ReleaseSuite")) continue;
+        INFO("host call ", call, ": ", name);
+        Session session;
+        session.startUpMayFail = true;
+        easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::Once,
+                                .call = call,
+                                .function = {},
+                                .code = kBadParameterErr});
+        const SPErr result = session.send(kCallerInterface, kSelectorStartup);
+        CHECK(easel::hostCalls().fired());
+        easel::hostCalls().disarm();
+        CHECK((result == kNoErr) == (session.record().globals != nullptr));
+        CHECK(session.host.user.alerts.size() <= 1);
+        if (result != kNoErr) continue;
+        CHECK(session.send(kCallerMenu, kSelectorGo, AIMenuMessage{}) == kNoErr);
+        CHECK(session.send(kCallerInterface, kSelectorShutdown) == kNoErr);
+    }
+}
+
+TEST_CASE("unloading gives the suites back; reloading mends the table of virtual operations") {
+    Session session;
+    session.host.start();
+    FacettaPlugin* const plugin = thePlugin;
+    CHECK(session.send(kCallerAccess, kSelectorUnload, SPAccessMessage{}) == kNoErr);
+    CHECK(thePlugin == nullptr);
+    CHECK(ai::suites.menu == nullptr);
+    CHECK(session.send(kCallerMenu, kSelectorGo, AIMenuMessage{}) == kNoErr);
+
+    // The library comes back elsewhere: the object's first word leads nowhere.
+    void* const nowhere = nullptr;
+    std::memcpy(static_cast<void*>(plugin), &nowhere, sizeof nowhere);
+    CHECK(session.send(kCallerAccess, kSelectorReload, SPAccessMessage{}) == kNoErr);
+    CHECK(thePlugin == plugin);
+    CHECK(session.send(kCallerMenu, kSelectorGo, AIMenuMessage{}) == kNoErr);
+    CHECK(plugin->toolHandle != nullptr); // what was registered is still known
+}
+
+TEST_CASE("a reload without an unload before it fetches the suites anew and counts none twice") {
+    Session session;
+    session.host.start();
+    FacettaPlugin* const plugin = thePlugin;
+    ai::suites = {}; // as a freshly loaded library has them
+    thePlugin = nullptr;
+    CHECK(session.send(kCallerAccess, kSelectorReload, SPAccessMessage{}) == kNoErr);
+    CHECK(thePlugin == plugin);
+    CHECK(ai::suites.menu != nullptr);
+    CHECK(ai::suites.text.back() != nullptr);
+}
+
+TEST_CASE("a host that refuses suites during a reload gets its code, and silence afterwards") {
+    Session session({}, {.strictAccessMessages = true, .recordMessages = false});
+    session.host.start();
+    SPAccessMessage message{};
+    session.host.send(session.plugin, kCallerAccess, kSelectorUnload, message);
+    easel::suiteServer().refuseAcquisition(3);
+    CHECK(session.host.send(session.plugin, kCallerAccess, kSelectorReload, message) ==
+          kSPSuiteNotFoundError);
+    CHECK(ai::suites.block == nullptr);
+    CHECK(session.send(kCallerTool, kSelectorSelect, AIToolMessage{}) == kNoErr);
+    CHECK(session.host.user.alerts.empty());
+}
+
+TEST_CASE("locks nest: the library is held from the first to the last") {
+    Session session;
+    session.host.start();
+    const bool locks[] = {true, true, false, true, false, false, false, true, false};
+    const ai::int32 held[] = {1, 1, 1, 1, 1, 0, 0, 1, 0};
+    for (std::size_t i = 0; i < std::size(locks); ++i) {
+        INFO("step ", i);
+        CHECK(thePlugin->LockPlugin(locks[i]) == kNoErr);
+        CHECK(session.record().accessCount == held[i]);
+    }
+}
+
+TEST_CASE("the name is cut to the buffer it is given") {
+    Session session;
+    session.host.start();
+    char buffer[] = "xxxxxxxxxxxx";
+    CHECK(thePlugin->GetPluginName(buffer, 5) == kNoErr);
+    CHECK(std::string_view(buffer) == "Face");
+    CHECK(buffer[5] == 'x');
+    CHECK(thePlugin->GetPluginName(buffer, sizeof buffer) == kNoErr);
+    CHECK(std::string_view(buffer) == "Facetta");
+    CHECK(thePlugin->GetPluginName(buffer, 0) == kBadParameterErr);
+}
+
+TEST_CASE("what the licence refuses is not done") {
+    SUBCASE("start-up: the suites only") {
+        Session session({LicenceState::Licensed, {GuardedAction::StartUp}});
+        session.host.start();
+        REQUIRE(thePlugin != nullptr);
+        CHECK(thePlugin->toolHandle == nullptr);
+        CHECK(session.host.menus.items.count() == 0);
+    }
+    SUBCASE("expired: help, but no panel, notifiers, annotator or tool") {
+        Session session({LicenceState::Expired, {}});
+        session.host.start();
+        CHECK(thePlugin->menuItems.help.back() != nullptr);
+        CHECK(thePlugin->menuItems.panel == nullptr);
+        CHECK(thePlugin->notifiers.front() == nullptr);
+        CHECK(thePlugin->annotator == nullptr);
+        CHECK(thePlugin->toolHandle == nullptr);
+    }
+    SUBCASE("reload before start-up: refused without a word") {
+        Session session({LicenceState::Licensed, {GuardedAction::Reload}});
+        CHECK(session.send(kCallerAccess, kSelectorReload, SPAccessMessage{}) ==
+              kSPCantAcquirePluginError);
+        CHECK(session.host.user.alerts.empty());
+    }
+}

@@ -1,0 +1,143 @@
+#include "tests/shell/Session.h"
+
+#include "platform/Headless.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+using namespace facetta;
+using namespace facetta::tests;
+
+namespace {
+
+/// The surroundings of one test: what it sets is undone at its end.
+class Desktop {
+public:
+    Desktop() = default;
+    ~Desktop() { platform::headless::surroundings() = {}; }
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+    platform::headless::Surroundings* operator->() const {
+        return &platform::headless::surroundings();
+    }
+};
+
+/// A folder with a library and, if asked for, a manual beside it.
+class PluginFolder {
+public:
+    explicit PluginFolder(bool withManual) {
+        std::filesystem::create_directories(path);
+        if (withManual) std::ofstream(manual()) << "manual";
+    }
+    ~PluginFolder() { std::filesystem::remove_all(path); }
+    PluginFolder(const PluginFolder&) = delete;
+    PluginFolder& operator=(const PluginFolder&) = delete;
+
+    [[nodiscard]] std::filesystem::path manual() const { return path / "Facetta User Manual.pdf"; }
+    const std::filesystem::path path =
+        std::filesystem::temp_directory_path() / "facetta-help-tests \u00e9";
+};
+
+std::string page(const char* topic) {
+    return "https://www.norvane.invalid/facetta?platform=w&version=1.1.0&host=16&level=1&source=" +
+           std::string(topic);
+}
+
+} // namespace
+
+TEST_CASE("the help item opens the manual that lies beside the library, and is silent without") {
+    struct Row {
+        const char* what;
+        bool manual;
+        std::size_t nameLength; ///< of the library; 0: a short one
+        std::size_t opened;
+    };
+    const Row rows[] = {{"there", true, 0, 1},
+                        {"missing", false, 0, 0},
+                        {"a name of 299 characters", true, 299, 1},
+                        {"a name of 300 characters", true, 300, 0}};
+    for (const auto& [what, manual, nameLength, opened] : rows) {
+        INFO(what);
+        const Desktop desktop;
+        const PluginFolder folder(manual);
+        std::u16string library = (folder.path / "facetta.aip").u16string();
+        if (nameLength > library.size()) library.append(nameLength - library.size(), u'x');
+        desktop->moduleFileName = library;
+        Session session;
+        session.host.start();
+        session.host.chooseMenuItem(thePlugin->menuItems.help[0]);
+        const auto& launched = session.host.user.launched;
+        REQUIRE(launched.size() == opened);
+        if (opened != 0) CHECK(launched.front() == folder.manual());
+        CHECK(session.host.user.alerts.empty());
+        CHECK(desktop->shownMessages.empty());
+    }
+}
+
+TEST_CASE("web items open their pages; without a web the user learns whom to ask") {
+    struct Row {
+        std::size_t item;
+        const char* topic;
+    };
+    const Row rows[] = {
+        {1, "tutorialmovies"}, {2, "checkforupdates"}, {4, "buyupgrade"}, {5, "licensinghelp"}};
+    for (const auto& [item, topic] : rows) {
+        INFO(topic);
+        const Desktop desktop;
+        Session session;
+        session.host.start();
+        const AIMenuItemHandle handle = thePlugin->menuItems.help[item];
+        session.host.chooseMenuItem(handle);
+        CHECK(desktop->openedAddresses.empty());
+        REQUIRE(session.host.user.alerts.size() == 1);
+        CHECK(session.host.user.alerts.front().text.find("contact") != std::string::npos);
+
+        session.host.user.browserAvailable = true;
+        session.host.chooseMenuItem(handle);
+        CHECK(desktop->openedAddresses == std::vector{page(topic)});
+    }
+}
+
+TEST_CASE("a version's first start with a web is welcomed, once") {
+    struct Row {
+        const char* lastVersion; ///< in the store; null: never run
+        bool welcomed;
+    };
+    const Row rows[] = {{nullptr, true},  {"1.0.9", true}, {"0.12.3", true}, {"garbage", true},
+                        {"1.1.0", false}, {"1.10", false}, {"2", false}};
+    for (const auto& [lastVersion, welcomed] : rows) {
+        INFO((lastVersion == nullptr ? "never" : lastVersion));
+        const Desktop desktop;
+        Session session;
+        session.host.user.browserAvailable = true;
+        if (lastVersion != nullptr)
+            session.host.preferences.put("FacettaLicensing", "LastVersion",
+                                         std::string(lastVersion));
+        for (int run = 0; run < 2; ++run) {
+            session.host.start();
+            session.host.quit();
+        }
+        CHECK(desktop->openedAddresses.size() == (welcomed ? 1 : 0));
+        if (welcomed) CHECK(desktop->openedAddresses.front() == page("welcome"));
+    }
+}
+
+TEST_CASE("show all panels is broadcast to every plug-in, and other items do nothing") {
+    Session session({}, {.strictAccessMessages = false, .recordMessages = true});
+    session.host.start();
+    const auto broadcasts = [&] {
+        return std::ranges::count(session.host.sent, "Norvane Show All Panels Notifier",
+                                  &easel::SentMessage::detail);
+    };
+    session.host.chooseMenuItem(thePlugin->menuItems.showAllPanels);
+    CHECK(broadcasts() == 1);
+    for (const AIMenuItemHandle item :
+         {thePlugin->menuItems.help[3], thePlugin->menuItems.panel, thePlugin->menuItems.about})
+        session.host.chooseMenuItem(item);
+    session.host.openMenus();
+    CHECK(broadcasts() == 1);
+    CHECK(std::ranges::all_of(session.host.sent,
+                              [](const auto& message) { return message.result == kNoErr; }));
+}

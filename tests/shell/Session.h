@@ -1,0 +1,62 @@
+#pragma once
+
+/// Facetta started in a host of this process.
+
+#include "easel/core/HostCalls.h"
+#include "easel/runtime/Host.h"
+#include "easel/suites/SuiteServer.h"
+#include "shell/Entry.h"
+#include "shell/FacettaPlugin.h"
+
+#include <doctest/doctest.h>
+
+#include <string>
+#include <vector>
+
+namespace facetta::tests {
+
+/// What the entry of this program's plug-in is licensed to; set before a host is made.
+inline Licensing licensing;
+
+inline SPErr entry(const char* caller, const char* selector, void* message) {
+    return handleMessage(licensing, caller, selector, message);
+}
+
+/// A host with Facetta in it, not started yet. What is still lent at the end fails the test.
+class Session {
+public:
+    explicit Session(const Licensing& licence = {}, easel::HostSettings settings = {})
+        : host(settings) {
+        licensing = licence;
+        host.user.browserAvailable = false; // tests open no web pages
+        plugin = host.addPlugin("Facetta", entry);
+    }
+    ~Session() {
+        easel::hostCalls().disarm();
+        easel::suiteServer().refuseAcquisition(0);
+        host.quit();
+        for (const std::string& complaint : host.complaints()) {
+            const bool expected =
+                startUpMayFail && complaint.find("start-up failed") != std::string::npos;
+            if (!expected) FAIL_CHECK(complaint);
+        }
+        CHECK(thePlugin == nullptr);
+    }
+
+    /// Opens an empty document of 1000 by 800 points.
+    easel::Document& openDocument() {
+        return host.open(std::make_unique<easel::Document>(AISize{1000, 800}));
+    }
+    [[nodiscard]] easel::Plugin& record() const { return host.plugins.at(plugin); }
+
+    template <typename Message = SPInterfaceMessage>
+    SPErr send(const char* caller, const char* selector, Message message = {}) {
+        return host.send(plugin, caller, selector, message);
+    }
+
+    easel::Host host;
+    SPPluginRef plugin;
+    bool startUpMayFail = false;
+};
+
+} // namespace facetta::tests

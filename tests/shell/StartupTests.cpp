@@ -1,0 +1,186 @@
+#include "tests/shell/Session.h"
+
+#include <algorithm>
+
+using namespace facetta;
+using namespace facetta::tests;
+
+namespace {
+
+/// Calls in a row of one host function.
+struct Calls {
+    std::string function;
+    int times;
+    bool operator==(const Calls&) const = default;
+};
+
+doctest::String toString(const std::vector<Calls>& list) {
+    std::string text;
+    for (const auto& [function, times] : list)
+        text += "\n    " + function + " x" + std::to_string(times);
+    return text.c_str();
+}
+
+/// What was registered, read and named, in order; looking things up and strings are left out.
+std::vector<Calls> recordedCalls() {
+    const char* const kept[] = {"Suite.Add", "Suite.Set", "Preference Suite.", "Plug-ins",
+                                "IUAIRealToString"};
+    std::vector<Calls> list;
+    for (const easel::SlotRecord* slot : easel::hostCalls().recorded()) {
+        const auto isIn = [&](const char* part) {
+            return slot->name.find(part) != std::string::npos;
+        };
+        if (std::ranges::none_of(kept, isIn)) continue;
+        if (list.empty() || list.back().function != slot->name)
+            list.push_back({slot->name, 1});
+        else
+            ++list.back().times;
+    }
+    return list;
+}
+
+} // namespace
+
+TEST_CASE("start-up goes step by step") {
+    const std::vector<Calls> expected = {
+        {"AI Notifier Suite.AddNotifier", 3}, // the toolkit's
+        {"SP Plug-ins Suite.GetPluginName", 1},
+        {"AI Notifier Suite.AddNotifier", 1}, // for the end of the host's start-up
+        {"AI Preference Suite.GetBooleanPreference", 1},
+        {"AI Preference Suite.GetRealPreference", 2}, // the constrain angle, and ours
+        {"AI Preference Suite.GetIntegerPreference", 3},
+        {"AI Preference Suite.GetBooleanPreference", 6},
+        {"AI Preference Suite.GetRealPreference", 1},
+        {"AI Preference Suite.GetBooleanPreference", 1},
+        {"AI Preference Suite.GetIntegerPreference", 1},
+        {"AI Menu Suite.AddMenuItem", 2}, // about, the vendor's
+        {"AI Menu Suite.AddMenuGroupAsSubMenu", 1},
+        {"AI Menu Suite.AddMenuItem", 1},
+        {"AI Menu Suite.AddMenuGroupAsSubMenu", 1},
+        {"AI Menu Suite.AddMenuItem", 7}, // six of help, show all panels
+        {"AI User Suite.IUAIRealToString", 1},
+        {"AI Menu Suite.AddMenuItem", 1},
+        {"AI Menu Suite.AddMenuGroupAsSubMenu", 1},
+        {"AI Menu Suite.AddMenuItem", 1},
+        {"AI Notifier Suite.AddNotifier", 27},
+        {"AI Annotator Suite.AddAnnotator", 1},
+        {"AI Annotator Suite.SetAnnotatorOptions", 1},
+        {"AI Tool Suite.AddTool", 1},
+        {"AI Tool Suite.SetToolInfoVars", 1},
+    };
+    Session session;
+    easel::hostCalls().setRecording(true);
+    CHECK(session.send("SP Interface", "Startup") == kNoErr);
+    easel::hostCalls().setRecording(false);
+    CHECK(recordedCalls() == expected);
+    session.send("SP Interface", "Shutdown");
+}
+
+TEST_CASE("menus, notifiers, annotator and tool are registered under their names") {
+    Session session;
+    session.host.start();
+
+    struct ItemRow {
+        const char* label;
+        const char* group;
+        AIMenuItemHandle item;
+    };
+    const MenuItems& own = thePlugin->menuItems;
+    const ItemRow items[] = {
+        {"About Facetta...", "About", own.about},
+        {"Help...", "FacettaHelpGroup", own.help[0]},
+        {"Tutorial Movies...", "FacettaHelpGroup", own.help[1]},
+        {"Check for Updates...", "FacettaHelpGroup", own.help[2]},
+        {"Licensing...", "FacettaHelpGroup", own.help[3]},
+        {"Buy/Upgrade License...", "FacettaHelpGroup", own.help[4]},
+        {"Licensing Help...", "FacettaHelpGroup", own.help[5]},
+        {"Show All Norvane Graphics Panels", "Tool Palettes", own.showAllPanels},
+        {"Facetta Panel", "FacettaWindowGroup", own.panel},
+    };
+    const auto& menus = session.host.menus;
+    for (const auto& [label, group, item] : items) {
+        INFO(label);
+        const easel::MenuItem& found = menus.items.at(item);
+        const std::string_view wanted(label);
+        CHECK(found.text == std::u32string(wanted.begin(), wanted.end()));
+        CHECK(menus.groups.at(found.group).name == group);
+        CHECK(found.options == (item == own.panel ? kMenuItemWantsUpdateOption : 0));
+    }
+    CHECK(menus.itemNamed("NorvaneShowAllPanels") == own.showAllPanels);
+    CHECK(menus.itemNamed("Facetta Panel Menu Item") == own.panel);
+
+    int ours = 0;
+    for (const auto& [handle, notifier] : session.host.notifiers)
+        ours += notifier->name == "FacettaPlugin" ? 1 : 0;
+    CHECK(ours == 27);
+    CHECK(session.host.notifiers.findIf([](const easel::Notifier& each) {
+        return each.name == "Facetta App Started Notifier" &&
+               each.type == "AI Application Started Notifier";
+    }) != nullptr);
+
+    const easel::Tool& tool = session.host.tools.tools.at(thePlugin->toolHandle);
+    CHECK(tool.name == "Facetta Tool");
+    CHECK(tool.title == "Facetta Tool");
+    CHECK(tool.tooltip == "Facetta Tool");
+    CHECK(tool.lightIcon == 2100);
+    CHECK(tool.darkIcon == 3100);
+    CHECK(tool.options == 33);
+    CHECK(tool.infoVariables == std::vector<ai::int32>{15, 16, 2, 3, 4, 5});
+    CHECK(thePlugin->annotator != nullptr);
+    CHECK(thePlugin->decimalSeparator == u'.');
+}
+
+TEST_CASE("beside another plug-in of the vendor shared menus are not made twice") {
+    Session session;
+    auto& menus = session.host.menus;
+    menus.groups.add({.name = "com.norvane.graphics", .near = {}});
+    const AIMenuItemHandle shared = menus.items.add({.plugin = session.plugin,
+                                                     .key = "NorvaneShowAllPanels",
+                                                     .text = U"Show",
+                                                     .group = menus.groupNamed("Tool Palettes")});
+    session.host.start();
+    CHECK(menus.itemNamed("com.norvane.graphics") == nullptr);
+    CHECK(thePlugin->menuItems.showAllPanels == shared);
+    CHECK(menus.itemNamed("FacettaHelpGroup") != nullptr);
+    CHECK(thePlugin->toolHandle != nullptr);
+}
+
+TEST_CASE("a failing registration keeps what depends on it from being registered") {
+    struct Row {
+        const char* function;
+        std::uint64_t call; ///< the one that fails, counted from 1
+        bool panelItem;
+        std::size_t notifiers;
+        bool annotator;
+        bool tool;
+    };
+    const Row rows[] = {
+        {"AI Menu Suite.AddMenuItem", 1, true, 27, true, true},    // about
+        {"AI Menu Suite.AddMenuItem", 3, true, 27, true, true},    // help
+        {"AI Menu Suite.AddMenuItem", 10, false, 0, true, true},   // show all panels
+        {"AI Menu Suite.AddMenuItem", 11, false, 0, false, false}, // our group of panels
+        {"AI Menu Suite.AddMenuItem", 12, false, 0, true, true},   // the panel's item
+        {"AI Notifier Suite.AddNotifier", 4 + 6, true, 5, true, true},
+        {"AI Annotator Suite.AddAnnotator", 1, true, 27, false, false},
+        {"AI Annotator Suite.SetAnnotatorOptions", 1, true, 27, true, false},
+        {"AI Tool Suite.AddTool", 1, true, 27, true, false},
+    };
+    for (const auto& [function, call, panelItem, notifiers, annotator, tool] : rows) {
+        INFO(function, " ", call);
+        Session session;
+        easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::Once,
+                                .call = call,
+                                .function = function,
+                                .code = kBadParameterErr});
+        CHECK(session.send("SP Interface", "Startup") == kNoErr);
+        easel::hostCalls().disarm();
+        const auto& handles = thePlugin->notifiers;
+        CHECK((thePlugin->menuItems.panel != nullptr) == panelItem);
+        CHECK(handles.size() - static_cast<std::size_t>(std::ranges::count(handles, nullptr)) ==
+              notifiers);
+        CHECK((thePlugin->annotator != nullptr) == annotator);
+        CHECK((thePlugin->toolHandle != nullptr) == tool);
+        CHECK(session.host.user.alerts.empty());
+        session.send("SP Interface", "Shutdown");
+    }
+}
