@@ -49,7 +49,7 @@ if(FACETTA_SANITIZE)
     add_link_options(-fsanitize=address,undefined,float-cast-overflow)
     # GCC's manual: sanitizers make this one cry wolf. The other presets keep it.
     target_compile_options(facetta_flags INTERFACE
-        $<$<COMPILE_LANGUAGE:CXX>:-Wno-maybe-uninitialized>)
+        $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-Wno-maybe-uninitialized>)
 endif()
 
 if(WIN32)
