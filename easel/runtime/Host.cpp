@@ -48,7 +48,7 @@ Host::Host(HostSettings hostSettings) : settings(hostSettings) {
     assert(running == nullptr);
     running = this;
     ledger().clear();
-    static_cast<void>(suiteServer());
+    suiteServer().forgetAcquisitions();
 }
 
 Host::~Host() {
@@ -180,12 +180,14 @@ SPErr Host::sendData(SPPluginRef ref, const char* caller, const char* selector,
     const bool isUnload = std::strcmp(selector, kSelectorUnload) == 0;
     if (plugin.entry == nullptr || (plugin.broken && !isUnload)) return kNoErr;
 
+    SentMessage record{plugin.name, caller, selector, std::string(detail), kNoErr};
     fillMessage(ref, message);
     const SPPluginRef outer = std::exchange(currentPlugin_, ref);
     const AIAppContextHandle context = contexts.push(ref, kind);
     const std::size_t depth = contexts.depth();
     const std::uint64_t mark = ledger().beginMessage();
-    const SPErr result = callEntry(plugin, caller, selector, message);
+    record.result = callEntry(plugin, caller, selector, message);
+    const SPErr result = record.result;
 
     const std::string name = std::string(caller) + '/' + selector;
     ledger().endMessage(mark, name);
@@ -197,7 +199,7 @@ SPErr Host::sendData(SPPluginRef ref, const char* caller, const char* selector,
     if (contexts.top() == context) contexts.pop(context);
     currentPlugin_ = outer;
     if (settings.recordMessages || result != kNoErr)
-        sent.push_back({plugin.name, caller, selector, std::string(detail), result});
+        sent.push_back(std::move(record));
     if (contexts.depth() == 0) {
         endMessageLoans();
         collectChanges();

@@ -101,7 +101,8 @@ void Preferences::load(const std::filesystem::path& file) {
     std::ifstream stream(file);
     if (!stream) return;
     try {
-        for (const auto& [prefix, values] : Json::parse(stream).items())
+        const Json all = Json::parse(stream);
+        for (const auto& [prefix, values] : all.items())
             for (const auto& [suffix, typed] : values.items())
                 for (const auto& [type, value] : typed.items())
                     if (!value.is_null()) // how a real that is no number was written

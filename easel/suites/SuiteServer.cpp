@@ -128,6 +128,10 @@ SPErr SuiteServer::release(const char* name, ai::int32 version) {
     return kNoErr;
 }
 
+void SuiteServer::forgetAcquisitions() noexcept {
+    for (const auto& [key, table] : tables_) table->acquired = 0;
+}
+
 std::vector<std::string> SuiteServer::outstanding() const {
     std::vector<std::string> held;
     for (const auto& [key, table] : tables_)

@@ -77,6 +77,9 @@ public:
     /// "name version" of every suite still held.
     [[nodiscard]] std::vector<std::string> outstanding() const;
 
+    /// A new host begins: what was never released in the last one is no concern of its.
+    void forgetAcquisitions() noexcept;
+
     /// The acquisition to refuse, counted from 1 over all that follow; 0 refuses none.
     void refuseAcquisition(int number) noexcept {
         refuse_ = number;

@@ -1,0 +1,150 @@
+#include "easel/runtime/Preferences.h"
+
+#include "host/UnicodeString.h"
+#include "host/suites/AIPreferenceSuite.h"
+#include "tests/easel/runtime/TestPlugin.h"
+
+#include <doctest/doctest.h>
+
+#include <fstream>
+#include <limits>
+#include <numbers>
+
+namespace facetta::tests {
+namespace {
+
+constexpr const char* kPrefix = "Facetta";
+
+struct Fixture {
+    Fixture() { host.start(); }
+    ~Fixture() { host.quit(); }
+    easel::Host host;
+    TestPlugin plugin{host};
+    const AIPreferenceSuite& suite = *ai::suites.preference;
+};
+
+} // namespace
+
+TEST_CASE("reading what was never written leaves the default in place") {
+    struct Row {
+        bool succeeds;
+        AIErr code;
+    };
+    for (const auto& [succeeds, code] : {Row{true, kNoErr}, Row{false, kBadParameterErr}}) {
+        Fixture fixture;
+        easel::switches().absentPreferenceSucceeds = succeeds;
+        const auto& suite = *ai::suites.preference;
+        AIBoolean flag = 1;
+        ai::int32 number = 7;
+        double real = 0.25;
+        char text[1024] = "default";
+        CHECK(suite.GetBooleanPreference(kPrefix, "none", &flag) == code);
+        CHECK(suite.GetIntegerPreference(kPrefix, "none", &number) == code);
+        CHECK(suite.GetRealPreference(kPrefix, "none", &real) == code);
+        CHECK(suite.GetStringPreference(kPrefix, "none", text) == code);
+        CHECK(flag == 1);
+        CHECK(number == 7);
+        CHECK(real == 0.25);
+        CHECK(std::string(text) == "default");
+        easel::switches() = {};
+    }
+}
+
+TEST_CASE("numbers and booleans convert into each other, texts into neither") {
+    Fixture fixture;
+    const auto& suite = *ai::suites.preference;
+    suite.PutRealPreference(kPrefix, "real", 3.75);
+    suite.PutIntegerPreference(kPrefix, "integer", 2);
+    suite.PutBooleanPreference(kPrefix, "boolean", 55);
+    suite.PutStringPreference(kPrefix, "text", "1");
+    suite.PutRealPreference(kPrefix, "huge", 1e300);
+
+    struct Row {
+        std::string name;
+        AIBoolean asBoolean;
+        ai::int32 asInteger;
+        double asReal;
+    };
+    constexpr ai::int32 kMost = std::numeric_limits<ai::int32>::max();
+    const Row rows[] = {{"real", 1, 3, 3.75},
+                        {"integer", 1, 2, 2},
+                        {"boolean", 1, 1, 1},
+                        {"text", -9, -9, -9},
+                        {"huge", 1, kMost, 1e300}};
+    for (const auto& [name, asBoolean, asInteger, asReal] : rows) {
+        INFO(name);
+        AIBoolean boolean = -9;
+        ai::int32 integer = -9;
+        double real = -9;
+        suite.GetBooleanPreference(kPrefix, name.c_str(), &boolean);
+        suite.GetIntegerPreference(kPrefix, name.c_str(), &integer);
+        suite.GetRealPreference(kPrefix, name.c_str(), &real);
+        CHECK(boolean == asBoolean);
+        CHECK(integer == asInteger);
+        CHECK(real == asReal);
+    }
+}
+
+TEST_CASE("a null prefix means the application's own values") {
+    Fixture fixture;
+    const auto& suite = *ai::suites.preference;
+    double cosine = 0;
+    AIBoolean fourth = 0;
+    ai::int32 units = 0;
+    suite.GetRealPreference(nullptr, "constrain/cos", &cosine);
+    suite.GetBooleanPreference(nullptr, "isRulerIn4thQuad", &fourth);
+    suite.GetIntegerPreference(nullptr, "rulerType", &units);
+    CHECK(cosine == 1);
+    CHECK(fourth == 1);
+    CHECK(units == 2);
+    CHECK(suite.RemovePreference(nullptr, "rulerType") == kBadParameterErr);
+    CHECK(suite.PutIntegerPreference(kPrefix, nullptr, 1) == kBadParameterErr);
+}
+
+TEST_CASE("a restart brings every value back, reals bit for bit") {
+    const std::filesystem::path file =
+        std::filesystem::temp_directory_path() / "easel-preferences-test.json";
+    const double angle = std::numbers::pi / 7;
+    const std::string text = "Größe \xF0\x9D\x84\x9E \"quoted\"\n";
+    {
+        easel::Preferences written;
+        written.put(kPrefix, "FTAngle", angle);
+        written.put(kPrefix, "FTCount", ai::int32{72});
+        written.put(kPrefix, "FTAutoMirror", true);
+        written.put(kPrefix, "large", ai::int64{1} << 60);
+        written.put(kPrefix, "text", text);
+        written.put(kPrefix, "place", AIPoint{-3, 4});
+        written.put(kPrefix, "frame", AIRect{1, 2, 3, 4});
+        written.put(kPrefix, "block", easel::Preferences::Bytes{0, 255, 7});
+        written.put(kPrefix, "not a number", std::numeric_limits<double>::quiet_NaN());
+        written.save(file);
+    }
+    easel::Preferences read;
+    read.load(file);
+    std::filesystem::remove(file);
+    CHECK(std::get<double>(*read.find(kPrefix, "FTAngle")) == angle);
+    CHECK(std::get<ai::int32>(*read.find(kPrefix, "FTCount")) == 72);
+    CHECK(std::get<bool>(*read.find(kPrefix, "FTAutoMirror")));
+    CHECK(std::get<ai::int64>(*read.find(kPrefix, "large")) == ai::int64{1} << 60);
+    CHECK(read.text(kPrefix, "text") == text);
+    CHECK(std::get<AIPoint>(*read.find(kPrefix, "place")).h == -3);
+    CHECK(std::get<AIRect>(*read.find(kPrefix, "frame")).bottom == 4);
+    CHECK(std::get<easel::Preferences::Bytes>(*read.find(kPrefix, "block"))[1] == 255);
+    CHECK(read.find(kPrefix, "not a number") == nullptr);
+}
+
+TEST_CASE("a preferences file that is none says so, a missing one is empty") {
+    const std::filesystem::path file =
+        std::filesystem::temp_directory_path() / "easel-preferences-broken.json";
+    easel::Preferences preferences;
+    CHECK_NOTHROW(preferences.load(file));
+    for (const std::string content : {"{", "[1]", R"({"Facetta": {"a": {"colour": 1}}})",
+                                      R"({"Facetta": {"a": {"integer": "x"}}})"}) {
+        INFO(content);
+        std::ofstream(file) << content;
+        CHECK_THROWS_AS(preferences.load(file), std::runtime_error);
+    }
+    std::filesystem::remove(file);
+}
+
+} // namespace facetta::tests

@@ -1,0 +1,340 @@
+#include "host/FilePath.h"
+#include "host/UnicodeString.h"
+#include "host/suites/AIAnnotatorDrawerSuite.h"
+#include "host/suites/AIAnnotatorSuite.h"
+#include "host/suites/AICursorSnapSuite.h"
+#include "host/suites/AIDocumentSuite.h"
+#include "host/suites/AIDocumentViewSuite.h"
+#include "host/suites/AIFilePathSuite.h"
+#include "host/suites/AIToolSuite.h"
+#include "host/suites/AIURLSuite.h"
+#include "host/suites/AIUserSuite.h"
+#include "tests/easel/runtime/TestPlugin.h"
+
+#include "easel/core/HostPath.h"
+#include "easel/document/ArtTree.h"
+
+#include <doctest/doctest.h>
+
+#include <fstream>
+
+namespace facetta::tests {
+namespace {
+
+/// A host with an empty document of 600 by 400 points; its view is 1280 by 800 pixels.
+struct Fixture {
+    Fixture() {
+        host.start();
+        host.open(std::make_unique<easel::Document>(AISize{600, 400}));
+    }
+    ~Fixture() { host.quit(); }
+    easel::Host host;
+    TestPlugin plugin{host};
+};
+
+ai::UnicodeString text(const char* utf8) { return ai::UnicodeString{std::string_view(utf8)}; }
+
+AIPathSegment corner(AIReal h, AIReal v) { return {{h, v}, {h, v}, {h, v}, 1}; }
+
+} // namespace
+
+TEST_CASE("no drawing state leaks from one annotator to the next") {
+    Fixture fixture;
+    for (const char* name : {"First", "Second"}) {
+        AIAnnotatorHandle annotator = nullptr;
+        REQUIRE(ai::suites.annotator->AddAnnotator(fixture.plugin.self(), name, &annotator) ==
+                kNoErr);
+    }
+    int draws = 0;
+    fixture.plugin.on("AI Annotation/AI Draw", [&](SPMessageData& data) {
+        const auto& message = messageOf<AIAnnotatorMessage>(data);
+        CHECK(message.updateType == 5);
+        CHECK(message.portType == 1);
+        REQUIRE(message.drawer != nullptr);
+        const auto& suite = *ai::suites.annotatorDrawer;
+        suite.DrawLine(message.drawer, {0, 0}, {10, 20});
+        suite.SetColor(message.drawer, {65535, 0, 0});
+        suite.SetLineDashed(message.drawer, 1);
+        suite.SetOpacity(message.drawer, 0.5F);
+        suite.SetLineWidth(message.drawer, 3);
+        CHECK(suite.GetLineWidth(message.drawer) == 3);
+        suite.DrawRect(message.drawer, {1, 2, 3, 4}, 1);
+        ++draws;
+        return kNoErr;
+    });
+    const easel::DisplayList list = fixture.host.drawAnnotations(nullptr);
+    CHECK(draws == 2);
+    CHECK(easel::dump(list) == "line 0,0 10,20 #000000\n"
+                               "rect 1,2 3,4 #ff0000 filled dashed\n"
+                               "line 0,0 10,20 #000000\n"
+                               "rect 1,2 3,4 #ff0000 filled dashed\n");
+    CHECK(list[2].style.opacity == 1);
+    CHECK(list[3].style.opacity == 0.5F);
+}
+
+TEST_CASE("dash patterns have 1 to 12 entries and report the room they need") {
+    AIAnnotatorDrawer drawer;
+    Fixture fixture;
+    const auto& suite = *ai::suites.annotatorDrawer;
+    AIFloat dashes[13] = {1, 2, 3};
+    CHECK(suite.SetLineDashedEx(&drawer, dashes, 3) == kNoErr);
+    CHECK(suite.SetLineDashedEx(&drawer, dashes, 13) == fourCharacterCode("DBIG"));
+    AIFloat read[3] = {};
+    ai::int32 count = 2;
+    CHECK(suite.GetLineDashedEx(&drawer, read, count) == fourCharacterCode("SHRT"));
+    CHECK(count == 3);
+    CHECK(suite.GetLineDashedEx(&drawer, read, count) == kNoErr);
+    CHECK(read[2] == 3);
+    CHECK(suite.DrawLine(nullptr, {0, 0}, {1, 1}) == kBadParameterErr);
+}
+
+TEST_CASE("an invalid rectangle means the same pixels whichever way is up") {
+    Fixture fixture;
+    const AIRect down{10, 20, 30, 40};
+    const AIRect up{10, 40, 30, 20};
+    ai::suites.annotator->InvalAnnotationRect(nullptr, &down);
+    ai::suites.annotator->InvalAnnotationRect(nullptr, &up);
+    ai::suites.annotator->InvalAnnotationRect(nullptr, nullptr);
+    const auto& invalid = fixture.host.annotators.invalid;
+    REQUIRE(invalid.size() == 3);
+    CHECK(invalid[1].top == 20);
+    CHECK(invalid[1].bottom == 40);
+    CHECK(invalid[2].right == 1280);
+    CHECK(fixture.host.drawAnnotations(nullptr).empty());
+    CHECK(fixture.host.annotators.invalid.empty());
+}
+
+TEST_CASE("view pixels run down from the top left, whatever centre and zoom") {
+    Fixture fixture;
+    const auto& suite = *ai::suites.documentView;
+    const AIRealPoint centre{100, -50};
+    REQUIRE(suite.SetDocumentViewCenter(nullptr, &centre) == kNoErr);
+    REQUIRE(suite.SetDocumentViewZoom(nullptr, 2) == kNoErr);
+    struct Row {
+        AIRealPoint artwork;
+        AIPoint pixel;
+    };
+    const Row rows[] = {{{100, -50}, {640, 400}},
+                        {{101, -50}, {642, 400}},
+                        {{100, -49}, {640, 398}},
+                        {{-220, 150}, {0, 0}}};
+    for (const auto& [artwork, pixel] : rows) {
+        AIPoint seen{};
+        AIRealPoint back{};
+        CHECK(suite.ArtworkPointToViewPoint(nullptr, &artwork, &seen) == kNoErr);
+        CHECK(seen.h == pixel.h);
+        CHECK(seen.v == pixel.v);
+        CHECK(suite.ViewPointToArtworkPoint(nullptr, &pixel, &back) == kNoErr);
+        CHECK(back.h == artwork.h);
+        CHECK(back.v == artwork.v);
+    }
+    AIRealRect bounds{};
+    suite.GetDocumentViewBounds(nullptr, &bounds);
+    CHECK(bounds.left == -220);
+    CHECK(bounds.top == 150);
+    CHECK(bounds.right == 420);
+    CHECK(bounds.bottom == -250);
+
+    AIReal zoom = 0;
+    suite.SetDocumentViewZoom(nullptr, 1000);
+    suite.GetDocumentViewZoom(nullptr, &zoom);
+    CHECK(zoom == 64);
+}
+
+TEST_CASE("the canvas stays where it is when the ruler origin moves") {
+    Fixture fixture;
+    const auto& suite = *ai::suites.document;
+    AIRealRect before{};
+    suite.GetDocumentMaxArtboardBounds(&before);
+    AIRealPoint origin{100, 150};
+    REQUIRE(suite.SetDocumentRulerOrigin(&origin) == kNoErr);
+    AIRealPoint read{};
+    suite.GetDocumentRulerOrigin(&read);
+    CHECK(read.h == 100);
+    CHECK(read.v == 150);
+    AIRealRect after{};
+    suite.GetDocumentMaxArtboardBounds(&after);
+    CHECK(after.right - after.left == 16383);
+    CHECK(after.top - after.bottom == 16383);
+    CHECK(after.left == before.left - 100);
+    CHECK(after.top == before.top + (400 - 150)); // it was at the top left corner before
+}
+
+TEST_CASE("snapping searches the sources of the control string in its order") {
+    Fixture fixture;
+    easel::Document& document = easel::currentDocument();
+    easel::Art& path =
+        easel::createArt(document, kPathArt, easel::onTopOf(*document.state().currentLayer));
+    path.write().segments.write() = {corner(100, -100), corner(200, -100)};
+    struct Row {
+        std::string what;
+        const char* control;
+        AIRealPoint point;
+        AIRealPoint expected;
+    };
+    const Row rows[] = {
+        {"an anchor", "A v", {102, -101}, {100, -100}},
+        {"the anchor before the line", "A v o", {103, -101}, {100, -100}},
+        {"the line where no anchor is near", "A v o", {150, -102}, {150, -100}},
+        {"nothing near", "A v o", {150, -110}, {150, -110}},
+        {"no source opened", "v o", {102, -101}, {102, -101}},
+        {"nothing searched", "AP", {102, -101}, {102, -101}},
+        {"empty", "", {102, -101}, {102, -101}},
+        {"a corner of the artboard", "AP v o", {602, 1}, {600, 0}},
+        {"an edge of the artboard", "AP v o", {300, 2}, {300, 0}},
+        {"sources that only real hosts know", "ATFGPLM v i o", {102, -101}, {100, -100}},
+    };
+    AIEvent event{};
+    for (const auto& [what, control, point, expected] : rows) {
+        INFO(what);
+        AIRealPoint result{-1, -1};
+        CHECK(ai::suites.cursorSnap->Track(nullptr, point, &event, control, &result) == kNoErr);
+        CHECK(result.h == expected.h);
+        CHECK(result.v == expected.v);
+    }
+    CHECK(fixture.host.cursorSnap.calls.size() == std::size(rows));
+    CHECK(fixture.host.cursorSnap.calls.back().control == "ATFGPLM v i o");
+
+    fixture.host.cursorSnap.enabled = false;
+    AIRealPoint result{};
+    ai::suites.cursorSnap->Track(nullptr, {102, -101}, nullptr, "A v", &result);
+    CHECK(result.h == 102);
+}
+
+TEST_CASE("file paths take and give native text") {
+    Fixture fixture;
+    const auto& suite = *ai::suites.filePath;
+    const std::filesystem::path folder = std::filesystem::temp_directory_path();
+    const std::filesystem::path file = folder / "easel-path-test.txt";
+    std::ofstream(file) << "x";
+
+    ai::FilePath path;
+    CHECK(suite.IsEmpty(path) == 1);
+    const ai::UnicodeString folderText{std::u16string_view(folder.u16string())};
+    REQUIRE(suite.Set(folderText, 0, path) == kNoErr);
+    REQUIRE(suite.AddComponent(text("easel-path-test.txt"), path) == kNoErr);
+    AIBool8 isFile = 0;
+    CHECK(suite.Exists(path, 1, nullptr, &isFile) == 1);
+    CHECK(isFile == 1);
+    std::filesystem::remove(file);
+    CHECK(suite.Exists(path, 1, nullptr, nullptr) == 0);
+
+    ai::UnicodeString part;
+    suite.GetFileNameNoExt(path, part);
+    CHECK(part.utf8() == "easel-path-test");
+    suite.GetFileExtension(path, part);
+    CHECK(part.utf8() == "txt");
+    suite.GetDirectory(path, 0, part);
+    CHECK(part.utf8().back() == suite.GetDelimiter());
+
+    ai::FilePath parent;
+    REQUIRE(suite.GetParent(path, parent) == kNoErr);
+    CHECK(suite.Equal(path, parent, 0) == 0);
+    REQUIRE(suite.GetParent(path, path) == kNoErr); // the same object
+    CHECK(suite.Equal(path, parent, 0) == 1);
+    ai::FilePath root;
+    suite.Set(ai::UnicodeString{std::u16string_view(folder.root_path().u16string())}, 0, root);
+    suite.GetParent(root, root);
+    CHECK(suite.IsEmpty(root) == 1);
+}
+
+TEST_CASE("numbers turn into text and back") {
+    Fixture fixture;
+    const auto& suite = *ai::suites.user;
+    struct Row {
+        AIReal value;
+        ai::int16 precision;
+        const char* expected;
+    };
+    const Row rows[] = {{1.75F, 2, "1.75"}, {1.75F, 1, "1.8"},    {2, 4, "2"},
+                        {-0.0001F, 2, "0"}, {0.125F, 9, "0.125"}, {-12.5F, 3, "-12.5"},
+                        {100, 0, "100"}};
+    for (const auto& [value, precision, expected] : rows) {
+        ai::UnicodeString written;
+        suite.IUAIRealToString(value, precision, written);
+        CHECK(written.utf8() == expected);
+    }
+    struct Back {
+        std::string text;
+        AIReal value;
+    };
+    constexpr AIReal kUnknown = 3.402823466e+38F;
+    for (const auto& [written, value] :
+         {Back{" 12.5", 12.5F}, Back{"+3", 3}, Back{"", kUnknown}, Back{"abc", kUnknown}}) {
+        INFO(written);
+        AIReal read = 0;
+        suite.StringToAIReal(text(written.c_str()), &read);
+        CHECK(read == value);
+    }
+    AIReal inches = 0;
+    suite.IUStringUnitsToAIReal(text("2 in"), &inches);
+    CHECK(inches == 144);
+}
+
+TEST_CASE("what would leave the host is recorded, questions get the prepared answers") {
+    Fixture fixture;
+    const auto& suite = *ai::suites.user;
+    easel::UserRecord& user = fixture.host.user;
+    user.answers = {0, 2};
+    CHECK(suite.QuestionAlert(text("Sure?")) == 0);
+    CHECK(suite.YesNoAlert(text("Really?")) == 2);
+    CHECK(suite.OKCancelAlert(text("Go?"), 1, nullptr) == 1);
+    suite.ErrorAlert(text("No."));
+    REQUIRE(user.alerts.size() == 4);
+    CHECK(user.alerts[3].kind == "error");
+    CHECK(user.alerts[3].text == "No.");
+
+    ai::FilePath manual;
+    ai::suites.filePath->Set(text("manual.pdf"), 0, manual);
+    CHECK(suite.LaunchApp(manual, 0) == kNoErr);
+    REQUIRE(user.launched.size() == 1);
+    CHECK(user.launched[0] == "manual.pdf");
+
+    user.browserAvailable = false;
+    CHECK(ai::suites.url->OpenURL("x") == 0);
+    CHECK(user.openedUrls.empty());
+
+    AIResourceManagerHandle cursors = nullptr;
+    CHECK(suite.CreateCursorResourceMgr(fixture.plugin.self(), &cursors) == kNoErr);
+    CHECK(suite.SetCursor(16012, cursors) == kNoErr);
+    CHECK(suite.SetCursor(-3, nullptr) == kNoErr);
+    CHECK(user.cursor == -3);
+    CHECK(suite.DisposeCursorResourceMgr(cursors) == kNoErr);
+    CHECK(suite.SetCursor(16012, cursors) == kBadParameterErr);
+}
+
+TEST_CASE("tools are known by number and name, the host's own among them") {
+    Fixture fixture;
+    const auto& suite = *ai::suites.tool;
+    AIAddToolData data{"Title", "Tip", 0, 2100, 3100, kNoTool, kNoTool};
+    AIToolHandle tool = nullptr;
+    REQUIRE(suite.AddTool(fixture.plugin.self(), "Mine", &data, 33, &tool) == kNoErr);
+    CHECK(suite.AddTool(fixture.plugin.self(), "Mine", &data, 33, nullptr) == kBadParameterErr);
+    AIToolType number = 0;
+    CHECK(suite.GetToolNumberFromName("Mine", &number) == kNoErr);
+    CHECK(number >= 1000);
+    CHECK(suite.GetToolNumberFromName("Adobe Select Tool", &number) == kNoErr);
+    CHECK(number < 1000);
+    CHECK(suite.GetToolNumberFromName("None", &number) == kBadParameterErr);
+
+    AIToolHandle current = tool;
+    CHECK(suite.GetSelectedTool(&current) == kNoErr);
+    CHECK(current == nullptr); // a built-in tool
+    CHECK(suite.SetSelectedTool(tool) == kNoErr);
+    suite.GetSelectedTool(&current);
+    CHECK(current == tool);
+    const char* name = nullptr;
+    CHECK(suite.SetSelectedToolByName("Adobe Pen Tool") == kNoErr);
+    CHECK(suite.GetCurrentToolName(&name) == kNoErr);
+    CHECK(std::string(name) == "Adobe Pen Tool");
+
+    const ai::int32 variables[] = {15, 5, -1};
+    AIReal x = 12;
+    AIReal angle = 45;
+    void* values[] = {&x, &angle};
+    CHECK(suite.SetToolInfoVars(tool, variables) == kNoErr);
+    CHECK(suite.SetToolInfoVarValues(variables, values) == kNoErr);
+    CHECK(fixture.host.tools.infoValues.at(5) == 45);
+}
+
+} // namespace facetta::tests

@@ -1,0 +1,132 @@
+#include "easel/core/HostString.h"
+#include "easel/core/Ledger.h"
+#include "easel/core/Text.h"
+#include "host/UnicodeString.h"
+#include "host/suites/AIUnicodeStringSuite.h"
+#include "tests/easel/runtime/TestPlugin.h"
+
+#include <doctest/doctest.h>
+
+#include <cstring>
+#include <utility>
+
+namespace facetta::tests {
+namespace {
+
+struct Fixture {
+    Fixture() { host.start(); }
+    ~Fixture() {
+        CHECK(easel::ledger().count(easel::Lent::String) == 0);
+        host.quit();
+    }
+    easel::Host host;
+    TestPlugin plugin{host};
+};
+
+constexpr std::size_t kAll = std::u32string::npos;
+
+} // namespace
+
+TEST_CASE("text survives the way into the host and back") {
+    const std::string texts[] = {"",       "plain",        "Größe 10 µm",
+                                 "日本語", "𝄞 clef and 😀", "\xF4\x8F\xBF\xBF"};
+    Fixture fixture;
+    for (const std::string& text : texts) {
+        INFO(text);
+        const ai::UnicodeString first{text};
+        CHECK(first.utf8() == text);
+        const ai::UnicodeString second{std::u16string_view(first.utf16())};
+        CHECK(second.utf8() == text);
+        CHECK(easel::readUtf8(second) == text);
+    }
+}
+
+TEST_CASE("copies share nothing, moves leave an empty string") {
+    Fixture fixture;
+    ai::UnicodeString original{std::string_view("one")};
+    ai::UnicodeString copy = original;
+    easel::writeUtf8(copy, "two");
+    CHECK(original.utf8() == "one");
+    ai::UnicodeString& alias = original;
+    original = alias;
+    CHECK(original.utf8() == "one");
+    const ai::UnicodeString moved = std::move(original);
+    CHECK(moved.utf8() == "one");
+    const ai::UnicodeString unset;
+    const ai::UnicodeString copyOfUnset = unset;
+    CHECK(copyOfUnset.utf8().empty());
+}
+
+TEST_CASE("positions count characters, not UTF-16 units") {
+    Fixture fixture;
+    const auto& suite = *ai::suites.unicodeString;
+    const ai::UnicodeString clef{std::string_view("a𝄞b")};
+    CHECK(suite.Length(clef) == 3);
+    CHECK(suite.HasSurrogates(clef) == 1);
+    ai::uint32 character = 0;
+    CHECK(suite.GetChar(clef, 1, character) == kNoErr);
+    CHECK(character == 0x1D11E);
+    CHECK(suite.GetChar(clef, 3, character) == kStringIndexErr);
+    const ASUnicode* units = nullptr;
+    CHECK(suite.UTF_16(clef, units) == 4);
+    CHECK(units[1] == 0xD834);
+    CHECK(suite.FindChar(clef, 'b', 0) == 2);
+    ai::UnicodeString part;
+    CHECK(suite.SubStr(part, clef, 1, kAll) == kNoErr);
+    CHECK(part.utf8() == "𝄞b");
+    CHECK(suite.SubStr(part, clef, 4, 1) == kStringIndexErr);
+}
+
+TEST_CASE("strings compare by part, sign and case") {
+    Fixture fixture;
+    const auto& suite = *ai::suites.unicodeString;
+    const ai::UnicodeString upper{std::string_view("ÄPFEL")};
+    const ai::UnicodeString lower{std::string_view("äpfel")};
+    CHECK(suite.Compare(upper, 0, kAll, lower, 0, kAll) == -1);
+    CHECK(suite.Compare(lower, 0, kAll, upper, 0, kAll) == 1);
+    CHECK(suite.CaseCompare(upper, 0, kAll, lower, 0, kAll) == 0);
+    CHECK(suite.Compare(upper, 1, 2, upper, 1, 2) == 0);
+    ai::UnicodeString changed = upper;
+    suite.toLower(changed);
+    CHECK(changed.utf8() == "äpfel");
+    suite.toUpper(changed);
+    CHECK(changed.utf8() == "ÄPFEL");
+}
+
+TEST_CASE("malformed text is refused and leaves no string behind") {
+    Fixture fixture;
+    const auto& suite = *ai::suites.unicodeString;
+    struct Row {
+        std::string what;
+        const char* bytes;
+    };
+    const Row rows[] = {{"a lone continuation", "\x80"},
+                        {"cut off", "\xE2\x82"},
+                        {"overlong", "\xC0\xAF"},
+                        {"a surrogate", "\xED\xA0\x80"},
+                        {"beyond the last", "\xF4\x90\x80\x80"},
+                        {"no lead", "\xFF"}};
+    for (const auto& [what, bytes] : rows) {
+        INFO(what);
+        void* pointer = nullptr;
+        auto& string = reinterpret_cast<ai::UnicodeString&>(pointer);
+        CHECK(suite.Initialize(string, bytes, static_cast<ai::int64>(std::strlen(bytes)), 1) ==
+              kStringMalformedErr);
+        CHECK(pointer == nullptr);
+    }
+    CHECK(easel::utf8FromUtf16(u"\xD800x") == "\xEF\xBF\xBDx");
+}
+
+TEST_CASE("a destroyed or foreign string is refused") {
+    Fixture fixture;
+    const auto& suite = *ai::suites.unicodeString;
+    int foreign = 0;
+    void* pointer = &foreign;
+    auto& string = reinterpret_cast<ai::UnicodeString&>(pointer);
+    ai::uint32 character = 0;
+    CHECK(suite.GetChar(string, 0, character) == kBadParameterErr);
+    CHECK(easel::ledger().problems().size() == 1);
+    CHECK(suite.Destroy(string) == kBadParameterErr);
+}
+
+} // namespace facetta::tests
