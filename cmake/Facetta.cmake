@@ -9,6 +9,9 @@
 #       a product of that name
 #   facetta_benchmarks(mirror SOURCES MirrorBenchmarks.cpp DEPENDS symmetry)
 #       the Google Benchmark program mirror_benchmarks, run by the target "bench"; Linux only
+#   facetta_fuzzer(layout_fuzz SOURCES layout_fuzz.cpp DEPENDS layout CORPUS fuzz/corpus/layout_fuzz)
+#       a fuzz target and the folders of inputs it starts from; the preset linux-fuzz makes fuzzers
+#       of them, the other Linux presets tests that replay and change those inputs
 #   facetta_plugin(facetta SOURCES PluginMain.cpp DEPENDS shell)
 #       the plug-in, exporting PluginMain alone: Facetta.aip for Windows, facetta.so for Linux
 #
@@ -83,7 +86,7 @@ endfunction()
 
 # Reads SOURCES, DEPENDS and the like; a word that belongs to none of them is a mistake.
 macro(facetta_arguments function single)
-    cmake_parse_arguments(arg "" "${single}" "SOURCES;DEPENDS;LABELS" ${ARGN})
+    cmake_parse_arguments(arg "" "${single}" "SOURCES;DEPENDS;LABELS;CORPUS" ${ARGN})
     if(arg_UNPARSED_ARGUMENTS OR NOT arg_SOURCES)
         message(FATAL_ERROR "${function}(name SOURCES ... [DEPENDS ...]): ${arg_UNPARSED_ARGUMENTS}")
     endif()
@@ -151,6 +154,25 @@ function(facetta_benchmarks name)
     add_custom_target(run_${name}_benchmarks COMMAND ${name}_benchmarks USES_TERMINAL
         WORKING_DIRECTORY ${CMAKE_SOURCE_DIR})
     add_dependencies(bench run_${name}_benchmarks)
+endfunction()
+
+function(facetta_fuzzer name)
+    facetta_arguments(facetta_fuzzer "" ${ARGN})
+    if(WIN32)
+        return() # neither a fuzzer nor the sanitizers that make one worth its time
+    endif()
+    add_executable(${name} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE facetta_flags ${depends})
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+        list(JOIN arg_CORPUS "\n" folders)
+        file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/${name}.corpus "${folders}\n")
+        return()
+    endif()
+    target_sources(${name} PRIVATE ${CMAKE_SOURCE_DIR}/fuzz/replay.cpp)
+    add_test(NAME ${name} WORKING_DIRECTORY ${CMAKE_SOURCE_DIR}
+        COMMAND ${name} ${CMAKE_CURRENT_BINARY_DIR}/${name}.last ${arg_CORPUS})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 120 LABELS fuzz-corpus)
 endfunction()
 
 function(facetta_plugin name)

@@ -1,5 +1,5 @@
 /// Any bytes as a layout text: reading ends, limits hold, what is printed reads back, what is
-/// placed fits a window. Seeds: fuzz/seeds/layout and resources/layouts.
+/// placed fits a window.
 
 #include "toolkit/layout/Layout.h"
 #include "toolkit/layout/Limits.h"

@@ -104,7 +104,7 @@ TEST_CASE("a popup cluster gives its popup the id, the width and the entries") {
 }
 
 TEST_CASE("the fuzzer knows every word of the language and finds nothing in its seeds") {
-    const std::string dictionary = contents("fuzz/layout.dict");
+    const std::string dictionary = contents("fuzz/layout_fuzz.dict");
     const auto knows = [&dictionary](std::string_view word) {
         return dictionary.find("\n\"" + std::string(word) + "\"\n") != std::string::npos;
     };
@@ -115,7 +115,7 @@ TEST_CASE("the fuzzer knows every word of the language and finds nothing in its 
     for (const ConstantRecord& constant : constants())
         CHECK_MESSAGE(knows(constant.name), constant.name);
 
-    for (const char* folder : {"fuzz/seeds/layout", "resources/layouts"}) {
+    for (const char* folder : {"fuzz/corpus/layout_fuzz", "resources/layouts"}) {
         for (const auto& file : std::filesystem::directory_iterator(folder)) {
             if (file.path().extension() != ".layout") continue;
             INFO(file.path().string());
