@@ -20,6 +20,8 @@ const MirroredPath& PathMirror::mirror(const PathShape& source) {
     double clear = kOnAxisDistance;
     for (; contourCount_ == 0 && !source.segments.empty() && clear < kRayLength; clear *= 4.0)
         addMirrored(folded_, clear);
+    if (contourCount_ == 0 && !source.segments.empty()) // all within a few hundredths of the origin
+        nextContour() = {folded_, Images::All};
     result_.compound = source.closed && contourCount_ > 1;
     if (result_.compound) agreeInImages();
     result_.contours.resize(contourCount_);
@@ -120,9 +122,10 @@ void PathMirror::moveOnto(Ray ray, PathSegment& segment) const {
     const double spacing =
         kStorageSpacing * std::max(std::abs(segment.anchor.x), std::abs(segment.anchor.y));
     if (length(offset) <= spacing) return;
-    segment.anchor = rounded(target);
-    segment.in = rounded(segment.in + offset);
-    segment.out = rounded(segment.out + offset);
+    const Point anchor = rounded(target);
+    for (Point* handle : {&segment.in, &segment.out}) // one that is on the anchor stays on it
+        *handle = *handle == segment.anchor ? anchor : rounded(*handle + offset);
+    segment.anchor = anchor;
 }
 
 void PathMirror::begin() {
@@ -155,7 +158,18 @@ void PathMirror::addContours(double start) {
         piece_.end = stretch.to.ray;
         Contour& contour = nextContour();
         joiner_.join(piece_, contour);
+        if (contour.shape.closed) startWithSource(stretch, contour.shape.segments);
     }
+}
+
+/// Lets a closed contour begin where its source does, when the curve that starts there is kept, so
+/// that the active sector is found by the same curve again.
+void PathMirror::startWithSource(const Stretch& stretch, std::vector<PathSegment>& segments) const {
+    const bool runsPastStart = folded_.closed && stretch.to.position() > 0.0 &&
+                               stretch.to.position() <= stretch.from.position();
+    if (runsPastStart)
+        std::ranges::rotate(segments, segments.begin() +
+                                          (std::ssize(folded_.segments) - stretch.from.segment));
 }
 
 /// Adds a stretch that lies on a ray as an open path of its own. Handles that led into the curves

@@ -5,6 +5,7 @@
 #include <doctest/doctest.h>
 
 #include <limits>
+#include <string>
 
 using namespace facetta;
 using facetta::tests::Random;
@@ -12,7 +13,7 @@ using facetta::tests::Random;
 TEST_CASE("an angle is brought into one turn, however far out it is") {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     struct Row {
-        const char* what;
+        std::string what;
         double angle;
         double expected;
     };

@@ -1,30 +1,321 @@
 #include "symmetry/MirrorPath.h"
 
+#include "symmetry/Tolerances.h"
+#include "tests/symmetry/PathText.h"
 #include "tests/symmetry/RandomPaths.h"
 
 #include <doctest/doctest.h>
 
+#include <algorithm>
+#include <chrono>
+#include <string>
+
 using namespace facetta;
 using facetta::tests::Random;
+using facetta::tests::shapeOf;
+using facetta::tests::textOf;
+
+namespace {
+
+constexpr double kSnapDistance = 12.0;
+
+std::string outcomeOf(const MirroredPath& result) {
+    constexpr const char* kImages[] = {"all", "rotations", "none"};
+    std::string text;
+    for (const auto& [shape, images] : result.contours)
+        text += std::string(text.empty() ? "" : ", ") + kImages[static_cast<int>(images)] + " " +
+                textOf(shape);
+    return (result.compound ? "compound: " : "") + text;
+}
+
+std::vector<PathShape> shapesOf(const MirroredPath& result) {
+    std::vector<PathShape> shapes;
+    for (const Contour& contour : result.contours)
+        shapes.push_back(contour.shape);
+    return shapes;
+}
+
+/// All shapes of the whole rosette; images of reflections run backwards, as in one compound path.
+std::vector<PathShape> rosetteOf(const SymmetryAxes& axes, const MirroredPath& result) {
+    std::vector<PathShape> shapes = shapesOf(result);
+    for (const auto& [shape, images] : result.contours)
+        for (const Matrix& map : imageTransforms(axes, images)) {
+            PathShape image = shape;
+            for (PathSegment& segment : image.segments)
+                segment = transformed(segment, map);
+            if (mirrors(map)) reverseRun(image.segments);
+            shapes.push_back(image);
+        }
+    return shapes;
+}
+
+/// The winding number of closed shapes around a point, and how near they come to it.
+struct Winding {
+    double turns = 0.0;
+    double nearest = 1e300;
+};
+
+Winding windingAround(std::span<const PathShape> shapes, Point point) {
+    constexpr int kSteps = 48;
+    Winding winding;
+    for (const PathShape& shape : shapes)
+        for (std::size_t i = 0; i < curveCount(shape); ++i) {
+            const Cubic curve = curveAt(shape, i);
+            Point from = curve.p0;
+            for (int step = 1; step <= kSteps; ++step) {
+                const Point to = step == kSteps ? curve.p3 : evaluate(curve, 1.0 / kSteps * step);
+                winding.turns +=
+                    std::atan2(cross(from - point, to - point), dot(from - point, to - point)) /
+                    kTwoPi;
+                winding.nearest =
+                    std::min(winding.nearest, distance(point, nearestPoint({from, to}, point)));
+                from = to;
+            }
+        }
+    return winding;
+}
+
+} // namespace
+
+TEST_CASE("what becomes of a path") {
+    struct Row {
+        std::string what;
+        int axisCount; // the first axis is the x axis
+        std::string source;
+        std::string expected;
+    };
+    const Row rows[] = {
+        {"inside: copied", 1, "M 0 50 L 100 50", "all M 0 50 L 100 50"},
+        {"free ends lose their handles", 1, "M 0 50 C 10 90 60 90 100 50", "all M 0 50 L 100 50"},
+        {"one end near the axis: joined there", 1, "M 0 50 L 100 5",
+         "rotations M 0 50 L 100 0 L 0 -50"},
+        {"the free end comes first", 1, "M 100 5 L 0 50", "rotations M 0 50 L 100 0 L 0 -50"},
+        {"an end a little beyond the axis", 1, "M 0 -3 L 50 60",
+         "rotations M 50 60 L 0 0 L 50 -60"},
+        {"both ends on one ray: closed", 1, "M 10 5 L 50 50 L 100 3",
+         "rotations M 10 0 L 50 50 L 100 0 L 50 -50 Z"},
+        {"N = 1 has two rays", 1, "M -100 5 L 0 50 L 100 3",
+         "none M -100 0 L 0 50 L 100 0 L 0 -50 Z"},
+        {"ends on both rays: all images are one", 2, "M 100 5 C 100 60 60 100 5 100",
+         "none M 100 0 C 100 55 55 100 0 100 C -55 100 -100 55 -100 0 "
+         "C -100 -55 -55 -100 0 -100 C 55 -100 100 -55 100 0 Z"},
+        {"an end at the origin", 3, "M 0 0 L 100 50", "rotations M 100 50 L 0 0 L 100 -50"},
+        {"the origin counts as the other end's ray", 2, "M 0 0 L 40 50 L 0 80",
+         "rotations M 0 0 L 40 50 L 0 80 L -40 50 Z"},
+        {"through the origin: the half inside is kept", 2, "M 50 50 L -50 -50",
+         "rotations M 50 50 L 0 0 L 50 -50"},
+        {"drawn in the last sector: folded into the first", 3, "M 100 -50 L 150 -20 L 100 -5",
+         "rotations M 100 50 L 150 20 L 100 0 L 150 -20 L 100 -50"},
+        {"cut in two, open: separate paths", 1, "M 0 50 L 0 -50 L 30 -50 L 30 50",
+         "rotations M 0 50 L 0 0 L 0 -50, rotations M 30 50 L 30 0 L 30 -50"},
+        {"cut in one, closed: begins where the source does", 1, "M 0 50 L 0 -50 L 60 -50 L 60 50 Z",
+         "rotations M 0 50 L 0 0 L 0 -50 L 60 -50 L 60 0 L 60 50 Z"},
+        {"cut in two, closed: one compound path", 1,
+         "M 0 50 L 0 -50 L 30 -50 L 30 50 L 60 50 L 60 -80 L -30 -80 L -30 50 Z",
+         "compound: rotations M 0 50 L 0 0 L 0 -50 L -30 -50 L -30 0 L -30 50 Z, "
+         "rotations M 30 0 L 30 50 L 60 50 L 60 0 L 60 -50 L 30 -50 Z"},
+        {"half a shape against the axis", 1, "M 10 0 L 100 0 L 100 50 L 10 50 Z",
+         "rotations M 100 0 L 100 50 L 10 50 L 10 0 L 10 -50 L 100 -50 Z"},
+        {"the same on the other side", 1, "M 10 0 L 100 0 L 100 -50 L 10 -50 Z",
+         "rotations M 100 0 L 100 50 L 10 50 L 10 0 L 10 -50 L 100 -50 Z"},
+        {"a whole sector", 2, "M 0 0 L 100 0 L 80 80 L 0 100 Z",
+         "none M 100 0 L 80 80 L 0 100 L -80 80 L -100 0 L -80 -80 L 0 -100 L 80 -80 Z"},
+        {"a square around the origin", 2, "M 50 50 L -50 50 L -50 -50 L 50 -50 Z",
+         "none M 50 50 L 0 50 L -50 50 L -50 0 L -50 -50 L 0 -50 L 50 -50 L 50 0 Z"},
+        {"along the axis: its own reflection", 1, "M 0 0 L 100 0", "rotations M 0 0 L 100 0"},
+        {"along the axis on its way", 1, "M -50 50 L 0 0 L 100 0 L 150 50",
+         "rotations M -50 50 L 0 0 L -50 -50, rotations M 0 0 L 100 0, "
+         "rotations M 150 50 L 100 0 L 150 -50"},
+        {"along an axis through the origin: one ray of it", 3, "M 100 0 L -80 0",
+         "rotations M 100 0 L 0 0"},
+        {"closed and flat on the axis", 1, "M -80 0 L 100 0 Z", "rotations M -80 0 L 100 0 Z"},
+        {"a single anchor", 3, "M 100 50", "all M 100 50"},
+        {"a single anchor near an axis", 3, "M 20 5", "rotations M 20 0"},
+        {"touching with an anchor: not cut", 1, "M -50 50 L 0 0 L 50 50",
+         "all M -50 50 L 0 0 L 50 50"},
+        {"a tip through the axis by less than shows: not cut", 1, "M -5 50 L 0 -0.02 L 5 50",
+         "all M -5 50 L 0 -0.02 L 5 50"},
+        {"a tip that reaches farther: cut", 1, "M -50 50 L 0 -50 L 50 50",
+         "rotations M -50 50 L -25 0 L -50 -50, rotations M 50 50 L 25 0 L 50 -50"},
+        {"touching along a curve: not cut", 1, "M 0 40 C 40 -13.33 80 -13.33 120 40 Z",
+         "all M 0 40 C 40 -13.33 80 -13.33 120 40 Z"},
+    };
+    for (const auto& [what, axisCount, source, expected] : rows) {
+        INFO(what);
+        PathMirror mirror({.axisCount = axisCount}, kSnapDistance);
+        const MirroredPath result = mirror.mirror(shapeOf(source));
+        CHECK(outcomeOf(result) == expected);
+        CHECK(result.unchanged == (textOf(result.contours[0].shape) == source));
+        for (const Contour& contour : result.contours)
+            CHECK(mirror.mirror(contour.shape).unchanged);
+    }
+}
+
+TEST_CASE("the active sector is told by the first curve that is clear of the axes") {
+    PathMirror mirror({.axisCount = 3}, kSnapDistance);
+    CHECK(mirror.mirror(shapeOf("M 100 50 L 100 -500")).sector == 5);
+    CHECK(mirror.mirror(shapeOf("M 10 0 L 100 0 L 100 -50 L 10 -10 Z")).sector == 5);
+    CHECK(mirror.mirror(shapeOf("M -100 -50 L -120 -30")).sector == 3);
+}
+
+TEST_CASE("contours that need different copies of one compound path get them at once") {
+    // N = 2: an arc from axis to axis, and a bite that crosses the x axis only.
+    const PathShape source = shapeOf("M 200 200 L -200 200 L -200 -200 L 200 -200 L 200 -50 "
+                                     "L 100 -50 L 100 50 L 150 50 L 150 -20 L 180 -20 L 180 200 Z");
+    PathMirror mirror({.axisCount = 2}, kSnapDistance);
+    const MirroredPath result = mirror.mirror(source);
+    CHECK(result.compound);
+    CHECK(result.contours.size() == 3); // the outer ring, the bite and its rotation
+    for (const Contour& contour : result.contours)
+        CHECK(contour.images == Images::None);
+    CHECK(mirror.mirrorCompound(shapesOf(result)).unchanged);
+}
+
+TEST_CASE("members of a compound path share the sector of the first one") {
+    PathMirror mirror({.axisCount = 1}, kSnapDistance);
+    const PathShape members[] = {shapeOf("M 0 20 L 50 20 L 50 60 Z"),
+                                 shapeOf("M 10 30 L 20 -30 L 30 30 Z"),
+                                 shapeOf("M 10 -30 L 20 -40 L 30 -30 Z")};
+    const MirroredPath result = mirror.mirrorCompound(members);
+    CHECK(outcomeOf(result) == "compound: none M 0 20 L 50 20 L 50 60 Z, "
+                               "none M 0 -20 L 50 -60 L 50 -20 Z, "
+                               "none M 10 30 L 15 0 L 10 -30 L 30 -30 L 25 0 L 30 30 Z");
+}
+
+TEST_CASE("a join is smooth only where the path meets the axis squarely") {
+    PathMirror mirror({.axisCount = 1}, 0.0);
+    const MirroredPath squarely = mirror.mirror(shapeOf("M 0 50 C 0 50 30 30 30 0"));
+    CHECK_FALSE(squarely.contours[0].shape.segments[1].corner);
+    const MirroredPath slanting = mirror.mirror(shapeOf("M 0 50 C 0 50 30 30 40 0"));
+    CHECK(slanting.contours[0].shape.segments[1].corner);
+}
+
+TEST_CASE("what is selected stays selected on the images") {
+    PathShape source = shapeOf("M 0 50 L 20 60 L 100 0");
+    source.segments[0].selection = selection::kAnchor;
+    source.segments[1].selection = selection::kOut;
+    PathMirror mirror({.axisCount = 1}, kSnapDistance);
+    const MirroredPath result = mirror.mirror(source);
+    std::vector<int> selections;
+    for (const PathSegment& segment : result.contours[0].shape.segments)
+        selections.push_back(segment.selection);
+    CHECK(selections == std::vector<int>{selection::kAnchor, selection::kOut, selection::kNone,
+                                         selection::kIn, selection::kAnchor});
+}
 
 TEST_CASE("mirroring a result again changes nothing, bit for bit") {
     Random random;
-    for (int i = 0; i < 3000; ++i) {
+    for (int i = 0; i < 6000; ++i) {
         CAPTURE(i);
         const SymmetryAxes axes = random.axes();
         const double size = random.size();
         const PathShape source = random.path(axes, random.coin(), size);
-        PathMirror first(axes, random.real(0.0, size / 5.0));
-        const MirroredPath result = first.mirror(source);
+        PathMirror mirror(axes, random.real(0.0, size / 5.0));
+        const MirroredPath result = mirror.mirror(source);
         REQUIRE_FALSE(result.contours.empty());
         if (result.compound) {
-            std::vector<PathShape> members;
-            for (const Contour& contour : result.contours)
-                members.push_back(contour.shape);
-            REQUIRE(first.mirrorCompound(members).unchanged);
+            REQUIRE(mirror.mirrorCompound(shapesOf(result)).unchanged);
             continue;
         }
         for (const Contour& contour : result.contours)
-            REQUIRE(first.mirror(contour.shape).unchanged);
+            REQUIRE(mirror.mirror(contour.shape).unchanged);
     }
+}
+
+TEST_CASE("the rosette winds around every point as the source does around the folded one") {
+    Random random;
+    int compared = 0;
+    for (int i = 0; i < 600; ++i) {
+        CAPTURE(i);
+        SymmetryAxes axes = random.axes();
+        axes.axisCount = random.integer(1, 8);
+        const double size = random.size();
+        const PathShape source = random.path(axes, true, size);
+        PathMirror mirror(axes, kSnapDistance);
+        const MirroredPath result = mirror.mirror(source);
+        const std::vector<PathShape> rosette = rosetteOf(axes, result);
+        PathShape folded = source;
+        for (PathSegment& segment : folded.segments)
+            segment = transformed(segment, foldMatrix(axes, result.sector));
+        for (int sample = 0; sample < 8; ++sample) {
+            const Point point = random.point(originOf(axes), size);
+            const Winding whole = windingAround(rosette, point);
+            const Winding part = windingAround({&folded, 1}, foldIntoSector0(axes, point));
+            if (std::min(whole.nearest, part.nearest) < size / 50.0)
+                continue; // the polygons that stand for the curves may pass on the other side
+            ++compared;
+            REQUIRE(std::abs(whole.turns - part.turns) < 0.01);
+        }
+    }
+    CHECK(compared > 1500);
+}
+
+TEST_CASE("a rosette is invariant under every reflection and has no doubled anchors") {
+    Random random;
+    for (int i = 0; i < 300; ++i) {
+        CAPTURE(i);
+        SymmetryAxes axes = random.axes();
+        axes.axisCount = random.integer(1, 12);
+        const PathShape source = random.path(axes, random.coin(), random.size());
+        PathMirror mirror(axes, kSnapDistance);
+        std::vector<Point> anchors;
+        for (const PathShape& shape : rosetteOf(axes, mirror.mirror(source))) {
+            for (std::size_t k = 0; k < curveCount(shape); ++k)
+                REQUIRE(distance(curveAt(shape, k).p0, curveAt(shape, k).p3) > 0.0);
+            for (const PathSegment& segment : shape.segments)
+                anchors.push_back(segment.anchor);
+        }
+        const Matrix reflection = rayReflection(axes, random.integer(0, sectorCount(axes) - 1));
+        for (const Point anchor : anchors) {
+            const Point image = apply(reflection, anchor);
+            REQUIRE(std::ranges::any_of(
+                anchors, [&](Point other) { return distance(other, image) < 0.01; }));
+        }
+    }
+}
+
+TEST_CASE("no end within the snapping distance stays open") {
+    Random random;
+    int ends = 0;
+    while (ends < 10000) {
+        CAPTURE(ends);
+        const SymmetryAxes axes = random.axes();
+        // From deep in sector 0 to beside one of its rays; near the origin the sector is narrow.
+        const double radius = random.real(200.0, 1500.0);
+        const bool first = random.coin();
+        const double rayDirection = rayAngle(axes, first ? 0 : sectorCount(axes) - 1);
+        const double inwards = first ? 1.0 : -1.0;
+        const double depth = random.real(-1.0, 1.0) * 0.999 * kSnapDistance;
+        const Point middle = originOf(axes) + 2000.0 * direction(axes.angle + halfStep(axes) / 2.0);
+        const Vector along = direction(rayDirection);
+        const Point end = rounded(originOf(axes) + radius * along +
+                                  (depth * inwards) * Vector{-along.y, along.x});
+        PathShape source{{{rounded(middle), rounded(middle), rounded(middle)}, {end, end, end}}};
+        if (random.coin()) std::ranges::reverse(source.segments);
+        PathMirror mirror(axes, kSnapDistance);
+        const MirroredPath result = mirror.mirror(source);
+        REQUIRE(result.contours.size() == 1);
+        REQUIRE(result.contours[0].images == Images::Rotations);
+        REQUIRE(result.contours[0].shape.segments.size() == 3);
+        ++ends;
+    }
+}
+
+TEST_CASE("time grows with the number of segments, not its square") {
+    const SymmetryAxes axes{.angle = 0.1, .axisCount = 12};
+    const auto secondsFor = [&](int anchors) {
+        PathShape star{{}, true}; // crosses every axis many times
+        for (int i = 0; i < anchors; ++i) {
+            const Point anchor =
+                rounded(Point{} + (i % 2 == 0 ? 300.0 : 100.0) * direction(i * 0.7));
+            star.segments.push_back({anchor, anchor, anchor});
+        }
+        PathMirror mirror(axes, kSnapDistance);
+        const auto start = std::chrono::steady_clock::now();
+        const MirroredPath& result = mirror.mirror(star);
+        const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
+        REQUIRE(result.contours.size() > 1);
+        return elapsed.count();
+    };
+    CHECK(secondsFor(30000) < 40.0 * std::max(secondsFor(3000), 0.001));
 }

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <set>
+#include <string>
 
 using namespace facetta;
 using facetta::tests::kAxisCounts;
@@ -44,7 +45,7 @@ TEST_CASE("rays are numbered clockwise from the first axis") {
 
 TEST_CASE("sectors are numbered counter-clockwise from the first axis") {
     struct Row {
-        const char* where;
+        std::string where;
         int axisCount;
         double angle;
         Point point;

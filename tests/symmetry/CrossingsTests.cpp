@@ -1,0 +1,108 @@
+#include "symmetry/Crossings.h"
+
+#include "symmetry/Tolerances.h"
+#include "tests/symmetry/PathText.h"
+#include "tests/symmetry/RandomPaths.h"
+
+#include <doctest/doctest.h>
+
+#include <string>
+#include <vector>
+
+using namespace facetta;
+using facetta::tests::Random;
+using facetta::tests::shapeOf;
+
+namespace {
+
+std::vector<Contact> cutsOf(int axisCount, const PathShape& path) {
+    ContactFinder finder{Wedge({.axisCount = axisCount})};
+    finder.examine(path);
+    std::vector<Contact> cuts;
+    for (const Contact& contact : finder.contacts())
+        if (contact.cuts()) cuts.push_back(contact);
+    return cuts;
+}
+
+} // namespace
+
+TEST_CASE("a path is cut where it crosses a ray, and only there") {
+    struct Row {
+        std::string what;
+        int axisCount;
+        std::string path;
+        std::vector<double> positions; // of the cuts: segment index plus parameter
+    };
+    const Row rows[] = {
+        {"a straight crossing", 1, "M 0 50 L 0 -50", {0.5}},
+        {"behind the origin there is no ray", 2, "M -50 50 L -50 -50", {}},
+        {"both rays", 2, "M -50 50 L 50 -50", {}}, // through the origin, never inside
+        {"both rays, one after the other",
+         2,
+         "M -10 30 L 30 -10",
+         {0.5 - 0.173648, 0.5 + 0.173648}},
+        {"three times by one curve",
+         1,
+         "M -90 -10 C -30 50 30 -50 90 10",
+         {0.066987, 0.5, 0.933013}},
+        {"touching from inside", 1, "M -40 40 C -10 -13.3333 10 -13.3333 40 40", {}},
+        {"touching from outside", 1, "M -40 -40 C -10 13.3333 10 13.3333 40 -40", {}},
+        {"through an anchor", 1, "M 0 50 L 10 0 L 20 -50", {1.0}},
+        {"through an anchor off the axis by rounding", 1, "M 0 50 L 10 0.004 L 20 -50", {1.0}},
+        {"through an anchor farther off", 1, "M 0 50 L 10 0.1 L 10 -50", {1.026}},
+        {"touching with a tip", 1, "M -1 50 L 0 -0.03 L 1 50", {}},
+        {"a tip that is drawn across", 1, "M -50 50 L 0 -50 L 50 50", {0.5, 1.5}},
+        {"a needle drawn across", 1, "M -0.002 50 L 0 -50 L 0.002 50", {0.5, 1.5}},
+        {"a doubled anchor on the ray", 1, "M 0 50 L 10 0 L 10 0 L 20 -50", {1.0}},
+    };
+    for (const auto& [what, axisCount, path, positions] : rows) {
+        INFO(what);
+        const std::vector<Contact> cuts = cutsOf(axisCount, shapeOf(path));
+        REQUIRE(cuts.size() == positions.size());
+        for (std::size_t i = 0; i < positions.size(); ++i)
+            CHECK(cuts[i].first.position() == doctest::Approx(positions[i]).epsilon(1e-3));
+    }
+}
+
+TEST_CASE("a place on both rays is the origin; beside it the nearer ray has it") {
+    const Wedge narrow({.axisCount = 72});
+    CHECK(narrow.rayAt({0.001, -0.001}) == Ray::Origin);
+    CHECK(narrow.rayAt({0.1, 0.0}) == Ray::First);
+    CHECK(narrow.rayAt(Point{} + 0.1 * direction(kPi / 72.0)) == Ray::Last);
+    CHECK(narrow.rayAt({-0.1, 0.0}) == Ray::None);
+    const Wedge halfPlane({.axisCount = 1});
+    CHECK(halfPlane.rayAt({-5.0, 0.0}) == Ray::Last);
+    CHECK(halfPlane.rayAt({5.0, 0.0}) == Ray::First);
+}
+
+TEST_CASE("crossings are sorted, storable, on their ray and on the path") {
+    Random random;
+    int cutsSeen = 0;
+    for (int i = 0; i < 4000; ++i) {
+        CAPTURE(i);
+        const SymmetryAxes axes = random.axes();
+        const Wedge wedge(axes);
+        const PathShape path = random.path(axes, random.coin(), random.size());
+        ContactFinder finder(wedge);
+        finder.examine(path);
+        Side before = finder.contacts().empty() ? Side::Nowhere : finder.contacts()[0].before;
+        for (const Contact& contact : finder.contacts()) {
+            REQUIRE(contact.before == before);
+            before = contact.after;
+            for (const Crossing& crossing : {contact.first, contact.last}) {
+                ++cutsSeen;
+                REQUIRE(crossing.ray != Ray::None);
+                REQUIRE(distance(wedge.onto(crossing.ray, crossing.point), crossing.point) <
+                        kOnAxisDistance);
+                REQUIRE(rounded(crossing.point) == crossing.point);
+                const auto index = static_cast<std::size_t>(crossing.segment);
+                const Point onPath = crossing.onAnchor
+                                         ? path.segments[index].anchor
+                                         : evaluate(curveAt(path, index), crossing.parameter);
+                REQUIRE(distance(onPath, crossing.point) < kOnAxisDistance);
+            }
+            REQUIRE((contact.first.position() <= contact.last.position() || path.closed));
+        }
+    }
+    CHECK(cutsSeen > 4000);
+}
