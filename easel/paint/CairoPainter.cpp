@@ -1,0 +1,254 @@
+#include "easel/paint/CairoPainter.h"
+
+#include "easel/paint/Gradient.h"
+#include "easel/paint/Picture.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+namespace easel::paint {
+namespace {
+
+template <auto Free> struct Freed {
+    template <typename T> void operator()(T* object) const { Free(object); }
+};
+using Surface = std::unique_ptr<cairo_surface_t, Freed<cairo_surface_destroy>>;
+using Context = std::unique_ptr<cairo_t, Freed<cairo_destroy>>;
+using Pattern = std::unique_ptr<cairo_pattern_t, Freed<cairo_pattern_destroy>>;
+
+cairo_matrix_t cairoMatrix(const Matrix& m) { return {m.a, m.b, m.c, m.d, m.e, m.f}; }
+
+cairo_fill_rule_t cairoRule(FillRule rule) {
+    return rule == FillRule::EvenOdd ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING;
+}
+
+constexpr cairo_line_cap_t kCaps[] = {CAIRO_LINE_CAP_BUTT, CAIRO_LINE_CAP_ROUND,
+                                      CAIRO_LINE_CAP_SQUARE};
+constexpr cairo_line_join_t kJoins[] = {CAIRO_LINE_JOIN_MITER, CAIRO_LINE_JOIN_ROUND,
+                                        CAIRO_LINE_JOIN_BEVEL};
+constexpr cairo_extend_t kSpreads[] = {CAIRO_EXTEND_PAD, CAIRO_EXTEND_REFLECT, CAIRO_EXTEND_REPEAT};
+
+Pattern gradientPattern(const svg::GradientContent& gradient, const Matrix& back, double alpha) {
+    const Point& start = gradient.start;
+    const Point& end = gradient.end;
+    Pattern pattern{
+        gradient.kind == svg::GradientContent::Kind::Linear
+            ? cairo_pattern_create_linear(start.x, start.y, end.x, end.y)
+            : cairo_pattern_create_radial(start.x, start.y, 0, end.x, end.y, gradient.radius)};
+    for (const svg::GradientStop& stop : gradient.stops)
+        cairo_pattern_add_color_stop_rgba(pattern.get(), stop.offset, stop.colour.red,
+                                          stop.colour.green, stop.colour.blue,
+                                          stop.colour.alpha * alpha);
+    const cairo_matrix_t matrix = cairoMatrix(back);
+    cairo_pattern_set_matrix(pattern.get(), &matrix);
+    cairo_pattern_set_extend(pattern.get(), kSpreads[static_cast<std::size_t>(gradient.spread)]);
+    return pattern;
+}
+
+struct Bytes {
+    std::span<const std::byte> rest;
+};
+
+cairo_status_t readBytes(void* source, unsigned char* data, unsigned int length) {
+    Bytes& bytes = *static_cast<Bytes*>(source);
+    if (bytes.rest.size() < length) return CAIRO_STATUS_READ_ERROR;
+    std::memcpy(data, bytes.rest.data(), length);
+    bytes.rest = bytes.rest.subspan(length);
+    return CAIRO_STATUS_SUCCESS;
+}
+
+/// Null when it is no PNG.
+Surface decodedPng(std::span<const std::byte> png) {
+    Bytes bytes{png};
+    Surface surface{cairo_image_surface_create_from_png_stream(readBytes, &bytes)};
+    if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS) return nullptr;
+    return surface;
+}
+
+/// Cairo keeps colours multiplied by alpha, in one native word a pixel.
+void unpack(const cairo_surface_t* surface, Picture& picture) {
+    auto* const image = const_cast<cairo_surface_t*>(surface); // Cairo's readers ask for it
+    const unsigned char* const data = cairo_image_surface_get_data(image);
+    const int stride = cairo_image_surface_get_stride(image);
+    std::size_t target = 0;
+    for (int y = 0; y < picture.height; ++y) {
+        for (int x = 0; x < picture.width; ++x) {
+            std::uint32_t word = 0;
+            std::memcpy(&word, data + static_cast<std::ptrdiff_t>(y) * stride + 4 * x, 4);
+            const std::uint32_t alpha = word >> 24;
+            for (const int shift : {16, 8, 0}) {
+                const std::uint32_t channel = word >> shift & 255;
+                const std::uint32_t plain = alpha == 0 ? 0 : (channel * 255 + alpha / 2) / alpha;
+                picture.pixels[target++] = static_cast<std::uint8_t>(std::min(plain, 255U));
+            }
+            picture.pixels[target++] = static_cast<std::uint8_t>(alpha);
+        }
+    }
+}
+
+void pack(const Picture& picture, cairo_surface_t* surface) {
+    cairo_surface_flush(surface);
+    unsigned char* const data = cairo_image_surface_get_data(surface);
+    const int stride = cairo_image_surface_get_stride(surface);
+    const std::uint8_t* source = picture.pixels.data();
+    for (int y = 0; y < picture.height; ++y) {
+        for (int x = 0; x < picture.width; ++x, source += 4) {
+            const std::uint32_t alpha = source[3];
+            const auto channel = [&](int i) { return (source[i] * alpha + 127) / 255; };
+            const std::uint32_t word =
+                alpha << 24 | channel(0) << 16 | channel(1) << 8 | channel(2);
+            std::memcpy(data + static_cast<std::ptrdiff_t>(y) * stride + 4 * x, &word, 4);
+        }
+    }
+    cairo_surface_mark_dirty(surface);
+}
+
+} // namespace
+
+void CairoPainter::save() { cairo_save(context_); }
+void CairoPainter::restore() { cairo_restore(context_); }
+
+/// A matrix that flattens the plane would put Cairo into an error that nothing ends; what is
+/// painted under it has no area and may as well be far away.
+void CairoPainter::transform(const Matrix& matrix) {
+    cairo_matrix_t change = cairoMatrix(matrix);
+    if (!svg::inverse(matrix)) change = {1, 0, 0, 1, 1e6, 1e6};
+    cairo_transform(context_, &change);
+}
+
+void CairoPainter::clip(const Outline& outline, FillRule rule) {
+    trace(outline);
+    cairo_set_fill_rule(context_, cairoRule(rule));
+    cairo_clip(context_);
+}
+
+void CairoPainter::fill(const Outline& outline, FillRule rule, const Ink& ink) {
+    trace(outline);
+    choose(ink);
+    cairo_set_fill_rule(context_, cairoRule(rule));
+    cairo_fill(context_);
+}
+
+void CairoPainter::stroke(const Outline& outline, const Pen& pen, const Ink& ink) {
+    trace(outline);
+    choose(ink);
+    cairo_set_line_width(context_, pen.width);
+    cairo_set_line_cap(context_, kCaps[static_cast<std::size_t>(pen.cap)]);
+    cairo_set_line_join(context_, kJoins[static_cast<std::size_t>(pen.join)]);
+    cairo_set_miter_limit(context_, pen.miterLimit);
+    cairo_set_dash(context_, pen.dashes.data(), static_cast<int>(pen.dashes.size()),
+                   pen.dashOffset);
+    cairo_stroke(context_);
+}
+
+void CairoPainter::beginGroup() { cairo_push_group(context_); }
+
+void CairoPainter::endGroup(double opacity) {
+    cairo_pop_group_to_source(context_);
+    cairo_paint_with_alpha(context_, opacity);
+}
+
+void CairoPainter::text(const std::string& text, const svg::Font& font, Point start,
+                        const Ink& ink) {
+    choose(font);
+    cairo_new_path(context_);
+    cairo_move_to(context_, start.x, start.y);
+    cairo_text_path(context_, text.c_str());
+    choose(ink);
+    cairo_set_fill_rule(context_, CAIRO_FILL_RULE_WINDING);
+    cairo_fill(context_);
+}
+
+double CairoPainter::textWidth(const std::string& text, const svg::Font& font) {
+    choose(font);
+    cairo_text_extents_t extents{};
+    cairo_text_extents(context_, text.c_str(), &extents);
+    return extents.x_advance;
+}
+
+void CairoPainter::image(std::span<const std::byte> png, Point corner, Point size) {
+    const Surface surface = decodedPng(png);
+    if (!surface) return;
+    const int width = cairo_image_surface_get_width(surface.get());
+    const int height = cairo_image_surface_get_height(surface.get());
+    if (width == 0 || height == 0) return;
+    save();
+    transform({size.x / width, 0, 0, size.y / height, corner.x, corner.y});
+    cairo_set_source_surface(context_, surface.get(), 0, 0);
+    cairo_rectangle(context_, 0, 0, width, height);
+    cairo_fill(context_);
+    restore();
+}
+
+Point CairoPainter::imageSize(std::span<const std::byte> png) {
+    const Surface surface = decodedPng(png);
+    if (!surface) return {};
+    return {static_cast<double>(cairo_image_surface_get_width(surface.get())),
+            static_cast<double>(cairo_image_surface_get_height(surface.get()))};
+}
+
+void CairoPainter::trace(const Outline& outline) {
+    cairo_new_path(context_);
+    const auto curve = [&](const svg::Anchor& from, const svg::Anchor& to) {
+        if (from.out == from.p && to.in == to.p)
+            cairo_line_to(context_, to.p.x, to.p.y);
+        else
+            cairo_curve_to(context_, from.out.x, from.out.y, to.in.x, to.in.y, to.p.x, to.p.y);
+    };
+    for (const svg::Subpath& subpath : outline) {
+        const auto& anchors = subpath.anchors;
+        if (anchors.empty()) continue;
+        cairo_move_to(context_, anchors.front().p.x, anchors.front().p.y);
+        for (std::size_t i = 1; i < anchors.size(); ++i)
+            curve(anchors[i - 1], anchors[i]);
+        if (!subpath.closed) continue;
+        curve(anchors.back(), anchors.front());
+        cairo_close_path(context_);
+    }
+}
+
+void CairoPainter::choose(const Ink& ink) {
+    const Colour& colour = ink.colour;
+    const auto plain = [&](const Colour& c, double alpha) {
+        cairo_set_source_rgba(context_, c.red, c.green, c.blue, alpha);
+    };
+    if (ink.gradient == nullptr) return plain(colour, colour.alpha);
+    const std::optional<Matrix> back = svg::inverse(ink.gradientMatrix);
+    if (const auto single = singleColour(*ink.gradient); single || !back) {
+        const Colour all = single.value_or(Colour{0, 0, 0, 0});
+        return plain(all, all.alpha * colour.alpha);
+    }
+    const Pattern pattern = gradientPattern(*ink.gradient, *back, colour.alpha);
+    cairo_set_source(context_, pattern.get());
+}
+
+void CairoPainter::choose(const svg::Font& font) {
+    cairo_select_font_face(context_, font.family.c_str(),
+                           font.italic ? CAIRO_FONT_SLANT_ITALIC : CAIRO_FONT_SLANT_NORMAL,
+                           font.bold ? CAIRO_FONT_WEIGHT_BOLD : CAIRO_FONT_WEIGHT_NORMAL);
+    cairo_set_font_size(context_, font.size);
+}
+
+Picture render(int width, int height, const std::function<void(Painter&)>& paint) {
+    checkPictureSize(width, height);
+    const Surface surface{cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height)};
+    const Context context{cairo_create(surface.get())};
+    CairoPainter painter{context.get()};
+    paint(painter);
+    cairo_surface_flush(surface.get());
+    Picture picture{width, height, {}};
+    picture.pixels.resize(4 * static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    unpack(surface.get(), picture);
+    return picture;
+}
+
+bool writePng(const Picture& picture, const std::filesystem::path& file) {
+    const Surface surface{
+        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, picture.width, picture.height)};
+    if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS) return false;
+    pack(picture, surface.get());
+    return cairo_surface_write_to_png(surface.get(), file.c_str()) == CAIRO_STATUS_SUCCESS;
+}
+
+} // namespace easel::paint

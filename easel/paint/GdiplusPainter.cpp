@@ -1,0 +1,373 @@
+#include "easel/paint/GdiplusPainter.h"
+
+#include "easel/paint/Gradient.h"
+#include "easel/paint/Picture.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+namespace easel::paint {
+namespace {
+
+/// A part of a picture is painted at once when its samples are no more than this.
+constexpr std::int64_t kMostSamples = 32'000'000;
+
+/// Coordinates beyond this overflow in GDI+, which counts in single precision and whole numbers.
+constexpr double kFarthest = 1e7;
+
+constexpr Gdiplus::LineCap kCaps[] = {Gdiplus::LineCapFlat, Gdiplus::LineCapRound,
+                                      Gdiplus::LineCapSquare};
+constexpr Gdiplus::DashCap kDashCaps[] = {Gdiplus::DashCapFlat, Gdiplus::DashCapRound,
+                                          Gdiplus::DashCapFlat};
+constexpr Gdiplus::LineJoin kJoins[] = {Gdiplus::LineJoinMiterClipped, Gdiplus::LineJoinRound,
+                                        Gdiplus::LineJoinBevel};
+
+/// Keeps GDI+ running while a picture is made.
+class Running {
+public:
+    Running() {
+        const Gdiplus::GdiplusStartupInput input;
+        Gdiplus::GdiplusStartup(&token_, &input, nullptr);
+    }
+    ~Running() { Gdiplus::GdiplusShutdown(token_); }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+
+private:
+    ULONG_PTR token_ = 0;
+};
+
+Gdiplus::PointF pointF(Point point) {
+    return {static_cast<float>(std::clamp(point.x, -kFarthest, kFarthest)),
+            static_cast<float>(std::clamp(point.y, -kFarthest, kFarthest))};
+}
+
+std::wstring wide(const std::string& text) {
+    const int length =
+        MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
+    std::wstring result(static_cast<std::size_t>(length), L'\0');
+    MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result.data(),
+                        length);
+    return result;
+}
+
+std::unique_ptr<Gdiplus::FontFamily> familyOf(const svg::Font& font) {
+    auto family = std::make_unique<Gdiplus::FontFamily>(wide(font.family).c_str());
+    if (family->IsAvailable()) return family;
+    const bool serif = font.family == "serif" || font.family.find("Times") != std::string::npos;
+    return std::unique_ptr<Gdiplus::FontFamily>(
+        (serif ? Gdiplus::FontFamily::GenericSerif() : Gdiplus::FontFamily::GenericSansSerif())
+            ->Clone());
+}
+
+INT styleOf(const svg::Font& font) {
+    return (font.bold ? Gdiplus::FontStyleBold : 0) | (font.italic ? Gdiplus::FontStyleItalic : 0);
+}
+
+/// Null when it is no picture.
+std::unique_ptr<Gdiplus::Bitmap> decodedPng(std::span<const std::byte> png) {
+    if (png.empty()) return nullptr;
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, png.size());
+    if (memory == nullptr) return nullptr;
+    std::copy(png.begin(), png.end(), static_cast<std::byte*>(GlobalLock(memory)));
+    GlobalUnlock(memory);
+    IStream* stream = nullptr;
+    if (CreateStreamOnHGlobal(memory, /*delete with the stream*/ TRUE, &stream) != S_OK) {
+        GlobalFree(memory);
+        return nullptr;
+    }
+    auto bitmap = std::make_unique<Gdiplus::Bitmap>(stream);
+    stream->Release();
+    return bitmap->GetLastStatus() == Gdiplus::Ok ? std::move(bitmap) : nullptr;
+}
+
+std::uint32_t premultiplied(const Colour& colour, double alpha) {
+    const double whole = std::clamp(colour.alpha * alpha, 0.0, 1.0);
+    const auto byte = [](double value) {
+        return static_cast<std::uint32_t>(std::lround(std::clamp(value, 0.0, 1.0) * 255.0));
+    };
+    return byte(whole) << 24 | byte(colour.red * whole) << 16 | byte(colour.green * whole) << 8 |
+           byte(colour.blue * whole);
+}
+
+/// `over`, made `part` / 255 as strong, over `under`; both multiplied by alpha.
+std::uint32_t composed(std::uint32_t under, std::uint32_t over, std::uint32_t part) {
+    const auto scaled = [](std::uint32_t value, std::uint32_t by) {
+        return (value * by + 127) / 255;
+    };
+    const std::uint32_t rest = 255 - scaled(over >> 24, part);
+    std::uint32_t result = 0;
+    for (const int shift : {24, 16, 8, 0}) {
+        const std::uint32_t sum =
+            scaled(over >> shift & 255, part) + scaled(under >> shift & 255, rest);
+        result |= std::min(sum, 255U) << shift;
+    }
+    return result;
+}
+
+} // namespace
+
+GdiplusPainter::Layer::Layer(int width, int height)
+    : samples(static_cast<std::size_t>(width) * static_cast<std::size_t>(height)),
+      bitmap(std::make_unique<Gdiplus::Bitmap>(width, height, 4 * width, PixelFormat32bppPARGB,
+                                               reinterpret_cast<BYTE*>(samples.data()))),
+      graphics(std::make_unique<Gdiplus::Graphics>(bitmap.get())) {
+    graphics->SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf); // samples at the pixels' middles
+    graphics->SetSmoothingMode(Gdiplus::SmoothingModeNone);
+    graphics->SetInterpolationMode(Gdiplus::InterpolationModeBilinear);
+}
+
+GdiplusPainter::GdiplusPainter(int width, int firstRow, int rows)
+    : width_(kSamples * width),
+      height_(kSamples * rows), matrix_{kSamples, 0, 0,
+                                        kSamples, 0, -static_cast<double>(kSamples) * firstRow} {
+    layers_.push_back(std::make_unique<Layer>(width_, height_));
+}
+
+void GdiplusPainter::save() {
+    State state{matrix_, std::make_unique<Gdiplus::Region>()};
+    graphics().GetClip(state.clip.get());
+    saved_.push_back(std::move(state));
+}
+
+void GdiplusPainter::restore() {
+    matrix_ = saved_.back().matrix;
+    graphics().SetClip(saved_.back().clip.get());
+    saved_.pop_back();
+}
+
+void GdiplusPainter::transform(const Matrix& matrix) { matrix_ = matrix_ * matrix; }
+
+void GdiplusPainter::clip(const Outline& outline, FillRule rule) {
+    graphics().SetClip(pathOf(outline, rule).get(), Gdiplus::CombineModeIntersect);
+}
+
+void GdiplusPainter::fill(const Outline& outline, FillRule rule, const Ink& ink) {
+    paint(*pathOf(outline, rule), nullptr, ink);
+}
+
+void GdiplusPainter::stroke(const Outline& outline, const Pen& pen, const Ink& ink) {
+    const double scale = svg::meanScale(matrix_);
+    const auto width = static_cast<float>(std::min(pen.width * scale, kFarthest));
+    Gdiplus::Pen line{Gdiplus::Color{}, width};
+    line.SetStartCap(kCaps[static_cast<std::size_t>(pen.cap)]);
+    line.SetEndCap(kCaps[static_cast<std::size_t>(pen.cap)]);
+    line.SetDashCap(kDashCaps[static_cast<std::size_t>(pen.cap)]);
+    line.SetLineJoin(kJoins[static_cast<std::size_t>(pen.join)]);
+    line.SetMiterLimit(static_cast<float>(pen.miterLimit));
+    if (!pen.dashes.empty() && pen.width > 0) { // GDI+ counts dashes in widths of the pen
+        std::vector<float> dashes;
+        for (const double dash : pen.dashes)
+            dashes.push_back(static_cast<float>(std::max(dash / pen.width, 1e-3)));
+        line.SetDashPattern(dashes.data(), static_cast<INT>(dashes.size()));
+        line.SetDashOffset(static_cast<float>(pen.dashOffset / pen.width));
+    }
+    paint(*pathOf(outline, FillRule::NonZero), &line, ink);
+}
+
+void GdiplusPainter::paint(const Gdiplus::GraphicsPath& path, const Gdiplus::Pen* pen,
+                           const Ink& ink) {
+    if (ink.gradient != nullptr) return paintGradient(path, pen, ink);
+    const auto byte = [](float value) {
+        return static_cast<BYTE>(std::lround(std::clamp(value, 0.0F, 1.0F) * 255.0F));
+    };
+    const Gdiplus::Color colour{byte(ink.colour.alpha), byte(ink.colour.red),
+                                byte(ink.colour.green), byte(ink.colour.blue)};
+    if (pen == nullptr) {
+        const Gdiplus::SolidBrush brush{colour};
+        graphics().FillPath(&brush, &path);
+        return;
+    }
+    const std::unique_ptr<Gdiplus::Pen> coloured{pen->Clone()};
+    coloured->SetColor(colour);
+    graphics().DrawPath(coloured.get(), &path);
+}
+
+/// The shape is painted white on a layer of its own; where it is, the gradient shows.
+void GdiplusPainter::paintGradient(const Gdiplus::GraphicsPath& path, const Gdiplus::Pen* pen,
+                                   const Ink& ink) {
+    const std::optional<Matrix> back = svg::inverse(matrix_ * ink.gradientMatrix);
+    const std::optional<Colour> single = singleColour(*ink.gradient);
+    if (single || !back) {
+        Ink plain{single.value_or(Colour{0, 0, 0, 0}), nullptr, {}};
+        plain.colour.alpha *= ink.colour.alpha;
+        return paint(path, pen, plain);
+    }
+    Gdiplus::RectF bounds;
+    path.GetBounds(&bounds, nullptr, nullptr);
+    const double grown = pen != nullptr ? pen->GetWidth() * (1 + pen->GetMiterLimit()) : 1.0;
+    const auto within = [](double value, int limit) {
+        return static_cast<int>(std::clamp(value, 0.0, static_cast<double>(limit)));
+    };
+    const int left = within(bounds.X - grown, width_);
+    const int top = within(bounds.Y - grown, height_);
+    const int right = within(bounds.X + bounds.Width + grown + 1, width_);
+    const int bottom = within(bounds.Y + bounds.Height + grown + 1, height_);
+    if (left >= right || top >= bottom) return;
+
+    std::vector<std::uint32_t>& target = layers_.back()->samples;
+    layers_.push_back(newLayer());
+    paint(path, pen, {{1, 1, 1, 1}, nullptr, {}});
+    graphics().Flush(Gdiplus::FlushIntentionSync);
+    const std::unique_ptr<Layer> mask = std::move(layers_.back());
+    layers_.pop_back();
+    for (int y = top; y < bottom; ++y) {
+        for (int x = left; x < right; ++x) {
+            const std::size_t at = static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
+                                   static_cast<std::size_t>(x);
+            const std::uint32_t part = mask->samples[at] >> 24;
+            if (part == 0) continue;
+            const Colour colour = colourAt(*ink.gradient, *back * Point{x + 0.5, y + 0.5});
+            target[at] = composed(target[at], premultiplied(colour, ink.colour.alpha), part);
+        }
+    }
+}
+
+std::unique_ptr<GdiplusPainter::Layer> GdiplusPainter::newLayer() {
+    auto layer = std::make_unique<Layer>(width_, height_);
+    Gdiplus::Region clip;
+    graphics().GetClip(&clip);
+    layer->graphics->SetClip(&clip);
+    return layer;
+}
+
+void GdiplusPainter::beginGroup() { layers_.push_back(newLayer()); }
+
+void GdiplusPainter::endGroup(double opacity) {
+    graphics().Flush(Gdiplus::FlushIntentionSync);
+    const std::unique_ptr<Layer> group = std::move(layers_.back());
+    layers_.pop_back();
+    const auto part = static_cast<std::uint32_t>(std::lround(std::clamp(opacity, 0.0, 1.0) * 255));
+    std::vector<std::uint32_t>& target = layers_.back()->samples;
+    for (std::size_t i = 0; i < target.size(); ++i)
+        if (group->samples[i] >> 24 != 0) target[i] = composed(target[i], group->samples[i], part);
+}
+
+/// Letters become outlines at the origin, which the coordinates then place: mirrored text is
+/// painted mirrored.
+void GdiplusPainter::text(const std::string& text, const svg::Font& font, Point start,
+                          const Ink& ink) {
+    const auto family = familyOf(font);
+    const INT style = styleOf(font);
+    const auto size = static_cast<float>(font.size);
+    const float ascent = size * static_cast<float>(family->GetCellAscent(style)) /
+                         static_cast<float>(family->GetEmHeight(style));
+    const std::wstring letters = wide(text);
+    Gdiplus::GraphicsPath path{Gdiplus::FillModeWinding};
+    path.AddString(letters.c_str(), static_cast<INT>(letters.size()), family.get(), style, size,
+                   Gdiplus::PointF{0, -ascent}, Gdiplus::StringFormat::GenericTypographic());
+    const Matrix m = matrix_ * Matrix{1, 0, 0, 1, start.x, start.y};
+    const Gdiplus::Matrix place{static_cast<float>(m.a), static_cast<float>(m.b),
+                                static_cast<float>(m.c), static_cast<float>(m.d),
+                                static_cast<float>(m.e), static_cast<float>(m.f)};
+    path.Transform(&place);
+    paint(path, nullptr, ink);
+}
+
+double GdiplusPainter::textWidth(const std::string& text, const svg::Font& font) {
+    const auto family = familyOf(font);
+    const Gdiplus::Font measured{family.get(), static_cast<float>(font.size), styleOf(font),
+                                 Gdiplus::UnitPixel};
+    const std::wstring letters = wide(text);
+    Gdiplus::StringFormat format{Gdiplus::StringFormat::GenericTypographic()};
+    format.SetFormatFlags(format.GetFormatFlags() |
+                          Gdiplus::StringFormatFlagsMeasureTrailingSpaces);
+    Gdiplus::RectF bounds;
+    graphics().MeasureString(letters.c_str(), static_cast<INT>(letters.size()), &measured,
+                             Gdiplus::PointF{0, 0}, &format, &bounds);
+    return static_cast<double>(bounds.Width);
+}
+
+void GdiplusPainter::image(std::span<const std::byte> png, Point corner, Point size) {
+    const auto bitmap = decodedPng(png);
+    if (!bitmap) return;
+    const Gdiplus::PointF corners[] = {pointF(matrix_ * corner),
+                                       pointF(matrix_ * Point{corner.x + size.x, corner.y}),
+                                       pointF(matrix_ * Point{corner.x, corner.y + size.y})};
+    graphics().DrawImage(bitmap.get(), corners, 3);
+}
+
+Point GdiplusPainter::imageSize(std::span<const std::byte> png) {
+    const auto bitmap = decodedPng(png);
+    if (!bitmap) return {};
+    return {static_cast<double>(bitmap->GetWidth()), static_cast<double>(bitmap->GetHeight())};
+}
+
+std::unique_ptr<Gdiplus::GraphicsPath> GdiplusPainter::pathOf(const Outline& outline,
+                                                              FillRule rule) const {
+    auto path = std::make_unique<Gdiplus::GraphicsPath>(
+        rule == FillRule::EvenOdd ? Gdiplus::FillModeAlternate : Gdiplus::FillModeWinding);
+    std::vector<Gdiplus::PointF> points;
+    for (const svg::Subpath& subpath : outline) {
+        const auto& anchors = subpath.anchors;
+        if (anchors.size() < 2 && !subpath.closed) continue;
+        points.assign(1, pointF(matrix_ * anchors.front().p));
+        const std::size_t pieces = anchors.size() - (subpath.closed ? 0 : 1);
+        for (std::size_t i = 0; i < pieces; ++i) {
+            const svg::Anchor& to = anchors[(i + 1) % anchors.size()];
+            points.push_back(pointF(matrix_ * anchors[i].out));
+            points.push_back(pointF(matrix_ * to.in));
+            points.push_back(pointF(matrix_ * to.p));
+        }
+        path->StartFigure();
+        path->AddBeziers(points.data(), static_cast<INT>(points.size()));
+        if (subpath.closed) path->CloseFigure();
+    }
+    return path;
+}
+
+void GdiplusPainter::readRows(std::uint8_t* target) const {
+    layers_.front()->graphics->Flush(Gdiplus::FlushIntentionSync);
+    const std::uint32_t* const samples = layers_.front()->samples.data();
+    constexpr std::uint32_t kCount = kSamples * kSamples;
+    for (int y = 0; y < height_; y += kSamples) {
+        for (int x = 0; x < width_; x += kSamples) {
+            std::uint32_t sums[4] = {};
+            for (int row = y; row < y + kSamples; ++row)
+                for (int column = x; column < x + kSamples; ++column) {
+                    const std::uint32_t sample =
+                        samples[static_cast<std::ptrdiff_t>(row) * width_ + column];
+                    for (std::size_t i = 0; i < 4; ++i)
+                        sums[i] += sample >> (24 - 8 * i) & 255;
+                }
+            const std::uint32_t alpha = sums[0];
+            for (std::size_t i = 1; i < 4; ++i)
+                *target++ = static_cast<std::uint8_t>(
+                    alpha == 0 ? 0 : std::min(255U, (sums[i] * 255 + alpha / 2) / alpha));
+            *target++ = static_cast<std::uint8_t>((alpha + kCount / 2) / kCount);
+        }
+    }
+}
+
+Picture render(int width, int height, const std::function<void(Painter&)>& paint) {
+    checkPictureSize(width, height);
+    const Running running;
+    Picture picture{width, height, {}};
+    const auto stride = 4 * static_cast<std::size_t>(width);
+    picture.pixels.resize(stride * static_cast<std::size_t>(height));
+    const std::int64_t samplesPerRow =
+        std::int64_t{GdiplusPainter::kSamples} * GdiplusPainter::kSamples * width;
+    const int rowsAtOnce =
+        static_cast<int>(std::max<std::int64_t>(1, kMostSamples / samplesPerRow));
+    for (int row = 0; row < height; row += rowsAtOnce) {
+        GdiplusPainter painter{width, row, std::min(rowsAtOnce, height - row)};
+        paint(painter);
+        painter.readRows(picture.pixels.data() + stride * static_cast<std::size_t>(row));
+    }
+    return picture;
+}
+
+bool writePng(const Picture& picture, const std::filesystem::path& file) {
+    const Running running;
+    std::vector<std::uint8_t> swapped = picture.pixels; // GDI+ has blue first
+    for (std::size_t i = 0; i + 3 < swapped.size(); i += 4)
+        std::swap(swapped[i], swapped[i + 2]);
+    Gdiplus::Bitmap bitmap{picture.width, picture.height, 4 * picture.width, PixelFormat32bppARGB,
+                           swapped.data()};
+    constexpr CLSID kPngEncoder{
+        0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
+    return bitmap.Save(file.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
+}
+
+} // namespace easel::paint

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "easel/paint/Painter.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <vector>
+
+namespace easel::paint {
+
+/// Pixels in rows from the top; four bytes each: red, green, blue, and alpha by which the others
+/// are not multiplied.
+struct Picture {
+    int width = 0;
+    int height = 0;
+    std::vector<std::uint8_t> pixels;
+
+    [[nodiscard]] Colour at(int x, int y) const;
+};
+
+/// The longest side of a picture, and the most pixels.
+constexpr int kLongestSide = 30'000;
+constexpr std::int64_t kMostPixels = 200'000'000;
+
+/// A picture that `paint` paints, transparent at first; edges are smoothed. `paint` may be called
+/// several times, each time for a part of the picture, and must then paint the same. Throws
+/// std::length_error when the size is beyond the limits or not positive.
+[[nodiscard]] Picture render(int width, int height, const std::function<void(Painter&)>& paint);
+
+/// False when the file cannot be written.
+[[nodiscard]] bool writePng(const Picture& picture, const std::filesystem::path& file);
+
+/// Throws std::length_error.
+void checkPictureSize(int width, int height);
+
+} // namespace easel::paint
