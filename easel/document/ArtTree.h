@@ -43,6 +43,9 @@ void freeTree(Art& root);
 [[nodiscard]] Art* nextSkippingChildren(const Art& art, const Art& root) noexcept;
 [[nodiscard]] bool isInside(const Art& art, const Art& ancestor) noexcept;
 
+/// Of two objects of one document, neither inside the other: is `a` painted over `b`?
+[[nodiscard]] bool isInFrontOf(const Art& a, const Art& b) noexcept;
+
 /// Holds children of its own: groups, compound paths and plug-in groups.
 [[nodiscard]] bool isContainer(const Art& art) noexcept;
 /// Both null unless `art` is a plug-in group.
@@ -50,6 +53,10 @@ void freeTree(Art& root);
 [[nodiscard]] Art* resultArt(const Art& art) noexcept;
 /// Is `art` in the result art of a plug-in group, which is painted but neither selected nor edited?
 [[nodiscard]] bool isResultGroup(const Art& art) noexcept;
+
+/// The object whose style paints `art`: the outermost compound path around it, or itself.
+[[nodiscard]] const Art& styleCarrier(const Art& art) noexcept;
+[[nodiscard]] Art& styleCarrier(Art& art) noexcept;
 
 /// The innermost layer's group that holds `art`, itself included; null when it is on none.
 [[nodiscard]] Art* layerOf(const Art& art) noexcept;

@@ -44,14 +44,6 @@ CurvePoint through(const AIRealMatrix& m, AIRealPoint point) {
     return {m.a * x + m.c * y + m.tx, m.b * x + m.d * y + m.ty};
 }
 
-/// A member of a compound path is painted with the style of the compound.
-const ArtStyle& paintedStyle(const Art& art) {
-    const Art* painted = &art;
-    while (painted->parent() != nullptr && painted->parent()->type() == kCompoundPathArt)
-        painted = painted->parent();
-    return painted->style();
-}
-
 class BoundsWalk {
 public:
     BoundsWalk(ai::int32 flags, const AIRealMatrix& matrix) : flags_(flags), matrix_(matrix) {}
@@ -59,7 +51,7 @@ public:
     [[nodiscard]] bool leavesOut(const Art& art) const {
         if (asks(kExcludeHiddenBounds) && art.has(kArtHidden)) return true;
         if (art.type() != kPathArt) return false;
-        const AIPathStyle& style = paintedStyle(art).path;
+        const AIPathStyle& style = styleCarrier(art).style().path;
         const bool unpainted = style.fillPaint == 0 && style.strokePaint == 0;
         return (art.content().guide && asks(kExcludeGuideBounds)) ||
                (unpainted && asks(kExcludeUnpaintedObjectBounds));
@@ -80,7 +72,7 @@ private:
     [[nodiscard]] double margin(const Art& path) const {
         if (asks(kNoStrokeBounds | kNoExtendedBounds | kControlBounds) || path.content().guide)
             return 0;
-        const AIPathStyle& style = paintedStyle(path).path;
+        const AIPathStyle& style = styleCarrier(path).style().path;
         return style.strokePaint != 0 ? style.stroke.width / 2.0 : 0;
     }
 

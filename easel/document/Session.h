@@ -5,7 +5,7 @@
 #include "easel/document/MessageLoans.h"
 #include "easel/document/Switches.h"
 
-#include <string>
+#include <unordered_map>
 
 namespace easel {
 
@@ -23,6 +23,8 @@ struct Session {
     /// Set by the current context: changes under locked or hidden parents are allowed.
     bool allowAllChanges = false;
     MessageLoans messageLoans;
+    /// The handles of dictionary keys; they live as long as the host.
+    std::unordered_map<Key, void*> keyHandles;
 };
 
 [[nodiscard]] Session& session() noexcept;

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "easel/document/Art.h"
+#include "easel/document/Bezier.h"
+
+namespace easel {
+
+/// Curves of a path: one less than anchors when it is open, as many when it is closed; none for a
+/// single anchor.
+[[nodiscard]] std::size_t curveCount(const Art& path) noexcept;
+/// The curve that starts at anchor `index`; at the last anchor of an open path four equal points.
+[[nodiscard]] Curve curveFrom(const Art& path, std::size_t index) noexcept;
+/// What the path encloses, its ends joined by a straight line: positive counter-clockwise, y up.
+[[nodiscard]] double signedArea(const Art& path) noexcept;
+[[nodiscard]] double pathLength(const Art& path) noexcept;
+
+} // namespace easel

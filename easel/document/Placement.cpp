@@ -1,0 +1,109 @@
+#include "easel/document/Placement.h"
+
+#include "easel/document/Attributes.h"
+#include "easel/document/Layers.h"
+#include "easel/document/Session.h"
+#include "host/Error.h"
+
+namespace easel {
+namespace {
+
+Art& referenceOf(Art* reference) {
+    if (reference == nullptr) throw ai::Error{kBadParameterErr};
+    return *reference;
+}
+
+Art& neighbour(Art* reference) {
+    Art& art = referenceOf(reference);
+    const Art* parent = art.parent();
+    const bool isFixed =
+        parent == nullptr || parent->parent() == nullptr || parent->type() == kPluginArt;
+    if (isFixed) throw ai::Error{kUntouchableArtObjectErr};
+    return art;
+}
+
+bool canHoldArt(const Art& art) {
+    return art.type() == kGroupArt || art.type() == kCompoundPathArt;
+}
+
+Art& container(Art* reference) {
+    Art& art = referenceOf(reference);
+    if (!canHoldArt(art)) throw ai::Error{kBadParameterErr};
+    return art;
+}
+
+Art& outermostLayer(Art* layer) {
+    if (layer == nullptr) throw ai::Error{kNoDocumentErr};
+    return *layer;
+}
+
+Position defaultPlace(const Document& document) {
+    const auto [art, order] = insertionPoint(document);
+    return order == kPlaceInsideOnTop ? onTopOf(*art) : inFrontOf(*art);
+}
+
+bool isInCompound(const Art& art) {
+    const Art* up = &art;
+    while (up != nullptr && up->type() != kCompoundPathArt)
+        up = up->parent();
+    return up != nullptr;
+}
+
+bool mayBeInCompound(ai::int16 type) {
+    return type == kPathArt || type == kCompoundPathArt || type == kGroupArt;
+}
+
+} // namespace
+
+Position placeFor(ai::int16 order, Art* reference) {
+    switch (order) {
+    case kPlaceDefault:
+        return defaultPlace(currentDocument());
+    case kPlaceAbove:
+        return inFrontOf(neighbour(reference));
+    case kPlaceBelow:
+        return behind(neighbour(reference));
+    case kPlaceInsideOnTop:
+        return onTopOf(container(reference));
+    case kPlaceInsideOnBottom:
+        return atBottomOf(container(reference));
+    case kPlaceAboveAll:
+        return onTopOf(outermostLayer(layerFrom(currentDocument().root().firstChild())));
+    case kPlaceBelowAll:
+        return atBottomOf(outermostLayer(layerBackwardFrom(currentDocument().root().lastChild())));
+    default:
+        throw ai::Error{kUnknownPaintOrderTypeErr};
+    }
+}
+
+void checkPlace(const Position& place, ai::int16 type) {
+    if (isInCompound(*place.parent) && !mayBeInCompound(type))
+        throw ai::Error{kInvalidArtTypeForDestErr};
+    checkOpen(*place.parent);
+}
+
+void checkPlace(const Position& place, const Art& art) {
+    if (isInside(*place.parent, art)) throw ai::Error{kBadParameterErr};
+    for (const Art* each = &art; each != nullptr; each = nextInPreorder(*each, art))
+        if (isInCompound(*place.parent) && !mayBeInCompound(each->type()))
+            throw ai::Error{kInvalidArtTypeForDestErr};
+    checkOpen(*place.parent);
+}
+
+InsertionPoint insertionPoint(const Document& document) {
+    Art* chosen = findArt(document.state().insertionPoint);
+    if (chosen == nullptr) chosen = document.state().currentLayer;
+    if (chosen == nullptr) throw ai::Error{kNoDocumentErr};
+    return {chosen, chosen->type() == kGroupArt ? kPlaceInsideOnTop : kPlaceAbove};
+}
+
+void setInsertionPoint(Art& art) {
+    Art* chosen = &art;
+    for (Art* up = &art; up != nullptr; up = up->parent())
+        if (up->type() == kPluginArt || up->type() == kCompoundPathArt) chosen = up;
+    Document& document = art.document();
+    if (Art* layer = layerOf(*chosen)) setCurrentLayer(document, *layer);
+    document.writeState().insertionPoint = chosen->handle();
+}
+
+} // namespace easel

@@ -1,0 +1,16 @@
+#include "easel/suites/DocumentSuites.h"
+
+#include <initializer_list>
+
+namespace easel {
+
+void installDocumentSuites(SuiteServer& server) {
+    for (const auto install :
+         {installArtSuite, installArtSetSuite, installDictionarySuite, installEntrySuite,
+          installArraySuite, installCountedObjectSuite, installLayerSuite, installPathSuite,
+          installPathStyleSuite, installGroupSuite, installPluginGroupSuite,
+          installTransformArtSuite, installHardSoftSuite, installUndoSuite})
+        install(server);
+}
+
+} // namespace easel

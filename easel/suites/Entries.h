@@ -1,0 +1,45 @@
+#pragma once
+
+#include "easel/document/Dictionary.h"
+#include "host/Handles.h"
+
+/// What the dictionary, array and entry suites share: values as counted entries, and reading a
+/// value as one type.
+
+namespace easel {
+
+/// A value in the plug-in's hands.
+class EntryObjectBody final : public Counted {
+public:
+    explicit EntryObjectBody(Value content) noexcept
+        : Counted(HandleKind::Entry, Lent::Entry), value(std::move(content)) {}
+    const Value value;
+};
+
+/// A new entry, lent to the plug-in.
+[[nodiscard]] AIEntryRef lendEntry(Value value);
+/// Null throws 'EnNS', a stale or invented one 'PARM'.
+[[nodiscard]] EntryObjectBody& entryOf(AIEntryRef entry);
+/// The value of an entry, whose reference ends.
+[[nodiscard]] Value consume(AIEntryRef entry);
+
+[[nodiscard]] Dictionary& dictionaryOf(ConstAIDictionaryRef dictionary);
+[[nodiscard]] Array& arrayOf(AIArrayRef array);
+[[nodiscard]] AIDictionaryRef lend(const Ref<Dictionary>& dictionary);
+[[nodiscard]] AIArrayRef lend(const Ref<Array>& array);
+
+[[noreturn]] void throwWrongEntryType();
+
+/// `value` as a `T`; throws the code of a wrong type.
+template <typename T> [[nodiscard]] const T& valueAs(const Value& value) {
+    const T* content = std::get_if<T>(&value);
+    if (content == nullptr) throwWrongEntryType();
+    return *content;
+}
+
+/// Copies bytes out: `size` is the room in `buffer` and becomes what there is. A null buffer only
+/// asks for the size. Throws 'PARM' when there is too little room.
+void copyBinary(const Binary& binary, void* buffer, std::size_t& size);
+[[nodiscard]] Value binaryValue(const void* bytes, std::size_t size);
+
+} // namespace easel
