@@ -30,6 +30,8 @@ public:
         if (--owners_ == 0) delete this;
     }
     [[nodiscard]] std::uint32_t owners() const noexcept { return owners_; }
+    /// References that the plug-in holds.
+    [[nodiscard]] std::uint32_t lent() const noexcept { return lent_; }
 
 protected:
     virtual ~Counted() = default;

@@ -116,6 +116,8 @@ public:
     void setModified(bool modified) noexcept { modified_ = modified; }
 
     std::filesystem::path path; ///< Empty: never saved.
+    /// Pixels per point in the view last zoomed: tolerances of hit tests are given in pixels.
+    AIReal viewZoom = 1;
     ai::int16 rulerUnits = kPointsUnits;
     ai::int16 colorModel = 1; ///< 0 gray, 1 RGB, 2 CMYK.
     /// What the reader of the drawing keeps of it.

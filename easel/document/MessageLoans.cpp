@@ -20,10 +20,15 @@ void MessageLoans::dictionaryCalled() noexcept {
     if (!fleeting_.empty()) std::fill(fleeting_.begin(), fleeting_.end() - 1, '?');
 }
 
+void MessageLoans::keep(Ref<Hit> hit) { hits_.push_back(std::move(hit)); }
+
 void MessageLoans::clear() {
     texts_.clear();
     fleeting_.clear();
-    objects_.clear();
+    for (const Ref<Hit>& hit : hits_)
+        while (hit->lent() > hit->added)
+            hit->takeBack();
+    hits_.clear();
 }
 
 } // namespace easel

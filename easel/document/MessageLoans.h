@@ -1,6 +1,6 @@
 #pragma once
 
-#include "easel/document/Value.h"
+#include "easel/document/HitTest.h"
 
 #include <vector>
 
@@ -15,13 +15,14 @@ public:
     [[nodiscard]] const char* characters(SharedText text);
     /// A dictionary function is running: overwrites the last characters when they are not to last.
     void dictionaryCalled() noexcept;
-    void keep(Ref<Counted> object) { objects_.push_back(std::move(object)); }
+    /// The hit loses the reference it was made with, unless the plug-in has released it.
+    void keep(Ref<Hit> hit);
     void clear();
 
 private:
     std::vector<SharedText> texts_;
     std::vector<char> fleeting_;
-    std::vector<Ref<Counted>> objects_;
+    std::vector<Ref<Hit>> hits_;
 };
 
 } // namespace easel

@@ -1,4 +1,5 @@
 #include "easel/runtime/Host.h"
+#include "easel/suites/DocumentSuites.h"
 #include "easel/suites/RuntimeSuites.h"
 #include "easel/suites/SuiteServer.h"
 
@@ -24,6 +25,7 @@ SuiteServer& suiteServer() {
     static const bool installed = [] {
         for (const auto install : kInstallers)
             install(server);
+        installDocumentSuites(server);
         return true;
     }();
     static_cast<void>(installed);

@@ -39,6 +39,7 @@ AIRealRect visibleArtwork(const DocumentView& view) noexcept {
 
 void setZoom(DocumentView& view, AIReal zoom) noexcept {
     view.zoom = std::clamp(zoom, kLeastZoom, kMostZoom);
+    if (view.document != nullptr) view.document->viewZoom = view.zoom;
 }
 
 } // namespace easel

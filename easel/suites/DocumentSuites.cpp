@@ -8,7 +8,8 @@ void installDocumentSuites(SuiteServer& server) {
     for (const auto install :
          {installArtSuite, installArtSetSuite, installDictionarySuite, installEntrySuite,
           installArraySuite, installCountedObjectSuite, installLayerSuite, installPathSuite,
-          installPathStyleSuite, installGroupSuite, installPluginGroupSuite,
+          installPathStyleSuite, installGroupSuite, installPluginGroupSuite, installSymbolSuite,
+          installRealMathSuite, installRealBezierSuite, installHitTestSuite,
           installTransformArtSuite, installHardSoftSuite, installUndoSuite})
         install(server);
 }

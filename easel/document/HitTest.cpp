@@ -1,0 +1,230 @@
+#include "easel/document/HitTest.h"
+
+#include "easel/document/ArtTree.h"
+#include "easel/document/Attributes.h"
+#include "easel/document/PathMeasure.h"
+#include "host/Error.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <tuple>
+
+namespace easel {
+namespace {
+
+/// What a search takes notice of.
+enum Notice : unsigned {
+    kAnchors = 1U << 0,
+    kEndAnchors = 1U << 1, ///< First and last of open paths.
+    kHandles = 1U << 2,    ///< Of selected paths: others show none.
+    kCurves = 1U << 3,
+    kFills = 1U << 4,
+    kBoxes = 1U << 5, ///< Text, images and other art that is no path, by its box.
+    kText = 1U << 6,  ///< Text alone, by its box.
+    kGuides = 1U << 7,
+    kPlainPaths = 1U << 8, ///< Paths that are no guides.
+    kLocked = 1U << 9,
+    kUnselected = 1U << 10,
+    kPaintedWidth = 1U << 11, ///< Strokes are as wide as they are painted.
+    kUnfilled = 1U << 12,     ///< Closed shapes count as filled.
+
+    kAllPaths = kGuides | kPlainPaths,
+    kAnyState = kLocked | kUnselected,
+    kAnything = kAnchors | kHandles | kCurves | kFills | kBoxes | kAllPaths | kAnyState,
+    kPainted = kAnchors | kCurves | kPlainPaths | kAnyState,
+};
+
+/// By `AIHitRequest`.
+constexpr unsigned kRequests[] = {
+    kAnything,
+    kAnchors | kAllPaths | kAnyState,
+    kEndAnchors | kAllPaths | kAnyState,
+    kAnchors | kCurves | kGuides | kAnyState,
+    kAnchors | kCurves | kAllPaths | kAnyState,
+    kText | kAnyState,
+    kAnything & ~kAnyState,
+    kPainted | kFills | kBoxes,
+    kAnything & ~(kFills | kBoxes),
+    kPainted,
+    kAnything & ~kHandles,
+    (kPainted | kFills | kBoxes) & ~kLocked,
+    kAnchors | kHandles | kAllPaths | kAnyState,
+    kAnything | kUnfilled,
+    kCurves | kPlainPaths | kAnyState | kPaintedWidth,
+};
+
+double distance(CurvePoint a, CurvePoint b) { return std::hypot(a.x - b.x, a.y - b.y); }
+
+/// Does the box around the control points come near the point? Curves lie inside it.
+bool isNear(std::span<const CurvePoint> points, CurvePoint to, double reach) {
+    const auto [left, right] = std::ranges::minmax(points, {}, &CurvePoint::x);
+    const auto [low, high] = std::ranges::minmax(points, {}, &CurvePoint::y);
+    return to.x >= left.x - reach && to.x <= right.x + reach && to.y >= low.y - reach &&
+           to.y <= high.y + reach;
+}
+
+/// How often the path turns around the point; its ends are joined.
+int windingAround(const Art& path, CurvePoint point) {
+    constexpr int kPieces = 32;
+    int winding = 0;
+    const auto cross = [&](CurvePoint a, CurvePoint b) {
+        const bool upwards = a.y <= point.y && b.y > point.y;
+        const bool downwards = b.y <= point.y && a.y > point.y;
+        if (!upwards && !downwards) return;
+        const double x = a.x + (point.y - a.y) / (b.y - a.y) * (b.x - a.x);
+        if (x > point.x) winding += upwards ? 1 : -1;
+    };
+    for (std::size_t i = 0; i < curveCount(path); ++i) {
+        const Curve curve = curveFrom(path, i);
+        CurvePoint from = curve[0];
+        for (int piece = 1; piece <= kPieces; ++piece) {
+            const CurvePoint to =
+                piece == kPieces ? curve[3] : pointAt(curve, double(piece) / kPieces);
+            cross(from, to);
+            from = to;
+        }
+    }
+    if (!path.segments().empty())
+        cross(curvePoint(path.segments().back().p), curvePoint(path.segments().front().p));
+    return winding;
+}
+
+class Search {
+public:
+    Search(CurvePoint point, double reach, ai::int32 request)
+        : point_(point), reach_(reach), notices_(kRequests[request]) {}
+
+    void visit(Art& art) {
+        if (art.type() == kPathArt) return visitPath(art);
+        if (art.type() == kCompoundPathArt) return visitCompound(art);
+        if (!isContainer(art)) visitBox(art);
+    }
+
+    HitResult best;
+
+private:
+    /// The lower, the better; equal ones leave the first, which is in front.
+    using Rank = std::tuple<AIHitType, double>;
+
+    void offer(Art& art, AIHitType type, std::size_t segment, double t, CurvePoint point) {
+        const double away = distance(point, point_);
+        const bool better =
+            best.art == nullptr || Rank{type, away} < Rank{best.type, best.distance};
+        if (better) best = {&art, type, static_cast<ai::int16>(segment), t, point, away};
+    }
+
+    [[nodiscard]] bool notices(unsigned what) const { return (notices_ & what) != 0; }
+
+    [[nodiscard]] bool isWanted(const Art& art) const {
+        if (!notices(kUnselected) && selectionOf(art) == Selected::No) return false;
+        return notices(kLocked) || isEditable(art);
+    }
+
+    void visitPath(Art& path) {
+        const bool guide = path.content().guide;
+        if (!notices(guide ? kGuides : kPlainPaths) || !isWanted(path)) return;
+        if (notices(kAnchors | kEndAnchors)) visitAnchors(path);
+        if (notices(kHandles) && path.has(kArtSelected)) visitHandles(path);
+        if (notices(kCurves)) visitCurves(path);
+        const bool isMember = &styleCarrier(path) != &path;
+        if (notices(kFills) && !guide && !isMember && isFilled(path) &&
+            isInside(path, windingAround(path, point_)))
+            offer(path, kFillHit, 0, 0, point_);
+    }
+
+    /// The members of a compound path are filled as one shape.
+    void visitCompound(Art& compound) {
+        const bool isWhole = &styleCarrier(compound) == &compound;
+        if (!notices(kFills) || !isWhole || !isWanted(compound) || !isFilled(compound)) return;
+        int winding = 0;
+        for (Art* each = &compound; each != nullptr; each = nextInPreorder(*each, compound))
+            if (each->type() == kPathArt) winding += windingAround(*each, point_);
+        if (isInside(compound, winding)) offer(compound, kFillHit, 0, 0, point_);
+    }
+
+    [[nodiscard]] bool isFilled(const Art& art) const {
+        return notices(kUnfilled) || art.style().path.fillPaint != 0;
+    }
+    static bool isInside(const Art& art, int winding) {
+        return art.style().path.evenodd != 0 ? winding % 2 != 0 : winding != 0;
+    }
+
+    void visitAnchors(Art& path) {
+        const auto segments = path.segments();
+        for (std::size_t i = 0; i < segments.size(); ++i) {
+            const bool isEnd = !path.content().closed && (i == 0 || i + 1 == segments.size());
+            if (!notices(kAnchors) && !isEnd) continue;
+            const CurvePoint anchor = curvePoint(segments[i].p);
+            if (distance(anchor, point_) <= reach_) offer(path, kAnchorHit, i, 0, anchor);
+        }
+    }
+
+    void visitHandles(Art& path) {
+        const auto segments = path.segments();
+        for (std::size_t i = 0; i < segments.size(); ++i) {
+            const CurvePoint anchor = curvePoint(segments[i].p);
+            const auto visit = [&](AIRealPoint handle, AIHitType type) {
+                const CurvePoint point = curvePoint(handle);
+                if (distance(point, anchor) > 0 && distance(point, point_) <= reach_)
+                    offer(path, type, i, 0, point);
+            };
+            visit(segments[i].in, kInHandleHit);
+            visit(segments[i].out, kOutHandleHit);
+        }
+    }
+
+    void visitCurves(Art& path) {
+        const AIPathStyle& style = styleCarrier(path).style().path;
+        double reach = reach_;
+        if (notices(kPaintedWidth)) {
+            if (style.strokePaint == 0) return;
+            reach += style.stroke.width / 2.0;
+        }
+        for (std::size_t i = 0; i < curveCount(path); ++i) {
+            const Curve curve = curveFrom(path, i);
+            if (!isNear(curve, point_, reach)) continue;
+            const NearestPoint nearest = nearestPoint(curve, point_);
+            if (nearest.distance <= reach)
+                offer(path, kSegmentHit, (i + 1) % path.segments().size(), nearest.t,
+                      pointAt(curve, nearest.t));
+        }
+    }
+
+    void visitBox(Art& art) {
+        const bool sought = notices(kBoxes) || (notices(kText) && art.type() == kTextFrameArt);
+        if (!sought || !isWanted(art)) return;
+        const auto& [left, top, right, bottom] = art.details().box;
+        const AIRealMatrix& m = art.details().matrix;
+        const double det = double{m.a} * m.d - double{m.b} * m.c;
+        if (det == 0) return;
+        const double dx = point_.x - m.tx;
+        const double dy = point_.y - m.ty;
+        const double x = (dx * m.d - dy * m.c) / det;
+        const double y = (dy * m.a - dx * m.b) / det;
+        const bool inside = x >= std::min(left, right) && x <= std::max(left, right) &&
+                            y >= std::min(top, bottom) && y <= std::max(top, bottom);
+        if (inside) offer(art, kFillHit, 0, 0, point_);
+    }
+
+    CurvePoint point_;
+    double reach_;
+    unsigned notices_;
+};
+
+} // namespace
+
+HitResult hitTest(Art& root, AIRealPoint point, double reach, ai::int32 request) {
+    if (request < 0 || request >= std::ssize(kRequests)) throw ai::Error{kBadParameterErr};
+    Search search(curvePoint(point), reach, request);
+    if (!isVisible(root)) return search.best;
+    Art* each = &root;
+    while (each != nullptr) {
+        const bool skip = each->has(kArtHidden) || isResultGroup(*each);
+        if (!skip) search.visit(*each);
+        each = skip ? nextSkippingChildren(*each, root) : nextInPreorder(*each, root);
+    }
+    return search.best;
+}
+
+} // namespace easel
