@@ -1,0 +1,147 @@
+#include "tests/tool/ToolInHand.h"
+
+using namespace facetta;
+using namespace facetta::tests;
+
+TEST_CASE("without axes new ones follow the cursor, with the default angle and count") {
+    ToolInHand session;
+    thePlugin->preferences.count = 5;
+    thePlugin->preferences.angle = 0.5;
+    session.host.track({.at = {120, -80}});
+    CHECK(near(session.origin(), {120, -80}));
+    CHECK(session.axes().axisCount == 5);
+    CHECK(session.axes().angle == 0.5);
+    CHECK_FALSE(session.axes().provisional);
+    CHECK(thePlugin->tool.zone == ToolZone::Canvas);
+}
+
+TEST_CASE("press, drag and release make axes; the drag turns them") {
+    struct Row {
+        AIRealPoint to;
+        double degrees;
+    };
+    const Row rows[] = {
+        {{300, -200}, 0}, {{200, -100}, 90}, {{100, -300}, 225}, {{300, -300}, 315}};
+    for (const auto& [to, degrees] : rows) {
+        INFO(degrees);
+        ToolInHand session;
+        session.press(200, -200);
+        session.drag(200, -200); // no movement: no drag yet
+        CHECK(session.axes().angle == 0.0);
+        session.drag(210, -190);
+        session.drag(to.h, to.v);
+        session.release(to.h, to.v);
+        CHECK(session.axes().provisional);
+        CHECK_FALSE(session.axes().onLayer);
+        CHECK(near(session.origin(), {200, -200}));
+        CHECK(near(session.axes().angle, degrees * kPi / 180));
+        CHECK(thePlugin->preferences.angle == session.axes().angle);
+        CHECK(thePlugin->tool.zone == ToolZone::Axis);
+    }
+}
+
+TEST_CASE("with the initial drag moving the origin, angle stays and origin follows") {
+    ToolInHand session;
+    thePlugin->preferences.initialDragMovesOrigin = true;
+    thePlugin->preferences.angle = 1.0;
+    session.press(200, -200);
+    session.drag(350, -260);
+    session.release(350, -260);
+    CHECK(near(session.origin(), {350, -260}));
+    CHECK(session.axes().angle == 1.0);
+    CHECK(session.axes().provisional);
+}
+
+TEST_CASE("the origin stays on the canvas") {
+    ToolInHand session;
+    thePlugin->preferences.initialDragMovesOrigin = true;
+    session.press(0, 0);
+    session.drag(-30000, 30000);
+    CHECK(originOf(session.axes()) == Point{0, 0});
+    session.drag(30000, -30000);
+    CHECK(originOf(session.axes()) == Point{kCanvasSize, kCanvasSize});
+    session.release(30000, -30000);
+}
+
+TEST_CASE("the host snaps with the stated sources at every step") {
+    ToolInHand session;
+    session.host.track({.at = {10, -10}});
+    session.host.cursorSnap.calls.clear();
+    session.press(10, -10);
+    session.drag(50, -10);
+    session.release(50, -10);
+    std::vector<std::string> controls;
+    for (const easel::SnapCall& call : session.host.cursorSnap.calls)
+        controls.push_back(call.control);
+    CHECK(controls == std::vector<std::string>{"ATFGPLM v i o", "ATFGPLM v i o", "ATFGPLM v i o f",
+                                               "AP v i o"});
+    CHECK(session.host.cursorSnap.calls.back().point.h == 50000);
+}
+
+TEST_CASE("pending axes are turned by a line and moved by their origin") {
+    ToolInHand session;
+    thePlugin->preferences.count = 2;
+    session.press(200, -200);
+    session.release(200, -200);
+    REQUIRE(session.axes().provisional);
+
+    session.press(200, -300); // the half-line of the second axis that points down
+    CHECK(thePlugin->tool.zone == ToolZone::Axis);
+    session.drag(300, -300);
+    session.release(300, -300);
+    CHECK(near(session.axes().angle, kPi / 4));
+
+    session.press(203, -203);
+    CHECK(thePlugin->tool.zone == ToolZone::Origin);
+    session.drag(260, -120);
+    session.release(260, -120);
+    CHECK(near(session.origin(), {260, -120}));
+    CHECK(near(session.axes().angle, kPi / 4));
+}
+
+TEST_CASE("the diameter keys change the count within 1 to 72") {
+    ToolInHand session;
+    session.host.track({.at = {10, -10}});
+    for (int i = 0; i < 5; ++i)
+        session.host.decreaseDiameter();
+    CHECK(session.axes().axisCount == 1);
+    for (int i = 0; i < 100; ++i)
+        session.host.increaseDiameter();
+    CHECK(session.axes().axisCount == 72);
+    CHECK(thePlugin->preferences.count == 72);
+}
+
+TEST_CASE("putting the tool away drops pending axes") {
+    ToolInHand session;
+    session.press(200, -200);
+    session.release(200, -200);
+    session.host.selectTool(nullptr);
+    CHECK_FALSE(thePlugin->tool.toolSelected);
+    CHECK(session.axes().axisCount == 0);
+    CHECK_FALSE(session.axes().provisional);
+}
+
+TEST_CASE("messages to another tool are none of ours") {
+    ToolInHand session;
+    session.host.track({.at = {10, -10}});
+    AIToolMessage message{};
+    message.cursor = {500, -500};
+    CHECK(session.send("AI Tool", "AI Track Cursor", message) == kNoErr);
+    CHECK(near(session.origin(), {10, -10}));
+}
+
+TEST_CASE("a refused press changes nothing; a refused release leaves no axes behind") {
+    {
+        ToolInHand session({LicenceState::Licensed, {GuardedAction::ToolMouseDown}});
+        session.host.track({.at = {10, -10}});
+        session.host.press({.at = {100, -100}});
+        CHECK(near(session.origin(), {10, -10}));
+        session.release(100, -100);
+    }
+    {
+        ToolInHand session({LicenceState::Licensed, {GuardedAction::ToolMouseUp}});
+        session.press(100, -100);
+        session.release(100, -100);
+        CHECK_FALSE(session.axes().provisional);
+    }
+}
