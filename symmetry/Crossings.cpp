@@ -117,25 +117,27 @@ void ContactFinder::addCurveCrossings(std::size_t index, const Cubic& curve) {
     const auto first = std::ssize(crossings_);
     addRayCrossings(index, curve, Ray::First);
     addRayCrossings(index, curve, Ray::Last);
-    const auto found = std::ranges::subrange(crossings_.begin() + first, crossings_.end());
-    std::ranges::sort(found, {}, &Crossing::parameter);
+    std::ranges::sort(crossings_.begin() + first, crossings_.end(), {}, &Crossing::parameter);
 
     // Places at which the curve has hardly left an anchor on the axis are that anchor's own.
-    const auto isStart = [&](const Crossing& crossing) {
-        const double limit = crossing.parameter < kAnchorParameter ? kTouchDepth : kOnAxisDistance;
-        return start.ray != Ray::None && !runsAlong(curve, start, crossing) &&
-               std::abs(farthestMargin(curve, start, crossing)) <= limit;
+    const auto isStart = [&](const Crossing& place) {
+        return start.ray != Ray::None && hardlyLeaves(curve, start, place, place.parameter);
     };
-    const auto isEnd = [&](const Crossing& crossing) {
-        const double limit =
-            crossing.parameter > 1.0 - kAnchorParameter ? kTouchDepth : kOnAxisDistance;
-        return end.ray != Ray::None && !runsAlong(curve, crossing, end) &&
-               std::abs(farthestMargin(curve, crossing, end)) <= limit;
+    const auto isEnd = [&](const Crossing& place) {
+        return end.ray != Ray::None && hardlyLeaves(curve, place, end, 1.0 - place.parameter);
     };
     while (std::ssize(crossings_) > first && isEnd(crossings_.back()))
         crossings_.pop_back();
     const auto begin = crossings_.begin() + first;
     crossings_.erase(begin, std::find_if_not(begin, crossings_.end(), isStart));
+}
+
+/// Whether a curve does not get away from the edge between an anchor on it and another place, which
+/// is `apart` from it in parameter.
+bool ContactFinder::hardlyLeaves(const Cubic& curve, const Crossing& from, const Crossing& to,
+                                 double apart) const {
+    const double limit = apart < kAnchorParameter ? kTouchDepth : kOnAxisDistance;
+    return std::abs(farthestMargin(curve, from, to)) <= limit && !runsAlong(curve, from, to);
 }
 
 void ContactFinder::addRayCrossings(std::size_t index, const Cubic& curve, Ray ray) {
@@ -223,8 +225,8 @@ void ContactFinder::groupClosed(const PathShape& path) {
         return;
     }
     const auto turn = leaving + 1 - sides_.begin();
-    std::ranges::rotate(sides_, sides_.begin() + turn);
-    std::ranges::rotate(crossings_, crossings_.begin() + turn);
+    std::rotate(sides_.begin(), sides_.begin() + turn, sides_.end());
+    std::rotate(crossings_.begin(), crossings_.begin() + turn, crossings_.end());
     const Side seam = sides_.back();
     group(seam, seam);
 }
@@ -234,13 +236,16 @@ void ContactFinder::groupOpen(const PathShape& path) {
     const std::size_t anchors = path.segments.size();
     const auto anchorsBefore = static_cast<std::size_t>(front.segment) + (front.onAnchor ? 0 : 1);
     const auto firstAfter = static_cast<std::size_t>(crossings_.back().segment) + 1;
-    group(anchorsBefore > 0 ? sideOf(farthestMargin(0, anchorsBefore)) : Side::Nowhere,
-          firstAfter < anchors ? sideOf(farthestMargin(firstAfter, anchors)) : Side::Nowhere);
-    if (contacts_.size() == 1 && contacts_[0].before == contacts_[0].after &&
-        contacts_[0].before == Side::Nowhere) {
-        contacts_.clear();
+    const Side before =
+        anchorsBefore > 0 ? sideOf(farthestMargin(0, anchorsBefore)) : Side::Nowhere;
+    const Side after =
+        firstAfter < anchors ? sideOf(farthestMargin(firstAfter, anchors)) : Side::Nowhere;
+    const bool staysOnEdge = before == Side::Nowhere && after == Side::Nowhere &&
+                             std::ranges::none_of(sides_, leavesEdge);
+    if (staysOnEdge)
         whole_ = Side::AlongRay;
-    }
+    else
+        group(before, after);
 }
 
 /// Joins the crossings between which the path does not leave the edge into contacts.

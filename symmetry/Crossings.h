@@ -124,6 +124,8 @@ private:
     [[nodiscard]] double farthestMargin(std::size_t firstAnchor, std::size_t endAnchor) const;
     [[nodiscard]] double farthestMargin(const Cubic& curve, const Crossing& from,
                                         const Crossing& to) const;
+    [[nodiscard]] bool hardlyLeaves(const Cubic& curve, const Crossing& from, const Crossing& to,
+                                    double apart) const;
     [[nodiscard]] bool runsAlong(const Cubic& curve, const Crossing& from,
                                  const Crossing& to) const;
     [[nodiscard]] Side sideBetween(const PathShape& path, const Crossing& from,

@@ -34,9 +34,9 @@ void PathCutter::keepOpen(const PathShape& path) {
 
 void PathCutter::keepClosed(double start) {
     const auto leaves = [](const Contact& contact) { return contact.last.position(); };
-    std::ranges::rotate(cuts_, std::ranges::min_element(cuts_, {}, leaves));
+    std::rotate(cuts_.begin(), std::ranges::min_element(cuts_, {}, leaves), cuts_.end());
     const auto next = std::ranges::upper_bound(cuts_, start, {}, leaves);
-    std::ranges::rotate(cuts_, next == cuts_.begin() ? cuts_.end() - 1 : next - 1);
+    std::rotate(cuts_.begin(), next == cuts_.begin() ? cuts_.end() - 1 : next - 1, cuts_.end());
 
     for (std::size_t i = 0; i < cuts_.size(); ++i)
         if (cuts_[i].after == Side::Inside)

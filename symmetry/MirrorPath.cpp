@@ -20,8 +20,7 @@ const MirroredPath& PathMirror::mirror(const PathShape& source) {
     double clear = kOnAxisDistance;
     for (; contourCount_ == 0 && !source.segments.empty() && clear < kRayLength; clear *= 4.0)
         addMirrored(folded_, clear);
-    if (contourCount_ == 0 && !source.segments.empty()) // all within a few hundredths of the origin
-        nextContour() = {folded_, Images::All};
+    if (contourCount_ == 0) keepAsDrawn({&source, 1});
     result_.compound = source.closed && contourCount_ > 1;
     if (result_.compound) agreeInImages();
     result_.contours.resize(contourCount_);
@@ -48,6 +47,7 @@ const MirroredPath& PathMirror::mirrorCompound(std::span<const PathShape> member
         if (!member.closed) snapEnds();
         addContours(start.position);
     }
+    if (contourCount_ == 0) keepAsDrawn(members);
     result_.compound = true;
     agreeInImages();
     result_.contours.resize(contourCount_);
@@ -56,6 +56,16 @@ const MirroredPath& PathMirror::mirrorCompound(std::span<const PathShape> member
         [](const PathShape& one, const PathShape& other) { return sameShape(one, other); },
         &Contour::shape);
     return result_;
+}
+
+/// The last resort when nothing would be left, which takes art that lies within a few hundredths of
+/// a point of the origin or the axes: no path is ever lost.
+void PathMirror::keepAsDrawn(std::span<const PathShape> sources) {
+    for (const PathShape& source : sources) {
+        if (source.segments.empty()) continue;
+        fold(source, result_.sector);
+        nextContour() = {folded_, Images::All};
+    }
 }
 
 /// The sample that tells the sector must be clear of the axes to mean anything: a shape drawn
@@ -168,8 +178,9 @@ void PathMirror::startWithSource(const Stretch& stretch, std::vector<PathSegment
     const bool runsPastStart = folded_.closed && stretch.to.position() > 0.0 &&
                                stretch.to.position() <= stretch.from.position();
     if (runsPastStart)
-        std::ranges::rotate(segments, segments.begin() +
-                                          (std::ssize(folded_.segments) - stretch.from.segment));
+        std::rotate(segments.begin(),
+                    segments.begin() + (std::ssize(folded_.segments) - stretch.from.segment),
+                    segments.end());
 }
 
 /// Adds a stretch that lies on a ray as an open path of its own. Handles that led into the curves

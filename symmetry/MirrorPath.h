@@ -67,6 +67,7 @@ private:
     Contour& nextContour();
     void addMirrored(const PathShape& shape, double clear);
     void addContours(double start);
+    void keepAsDrawn(std::span<const PathShape> sources);
     void startWithSource(const Stretch& stretch, std::vector<PathSegment>& segments) const;
     void addAlongRay(const Stretch& stretch);
     void agreeInImages();

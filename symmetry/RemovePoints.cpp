@@ -79,8 +79,8 @@ public:
     void closeSeam() {
         if (count_ > 2 && removable(count_ - 2, count_ - 1, 0)) --count_;
         if (count_ > 2 && removable(count_ - 1, 0, 1)) {
-            std::ranges::rotate(segments_.begin(), segments_.begin() + 1,
-                                segments_.begin() + static_cast<std::ptrdiff_t>(count_));
+            std::rotate(segments_.begin(), segments_.begin() + 1,
+                        segments_.begin() + static_cast<std::ptrdiff_t>(count_));
             --count_;
         }
     }

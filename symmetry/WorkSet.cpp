@@ -11,7 +11,6 @@
 #include "symmetry/MirrorTag.h"
 
 #include <algorithm>
-#include <ranges>
 #include <span>
 #include <unordered_map>
 #include <unordered_set>
@@ -78,8 +77,8 @@ private:
             found = known_.find(container);
         }
         const Surroundings* answer = found != known_.end() ? &found->second : &known_[nullptr];
-        for (const AIArtHandle inner : std::views::reverse(unknown))
-            answer = &(known_[inner] = entered(*answer, inner));
+        for (auto inner = unknown.rbegin(); inner != unknown.rend(); ++inner)
+            answer = &(known_[*inner] = entered(*answer, *inner));
         return *answer;
     }
 
@@ -154,9 +153,9 @@ public:
     void deleteCopies() {
         if (doomed_.empty()) return;
         const AllChangesAllowed evenInLockedGroups;
-        for (const AIArtHandle copy : std::views::reverse(doomed_)) {
-            ai::check(suites.art->SetArtUserAttr(copy, kArtLocked | kArtHidden, 0));
-            ai::check(suites.art->DisposeArt(copy));
+        for (auto copy = doomed_.rbegin(); copy != doomed_.rend(); ++copy) {
+            ai::check(suites.art->SetArtUserAttr(*copy, kArtLocked | kArtHidden, 0));
+            ai::check(suites.art->DisposeArt(*copy));
         }
         doomed_.clear();
     }
