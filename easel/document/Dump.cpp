@@ -73,10 +73,11 @@ private:
         }
         text += '"';
     }
-    /// The shortest text that reads back as the same number.
+    /// The shortest text that reads back as the same number; zero has no sign.
     template <typename Number> void number(Number value) {
         char digits[32];
-        const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+        const auto end =
+            std::to_chars(digits, digits + sizeof digits, value == 0 ? Number{} : value).ptr;
         text += ' ';
         text.append(digits, end);
     }

@@ -5,7 +5,8 @@
 namespace easel::svg {
 namespace {
 
-AIReal narrowed(double value) { return static_cast<AIReal>(value); }
+/// Never a negative zero: it would look like a difference where there is none.
+AIReal narrowed(double value) { return static_cast<AIReal>(value) + 0.0F; }
 
 } // namespace
 

@@ -2,6 +2,7 @@
 #include "easel/svg/Ink.h"
 #include "easel/svg/Numbers.h"
 #include "easel/svg/PaintServers.h"
+#include "easel/svg/ViewBox.h"
 
 #include <algorithm>
 
@@ -125,12 +126,14 @@ ArtBuilder::serverFor(const std::string& id, const Context& context, const Outli
     if (element.isTrue("easel:derived") && state_.tree.find(source) != kNoNode) {
         // Our own: the matrix stands beside the transform that says the same to others.
         const NumberList numbers = parseNumbers(element.get("easel:matrix"));
-        const auto base = serverFor(source, context, outline);
-        if (!base || numbers.numbers.size() != 6) return base;
-        return ServerUse{base->definition, floatMatrix(numbers.numbers)};
+        const Element base{state_.tree, state_.tree.find(source)};
+        auto use = base.name() == "pattern" ? patternUse(base, &element, context, boundsOf(outline))
+                                            : serverFor(source, context, outline);
+        if (use && numbers.numbers.size() == 6) use->matrix = floatMatrix(numbers.numbers);
+        return use;
     }
     const Box bounds = boundsOf(outline);
-    if (element.name() == "pattern") return patternUse(element, context, bounds);
+    if (element.name() == "pattern") return patternUse(element, nullptr, context, bounds);
     const auto gradient = gradientContent(state_, node, context.viewport);
     Definition& known = definition(Definition::Kind::Gradient, id, gradient, {});
     if (!gradient || !gradient->overBounds) return ServerUse{&known, plain};
@@ -139,10 +142,21 @@ ArtBuilder::serverFor(const std::string& id, const Context& context, const Outli
     return ServerUse{&known, toSoft(context.matrix * overBounds, offset_)};
 }
 
-ArtBuilder::ServerUse ArtBuilder::patternUse(const Element& element, const Context& context,
-                                             const Box& bounds) {
-    const std::vector<Element> chain = referenceChain(state_.tree, element.node());
+ArtBuilder::ServerUse ArtBuilder::patternUse(const Element& element, const Element* derived,
+                                             const Context& context, const Box& bounds) {
+    std::vector<Element> chain = referenceChain(state_.tree, element.node());
     auto pattern = patternTile(chain, context.viewport, bounds);
+    if (derived != nullptr && pattern->resolved) {
+        // The tile was laid out for the shape as it was; the shape may have changed since.
+        const Matrix transform = pattern->transform;
+        std::vector<Element> own = chain;
+        own.insert(own.begin(), *derived);
+        pattern = patternTile(own, context.viewport, bounds);
+        pattern->transform = transform;
+        pattern->resolved = true;
+        if (const auto box = parseViewBox(derived->get("viewBox")))
+            pattern->viewBoxSize = box->size;
+    }
     pattern->source = element.get("id");
     const auto shows = [&](const Element& link) {
         return !childElements(state_.tree, link.node()).empty();

@@ -1,0 +1,203 @@
+#include "easel/document/ArtTree.h"
+#include "easel/document/TransformArt.h"
+#include "easel/paint/PaintDocument.h"
+#include "easel/svg/SvgFile.h"
+
+#include <doctest/doctest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+using namespace easel;
+using namespace easel::paint;
+
+namespace {
+
+svg::OpenedDrawing open(const std::string& content) {
+    return svg::readSvgText("<svg viewBox='0 0 40 40'>" + content + "</svg>", "x");
+}
+
+Picture painted(const std::string& content) { return paintDocument(*open(content).document); }
+
+/// "rgba" with each channel 0 to 9.
+std::string pixel(const Picture& picture, int x, int y) {
+    const Colour colour = picture.at(x, y);
+    std::string text;
+    for (const float channel : {colour.red, colour.green, colour.blue, colour.alpha})
+        text += std::to_string(std::lround(channel * 9.0F));
+    return colour.alpha == 0 ? "none" : text;
+}
+
+struct Probe {
+    int x;
+    int y;
+    const char* colour;
+};
+
+void check(const Picture& picture, std::initializer_list<Probe> probes) {
+    for (const auto& [x, y, colour] : probes) {
+        CAPTURE(x);
+        CAPTURE(y);
+        CHECK(pixel(picture, x, y) == colour);
+    }
+}
+
+} // namespace
+
+TEST_CASE("a square fills exactly its pixels") {
+    const Picture picture = painted("<rect x='10' y='5' width='10' height='20' fill='red'/>");
+    REQUIRE(picture.width == 40);
+    int filled = 0;
+    for (int y = 0; y < 40; ++y)
+        for (int x = 0; x < 40; ++x) {
+            const bool inside = x >= 10 && x < 20 && y >= 5 && y < 25;
+            if (pixel(picture, x, y) == (inside ? "9009" : "none")) ++filled;
+        }
+    CHECK(filled == 1600);
+}
+
+TEST_CASE("edges between pixels are half as strong") {
+    const Picture picture = painted("<rect x='10.5' y='5' width='10' height='20'/>");
+    CHECK(std::abs(picture.at(10, 10).alpha - 0.5F) < 0.02F);
+}
+
+TEST_CASE("pictures show what the drawing says") {
+    struct Row {
+        const char* what;
+        const char* content;
+        std::initializer_list<Probe> probes;
+    };
+    const Row rows[] = {
+        {"the front covers the back",
+         "<rect width='20' height='20' fill='red'/><rect x='10' width='20' height='20' "
+         "fill='blue'/>",
+         {{5, 5, "9009"}, {15, 5, "0099"}}},
+        {"even-odd leaves a hole",
+         "<path fill-rule='evenodd' d='M0 0H40V40H0ZM10 10H30V30H10Z'/>",
+         {{5, 5, "0009"}, {20, 20, "none"}}},
+        {"non-zero does not", "<path d='M0 0H40V40H0ZM10 10H30V30H10Z'/>", {{20, 20, "0009"}}},
+        {"a clip path cuts",
+         "<clipPath id='c'><rect width='20' height='40'/></clipPath><g clip-path='url(#c)'>"
+         "<rect width='40' height='40' fill='lime'/></g><rect x='30' width='5' height='5'/>",
+         {{10, 10, "0909"}, {25, 20, "none"}, {32, 2, "0009"}}},
+        {"a group's opacity covers all of it as one",
+         "<g opacity='.33333'><rect width='20' height='20' fill='red'/><rect x='10' width='20' "
+         "height='20' fill='blue'/></g>",
+         {{5, 5, "9003"}, {15, 5, "0093"}}},
+        {"fill and stroke of a shape fade as one",
+         "<rect x='10' y='10' width='20' height='20' fill='red' stroke='blue' stroke-width='8' "
+         "opacity='.33333'/>",
+         {{20, 20, "9003"}, {12, 20, "0093"}, {8, 20, "0093"}, {4, 20, "none"}}},
+        {"a stroke has its width and cap",
+         "<path d='M10 20H30' stroke='red' stroke-width='10' stroke-linecap='square'/>",
+         {{6, 20, "9009"}, {20, 16, "9009"}, {20, 14, "none"}, {4, 20, "none"}}},
+        {"dashes begin on",
+         "<path d='M0 20H40' stroke='red' stroke-width='10' stroke-dasharray='10 10'/>",
+         {{5, 20, "9009"}, {15, 20, "none"}, {25, 20, "9009"}}},
+        {"a gradient runs over the bounds",
+         "<linearGradient id='g'><stop offset='.5' stop-color='red'/><stop offset='.5' "
+         "stop-color='blue'/></linearGradient><rect width='40' height='40' fill='url(#g)'/>",
+         {{10, 20, "9009"}, {30, 20, "0099"}}},
+        {"and rotates",
+         "<linearGradient id='g' gradientTransform='rotate(90)'><stop offset='.5' "
+         "stop-color='red'/><stop offset='.5' stop-color='blue'/></linearGradient>"
+         "<rect width='40' height='40' fill='url(#g)'/>",
+         {{20, 10, "9009"}, {20, 30, "0099"}}},
+        {"a radial gradient has rings",
+         "<radialGradient id='g'><stop offset='.5' stop-color='red'/><stop offset='.5' "
+         "stop-color='blue'/></radialGradient><rect width='40' height='40' fill='url(#g)'/>",
+         {{20, 20, "9009"}, {14, 20, "9009"}, {7, 20, "0099"}, {2, 2, "0099"}}},
+        {"a pattern repeats",
+         "<pattern id='p' width='10' height='10' patternUnits='userSpaceOnUse'><rect width='5' "
+         "height='10' fill='red'/></pattern><rect width='40' height='40' fill='url(#p)'/>",
+         {{2, 20, "9009"}, {7, 20, "none"}, {22, 20, "9009"}}},
+        {"a symbol is fitted in",
+         "<symbol id='s' viewBox='0 0 2 2'><rect width='1' height='2'/></symbol>"
+         "<use href='#s' x='10' y='10' width='20' height='20' fill='red'/>",
+         {{15, 20, "9009"}, {25, 20, "none"}, {5, 20, "none"}}},
+        {"what is hidden is not seen",
+         "<rect width='40' height='40' display='none'/>",
+         {{20, 20, "none"}}},
+        {"nor are guides",
+         "<rect width='40' height='40' easel:guide='true' display='none'/>",
+         {{0, 0, "none"}}},
+    };
+    for (const auto& [what, content, probes] : rows) {
+        INFO(what);
+        check(painted(content), probes);
+    }
+}
+
+TEST_CASE("a mirrored copy shows its gradient mirrored") {
+    const auto opened =
+        open("<linearGradient id='g'><stop offset='.3' stop-color='red'/><stop offset='.3' "
+             "stop-color='blue'/></linearGradient><rect width='20' height='40' fill='url(#g)'/>");
+    Art& art = *opened.document->root().firstChild()->firstChild();
+    transformArt(duplicateArt(art, onTopOf(*art.parent())), {-1, 0, 0, 1, 40, 0}, 1,
+                 kTransformObjects | kTransformFillGradients);
+    check(paintDocument(*opened.document),
+          {{3, 20, "9009"}, {10, 20, "0099"}, {30, 20, "0099"}, {37, 20, "9009"}});
+}
+
+TEST_CASE("mirrored text is painted mirrored") {
+    const auto leftAndRight = [](const std::string& transform) {
+        const Picture picture = painted("<text y='36' font-size='48' " + transform + ">L</text>");
+        int low[2] = {}; // the foot of an L points to the right
+        for (int y = 0; y < 20; ++y)
+            for (int x = 0; x < 40; ++x)
+                if (picture.at(x, y).alpha > 0.5F) ++low[x < 20 ? 0 : 1];
+        return low[0] > low[1];
+    };
+    CHECK(leftAndRight(""));
+    CHECK_FALSE(leftAndRight("transform='matrix(-1 0 0 1 40 0)'"));
+}
+
+TEST_CASE("an image held in the drawing is shown") {
+    const std::string red = "iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAIAAACQd1PeAAAADElEQVR4nGP4z8AAAAMBAQ"
+                            "DJ/pLvAAAAAElFTkSuQmCC";
+    const Picture picture = painted("<image x='10' y='10' width='20' height='20' "
+                                    "href='data:image/png;base64," +
+                                    red + "'/>");
+    check(picture, {{20, 20, "9009"}, {5, 20, "none"}});
+    check(
+        painted("<image x='10' y='10' width='20' height='20' href='data:image/png;base64,QUJD'/>"),
+        {{20, 20, "none"}}); // a frame
+}
+
+TEST_CASE("scale, background, guides and overlay as the options say") {
+    PaintOptions options;
+    options.scale = 2;
+    options.background = Colour{1, 1, 1, 1};
+    options.guides = true;
+    options.overlay = [](Painter& painter) { // soft coordinates: y upwards
+        painter.fill({{{svg::cornerAt({0, 0}), svg::cornerAt({5, 0}), svg::cornerAt({5, -5}),
+                        svg::cornerAt({0, -5})},
+                       true}},
+                     FillRule::NonZero, {{0, 1, 0, 1}, nullptr, {}});
+    };
+    const auto opened = open("<path d='M20 0V40' easel:guide='true'/>");
+    const Picture picture = paintDocument(*opened.document, options);
+    CHECK(picture.width == 80);
+    check(picture, {{4, 4, "0909"}, {70, 70, "9999"}});
+    CHECK(picture.at(40, 60).red < 0.9F);
+}
+
+TEST_CASE("deep groups and multiplying symbols end") {
+    const auto opened = open("<path d='M0 0H40V40Z'/>");
+    Document& document = *opened.document;
+    Art* parent = document.root().firstChild();
+    for (int i = 0; i < 20'000; ++i)
+        parent = &createArt(document, kGroupArt, onTopOf(*parent));
+    duplicateArt(*document.root().firstChild()->lastChild(), onTopOf(*parent));
+    check(paintDocument(document), {{30, 10, "0009"}});
+    CHECK(svg::svgText(document).size() > 20'000);
+}
+
+TEST_CASE("a picture beyond the limits is refused") {
+    PaintOptions options;
+    options.scale = 1e6;
+    CHECK_THROWS_AS(static_cast<void>(paintDocument(*open("").document, options)),
+                    std::length_error);
+}
