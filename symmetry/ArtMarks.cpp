@@ -27,8 +27,9 @@ ai::int32 mirrorMarkIn(AIDictionaryRef entries, AIDictKey key) {
 ArtMarks marksOf(AIArtHandle art, const MarkKeys& keys) {
     const ai::Dictionary entries = dictionaryOf(art);
     if (!entries) return {};
-    return {mirrorMarkIn(entries.get(), keys.mirror),
-            suites.dictionary->IsKnown(entries.get(), keys.guide) != 0};
+    const ai::int32 mirror = mirrorMarkIn(entries.get(), keys.mirror);
+    const bool mayBeGuide = mirror != MirrorTag::kCopy; // a copy is none; live layers have many
+    return {mirror, mayBeGuide && suites.dictionary->IsKnown(entries.get(), keys.guide)};
 }
 
 } // namespace facetta

@@ -19,7 +19,7 @@ struct MarkKeys {
 /// What one object carries.
 struct ArtMarks {
     ai::int32 mirror = 0; ///< As `MirrorTag::get`.
-    bool guide = false;   ///< As `GuideTag::has`.
+    bool guide = false;   ///< As `GuideTag::has`; false for a generated copy.
 };
 
 /// Both marks in one look at the dictionary. Throws `ai::Error`.

@@ -73,7 +73,8 @@ AIArtHandle CopyMaker::make(const CopySource& source, AIRealMatrix& matrix,
 /// because the host changes no locked art.
 void CopyMaker::markAndLock(AIArtHandle copy, const CopySource& source) const {
     const ai::Dictionary entries = dictionaryOf(copy);
-    if (source.marks.guide) ai::check(suites.dictionary->DeleteEntry(entries.get(), keys_.guide));
+    if (source.marks.guide && suites.dictionary->IsKnown(entries.get(), keys_.guide))
+        ai::check(suites.dictionary->DeleteEntry(entries.get(), keys_.guide));
     ai::check(suites.dictionary->SetIntegerEntry(entries.get(), keys_.mirror, MirrorTag::kCopy));
     const ai::int32 toClear = source.selected ? kArtSelected | kArtHidden : kArtHidden;
     ai::check(suites.art->SetArtUserAttr(copy, kArtLocked | toClear, kArtLocked));

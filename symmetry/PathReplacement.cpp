@@ -4,6 +4,7 @@
 #include "host/Error.h"
 #include "host/Owned.h"
 #include "host/Suites.h"
+#include "host/UnicodeString.h"
 #include "host/suites/AIArtSuite.h"
 #include "host/suites/AIPathSuite.h"
 #include "symmetry/ArtSpace.h"
@@ -45,8 +46,17 @@ void foldPaint(AIArtHandle art, const Matrix& fold) {
     if (fold != Matrix{}) foldArt(art, fold, Transform::PaintOnly);
 }
 
+/// The user's note is not among the attributes that the host transfers.
+void carryNote(AIArtHandle from, AIArtHandle to) {
+    if (!suites.art->HasNote(from)) return;
+    ai::UnicodeString note;
+    ai::check(suites.art->GetNote(from, note));
+    ai::check(suites.art->SetNote(to, note));
+}
+
 void carryOver(const Unit& source, AIArtHandle art, const Matrix& fold) {
     ai::check(suites.art->TransferAttributes(source.art, art, kTransferAll));
+    carryNote(source.art, art);
     foldPaint(art, fold);
     if (source.marks.mirror != MirrorTag::kSource) MirrorTag::set(art, source.marks.mirror);
 }
