@@ -1,0 +1,126 @@
+#include "easel/core/HostCalls.h"
+#include "easel/document/Attributes.h"
+#include "easel/document/Dump.h"
+#include "easel/document/Session.h"
+#include "host/Error.h"
+#include "symmetry/LiveLayers.h"
+#include "tests/symmetry/EngineFixture.h"
+
+#include <doctest/doctest.h>
+
+#include <algorithm>
+#include <span>
+#include <string_view>
+#include <vector>
+
+using namespace facetta;
+using facetta::tests::EngineFixture;
+
+namespace {
+
+constexpr AIErr kInjected = fourCharacterCode("FAIL");
+
+/// Stored values that cannot be read count as missing, by design; a scope that ends puts back what
+/// it changed without looking.
+constexpr std::string_view kUnreported[] = {
+    "AI Dictionary Suite.GetIntegerEntry",
+    "AI Dictionary Suite.GetBooleanEntry",
+    "AI Context Suite.AllowAllChanges",
+};
+
+/// These end a loan even when they fail. Kept from running they cannot, and the loan stays open,
+/// which is no fault of the caller.
+constexpr std::string_view kEndingLoans[] = {
+    "AI Dictionary Suite.Set",
+    "AI Entry Suite.ToString",
+    "AI Entry Suite.ToDict",
+    "AI Art Set Suite.DisposeArtSet",
+};
+
+bool isOneOf(std::span<const std::string_view> functions, std::string_view name) {
+    return std::ranges::find(functions, name) != functions.end();
+}
+
+struct Action {
+    std::string what;
+    void (*act)(EngineFixture&);
+};
+
+const Action kActions[] = {
+    {"attach", [](EngineFixture& fixture) { attachAxes(fixture.environment(), true); }},
+    {"regenerate",
+     [](EngineFixture& fixture) {
+         regenerateLayer(fixture.environment(), false, fixture.layerHandle());
+     }},
+    {"mirror the selection",
+     [](EngineFixture& fixture) {
+         MirrorEngine{fixture.environment()}.run(true, false, false, nullptr);
+     }},
+    {"release",
+     [](EngineFixture& fixture) {
+         releaseLayer(fixture.environment(), nullptr, ResolveTopLevel::Yes);
+     }},
+};
+
+void prepare(EngineFixture& fixture) {
+    fixture.build(fixture.layer(), "~x #y a c(d e) k(!h i) l(g(b) t) p(m) s");
+    fixture.step([&] {
+        fixture.addPath(fixture.layer(), {{100, 0}, {80, 30}, {0, 100}}, false);
+        fixture.addPath(fixture.layer(), {{50, -20}, {80, 30}, {10, 60}}, true);
+        fixture.addPath(fixture.layer(), {{-50, -20}, {-80, -30}, {-60, -60}}, true);
+    });
+    fixture.setAxes(2);
+    fixture.removePoints = true;
+    fixture.attach();
+    fixture.step([&] { easel::selectAll(fixture.document()); });
+}
+
+/// The names of the calls that `action` makes and that can fail, in order.
+std::vector<std::string_view> fallibleCalls(const Action& action) {
+    EngineFixture fixture;
+    prepare(fixture);
+    easel::hostCalls().setRecording(true);
+    fixture.step([&] { action.act(fixture); });
+    std::vector<std::string_view> names;
+    for (const easel::SlotRecord* call : easel::hostCalls().recorded())
+        if (call->returnsError) names.push_back(call->name);
+    easel::hostCalls().setRecording(false);
+    return names;
+}
+
+/// Runs `action` in a fresh document with its `number`th call failing, which is one of `function`.
+void failAt(const Action& action, std::uint64_t number, std::string_view function) {
+    INFO(action.what, ", call ", number, ": ", std::string(function));
+    EngineFixture fixture;
+    prepare(fixture);
+    const std::string before = easel::dump(fixture.document());
+    const SymmetryAxes axesBefore = fixture.axes;
+
+    using Mode = easel::FaultPlan::Mode;
+    easel::hostCalls().arm({.mode = Mode::Once, .call = number, .function = {}, .code = kInjected});
+    AIErr code = kNoErr;
+    fixture.step([&] {
+        try {
+            action.act(fixture);
+        } catch (const ai::Error& error) {
+            code = error.code;
+        }
+    });
+    CHECK(easel::hostCalls().fired());
+    easel::hostCalls().disarm();
+    CHECK((code == kInjected || isOneOf(kUnreported, function)));
+    CHECK(fixture.axes.axisCount == axesBefore.axisCount);
+    if (easel::dump(fixture.document()) != before) fixture.document().undo().undo();
+    CHECK(easel::dump(fixture.document()) == before);
+}
+
+} // namespace
+
+TEST_CASE("whichever host call fails, its code comes back, nothing is kept, one undo mends all") {
+    for (const Action& action : kActions) {
+        const std::vector<std::string_view> calls = fallibleCalls(action);
+        REQUIRE(calls.size() > 100); // the action does reach the host
+        for (std::size_t i = 0; i < calls.size(); ++i)
+            if (!isOneOf(kEndingLoans, calls[i])) failAt(action, i + 1, calls[i]);
+    }
+}

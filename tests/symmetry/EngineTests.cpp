@@ -1,0 +1,368 @@
+#include "easel/document/Attributes.h"
+#include "easel/document/Dump.h"
+#include "easel/document/Layers.h"
+#include "easel/document/Session.h"
+#include "host/Error.h"
+#include "symmetry/ArtSpace.h"
+#include "symmetry/Geometry.h"
+#include "symmetry/ImageCopies.h"
+#include "tests/Seed.h"
+#include "tests/symmetry/EngineFixture.h"
+
+#include <doctest/doctest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <random>
+
+using namespace facetta;
+using easel::Art;
+using facetta::tests::EngineFixture;
+
+namespace {
+
+constexpr int kAxisCounts[] = {1, 2, 3, 5, 6, 7, 12, 36, 71, 72};
+
+std::vector<const Art*> objectsIn(const Art& parent) {
+    std::vector<const Art*> objects;
+    for (const Art* art = parent.firstChild(); art != nullptr; art = art->next())
+        objects.push_back(art);
+    return objects;
+}
+
+std::string textOf(EngineFixture& fixture) {
+    // Stamps differ from run to run; that is their purpose.
+    std::string text = easel::dump(fixture.document());
+    for (std::size_t at = text.find("entry \"ts\""); at != std::string::npos;
+         at = text.find("entry \"ts\""))
+        text.erase(at, text.find('\n', at) - at);
+    return text;
+}
+
+/// A path of pieces that are straight or bent, open or closed, anywhere in the drawing.
+Art& addRandomPath(EngineFixture& fixture, std::mt19937_64& random) {
+    std::uniform_real_distribution<double> coordinate{-300.0, 300.0};
+    std::uniform_real_distribution<double> bend{-60.0, 60.0};
+    std::vector<Point> anchors(2 + random() % 6);
+    for (Point& anchor : anchors)
+        anchor = {coordinate(random), coordinate(random)};
+    Art& path = fixture.addPath(fixture.layer(), anchors, random() % 2 == 0);
+    if (random() % 2 == 0) return path;
+    for (AIPathSegment& segment : path.write().segments.write()) {
+        segment.in.h += static_cast<AIReal>(bend(random));
+        segment.out.v += static_cast<AIReal>(bend(random));
+    }
+    return path;
+}
+
+} // namespace
+
+TEST_CASE("copies fill the other sectors: the reflection, then the rotations of both, clockwise") {
+    EngineFixture fixture;
+    const Point origin{123.5, -4321.25};
+    const double angle = 0.3;
+    const auto inSector0 = [&](double turn, double radius) {
+        return origin + radius * direction(angle + turn);
+    };
+    fixture.step([&] {
+        fixture.addPath(fixture.layer(), {inSector0(0.4, 50), inSector0(0.6, 80)}, false);
+    });
+    fixture.setAxes(3, angle, origin);
+    fixture.attach();
+
+    const std::vector<const Art*> objects = objectsIn(fixture.layer());
+    REQUIRE(objects.size() == 6);
+    const double step = kTwoPi / 3;
+    const double turns[] = {0.4, -0.4, 0.4 - step, -0.4 - step, 0.4 - 2 * step, -0.4 - 2 * step};
+    for (std::size_t i = 0; i < objects.size(); ++i) {
+        INFO("object ", i);
+        const Point expected = inSector0(turns[i], 50);
+        CHECK(distance(widen(objects[i]->segments()[0].p), expected) < 0.002);
+    }
+}
+
+TEST_CASE("what is mirrored whole keeps its source and turns its matrix") {
+    EngineFixture fixture;
+    fixture.build(fixture.layer(), "t");
+    fixture.setAxes(2, 0.0, {10, 20});
+    fixture.attach();
+    const std::vector<const Art*> objects = objectsIn(fixture.layer());
+    REQUIRE(objects.size() == 4);
+    const auto matrixIs = [&](std::size_t i, const Matrix& expected) {
+        const AIRealMatrix& m = objects[i]->details().matrix;
+        const double difference = std::abs(m.a - expected.a) + std::abs(m.b - expected.b) +
+                                  std::abs(m.c - expected.c) + std::abs(m.d - expected.d) +
+                                  std::abs(m.tx - expected.tx) + std::abs(m.ty - expected.ty);
+        return difference < 1e-4;
+    };
+    CHECK(matrixIs(0, {}));
+    CHECK(matrixIs(1, {1, 0, 0, -1, 0, 40}));
+    CHECK(matrixIs(2, {-1, 0, 0, -1, 20, 40}));
+    CHECK(matrixIs(3, {-1, 0, 0, 1, 20, 0}));
+}
+
+TEST_CASE(
+    "an open path between the bounding axes becomes one closed path in the style of its source") {
+    EngineFixture fixture;
+    fixture.step([&] {
+        fixture.build(fixture.layer(), "front");
+        Art& source = fixture.addPath(fixture.layer(), {{100, 0}, {80, 30}, {0, 100}}, false);
+        source.write().details.write().name = "source";
+        source.write().details.write().note = "Mind the gap";
+        source.write().style.write().path.stroke.width = 7;
+        source.write().style.write().path.strokePaint = true;
+        easel::select(source, true);
+        fixture.build(fixture.layer(), "back");
+    });
+    fixture.setAxes(2);
+    fixture.mirrorSelection();
+
+    CHECK(fixture.notationOf(fixture.layer()) == "front source back");
+    const Art& whole = *objectsIn(fixture.layer())[1];
+    CHECK(whole.content().closed);
+    CHECK(whole.segments().size() == 8);
+    CHECK(whole.style().path.stroke.width == 7);
+    CHECK(whole.details().note == "Mind the gap");
+    CHECK(whole.has(kArtFullySelected));
+}
+
+TEST_CASE("what was selected of a path is selected of its mirrored form") {
+    EngineFixture fixture;
+    fixture.step([&] {
+        Art& source = fixture.addPath(fixture.layer(), {{100, 0}, {80, 30}, {60, 50}}, false);
+        easel::setSegmentSelection(source, 1, kSegmentPointSelected);
+    });
+    fixture.setAxes(1);
+    fixture.mirrorSelection();
+
+    const std::vector<const Art*> objects = objectsIn(fixture.layer());
+    REQUIRE(objects.size() == 1); // joined with its reflection
+    std::vector<int> selected;
+    for (std::size_t i = 0; i < objects[0]->segments().size(); ++i)
+        selected.push_back(easel::segmentSelection(*objects[0], i));
+    CHECK(selected == std::vector<int>{0, 1, 0, 1, 0});
+}
+
+TEST_CASE("a closed path that comes out in several parts is one compound path") {
+    EngineFixture fixture;
+    fixture.step([&] {
+        // A U, upside down on the axis: its legs are joined with their reflections, its bow is cut
+        // off.
+        Art& source = fixture.addPath(
+            fixture.layer(),
+            {{0, 50}, {0, -20}, {10, -20}, {10, 40}, {30, 40}, {30, -20}, {40, -20}, {40, 50}},
+            true);
+        source.write().details.write().name = "source";
+        Art& comb = fixture.addPath(fixture.layer(),
+                                    {{100, -50},
+                                     {100, 20},
+                                     {110, 20},
+                                     {110, -40},
+                                     {130, -40},
+                                     {130, 20},
+                                     {140, 20},
+                                     {140, -50}},
+                                    true);
+        comb.write().details.write().name = "comb";
+        easel::selectAll(fixture.document());
+    });
+    fixture.setAxes(1);
+    fixture.mirrorSelection();
+
+    const std::vector<const Art*> objects = objectsIn(fixture.layer());
+    REQUIRE(objects.size() == 2);
+    for (const Art* object : objects) {
+        INFO(object->details().name);
+        const bool inOnePiece = object->type() == kPathArt && object->content().closed;
+        const bool asCompound =
+            object->type() == kCompoundPathArt && objectsIn(*object).size() == 2;
+        CHECK((inOnePiece || asCompound));
+    }
+}
+
+TEST_CASE("art drawn in another sector is folded, and stays the same object") {
+    EngineFixture fixture;
+    fixture.step([&] {
+        easel::Definition& gradient =
+            fixture.document().addDefinition(easel::Definition::Kind::Gradient, "sunset");
+        fixture.build(fixture.layer(), "a");
+        Art& path = *fixture.layer().firstChild();
+        for (AIPathSegment& segment : path.write().segments.write())
+            for (AIRealPoint* point : {&segment.p, &segment.in, &segment.out})
+                point->v *= -1;
+        easel::ArtStyle& style = path.write().style.write();
+        style.fillDefinition = &gradient;
+        style.path.fillPaint = true;
+    });
+    const AIArtHandle source = fixture.layer().firstChild()->handle();
+    fixture.setAxes(1);
+    fixture.attach();
+
+    const Art& folded = *fixture.layer().firstChild();
+    CHECK(folded.handle() == source);
+    CHECK(folded.segments()[0].p.v == doctest::Approx(20));
+    CHECK(folded.style().fillMatrix.d == -1);
+    CHECK(fixture.layer().lastChild()->segments()[0].p.v == doctest::Approx(-20));
+    CHECK(fixture.layer().lastChild()->style().fillMatrix.d == 1);
+}
+
+TEST_CASE("a path that would grow too long is left as it was, and the run goes on") {
+    EngineFixture fixture;
+    std::vector<Point> longPath;
+    for (int i = 0; i < 16'002; ++i)
+        longPath.push_back({i * 0.1, 0.2 * (i % 7) * (i > 0)});
+    longPath.front() = {-5, 0};
+    longPath.back().y = 0.0;
+    fixture.step([&] {
+        fixture.addPath(fixture.layer(), longPath, false).write().details.write().name = "long";
+        fixture.addPath(fixture.layer(), {{2000, 50}, {2100, 80}}, false);
+        easel::selectAll(fixture.document());
+    });
+    const std::string before = textOf(fixture);
+    fixture.setAxes(1);
+    fixture.step([&] { MirrorEngine{fixture.environment()}.run(true, false, false, nullptr); });
+
+    CHECK(objectsIn(fixture.layer()).size() == 3);
+    CHECK(fixture.layer().firstChild()->segments().size() == longPath.size());
+    CHECK(fixture.messages.size() == 1);
+    fixture.document().undo().undo();
+    CHECK(textOf(fixture) == before);
+}
+
+TEST_CASE("anchors left on the axes go only when a selection is mirrored and the user wants it") {
+    const struct {
+        bool removePoints;
+        bool selection;
+        std::size_t anchors;
+    } rows[] = {{false, true, 3}, {true, true, 2}, {true, false, 3}, {false, false, 3}};
+    for (const auto& [removePoints, selection, anchors] : rows) {
+        INFO("removing points: ", removePoints, ", selection: ", selection);
+        EngineFixture fixture;
+        fixture.step([&] {
+            fixture.addPath(fixture.layer(), {{100, 0}, {100, 50}}, false);
+            easel::selectAll(fixture.document());
+        });
+        fixture.setAxes(1);
+        fixture.removePoints = removePoints;
+        selection ? fixture.mirrorSelection() : fixture.attach();
+        REQUIRE(objectsIn(fixture.layer()).size() == 1);
+        CHECK(fixture.layer().firstChild()->segments().size() == anchors);
+    }
+}
+
+TEST_CASE("open ends within 12 pixels of an axis are moved onto it") {
+    const struct {
+        float zoom;
+        double gap;
+        bool joined;
+    } rows[] = {{1, 11.9, true}, {1, 12.1, false}, {2, 5.9, true},
+                {2, 6.1, false}, {0, 1000, true},  {0.01F, 1201, false}};
+    for (const auto& [zoom, gap, joined] : rows) {
+        INFO("zoom ", zoom, ", gap ", gap);
+        EngineFixture fixture;
+        EngineFixture::shellSide().zoom = zoom;
+        fixture.step([&, gap = gap] {
+            fixture.addPath(fixture.layer(), {{0, gap}, {0, gap + 3000}}, false);
+            easel::selectAll(fixture.document());
+        });
+        fixture.setAxes(1);
+        fixture.mirrorSelection();
+        CHECK(objectsIn(fixture.layer()).size() == (joined ? 1 : 2));
+    }
+}
+
+TEST_CASE("the pen starts afresh after a run, no other tool does") {
+    using Names = std::vector<std::string>;
+    const struct {
+        std::string tool;
+        Names chosen;
+    } rows[] = {{"Adobe Pen Tool", {"own", "Adobe Pen Tool"}},
+                {"Adobe Pen Tool 2", {}},
+                {"Adobe Select Tool", {}}};
+    for (const auto& [tool, chosen] : rows) {
+        INFO(tool);
+        EngineFixture fixture;
+        EngineFixture::shellSide().currentTool = tool;
+        int own = 0;
+        fixture.ownTool = reinterpret_cast<AIToolHandle>(&own);
+        fixture.setAxes(1);
+        fixture.mirrorSelection();
+        CHECK(EngineFixture::shellSide().chosenTools == chosen);
+    }
+}
+
+TEST_CASE("a run neither keeps nor needs more than it is given") {
+    EngineFixture fixture;
+    fixture.build(fixture.layer(), "@a b");
+    fixture.setAxes(0);
+    const std::string before = textOf(fixture);
+    fixture.mirrorSelection();
+    fixture.regenerate();
+    CHECK(textOf(fixture) == before); // no axes
+
+    fixture.setAxes(4, 0.5);
+    fixture.attach();
+    fixture.axes = {.originX = 1, .originY = 2, .angle = 3, .axisCount = 4, .provisional = true};
+    const SymmetryAxes current = fixture.axes;
+    fixture.regenerate(); // with the layer's axes
+    CHECK(fixture.axes == current);
+}
+
+TEST_CASE("mirroring an unchanged layer again changes nothing") {
+    std::mt19937_64 random{tests::seed()};
+    for (const int axisCount : kAxisCounts) {
+        INFO("N = ", axisCount);
+        EngineFixture fixture;
+        fixture.step([&] {
+            for (int i = 0; i < 6; ++i)
+                addRandomPath(fixture, random);
+            fixture.build(fixture.layer(), "g(a k(!b d)) c(e f) t");
+        });
+        fixture.setAxes(axisCount, 0.1 * axisCount, {17.25, -8.5});
+        fixture.attach();
+        const std::string once = textOf(fixture);
+        fixture.regenerate();
+        const std::string twice = textOf(fixture);
+        CHECK(once == twice);
+    }
+}
+
+TEST_CASE("one undo takes a run back, one redo makes it again") {
+    std::mt19937_64 random{tests::seed()};
+    EngineFixture fixture;
+    fixture.step([&] {
+        for (int i = 0; i < 6; ++i)
+            addRandomPath(fixture, random);
+        fixture.build(fixture.layer(), "g(a k(!b d)) c(e f) t l(a s) d'");
+        easel::selectAll(fixture.document());
+    });
+    const std::string before = easel::dump(fixture.document());
+    fixture.setAxes(3);
+    fixture.attach();
+    fixture.mirrorSelection();
+    const std::string after = easel::dump(fixture.document());
+    fixture.document().undo().undo();
+    fixture.document().undo().undo();
+    CHECK(easel::dump(fixture.document()) == before);
+    fixture.document().undo().redo();
+    fixture.document().undo().redo();
+    CHECK(easel::dump(fixture.document()) == after);
+}
+
+TEST_CASE("objects are reflected and rotated in place or as copies that shed their marks") {
+    EngineFixture fixture;
+    fixture.build(fixture.layer(), "^a t");
+    fixture.setAxes(2);
+    std::vector<AIArtHandle> set;
+    for (const Art* art : objectsIn(fixture.layer()))
+        set.push_back(art->handle());
+    fixture.step([&] {
+        const SymmetryAxes inArt = inArtSpace(fixture.axes);
+        CHECK(reflectCopies(set, inArt, 0, Duplicate::Yes).size() == 2);
+        CHECK(rotateCopies(set, inArt, kPi / 2, Duplicate::No).empty());
+    });
+    CHECK(fixture.notationOf(fixture.layer()) == "^a a t t");
+    const AIRealPoint turned = easel::artOf(set[0]).segments()[0].p;
+    CHECK(turned.h == doctest::Approx(-20)); // (20, 20) a quarter turn counter-clockwise
+    CHECK(turned.v == doctest::Approx(20));
+}

@@ -1,0 +1,97 @@
+#include "easel/document/Attributes.h"
+#include "tests/symmetry/EngineFixture.h"
+
+#include <doctest/doctest.h>
+
+using namespace facetta;
+using facetta::tests::EngineFixture;
+
+namespace {
+
+struct WorkSetRow {
+    std::string what;
+    std::string before;
+    std::string layerAfter;     ///< After a layer run.
+    std::string selectionAfter; ///< After a run on all that can be selected.
+};
+
+// One axis, so that each source has one copy.
+const WorkSetRow kRows[] = {
+    {"paths: copies lie behind their sources", "a b", "a a' b b'", "a a b b"},
+    {"former copies are replaced", "a a' b b'", "a a' b b'", "a a a' b b b'"},
+    {"a copy whose source is gone goes", "a'", "", "a'"},
+    {"a group stays a group", "g(a b) d", "g(a a' b b') d d'", "g(a a b b) d d"},
+    {"groups in groups", "g1(g2(a) g3())", "g1(g2(a a') g3())", "g1(g2(a a) g3())"},
+    {"a copied compound goes whole", "c'(a b) d", "d d'", "c'(a b) d d"},
+    {"locked art is no source, and loses its copies", "#a a' b", "#a b b'", "#a a' b b"},
+    {"nor is hidden art", "-a a' b", "-a b b'", "-a a' b b"},
+    {"copies in a locked group are found", "#g(a a') b", "#g(a) b b'", "#g(a a') b b"},
+    {"copies in a hidden sublayer are found", "-l(a a') b", "-l(a) b b'", "-l(a a') b b"},
+    {"a sublayer is mirrored within itself", "l(a) b", "l(a a') b b'", "l(a a) b b"},
+    {"in a locked sublayer nothing is", "#l(g(a)) b", "#l(g(a)) b b'", "#l(g(a)) b b"},
+    {"guides stay alone", "~a b", "~a b b'", "~a b b"},
+    {"and so does a compound of guides", "c(~a b) d", "c(~a b) d d'", "c(~a b) d d"},
+    {"a compound is one unit", "c(a b)", "c(a b) c'(a b)", "c(a b) c(a b)"},
+    {"so is one with groups", "c(g(a) b)", "c(g(a) b) c'(g(a) b)", "c(g(a) b) c(g(a) b)"},
+    {"a clip group is one unit", "k(!a b)", "k(!a b) k'(!a b)", "k(!a b) k(!a b)"},
+    {"whatever is inside", "k(!a g(b k2(!d t)))", "k(!a g(b k2(!d t))) k'(!a g(b k2(!d t)))",
+     "k(!a g(b k2(!d t))) k(!a g(b k2(!d t)))"},
+    {"locked members travel along", "k(!a #b)", "k(!a #b) k'(!a #b)", "k(!a #b) k(!a #b)"},
+    {"a clip group without a mask clips nothing", "k(a b)", "k(a a' b b')", "k(a a b b)"},
+    {"a copy that came into a clip group goes", "k(!a b')", "k(!a) k'(!a)", "k(!a b') k(!a b')"},
+    {"a plug-in group is one unit", "p(a) b", "p(a) p'(a) b b'", "p(a) p(a) b b"},
+    {"text, symbols and pictures", "t s i", "t t' s s' i i'", "t t s s i i"},
+    {"art tagged 2 is source art", "^a", "^a a'", "^a a"},
+    {"but not when it is locked", "#^a b", "#^a b b'", "#^a b b"},
+    {"nothing at all", "", "", ""},
+};
+
+} // namespace
+
+TEST_CASE("a layer run takes every source on the layer and replaces every copy") {
+    for (const WorkSetRow& row : kRows) {
+        INFO(row.what);
+        EngineFixture fixture;
+        fixture.build(fixture.layer(), row.before);
+        fixture.setAxes(1);
+        fixture.attach();
+        CHECK(fixture.notationOf(fixture.layer()) == row.layerAfter);
+        fixture.regenerate();
+        CHECK(fixture.notationOf(fixture.layer()) == row.layerAfter);
+    }
+}
+
+TEST_CASE("a selection run mirrors what is selected and leaves plain art") {
+    for (const WorkSetRow& row : kRows) {
+        INFO(row.what);
+        EngineFixture fixture;
+        fixture.build(fixture.layer(), row.before);
+        fixture.setAxes(1);
+        fixture.step([&] { easel::selectAll(fixture.document()); });
+        fixture.mirrorSelection();
+        CHECK(fixture.notationOf(fixture.layer()) == row.selectionAfter);
+    }
+}
+
+TEST_CASE("part of a unit stands for the whole, and the rest of the layer is let alone") {
+    const struct {
+        std::string before;
+        std::string after;
+    } rows[] = {
+        {"@a b", "a a b"},
+        {"g(@a b) d", "g(a a b) d"},
+        {"k(!a @b) d", "k(!a b) k(!a b) d"},
+        {"c(@a b) d", "c(a b) c(a b) d"},
+        {"p(a @b) d", "p(a b) p(a b) d"},
+        {"k(!@a @b) k2(!d e)", "k(!a b) k(!a b) k2(!d e)"},
+        {"a b", "a b"},
+    };
+    for (const auto& [before, after] : rows) {
+        INFO(before);
+        EngineFixture fixture;
+        fixture.build(fixture.layer(), before);
+        fixture.setAxes(1);
+        fixture.mirrorSelection();
+        CHECK(fixture.notationOf(fixture.layer()) == after);
+    }
+}
