@@ -1,0 +1,174 @@
+#include "tests/easel/document/Plugin.h"
+
+namespace easel::tests {
+namespace {
+
+TEST_CASE("a container is selected as its descendants are") {
+    const Drawing drawing;
+    const AIArtHandle group = drawing.make(kGroupArt);
+    const AIArtHandle a = drawing.make(kPathArt, kPlaceInsideOnTop, group);
+    const AIArtHandle b = drawing.make(kPathArt, kPlaceInsideOnTop, group);
+    CHECK_FALSE(isAttribute(group, kArtSelected));
+    CHECK(art().SetArtUserAttr(a, kArtSelected, kArtSelected) == kNoErr);
+    CHECK(isAttribute(group, kArtSelected));
+    CHECK_FALSE(isAttribute(group, kArtFullySelected));
+    CHECK(art().SetArtUserAttr(group, kArtFullySelected, kArtFullySelected) == kNoErr);
+    CHECK(isAttribute(b, kArtFullySelected));
+    CHECK(isAttribute(group, kArtFullySelected));
+    // Locking deselects, and a group is then selected without what cannot be.
+    CHECK(art().SetArtUserAttr(a, kArtLocked, kArtLocked) == kNoErr);
+    CHECK_FALSE(isAttribute(a, kArtSelected));
+    CHECK_FALSE(isAttribute(group, kArtFullySelected));
+}
+
+TEST_CASE("what is locked or hidden, or lies in what is, refuses to be changed") {
+    struct Row {
+        const char* what;
+        ai::int32 attribute;
+        bool onLayer;
+        AIErr code;
+    };
+    const Row rows[] = {
+        {"locked group", kArtLocked, false, kUntouchableArtObjectErr},
+        {"hidden group", kArtHidden, false, kUntouchableArtObjectErr},
+        {"locked layer", kArtLocked, true, kUntouchableLayerErr},
+        {"hidden layer", kArtHidden, true, kUntouchableLayerErr},
+    };
+    for (const auto& [what, attribute, onLayer, code] : rows) {
+        INFO(what);
+        const Drawing drawing;
+        const AIArtHandle group = drawing.make(kGroupArt);
+        const AIArtHandle child = drawing.makePath({{0, 0}, {1, 1}});
+        REQUIRE(art().ReorderArt(child, kPlaceInsideOnTop, group) == kNoErr);
+        const AIArtHandle culprit = onLayer ? drawing.layerGroup().handle() : group;
+        REQUIRE(art().SetArtUserAttr(culprit, attribute, attribute) == kNoErr);
+        const std::string before = dump(drawing.document);
+
+        AIRealMatrix matrix{2, 0, 0, 2, 0, 0};
+        AIArtHandle made = nullptr;
+        CHECK(art().DisposeArt(child) == code);
+        CHECK(transform().TransformArt(child, &matrix, 1, kTransformObjects) == code);
+        CHECK(path().SetPathClosed(child, 1) == code);
+        CHECK(art().NewArt(kPathArt, kPlaceInsideOnTop, group, &made) == code);
+        CHECK(art().SetArtUserAttr(child, kArtSelected, kArtSelected) == code);
+        CHECK(art().SetArtUserAttr(child, kArtLocked, kArtLocked) == code);
+        CHECK(dump(drawing.document) == before);
+
+        session().allowAllChanges = true; // overlooks the parents
+        CHECK(path().SetPathClosed(child, 1) == kNoErr);
+        CHECK(art().SetArtUserAttr(child, kArtLocked, kArtLocked) == kNoErr);
+        CHECK(path().SetPathClosed(child, 0) == kUntouchableArtObjectErr); // but not itself
+    }
+}
+
+TEST_CASE("locked art takes dictionary entries, and is unlocked first and locked last") {
+    const Drawing drawing;
+    const AIArtHandle made = drawing.makePath({{0, 0}, {1, 1}});
+    CHECK(art().SetArtUserAttr(made, kArtLocked, kArtLocked) == kNoErr);
+    AIDictionaryRef entries = nullptr;
+    CHECK(art().GetDictionary(made, &entries) == kNoErr);
+    CHECK(dictionary().SetIntegerEntry(entries, dictionary().Key("tag"), 1) == kNoErr);
+    dictionary().Release(entries);
+    CHECK(art().SetArtUserAttr(made, kArtLocked, 0) == kNoErr);
+    CHECK(art().DisposeArt(made) == kNoErr);
+}
+
+TEST_CASE("attributes that the plug-in may not set are refused") {
+    const Drawing drawing;
+    const AIArtHandle group = drawing.make(kGroupArt);
+    const AIArtHandle made = drawing.make(kPathArt, kPlaceInsideOnTop, group);
+    for (const ai::int32 attribute : {ai::int32{kArtHasSimpleStyle}, ai::int32{kArtHasActiveStyle},
+                                      ai::int32{kArtPartOfCompound}, ai::int32{kArtSelectedLeaves}})
+        CHECK(art().SetArtUserAttr(made, attribute, attribute) == kBadParameterErr);
+    // A clip mask needs a clip group around it.
+    CHECK(art().SetArtUserAttr(made, kArtIsClipMask, kArtIsClipMask) == kBadParameterErr);
+    const auto& groups = suite<AIGroupSuite>(kAIGroupSuite, kAIGroupSuiteVersion);
+    CHECK(groups.SetGroupClipped(group, 1) == kNoErr);
+    CHECK(art().SetArtUserAttr(made, kArtIsClipMask, kArtIsClipMask) == kNoErr);
+    CHECK(isAttribute(made, kArtIsClipMask));
+}
+
+TEST_CASE("time stamps tell edits of art and leave dictionaries and selection out") {
+    const Drawing drawing;
+    const AIArtHandle made = drawing.makePath({{0, 0}, {1, 1}});
+    const AIArtHandle group = drawing.layerGroup().handle();
+    const auto stampOf = [](AIArtHandle handle) {
+        std::size_t stamp = 0;
+        CHECK(art().GetArtTimeStamp(handle, &stamp) == kNoErr);
+        return stamp;
+    };
+    struct Row {
+        const char* what;
+        void (*change)(AIArtHandle);
+        bool counts;
+    };
+    const Row rows[] = {
+        {"a dictionary entry",
+         [](AIArtHandle handle) { artOf(handle).dictionary().set(internKey("ts"), 1); }, false},
+        {"selecting",
+         [](AIArtHandle handle) { art().SetArtUserAttr(handle, kArtSelected, kArtSelected); },
+         false},
+        {"geometry", [](AIArtHandle handle) { path().SetPathClosed(handle, 1); }, true},
+        {"locking",
+         [](AIArtHandle handle) { art().SetArtUserAttr(handle, kArtLocked, kArtLocked); }, true},
+        {"unlocking", [](AIArtHandle handle) { art().SetArtUserAttr(handle, kArtLocked, 0); },
+         true},
+        {"touching",
+         [](AIArtHandle handle) {
+             AIDictionaryRef entries = nullptr;
+             art().GetDictionary(handle, &entries);
+             dictionary().TouchArt(entries);
+             dictionary().Release(entries);
+         },
+         true},
+        {"deleting", [](AIArtHandle handle) { art().DisposeArt(handle); }, true},
+    };
+    for (const auto& [what, change, counts] : rows) {
+        INFO(what);
+        const std::size_t before = stampOf(group);
+        change(made);
+        CHECK((stampOf(group) > before) == counts);
+    }
+}
+
+TEST_CASE("hiding a layer stamps its group but not what is on it") {
+    const Drawing drawing;
+    const AIArtHandle made = drawing.make(kPathArt);
+    const std::uint64_t own = artOf(made).stamp();
+    const std::uint64_t group = drawing.layerGroup().stamp();
+    AILayerHandle handle = layerHandle(&drawing.layerGroup());
+    CHECK(layer().SetLayerVisible(handle, 0) == kNoErr);
+    CHECK(artOf(made).stamp() == own);
+    CHECK(drawing.layerGroup().stamp() > group);
+    AIBoolean visible = 1;
+    CHECK(layer().GetLayerVisible(handle, &visible) == kNoErr);
+    CHECK(visible == 0);
+}
+
+TEST_CASE("transferring everything leaves geometry, flags, selection and entries alone") {
+    const Drawing drawing;
+    const AIArtHandle source = drawing.makePath({{0, 0}, {9, 9}});
+    const AIArtHandle target = drawing.makePath({{5, 5}});
+    AIPathStyle style = unpaintedStyle();
+    style.strokePaint = 1;
+    style.stroke.color = rgbColor(1, 0, 0);
+    const auto& styles = suite<AIPathStyleSuite>(kAIPathStyleSuite, kAIPathStyleSuiteVersion);
+    CHECK(styles.SetPathStyle(source, &style) == kNoErr);
+    CHECK(path().SetPathClosed(source, 1) == kNoErr);
+    drawing.name(source, "petal");
+    artOf(source).dictionary().set(internKey("tag"), 1);
+    CHECK(art().SetArtUserAttr(source, kArtLocked, kArtLocked) == kNoErr);
+    CHECK(art().TransferAttributes(source, target, kTransferAll) == kNoErr);
+
+    AIPathStyle transferred{};
+    CHECK(styles.GetPathStyle(target, &transferred) == kNoErr);
+    CHECK(transferred.stroke.color.c.rgb.red == 1);
+    CHECK(artOf(target).details().name == "petal");
+    CHECK(isAttribute(target, kArtLocked));
+    CHECK(artOf(target).segments().size() == 1);
+    CHECK_FALSE(artOf(target).content().closed);
+    CHECK(artOf(target).dictionaryIfAny() == nullptr);
+}
+
+} // namespace
+} // namespace easel::tests

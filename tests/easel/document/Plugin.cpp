@@ -1,0 +1,12 @@
+#include "tests/easel/document/Plugin.h"
+
+namespace easel::tests {
+
+SuiteServer& server() {
+    static SuiteServer theServer;
+    static const bool installed = (installDocumentSuites(theServer), true);
+    static_cast<void>(installed);
+    return theServer;
+}
+
+} // namespace easel::tests
