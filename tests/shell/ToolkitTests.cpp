@@ -1,0 +1,40 @@
+#include "tests/shell/Session.h"
+
+#include "host/MessageNames.h"
+#include "toolkit/Toolkit.h"
+
+using namespace facetta;
+using namespace facetta::tests;
+
+TEST_CASE("the toolkit follows the interface's brightness until the host closes") {
+    Session session;
+    session.host.start();
+    NRDM::Toolkit toolkit(session.plugin);
+    CHECK_FALSE(toolkit.theme().dark);
+    const float light = toolkit.theme().background.red;
+
+    /// What the host would send for the registration of that type made last: the toolkit's own.
+    const auto serve = [&](std::string_view type) {
+        AINotifierHandle own = nullptr;
+        for (const auto& [handle, notifier] : session.host.notifiers)
+            if (notifier->type == type) own = handle;
+        return toolkit.serve(own);
+    };
+    session.host.user.darkTheme = true;
+    CHECK(serve(kUIBrightnessChangedNotifier));
+    CHECK(toolkit.theme().dark);
+    CHECK(toolkit.theme().background.red < light);
+    CHECK(toolkit.theme().text.red > toolkit.theme().background.red);
+
+    session.host.user.darkTheme = false;
+    CHECK_FALSE(serve("AI Preference Changed Notifier"));
+    CHECK_FALSE(toolkit.serve(nullptr));
+    CHECK(toolkit.theme().dark); // none of those was its own
+    CHECK(serve(kAllPluginsStartedNotifier));
+    CHECK_FALSE(toolkit.theme().dark);
+
+    session.host.user.darkTheme = true;
+    CHECK(serve(kApplicationShutdownNotifier));
+    CHECK(serve(kUIBrightnessChangedNotifier));
+    CHECK_FALSE(toolkit.theme().dark); // nothing is drawn any more
+}
