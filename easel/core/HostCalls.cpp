@@ -40,6 +40,7 @@ bool HostCalls::planned(const SlotRecord& slot) {
 bool HostCalls::enter(SlotRecord& slot) {
     ++slot.calls;
     ++total_;
+    if (total_ % kCallsPerPulse == 0 && pulse_) pulse_();
     if (recording_) recorded_.push_back(&slot);
     const bool fails = planned(slot);
     fired_ = fired_ || fails;

@@ -4,7 +4,9 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace easel {
@@ -52,6 +54,10 @@ public:
         return recorded_;
     }
 
+    /// Called again and again while calls come, for a sign of life in long work; empty: never.
+    void setPulse(std::function<void()> pulse) { pulse_ = std::move(pulse); }
+    static constexpr std::uint64_t kCallsPerPulse = 1 << 16;
+
     // For the exposed functions.
     /// Counts the call; true when it is to fail with `faultCode()` before it has any effect.
     [[nodiscard]] bool enter(SlotRecord& slot);
@@ -70,6 +76,7 @@ private:
     int depth_ = 0; ///< A host function may call the plug-in, which calls the host again.
     std::uint64_t total_ = 0;
     std::uint64_t fallibleCalls_ = 0;
+    std::function<void()> pulse_;
     std::chrono::nanoseconds time_{0};
     std::chrono::steady_clock::time_point entered_;
     std::vector<const SlotRecord*> recorded_;

@@ -359,9 +359,10 @@ std::string Host::undoText() const {
     return text.empty() ? "Undo" : text;
 }
 
-void Host::edit(const std::string& undoText, const std::function<void(Document&)>& change) {
+void Host::edit(const std::string& undoText, const std::function<void(Document&)>& change,
+                AIUndoContextKind kind) {
     Document& document = currentDocument();
-    const AIAppContextHandle context = contexts.push(nullptr);
+    const AIAppContextHandle context = contexts.push(nullptr, kind);
     document.undo().setTexts("Undo " + undoText, "Redo " + undoText);
     change(document);
     contexts.pop(context);

@@ -115,7 +115,9 @@ public:
     /// What the Undo item of the menu would say.
     [[nodiscard]] std::string undoText() const;
     /// What the user does to the document without any plug-in: one undo step with that menu text.
-    void edit(const std::string& undoText, const std::function<void(Document&)>& change);
+    /// Choosing what is selected is a silent one.
+    void edit(const std::string& undoText, const std::function<void(Document&)>& change,
+              AIUndoContextKind kind = kStandardUndoContext);
 
     // Menus
     /// The user opens the menu bar: items that want to are asked to bring themselves up to date.

@@ -1,0 +1,159 @@
+#include "easel/cli/MirrorSession.h"
+
+#include "easel/document/Attributes.h"
+#include "easel/document/Layers.h"
+#include "easel/svg/SvgFile.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace easel {
+namespace {
+
+/// The plug-in as a user knows it: the name of its settings and of its tool.
+constexpr const char* kSettings = "Facetta";
+constexpr const char* kToolName = "Facetta Tool";
+
+double radians(double degrees) {
+    const double turned = std::fmod(degrees, 360.0);
+    return (turned < 0 ? turned + 360.0 : turned) * std::numbers::pi / 180.0;
+}
+
+/// The drawing's y runs down, the document's up.
+AIRealPoint softPoint(DrawingPoint point) {
+    return {static_cast<AIReal>(point.x), static_cast<AIReal>(-point.y)};
+}
+
+AIRealPoint middleOf(const Document& document) {
+    const AIRealRect board = document.artboard();
+    return {(board.left + board.right) / 2, (board.top + board.bottom) / 2};
+}
+
+Art& layerNamed(const Document& document, const std::string& title) {
+    if (Art* const layer = findLayer(document, title)) return *layer;
+    std::string known;
+    for (const Art* layer = layerFrom(document.root().firstChild()); layer != nullptr;
+         layer = nextLayerInPreorder(*layer))
+        known += (known.empty() ? "" : ", ") + ('"' + layer->details().layer.title + '"');
+    throw SessionError(document.path.string() + ": there is no layer \"" + title +
+                       "\"; its layers are " + known);
+}
+
+void selectLayer(Document& document, Art& layer) {
+    deselectAll(document);
+    for (Art* art = nextInPreorder(layer, layer); art != nullptr; art = nextInPreorder(*art, layer))
+        if (!isContainer(*art) && isEditable(*art)) select(*art, true);
+}
+
+} // namespace
+
+void MirrorSession::prepare(const MirrorRequest& request) {
+    host.preferences.put(kSettings, "FTAngle", radians(request.angleDegrees));
+    host.preferences.put(kSettings, "FTCount", ai::int32{request.axes});
+    host.preferences.put(kSettings, "FTInitDragPO", true);
+    host.preferences.put(kSettings, "FTApplySel", request.mode == MirrorMode::Selection);
+    host.preferences.put(kSettings, "FTRemovePoints", !request.keepPoints);
+}
+
+void MirrorSession::start() {
+    host.start();
+    for (const auto& [handle, plugin] : host.plugins)
+        if (plugin->broken) throw SessionError(plugin->name + ": the plug-in did not start");
+}
+
+std::vector<std::string> MirrorSession::open(const std::filesystem::path& file) {
+    svg::OpenedDrawing drawing = svg::readSvg(file);
+    drawing.document->path = file;
+    host.open(std::move(drawing.document));
+    return std::move(drawing.warnings);
+}
+
+void MirrorSession::choose(const MirrorRequest& request) {
+    Document& document = currentDocument();
+    Art* const layer = request.layer.empty() ? nullptr : &layerNamed(document, request.layer);
+    if (request.mode == MirrorMode::Layer) {
+        if (layer == nullptr) return;
+        host.edit(
+            "Choose Layer", [&](Document& changed) { setCurrentLayer(changed, *layer); },
+            kSilentUndoContext);
+        return;
+    }
+    host.edit(
+        "Select",
+        [&](Document& changed) {
+            if (layer == nullptr)
+                selectAll(changed);
+            else
+                selectLayer(changed, *layer);
+        },
+        kSilentUndoContext);
+    if (selectionOf(document.root()) == Selected::No)
+        throw SessionError(document.path.string() +
+                           ": there is nothing to select; art that is to be mirrored must be "
+                           "visible and not locked");
+}
+
+void MirrorSession::mirror(const MirrorRequest& request) {
+    const AIToolHandle tool = host.tools.named(kToolName);
+    if (tool == nullptr)
+        throw SessionError(std::string("the plug-in has no tool \"") + kToolName +
+                           "\"; is it the right one?");
+    const std::size_t before = host.sent.size();
+    choose(request);
+    host.cursorSnap.enabled = false; // the origin is exactly where it was asked for
+    const MousePoint origin{request.origin ? softPoint(*request.origin)
+                                           : middleOf(currentDocument())};
+    host.selectTool(tool);
+    host.track(origin);
+    host.press(origin);
+    host.release(origin);
+    host.editToolOptions(); // applies the axes
+    checkAnswers(before);
+}
+
+void MirrorSession::checkAnswers(std::size_t first) const {
+    for (std::size_t i = first; i < host.sent.size(); ++i) {
+        const SentMessage& message = host.sent[i];
+        if (message.result != kNoErr)
+            throw SessionError(message.plugin + " answered " + codeText(message.result) + " to " +
+                               message.caller + '/' + message.selector);
+    }
+}
+
+void MirrorSession::save(const std::filesystem::path& file) {
+    host.beforeSaving();
+    svg::writeSvg(currentDocument(), file);
+    host.afterSaving();
+}
+
+std::vector<std::string> MirrorSession::finish() {
+    host.quit();
+    return host.complaints();
+}
+
+void addPluginLibrary(Host& host, const std::filesystem::path& file) {
+    try {
+        host.addPlugins(file);
+    } catch (const ai::Error& error) {
+        const std::string name = file.string();
+        if (error.code == kSPPluginNotFoundError)
+            throw SessionError(name + ": there is no plug-in; --plugin FILE names another");
+        throw SessionError(name + ": not a plug-in that can be loaded: " + codeText(error.code));
+    }
+}
+
+std::filesystem::path defaultPluginLibrary() {
+    const std::filesystem::path program = programFolder();
+    const std::filesystem::path name = pluginFileName();
+    const std::filesystem::path places[] = {
+        program / name,
+        program / "dist" / name,
+        program.parent_path() / "dist" / name,
+        std::filesystem::current_path() / "dist" / name,
+    };
+    for (const std::filesystem::path& place : places)
+        if (std::filesystem::exists(place)) return place;
+    return places[0];
+}
+
+} // namespace easel

@@ -1,0 +1,124 @@
+#include "easel/cli/Info.h"
+#include "easel/cli/MirrorCommand.h"
+#include "easel/cli/Terminal.h"
+
+#include "Version.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <iostream>
+#include <map>
+#include <utility>
+
+namespace {
+
+using easel::ExitStatus;
+
+constexpr int kMostAxes = 72;
+
+/// The options of `easel mirror` as they stand on the command line.
+struct MirrorWords {
+    easel::MirrorCommand command;
+    std::string input;
+    std::string output;
+    std::string picture;
+    std::string plugin;
+    std::vector<double> origin;
+};
+
+void addMirror(CLI::App& app, MirrorWords& words) {
+    static const std::map<std::string, easel::MirrorMode> kModes = {
+        {"selection", easel::MirrorMode::Selection}, {"layer", easel::MirrorMode::Layer}};
+    easel::MirrorRequest& request = words.command.request;
+    CLI::App* const mirror = app.add_subcommand("mirror", "Mirror a drawing across axes");
+    mirror->add_option("input", words.input, "The drawing")->required()->type_name("IN.svg");
+    mirror->add_option("-o,--output", words.output, "Where the result goes")
+        ->required()
+        ->type_name("OUT.svg");
+    mirror->add_option("--axes", request.axes, "Number of axes, 1 to 72")
+        ->required()
+        ->check(CLI::Range(1, kMostAxes))
+        ->type_name("N");
+    mirror
+        ->add_option("--angle", request.angleDegrees,
+                     "Angle of the first axis, degrees counter-clockwise")
+        ->type_name("DEG");
+    mirror
+        ->add_option("--origin", words.origin,
+                     "Where the axes cross, in the drawing's units, y down; by default its middle")
+        ->delimiter(',')
+        ->expected(2)
+        ->type_name("X,Y");
+    mirror
+        ->add_option("--mode", request.mode,
+                     "selection: mirror the art once; layer: leave the axes on the layer")
+        ->transform(CLI::Transformer(kModes))
+        ->type_name("selection|layer");
+    mirror->add_option("--layer", request.layer, "Only this layer")->type_name("NAME");
+    mirror->add_flag("--keep-points", request.keepPoints,
+                     "Keep the points made on the axes where the shape needs none");
+    mirror->add_option("--png", words.picture, "Paint the result as well")->type_name("OUT.png");
+    mirror->add_option("--plugin", words.plugin, "The plug-in's library")->type_name("FILE");
+    mirror->add_flag("--stats", words.command.statistics, "Tell counts and seconds as JSON");
+}
+
+ExitStatus mirror(MirrorWords& words) {
+    easel::MirrorCommand& command = words.command;
+    command.input = easel::pathFromUtf8(words.input);
+    command.output = easel::pathFromUtf8(words.output);
+    command.picture = easel::pathFromUtf8(words.picture);
+    command.plugin = easel::pathFromUtf8(words.plugin);
+    if (!words.origin.empty())
+        command.request.origin = easel::DrawingPoint{words.origin[0], words.origin[1]};
+    return easel::runMirror(command, std::cout, std::cerr);
+}
+
+struct InfoWords {
+    std::string file;
+    easel::InfoOptions options;
+};
+
+void addInfo(CLI::App& app, InfoWords& words) {
+    CLI::App* const info = app.add_subcommand("info", "Tell what a drawing holds");
+    info->add_option("file", words.file, "The drawing")->required()->type_name("FILE.svg");
+    info->add_flag("--json", words.options.json, "As JSON");
+}
+
+ExitStatus info(InfoWords& words) {
+    words.options.file = easel::pathFromUtf8(words.file);
+    try {
+        return static_cast<ExitStatus>(easel::runInfo(words.options, std::cout));
+    } catch (const std::exception& wrong) {
+        std::cerr << wrong.what() << '\n';
+        return ExitStatus::Fault;
+    }
+}
+
+/// Takes the arguments without the program's name.
+int run(std::vector<std::string> arguments) {
+    CLI::App app{"Easel opens drawings, mirrors them with the Facetta plug-in and saves them.",
+                 "easel"};
+    app.set_version_flag("--version", "easel " FACETTA_VERSION);
+    app.require_subcommand(1);
+    MirrorWords mirrorWords;
+    InfoWords infoWords;
+    addMirror(app, mirrorWords);
+    addInfo(app, infoWords);
+    try {
+        std::reverse(arguments.begin(), arguments.end()); // the parser takes them from the back
+        app.parse(std::move(arguments));
+    } catch (const CLI::ParseError& error) {
+        return static_cast<int>(app.exit(error) == 0 ? ExitStatus::Done : ExitStatus::Usage);
+    }
+    const bool asksInfo = app.got_subcommand("info");
+    return static_cast<int>(asksInfo ? info(infoWords) : mirror(mirrorWords));
+}
+
+} // namespace
+
+int main(int count, char** arguments) {
+    std::vector<std::string> given = easel::utf8Arguments(count, arguments);
+    given.erase(given.begin());
+    return run(std::move(given));
+}
