@@ -16,7 +16,8 @@ constexpr Length kBeyondMeasure = Length{1} << 40;
 Length held(Length length) { return std::clamp(length, -kBeyondMeasure, kBeyondMeasure); }
 
 /// Fill alignments have guides on both sides: the side they are aligned to has the item's own,
-/// the other those of the children within.
+/// the other those of the children within. Centred ones have none: they stand where their
+/// rectangle goes.
 bool hasNearGuides(Alignment alignment) {
     return alignment == Alignment::Near || alignment == Alignment::NearFill ||
            alignment == Alignment::FarFill;
@@ -183,7 +184,6 @@ private:
             const std::size_t index = container.children[i];
             NodeOnAxis& child = state(index);
             if (child.alignment == Alignment::Default) child.alignment = box.childAlignment;
-            if (isCentred(child.alignment)) child.stopsGuides = true;
             if (isLeaf(nodes_[index])) takeMeasuredGuides(child);
             if (isAlong(container)) child.before = gapBefore(container, i);
             if (offersNear(child)) count(nearSlots, child.nearGuides);

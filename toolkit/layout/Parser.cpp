@@ -293,7 +293,7 @@ private:
 
     MaybeValue readConditional(Evaluate evaluate) {
         const Level level(valueDepth_, current().position);
-        const MaybeValue condition = readBinary(kLowestPrecedence, evaluate);
+        MaybeValue condition = readBinary(kLowestPrecedence, evaluate);
         if (!takeMark("?")) return condition;
         const std::optional<bool> truth =
             condition ? std::optional(truthIn(*condition)) : std::nullopt;

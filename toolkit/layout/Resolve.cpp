@@ -36,7 +36,7 @@ std::string needOf(const KeyRecord& key) {
 
 /// `number` cut toward zero, or nothing when the key does not reach so far.
 std::optional<double> wholeNumber(const KeyRecord& key, double number) {
-    const double whole = std::trunc(number) + 0.0; // and no negative zero
+    const double whole = std::trunc(number);
     const bool inRange = whole >= key.lowest && whole <= key.highest;
     return inRange ? std::optional(whole) : std::nullopt;
 }

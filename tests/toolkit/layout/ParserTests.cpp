@@ -107,7 +107,7 @@ TEST_CASE("constants of the text's own") {
          "(1,28): error: \"a\" is declared twice\n"},
         {"layout T { constant: yes: 1; view dialog(); }",
          "(1,22): error: \"yes\" has its value already\n"},
-        {"layout T { constant: a: 1/0; b: a + 1; view dialog(width: b, height: a); }",
+        {"layout T { constant: a: 1/0; b: a + 1; view dialog(width: b, height: a, spacing: [a]); }",
          "(1,25): error: division by zero\n"},
         {"layout T { constant: a 1; b: 2; c: ; view dialog(width: b); }",
          "(1,24): error: expected ':' after the constant's name, found the number 1\n"
@@ -191,6 +191,12 @@ TEST_CASE("after an error reading goes on with the next element") {
          "(3,8): error: expected the name of an attribute, found the number 3\n"
          "(4,23): error: a byte that belongs to no word, number, text or mark\n"
          "(5,16): error: \"height\" takes a number from 0 to 16383, not the number -1\n"},
+        {dialog("width: no", "row() {\n"
+                             "button(width }\n"
+                             "button(3);"),
+         "(1,34): error: \"width\" takes a number from 0 to 16383, not no\n"
+         "(2,14): error: expected ':' after \"width\", found '}'\n"
+         "(3,8): error: expected the name of an attribute, found the number 3\n"},
         {"layout T { view dialog() { row() { row() {",
          "(1,43): error: expected '}' to close the block, found the end of the text\n"},
     };
@@ -247,9 +253,12 @@ TEST_CASE("texts pass through as they are") {
 }
 
 TEST_CASE("the limits hold exactly") {
-    const auto blocks = [](int depth) {
-        return dialog("", repeated("row() {", static_cast<std::size_t>(depth) - 1) +
-                              repeated("}", static_cast<std::size_t>(depth) - 1));
+    const auto blocks = [](int depth, const std::string& innermost = "") {
+        const auto rows = static_cast<std::size_t>(depth) - 1;
+        return dialog("", repeated("row() {", rows) + innermost + repeated("}", rows));
+    };
+    const auto clusters = [](std::size_t count) { // two elements each
+        return dialog("", repeated("popup_cluster(popup_item_width: 9);", count));
     };
     const auto value = [](std::string_view open, std::string_view close, int depth) {
         const auto times = static_cast<std::size_t>(depth) - 1;
@@ -282,6 +291,9 @@ TEST_CASE("the limits hold exactly") {
         {name(kMaxStringBytes), name(kMaxStringBytes + 1), "a text has 1024 bytes at most"},
         {spacing(kMaxListNumbers), spacing(kMaxListNumbers + 1), "a list has 64 numbers at most"},
         {rows(kMaxElements), rows(kMaxElements + 1), "more than 1000 elements"},
+        {clusters(kMaxElements / 2 - 1), clusters(kMaxElements / 2), "more than 1000 elements"},
+        {blocks(kMaxDepth - 1, "popup_cluster() { row(); }"),
+         blocks(kMaxDepth - 1, "popup_cluster() { entry(); }"), "nested more than 64 deep"},
     };
     for (const auto& [within, beyond, message] : limits) {
         INFO(message);

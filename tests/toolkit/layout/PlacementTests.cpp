@@ -141,6 +141,9 @@ TEST_CASE("alignment") {
         {"a filled item at the far end across its container sticks out of it",
          dialog("", button(200) + button(40, "horizontal: align_right_fill")),
          "200x50: 0,0 200x20; 160,30 200x20"},
+        {"and with an indent both end and length give way",
+         dialog("", button(200) + button(40, "horizontal: align_right_fill, indent: 12")),
+         "200x50: 0,0 200x20; 148,30 188x20"},
         {"a container placed as a leaf has no eye for its children",
          dialog("", button(10) + row("placement: place_leaf", button(40) + button(30))),
          "10x30: 0,0 10x20; 0,30 0x0; 0,30 40x20; 0,30 30x20"},
@@ -222,6 +225,26 @@ TEST_CASE("guides meet") {
          dialog("placement: place_row, spacing: 2, child_vertical: align_bottom",
                 text("baseline: 13") + input("baseline: 16")),
          "158x22: 0,3 60x16; 62,0 96x22"},
+        {"from the bottom the row grows too",
+         dialog("placement: place_row, spacing: 0, child_vertical: align_bottom",
+                item("static_text", 10, 20, "baseline: 2") +
+                    item("edit_text", 10, 30, "baseline: 20")),
+         "20x38: 0,18 10x20; 10,0 10x30"},
+        {"into a row that fills toward the far end",
+         dialog("", row("horizontal: align_right_fill", edit(100, "hsnap: 30")) +
+                        edit(120, "hsnap: 50")),
+         "120x54: 0,0 120x22; 20,0 100x22; 0,32 120x22"},
+        {"from the far end into a row that fills, which makes room",
+         dialog("child_horizontal: align_right",
+                row("horizontal: align_fill", edit(100, "horizontal: align_right, hsnap: 30")) +
+                    edit(120, "hsnap: 20")),
+         "130x54: 0,0 130x22; 0,0 100x22; 10,32 120x22"},
+        {"one line for all items of a row inside a column",
+         dialog("placement: place_row, spacing: 20",
+                column("spacing: 6", row("spacing: 2", label() + label()) + label()) +
+                    column("spacing: 6", field() + field())),
+         "202x50: 0,0 102x47; 0,0 102x19; 0,3 50x16; 52,3 50x16; 0,31 50x16; 122,0 80x50; "
+         "122,0 80x22; 122,28 80x22"},
         {"a negative baseline is none",
          dialog("placement: place_row, spacing: 2", text("baseline: -1") + input("baseline: 16")),
          "158x22: 0,0 60x16; 62,0 96x22"},
@@ -232,18 +255,27 @@ TEST_CASE("guides meet") {
          dialog("height: 56, margin_bottom: 10, child_vertical: align_bottom",
                 item("static_text", 60, 16, "baseline: 13")),
          "60x56: 0,20 60x16"},
+        {"and so in columns that line up from the bottom: only their last lines meet",
+         dialog("placement: place_row, spacing: 0, child_vertical: align_bottom",
+                column("spacing: 6, child_vertical: align_bottom", label() + label()) +
+                    column("spacing: 6, child_vertical: align_bottom", field() + field())),
+         "130x50: 0,3 50x47; 0,-22 50x16; 0,31 50x16; 50,0 80x50; 50,-28 80x22; 50,28 80x22"},
     };
     check(rows);
 }
 
 TEST_CASE("an item tells where its guides have come to lie") {
-    const Layout layout =
-        load(dialog("spacing: 4", item("edit_text", 100, 22, "hsnap: [30, 80]") +
-                                      item("edit_text", 110, 22, "hsnap: [50, 90]")),
-             "test");
-    MeasuredLayout tree = measured(layout, PlainSizes());
-    layOutBothAxes(tree, PlainSizes());
-    CHECK(tree.nodes[1].on(Axis::X).guides == std::vector<engine::Length>{30, 70});
+    const auto guidesOf = [](const char* attributes) {
+        const std::string items = item("edit_text", 100, 22, "hsnap: [30, 80]") +
+                                  item("edit_text", 110, 22, "hsnap: [50, 90]");
+        const Layout layout = load(dialog(attributes, items), "test");
+        MeasuredLayout tree = measured(layout, PlainSizes());
+        layOutBothAxes(tree, PlainSizes());
+        return std::vector{tree.nodes[1].on(Axis::X).guides, tree.nodes[2].on(Axis::X).guides};
+    };
+    using Guides = std::vector<std::vector<engine::Length>>;
+    CHECK(guidesOf("") == Guides{{30, 70}, {50, 90}});
+    CHECK(guidesOf("child_horizontal: align_right") == Guides{{30, 80}, {40, 90}});
 }
 
 TEST_CASE("what is drawn outside its rectangle moves nothing and overhangs the containers") {
