@@ -56,6 +56,7 @@ void MirrorSession::prepare(const MirrorRequest& request) {
 }
 
 void MirrorSession::start() {
+    host.user.browserAvailable = false; // a plug-in's first start would open a page for nobody
     host.start();
     for (const auto& [handle, plugin] : host.plugins)
         if (plugin->broken) throw SessionError(plugin->name + ": the plug-in did not start");
