@@ -127,7 +127,7 @@ struct EngineFixture::Notation {
     }
 
     void object(Art& parent) {
-        const std::string_view flags = upTo(rest.find_first_not_of("#-~!^@"));
+        const std::string_view flags = upTo(rest.find_first_not_of("#-~!%^@"));
         const std::string name{upTo(rest.find_first_of("( )'"))};
         Art& art = make(parent, name);
         if (!name.starts_with('l')) art.write().details.write().name = name;
@@ -173,6 +173,8 @@ struct EngineFixture::Notation {
         case '~':
             art.write().guide = true;
             return;
+        case '%':
+            return setMirrorTag(art, 1);
         case '^':
             return setMirrorTag(art, 2);
         case '@':
@@ -235,10 +237,10 @@ std::string EngineFixture::notationOf(const Art& parent) {
         if (art->has(kArtHidden)) text += '-';
         if (art->has(kArtIsClipMask)) text += '!';
         if (art->content().guide) text += '~';
+        if (tag == 1 && !isCopy) text += '%';
         if (tag == 2) text += '^';
         text += art->isLayer() ? art->details().layer.title : art->details().name;
         if (isCopy) text += '\'';
-        if (tag == 1 && !isCopy) text += "(tagged but not locked)";
         if (easel::isContainer(*art)) text += '(' + notationOf(membersOf(*art)) + ')';
     }
     return text;

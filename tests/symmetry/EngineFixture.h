@@ -6,9 +6,9 @@
 /// The notation lists objects front-most first. The first letter of a name tells the type: g group,
 /// k clip group, c compound path, l sublayer, p plug-in group (its members are the edit art), t
 /// text frame, s symbol instance, i image; all other names are paths. Containers have their members
-/// in brackets. In front of a name: # locked, - hidden, ~ guide, ! clip mask, ^ tagged 2, @
-/// selected. A quotation mark behind it makes a generated copy, tagged 1 and locked. So "a a' g(~b
-/// k(!c d))".
+/// in brackets. In front of a name: # locked, - hidden, ~ guide, ! clip mask, ^ tagged 2, % tagged
+/// 1 but not locked, @ selected. A quotation mark behind it makes a generated copy, tagged 1 and
+/// locked. So "a a' g(~b k(!c d))".
 
 #include "easel/document/Document.h"
 #include "easel/document/Switches.h"

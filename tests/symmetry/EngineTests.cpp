@@ -109,6 +109,7 @@ TEST_CASE(
         Art& source = fixture.addPath(fixture.layer(), {{100, 0}, {80, 30}, {0, 100}}, false);
         source.write().details.write().name = "source";
         source.write().details.write().note = "Mind the gap";
+        source.dictionary().set(easel::internKey("FTMirroredv1"), easel::Value{ai::int32{2}});
         source.write().style.write().path.stroke.width = 7;
         source.write().style.write().path.strokePaint = true;
         easel::select(source, true);
@@ -117,7 +118,7 @@ TEST_CASE(
     fixture.setAxes(2);
     fixture.mirrorSelection();
 
-    CHECK(fixture.notationOf(fixture.layer()) == "front source back");
+    CHECK(fixture.notationOf(fixture.layer()) == "front ^source back");
     const Art& whole = *objectsIn(fixture.layer())[1];
     CHECK(whole.content().closed);
     CHECK(whole.segments().size() == 8);
@@ -146,64 +147,88 @@ TEST_CASE("what was selected of a path is selected of its mirrored form") {
 TEST_CASE("a closed path that comes out in several parts is one compound path") {
     EngineFixture fixture;
     fixture.step([&] {
-        // A U, upside down on the axis: its legs are joined with their reflections, its bow is cut
-        // off.
-        Art& source = fixture.addPath(
+        // An arch whose legs cross the axis: its outer and its inner line close with their
+        // reflections.
+        Art& arch = fixture.addPath(
             fixture.layer(),
             {{0, 50}, {0, -20}, {10, -20}, {10, 40}, {30, 40}, {30, -20}, {40, -20}, {40, 50}},
             true);
-        source.write().details.write().name = "source";
-        Art& comb = fixture.addPath(fixture.layer(),
-                                    {{100, -50},
-                                     {100, 20},
-                                     {110, 20},
-                                     {110, -40},
-                                     {130, -40},
-                                     {130, 20},
-                                     {140, 20},
-                                     {140, -50}},
-                                    true);
-        comb.write().details.write().name = "comb";
-        easel::selectAll(fixture.document());
+        arch.write().details.write().name = "arch";
+        arch.write().style.write().path.stroke.width = 7;
+        easel::select(arch, true);
     });
     fixture.setAxes(1);
     fixture.mirrorSelection();
 
     const std::vector<const Art*> objects = objectsIn(fixture.layer());
-    REQUIRE(objects.size() == 2);
-    for (const Art* object : objects) {
-        INFO(object->details().name);
-        const bool inOnePiece = object->type() == kPathArt && object->content().closed;
-        const bool asCompound =
-            object->type() == kCompoundPathArt && objectsIn(*object).size() == 2;
-        CHECK((inOnePiece || asCompound));
+    REQUIRE(objects.size() == 1);
+    CHECK(objects[0]->type() == kCompoundPathArt);
+    CHECK(objects[0]->details().name == "arch");
+    CHECK(objects[0]->style().path.stroke.width == 7);
+    const std::vector<const Art*> members = objectsIn(*objects[0]);
+    REQUIRE(members.size() == 2);
+    for (const Art* member : members) {
+        CHECK(member->content().closed);
+        CHECK(member->segments().size() == 6);
+        CHECK(member->has(kArtFullySelected));
     }
 }
 
-TEST_CASE("art drawn in another sector is folded, and stays the same object") {
+TEST_CASE("a compound path is cut and joined member by member and stays the same object") {
     EngineFixture fixture;
     fixture.step([&] {
+        Art& ring = easel::createArt(fixture.document(), kCompoundPathArt,
+                                     easel::atBottomOf(fixture.layer()));
+        fixture.addPath(ring, {{0, -30}, {40, -30}, {40, 30}, {0, 30}}, true);
+        fixture.addPath(ring, {{10, -20}, {10, 20}, {30, 20}, {30, -20}}, true);
+        ring.dictionary().set(easel::internKey("ours"), easel::Value{ai::int32{5}});
+        easel::select(*ring.lastChild(), true);
+    });
+    const AIArtHandle ring = fixture.layer().firstChild()->handle();
+    fixture.setAxes(1, 0.0, {0, 10});
+    fixture.mirrorSelection();
+
+    const std::vector<const Art*> objects = objectsIn(fixture.layer());
+    REQUIRE(objects.size() == 1);
+    CHECK(objects[0]->handle() == ring);
+    CHECK(objects[0]->dictionaryIfAny()->find(easel::internKey("ours")) != nullptr);
+    const std::vector<const Art*> members = objectsIn(*objects[0]);
+    REQUIRE(members.size() == 2);
+    CHECK_FALSE(members[0]->has(kArtSelected));
+    CHECK(members[1]->has(kArtFullySelected));
+    for (const Art* member : members)
+        CHECK(member->segments().size() == 6); // with the two anchors on the axis
+}
+
+TEST_CASE("art drawn in another sector is folded with its gradient") {
+    EngineFixture fixture;
+    fixture.step([&] {
+        Art& free = fixture.addPath(fixture.layer(), {{20, -20}, {35, -20}, {30, -40}}, true);
+        Art& joined = fixture.addPath(fixture.layer(), {{50, 0}, {60, -30}, {70, -40}}, false);
         easel::Definition& gradient =
             fixture.document().addDefinition(easel::Definition::Kind::Gradient, "sunset");
-        fixture.build(fixture.layer(), "a");
-        Art& path = *fixture.layer().firstChild();
-        for (AIPathSegment& segment : path.write().segments.write())
-            for (AIRealPoint* point : {&segment.p, &segment.in, &segment.out})
-                point->v *= -1;
-        easel::ArtStyle& style = path.write().style.write();
-        style.fillDefinition = &gradient;
-        style.path.fillPaint = true;
+        for (Art* path : {&free, &joined}) {
+            easel::ArtStyle& style = path->write().style.write();
+            style.fillDefinition = &gradient;
+            style.path.fillPaint = true;
+        }
     });
     const AIArtHandle source = fixture.layer().firstChild()->handle();
     fixture.setAxes(1);
     fixture.attach();
 
-    const Art& folded = *fixture.layer().firstChild();
-    CHECK(folded.handle() == source);
-    CHECK(folded.segments()[0].p.v == doctest::Approx(20));
-    CHECK(folded.style().fillMatrix.d == -1);
-    CHECK(fixture.layer().lastChild()->segments()[0].p.v == doctest::Approx(-20));
-    CHECK(fixture.layer().lastChild()->style().fillMatrix.d == 1);
+    const std::vector<const Art*> objects = objectsIn(fixture.layer());
+    REQUIRE(objects.size() == 3);
+    CHECK(objects[0]->handle() == source); // nothing was cut, so it stays the same object
+    const struct {
+        double v;
+        AIReal d;
+    } expected[] = {{20, -1}, {-20, 1}, {40, -1}};
+    for (std::size_t i = 0; i < objects.size(); ++i) {
+        INFO("object ", i);
+        CHECK(objects[i]->segments()[0].p.v == doctest::Approx(expected[i].v));
+        CHECK(objects[i]->style().fillMatrix.d == expected[i].d);
+    }
 }
 
 TEST_CASE("a path that would grow too long is left as it was, and the run goes on") {

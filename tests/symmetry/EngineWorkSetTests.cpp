@@ -23,6 +23,7 @@ const WorkSetRow kRows[] = {
     {"a group stays a group", "g(a b) d", "g(a a' b b') d d'", "g(a a b b) d d"},
     {"groups in groups", "g1(g2(a) g3())", "g1(g2(a a') g3())", "g1(g2(a a) g3())"},
     {"a copied compound goes whole", "c'(a b) d", "d d'", "c'(a b) d d"},
+    {"even when it was unlocked", "%c(a b) d", "d d'", "%c(a b) c(a b) d d"},
     {"locked art is no source, and loses its copies", "#a a' b", "#a b b'", "#a a' b b"},
     {"nor is hidden art", "-a a' b", "-a b b'", "-a a' b b"},
     {"copies in a locked group are found", "#g(a a') b", "#g(a) b b'", "#g(a a') b b"},
