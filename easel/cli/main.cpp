@@ -99,6 +99,7 @@ ExitStatus info(InfoWords& words) {
 int run(std::vector<std::string> arguments) {
     CLI::App app{"Easel opens drawings, mirrors them with the Facetta plug-in and saves them.",
                  "easel"};
+    app.allow_windows_style_options(false); // "/drawings/a.svg" is a file, here as there
     app.set_version_flag("--version", "easel " FACETTA_VERSION);
     app.require_subcommand(1);
     MirrorWords mirrorWords;

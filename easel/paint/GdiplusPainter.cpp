@@ -52,6 +52,32 @@ std::wstring wide(const std::string& text) {
     return result;
 }
 
+/// Samples. How far a chord may lie from the curve that it stands for.
+constexpr double kFlatness = 0.1;
+/// A curve as large as the largest picture needs fewer chords.
+constexpr double kMostChords = 2000;
+
+/// Adds the chords of a curve that begins at the last of `points`. GDI+ takes curves too, but some
+/// of its implementations flatten them by recursion, which a cusp of coinciding points never ends.
+void addChords(std::vector<Gdiplus::PointF>& points, Point p0, Point p1, Point p2, Point p3) {
+    const double bend = std::max(std::hypot(p0.x - 2 * p1.x + p2.x, p0.y - 2 * p1.y + p2.y),
+                                 std::hypot(p1.x - 2 * p2.x + p3.x, p1.y - 2 * p2.y + p3.y));
+    // The second derivative is at most 6 times the bend; a chord over h is off by h^2 / 8 of it.
+    const double wanted = std::ceil(std::sqrt(0.75 * bend / kFlatness));
+    const int chords = static_cast<int>(std::clamp(wanted, 1.0, kMostChords));
+    for (int i = 1; i < chords; ++i) {
+        const double t = static_cast<double>(i) / chords;
+        const double u = 1 - t;
+        const double b0 = u * u * u;
+        const double b1 = 3 * u * u * t;
+        const double b2 = 3 * u * t * t;
+        const double b3 = t * t * t;
+        points.push_back(pointF({b0 * p0.x + b1 * p1.x + b2 * p2.x + b3 * p3.x,
+                                 b0 * p0.y + b1 * p1.y + b2 * p2.y + b3 * p3.y}));
+    }
+    points.push_back(pointF(p3));
+}
+
 std::unique_ptr<Gdiplus::FontFamily> familyOf(const svg::Font& font) {
     auto family = std::make_unique<Gdiplus::FontFamily>(wide(font.family).c_str());
     if (family->IsAvailable()) return family;
@@ -306,12 +332,11 @@ std::unique_ptr<Gdiplus::GraphicsPath> GdiplusPainter::pathOf(const Outline& out
         const std::size_t pieces = anchors.size() - (subpath.closed ? 0 : 1);
         for (std::size_t i = 0; i < pieces; ++i) {
             const svg::Anchor& to = anchors[(i + 1) % anchors.size()];
-            points.push_back(pointF(matrix_ * anchors[i].out));
-            points.push_back(pointF(matrix_ * to.in));
-            points.push_back(pointF(matrix_ * to.p));
+            addChords(points, matrix_ * anchors[i].p, matrix_ * anchors[i].out, matrix_ * to.in,
+                      matrix_ * to.p);
         }
         path->StartFigure();
-        path->AddBeziers(points.data(), static_cast<INT>(points.size()));
+        path->AddLines(points.data(), static_cast<INT>(points.size()));
         if (subpath.closed) path->CloseFigure();
     }
     return path;
