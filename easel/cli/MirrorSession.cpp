@@ -29,6 +29,19 @@ AIRealPoint middleOf(const Document& document) {
     return {(board.left + board.right) / 2, (board.top + board.bottom) / 2};
 }
 
+/// Where the axes are to cross. Throws for a place off the canvas, where no art can be.
+AIRealPoint originOf(const MirrorRequest& request, const Document& document) {
+    if (!request.origin) return middleOf(document);
+    const AIRealPoint origin = softPoint(*request.origin);
+    const AIRealRect canvas = document.canvas();
+    const bool inside = origin.h >= canvas.left && origin.h <= canvas.right &&
+                        origin.v <= canvas.top && origin.v >= canvas.bottom;
+    if (!inside)
+        throw SessionError(document.path.string() +
+                           ": the origin lies outside the canvas; choose one nearer the drawing");
+    return origin;
+}
+
 Art& layerNamed(const Document& document, const std::string& title) {
     if (Art* const layer = findLayer(document, title)) return *layer;
     std::string known;
@@ -57,7 +70,11 @@ void MirrorSession::prepare(const MirrorRequest& request) {
 
 void MirrorSession::start() {
     host.user.browserAvailable = false; // a plug-in's first start would open a page for nobody
-    host.start();
+    try {
+        host.start();
+    } catch (const ai::Error& error) {
+        throw SessionError("the plug-in's library cannot be loaded: " + codeText(error.code));
+    }
     for (const auto& [handle, plugin] : host.plugins)
         if (plugin->broken) throw SessionError(plugin->name + ": the plug-in did not start");
 }
@@ -102,8 +119,7 @@ void MirrorSession::mirror(const MirrorRequest& request) {
     const std::size_t before = host.sent.size();
     choose(request);
     host.cursorSnap.enabled = false; // the origin is exactly where it was asked for
-    const MousePoint origin{request.origin ? softPoint(*request.origin)
-                                           : middleOf(currentDocument())};
+    const MousePoint origin{originOf(request, currentDocument())};
     host.selectTool(tool);
     host.track(origin);
     host.press(origin);

@@ -28,10 +28,10 @@ enum class MirrorMode : std::uint8_t {
 
 struct MirrorRequest {
     int axes = 3;
-    double angleDegrees = 0;            ///< Of the first axis, counter-clockwise as seen.
-    std::optional<DrawingPoint> origin; ///< None: the middle of the drawing.
+    double angleDegrees = 0;              ///< Of the first axis, counter-clockwise as seen.
+    std::optional<DrawingPoint> origin{}; ///< None: the middle of the drawing.
     MirrorMode mode = MirrorMode::Selection;
-    std::string layer; ///< Empty: all layers are selected, or the axes go on the current layer.
+    std::string layer{}; ///< Empty: all layers are selected, or the axes go on the current layer.
     bool keepPoints = false; ///< Keeps anchors made on the axes even where the shape needs none.
 };
 

@@ -7,6 +7,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cmath>
 #include <iostream>
 #include <map>
 #include <utility>
@@ -27,6 +28,15 @@ struct MirrorWords {
     std::vector<double> origin;
 };
 
+CLI::Validator finite() {
+    return {[](const std::string& text) -> std::string {
+                double value = 0;
+                const bool isNumber = CLI::detail::lexical_cast(text, value);
+                return isNumber && std::isfinite(value) ? "" : text + " is not a number";
+            },
+            ""};
+}
+
 void addMirror(CLI::App& app, MirrorWords& words) {
     static const std::map<std::string, easel::MirrorMode> kModes = {
         {"selection", easel::MirrorMode::Selection}, {"layer", easel::MirrorMode::Layer}};
@@ -39,22 +49,24 @@ void addMirror(CLI::App& app, MirrorWords& words) {
     mirror->add_option("--axes", request.axes, "Number of axes, 1 to 72")
         ->required()
         ->check(CLI::Range(1, kMostAxes))
-        ->type_name("N");
+        ->option_text("N REQUIRED");
     mirror
         ->add_option("--angle", request.angleDegrees,
                      "Angle of the first axis, degrees counter-clockwise")
-        ->type_name("DEG");
+        ->check(finite())
+        ->option_text("DEG");
     mirror
         ->add_option("--origin", words.origin,
                      "Where the axes cross, in the drawing's units, y down; by default its middle")
         ->delimiter(',')
         ->expected(2)
-        ->type_name("X,Y");
+        ->check(finite())
+        ->option_text("X,Y");
     mirror
         ->add_option("--mode", request.mode,
                      "selection: mirror the art once; layer: leave the axes on the layer")
-        ->transform(CLI::Transformer(kModes))
-        ->type_name("selection|layer");
+        ->transform(CLI::CheckedTransformer(kModes))
+        ->option_text("selection|layer");
     mirror->add_option("--layer", request.layer, "Only this layer")->type_name("NAME");
     mirror->add_flag("--keep-points", request.keepPoints,
                      "Keep the points made on the axes where the shape needs none");
