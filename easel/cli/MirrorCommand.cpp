@@ -15,35 +15,60 @@ void tellAlerts(const Host& host, std::ostream& error) {
         error << "easel: alert: " << alert.text << '\n';
 }
 
-/// The command step by step; throws what goes wrong.
-ExitStatus mirrorDrawing(const MirrorCommand& command, Statistics& statistics,
-                         std::ostream& error) {
+/// What the phases of the command tell as they go: their names to a waiting user, their time to the
+/// statistics.
+struct Report {
+    Statistics& statistics;
+    std::ostream& error;
     Progress progress{error, errorIsTerminal()};
-    const auto phase = [&](const char* key, const char* shown) {
+
+    void begin(const char* key, const char* shown) {
         statistics.time.begin(key);
         progress.begin(shown);
-    };
-    MirrorSession session;
-    phase("start", "Starting");
+    }
+};
+
+void start(MirrorSession& session, const MirrorCommand& command) {
     addPluginLibrary(session.host,
                      command.plugin.empty() ? defaultPluginLibrary() : command.plugin);
     session.prepare(command.request);
     session.start();
-    phase("read", "Reading");
+}
+
+void savePicture(const std::filesystem::path& file) {
+    if (!paint::writePng(paint::paintDocument(currentDocument()), file))
+        throw SessionError(file.string() + ": cannot be written");
+}
+
+/// The command step by step, up to the saved result.
+void mirrorDrawing(MirrorSession& session, const MirrorCommand& command, Report& report) {
+    report.begin("start", "Starting");
+    start(session, command);
+    report.begin("read", "Reading");
     for (const std::string& warning : session.open(command.input))
-        error << warning << '\n';
-    statistics.before = countArt(currentDocument());
-    phase("mirror", "Mirroring");
+        report.error << warning << '\n';
+    report.statistics.before = countArt(currentDocument());
+    report.begin("mirror", "Mirroring");
     session.mirror(command.request);
-    statistics.after = countArt(currentDocument());
-    phase("write", "Writing");
+    report.statistics.after = countArt(currentDocument());
+    report.begin("write", "Writing");
     session.save(command.output);
     if (!command.picture.empty()) {
-        phase("paint", "Painting");
-        if (!paint::writePng(paint::paintDocument(currentDocument()), command.picture))
-            throw SessionError(command.picture.string() + ": cannot be written");
+        report.begin("paint", "Painting");
+        savePicture(command.picture);
     }
-    phase("quit", "Quitting");
+}
+
+ExitStatus runSession(const MirrorCommand& command, Statistics& statistics, std::ostream& error) {
+    Report report{statistics, error};
+    MirrorSession session;
+    try {
+        mirrorDrawing(session, command, report);
+    } catch (...) {
+        tellAlerts(session.host, error); // the plug-in may have said more about it
+        throw;
+    }
+    report.begin("quit", "Quitting");
     const std::vector<std::string> complaints = session.finish();
     statistics.time.end();
     tellAlerts(session.host, error);
@@ -58,7 +83,7 @@ ExitStatus runMirror(const MirrorCommand& command, std::ostream& out, std::ostre
     Statistics statistics;
     hostCalls().resetCounts();
     try {
-        const ExitStatus status = mirrorDrawing(command, statistics, error);
+        const ExitStatus status = runSession(command, statistics, error);
         statistics.hostCalls = hostCalls().total();
         if (command.statistics) out << toJson(statistics) << '\n';
         return status;

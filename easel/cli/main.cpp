@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <cmath>
 #include <iostream>
-#include <map>
 #include <utility>
 
 namespace {
@@ -17,6 +16,8 @@ namespace {
 using easel::ExitStatus;
 
 constexpr int kMostAxes = 72;
+constexpr const char* kSelectionMode = "selection";
+constexpr const char* kLayerMode = "layer";
 
 /// The options of `easel mirror` as they stand on the command line.
 struct MirrorWords {
@@ -25,6 +26,7 @@ struct MirrorWords {
     std::string output;
     std::string picture;
     std::string plugin;
+    std::string mode = kSelectionMode;
     std::vector<double> origin;
 };
 
@@ -38,8 +40,6 @@ CLI::Validator finite() {
 }
 
 void addMirror(CLI::App& app, MirrorWords& words) {
-    static const std::map<std::string, easel::MirrorMode> kModes = {
-        {"selection", easel::MirrorMode::Selection}, {"layer", easel::MirrorMode::Layer}};
     easel::MirrorRequest& request = words.command.request;
     CLI::App* const mirror = app.add_subcommand("mirror", "Mirror a drawing across axes");
     mirror->add_option("input", words.input, "The drawing")->required()->type_name("IN.svg");
@@ -63,9 +63,9 @@ void addMirror(CLI::App& app, MirrorWords& words) {
         ->check(finite())
         ->option_text("X,Y");
     mirror
-        ->add_option("--mode", request.mode,
+        ->add_option("--mode", words.mode,
                      "selection: mirror the art once; layer: leave the axes on the layer")
-        ->transform(CLI::CheckedTransformer(kModes))
+        ->check(CLI::IsMember({kSelectionMode, kLayerMode}))
         ->option_text("selection|layer");
     mirror->add_option("--layer", request.layer, "Only this layer")->type_name("NAME");
     mirror->add_flag("--keep-points", request.keepPoints,
@@ -81,6 +81,7 @@ ExitStatus mirror(MirrorWords& words) {
     command.output = easel::pathFromUtf8(words.output);
     command.picture = easel::pathFromUtf8(words.picture);
     command.plugin = easel::pathFromUtf8(words.plugin);
+    if (words.mode == kLayerMode) command.request.mode = easel::MirrorMode::Layer;
     if (!words.origin.empty())
         command.request.origin = easel::DrawingPoint{words.origin[0], words.origin[1]};
     return easel::runMirror(command, std::cout, std::cerr);

@@ -1,5 +1,6 @@
 #include "easel/core/HostCalls.h"
 
+#include <cassert>
 #include <utility>
 
 namespace easel {
@@ -38,6 +39,7 @@ bool HostCalls::planned(const SlotRecord& slot) {
 }
 
 bool HostCalls::enter(SlotRecord& slot) {
+    assert(thread_ == std::this_thread::get_id());
     ++slot.calls;
     ++total_;
     if (total_ % kCallsPerPulse == 0 && pulse_) pulse_();

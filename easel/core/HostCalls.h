@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -77,6 +78,7 @@ private:
     std::uint64_t total_ = 0;
     std::uint64_t fallibleCalls_ = 0;
     std::function<void()> pulse_;
+    std::thread::id thread_ = std::this_thread::get_id(); ///< The only one that may call.
     std::chrono::nanoseconds time_{0};
     std::chrono::steady_clock::time_point entered_;
     std::vector<const SlotRecord*> recorded_;

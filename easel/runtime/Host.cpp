@@ -198,8 +198,7 @@ SPErr Host::sendData(SPPluginRef ref, const char* caller, const char* selector,
     }
     if (contexts.top() == context) contexts.pop(context);
     currentPlugin_ = outer;
-    if (settings.recordMessages || result != kNoErr)
-        sent.push_back(std::move(record));
+    if (settings.recordMessages || result != kNoErr) sent.push_back(std::move(record));
     if (contexts.depth() == 0) {
         endMessageLoans();
         collectChanges();

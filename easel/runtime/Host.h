@@ -183,6 +183,7 @@ private:
     void startUp(SPPluginRef plugin);
     void unload(SPPluginRef plugin, ai::int32 when);
     void forgetRegistrations(SPPluginRef plugin);
+    /// Nothing happens when the tool is null or gone.
     void sendTool(const char* selector, AIToolHandle tool, const MousePoint* mouse,
                   ai::uint16 what = 0);
     void endGesture();
@@ -193,6 +194,7 @@ private:
     NotificationQueue queue_;
     SPPluginRef currentPlugin_ = nullptr;
     AIAppContextHandle gesture_ = nullptr; ///< The context that spans press to release.
+    AIToolHandle gestureTool_ = nullptr;
     bool inAccessMessage_ = false;
     bool updatingMenus_ = false;
     bool inIdle_ = false;

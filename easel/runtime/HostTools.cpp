@@ -20,8 +20,9 @@ constexpr ai::int32 kWindowPort = 1;
 
 void Host::sendTool(const char* selector, AIToolHandle handle, const MousePoint* mouse,
                     ai::uint16 what) {
-    if (handle == nullptr) return; // the host's own tools are not in the business of messages
-    const Tool& tool = tools.tools.at(handle);
+    const Tool* const found = tools.tools.find(handle); // the host's own tools get no messages
+    if (found == nullptr) return;
+    const Tool& tool = *found;
     AIToolMessage message{};
     AIEvent event{};
     message.tool = handle;
@@ -70,17 +71,18 @@ void Host::press(const MousePoint& mouse) {
     if (tools.current == nullptr || gesture_ != nullptr) return;
     const Tool& tool = tools.tools.at(tools.current);
     gesture_ = contexts.push(tool.plugin);
+    gestureTool_ = tools.current; // keeps the gesture, whatever tool it chooses meanwhile
     currentDocument().undo().setTexts("Undo " + tool.title, "Redo " + tool.title);
-    sendTool(kSelectorMouseDown, tools.current, &mouse, kDownEvent);
+    sendTool(kSelectorMouseDown, gestureTool_, &mouse, kDownEvent);
 }
 
 void Host::drag(const MousePoint& mouse) {
-    if (gesture_ != nullptr) sendTool(kSelectorMouseDrag, tools.current, &mouse, kDragEvent);
+    if (gesture_ != nullptr) sendTool(kSelectorMouseDrag, gestureTool_, &mouse, kDragEvent);
 }
 
 void Host::release(const MousePoint& mouse) {
     if (gesture_ == nullptr) return;
-    sendTool(kSelectorMouseUp, tools.current, &mouse, kUpEvent);
+    sendTool(kSelectorMouseUp, gestureTool_, &mouse, kUpEvent);
     endGesture();
     idle();
 }
