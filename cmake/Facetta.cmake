@@ -151,7 +151,11 @@ function(facetta_benchmarks name)
     endif()
     add_executable(${name}_benchmarks ${arg_SOURCES})
     target_link_libraries(${name}_benchmarks PRIVATE facetta_flags facetta::benchmark ${depends})
-    add_custom_target(run_${name}_benchmarks COMMAND ${name}_benchmarks USES_TERMINAL
+    set(results ${CMAKE_SOURCE_DIR}/build/bench)
+    file(MAKE_DIRECTORY ${results})
+    add_custom_target(run_${name}_benchmarks USES_TERMINAL
+        COMMAND ${name}_benchmarks --benchmark_out=${results}/${name}.json
+            --benchmark_out_format=json
         WORKING_DIRECTORY ${CMAKE_SOURCE_DIR})
     add_dependencies(bench run_${name}_benchmarks)
 endfunction()

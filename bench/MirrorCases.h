@@ -1,0 +1,46 @@
+#pragma once
+
+/// Mirroring a selection once: how its cost grows with paths, segments and axes, beside the floor.
+
+#include "bench/Drawings.h"
+#include "bench/Findings.h"
+
+#include <deque>
+#include <functional>
+#include <span>
+
+namespace facetta::bench {
+
+/// One drawing mirrored; of repeated runs the least times, because noise only ever adds.
+struct MirrorCase {
+    DrawingPlan plan;
+    double ownSeconds = 0;   ///< Inside the plug-in itself.
+    double totalSeconds = 0; ///< Of the whole action.
+    double floorSeconds = 0; ///< Of a plain loop over as many segments as were made.
+    std::size_t made = 0;    ///< Segments made; a source that stays as it is is not among them.
+    std::size_t copies = 0;  ///< Paths in the drawing beyond its sources.
+    std::uint64_t hostCalls = 0;
+    bool measured = false;
+};
+
+class MirrorCases {
+public:
+    /// Names every case to the benchmark library, which runs them.
+    void registerAll();
+    /// What the cases that have run show.
+    void judge(Findings& findings) const;
+
+private:
+    using Group = std::vector<const MirrorCase*>;
+
+    void add(const DrawingPlan& plan);
+    [[nodiscard]] Group group(const std::function<bool(const DrawingPlan&)>& belongs) const;
+    void judgeOwnTime(Findings& findings, Placement placement) const;
+    void judgeHostCalls(Findings& findings, Placement placement) const;
+    void judgeFlatness(Findings& findings, Placement placement) const;
+    void judgeGrowth(Findings& findings, Placement placement) const;
+
+    std::deque<MirrorCase> cases_; ///< The benchmark library keeps references.
+};
+
+} // namespace facetta::bench

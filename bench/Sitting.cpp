@@ -1,0 +1,145 @@
+#include "bench/Sitting.h"
+
+#include "bench/Drawings.h"
+#include "bench/Stopwatch.h"
+#include "easel/document/Attributes.h"
+#include "easel/runtime/Library.h"
+#include "host/suites/AIArtSuite.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+
+namespace facetta::bench {
+namespace {
+
+constexpr const char* kToolName = "Facetta Tool";
+
+/// The plug-in's entry, and the time spent behind it.
+struct TimedEntry {
+    SPPluginEntryFunc entry = nullptr;
+    int depth = 0; ///< The plug-in may make the host send it a message.
+    double seconds = 0;
+    double processorSeconds = 0;
+};
+
+/// An entry is a plain function, which can carry nothing with it.
+TimedEntry& timedEntry() {
+    static TimedEntry timed;
+    return timed;
+}
+
+SPErr enterPlugin(const char* caller, const char* selector, void* message) {
+    TimedEntry& timed = timedEntry();
+    const Stopwatch watch;
+    ++timed.depth;
+    const SPErr result = timed.entry(caller, selector, message);
+    if (--timed.depth == 0) {
+        timed.seconds += watch.seconds();
+        timed.processorSeconds += watch.processorSeconds();
+    }
+    return result;
+}
+
+/// Loaded once: it holds nothing between one start and the next.
+SPPluginEntryFunc pluginEntry() {
+    static const easel::Library library{FACETTA_LIBRARY};
+    return library.entry("PluginMain");
+}
+
+[[noreturn]] void giveUp(const std::string& why) {
+    std::fprintf(stderr, "bench: %s\n", why.c_str());
+    std::exit(1);
+}
+
+} // namespace
+
+Sitting::Sitting(int axes, easel::MirrorMode mode) : mode_(mode) {
+    timedEntry() = {.entry = pluginEntry()};
+    easel::MirrorRequest request;
+    request.axes = axes;
+    request.mode = mode;
+    session_.prepare(request);
+    session_.host.addPlugin("Facetta", enterPlugin);
+    session_.start();
+    session_.host.cursorSnap.enabled = false;
+}
+
+Sitting::~Sitting() {
+    while (!session_.host.documents().empty())
+        session_.host.close(*session_.host.documents().back());
+    const std::vector<std::string> complaints = session_.finish();
+    if (!complaints.empty()) giveUp(complaints.front());
+}
+
+easel::Document& Sitting::open(std::unique_ptr<easel::Document> drawing) {
+    easel::Host& host = session_.host;
+    easel::Document& document = host.open(std::move(drawing));
+    if (mode_ == easel::MirrorMode::Selection)
+        host.edit("Select", [](easel::Document& changed) { easel::selectAll(changed); });
+    const easel::MousePoint origin{kOrigin};
+    host.selectTool(host.tools.named(kToolName));
+    host.track(origin);
+    host.press(origin);
+    host.release(origin);
+    return document;
+}
+
+Cost Sitting::apply(Take take) {
+    return measure([this] { session_.host.editToolOptions(); }, take);
+}
+
+Cost Sitting::edit(const std::function<void(easel::Document&)>& change, Take take) {
+    return measure([&] { session_.host.edit("Edit", change); }, take);
+}
+
+Cost Sitting::measure(const std::function<void()>& action, Take take) {
+    easel::HostCalls& calls = easel::hostCalls();
+    const double perCall = take == Take::OwnTime ? clockCostPerCall() : 0;
+    calls.resetCounts();
+    calls.setTiming(take == Take::OwnTime);
+    timedEntry().seconds = timedEntry().processorSeconds = 0;
+    const Stopwatch watch;
+    action();
+    Cost cost{.seconds = watch.processorSeconds(), .ownSeconds = 0, .hostCalls = calls.total()};
+    calls.setTiming(false);
+    for (const easel::SentMessage& message : session_.host.sent) // failed ones, nothing else
+        giveUp(message.caller + '/' + message.selector + ": " + easel::codeText(message.result));
+    if (take == Take::OwnTime)
+        cost.ownSeconds = ownSeconds(perCall * static_cast<double>(cost.hostCalls));
+    return cost;
+}
+
+/// Only the wall clock is quick enough to be read at each host call. What it shows as the plug-in's
+/// own share of the time behind its entry is applied to the processor time spent there, because
+/// other programs interrupt the plug-in as readily as the host.
+double Sitting::ownSeconds(double clockCost) {
+    const TimedEntry& timed = timedEntry();
+    const double own = timed.seconds - secondsOf(easel::hostCalls().time()) - clockCost;
+    return timed.processorSeconds * own / timed.seconds;
+}
+
+/// What one host call adds to the plug-in's time while the host's clock runs: the least of some
+/// rounds, so that too little rather than too much is taken off.
+double Sitting::clockCostPerCall() {
+    constexpr int kRounds = 5;
+    constexpr int kCalls = 20'000;
+    const auto& suite = hostSuite<AIArtSuite>(kAIArtSuite, kAIArtSuiteVersion);
+    const AIArtHandle art = easel::currentDocument().root().firstChild()->handle();
+    easel::HostCalls& calls = easel::hostCalls();
+    calls.setTiming(true);
+    double least = 1;
+    for (int round = 0; round < kRounds; ++round) {
+        calls.resetCounts();
+        const Stopwatch watch;
+        for (int call = 0; call < kCalls; ++call) {
+            ai::int16 type = 0;
+            suite.GetArtType(art, &type);
+        }
+        least = std::min(least, (watch.seconds() - secondsOf(calls.time())) / kCalls);
+    }
+    calls.setTiming(false);
+    return least;
+}
+
+} // namespace facetta::bench

@@ -1,0 +1,62 @@
+#pragma once
+
+/// A user at the stand-in host with the plug-in, and what each of the user's actions costs.
+///
+/// Time inside the plug-in is taken at its entry, time inside the host functions that it calls by
+/// the host. The host's clock costs time itself, part of which falls to the plug-in: a call to a
+/// host function that does nothing shows how much, and that is taken off for each call.
+
+#include "easel/cli/MirrorSession.h"
+#include "easel/suites/SuiteServer.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+
+namespace facetta::bench {
+
+/// The host's functions, for calls that are not the plug-in's.
+template <typename Suite>
+[[nodiscard]] const Suite& hostSuite(const char* name, ai::int32 version) {
+    return *static_cast<const Suite*>(easel::suiteServer().functions(name, version));
+}
+
+/// What one action of the user cost.
+struct Cost {
+    double seconds = 0;    ///< Of processor time, from the action until the host is idle again.
+    double ownSeconds = 0; ///< Inside the plug-in, without the host functions that it called.
+    std::uint64_t hostCalls = 0;
+};
+
+/// The host's clock, which slows the action as a whole, runs only when the plug-in's own time is
+/// wanted.
+enum class Take : std::uint8_t { TotalTime, OwnTime };
+
+class Sitting {
+public:
+    /// Starts the plug-in with `axes` axes as its setting.
+    Sitting(int axes, easel::MirrorMode mode);
+    /// Ends the program when the plug-in has done anything wrong: its times are worth nothing then.
+    ~Sitting();
+    Sitting(const Sitting&) = delete;
+    Sitting& operator=(const Sitting&) = delete;
+
+    /// Opens `drawing` and makes axes through `kOrigin` with the tool; in selection mode all art is
+    /// selected before.
+    easel::Document& open(std::unique_ptr<easel::Document> drawing);
+    void close(easel::Document& document) { session_.host.close(document); }
+    /// Applies the axes.
+    Cost apply(Take take);
+    /// Any action of the user that is one undo step without the plug-in.
+    Cost edit(const std::function<void(easel::Document&)>& change, Take take);
+
+private:
+    Cost measure(const std::function<void()>& action, Take take);
+    [[nodiscard]] static double clockCostPerCall();
+    [[nodiscard]] static double ownSeconds(double clockCost);
+
+    easel::MirrorSession session_;
+    easel::MirrorMode mode_;
+};
+
+} // namespace facetta::bench
