@@ -41,7 +41,8 @@ struct Mismatch {
 
 /// Looks along every axis for lines that should not be there: where the pixels 3 and 4 to both
 /// sides of the axis have one colour, the pixels on it and beside it must have this colour too. A
-/// few odd pixels in a row are the tip of a shape; what is wrong counts from the twelfth on.
+/// few odd pixels in a row are the tip of a shape; what is wrong counts from the fortieth on. Near
+/// the centre, where the next axis is close, nothing is looked at.
 [[nodiscard]] Mismatch findSeams(const Picture& picture, const PictureAxes& axes, int tolerance);
 
 } // namespace facetta::tests

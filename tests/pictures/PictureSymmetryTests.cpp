@@ -78,5 +78,5 @@ TEST_CASE("a hairline along an axis is found, a shape that ends there is not mis
         const double across = std::abs(x * std::sin(axes.angle) - y * std::cos(axes.angle));
         return across < 0.15 ? 0.5 : shade(x, y);
     };
-    CHECK(findSeams(painted(hairline), axes, kTolerance).wrong > 50);
+    CHECK(findSeams(painted(hairline), axes, kTolerance).wrong > 20);
 }
