@@ -17,8 +17,6 @@ double clampToCanvas(double coordinate) {
 
 } // namespace
 
-AIRealPoint narrow(Point point) { return {narrow(point.x), narrow(point.y)}; }
-
 AIRealMatrix narrow(const Matrix& matrix) {
     // Six numbers computed in 64 bits and rounded once: composing in the host's 32-bit steps would
     // lose about a hundredth of a point around a far origin.

@@ -19,7 +19,9 @@ constexpr double kCanvasSize = 16383.0;
 }
 
 /// The nearest point, matrix that the host can store.
-[[nodiscard]] AIRealPoint narrow(Point point);
+[[nodiscard]] constexpr AIRealPoint narrow(Point point) {
+    return {narrow(point.x), narrow(point.y)};
+}
 [[nodiscard]] AIRealMatrix narrow(const Matrix& matrix);
 
 /// A canvas point in page coordinates, and back; rounded to 32-bit reals on the way. Throw

@@ -4,13 +4,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace facetta {
-
-double length(Vector v) { return std::hypot(v.x, v.y); }
-
-double distance(Point a, Point b) { return length(b - a); }
 
 Vector direction(double angle) { return {std::cos(angle), std::sin(angle)}; }
 
@@ -85,12 +80,5 @@ Point nearestPoint(const LineSegment& segment, Point point) {
 Point projectOntoRay(Point point, Point start, Vector towards) {
     return start + std::max(0.0, dot(point - start, towards)) * towards;
 }
-
-float narrow(double value) {
-    constexpr double kLargest = std::numeric_limits<float>::max();
-    return static_cast<float>(std::clamp(value, -kLargest, kLargest));
-}
-
-Point rounded(Point point) { return {narrow(point.x), narrow(point.y)}; }
 
 } // namespace facetta

@@ -5,6 +5,9 @@
 /// All coordinates are 64-bit reals in points. y grows UPWARDS and angles are radians,
 /// counter-clockwise from the positive x axis, unless a name says otherwise.
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
 #include <numbers>
 
 namespace facetta {
@@ -45,8 +48,10 @@ constexpr Vector operator*(double factor, Vector v) { return {factor * v.x, fact
 /// The point at `t` of the way from `a` to `b`; exactly `a` at 0.
 [[nodiscard]] constexpr Point lerp(Point a, Point b, double t) { return a + t * (b - a); }
 
-[[nodiscard]] double length(Vector v);
-[[nodiscard]] double distance(Point a, Point b);
+/// Of differences of coordinates that the host can store: their squares neither overflow nor vanish
+/// in 64 bits.
+[[nodiscard]] inline double length(Vector v) { return std::sqrt(dot(v, v)); }
+[[nodiscard]] inline double distance(Point a, Point b) { return length(b - a); }
 
 /// The unit vector at `angle` radians, counter-clockwise from the positive x axis.
 [[nodiscard]] Vector direction(double angle);
@@ -109,9 +114,12 @@ struct LineSegment {
 
 /// The nearest 32-bit value, as the host stores coordinates; values beyond its range become the
 /// largest finite one, so that no infinity enters a document.
-[[nodiscard]] float narrow(double value);
+[[nodiscard]] constexpr float narrow(double value) {
+    constexpr double kLargest = std::numeric_limits<float>::max();
+    return static_cast<float>(std::clamp(value, -kLargest, kLargest));
+}
 
 /// The nearest point that the host can store.
-[[nodiscard]] Point rounded(Point point);
+[[nodiscard]] constexpr Point rounded(Point point) { return {narrow(point.x), narrow(point.y)}; }
 
 } // namespace facetta

@@ -77,8 +77,10 @@ PathMirror::Start PathMirror::findStart(const PathShape& path, double clear) con
         for (std::size_t i = 0; i < curveCount(path); ++i)
             for (const double t : kSamples) {
                 const Point sample = evaluate(curveAt(path, i), t);
+                const double place = static_cast<double>(i) + t;
+                if (wedge_.margin(sample) > distance) return {0, place};
                 if (wedge_.margin(foldIntoSector0(axes_, sample)) > distance)
-                    return {sectorIndexOf(axes_, sample), static_cast<double>(i) + t};
+                    return {sectorIndexOf(axes_, sample), place};
             }
     if (path.segments.empty()) return {};
     // The path lies on axes throughout, or is a single anchor. One on a ray of sector 0 is at home.

@@ -23,22 +23,4 @@ Cubic curveAt(const PathShape& shape, std::size_t index) {
     return {from.anchor, from.out, to.in, to.anchor};
 }
 
-PathSegment reversed(const PathSegment& segment) {
-    PathSegment result = segment;
-    std::swap(result.in, result.out);
-    if (segment.selection == selection::kIn)
-        result.selection = selection::kOut;
-    else if (segment.selection == selection::kOut)
-        result.selection = selection::kIn;
-    return result;
-}
-
-PathSegment transformed(const PathSegment& segment, const Matrix& map) {
-    PathSegment result = segment;
-    result.anchor = rounded(apply(map, segment.anchor));
-    result.in = rounded(apply(map, segment.in));
-    result.out = rounded(apply(map, segment.out));
-    return result;
-}
-
 } // namespace facetta

@@ -54,9 +54,19 @@ struct PathShape {
 [[nodiscard]] Cubic curveAt(const PathShape& shape, std::size_t index);
 
 /// The segment as seen when the path is run backwards: in and out exchanged, selection with them.
-[[nodiscard]] PathSegment reversed(const PathSegment& segment);
+[[nodiscard]] constexpr PathSegment reversed(const PathSegment& segment) {
+    std::int16_t selected = segment.selection;
+    if (selected == selection::kIn)
+        selected = selection::kOut;
+    else if (selected == selection::kOut)
+        selected = selection::kIn;
+    return {segment.anchor, segment.out, segment.in, segment.corner, selected};
+}
 
 /// The segment under `map`, its coordinates rounded once to what the host can store.
-[[nodiscard]] PathSegment transformed(const PathSegment& segment, const Matrix& map);
+[[nodiscard]] constexpr PathSegment transformed(const PathSegment& segment, const Matrix& map) {
+    return {rounded(apply(map, segment.anchor)), rounded(apply(map, segment.in)),
+            rounded(apply(map, segment.out)), segment.corner, segment.selection};
+}
 
 } // namespace facetta

@@ -10,13 +10,40 @@ namespace facetta {
 
 namespace {
 
-/// Whether `point` lies on one of the N lines.
-bool isOnAxis(const SymmetryAxes& axes, Point point) {
-    const Vector offset = point - originOf(axes);
-    const double fromAnAxis =
-        std::remainder(std::atan2(offset.y, offset.x) - axes.angle, halfStep(axes));
-    return length(offset) * std::abs(std::sin(fromAnAxis)) <= kOnAxisDistance;
-}
+/// Tells the points that lie on one of the N lines. Points of a path mostly share a sector with the
+/// one before them, and then two products tell; only a new sector costs the functions of angles.
+class AxisProbe {
+public:
+    explicit AxisProbe(const SymmetryAxes& axes)
+        : origin_(originOf(axes)), angle_(axes.angle), sectorAngle_(halfStep(axes)) {}
+
+    [[nodiscard]] bool isOnAxis(Point point) {
+        const Vector offset = point - origin_;
+        if (!known_ || marginOf(offset) < -kOnAxisDistance) enterSector(offset);
+        return marginOf(offset) <= kOnAxisDistance;
+    }
+
+private:
+    /// How far a point inside the sector is from the nearer of its two edges; negative outside. The
+    /// other lines are farther.
+    [[nodiscard]] double marginOf(Vector offset) const {
+        return std::min(cross(first_, offset), cross(offset, last_));
+    }
+
+    void enterSector(Vector offset) {
+        const double sector = std::floor((std::atan2(offset.y, offset.x) - angle_) / sectorAngle_);
+        first_ = direction(angle_ + sector * sectorAngle_);
+        last_ = direction(angle_ + (sector + 1.0) * sectorAngle_);
+        known_ = true;
+    }
+
+    Point origin_;
+    double angle_;
+    double sectorAngle_;
+    Vector first_; ///< Unit vectors along the edges of the last sector.
+    Vector last_;
+    bool known_ = false;
+};
 
 /// One curve in place of two, and how far it is from them at most.
 struct MergedCurve {
@@ -91,7 +118,7 @@ private:
     /// Whether the anchor `middle` can go; if so, its neighbours get the handles of the one curve
     /// that then joins them. The deviations of removals in a row add up and count together.
     bool removable(std::size_t before, std::size_t middle, std::size_t after) {
-        if (!isOnAxis(axes_, segments_[middle].anchor)) return false;
+        if (!axes_.isOnAxis(segments_[middle].anchor)) return false;
         const auto merged = merge(curveBetween(segments_[before], segments_[middle]),
                                   curveBetween(segments_[middle], segments_[after]));
         if (!merged) return false;
@@ -104,7 +131,7 @@ private:
     }
 
     std::vector<PathSegment>& segments_;
-    const SymmetryAxes& axes_;
+    AxisProbe axes_;
     std::vector<double> deviations_; // of the curve that ends at each anchor, from the original
     std::size_t count_ = 0;
 };
