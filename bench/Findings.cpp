@@ -9,9 +9,9 @@
 namespace facetta::bench {
 
 void print(const Findings& findings) {
-    std::printf("\n%-66s %12s %12s\n", "measure", "wanted", "measured");
+    std::printf("\n%-70s %12s %12s\n", "measure", "wanted", "measured");
     for (const auto& [measure, wanted, measured, unit] : findings)
-        std::printf("%-66s %9.4g %-4s %7.4g %-4s %s\n", measure.c_str(), wanted, unit.c_str(),
+        std::printf("%-70s %9.4g %-4s %7.4g %-4s %s\n", measure.c_str(), wanted, unit.c_str(),
                     measured, unit.c_str(), measured <= wanted ? "ok" : "MISSED");
     const auto missed = std::ranges::count_if(findings, [](const auto& f) { return !f.isMet(); });
     std::printf("%zu measures, %td missed; every \"wanted\" is an upper limit\n", findings.size(),
