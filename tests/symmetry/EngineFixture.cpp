@@ -7,6 +7,7 @@
 #include "easel/suites/DocumentSuites.h"
 #include "easel/suites/Expose.h"
 #include "easel/suites/RuntimeSuites.h"
+#include "easel/svg/SvgFile.h"
 #include "host/Error.h"
 #include "host/SuiteTable.h"
 #include "host/Suites.h"
@@ -267,6 +268,13 @@ MirrorEnvironment EngineFixture::environment() {
             .removePoints = removePoints,
             .ownTool = ownTool,
             .showMessage = [this](std::string_view text) { messages.emplace_back(text); }};
+}
+
+void EngineFixture::reopen() {
+    easel::svg::OpenedDrawing again =
+        easel::svg::readSvgText(easel::svg::svgText(*document_), "again");
+    document_ = std::move(again.document);
+    easel::setCurrentDocument(document_.get());
 }
 
 void EngineFixture::step(const std::function<void()>& changes) {

@@ -59,6 +59,9 @@ public:
     void setAxes(int count, double angle = 0.0, Point origin = {});
     [[nodiscard]] MirrorEnvironment environment();
 
+    /// The document saved, closed and opened again.
+    void reopen();
+
     /// One undo step, as a message of the host is.
     void step(const std::function<void()>& changes);
     /// `step`s of the product.
