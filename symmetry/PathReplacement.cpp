@@ -76,6 +76,7 @@ void selectAll(std::span<const Draft> paths, const std::vector<Contour>& contour
 /// Members for `compound`, behind those that it has.
 std::vector<Draft> newMembers(AIArtHandle compound, const std::vector<Contour>& contours) {
     std::vector<Draft> members;
+    members.reserve(contours.size());
     for (const Contour& contour : contours)
         members.push_back(newPath(contour, kPlaceInsideOnBottom, compound));
     return members;

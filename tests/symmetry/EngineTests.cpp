@@ -260,18 +260,18 @@ TEST_CASE("anchors left on the axes go only when a selection is mirrored and the
         bool selection;
         std::size_t anchors;
     } rows[] = {{false, true, 3}, {true, true, 2}, {true, false, 3}, {false, false, 3}};
-    for (const auto& [removePoints, selection, anchors] : rows) {
-        INFO("removing points: ", removePoints, ", selection: ", selection);
+    for (const auto& row : rows) {
+        INFO("removing points: ", row.removePoints, ", selection: ", row.selection);
         EngineFixture fixture;
         fixture.step([&] {
             fixture.addPath(fixture.layer(), {{100, 0}, {100, 50}}, false);
             easel::selectAll(fixture.document());
         });
         fixture.setAxes(1);
-        fixture.removePoints = removePoints;
-        selection ? fixture.mirrorSelection() : fixture.attach();
+        fixture.removePoints = row.removePoints;
+        row.selection ? fixture.mirrorSelection() : fixture.attach();
         REQUIRE(objectsIn(fixture.layer()).size() == 1);
-        CHECK(fixture.layer().firstChild()->segments().size() == anchors);
+        CHECK(fixture.layer().firstChild()->segments().size() == row.anchors);
     }
 }
 
@@ -282,17 +282,17 @@ TEST_CASE("open ends within 12 pixels of an axis are moved onto it") {
         bool joined;
     } rows[] = {{1, 11.9, true}, {1, 12.1, false}, {2, 5.9, true},
                 {2, 6.1, false}, {0, 1000, true},  {0.01F, 1201, false}};
-    for (const auto& [zoom, gap, joined] : rows) {
-        INFO("zoom ", zoom, ", gap ", gap);
+    for (const auto& row : rows) {
+        INFO("zoom ", row.zoom, ", gap ", row.gap);
         EngineFixture fixture;
-        EngineFixture::shellSide().zoom = zoom;
-        fixture.step([&, gap = gap] {
-            fixture.addPath(fixture.layer(), {{0, gap}, {0, gap + 3000}}, false);
+        EngineFixture::shellSide().zoom = row.zoom;
+        fixture.step([&] {
+            fixture.addPath(fixture.layer(), {{0, row.gap}, {0, row.gap + 3000}}, false);
             easel::selectAll(fixture.document());
         });
         fixture.setAxes(1);
         fixture.mirrorSelection();
-        CHECK(objectsIn(fixture.layer()).size() == (joined ? 1 : 2));
+        CHECK(objectsIn(fixture.layer()).size() == (row.joined ? 1 : 2));
     }
 }
 
@@ -304,15 +304,15 @@ TEST_CASE("the pen starts afresh after a run, no other tool does") {
     } rows[] = {{"Adobe Pen Tool", {"own", "Adobe Pen Tool"}},
                 {"Adobe Pen Tool 2", {}},
                 {"Adobe Select Tool", {}}};
-    for (const auto& [tool, chosen] : rows) {
-        INFO(tool);
+    for (const auto& row : rows) {
+        INFO(row.tool);
         EngineFixture fixture;
-        EngineFixture::shellSide().currentTool = tool;
+        EngineFixture::shellSide().currentTool = row.tool;
         int own = 0;
         fixture.ownTool = reinterpret_cast<AIToolHandle>(&own);
         fixture.setAxes(1);
         fixture.mirrorSelection();
-        CHECK(EngineFixture::shellSide().chosenTools == chosen);
+        CHECK(EngineFixture::shellSide().chosenTools == row.chosen);
     }
 }
 

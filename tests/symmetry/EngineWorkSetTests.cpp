@@ -87,12 +87,12 @@ TEST_CASE("part of a unit stands for the whole, and the rest of the layer is let
         {"k(!@a @b) k2(!d e)", "k(!a b) k(!a b) k2(!d e)"},
         {"a b", "a b"},
     };
-    for (const auto& [before, after] : rows) {
-        INFO(before);
+    for (const auto& row : rows) {
+        INFO(row.before);
         EngineFixture fixture;
-        fixture.build(fixture.layer(), before);
+        fixture.build(fixture.layer(), row.before);
         fixture.setAxes(1);
         fixture.mirrorSelection();
-        CHECK(fixture.notationOf(fixture.layer()) == after);
+        CHECK(fixture.notationOf(fixture.layer()) == row.after);
     }
 }

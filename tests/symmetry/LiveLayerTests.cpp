@@ -76,15 +76,15 @@ TEST_CASE("a live layer is regenerated after each change of its art, once") {
          },
          "a a' a' a' b b' b' b'", 1},
     };
-    for (const auto& [what, change, after, regenerated] : rows) {
-        INFO(what);
+    for (const auto& row : rows) {
+        INFO(row.what);
         EngineFixture fixture;
         fixture.build(fixture.layer(), "a b");
         fixture.setAxes(1);
         fixture.attach();
-        fixture.step([&, act = change] { act(fixture); });
-        CHECK(afterChange(fixture) == regenerated);
-        CHECK(fixture.notationOf(fixture.layer()) == after);
+        fixture.step([&] { row.change(fixture); });
+        CHECK(afterChange(fixture) == row.regenerated);
+        CHECK(fixture.notationOf(fixture.layer()) == row.after);
         CHECK(afterChange(fixture) == 0); // its own changes call for nothing more
     }
 }
@@ -203,10 +203,10 @@ TEST_CASE("what the host's interface leaves open makes no difference") {
         {"entryStringsLast", &easel::Switches::entryStringsLast},
     };
     const std::string usual = lifeOfALayer({});
-    for (const auto& [name, flipped] : rows) {
-        INFO(name);
+    for (const auto& row : rows) {
+        INFO(row.name);
         easel::Switches switches;
-        switches.*flipped = !(switches.*flipped);
+        switches.*row.flipped = !(switches.*row.flipped);
         CHECK(lifeOfALayer(switches) == usual);
     }
 }

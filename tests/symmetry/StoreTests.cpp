@@ -92,16 +92,16 @@ TEST_CASE("a bad or missing value reads as its default, the others as they are")
         {"-infinity", 0.0}, {"nan", 0.0},    {"1e400", 0.0},   {"0x1p3", 0.0},
         {"1,5", 1.0},       {"+-1", 0.0},    {"1e300", 1e300}, {realText(kMax), kMax},
     };
-    for (const auto& [text, value] : texts) {
-        INFO(text);
+    for (const auto& row : texts) {
+        INFO(row.text);
         EngineFixture fixture;
         easel::Dictionary& entry = axesEntry(fixture.layer());
         for (const char* key : {"cx", "cy", "aa"})
-            store(entry, key, easel::textValue(text));
+            store(entry, key, easel::textValue(row.text));
         const SymmetryAxes axes = readAxes(fixture);
-        CHECK(axes.originX == value);
-        CHECK(axes.originY == value);
-        CHECK(axes.angle == value);
+        CHECK(axes.originX == row.value);
+        CHECK(axes.originY == row.value);
+        CHECK(axes.angle == row.value);
     }
 
     const struct {
@@ -120,11 +120,11 @@ TEST_CASE("a bad or missing value reads as its default, the others as they are")
         {"a switch in words", "au", easel::textValue("0"), {.axisCount = 1, .autoMirror = true}},
         {"a number for a text", "cx", ai::int32{5}, {.axisCount = 1, .autoMirror = true}},
     };
-    for (const auto& [what, key, value, expected] : rows) {
-        INFO(what);
+    for (const auto& row : rows) {
+        INFO(row.what);
         EngineFixture fixture;
-        store(axesEntry(fixture.layer()), key, value);
-        SymmetryAxes onLayer = expected;
+        store(axesEntry(fixture.layer()), row.key, row.value);
+        SymmetryAxes onLayer = row.expected;
         onLayer.onLayer = true;
         CHECK(readAxes(fixture) == onLayer);
     }
@@ -183,15 +183,15 @@ TEST_CASE("removing axes frees the copies of the layer that was given") {
         {"k(!a b) k'(!a b) ^d", "k(!a b) k(!a b) d"},
         {"", ""},
     };
-    for (const auto& [before, after] : rows) {
-        INFO(before);
+    for (const auto& row : rows) {
+        INFO(row.before);
         EngineFixture fixture;
-        fixture.build(fixture.layer(), before);
+        fixture.build(fixture.layer(), row.before);
         fixture.step([] {
             LayerAxesStore::write({.axisCount = 2});
             LayerAxesStore::remove(nullptr, /*resolveTopLevel*/ true);
         });
-        CHECK(fixture.notationOf(fixture.layer()) == after);
+        CHECK(fixture.notationOf(fixture.layer()) == row.after);
         CHECK_FALSE(LayerAxesStore::hasAxes(fixture.layerHandle()));
     }
 }
@@ -237,15 +237,15 @@ TEST_CASE("the mirror tag reads as 0, 1 or 2 whatever is stored") {
         {"a text", easel::textValue("2"), 1},
         {"a switch", easel::Boolean{true}, 1},
     };
-    for (const auto& [what, value, read] : rows) {
-        INFO(what);
+    for (const auto& row : rows) {
+        INFO(row.what);
         EngineFixture fixture;
         fixture.build(fixture.layer(), "a");
         Art& art = *fixture.layer().firstChild();
-        store(art.dictionary(), "FTMirroredv1", value);
-        CHECK(MirrorTag::get(art.handle()) == read);
+        store(art.dictionary(), "FTMirroredv1", row.value);
+        CHECK(MirrorTag::get(art.handle()) == row.read);
         fixture.step([&] { MirrorTag::set(art.handle(), 2); }); // never overwritten
-        CHECK(MirrorTag::get(art.handle()) == read);
+        CHECK(MirrorTag::get(art.handle()) == row.read);
     }
 }
 
