@@ -32,6 +32,7 @@ Dictionary& Art::dictionary() {
         dictionary_ = Ref<Dictionary>(new Dictionary);
         dictionary_->setOwner(this);
         dictionary_->attach(document_->sharedUndo());
+        dictionary_->noteMadeIn(madeIn_);
     }
     return *dictionary_;
 }

@@ -99,7 +99,13 @@ void checkSettable(const Art& art, ai::int32 mask, ai::int32 value) {
         checkOpen(*art.parent());
 }
 
-void noteLayerOptions(Art& art, ai::int32 mask) {
+/// Attributes that stay as they are make no edit.
+void store(Art& art, ai::int32 mask, ai::int32 value) {
+    const auto former = static_cast<ai::int32>(art.content().attributes) & mask;
+    if (former == value) return;
+    if ((value & kLocks) != 0) select(art, false); // what is locked or hidden is not selected
+    const bool onlyListState = (mask & ~(kArtExpanded | kArtTargeted)) == 0;
+    assign(art.write(onlyListState ? Edit::Quiet : Edit::Art), mask, value);
     if (art.isLayer() && (mask & kLocks) != 0) art.document().note(&DocumentChanges::layerOptions);
 }
 
@@ -113,21 +119,16 @@ ai::int32 userAttributes(const Art& art, ai::int32 mask) {
 void setUserAttributes(Art& art, ai::int32 mask, ai::int32 value) {
     value &= mask;
     checkSettable(art, mask, value);
-    if ((mask & kStored) != 0) {
-        const bool locks = (value & kLocks) != 0;
-        // Deselected first: what is locked or hidden is not selected.
-        if (locks) select(art, false);
-        const bool onlyListState = (mask & kStored & ~(kArtExpanded | kArtTargeted)) == 0;
-        assign(art.write(onlyListState ? Edit::Quiet : Edit::Art), mask & kStored, value);
-        noteLayerOptions(art, mask);
-    }
+    store(art, mask & kStored, value & kStored);
     if ((mask & kSelection) == 0) return;
     const bool selected = (value & kSelection) != 0;
-    if (selected && !isEditable(art)) {
-        if (switches().selectingLockedFails) checkEditable(art);
-        return;
-    }
-    select(art, selected);
+    if (!selected || maySelect(art)) select(art, selected);
+}
+
+bool maySelect(const Art& art) {
+    const bool may = isEditable(art);
+    if (!may && switches().selectingLockedFails) checkEditable(art);
+    return may;
 }
 
 void checkEditable(const Art& art) {

@@ -21,6 +21,10 @@ void checkOpen(const Art& container);
 /// Neither it nor anything above it is hidden.
 [[nodiscard]] bool isVisible(const Art& art) noexcept;
 
+/// False when `art` cannot be selected because it or something above it is locked or hidden; that
+/// throws as `checkEditable` does unless a switch says that nothing shall happen.
+[[nodiscard]] bool maySelect(const Art& art);
+
 enum class Selected : std::uint8_t { No, Partly, Fully };
 [[nodiscard]] Selected selectionOf(const Art& art) noexcept;
 /// Selects or deselects everything in `art` that can be selected. Asks nothing about locks.

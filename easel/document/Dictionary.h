@@ -44,7 +44,9 @@ public:
 
     /// From now on changes are recorded there, those of nested dictionaries and arrays as well.
     void attach(const std::shared_ptr<UndoLog>& log);
-    [[nodiscard]] const std::shared_ptr<UndoLog>& log() const noexcept { return log_; }
+    /// It came to be in that epoch of the undo log, together with what owns it: there is no former
+    /// state to keep.
+    void noteMadeIn(std::uint64_t epoch) noexcept { keptIn_ = epoch; }
     /// The art whose dictionary this is; null for any other. Cleared when the art is gone.
     [[nodiscard]] Art* owner() const noexcept { return owner_; }
     void setOwner(Art* art) noexcept { owner_ = art; }

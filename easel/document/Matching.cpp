@@ -11,9 +11,10 @@ namespace easel {
 namespace {
 
 constexpr ai::int32 kSelection = kArtSelected | kArtFullySelected;
+constexpr ai::int32 kMatchChartArt = 0x00100000;
 /// What a spec may say of the search as a whole.
 constexpr ai::int32 kSearchOptions = kMatchDictionaryArt | kMatchGraphArt | kMatchResultArt |
-                                     kMatchTextPaths | kMatchNotIntoPluginGroups | 0x100000;
+                                     kMatchTextPaths | kMatchNotIntoPluginGroups | kMatchChartArt;
 /// Questions that exclude each other and every other bit.
 constexpr ai::int32 kSpecialSelections =
     kArtSelectedTopLevelGroups | kArtSelectedLeaves | kArtSelectedTopLevelWithPaint;

@@ -83,7 +83,6 @@ void checkPlace(const Position& place, ai::int16 type) {
 }
 
 void checkPlace(const Position& place, const Art& art) {
-    if (isInside(*place.parent, art)) throw ai::Error{kBadParameterErr};
     for (const Art* each = &art; each != nullptr; each = nextInPreorder(*each, art))
         if (isInCompound(*place.parent) && !mayBeInCompound(each->type()))
             throw ai::Error{kInvalidArtTypeForDestErr};

@@ -12,7 +12,7 @@ namespace easel {
 [[nodiscard]] Position placeFor(ai::int16 order, Art* reference);
 /// May the plug-in put art of that type there? Throws '~VAT', 'ELIO' or 'NESS'.
 void checkPlace(const Position& place, ai::int16 type);
-/// The same for the whole of `art`, as a member of what it would be in.
+/// The same for `art` with all it contains.
 void checkPlace(const Position& place, const Art& art);
 
 /// Where drawing tools put new art: above `art`, or inside it on top.

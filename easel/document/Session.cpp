@@ -18,7 +18,8 @@ void setCurrentDocument(Document* document) noexcept { session().current = docum
 
 Art* findArt(AIArtHandle handle) noexcept {
     auto* art = static_cast<Art*>(session().handles.find(HandleKind::Art, handle));
-    return art != nullptr && art->isAlive() ? art : nullptr;
+    // Only the document's root hangs on nothing, and it is no art that anyone is told of.
+    return art != nullptr && art->isAlive() && art->parent() != nullptr ? art : nullptr;
 }
 
 Art& artOf(AIArtHandle handle) {

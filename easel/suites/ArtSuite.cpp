@@ -56,6 +56,7 @@ AIErr reorderArt(AIArtHandle handle, ai::int16 order, AIArtHandle reference) {
     Art& art = artOf(handle);
     if (isFixed(art)) return kUntouchableArtObjectErr;
     const Position place = placeFor(order, artOrNull(reference));
+    if (isInside(*place.parent, art)) return kBadParameterErr;
     checkEditable(art);
     checkPlace(place, art);
     moveArt(art, place);
@@ -68,7 +69,7 @@ AIErr duplicateArtObject(AIArtHandle handle, ai::int16 order, AIArtHandle refere
     const Art& art = artOf(handle);
     if (art.isLayer()) return kUntouchableArtObjectErr;
     const Position place = placeFor(order, artOrNull(reference));
-    checkPlace(place, art.type());
+    checkPlace(place, art);
     *made = duplicateArt(art, place).handle();
     return kNoErr;
 }

@@ -8,17 +8,17 @@
 namespace easel {
 
 AIEntryRef lendEntry(Value value) {
-    const Ref<EntryObjectBody> entry(new EntryObjectBody(std::move(value)));
+    const Ref<HeldEntry> entry(new HeldEntry(std::move(value)));
     return static_cast<AIEntryRef>(entry->lend());
 }
 
-EntryObjectBody& entryOf(AIEntryRef entry) {
+HeldEntry& entryOf(AIEntryRef entry) {
     if (entry == nullptr) throw ai::Error{kNoSuchEntry};
-    return static_cast<EntryObjectBody&>(counted(HandleKind::Entry, Lent::Entry, entry));
+    return static_cast<HeldEntry&>(counted(HandleKind::Entry, Lent::Entry, entry));
 }
 
 Value consume(AIEntryRef entry) {
-    EntryObjectBody& body = entryOf(entry);
+    HeldEntry& body = entryOf(entry);
     Value value = body.value;
     body.takeBack();
     return value;

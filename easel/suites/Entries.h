@@ -9,9 +9,9 @@
 namespace easel {
 
 /// A value in the plug-in's hands.
-class EntryObjectBody final : public Counted {
+class HeldEntry final : public Counted {
 public:
-    explicit EntryObjectBody(Value content) noexcept
+    explicit HeldEntry(Value content) noexcept
         : Counted(HandleKind::Entry, Lent::Entry), value(std::move(content)) {}
     const Value value;
 };
@@ -19,7 +19,7 @@ public:
 /// A new entry, lent to the plug-in.
 [[nodiscard]] AIEntryRef lendEntry(Value value);
 /// Null throws 'EnNS', a stale or invented one 'PARM'.
-[[nodiscard]] EntryObjectBody& entryOf(AIEntryRef entry);
+[[nodiscard]] HeldEntry& entryOf(AIEntryRef entry);
 /// The value of an entry, whose reference ends.
 [[nodiscard]] Value consume(AIEntryRef entry);
 

@@ -15,7 +15,7 @@ namespace easel {
 namespace {
 
 ai::int32 addRef(AIEntryRef entry) {
-    EntryObjectBody& held = entryOf(entry);
+    HeldEntry& held = entryOf(entry);
     static_cast<void>(held.lend());
     return static_cast<ai::int32>(held.owners());
 }

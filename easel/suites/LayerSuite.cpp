@@ -118,14 +118,18 @@ AIErr insertLayer(AILayerHandle beside, ai::int16 order, AILayerHandle* out) {
     }
 }
 
+/// Beside a top-level layer's group no art can be, but a layer can.
+Position layerPlaceAt(Art& art, AIPaintOrder order) {
+    const bool isTopLayer = art.parent() == &art.document().root();
+    if (isTopLayer && order == kPlaceAbove) return inFrontOf(art);
+    if (isTopLayer && order == kPlaceBelow) return behind(art);
+    return placeFor(static_cast<ai::int16>(order), &art);
+}
+
 AIErr insertLayerAtArt(AIArtHandle handle, AIPaintOrder order, AILayerHandle* out) {
     required(out) = nullptr;
     Art& art = artOf(handle);
-    const bool besideTopLayer = art.parent() == &art.document().root();
-    const Position place = besideTopLayer && order == kPlaceAbove ? inFrontOf(art)
-                           : besideTopLayer && order == kPlaceBelow
-                               ? behind(art)
-                               : placeFor(static_cast<ai::int16>(order), &art);
+    const Position place = layerPlaceAt(art, order);
     const bool inLayer = place.parent->isLayer() || place.parent == &art.document().root();
     if (!inLayer) return kInvalidArtTypeForDestErr;
     checkOpen(*place.parent);

@@ -159,8 +159,9 @@ AIErr getPathClosed(AIArtHandle path, AIBoolean* closed) {
     return kNoErr;
 }
 
-AIErr setPathClosed(AIArtHandle path, AIBoolean closed) {
-    editablePath(path).write().closed = closed != 0;
+AIErr setPathClosed(AIArtHandle handle, AIBoolean closed) {
+    Art& path = editablePath(handle);
+    if (path.content().closed != (closed != 0)) path.write().closed = closed != 0;
     return kNoErr;
 }
 
@@ -169,8 +170,9 @@ AIErr getPathGuide(AIArtHandle path, AIBoolean* guide) {
     return kNoErr;
 }
 
-AIErr setPathGuide(AIArtHandle path, AIBoolean guide) {
-    editablePath(path).write().guide = guide != 0;
+AIErr setPathGuide(AIArtHandle handle, AIBoolean guide) {
+    Art& path = editablePath(handle);
+    if (path.content().guide != (guide != 0)) path.write().guide = guide != 0;
     return kNoErr;
 }
 
@@ -194,11 +196,8 @@ AIErr setPathSegmentSelected(AIArtHandle handle, ai::int16 index, ai::int16 sele
     const std::size_t anchor = anchorIndex(path, index);
     if (selection < kSegmentNotSelected || selection > kSegmentInAndOutSelected)
         return kBadParameterErr;
-    if (selection != kSegmentNotSelected && !isEditable(path)) {
-        if (switches().selectingLockedFails) checkEditable(path);
-        return kNoErr;
-    }
-    setSegmentSelection(path, anchor, selection);
+    if (selection == kSegmentNotSelected || maySelect(path))
+        setSegmentSelection(path, anchor, selection);
     return kNoErr;
 }
 

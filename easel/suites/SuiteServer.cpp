@@ -24,12 +24,13 @@ std::array<std::unique_ptr<SlotRecord>, kMostSlots>& records() {
     return all;
 }
 
-/// What an unimplemented slot does: tells its name, answers '!IMP'.
+/// What an unimplemented slot does: tells its name, answers '!IMP', or nothing where a value is
+/// wanted.
 template <std::size_t Index> AIErr notImplemented() {
     SlotRecord& record = *records()[Index];
     const HostCallScope scope{record};
     std::fprintf(stderr, "easel: %s is not implemented\n", record.name.c_str());
-    return kNotImplementedErr;
+    return record.returnsError ? kNotImplementedErr : kNoErr;
 }
 
 template <std::size_t... Index>

@@ -109,6 +109,7 @@ TEST_CASE("time stamps tell edits of art and leave dictionaries and selection ou
          [](AIArtHandle handle) { art().SetArtUserAttr(handle, kArtSelected, kArtSelected); },
          false},
         {"geometry", [](AIArtHandle handle) { path().SetPathClosed(handle, 1); }, true},
+        {"nothing new", [](AIArtHandle handle) { path().SetPathClosed(handle, 1); }, false},
         {"locking",
          [](AIArtHandle handle) { art().SetArtUserAttr(handle, kArtLocked, kArtLocked); }, true},
         {"unlocking", [](AIArtHandle handle) { art().SetArtUserAttr(handle, kArtLocked, 0); },

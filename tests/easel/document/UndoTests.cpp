@@ -252,6 +252,75 @@ TEST_CASE("deleted art lives only as long as a step needs it") {
     CHECK(session().handles.used() == before);
 }
 
+TEST_CASE("the history has an end, and what falls out of it is freed") {
+    Drawing drawing;
+    Document& document = drawing.document;
+    const std::size_t before = session().handles.used();
+    for (int step = 0; step < 300; ++step) {
+        AIArtHandle made = nullptr;
+        {
+            const Record record(document);
+            made = drawing.make(kPathArt);
+        }
+        const Record record(document);
+        CHECK(art().DisposeArt(made) == kNoErr);
+    }
+    CHECK(document.undo().pastSteps() == 200);
+    CHECK(session().handles.used() == before + 100); // one object for two steps
+    while (document.undo().undo()) {
+    }
+    CHECK(document.undo().futureSteps() == 200);
+}
+
+TEST_CASE("a change outside any record cannot be undone and ends the history before it") {
+    Drawing drawing;
+    Document& document = drawing.document;
+    {
+        const Record record(document);
+        drawing.make(kPathArt);
+    }
+    drawing.make(kPathArt);
+    CHECK(document.undo().pastSteps() == 0);
+    CHECK_FALSE(document.undo().undo());
+}
+
+TEST_CASE("what has happened is told apart for those who announce it") {
+    struct Row {
+        const char* what;
+        void (*change)(Drawing&);
+        bool DocumentChanges::*noted;
+        bool art;
+    };
+    const Row rows[] = {
+        {"selecting", [](Drawing& d) { selectAll(d.document); }, &DocumentChanges::selection,
+         false},
+        {"drawing", [](Drawing& d) { d.make(kPathArt); }, &DocumentChanges::art, true},
+        {"a title",
+         [](Drawing& d) {
+             changeLayer(d.layerGroup(), [](LayerProperties& own) { own.title = "new"; });
+         },
+         &DocumentChanges::layerOptions, true},
+        {"the ruler origin",
+         [](Drawing& d) {
+             d.document.setRulerOrigin({1, 1});
+         },
+         &DocumentChanges::rulerOrigin, true},
+    };
+    for (const auto& [what, change, noted, art] : rows) {
+        INFO(what);
+        Drawing drawing;
+        drawing.make(kPathArt);
+        static_cast<void>(drawing.document.takeChanges());
+        drawing.document.setModified(false);
+        change(drawing);
+        const DocumentChanges changes = drawing.document.takeChanges();
+        CHECK(changes.*noted);
+        CHECK(changes.art == art);
+        CHECK(drawing.document.isModified());
+        CHECK_FALSE(drawing.document.takeChanges().any());
+    }
+}
+
 TEST_CASE("a dictionary that outlives its document records nothing and harms nobody") {
     Ref<Dictionary> survivor;
     {
