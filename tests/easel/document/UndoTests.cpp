@@ -208,6 +208,12 @@ TEST_CASE("steps are counted, named and thrown away as the user expects") {
     CHECK(counts() == std::pair(1, 1));
     CHECK(document.undo().redoText() == "Redo two");
     step("unseen", kSilentUndoContext); // discards no redo, and gives way to it
+    {
+        const Record record(document);
+        Art* const kept = drawing.layerGroup().firstChild();
+        CHECK(path().SetPathClosed(kept->handle(), 1) == kNoErr);
+        CHECK(undo().SetSilent(1) == kNoErr);
+    }
     CHECK(counts() == std::pair(1, 1));
     document.undo().redo();
     CHECK(dump(document) == all);
