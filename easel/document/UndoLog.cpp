@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cassert>
-#include <ranges>
 #include <utility>
 
 namespace easel {
@@ -144,8 +143,8 @@ ai::int32 UndoLog::futureSteps() const noexcept {
 }
 
 const UndoLog::Record* UndoLog::step(const std::deque<Record>& records, ai::int32 back) noexcept {
-    for (const Record& record : records | std::views::reverse)
-        if (record.kind == kStandardUndoContext && back-- == 0) return &record;
+    for (auto record = records.rbegin(); record != records.rend(); ++record)
+        if (record->kind == kStandardUndoContext && back-- == 0) return &*record;
     return nullptr;
 }
 
@@ -237,8 +236,8 @@ void UndoLog::exchange(Step& step) {
 }
 
 void UndoLog::takeBack(Record& record) {
-    for (Step& step : record.steps | std::views::reverse)
-        exchange(step);
+    for (auto step = record.steps.rbegin(); step != record.steps.rend(); ++step)
+        exchange(*step);
 }
 
 void UndoLog::bringBack(Record& record) {

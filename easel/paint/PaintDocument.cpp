@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <stdexcept>
 
 namespace easel::paint {
@@ -15,6 +16,9 @@ using svg::operator+;
 constexpr int kMostInstances = 500'000;
 /// Repetitions of a pattern over one shape.
 constexpr double kMostTiles = 10'000;
+
+/// Dashes along one outline; more are finer than any pixel, and would take long to paint.
+constexpr double kMostDashes = 1'000'000;
 
 constexpr Colour kGuideColour{0.29F, 0.65F, 1.0F, 1.0F};
 constexpr Matrix kFlip{1, 0, 0, -1, 0, 0};
@@ -47,7 +51,24 @@ FillRule ruleOf(const ArtStyle& style) {
     return style.path.evenodd != 0 ? FillRule::EvenOdd : FillRule::NonZero;
 }
 
-Pen penOf(const ArtStyle& style) {
+/// Not less than the length of the curves.
+double lengthOf(const Outline& outline) {
+    double length = 0.0;
+    const auto add = [&](Point from, Point to) {
+        length += std::hypot(to.x - from.x, to.y - from.y);
+    };
+    for (const svg::Subpath& subpath : outline)
+        for (std::size_t i = 0; i < subpath.anchors.size(); ++i) {
+            const svg::Anchor& from = subpath.anchors[i];
+            const svg::Anchor& to = subpath.anchors[(i + 1) % subpath.anchors.size()];
+            add(from.p, from.out);
+            add(from.out, to.in);
+            add(to.in, to.p);
+        }
+    return length;
+}
+
+Pen penOf(const ArtStyle& style, const Outline& outline) {
     const AIStrokeStyle& stroke = style.path.stroke;
     Pen pen;
     pen.width = stroke.width;
@@ -60,8 +81,11 @@ Pen penOf(const ArtStyle& style) {
     else
         pen.dashes.assign(stroke.dash.array,
                           stroke.dash.array + std::clamp<int>(stroke.dash.length, 0, 6));
+    if (pen.dashes.empty()) return pen;
+    const double period = std::accumulate(pen.dashes.begin(), pen.dashes.end(), 0.0);
+    const auto parts = static_cast<double>(pen.dashes.size());
     const bool sane = std::ranges::all_of(pen.dashes, [](double part) { return part >= 0; }) &&
-                      std::ranges::any_of(pen.dashes, [](double part) { return part > 0; });
+                      parts * lengthOf(outline) < kMostDashes * period;
     if (!sane) pen.dashes.clear();
     return pen;
 }
@@ -185,7 +209,7 @@ private:
     void stroke(const Outline& outline, const ArtStyle& style, double alpha) {
         const auto ink = inkOf(style.path.stroke.color, style.strokeDefinition, style.strokeMatrix,
                                alpha * style.strokeOpacity);
-        if (ink) painter_.stroke(outline, penOf(style), *ink);
+        if (ink) painter_.stroke(outline, penOf(style, outline), *ink);
     }
 
     /// Nothing when the paint is not understood. A pattern along a stroke shows as grey.

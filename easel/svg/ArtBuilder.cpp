@@ -86,7 +86,7 @@ void ArtBuilder::readChildren(NodeIndex node, Art& parent, const Context& contex
         if (art != nullptr)
             keepPending(art->handle());
         else
-            pending.emplace_back(state_.tree.source(child));
+            pending.emplace_back(trimmed(state_.tree.source(child)));
     }
     keepPending(nullptr);
 }

@@ -90,13 +90,16 @@ Properties Element::properties(const StyleSheet& sheet,
     const auto add = [&](const Declaration& declaration) {
         result[declaration.property] = declaration.value;
     };
-    if (!sheet.empty())
+    // Art that we wrote says all of its style itself; rules that it matches only because it has
+    // become a path or a group must not touch it.
+    const bool ruled = !sheet.empty() && !isTrue("easel:styled");
+    if (ruled)
         for (const Declaration* declaration : sheet.matching(path, false))
             add(*declaration);
     const std::vector<Declaration> own = parseDeclarations(get("style"));
     for (const Declaration& declaration : own)
         if (!declaration.important) add(declaration);
-    if (!sheet.empty())
+    if (ruled)
         for (const Declaration* declaration : sheet.matching(path, true))
             add(*declaration);
     for (const Declaration& declaration : own)

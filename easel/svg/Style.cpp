@@ -246,6 +246,17 @@ constexpr Setter kSetters[] = {
     {"text-anchor", [](const Context& c) { setWord(c.style.anchor, c.value, kAnchors); }},
 };
 
+/// Can the property be written in a declaration list, among others, and be read again? What cannot
+/// is invalid to all readers and has no effect.
+bool isOneDeclaration(const std::string& property, const std::string& value) {
+    if (isUnderstood(property)) return true; // never kept in a declaration list
+    const auto isNamed = [](char c) { return (c >= 'a' && c <= 'z') || c == '-' || c == '_'; };
+    if (!std::ranges::all_of(property, isNamed)) return false;
+    const std::vector<Declaration> read = parseDeclarations(property + ':' + value + ";x:y");
+    return read.size() == 2 && read[0].property == property && read[0].value == value &&
+           !read[0].important;
+}
+
 /// What a child starts from: the parent's style without what is the parent's own.
 Style handedDown(const Style& parent) {
     Style style = parent;
@@ -295,6 +306,7 @@ Style styleOf(const Properties& properties, const Style& parent, double viewport
     std::shared_ptr<Properties> inherited;
     for (const auto& [property, value] : properties) {
         apply(style, parent, property, value, viewport);
+        if (!isOneDeclaration(property, value)) continue;
         if (isInherited(property)) {
             if (value == "inherit") continue;
             if (!inherited)
@@ -316,7 +328,10 @@ std::string referenceIn(std::string_view text) {
     if (!cursor.skip('"')) cursor.skip('\'');
     if (!cursor.skip('#')) return {};
     const std::string_view rest = cursor.rest();
-    return std::string{trimmed(rest.substr(0, rest.find_first_of("\"')")))};
+    const std::string_view id = trimmed(rest.substr(0, rest.find_first_of("\"')")));
+    // Such an id would have to be escaped wherever it is referred to, which nobody does.
+    const bool isPlain = id.find_first_of(" \t\r\n(;{}\\") == std::string_view::npos;
+    return isPlain ? std::string{id} : std::string{};
 }
 
 } // namespace easel::svg

@@ -117,9 +117,11 @@ bool ArtBuilder::setPaint(const Paint& paint, const Context& context, const Outl
 std::optional<ArtBuilder::ServerUse>
 ArtBuilder::serverFor(const std::string& id, const Context& context, const Outline& outline) {
     const AIRealMatrix plain = toSoft(context.matrix, offset_);
+    // What is not understood is named by its id alone, so that it has no matrix of its own.
+    const AIRealMatrix unplaced = toSoft(Matrix{}, offset_);
     const NodeIndex node = state_.tree.find(id);
     if (node == kNoNode)
-        return ServerUse{&definition(Definition::Kind::Gradient, id, nullptr, {}), plain};
+        return ServerUse{&definition(Definition::Kind::Gradient, id, nullptr, {}), unplaced};
     const Element element{state_.tree, node};
     state_.countReference(element);
     const std::string source = element.get("easel:source");
@@ -136,7 +138,8 @@ ArtBuilder::serverFor(const std::string& id, const Context& context, const Outli
     if (element.name() == "pattern") return patternUse(element, nullptr, context, bounds);
     const auto gradient = gradientContent(state_, node, context.viewport);
     Definition& known = definition(Definition::Kind::Gradient, id, gradient, {});
-    if (!gradient || !gradient->overBounds) return ServerUse{&known, plain};
+    if (!gradient) return ServerUse{&known, unplaced};
+    if (!gradient->overBounds) return ServerUse{&known, plain};
     const Matrix overBounds = boundsMatrix(bounds);
     if (bounds.empty || !inverse(overBounds)) return std::nullopt; // SVG: such a shape has no paint
     return ServerUse{&known, toSoft(context.matrix * overBounds, offset_)};

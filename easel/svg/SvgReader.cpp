@@ -165,7 +165,7 @@ private:
                 if (!pending.empty() && art != nullptr)
                     keepPending(source_->elements[loose->handle()].interludes, art->handle());
             } else {
-                pending.emplace_back(state_.tree.source(node));
+                pending.emplace_back(trimmed(state_.tree.source(node)));
             }
         }
         keepPending(source_->interludes, nullptr);

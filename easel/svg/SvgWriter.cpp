@@ -252,7 +252,9 @@ private:
         const ArtStyle& style = group.style();
         Properties properties = extras(style);
         if (group.has(kArtHidden)) properties["display"] = "none";
-        if (style.opacity != 1.0F) properties["opacity"] = formatNumber(style.opacity);
+        if (style.opacity != 1.0F || explicit_ == Explicit::Yes)
+            properties["opacity"] = formatNumber(style.opacity);
+        if (explicit_ == Explicit::Yes) attribute("easel:styled", "true");
         if (!properties.empty()) attribute("style", declarationText(properties));
         if (source != nullptr && !source->interludes.empty()) open.interludes = &source->interludes;
         if (open.next == nullptr && open.interludes == nullptr) {
@@ -421,6 +423,7 @@ private:
             else
                 attribute(property.name, property.value);
         }
+        if (explicit_ == Explicit::Yes) attribute("easel:styled", "true");
         const AIPathStyle& path = art.style().path;
         if (isClipMask(art) && path.evenodd != 0) attribute("clip-rule", "evenodd");
         if (const std::string ink = inkText(path.fill.color); !ink.empty() && path.fillPaint != 0)

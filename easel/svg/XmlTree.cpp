@@ -19,7 +19,9 @@ constexpr std::size_t kLongestReference = 64;
 
 bool isBlank(char c) { return kBlanks.find(c) != std::string_view::npos; }
 
-bool endsName(char c) { return isBlank(c) || c == '>' || c == '/' || c == '=' || c == '<'; }
+bool endsName(char c) {
+    return isBlank(c) || std::string_view{">/=<\"'"}.find(c) != std::string_view::npos;
+}
 
 bool startsName(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == ':' ||
