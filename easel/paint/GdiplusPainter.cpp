@@ -311,7 +311,10 @@ void GdiplusPainter::image(std::span<const std::byte> png, Point corner, Point s
     const Gdiplus::PointF corners[] = {pointF(matrix_ * corner),
                                        pointF(matrix_ * Point{corner.x + size.x, corner.y}),
                                        pointF(matrix_ * Point{corner.x, corner.y + size.y})};
-    graphics().DrawImage(bitmap.get(), corners, 3);
+    Gdiplus::ImageAttributes attributes;
+    attributes.SetWrapMode(Gdiplus::WrapModeTileFlipXY); // else the edges would fade away
+    graphics().DrawImage(bitmap.get(), corners, 3, 0, 0, static_cast<float>(bitmap->GetWidth()),
+                         static_cast<float>(bitmap->GetHeight()), Gdiplus::UnitPixel, &attributes);
 }
 
 Point GdiplusPainter::imageSize(std::span<const std::byte> png) {

@@ -54,7 +54,7 @@ TEST_CASE("info as JSON holds the same") {
     const std::string json = infoOn(kMirrored, true);
     for (const char* part : {R"("title": "Star")", R"("count": 6)", R"("automatic": false)",
                              R"("copies": 1)", R"("axisGuides": 1)", R"("visible": false)"}) {
-        INFO(part);
+        INFO(std::string{part});
         CHECK(json.find(part) != std::string::npos);
     }
 }

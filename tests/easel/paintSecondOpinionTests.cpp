@@ -88,7 +88,7 @@ TEST_CASE("another program sees in saved drawings what it saw before, and what w
         {"fuzz/corpus/svg_fuzz/mixed.svg", 0.004, 0.02},
     };
     for (const auto& [drawing, saved, ours] : rows) {
-        INFO(drawing);
+        INFO(std::string{drawing});
         const svg::OpenedDrawing opened = svg::readSvg(drawing);
         paint::PaintOptions options;
         options.background = paint::Colour{1, 1, 1, 1};

@@ -40,7 +40,7 @@ void check(const Picture& picture, std::initializer_list<Probe> probes) {
     for (const auto& [x, y, colour] : probes) {
         CAPTURE(x);
         CAPTURE(y);
-        CHECK(pixel(picture, x, y) == colour);
+        CHECK(pixel(picture, x, y) == std::string{colour});
     }
 }
 
@@ -125,7 +125,7 @@ TEST_CASE("pictures show what the drawing says") {
          {{0, 0, "none"}}},
     };
     for (const auto& [what, content, probes] : rows) {
-        INFO(what);
+        INFO(std::string{what});
         check(painted(content), probes);
     }
 }

@@ -65,7 +65,7 @@ TEST_CASE("path data draws what its grammar says") {
         {"  ", ""},
     };
     for (const auto& [data, curves] : rows) {
-        INFO(data);
+        INFO(std::string{data});
         const PathData read = parsePathData(data);
         CHECK(read.error.empty());
         CHECK(text(read.outline) == curves);
@@ -85,7 +85,7 @@ TEST_CASE("a mistake in path data keeps what comes before it") {
         {"M0 0L nan 0", "number", 1},  {"M0 0H0x10", "command", 2},
     };
     for (const auto& [data, error, anchors] : rows) {
-        INFO(data);
+        INFO(std::string{data});
         const PathData read = parsePathData(data);
         CHECK(read.error.find(error) != std::string::npos);
         CHECK((read.outline.empty() ? 0 : read.outline.front().anchors.size()) == anchors);
@@ -145,7 +145,7 @@ TEST_CASE("transforms are applied from the right to the left") {
         {" translate ( 1 , 1 ) ", {2, 3}},
     };
     for (const auto& [transform, image] : rows) {
-        INFO(transform);
+        INFO(std::string{transform});
         const auto matrix = parseTransform(transform);
         REQUIRE(matrix);
         const Point result = *matrix * Point{1, 2};
@@ -154,7 +154,7 @@ TEST_CASE("transforms are applied from the right to the left") {
     }
     for (const char* bad : {"turn(3)", "scale()", "rotate(1 2)", "translate(1", "matrix(1 2 3)",
                             "translate(1) x", "scale(inf)"}) {
-        INFO(bad);
+        INFO(std::string{bad});
         CHECK_FALSE(parseTransform(bad));
     }
 }
@@ -198,7 +198,7 @@ TEST_CASE("colours in all their spellings") {
         {"reddish", "", 0},
     };
     for (const auto& [spelling, hex, alpha] : rows) {
-        INFO(spelling);
+        INFO(std::string{spelling});
         const auto colour = parseColour(spelling);
         CHECK(colour.has_value() == (hex[0] != '\0'));
         if (!colour) continue;
@@ -231,7 +231,7 @@ TEST_CASE("numbers read back as they were, however they are written") {
     }
     CHECK(formatNumber(-0.0F) == "0");
     for (const char* none : {"", "inf", "nan", "0x10", "1e400", "--1", "1 2", "."}) {
-        INFO(none);
+        INFO(std::string{none});
         CHECK_FALSE(parseNumber(none));
     }
 }
@@ -256,7 +256,7 @@ TEST_CASE("the stronger, then the later rule of a style sheet wins") {
         {{{"rect", "", ""}}, ""},
     };
     for (const auto& [path, fill] : rows) {
-        INFO(fill);
+        INFO(std::string{fill});
         std::string found;
         for (const Declaration* declaration : sheet.matching(path, false))
             if (declaration->property == "fill") found = declaration->value;

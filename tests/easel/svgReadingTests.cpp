@@ -71,7 +71,7 @@ TEST_CASE("shapes and transforms end in the outline") {
         {"<rect width='1in' height='1in'/>", "0 0 9600 9600 "},
     };
     for (const auto& [element, bounds] : rows) {
-        INFO(element);
+        INFO(std::string{element});
         CHECK(boundsText(topArt(open(element))) == bounds);
     }
     const auto inside = open("<g transform='translate(10 0)'><g transform='rotate(90)'>"
@@ -114,7 +114,7 @@ TEST_CASE("styles come from attributes, sheets, the style attribute and ancestor
         {"<path d='M0 0H1' fill='nonsense'/>", "000"},
     };
     for (const auto& [content, fill] : rows) {
-        INFO(content);
+        INFO(std::string{content});
         const auto opened = open(content);
         const Art* art = &topArt(opened);
         while (art->type() == kGroupArt)
@@ -211,7 +211,7 @@ TEST_CASE("clip paths make clip groups") {
         {"<g clip-path='url(#none)'><path d='M0 0H9'/></g>", 0, kPathArt, "0 0 900 0 "},
     };
     for (const auto& [content, masks, type, bounds] : rows) {
-        INFO(content);
+        INFO(std::string{content});
         const auto opened = open(defs + content);
         const Art& group = topArt(opened);
         CHECK(group.content().clipped == (masks > 0));

@@ -39,7 +39,7 @@ Art& firstArt(const Document& document) { return *document.root().firstChild()->
 
 TEST_CASE("the example drawings are the same after saving and opening, and saving again") {
     for (const char* name : {"rosette", "layered", "crossing", "dense"}) {
-        INFO(name);
+        INFO(std::string{name});
         checkStable(*readSvg(std::string{"examples/"} + name + ".svg").document);
     }
 }
@@ -67,7 +67,7 @@ TEST_CASE("drawings of all kinds are the same after saving and opening") {
         "<g inkscape:groupmode='layer' inkscape:label='S'/></g>",
     };
     for (const char* content : contents) {
-        INFO(content);
+        INFO(std::string{content});
         const OpenedDrawing opened = readSvgText(file(content), "x");
         checkStable(*opened.document);
     }
