@@ -160,6 +160,7 @@ Art* ArtBuilder::readGroup(const Element& element, Art& parent, const Context& c
 /// Our own way of keeping a clip mask where it stands among the members of its group.
 Art* ArtBuilder::readClipMembers(const Element& element, Art& parent, const Context& context) {
     Art* const before = parent.firstChild();
+    parent.write().clipped = true;
     readChildren(element.node(), parent, context, nullptr);
     Art* first = nullptr;
     for (Art* art = parent.firstChild(); art != before; art = art->next()) {

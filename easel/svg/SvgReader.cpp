@@ -178,6 +178,7 @@ private:
         state_.countElement(element);
         Art& layer = createLayer(*document_, {}, onTopOf(document_->root()));
         const auto inner = std::make_unique<const Context>(builder.contextOf(element, context));
+        layer.write().clipped = element.isTrue("easel:clipped");
         builder.styleContainer(layer, inner->style);
         builder.readState(element, inner->style, layer);
         std::vector<Interlude> interludes;
