@@ -69,11 +69,9 @@ bool ArtBuilder::isArt(const Element& element) {
 
 void ArtBuilder::readChildren(NodeIndex node, Art& parent, const Context& context,
                               std::vector<Interlude>* interludes) {
-    std::vector<std::string> pending;
+    PendingInterludes pending;
     const auto keepPending = [&](AIArtHandle before) {
-        for (std::string& source : pending)
-            if (interludes != nullptr) interludes->push_back({std::move(source), before});
-        pending.clear();
+        if (interludes != nullptr) pending.moveTo(*interludes, before);
     };
     for (NodeIndex child = state_.tree.at(node).firstChild; child != kNoNode;
          child = state_.tree.at(child).nextSibling) {
@@ -85,8 +83,8 @@ void ArtBuilder::readChildren(NodeIndex node, Art& parent, const Context& contex
         }
         if (art != nullptr)
             keepPending(art->handle());
-        else
-            pending.emplace_back(trimmed(state_.tree.source(child)));
+        else if (interludes != nullptr)
+            pending.add(state_.tree, child);
     }
     keepPending(nullptr);
 }

@@ -94,6 +94,8 @@ struct StyleExtras : ForeignContent {
 struct Interlude {
     std::string source;
     AIArtHandle before = nullptr; ///< The art in front of which it stood in the text.
+    std::size_t number = 0;       ///< Grows along the text.
+    bool isDefinition = false;    ///< Art elsewhere may refer to it.
 };
 
 /// What was read of an element and belongs to this one object, not to copies of it.

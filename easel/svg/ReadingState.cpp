@@ -1,5 +1,9 @@
 #include "easel/svg/ReadingState.h"
 
+#include "easel/svg/Numbers.h"
+
+#include <algorithm>
+
 namespace easel::svg {
 namespace {
 
@@ -9,7 +13,29 @@ constexpr std::size_t kMostRuleChecks = 500'000'000;
 /// More warnings help nobody.
 constexpr std::size_t kMostWarnings = 20;
 
+/// Elements that art elsewhere may refer to, or whose look hangs on them.
+bool isDefinition(std::string_view element) {
+    constexpr std::string_view kDefinitions[] = {"clipPath", "defs",  "filter",  "linearGradient",
+                                                 "marker",   "mask",  "pattern", "radialGradient",
+                                                 "style",    "symbol"};
+    return std::ranges::find(kDefinitions, element) != std::end(kDefinitions);
+}
+
 } // namespace
+
+void PendingInterludes::add(const XmlTree& tree, NodeIndex node) {
+    const bool isElement = tree.at(node).kind == XmlTree::Kind::Element;
+    pending_.push_back({std::string{trimmed(tree.source(node))}, nullptr, node,
+                        isElement && isDefinition(tree.at(node).name)});
+}
+
+void PendingInterludes::moveTo(std::vector<Interlude>& target, AIArtHandle before) {
+    for (Interlude& interlude : pending_) {
+        interlude.before = before;
+        target.push_back(std::move(interlude));
+    }
+    pending_.clear();
+}
 
 void ReadingState::countElement(const Element& element) {
     if (++elements_ > kMostElements + kMostReferencedElements)

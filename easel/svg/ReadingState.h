@@ -57,6 +57,18 @@ private:
     std::size_t ruleChecks_ = 0;
 };
 
+/// What stands between elements that become art, until it is known which art comes next.
+class PendingInterludes {
+public:
+    void add(const XmlTree& tree, NodeIndex node);
+    [[nodiscard]] bool empty() const { return pending_.empty(); }
+    /// Moves all to the end of `target`, as what stands before that art; null: before none.
+    void moveTo(std::vector<Interlude>& target, AIArtHandle before);
+
+private:
+    std::vector<Interlude> pending_;
+};
+
 /// Something put back when a scope ends.
 template <typename Container> class Pushed {
 public:

@@ -45,6 +45,22 @@ AIRealMatrix floatMatrix(const std::vector<double>& n) {
             narrowed(n[3]), narrowed(n[4]), narrowed(n[5])};
 }
 
+/// The matrix that we wrote, unless another program has since moved the gradient or the shape: what
+/// others understand has the last word.
+AIRealMatrix derivedMatrix(const Element& derived, const Definition& definition,
+                           const AIRealMatrix& written, const Matrix& shape, Point offset) {
+    const std::string transform =
+        derived.get(derived.name() == "pattern" ? "patternTransform" : "gradientTransform");
+    const bool asWritten =
+        transform == formatTransform(derivedTransform(definition, written, offset));
+    if (asWritten && shape == Matrix{}) return written;
+    Matrix matrix = fromSoft(written, offset);
+    const auto own = inverse(derivedTransform(definition, toSoft(Matrix{}, offset), offset));
+    const auto moved = parseTransform(transform);
+    if (!asWritten && own && moved) matrix = *moved * *own;
+    return toSoft(shape * matrix, offset);
+}
+
 Matrix boundsMatrix(const Box& bounds) {
     return {
         bounds.max.x - bounds.min.x, 0, 0, bounds.max.y - bounds.min.y, bounds.min.x, bounds.min.y};
@@ -131,7 +147,9 @@ ArtBuilder::serverFor(const std::string& id, const Context& context, const Outli
         const Element base{state_.tree, state_.tree.find(source)};
         auto use = base.name() == "pattern" ? patternUse(base, &element, context, boundsOf(outline))
                                             : serverFor(source, context, outline);
-        if (use && numbers.numbers.size() == 6) use->matrix = floatMatrix(numbers.numbers);
+        if (use && numbers.numbers.size() == 6)
+            use->matrix = derivedMatrix(element, *use->definition, floatMatrix(numbers.numbers),
+                                        context.matrix, offset_);
         return use;
     }
     const Box bounds = boundsOf(outline);

@@ -109,23 +109,32 @@ private:
                                 attribute.name == "viewBox";
             const bool isOurs = attribute.name.starts_with("easel:");
             const bool handedDown = isProperty(attribute.name) && isInherited(attribute.name);
-            if (isOurs || handedDown || attribute.name == "style") continue;
+            if (isOurs || handedDown) continue;
             std::string& target = isSize ? source_->sizeAttributes : source_->rootAttributes;
-            target += ' ';
-            target += attribute.source;
+            if (attribute.name == "style")
+                target += rootStyle(root.get("style"), attribute.source);
+            else
+                target += ' ' + std::string{attribute.source};
         }
-        // Inherited properties end in the leaves; of the others the file's look depends.
-        Properties others;
-        for (const Declaration& declaration : parseDeclarations(root.get("style")))
-            if (!isInherited(declaration.property))
-                others[declaration.property] = declaration.value;
-        if (!others.empty())
-            source_->rootAttributes += " style=\"" + escaped(declarationText(others)) + '"';
         for (const std::string& id : state_.tree.idsBeginningWith(kOwnIds)) {
             const Element element{state_.tree, state_.tree.find(id)};
             const bool givenByUs = element.isTrue("easel:derived") || element.isTrue("easel:clip");
             if (!givenByUs) source_->reservedIds.push_back(id);
         }
+    }
+
+    /// Inherited properties end in the leaves; of the others the look of the whole depends.
+    static std::string rootStyle(const std::string& style, std::string_view source) {
+        const std::vector<Declaration> given = parseDeclarations(style);
+        const auto handedDown = [](const Declaration& declaration) {
+            return isInherited(declaration.property);
+        };
+        if (std::ranges::none_of(given, handedDown)) return ' ' + std::string{source};
+        Properties others;
+        for (const Declaration& declaration : given)
+            if (!handedDown(declaration)) others[declaration.property] = declaration.value;
+        if (others.empty()) return {};
+        return " style=\"" + escaped(declarationText(others)) + '"';
     }
 
     /// Puts the ruler origin at the drawing's (0, 0), or where the user had put it.
@@ -142,12 +151,7 @@ private:
     /// Layers as they are; runs of art outside of layers become layers of their own.
     void readLayers(ArtBuilder& builder, const Element& root, const Context& context) {
         Art* loose = nullptr;
-        std::vector<std::string> pending;
-        const auto keepPending = [&](std::vector<Interlude>& interludes, AIArtHandle before) {
-            for (std::string& source : pending)
-                interludes.push_back({std::move(source), before});
-            pending.clear();
-        };
+        PendingInterludes pending;
         for (NodeIndex node = state_.tree.at(root.node()).firstChild; node != kNoNode;
              node = state_.tree.at(node).nextSibling) {
             const bool isElement = state_.tree.at(node).kind == XmlTree::Kind::Element;
@@ -155,20 +159,20 @@ private:
             if (isElement && element.isTrue("easel:generated")) continue;
             if (isElement && isLayerElement(element)) {
                 loose = nullptr;
-                keepPending(source_->interludes, readLayer(builder, element, context).handle());
+                pending.moveTo(source_->interludes, readLayer(builder, element, context).handle());
             } else if (isElement && ArtBuilder::isArt(element)) {
                 if (loose == nullptr) {
                     loose = &createLayer(*document_, {}, onTopOf(document_->root()));
-                    keepPending(source_->interludes, loose->handle());
+                    pending.moveTo(source_->interludes, loose->handle());
                 }
                 const Art* const art = builder.readElement(element, *loose, context);
                 if (!pending.empty() && art != nullptr)
-                    keepPending(source_->elements[loose->handle()].interludes, art->handle());
+                    pending.moveTo(source_->elements[loose->handle()].interludes, art->handle());
             } else {
-                pending.emplace_back(trimmed(state_.tree.source(node)));
+                pending.add(state_.tree, node);
             }
         }
-        keepPending(source_->interludes, nullptr);
+        pending.moveTo(source_->interludes, nullptr);
         nameLayers();
     }
 

@@ -12,8 +12,10 @@
 
 #include <cmath>
 #include <fstream>
+#include <map>
 #include <sstream>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace easel::svg {
@@ -227,6 +229,7 @@ private:
             while (open.interlude < open.interludes->size())
                 writeInterlude((*open.interludes)[open.interlude++]);
         const bool isRoot = open_.size() == 1;
+        if (isRoot) writeLostDefinitions();
         if (isRoot && !servers_.elements().empty()) {
             newLine();
             text_ += "<defs easel:generated=\"true\">" + servers_.elements();
@@ -237,6 +240,21 @@ private:
         open_.pop_back();
         if (!isRoot) newLine();
         text_ += endTag;
+    }
+
+    /// Definitions that stood in a group that is gone: art elsewhere may refer to them. They are
+    /// kept in the order of the text that they were read from.
+    void writeLostDefinitions() {
+        if (source_ == nullptr) return;
+        std::map<std::size_t, const std::string*> lost;
+        for (const auto& [handle, element] : source_->elements)
+            if (!written_.contains(handle))
+                for (const Interlude& interlude : element.interludes)
+                    if (interlude.isDefinition) lost.emplace(interlude.number, &interlude.source);
+        for (const auto& [number, source] : lost) {
+            newLine();
+            text_ += *source;
+        }
     }
 
     void openGroup(const Art& group) {
@@ -256,7 +274,10 @@ private:
             properties["opacity"] = formatNumber(style.opacity);
         if (explicit_ == Explicit::Yes) attribute("easel:styled", "true");
         if (!properties.empty()) attribute("style", declarationText(properties));
-        if (source != nullptr && !source->interludes.empty()) open.interludes = &source->interludes;
+        if (source != nullptr && !source->interludes.empty()) {
+            open.interludes = &source->interludes;
+            written_.insert(group.handle());
+        }
         if (open.next == nullptr && open.interludes == nullptr) {
             text_ += "/>";
             return;
@@ -479,6 +500,7 @@ private:
     Explicit explicit_;
     std::string text_;
     std::vector<Open> open_;
+    std::unordered_set<AIArtHandle> written_; ///< Containers whose interludes were written.
     int clipNumber_ = 0;
     std::unordered_map<const Art*, int> clipNumbers_; ///< The next mask's number, by group.
 };

@@ -186,6 +186,39 @@ TEST_CASE("a mirrored copy's gradient is mirrored with it, for others as well") 
     checkStable(*opened.document);
 }
 
+TEST_CASE("a gradient that another program has moved stays where it put it") {
+    const auto opened =
+        readSvgText(file("<linearGradient id='a'><stop/><stop offset='1' stop-color='red'/>"
+                         "</linearGradient><rect width='50' height='20' fill='url(#a)'/>"),
+                    "x");
+    std::string text = svgText(*opened.document);
+    const auto replace = [&](const std::string& former, const std::string& latter) {
+        REQUIRE(text.find(former) != std::string::npos);
+        text.replace(text.find(former), former.size(), latter);
+    };
+    replace("gradientTransform=\"matrix(50 0 0 20 0 0)",
+            "gradientTransform=\"matrix(50 0 0 20 7 0)");
+    replace("<path ", "<path transform='scale(2)' ");
+    const auto moved = readSvgText(text, "x");
+    const AIRealMatrix& matrix = firstArt(*moved.document).style().fillMatrix;
+    CHECK(matrix.a == 100);
+    CHECK(matrix.d == -40);
+    CHECK(matrix.tx == 14);
+    checkStable(*moved.document);
+}
+
+TEST_CASE("definitions outlive the group that they stood in") {
+    const auto opened = readSvgText(
+        file("<g><linearGradient id='a' gradientUnits='userSpaceOnUse'><stop/></linearGradient>"
+             "<!--gone--><path d='M0 0H1'/></g><path d='M0 0H5' fill='url(#a)'/>"),
+        "x");
+    disposeArt(*opened.document->root().firstChild()->lastChild());
+    const std::string text = svgText(*opened.document);
+    CHECK(text.find("<linearGradient id='a'") != std::string::npos);
+    CHECK(text.find("gone") == std::string::npos);
+    checkStable(*opened.document);
+}
+
 TEST_CASE("a style sheet does not change what art looks like") {
     const auto opened = readSvgText(
         file("<style>path{fill:red;stroke-width:9}</style><rect width='1' height='1'/>"), "x");
