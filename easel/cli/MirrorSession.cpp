@@ -60,6 +60,10 @@ void selectLayer(Document& document, Art& layer) {
 
 } // namespace
 
+MirrorSession::~MirrorSession() {
+    if (running_) host.quit();
+}
+
 void MirrorSession::prepare(const MirrorRequest& request) {
     host.preferences.put(kSettings, "FTAngle", radians(request.angleDegrees));
     host.preferences.put(kSettings, "FTCount", ai::int32{request.axes});
@@ -71,6 +75,7 @@ void MirrorSession::prepare(const MirrorRequest& request) {
 void MirrorSession::start() {
     host.user.browserAvailable = false; // a plug-in's first start would open a page for nobody
     try {
+        running_ = true;
         host.start();
     } catch (const ai::Error& error) {
         throw SessionError("the plug-in's library cannot be loaded: " + codeText(error.code));
@@ -144,6 +149,7 @@ void MirrorSession::save(const std::filesystem::path& file) {
 }
 
 std::vector<std::string> MirrorSession::finish() {
+    running_ = false;
     host.quit();
     return host.complaints();
 }

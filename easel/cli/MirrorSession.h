@@ -48,6 +48,10 @@ struct MirrorRequest {
 class MirrorSession {
 public:
     explicit MirrorSession(HostSettings settings = {}) : host(settings) {}
+    /// Quits the plug-ins in order if `finish` has not: a failure ends no session halfway.
+    ~MirrorSession();
+    MirrorSession(const MirrorSession&) = delete;
+    MirrorSession& operator=(const MirrorSession&) = delete;
 
     void prepare(const MirrorRequest& request);
     void start();
@@ -63,6 +67,8 @@ public:
 private:
     void choose(const MirrorRequest& request);
     void checkAnswers(std::size_t first) const;
+
+    bool running_ = false;
 };
 
 /// Adds the plug-ins of the library `file`. Throws `SessionError`.
