@@ -107,8 +107,9 @@ void PathMirror::snapEnds() {
     if (folded_.segments.size() > 1) snapEnd(folded_.segments.back());
 }
 
-/// Moves an end onto the nearer of the two rays when one is near enough. Otherwise the end is free and
-/// loses both handles, so that the path runs straight into it; that is the rule, not an oversight.
+/// Moves an end onto the nearer of the two rays when one is near enough. Otherwise the end is free
+/// and loses both handles, so that the path runs straight into it; that is the rule, not an
+/// oversight.
 void PathMirror::snapEnd(PathSegment& end) const {
     Ray nearest = Ray::None;
     double reach = snapDistance_;

@@ -130,7 +130,8 @@ SPErr SuiteServer::release(const char* name, ai::int32 version) {
 }
 
 void SuiteServer::forgetAcquisitions() noexcept {
-    for (const auto& [key, table] : tables_) table->acquired = 0;
+    for (const auto& [key, table] : tables_)
+        table->acquired = 0;
 }
 
 std::vector<std::string> SuiteServer::outstanding() const {
