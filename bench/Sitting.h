@@ -44,6 +44,7 @@ public:
     /// Opens `drawing` and makes axes through `kOrigin` with the tool; in selection mode all art is
     /// selected before.
     easel::Document& open(std::unique_ptr<easel::Document> drawing);
+    void activate(easel::Document& document) { session_.host.activate(document); }
     void close(easel::Document& document) { session_.host.close(document); }
     /// Applies the axes.
     Cost apply(Take take);
