@@ -201,11 +201,16 @@ Art* layerOf(const Art& art) noexcept {
     return const_cast<Art*>(up); // the tree is not const where its objects are
 }
 
-std::uint64_t subtreeStamp(const Art& art) noexcept {
-    std::uint64_t latest = 0;
-    for (const Art* each = &art; each != nullptr; each = nextInPreorder(*each, art))
-        latest = std::max(latest, each->stamp());
-    return latest;
+std::uint64_t subtreeStamp(const Art& art) {
+    Session& all = session();
+    SubtreeStamps& known = all.subtreeStamps;
+    if (known.lastStamp != all.lastStamp || known.exchanges != all.exchanges)
+        known = {all.lastStamp, all.exchanges, {}};
+    const auto [entry, isNew] = known.answers.try_emplace(&art, 0);
+    if (isNew)
+        for (const Art* each = &art; each != nullptr; each = nextInPreorder(*each, art))
+            entry->second = std::max(entry->second, each->stamp());
+    return entry->second;
 }
 
 } // namespace easel

@@ -61,6 +61,6 @@ void freeTree(Art& root);
 /// The innermost layer's group that holds `art`, itself included; null when it is on none.
 [[nodiscard]] Art* layerOf(const Art& art) noexcept;
 /// The later of the time stamps of `art` and all its descendants.
-[[nodiscard]] std::uint64_t subtreeStamp(const Art& art) noexcept;
+[[nodiscard]] std::uint64_t subtreeStamp(const Art& art);
 
 } // namespace easel

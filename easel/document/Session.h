@@ -9,6 +9,14 @@
 
 namespace easel {
 
+/// Answers of `subtreeStamp`, good until a time stamp is given or undo puts back a former one. They
+/// make it cheap to be asked again whether a large layer has changed.
+struct SubtreeStamps {
+    std::uint64_t lastStamp = 0;
+    std::uint64_t exchanges = 0;
+    std::unordered_map<const Art*, std::uint64_t> answers;
+};
+
 /// What the art side of the host keeps besides its documents: one per process, because the suites
 /// are plain functions that carry nothing with them.
 struct Session {
@@ -18,6 +26,9 @@ struct Session {
     Document* current = nullptr;
     /// The last time stamp given. It starts at 0 in every session.
     std::uint64_t lastStamp = 0;
+    /// States that undo has put back.
+    std::uint64_t exchanges = 0;
+    SubtreeStamps subtreeStamps;
     /// The last epoch of any undo log.
     std::uint64_t lastEpoch = 0;
     /// Set by the current context: changes under locked or hidden parents are allowed.

@@ -229,6 +229,7 @@ void UndoLog::releaseLife(Art& art) {
 }
 
 void UndoLog::exchange(Step& step) {
+    ++session().exchanges;
     if (step.lives != nullptr)
         step.lives->alive_ = !step.lives->alive_;
     else
