@@ -126,6 +126,7 @@ std::vector<Input> corpusOf(const char* const* names, int count) {
 }
 
 void tryOne(const Input& input, const char* last) {
+    std::filesystem::remove(last); // file systems wait for the disk when a file is overwritten
     std::ofstream(last, std::ios::binary)
         .write(reinterpret_cast<const char*>(input.data()),
                static_cast<std::streamsize>(input.size()));
