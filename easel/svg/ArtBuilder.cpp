@@ -276,20 +276,26 @@ void ArtBuilder::readLayer(const Element& element, const std::string& title,
 /// What members of a compound path have of their own, in the order of its subpaths.
 void ArtBuilder::readMembers(const Element& element, Art& compound) {
     if (!element.has("easel:members") || compound.type() != kCompoundPathArt) return;
-    const auto list = nlohmann::json::parse(element.get("easel:members"), nullptr, false);
-    Art* member = compound.lastChild();
-    if (!list.is_array()) element.fail("easel:members is no list of what the subpaths carry");
-    for (const auto& item : list) {
-        if (member == nullptr || !item.is_object()) return;
-        ArtContent& content = member->write();
-        if (item.value("locked", false)) setAttribute(*member, kArtLocked);
-        if (item.value("hidden", false)) setAttribute(*member, kArtHidden);
-        if (item.value("guide", false)) content.guide = true;
-        if (item.contains("name")) content.details.write().name = item.value("name", "");
-        if (item.contains("note")) content.details.write().note = item.value("note", "");
-        if (item.contains("dictionary"))
-            readDictionary(element, item.value("dictionary", ""), member->dictionary());
-        member = member->previous();
+    using Json = nlohmann::json;
+    try {
+        const Json list = Json::parse(element.get("easel:members"));
+        Art* member = compound.lastChild();
+        for (const Json& item : list) {
+            if (member == nullptr) return;
+            if (item.value("locked", false)) setAttribute(*member, kArtLocked);
+            if (item.value("hidden", false)) setAttribute(*member, kArtHidden);
+            if (item.value("guide", false)) member->write().guide = true;
+            if (item.contains("name") || item.contains("note")) {
+                ArtDetails& details = member->write().details.write();
+                details.name = item.value("name", "");
+                details.note = item.value("note", "");
+            }
+            if (item.contains("dictionary"))
+                readDictionary(element, item.value("dictionary", ""), member->dictionary());
+            member = member->previous();
+        }
+    } catch (const Json::exception&) {
+        element.fail("easel:members is no list of what the subpaths carry");
     }
 }
 

@@ -65,6 +65,8 @@ private:
     /// Nothing when the paint is to be left out.
     [[nodiscard]] std::optional<ServerUse> serverFor(const std::string& id, const Context& context,
                                                      const Outline& outline);
+    [[nodiscard]] ServerUse derivedUse(const Element& derived, const Context& context,
+                                       const Outline& outline);
     /// `derived` is our own element for this use of the pattern; null when there is none.
     [[nodiscard]] ServerUse patternUse(const Element& element, const Element* derived,
                                        const Context& context, const Box& bounds);

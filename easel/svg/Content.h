@@ -114,6 +114,7 @@ struct DrawingSource : ForeignContent {
     std::string prologue;
     std::string epilogue;
     std::string rootAttributes;
+    std::vector<std::string> rootNames; ///< Of all attributes of the root.
     Point viewBoxCorner;
     AISize size{0, 0};
     /// The lengths, viewBox included, as they stood; not written once the size has changed.

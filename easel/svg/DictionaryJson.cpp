@@ -5,6 +5,8 @@
 #include <nlohmann/json.hpp>
 
 #include <array>
+#include <cmath>
+#include <cstdint>
 #include <limits>
 #include <stdexcept>
 
@@ -105,9 +107,22 @@ Json toJson(const Dictionary& dictionary) {
     return list;
 }
 
+/// Within the type's range; JSON's numbers know no such limit.
+template <typename Integer> Integer integerOf(const Json& json) {
+    if (!json.is_number_integer()) fail("an integer entry is no whole number");
+    const auto value = json.get<std::int64_t>();
+    const bool fits = value >= std::numeric_limits<Integer>::min() &&
+                      value <= std::numeric_limits<Integer>::max();
+    if (!fits) fail("an integer entry is too large");
+    return static_cast<Integer>(value);
+}
+
 /// JSON has no word for what is not finite: such a real is written as null.
 AIReal realOf(const Json& json) {
-    return json.is_null() ? std::numeric_limits<AIReal>::quiet_NaN() : json.get<AIReal>();
+    if (json.is_null()) return std::numeric_limits<AIReal>::quiet_NaN();
+    const double value = json.get<double>();
+    if (!(std::abs(value) <= std::numeric_limits<AIReal>::max())) fail("a real entry is too large");
+    return static_cast<AIReal>(value);
 }
 
 template <std::size_t N> std::array<AIReal, N> reals(const Json& item) {
@@ -149,7 +164,7 @@ Value matrixValue(const Json& item, int) {
 Value unicodeEntry(const Json& item, int) {
     std::u16string text;
     for (const Json& unit : item.at("value"))
-        text += static_cast<char16_t>(unit.get<unsigned>());
+        text += integerOf<char16_t>(unit);
     return unicodeValue(std::move(text));
 }
 
@@ -159,7 +174,8 @@ struct Reader {
 };
 constexpr Reader kReaders[] = {
     {"unknown", [](const Json&, int) { return Value{}; }},
-    {"integer", [](const Json& item, int) { return Value{item.at("value").get<ai::int32>()}; }},
+    {"integer",
+     [](const Json& item, int) { return Value{integerOf<ai::int32>(item.at("value"))}; }},
     {"boolean", [](const Json& item, int) { return Value{Boolean{item.at("value").get<bool>()}}; }},
     {"real", [](const Json& item, int) { return Value{realOf(item.at("value"))}; }},
     {"string", [](const Json& item, int) { return textValue(takeText(item, "value")); }},

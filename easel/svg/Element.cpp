@@ -86,7 +86,7 @@ Properties Element::properties(const StyleSheet& sheet,
     Properties result;
     for (const XmlAttribute& attribute : attributes_)
         if (isProperty(attribute.name))
-            result[std::string{attribute.name}] = tree_->decode(attribute.raw);
+            result[std::string{attribute.name}] = trimmed(tree_->decode(attribute.raw));
     const auto add = [&](const Declaration& declaration) {
         result[declaration.property] = declaration.value;
     };

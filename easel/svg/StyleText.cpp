@@ -85,6 +85,13 @@ void appendPattern(std::string& text, const PatternContent& pattern) {
 
 } // namespace
 
+DerivedServers::DerivedServers(const Document& document, Point offset) : offset_(offset) {
+    if (const DrawingSource* const source = sourceOf(document))
+        reserved_.insert(source->reservedIds.begin(), source->reservedIds.end());
+    for (const auto& definition : document.definitions())
+        reserved_.insert(definition->id());
+}
+
 std::string DerivedServers::reference(const Definition& definition, const AIRealMatrix& matrix) {
     const auto* const gradient = dynamic_cast<const GradientContent*>(definition.content.get());
     const auto* const pattern = dynamic_cast<const PatternContent*>(definition.content.get());
@@ -105,7 +112,7 @@ std::string DerivedServers::reference(const Definition& definition, const AIReal
 std::string DerivedServers::newId(const char* family, int& counter) const {
     for (;;) {
         std::string id = family + std::to_string(++counter);
-        if (source_ == nullptr || !std::ranges::binary_search(source_->reservedIds, id)) return id;
+        if (!reserved_.contains(id)) return id;
     }
 }
 

@@ -2,7 +2,9 @@
 
 #include "easel/svg/Content.h"
 
+#include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -13,21 +15,21 @@ namespace easel::svg {
 /// their element says, because the art that they paint was copied or transformed.
 class DerivedServers {
 public:
-    DerivedServers(const DrawingSource* source, Point offset) : source_(source), offset_(offset) {}
+    DerivedServers(const Document& document, Point offset);
 
     /// What a paint property says: "url(#id)".
     [[nodiscard]] std::string reference(const Definition& definition, const AIRealMatrix& matrix);
     /// The elements for all references given out so far, one a line.
     [[nodiscard]] const std::string& elements() const { return elements_; }
 
-    /// The next id of that family that the drawing does not use itself.
+    /// The next id of that family that the drawing neither gives nor refers to.
     [[nodiscard]] std::string newId(const char* family, int& counter) const;
 
 private:
     void appendElement(const std::string& id, const Definition& definition,
                        const AIRealMatrix& matrix);
 
-    const DrawingSource* source_;
+    std::set<std::string, std::less<>> reserved_;
     Point offset_;
     std::string elements_;
     int counter_ = 0;

@@ -140,18 +140,8 @@ ArtBuilder::serverFor(const std::string& id, const Context& context, const Outli
         return ServerUse{&definition(Definition::Kind::Gradient, id, nullptr, {}), unplaced};
     const Element element{state_.tree, node};
     state_.countReference(element);
-    const std::string source = element.get("easel:source");
-    if (element.isTrue("easel:derived") && state_.tree.find(source) != kNoNode) {
-        // Our own: the matrix stands beside the transform that says the same to others.
-        const NumberList numbers = parseNumbers(element.get("easel:matrix"));
-        const Element base{state_.tree, state_.tree.find(source)};
-        auto use = base.name() == "pattern" ? patternUse(base, &element, context, boundsOf(outline))
-                                            : serverFor(source, context, outline);
-        if (use && numbers.numbers.size() == 6)
-            use->matrix = derivedMatrix(element, *use->definition, floatMatrix(numbers.numbers),
-                                        context.matrix, offset_);
-        return use;
-    }
+    if (element.isTrue("easel:derived") && state_.tree.find(element.get("easel:source")) != kNoNode)
+        return derivedUse(element, context, outline);
     const Box bounds = boundsOf(outline);
     if (element.name() == "pattern") return patternUse(element, nullptr, context, bounds);
     const auto gradient = gradientContent(state_, node, context.viewport);
@@ -161,6 +151,27 @@ ArtBuilder::serverFor(const std::string& id, const Context& context, const Outli
     const Matrix overBounds = boundsMatrix(bounds);
     if (bounds.empty || !inverse(overBounds)) return std::nullopt; // SVG: such a shape has no paint
     return ServerUse{&known, toSoft(context.matrix * overBounds, offset_)};
+}
+
+/// Our own element: the matrix stands beside the transform that says the same to others.
+ArtBuilder::ServerUse ArtBuilder::derivedUse(const Element& derived, const Context& context,
+                                             const Outline& outline) {
+    const std::string source = derived.get("easel:source");
+    const Element base{state_.tree, state_.tree.find(source)};
+    ServerUse use;
+    if (base.name() == "pattern") {
+        use = patternUse(base, &derived, context, boundsOf(outline));
+    } else {
+        const auto gradient = gradientContent(state_, base.node(), context.viewport);
+        use.definition = &definition(Definition::Kind::Gradient, source, gradient, {});
+        use.matrix = toSoft(Matrix{}, offset_);
+        if (!gradient) return use;
+    }
+    const NumberList numbers = parseNumbers(derived.get("easel:matrix"));
+    if (numbers.numbers.size() == 6)
+        use.matrix = derivedMatrix(derived, *use.definition, floatMatrix(numbers.numbers),
+                                   context.matrix, offset_);
+    return use;
 }
 
 ArtBuilder::ServerUse ArtBuilder::patternUse(const Element& element, const Element* derived,

@@ -105,6 +105,7 @@ private:
                          static_cast<AIReal>(artboard.size.y)};
         source_->hasStyleSheet = !state_.sheet.empty();
         for (const XmlAttribute& attribute : root.attributes()) {
+            source_->rootNames.emplace_back(attribute.name);
             const bool isSize = attribute.name == "width" || attribute.name == "height" ||
                                 attribute.name == "viewBox";
             const bool isOurs = attribute.name.starts_with("easel:");

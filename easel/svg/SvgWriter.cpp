@@ -10,6 +10,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <cmath>
 #include <fstream>
 #include <map>
@@ -89,7 +90,7 @@ class SvgWriter {
 public:
     SvgWriter(const Document& document, std::ostream& out)
         : document_(document), out_(out), source_(sourceOf(document)),
-          offset_(rulerOffset(document)), servers_(source_, offset_),
+          offset_(rulerOffset(document)), servers_(document, offset_),
           explicit_(source_ != nullptr && source_->hasStyleSheet ? Explicit::Yes : Explicit::No) {}
 
     void write() {
@@ -151,9 +152,10 @@ private:
     void writeRootTag() {
         text_ += "<svg";
         if (source_ != nullptr) text_ += source_->rootAttributes;
-        const std::string given = source_ != nullptr ? source_->rootAttributes : std::string{};
+        const std::vector<std::string> given =
+            source_ != nullptr ? source_->rootNames : std::vector<std::string>{};
         for (const Namespace& space : kNamespaces)
-            if (given.find(' ' + std::string{space.attribute} + '=') == std::string::npos)
+            if (std::ranges::find(given, space.attribute) == given.end())
                 attribute(space.attribute, space.name);
         writeSize();
         const DocumentState& state = document_.state();

@@ -289,6 +289,10 @@ TEST_CASE("a broken file is one line that says where, what, and what would be ri
          "rotate, skewX or skewY with numbers"},
         {"<svg>\n<g easel:dictionary='{}'/></svg>",
          "a.svg:2: the entries of <g> are broken: it is no list"},
+        {"<svg><g easel:dictionary='[{\"key\":\"a\",\"type\":\"integer\",\"value\":1e9}]'/></svg>",
+         "a.svg:1: the entries of <g> are broken: an integer entry is no whole number"},
+        {"<svg><path d='M0 0H1M2 2H3' easel:members='[{\"locked\":3}]'/></svg>",
+         "a.svg:1: easel:members is no list of what the subpaths carry"},
         {std::string{"<svg\0/>", 7}, "a.svg:1: this is no text; an SVG file is XML in UTF-8"},
     };
     for (const auto& [text, message] : rows) {
