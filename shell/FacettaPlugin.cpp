@@ -158,13 +158,15 @@ AIErr FacettaPlugin::withTool(const AIToolMessage& message, Handler handler) {
     if (message.tool == nullptr || message.tool != toolHandle) return kNoErr;
     // The view may have come up before the notification that tells of it.
     if (view.handle == nullptr && documentIsOpen()) view = fetchCurrentView();
-    ToolSession session{tool, preferences, hostPreferences, view, licence, mirroring()};
+    const platform::KeyState keys = platform::readKeys();
+    ToolSession session{tool,    preferences, hostPreferences, view, licence,
+                        dialogs, keys,        mirroring()};
     handler(session);
     return kNoErr;
 }
 
 AIErr FacettaPlugin::EditTool(AIToolMessage& message) {
-    return withTool(message, [](ToolSession& s) { editOptions(s, platform::readKeys()); });
+    return withTool(message, [](ToolSession& s) { editOptions(s); });
 }
 
 AIErr FacettaPlugin::TrackToolCursor(AIToolMessage& message) {
@@ -177,7 +179,7 @@ AIErr FacettaPlugin::ToolMouseDown(AIToolMessage& message) {
 }
 
 AIErr FacettaPlugin::ToolMouseDrag(AIToolMessage& message) {
-    return withTool(message, [&](ToolSession& s) { mouseDrag(s, message, platform::readKeys()); });
+    return withTool(message, [&](ToolSession& s) { mouseDrag(s, message); });
 }
 
 AIErr FacettaPlugin::ToolMouseUp(AIToolMessage& message) {

@@ -6,6 +6,7 @@
 #include "symmetry/MirrorEngine.h"
 #include "tool/CurrentView.h"
 #include "tool/Licensing.h"
+#include "tool/ModalDialogs.h"
 #include "tool/Preferences.h"
 #include "tool/ToolState.h"
 
@@ -53,6 +54,7 @@ public:
     char16_t decimalSeparator = u'.'; ///< of number fields; as the user's locale has it
     CurrentView view;                 ///< follows the host's notifications
     ToolState tool;
+    ModalDialogs dialogs;
 
     // What the host knows of the plug-in; null where registering failed.
     MenuItems menuItems;

@@ -96,8 +96,9 @@ void dragAngle(ToolSession& session, Point target, const KeyState& keys) {
 
 } // namespace
 
-void mouseDrag(ToolSession& session, const AIToolMessage& message, const KeyState& keys) {
+void mouseDrag(ToolSession& session, const AIToolMessage& message) {
     ToolState& state = session.state;
+    const KeyState& keys = session.keys;
     if (!isDraggable(state) || state.cancelled) return;
     if (keys.isDown(Key::Escape)) return cancelDrag(session);
     setCount(session, keys);

@@ -109,12 +109,12 @@ void mouseUp(ToolSession& session, const AIToolMessage& message) {
     redrawOverlay(session.view);
 }
 
-void editOptions(ToolSession& session, const platform::KeyState& keys) {
+void editOptions(ToolSession& session) {
     using platform::Key;
     const ToolState& state = session.state;
     const bool pending = state.axes.provisional && !state.committed && state.axes.axisCount != 0;
     // What is not an order to apply opens the preferences dialog, once the toolkit has dialogs.
-    if (!pending || keys.isDown(Key::Control) || keys.isDown(Key::Shift)) return;
+    if (!pending || session.keys.isDown(Key::Control) || session.keys.isDown(Key::Shift)) return;
     if (session.preferences.applyToSelection)
         applyToSelection(session);
     else

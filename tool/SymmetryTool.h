@@ -14,7 +14,6 @@
 /// hardened. All handlers throw `ai::Error`.
 
 #include "host/Messages.h"
-#include "platform/Platform.h"
 #include "tool/ToolSession.h"
 
 namespace facetta {
@@ -24,12 +23,12 @@ void deselectTool(ToolSession& session);
 
 void trackCursor(ToolSession& session, const AIToolMessage& message);
 void mouseDown(ToolSession& session, const AIToolMessage& message);
-void mouseDrag(ToolSession& session, const AIToolMessage& message, const platform::KeyState& keys);
+void mouseDrag(ToolSession& session, const AIToolMessage& message);
 void mouseUp(ToolSession& session, const AIToolMessage& message);
 
 /// Applies pending axes, to the layer or to the selection as the user has set it. With Ctrl or
 /// Shift held, or with nothing pending, nothing is applied.
-void editOptions(ToolSession& session, const platform::KeyState& keys);
+void editOptions(ToolSession& session);
 
 /// One axis more (`step` 1) or fewer (-1), within 1 to 72; axes on a layer keep theirs.
 void changeAxisCount(ToolSession& session, int step);

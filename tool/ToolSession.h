@@ -1,8 +1,10 @@
 #pragma once
 
+#include "platform/Platform.h"
 #include "symmetry/MirrorEngine.h"
 #include "tool/CurrentView.h"
 #include "tool/Licensing.h"
+#include "tool/ModalDialogs.h"
 #include "tool/Preferences.h"
 #include "tool/ToolState.h"
 
@@ -13,9 +15,11 @@ namespace facetta {
 struct ToolSession {
     ToolState& state;
     Preferences& preferences; ///< angle and count of the next new axes follow the tool
-    const HostPreferences& host;
+    HostPreferences& host;    ///< the tool may set the host's constrain angle
     const CurrentView& view;
     const Licensing& licence;
+    ModalDialogs& dialogs;
+    const platform::KeyState& keys; ///< as they were when the message came
     MirrorEnvironment mirroring;
 };
 

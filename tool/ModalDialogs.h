@@ -1,0 +1,19 @@
+#pragma once
+
+namespace facetta {
+
+/// How a modal dialog was left.
+enum class DialogResult : int {
+    Ok = 1,
+    Cancel = 2,
+};
+
+/// The tool's way to the dialogs it opens. The rooms below know no windows: who has dialogs puts
+/// its own in; until then every dialog is cancelled.
+struct ModalDialogs {
+    DialogResult (*editAxes)() = [] { return DialogResult::Cancel; };
+    DialogResult (*preferences)() = [] { return DialogResult::Cancel; };
+    bool open = false; ///< one of them is on screen: the on-canvas dialog stays away meanwhile
+};
+
+} // namespace facetta
