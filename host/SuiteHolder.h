@@ -60,6 +60,7 @@ public:
 
     [[nodiscard]] explicit operator bool() const noexcept { return functions_ != nullptr; }
     const Suite* operator->() const noexcept { return functions_; }
+    const Suite& operator*() const noexcept { return *functions_; }
 
 private:
     const Suite* functions_ = nullptr;

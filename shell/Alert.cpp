@@ -3,24 +3,16 @@
 #include "host/Error.h"
 #include "host/SuiteHolder.h"
 #include "host/UnicodeString.h"
+#include "host/UserSuiteLayout.h"
 #include "host/suites/AIAppContextSuite.h"
 #include "host/suites/AIUnicodeStringSuite.h"
 #include "host/suites/AIUserSuite.h"
 #include "platform/Platform.h"
 
 #include <algorithm>
-#include <array>
 
 namespace facetta {
 namespace {
-
-/// Some builds of the host may have two more functions ahead of the alerts, which would then lie
-/// two slots further on. Where this slot is not the clock, it is a function that does nothing.
-bool alertsLieAsDeclared() {
-    std::array<AIUserDateTime, 16> clock{}; // roomy: the record is opaque
-    ai::suites.user->GetDateAndTime(clock.data());
-    return std::ranges::any_of(clock, [](AIUserDateTime part) { return part != 0; });
-}
 
 void* hostWindow() {
     AIWindowRef window = nullptr;
@@ -46,7 +38,7 @@ void showAlert(std::string_view text) {
     const ai::BorrowedSuite<&ai::Suites::user, kAIUserSuite, kAIUserSuiteVersion> user;
     const ai::BorrowedSuite<&ai::Suites::appContext, kAIAppContextSuite, kAIAppContextSuiteVersion>
         context;
-    if (strings && user && alertsLieAsDeclared())
+    if (strings && user && ai::liesAsDeclared(*ai::suites.user))
         ai::suites.user->WarningAlert(ai::UnicodeString(widened(text)), nullptr);
     else
         platform::showMessage(hostWindow(), widened(text));

@@ -159,8 +159,9 @@ AIErr FacettaPlugin::withTool(const AIToolMessage& message, Handler handler) {
     // The view may have come up before the notification that tells of it.
     if (view.handle == nullptr && documentIsOpen()) view = fetchCurrentView();
     const platform::KeyState keys = platform::readKeys();
-    ToolSession session{tool,    preferences, hostPreferences, view, licence,
-                        dialogs, keys,        mirroring()};
+    ToolSession session{tool, preferences, hostPreferences,
+                        view, licence,     dialogs,
+                        keys, mirroring(), [this](ai::int32 id) { toolkit().cursors().show(id); }};
     handler(session);
     return kNoErr;
 }

@@ -104,6 +104,7 @@ public:
 protected:
     [[nodiscard]] SPPluginRef self() const noexcept { return self_; }
     [[nodiscard]] const char* name() const noexcept { return name_.data(); }
+    [[nodiscard]] NRDM::Toolkit& toolkit() noexcept { return *toolkit_; }
 
     void releaseSuites() noexcept { suites_.reset(); }
     void shutToolkitDown() noexcept { toolkit_.reset(); }

@@ -8,6 +8,8 @@
 #include "tool/Preferences.h"
 #include "tool/ToolState.h"
 
+#include <functional>
+
 namespace facetta {
 
 /// What the tool's handlers work on for the length of one message: the state they own and what the
@@ -21,6 +23,8 @@ struct ToolSession {
     ModalDialogs& dialogs;
     const platform::KeyState& keys; ///< as they were when the message came
     MirrorEnvironment mirroring;
+    /// Shows a cursor of the plug-in's resources; the rooms below know none.
+    std::function<void(ai::int32 id)> setCursor = [](ai::int32) {};
 };
 
 } // namespace facetta

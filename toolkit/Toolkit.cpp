@@ -31,7 +31,7 @@ constexpr ColourRow kColours[] = {
 
 } // namespace
 
-Toolkit::Toolkit(SPPluginRef self) {
+Toolkit::Toolkit(SPPluginRef self) : cursors_(self) {
     ai::check(notifierSuite_.acquire());
     if (themeSuite_.acquire() == kNoErr) readTheme();
     for (std::size_t i = 0; i < kNotifierCount; ++i)
@@ -44,10 +44,12 @@ bool Toolkit::serve(AINotifierHandle notifier) {
     if (notifier == nullptr || own == notifiers_.end()) return false;
     // When the host closes, windows go before the suites do: nothing is drawn from here on. At the
     // other two the colours may be new ones: other plug-ins set them while they start.
-    if (own - notifiers_.begin() == kShutdown)
+    if (own - notifiers_.begin() == kShutdown) {
+        cursors_.close();
         themeSuite_.release();
-    else if (themeSuite_)
+    } else if (themeSuite_) {
         readTheme();
+    }
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include "host/SuiteHolder.h"
 #include "host/suites/AINotifierSuite.h"
 #include "host/suites/AIUIThemeSuite.h"
+#include "toolkit/ImplCommon/Cursors.h"
 
 #include <array>
 
@@ -33,6 +34,8 @@ public:
 
     [[nodiscard]] const Theme& theme() const noexcept { return theme_; }
 
+    [[nodiscard]] Cursors& cursors() noexcept { return cursors_; }
+
 private:
     static constexpr std::size_t kNotifierCount = 3;
 
@@ -43,6 +46,7 @@ private:
     ai::SuiteLease<AIUIThemeSuite, kAIUIThemeSuite, kAIUIThemeSuiteVersion> themeSuite_;
     std::array<AINotifierHandle, kNotifierCount> notifiers_{};
     Theme theme_;
+    Cursors cursors_;
 };
 
 } // namespace NRDM

@@ -1,0 +1,74 @@
+#include "tests/easel/runtime/TestPlugin.h"
+#include "toolkit/ImplCommon/Cursors.h"
+
+#include <doctest/doctest.h>
+
+#include <optional>
+
+using namespace facetta::tests;
+
+namespace {
+
+constexpr ai::int32 kArrow = -4;
+constexpr ai::int32 kMove = 16022;
+constexpr ai::int32 kFinger = 16024;
+
+/// The cursors of a plug-in that a host has started.
+struct CursorsInUse {
+    easel::Host host;
+    TestPlugin plugin{host};
+    std::optional<NRDM::Cursors> cursors;
+
+    CursorsInUse() {
+        plugin.on("SP Interface/Startup", [this](SPMessageData& message) {
+            ai::basicSuite = message.basic;
+            cursors.emplace(message.self);
+            return kNoErr;
+        });
+        plugin.on("SP Interface/Shutdown", [this](SPMessageData&) {
+            cursors.reset();
+            ai::basicSuite = nullptr;
+            return kNoErr;
+        });
+        host.start();
+    }
+
+    void show(ai::int32 id) {
+        plugin.run([&] { cursors->show(id); });
+    }
+    void close() {
+        plugin.run([&] { cursors->close(); });
+    }
+};
+
+} // namespace
+
+TEST_CASE("the host shows the cursor that is asked for, until it closes") {
+    CursorsInUse use;
+    CHECK(use.host.user.cursor == kArrow);
+    use.show(kMove);
+    CHECK(use.host.user.cursor == kMove);
+    use.show(kFinger);
+    CHECK(use.host.user.cursor == kFinger);
+    CHECK(use.host.user.cursorManagers.handles().size() == 1); // one for all cursors
+    use.close();
+    CHECK(use.host.user.cursorManagers.handles().empty());
+    use.show(kMove);
+    CHECK(use.host.user.cursor == kFinger);
+    use.host.quit();
+    CHECK(use.host.complaints().empty());
+}
+
+TEST_CASE("a host that cannot show cursors is asked no further") {
+    for (const char* broken : {"AI User Suite.GetDateAndTime", "AI User Suite.SetCursor",
+                               "AI User Suite.CreateCursorResourceMgr"}) {
+        INFO(std::string(broken));
+        easel::hostCalls().arm({easel::FaultPlan::Mode::FromThenOn, 1, broken});
+        CursorsInUse use;
+        use.show(kMove);
+        CHECK(use.host.user.cursor == kArrow);
+        easel::hostCalls().disarm();
+        use.host.quit();
+        CHECK(use.host.user.cursorManagers.handles().empty());
+    }
+}
