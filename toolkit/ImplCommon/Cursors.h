@@ -22,8 +22,8 @@ public:
     /// the one that is there. Not to be called before the host's start-up has ended.
     void show(ai::int32 id);
 
-    /// Gives the host back what it lent. It wants that when it begins to close, not at the plug-in's
-    /// own end; nothing is shown from here on.
+    /// Gives the host back what it lent. It wants that when it begins to close, not at the
+    /// plug-in's own end; nothing is shown from here on.
     void close() noexcept;
 
 private:
