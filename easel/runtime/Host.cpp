@@ -157,6 +157,8 @@ void Host::forgetRegistrations(SPPluginRef plugin) {
             ledger().report("timer \"" + timer->name + "\" still runs when its plug-in ends");
     if (tools.current != nullptr && isOfPlugin(tools.tools.at(tools.current)))
         tools.current = nullptr;
+    for (std::string& left : panels.removeAllOf(plugin))
+        ledger().report(std::move(left));
     notifiers.removeIf(isOfPlugin);
     timers.removeIf(isOfPlugin);
     annotators.annotators.removeIf(isOfPlugin);

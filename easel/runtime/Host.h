@@ -8,6 +8,7 @@
 #include "easel/runtime/Drawer.h"
 #include "easel/runtime/Menus.h"
 #include "easel/runtime/Notifiers.h"
+#include "easel/runtime/Panels.h"
 #include "easel/runtime/Plugin.h"
 #include "easel/runtime/Preferences.h"
 #include "easel/runtime/Timers.h"
@@ -125,6 +126,18 @@ public:
     /// Nothing happens to a disabled item.
     void chooseMenuItem(AIMenuItemHandle item);
 
+    // Panels
+    void showPanel(AIPanelRef panel, bool shown);
+    void closePanel(AIPanelRef panel);
+    void resizePanel(AIPanelRef panel, AISize size);
+    /// The arrow in the panel's title: from state to state and round.
+    void cyclePanel(AIPanelRef panel);
+    /// The menu as the plug-in has brought it up to date. Throws 'INVD' when the panel has none.
+    const FlyoutMenu& openFlyout(AIPanelRef panel);
+    /// Opens the flyout menu and chooses the item, or nothing when it cannot be chosen.
+    void chooseFlyoutItem(AIPanelRef panel, ai::uint32 id);
+    void setInterfaceDark(bool dark);
+
     // Tools
     /// Null chooses the built-in tool `builtIn`.
     void selectTool(AIToolHandle tool, AIToolType builtIn = Tools::kSelectTool);
@@ -166,6 +179,7 @@ public:
     Tools tools;
     Timers timers;
     Annotators annotators;
+    Panels panels;
     Preferences preferences;
     Contexts contexts;
     Views views;

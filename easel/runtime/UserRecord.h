@@ -30,6 +30,8 @@ struct UserRecord {
     ai::int32 progressMaximum = 0;
     ai::int32 cursor = -4; ///< The last one shown; -4 is the arrow.
     Registry<AIResourceManagerHandle, SPPluginRef> cursorManagers;
+    std::vector<AIWindowRef>
+        modalParents; ///< Windows that own the host's dialogs; the last counts.
     bool darkTheme = false;
 };
 

@@ -1,3 +1,4 @@
+#include "easel/runtime/Host.h"
 #include "easel/suites/Expose.h"
 #include "easel/suites/RuntimeSuites.h"
 #include "host/suites/AIModalParentSuite.h"
@@ -5,13 +6,24 @@
 namespace easel {
 namespace {
 
-/// Easel's alerts are recorded, not shown, so that it matters to none of them who owns it.
-AIErr removeParent() { return kNoErr; }
+/// Easel's alerts are recorded, not shown, so that it matters to none of them who owns it; but a
+/// plug-in that sets an owner and leaves it there is at fault.
+AIErr setParent(const AIWindowRef& window) {
+    host().user.modalParents.push_back(window);
+    return kNoErr;
+}
+
+AIErr removeParent() {
+    if (host().user.modalParents.empty()) throw ai::Error{kBadParameterErr};
+    host().user.modalParents.pop_back();
+    return kNoErr;
+}
 
 } // namespace
 
 void installModalParentSuite(SuiteServer& server) {
     auto table = server.table<AIModalParentSuite>(kAIModalParentSuite, kAIModalParentSuiteVersion);
+    expose<&AIModalParentSuite::SetParent, setParent>(table);
     expose<&AIModalParentSuite::RemoveParent, removeParent>(table);
 }
 

@@ -25,6 +25,8 @@ void installFoldersSuite(SuiteServer& server);
 void installMenuSuite(SuiteServer& server);
 void installModalParentSuite(SuiteServer& server);
 void installNotifierSuite(SuiteServer& server);
+void installPanelFlyoutMenuSuite(SuiteServer& server);
+void installPanelSuite(SuiteServer& server);
 void installPreferenceSuite(SuiteServer& server);
 void installRuntimeSuite(SuiteServer& server);
 void installThemeSuite(SuiteServer& server);

@@ -1,0 +1,15 @@
+#include "easel/runtime/PanelWindow.h"
+
+namespace easel {
+
+struct PanelWindow::System {};
+
+PanelWindow::PanelWindow(const std::u32string&, AISize, bool, PanelWindowEvents) {}
+PanelWindow::~PanelWindow() = default;
+AIPanelPlatformWindow PanelWindow::client() const noexcept { return nullptr; }
+void PanelWindow::setTitle(const std::u32string&) {}
+void PanelWindow::setSize(AISize) {}
+void PanelWindow::show(bool) {}
+void PanelWindow::move(AIPoint) {}
+
+} // namespace easel

@@ -1,0 +1,136 @@
+#include "easel/runtime/Panels.h"
+
+#include "easel/core/Text.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace easel {
+namespace {
+
+bool sameSize(AISize a, AISize b) { return a.width == b.width && a.height == b.height; }
+
+/// `size` within the limits; of a resizable panel the height is rounded down to a whole step.
+AISize fitted(const Panel& panel, AISize size) {
+    const PanelSizes& sizes = panel.sizes;
+    AISize fit{std::clamp(size.width, sizes.least.width, sizes.greatest.width),
+               std::clamp(size.height, sizes.least.height, sizes.greatest.height)};
+    if (panel.resizable && sizes.step > 0)
+        fit.height = sizes.least.height +
+                     sizes.step * std::floor((fit.height - sizes.least.height) / sizes.step);
+    return fit;
+}
+
+/// Tells the plug-in, if it wants to know.
+template <typename Callback, typename... Arguments>
+void tell(Callback callback, Arguments... arguments) {
+    if (callback != nullptr) callback(arguments...);
+}
+
+} // namespace
+
+std::vector<FlyoutItem>::iterator FlyoutMenu::withId(ai::uint32 id) {
+    const auto found = std::ranges::find(items, id, &FlyoutItem::id);
+    if (found == items.end()) throw ai::Error{kBadParameterErr};
+    return found;
+}
+
+AIPanelRef Panels::add(Panel panel) {
+    const AISize least = panel.sizes.least;
+    const bool makesSense = panel.stateCount >= 1 && least.width >= 0 && least.height >= 0;
+    if (!makesSense || named(panel.id) != nullptr) throw ai::Error{kBadParameterErr};
+    constexpr AIReal kNoLimit = 16384;
+    panel.size = panel.sizes.floating = panel.sizes.docked = least;
+    panel.sizes.greatest = panel.resizable ? AISize{kNoLimit, kNoLimit} : least;
+    const AIPanelRef ref = panels_.add(std::move(panel));
+    Panel& added = panels_.at(ref);
+    added.window = std::make_unique<PanelWindow>(
+        added.title, added.size, added.resizable,
+        PanelWindowEvents{[this, ref](AISize size) { resize(ref, size); },
+                          [this, ref] { close(ref); }});
+    added.window->move(added.position);
+    return ref;
+}
+
+void Panels::remove(AIPanelRef panel) {
+    static_cast<void>(at(panel));
+    panels_.remove(panel);
+}
+
+Panel& Panels::at(AIPanelRef ref) const {
+    Panel* const panel = panels_.find(ref);
+    if (panel == nullptr) throw ai::Error{kInvalidPanelErr};
+    return *panel;
+}
+
+AIPanelRef Panels::named(const std::u32string& id) const {
+    return panels_.findIf([&](const Panel& panel) { return panel.id == id; });
+}
+
+FlyoutMenu& Panels::menu(AIPanelFlyoutMenuRef ref) const {
+    FlyoutMenu* const menu = menus_.find(ref);
+    if (menu == nullptr) throw ai::Error{kInvalidPanelErr};
+    return *menu;
+}
+
+void Panels::removeMenu(AIPanelFlyoutMenuRef removed) {
+    static_cast<void>(menu(removed));
+    menus_.remove(removed);
+    for (const auto& [ref, panel] : panels_)
+        if (panel->flyout == removed) panel->flyout = nullptr;
+    for (const auto& [ref, menu] : menus_)
+        for (FlyoutItem& item : menu->items)
+            if (item.submenu == removed) item.submenu = nullptr;
+}
+
+void Panels::show(AIPanelRef ref, bool shown) {
+    Panel& panel = at(ref);
+    if ((panel.shown != 0) == shown) return;
+    panel.shown = shown ? 1 : 0;
+    panel.window->show(shown);
+    tell(panel.callbacks.visibility, ref, panel.shown);
+}
+
+void Panels::resize(AIPanelRef ref, AISize size) {
+    Panel& panel = at(ref);
+    const AISize fit = fitted(panel, size);
+    const bool changed = !sameSize(fit, panel.size);
+    panel.size = fit;
+    if (changed || !sameSize(fit, size)) panel.window->setSize(fit);
+    if (changed) tell(panel.callbacks.size, ref);
+}
+
+void Panels::setState(AIPanelRef ref, ai::int16 state) {
+    Panel& panel = at(ref);
+    if (state < 1 || state > panel.stateCount) throw ai::Error{kBadParameterErr};
+    if (state == panel.state) return;
+    panel.state = state;
+    tell(panel.callbacks.state, ref, state);
+}
+
+void Panels::minimize(AIPanelRef ref, bool minimized) {
+    Panel& panel = at(ref);
+    panel.minimized = minimized ? 1 : 0;
+    // Only the title stays; the panel's own size waits.
+    panel.window->setSize(minimized ? AISize{panel.size.width, 0} : panel.size);
+}
+
+void Panels::close(AIPanelRef ref) {
+    show(ref, false);
+    if (const Panel* const panel = panels_.find(ref)) tell(panel->callbacks.closed, ref);
+}
+
+std::vector<std::string> Panels::removeAllOf(SPPluginRef plugin) {
+    std::vector<std::string> left;
+    for (const auto& [ref, panel] : panels_)
+        if (panel->plugin == plugin)
+            left.push_back("panel \"" + utf8FromUtf32(panel->id) + "\" outlives its plug-in");
+    for (const auto& [ref, menu] : menus_)
+        if (menu->plugin == plugin) left.emplace_back("a flyout menu outlives its plug-in");
+    const auto isOfPlugin = [plugin](const auto& each) { return each.plugin == plugin; };
+    panels_.removeIf(isOfPlugin);
+    menus_.removeIf(isOfPlugin);
+    return left;
+}
+
+} // namespace easel

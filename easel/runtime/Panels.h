@@ -1,0 +1,109 @@
+#pragma once
+
+#include "easel/core/Registry.h"
+#include "easel/runtime/PanelWindow.h"
+#include "host/Handles.h"
+#include "host/suites/AIPanelFlyoutMenuSuite.h"
+#include "host/suites/AIPanelSuite.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace easel {
+
+struct FlyoutItem {
+    ai::uint32 id = 0;
+    std::u32string text;
+    bool isSeparator = false;
+    AIBoolean enabled = 1;
+    AIPanelFlyoutMenuItemMark mark = AIPanelFlyoutMenuItemMark::None;
+    AIPanelFlyoutMenuRef submenu = nullptr;
+};
+
+struct FlyoutMenu {
+    SPPluginRef plugin = nullptr; ///< That was answering when it was made; null: none was.
+    std::vector<FlyoutItem> items;
+
+    /// The item with that id. Throws 'PARM' when there is none.
+    [[nodiscard]] std::vector<FlyoutItem>::iterator withId(ai::uint32 id);
+};
+
+/// What a plug-in wants to be told of its panel; null: nothing.
+struct PanelCallbacks {
+    AIPanelFlyoutMenuPreVisibilityProc flyoutOpens = nullptr;
+    AIPanelFlyoutMenuProc flyoutChosen = nullptr;
+    AIPanelVisibilityChangedNotifyProc visibility = nullptr;
+    AIPanelSizeChangedNotifyProc size = nullptr;
+    AIPanelStateChangedNotifyProc state = nullptr;
+    AIPanelClosedNotifyProc closed = nullptr;
+};
+
+/// How large a panel may be, in pixels of its client area.
+struct PanelSizes {
+    AISize least{};
+    AISize floating{}; ///< The interface calls it unconstrained.
+    AISize docked{};   ///< Constrained. Easel docks nothing.
+    AISize greatest{};
+    AIReal step = 1; ///< A resizable one's height is the least and whole steps.
+};
+
+struct Panel {
+    SPPluginRef plugin = nullptr;
+    std::u32string id; ///< Its unique name.
+    std::u32string title;
+    bool resizable = false;
+    AISize size{};
+    PanelSizes sizes;
+    ai::int16 stateCount = 1;
+    ai::int16 state = 1;
+    AIBoolean shown = 0;
+    AIBoolean minimized = 0;
+    AIPoint position{100, 100};
+    AIPanelFlyoutMenuRef flyout = nullptr;
+    AIPanelUserData data = nullptr;
+    PanelCallbacks callbacks;
+    std::unique_ptr<PanelWindow> window;
+};
+
+/// The panels of all plug-ins, and their flyout menus.
+///
+/// The interface does not say whether a plug-in is told of changes that it makes itself. Here it is
+/// told, of each one that changes something: whoever can stand that can stand the other as well.
+class Panels {
+public:
+    /// Hidden, in state 1, as large as `panel.sizes.least`. Throws 'PARM' when its numbers make no
+    /// sense or a panel of that id exists.
+    AIPanelRef add(Panel panel);
+    void remove(AIPanelRef panel);
+    /// Throws 'INVD'.
+    [[nodiscard]] Panel& at(AIPanelRef panel) const;
+    /// Null when there is none.
+    [[nodiscard]] AIPanelRef named(const std::u32string& id) const;
+    [[nodiscard]] const Registry<AIPanelRef, Panel>& all() const noexcept { return panels_; }
+
+    AIPanelFlyoutMenuRef addMenu(SPPluginRef plugin) { return menus_.add({plugin, {}}); }
+    /// Panels and items that showed it have none from then on.
+    void removeMenu(AIPanelFlyoutMenuRef menu);
+    /// Throws 'INVD'.
+    [[nodiscard]] FlyoutMenu& menu(AIPanelFlyoutMenuRef menu) const;
+
+    // Each tells the plug-in when it changes something.
+    void show(AIPanelRef panel, bool shown);
+    /// Brought within the panel's limits.
+    void resize(AIPanelRef panel, AISize size);
+    /// Throws 'PARM' unless it is one of the panel's states.
+    void setState(AIPanelRef panel, ai::int16 state);
+    void minimize(AIPanelRef panel, bool minimized);
+    /// The user closes it: it is hidden, and the plug-in is told both.
+    void close(AIPanelRef panel);
+
+    /// What a plug-in leaves behind at its end is gone; a line for each.
+    std::vector<std::string> removeAllOf(SPPluginRef plugin);
+
+private:
+    Registry<AIPanelRef, Panel> panels_;
+    Registry<AIPanelFlyoutMenuRef, FlyoutMenu> menus_;
+};
+
+} // namespace easel
