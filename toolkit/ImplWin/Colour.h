@@ -1,0 +1,31 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+
+namespace NRDM {
+
+/// An opaque colour of the screen, 0..255 in each field.
+struct Colour {
+    std::uint8_t red = 0;
+    std::uint8_t green = 0;
+    std::uint8_t blue = 0;
+
+    bool operator==(const Colour&) const = default;
+};
+
+/// `part` (0..1) of `over`, the rest of `under`.
+[[nodiscard]] constexpr Colour mix(Colour under, Colour over, double part) {
+    const auto blend = [part](std::uint8_t a, std::uint8_t b) {
+        return static_cast<std::uint8_t>(a + (b - a) * part + 0.5);
+    };
+    return {blend(under.red, over.red), blend(under.green, over.green),
+            blend(under.blue, over.blue)};
+}
+
+[[nodiscard]] constexpr COLORREF toColorRef(Colour colour) {
+    return RGB(colour.red, colour.green, colour.blue);
+}
+
+} // namespace NRDM

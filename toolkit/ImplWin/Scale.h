@@ -1,0 +1,41 @@
+#pragma once
+
+/// The interface speaks of items in units of a display at 96 dots per inch; windows and pictures
+/// are in pixels. Numbers are multiplied at that border and nowhere else.
+
+#include <windows.h>
+
+#include <cmath>
+
+namespace NRDM {
+
+struct Scale {
+    double factor = 1.0;
+
+    [[nodiscard]] int toPixels(double units) const {
+        return static_cast<int>(std::lround(units * factor));
+    }
+    [[nodiscard]] int toUnits(int pixels) const {
+        return static_cast<int>(std::lround(pixels / factor));
+    }
+
+    /// Corners are scaled, not sizes, so that neighbours stay neighbours.
+    [[nodiscard]] RECT toPixels(const RECT& units) const {
+        return {toPixels(units.left), toPixels(units.top), toPixels(units.right),
+                toPixels(units.bottom)};
+    }
+    [[nodiscard]] RECT toUnits(const RECT& pixels) const {
+        return {toUnits(pixels.left), toUnits(pixels.top), toUnits(pixels.right),
+                toUnits(pixels.bottom)};
+    }
+
+    bool operator==(const Scale&) const = default;
+};
+
+/// The scale of the display that `window` is on; that of the system for a null window.
+[[nodiscard]] inline Scale scaleOf(HWND window) {
+    const UINT dpi = window != nullptr ? GetDpiForWindow(window) : GetDpiForSystem();
+    return {dpi == 0 ? 1.0 : dpi / 96.0};
+}
+
+} // namespace NRDM

@@ -1,0 +1,263 @@
+#include "toolkit/ImplWin/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace NRDM {
+namespace {
+
+constexpr wchar_t kFamily[] = L"Tahoma";
+constexpr wchar_t kFixedFamily[] = L"Courier New";
+constexpr double kDialogSize = 12;
+constexpr double kPanelSize = 11;
+constexpr double kTipSize = 11;
+
+struct StyleRow {
+    double size;
+    bool bold;
+    bool italic;
+    bool fixedWidth;
+};
+
+/// By ADM's numbers, from 1.
+constexpr StyleRow kStyles[] = {
+    {kDialogSize, false, false, false}, {kPanelSize, false, false, false},
+    {kDialogSize, false, true, false},  {kPanelSize, false, true, false},
+    {kDialogSize, true, false, false},  {kPanelSize, true, false, false},
+    {kDialogSize, true, true, false},   {kPanelSize, true, true, false},
+    {kDialogSize, false, false, true},  {kDialogSize, false, true, true},
+    {kDialogSize, true, false, true},   {kDialogSize, true, true, true},
+    {kTipSize, false, false, false},
+};
+
+/// A font, and a context to measure with when there are no pixels to draw on.
+class Face {
+public:
+    Face(TextStyle style, Scale scale)
+        : font_(style.fixedWidth ? kFixedFamily : kFamily,
+                static_cast<Gdiplus::REAL>(style.size * scale.factor),
+                (style.bold ? Gdiplus::FontStyleBold : 0) |
+                    (style.italic ? Gdiplus::FontStyleItalic : 0),
+                Gdiplus::UnitPixel) {}
+
+    [[nodiscard]] const Gdiplus::Font& font() const { return font_; }
+
+    [[nodiscard]] LineMetrics metrics() const {
+        Gdiplus::FontFamily family;
+        font_.GetFamily(&family);
+        const int style = font_.GetStyle();
+        const double em = family.GetEmHeight(style);
+        if (em <= 0) return {};
+        const double pixels = font_.GetSize() / em;
+        constexpr double kTahomaCapital = 0.727; // of the em, from the font's OS/2 table
+        return {family.GetCellAscent(style) * pixels,
+                (family.GetCellAscent(style) + family.GetCellDescent(style)) * pixels,
+                font_.GetSize() * kTahomaCapital};
+    }
+
+private:
+    Gdiplus::Font font_;
+};
+
+Gdiplus::StringFormat& asOneLine(Gdiplus::StringFormat& format) {
+    format.SetFormatFlags(Gdiplus::StringFormatFlagsNoWrap | Gdiplus::StringFormatFlagsNoClip |
+                          Gdiplus::StringFormatFlagsMeasureTrailingSpaces);
+    return format;
+}
+
+/// Something to measure text with: a surface of one pixel.
+class Ruler {
+public:
+    Ruler() : bitmap_(1, 1, PixelFormat32bppRGB), graphics_(&bitmap_) {
+        graphics_.SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAliasGridFit);
+    }
+
+    [[nodiscard]] double width(std::wstring_view text, const Face& face) const {
+        if (text.empty()) return 0;
+        Gdiplus::StringFormat format(Gdiplus::StringFormat::GenericTypographic());
+        Gdiplus::RectF box;
+        graphics_.MeasureString(text.data(), static_cast<INT>(text.size()), &face.font(),
+                                Gdiplus::PointF(0, 0), &asOneLine(format), &box);
+        return box.Width;
+    }
+
+    [[nodiscard]] double height(std::wstring_view text, const Face& face, int width) const {
+        Gdiplus::RectF box;
+        graphics_.MeasureString(text.data(), static_cast<INT>(text.size()), &face.font(),
+                                Gdiplus::RectF(0, 0, static_cast<Gdiplus::REAL>(width), 32000),
+                                Gdiplus::StringFormat::GenericTypographic(), &box);
+        return box.Height;
+    }
+
+private:
+    Gdiplus::Bitmap bitmap_;
+    Gdiplus::Graphics graphics_;
+};
+
+Gdiplus::Color toGdiPlus(Colour colour) {
+    return Gdiplus::Color(255, colour.red, colour.green, colour.blue);
+}
+
+void drawText(Surface& surface, double x, double baseline, std::wstring_view text, const Face& face,
+              Colour colour) {
+    if (!surface || text.empty()) return;
+    const Gdiplus::SolidBrush brush(toGdiPlus(colour));
+    Gdiplus::StringFormat format(Gdiplus::StringFormat::GenericTypographic());
+    const Gdiplus::PointF corner(static_cast<Gdiplus::REAL>(x),
+                                 static_cast<Gdiplus::REAL>(baseline - face.metrics().ascent));
+    surface.graphics().DrawString(text.data(), static_cast<INT>(text.size()), &face.font(), corner,
+                                  &asOneLine(format), &brush);
+}
+
+constexpr wchar_t kEllipsis = L'\u2026';
+
+/// `text` with as few letters replaced by an ellipsis as make it fit.
+std::wstring shortened(const std::wstring& text, double room, const Face& face, bool middle) {
+    const Ruler ruler;
+    for (std::size_t kept = text.size(); kept-- > 0;) {
+        const std::size_t head = middle ? (kept + 1) / 2 : kept;
+        std::wstring candidate =
+            text.substr(0, head) + kEllipsis + text.substr(text.size() - (kept - head));
+        if (ruler.width(candidate, face) <= room) return candidate;
+    }
+    return {};
+}
+
+/// The largest of a few sizes in which `text` is no wider than `room`, or the smallest of them.
+TextStyle fitting(std::wstring_view text, TextStyle style, Scale scale, double room) {
+    constexpr int kSteps = 4;
+    const Ruler ruler;
+    TextStyle smaller = style;
+    for (int step = 0; step <= kSteps; ++step) {
+        smaller.size = style.size * (1.0 - step / 32.0);
+        if (ruler.width(text, Face(smaller, scale)) <= room) break;
+    }
+    return smaller;
+}
+
+} // namespace
+
+TextStyle textStyleOf(int font, bool inPanel) {
+    const int known = font >= 1 && font <= static_cast<int>(std::size(kStyles)) ? font
+                      : inPanel                                                 ? 2
+                                                                                : 1;
+    const auto& [size, bold, italic, fixedWidth] = kStyles[known - 1];
+    return {size, bold, italic, fixedWidth};
+}
+
+Caption captionOf(std::wstring_view marked) {
+    Caption caption;
+    for (std::size_t i = 0; i < marked.size(); ++i) {
+        if (marked[i] == L'&' && i + 1 < marked.size()) {
+            ++i;
+            if (marked[i] != L'&' && caption.accessKey < 0)
+                caption.accessKey = static_cast<int>(caption.text.size());
+        }
+        caption.text += marked[i];
+    }
+    return caption;
+}
+
+std::wstring toWide(std::string_view utf8) {
+    const int size = static_cast<int>(utf8.size());
+    std::wstring wide(
+        static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, nullptr, 0)),
+        L'\0');
+    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, wide.data(), static_cast<int>(wide.size()));
+    return wide;
+}
+
+std::string toUtf8(std::wstring_view text) {
+    const int size = static_cast<int>(text.size());
+    std::string utf8(static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, text.data(), size,
+                                                                  nullptr, 0, nullptr, nullptr)),
+                     '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text.data(), size, utf8.data(), static_cast<int>(utf8.size()),
+                        nullptr, nullptr);
+    return utf8;
+}
+
+LineMetrics lineMetrics(TextStyle style, Scale scale) { return Face(style, scale).metrics(); }
+
+double textWidth(std::wstring_view text, TextStyle style, Scale scale) {
+    return Ruler().width(text, Face(style, scale));
+}
+
+int wrappedHeight(std::wstring_view text, TextStyle style, Scale scale, int width) {
+    return static_cast<int>(std::ceil(Ruler().height(text, Face(style, scale), width)));
+}
+
+int baselineOf(int top, int bottom, TextStyle style, Scale scale) {
+    return static_cast<int>(
+        std::floor((top + bottom + lineMetrics(style, scale).capHeight) / 2 + 0.5));
+}
+
+void drawLine(Surface& surface, const RECT& place, const TextLine& line) {
+    if (!surface || place.right <= place.left) return;
+    const double room = place.right - place.left + 0.5; // measured widths end between pixels
+    const auto& [caption, style, scale, colour, justify, overflow, showAccessKey] = line;
+    const bool shrinks = overflow == Overflow::Shrink;
+    const Face face(shrinks ? fitting(caption.text, style, scale, room) : style, scale);
+    const Ruler ruler;
+    double width = ruler.width(caption.text, face);
+    std::wstring text = caption.text;
+    if (width > room && overflow != Overflow::Clip) {
+        text = shortened(text, room, face, overflow == Overflow::MiddleEllipsis);
+        width = ruler.width(text, face);
+    }
+    const double spare = place.right - place.left - width;
+    const double x = justify == Justify::Left     ? place.left
+                     : justify == Justify::Centre ? place.left + std::floor(spare / 2)
+                                                  : place.right - std::ceil(width);
+    const int baseline = baselineOf(place.top, place.bottom, style, scale);
+    Gdiplus::Graphics& graphics = surface.graphics();
+    const Gdiplus::GraphicsState state = graphics.Save();
+    graphics.SetClip(Gdiplus::Rect(place.left, place.top, place.right - place.left + 1,
+                                   place.bottom - place.top),
+                     Gdiplus::CombineModeIntersect);
+    drawText(surface, x, baseline, text, face, colour);
+    if (showAccessKey && caption.accessKey >= 0 && text == caption.text) {
+        const auto index = static_cast<std::size_t>(caption.accessKey);
+        const double left = x + ruler.width(text.substr(0, index), face);
+        const double right = x + ruler.width(text.substr(0, index + 1), face);
+        const Gdiplus::SolidBrush brush(toGdiPlus(colour));
+        const int thickness = std::max(1, scale.toPixels(1));
+        graphics.FillRectangle(&brush, static_cast<INT>(std::lround(left)), baseline + thickness,
+                               static_cast<INT>(std::lround(right - left)), thickness);
+    }
+    graphics.Restore(state);
+}
+
+void drawWrapped(Surface& surface, const RECT& place, const TextLine& line) {
+    if (!surface || line.caption.text.empty()) return;
+    const Face face(line.style, line.scale);
+    Gdiplus::StringFormat format(Gdiplus::StringFormat::GenericTypographic());
+    format.SetFormatFlags(0);
+    format.SetAlignment(line.justify == Justify::Left     ? Gdiplus::StringAlignmentNear
+                        : line.justify == Justify::Centre ? Gdiplus::StringAlignmentCenter
+                                                          : Gdiplus::StringAlignmentFar);
+    format.SetTrimming(Gdiplus::StringTrimmingEllipsisWord);
+    const Gdiplus::SolidBrush brush(toGdiPlus(line.colour));
+    const Gdiplus::RectF box(static_cast<Gdiplus::REAL>(place.left),
+                             static_cast<Gdiplus::REAL>(place.top),
+                             static_cast<Gdiplus::REAL>(place.right - place.left),
+                             static_cast<Gdiplus::REAL>(place.bottom - place.top));
+    surface.graphics().DrawString(line.caption.text.data(),
+                                  static_cast<INT>(line.caption.text.size()), &face.font(), box,
+                                  &format, &brush);
+}
+
+void drawAt(Surface& surface, double x, double baseline, std::wstring_view text, TextStyle style,
+            Scale scale, Colour colour) {
+    drawText(surface, x, baseline, text, Face(style, scale), colour);
+}
+
+HFONT makeGdiFont(TextStyle style, Scale scale) {
+    return CreateFontW(-scale.toPixels(style.size), 0, 0, 0, style.bold ? FW_BOLD : FW_NORMAL,
+                       style.italic ? TRUE : FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+                       OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, CLEARTYPE_QUALITY,
+                       DEFAULT_PITCH | FF_DONTCARE, style.fixedWidth ? kFixedFamily : kFamily);
+}
+
+} // namespace NRDM
