@@ -10,6 +10,7 @@
 #include "shell/Alert.h"
 #include "shell/Help.h"
 #include "shell/PreferenceStore.h"
+#include "tool/Annotations.h"
 #include "tool/SymmetryTool.h"
 
 #include <new>
@@ -153,9 +154,7 @@ MirrorEnvironment FacettaPlugin::mirroring() {
             .showMessage = showAlert};
 }
 
-template <typename Handler>
-AIErr FacettaPlugin::withTool(const AIToolMessage& message, Handler handler) {
-    if (message.tool == nullptr || message.tool != toolHandle) return kNoErr;
+template <typename Handler> AIErr FacettaPlugin::withSession(Handler handler) {
     // The view may have come up before the notification that tells of it.
     if (view.handle == nullptr && documentIsOpen()) view = fetchCurrentView();
     const platform::KeyState keys = platform::readKeys();
@@ -164,6 +163,12 @@ AIErr FacettaPlugin::withTool(const AIToolMessage& message, Handler handler) {
                         keys, mirroring(), [this](ai::int32 id) { toolkit().cursors().show(id); }};
     handler(session);
     return kNoErr;
+}
+
+template <typename Handler>
+AIErr FacettaPlugin::withTool(const AIToolMessage& message, Handler handler) {
+    if (message.tool == nullptr || message.tool != toolHandle) return kNoErr;
+    return withSession(handler);
 }
 
 AIErr FacettaPlugin::EditTool(AIToolMessage& message) {
@@ -203,9 +208,11 @@ AIErr FacettaPlugin::IncreaseDiameter(AIToolMessage& message) {
     return withTool(message, [](ToolSession& s) { changeAxisCount(s, 1); });
 }
 
-AIErr FacettaPlugin::AnnotatorDraw(AIAnnotatorMessage&) {
-    // The overlay paints here once it is there; an empty picture is no failure.
-    return kNoErr;
+AIErr FacettaPlugin::AnnotatorDraw(AIAnnotatorMessage& message) {
+    if (message.annotator != annotator) return kNoErr;
+    const Interface brightness = toolkit().theme().dark ? Interface::Dark : Interface::Light;
+    return withSession(
+        [&](ToolSession& s) { drawAnnotations(s, message, brightness, platform::ticks()); });
 }
 
 AIErr FacettaPlugin::AnnotatorInvalidate(AIAnnotatorMessage& message) {

@@ -63,7 +63,9 @@ public:
     AIToolHandle toolHandle = nullptr;
 
 private:
-    /// Runs a handler of the tool on a message to our tool; messages to others are none of ours.
+    /// Runs `handler` on the tool's state and what the plug-in lends it for one message.
+    template <typename Handler> AIErr withSession(Handler handler);
+    /// The same for a message to our tool; messages to others are none of ours.
     template <typename Handler> AIErr withTool(const AIToolMessage& message, Handler handler);
 
     void startProduct();

@@ -130,16 +130,16 @@ UnitKind kindOf(ai::int16 type) {
 /// Turns a list of art, containers before their members, into units.
 class UnitCollector {
 public:
-    enum class Copies { AreArt, AreDeleted };
+    enum class Copies { AreArt, AreLeftOut, AreDeleted };
 
     explicit UnitCollector(Copies copies) : copies_(copies) {}
 
     void examine(AIArtHandle art) {
         const Surroundings& around = containers_.around(art);
-        if (around.generated && copies_ == Copies::AreDeleted) return; // goes with its container
+        if (around.generated && copies_ != Copies::AreArt) return; // goes with its container
         const ArtMarks marks = marksOf(art, keys_);
-        if (marks.mirror == MirrorTag::kCopy && copies_ == Copies::AreDeleted) {
-            doomed_.push_back(art);
+        if (marks.mirror == MirrorTag::kCopy && copies_ != Copies::AreArt) {
+            if (copies_ == Copies::AreDeleted) doomed_.push_back(art);
             return;
         }
         if (around.unit == nullptr)
@@ -199,6 +199,10 @@ std::vector<Unit> unitsOfSelection() {
 
 std::vector<Unit> unitsOfLayer(AILayerHandle layer) {
     return collect(artOnLayer(layer), UnitCollector::Copies::AreDeleted);
+}
+
+std::vector<Unit> sourcesOnLayer(AILayerHandle layer) {
+    return collect(artOnLayer(layer), UnitCollector::Copies::AreLeftOut);
 }
 
 } // namespace facetta

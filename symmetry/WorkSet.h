@@ -36,4 +36,7 @@ struct Unit {
 /// locked and hidden ones, are DELETED from the document.
 [[nodiscard]] std::vector<Unit> unitsOfLayer(AILayerHandle layer);
 
+/// The same units; the document stays as it is.
+[[nodiscard]] std::vector<Unit> sourcesOnLayer(AILayerHandle layer);
+
 } // namespace facetta

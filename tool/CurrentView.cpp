@@ -11,13 +11,6 @@ namespace {
 
 constexpr ai::int32 kCurrentViewNumber = 0;
 
-AIPoint toPixels(AIDocumentViewHandle view, AIReal h, AIReal v) {
-    const AIRealPoint point{h, v};
-    AIPoint pixel{};
-    ai::check(ai::suites.documentView->ArtworkPointToViewPoint(view, &point, &pixel));
-    return pixel;
-}
-
 } // namespace
 
 bool documentIsOpen() {
@@ -30,8 +23,8 @@ CurrentView fetchCurrentView() {
     ai::check(ai::suites.documentView->GetNthDocumentView(kCurrentViewNumber, &view.handle));
     AIRealRect page{};
     ai::check(ai::suites.documentView->GetDocumentViewBounds(view.handle, &page));
-    const AIPoint topLeft = toPixels(view.handle, page.left, page.top);
-    const AIPoint bottomRight = toPixels(view.handle, page.right, page.bottom);
+    const AIPoint topLeft = viewPixelOf(view, {page.left, page.top});
+    const AIPoint bottomRight = viewPixelOf(view, {page.right, page.bottom});
     view.pixels = {topLeft.h, topLeft.v, bottomRight.h, bottomRight.v};
     return view;
 }
@@ -43,10 +36,20 @@ double currentZoom() {
     return zoom > 0 ? static_cast<double>(zoom) : kZoomInPlaceOfNone;
 }
 
+AIPoint viewPixelOf(const CurrentView& view, AIRealPoint point) {
+    AIPoint pixel{};
+    ai::check(ai::suites.documentView->ArtworkPointToViewPoint(view.handle, &point, &pixel));
+    return pixel;
+}
+
+void invalidate(const CurrentView& view, const AIRect& pixels) {
+    if (view.handle != nullptr)
+        ai::check(ai::suites.annotator->InvalAnnotationRect(view.handle, &pixels));
+}
+
 void redrawOverlay(const CurrentView& view) {
     // Axes reach from edge to edge: what changes is the whole view.
-    if (view.handle != nullptr)
-        ai::check(ai::suites.annotator->InvalAnnotationRect(view.handle, &view.pixels));
+    invalidate(view, view.pixels);
 }
 
 } // namespace facetta

@@ -19,6 +19,13 @@ struct CurrentView {
 /// Pixels per point of the current view; 0 counts as 0.01, so that it can be divided by.
 [[nodiscard]] double currentZoom();
 
+/// The pixel of `view` at a place on the page. Throws `ai::Error`.
+[[nodiscard]] AIPoint viewPixelOf(const CurrentView& view, AIRealPoint point);
+
+/// Asks the host to draw the annotations in `pixels` of `view` anew; nothing happens without a
+/// view. Throws `ai::Error`.
+void invalidate(const CurrentView& view, const AIRect& pixels);
+
 /// Asks the host to draw the overlay of `view` anew.
 void redrawOverlay(const CurrentView& view);
 

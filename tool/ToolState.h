@@ -6,6 +6,7 @@
 #include "symmetry/SymmetryAxes.h"
 #include "tool/DialogPlacement.h"
 #include "tool/Hint.h"
+#include "tool/Preview.h"
 
 namespace facetta {
 
@@ -85,6 +86,7 @@ struct ToolState {
     SnapPointForm snapPointForm = SnapPointForm::Unknown;
     DialogPosition dialog; ///< top left corner of the on-canvas dialog
     Hint hint;
+    Preview preview;
     ai::ArtSet repositionArt; ///< the art that moves with the axes; empty between drags
 };
 

@@ -1,0 +1,49 @@
+#include "tool/Annotations.h"
+
+#include "host/Error.h"
+#include "host/Suites.h"
+#include "host/suites/AIAnnotatorDrawerSuite.h"
+#include "symmetry/ArtSpace.h"
+#include "tool/HintDrawing.h"
+#include "tool/OnCanvasDialog.h"
+#include "tool/Overlay.h"
+#include "tool/Preview.h"
+
+namespace facetta {
+namespace {
+
+constexpr ai::uint32 kSmooth = 1; ///< the port option of anti-aliased drawing
+
+void drawSymmetry(const Surface& surface, const ToolSession& session) {
+    if (!axesAreShown(session)) return;
+    const ToolState& state = session.state;
+    const PixelAxes axes = inPixels(inArtSpace(state.axes), surface.view);
+    if (maskIsShown(session)) drawMask(surface, axes, session.preferences.opacity);
+    drawPreview(surface, session);
+    drawAxes(surface, axes);
+    const bool canBeGrabbed = state.axes.onLayer || axesArePending(state);
+    if (canBeGrabbed && state.sectorHandleHighlighted) drawSectorHandle(surface, axes);
+}
+
+} // namespace
+
+void drawAnnotations(const ToolSession& session, const AIAnnotatorMessage& message,
+                     Interface brightness, ai::uint64 now) {
+    const bool canDraw = message.drawer != nullptr && suites.annotatorDrawer != nullptr;
+    if (!canDraw || !documentIsOpen()) return;
+    const Surface surface{message.drawer, fetchViewMap(message.view), coloursOf(brightness)};
+    ai::check(suites.annotatorDrawer->SetPortOptions(message.drawer, kSmooth, kSmooth));
+    drawSymmetry(surface, session);
+    // The host is scrolling under a drag: what stands still in the view would leave traces.
+    const bool scrolling = message.updateData != nullptr;
+    if (!scrolling) drawDialog(surface, session);
+    drawHint(surface, session.state, now);
+}
+
+void invalidateBetween(const ToolSession& session, AIRealPoint from, AIRealPoint to) {
+    if (session.view.handle == nullptr) return;
+    invalidate(session.view,
+               hintReach(viewPixelOf(session.view, from), viewPixelOf(session.view, to)));
+}
+
+} // namespace facetta

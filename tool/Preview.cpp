@@ -1,0 +1,200 @@
+#include "tool/Preview.h"
+
+#include "host/Art.h"
+#include "host/Error.h"
+#include "host/Suites.h"
+#include "host/suites/AIAnnotatorDrawerSuite.h"
+#include "host/suites/AIArtSuite.h"
+#include "symmetry/ArtSpace.h"
+#include "symmetry/ArtTree.h"
+#include "symmetry/LayerAxesStore.h"
+#include "symmetry/PathArt.h"
+#include "tool/Overlay.h"
+#include "tool/ToolSession.h"
+
+#include <algorithm>
+
+namespace facetta {
+namespace {
+
+/// A line may be this many pixels off its curve.
+constexpr double kTolerance = 0.3;
+
+/// Pixels. Lines reach over the edge of the view by their own width.
+constexpr double kMargin = 2.0;
+
+/// Open ends within this many pixels of an axis are drawn onto it by the engine.
+constexpr double kSnapPixels = 12.0;
+
+PathShape boxOf(AIArtHandle art) {
+    AIRealRect bounds{};
+    ai::check(suites.art->GetArtBounds(art, &bounds));
+    PathShape box{.segments = {}, .closed = true};
+    for (const AIRealPoint corner :
+         {AIRealPoint{bounds.left, bounds.top}, AIRealPoint{bounds.right, bounds.top},
+          AIRealPoint{bounds.right, bounds.bottom}, AIRealPoint{bounds.left, bounds.bottom}}) {
+        const Point at = widen(corner);
+        box.segments.push_back({.anchor = at, .in = at, .out = at});
+    }
+    return box;
+}
+
+/// Paths are read only while `room` segments are left for them.
+PreviewSource readSource(const Unit& unit, std::size_t room) {
+    PreviewSource source{.kind = unit.kind, .paths = {}, .box = boxOf(unit.art)};
+    if (room == 0) return source;
+    if (unit.kind == UnitKind::Path) source.paths.push_back(readPath(unit.art, 0));
+    if (unit.kind == UnitKind::CompoundPath)
+        for (const AIArtHandle path : pathsInside(unit.art))
+            source.paths.push_back(readPath(path, 0));
+    for (const PathShape& path : source.paths)
+        source.segments += path.segments.size();
+    return source;
+}
+
+void capture(Preview& preview, std::span<const Unit> units) {
+    preview.sources.clear();
+    std::size_t room = kMostSourceSegments;
+    for (const Unit& unit : units.first(std::min(units.size(), kMostSources))) {
+        preview.sources.push_back(readSource(unit, room));
+        room -= std::min(room, preview.sources.back().segments);
+    }
+    preview.captured = true;
+    preview.zoom = 0.0;
+}
+
+void addContours(PreviewPaths& paths, const MirroredPath& mirrored) {
+    for (const Contour& contour : mirrored.contours)
+        paths.add(contour.shape, contour.images, mirrored.unchanged);
+}
+
+void build(Preview& preview, const SymmetryAxes& axes, double zoom) {
+    preview.paths.begin(axes, kTolerance / zoom);
+    PathMirror mirror{axes, kSnapPixels / zoom};
+    std::size_t room = kMostMirroredCurves / static_cast<std::size_t>(sectorCount(axes));
+    for (const PreviewSource& source : preview.sources) {
+        const bool whole = source.paths.empty() || source.segments > room;
+        room -= whole ? 0 : source.segments;
+        if (whole)
+            preview.paths.add(source.box, Images::All, /*isArt*/ true);
+        else if (source.kind == UnitKind::Path)
+            addContours(preview.paths, mirror.mirror(source.paths.front()));
+        else
+            addContours(preview.paths, mirror.mirrorCompound(source.paths));
+    }
+    preview.paths.limit(kMostPreviewLines);
+    // Drawn open, a path is run through there and back.
+    constexpr std::size_t kEnds = 4; // where it is cut by the edge of the view, and its closing
+    preview.pixels.resize(2 * preview.paths.longest() + kEnds);
+}
+
+/// Draws pieces of one path, point by point.
+class LineDrawing {
+public:
+    LineDrawing(AIAnnotatorDrawer* drawer, std::span<AIPoint> pixels)
+        : drawer_(drawer), pixels_(pixels) {}
+
+    void add(Point at) {
+        const AIPoint pixel = nearestPixel(at);
+        if (count_ > 0 && pixels_[count_ - 1].h == pixel.h && pixels_[count_ - 1].v == pixel.v)
+            return;
+        pixels_[count_++] = pixel;
+    }
+
+    /// The host draws closed polygons only: an open line is run through there and back.
+    void endOpen() {
+        if (count_ > 1) {
+            std::size_t total = count_;
+            for (std::size_t i = count_ - 1; i-- > 1;)
+                pixels_[total++] = pixels_[i];
+            draw(total);
+        }
+        count_ = 0;
+    }
+
+    void endClosed() {
+        if (count_ > 1) draw(count_);
+        count_ = 0;
+    }
+
+private:
+    void draw(std::size_t count) const {
+        ai::check(suites.annotatorDrawer->DrawPolygon(drawer_, pixels_.data(),
+                                                      static_cast<ai::uint32>(count), 0));
+    }
+
+    AIAnnotatorDrawer* drawer_;
+    std::span<AIPoint> pixels_;
+    std::size_t count_ = 0;
+};
+
+/// The pieces of a line through `points` that lie in `area`.
+void drawClipped(LineDrawing& drawing, std::span<const Point> points, const Matrix& map,
+                 bool closed, const PixelRect& area) {
+    Point previous = apply(map, points.front());
+    const auto drawTo = [&](Point next) {
+        const std::optional<LineSegment> piece = clipped({previous, next}, area);
+        if (piece && piece->start != previous) drawing.endOpen();
+        if (piece) {
+            drawing.add(piece->start);
+            drawing.add(piece->end);
+        }
+        if (!piece || piece->end != next) drawing.endOpen();
+        previous = next;
+    };
+    for (const Point point : points.subspan(1))
+        drawTo(apply(map, point));
+    if (closed) drawTo(apply(map, points.front()));
+    drawing.endOpen();
+}
+
+void drawImage(LineDrawing& drawing, const Preview& preview, const PreviewPath& path,
+               const Matrix& map, const ViewMap& view) {
+    const Point middle = apply(map, path.middle);
+    const double radius = path.radius * view.zoom;
+    const PixelRect area = grown(view.visible, kMargin);
+    if (!contains(grown(area, radius), middle)) return;
+    const std::span<const Point> points = preview.paths.pointsOf(path);
+    if (!contains(grown(area, -radius), middle))
+        return drawClipped(drawing, points, map, path.closed, area);
+    for (const Point point : points)
+        drawing.add(apply(map, point));
+    if (path.closed)
+        drawing.endClosed();
+    else
+        drawing.endOpen();
+}
+
+} // namespace
+
+void refreshPreview(ToolSession& session) {
+    ToolState& state = session.state;
+    if (state.preview.captured || !documentIsOpen()) return;
+    const bool ofLayer = state.axes.onLayer || state.layerEdit;
+    const AILayerHandle layer = ofLayer ? topLevelLayer(nullptr) : nullptr;
+    if (layer != nullptr)
+        capture(state.preview, sourcesOnLayer(layer));
+    else
+        capture(state.preview, unitsOfSelection());
+}
+
+void clearPreview(ToolState& state) { state.preview = {}; }
+
+void drawPreview(const Surface& surface, const ToolSession& session) {
+    Preview& preview = session.state.preview;
+    if (!preview.captured || !axesArePending(session.state)) return;
+    const SymmetryAxes& axes = session.state.axes;
+    if (preview.zoom != surface.view.zoom || preview.axes != axes) {
+        build(preview, inArtSpace(axes), surface.view.zoom);
+        preview.axes = axes;
+        preview.zoom = surface.view.zoom;
+    }
+    suites.annotatorDrawer->SetColor(surface.drawer, surface.colours.preview);
+    suites.annotatorDrawer->SetLineWidth(surface.drawer, 1.0F);
+    LineDrawing drawing{surface.drawer, preview.pixels};
+    for (const PreviewPath& path : preview.paths.paths())
+        for (const Matrix& map : preview.paths.mapsOf(path))
+            drawImage(drawing, preview, path, compose(map, surface.view.toPixels), surface.view);
+}
+
+} // namespace facetta

@@ -1,0 +1,55 @@
+#pragma once
+
+/// Mirrored art as it would be, drawn over the document while axes are pending.
+///
+///   1. The art is read once, by the first `refreshPreview` (selected art, or the sources of a
+///      layer whose axes are edited), and kept until `clearPreview`.
+///   2. What is drawn is made from it when it is drawn, for the axes of that moment: however many
+///      messages a drag sends, each picture is made once.
+
+#include "symmetry/WorkSet.h"
+#include "tool/PreviewPaths.h"
+#include "tool/Surface.h"
+
+namespace facetta {
+
+struct ToolSession;
+struct ToolState;
+
+/// An object of the art to be mirrored, read from the document.
+struct PreviewSource {
+    UnitKind kind = UnitKind::Path; ///< `Whole`: its box stands for it
+    std::vector<PathShape> paths;
+    PathShape box;
+    std::size_t segments = 0; ///< of all its paths
+};
+
+struct Preview {
+    std::vector<PreviewSource> sources;
+    bool captured = false; ///< the sources are those of the document
+    PreviewPaths paths;
+    SymmetryAxes axes;           ///< for which the paths were made,
+    double zoom = 0.0;           ///< and at which zoom; 0: none were
+    std::vector<AIPoint> pixels; ///< of the path being drawn
+};
+
+/// More source segments than this are not read; the art behind is shown as boxes.
+constexpr std::size_t kMostSourceSegments = 20'000;
+/// Nor are more objects.
+constexpr std::size_t kMostSources = 5'000;
+/// Curves that are mirrored for one picture: a few milliseconds.
+constexpr std::size_t kMostMirroredCurves = 100'000;
+/// Lines of one picture.
+constexpr std::size_t kMostPreviewLines = 40'000;
+
+/// The axes or the art have changed: reads the art if none has been read. Throws `ai::Error`.
+void refreshPreview(ToolSession& session);
+
+/// Nothing is to be previewed any more, or the art is another.
+void clearPreview(ToolState& state);
+
+/// Draws the images of the art across the axes of `session`, when these are pending. Throws
+/// `ai::Error`.
+void drawPreview(const Surface& surface, const ToolSession& session);
+
+} // namespace facetta
