@@ -162,16 +162,16 @@ void exposeCallbacks(SuiteTable<Suite>& table) {
     using Callbacks = PanelCallbacks;
     expose<&Suite::SetFlyoutMenuPreVisibilityProc,
            setCallback<AIPanelFlyoutMenuPreVisibilityProc, &Callbacks::flyoutOpens>>(table);
-    expose<&Suite::SetFlyoutMenuProc,
-           setCallback<AIPanelFlyoutMenuProc, &Callbacks::flyoutChosen>>(table);
+    expose<&Suite::SetFlyoutMenuProc, setCallback<AIPanelFlyoutMenuProc, &Callbacks::flyoutChosen>>(
+        table);
     expose<&Suite::SetVisibilityChangedNotifyProc,
            setCallback<AIPanelVisibilityChangedNotifyProc, &Callbacks::visibility>>(table);
     expose<&Suite::SetSizeChangedNotifyProc,
            setCallback<AIPanelSizeChangedNotifyProc, &Callbacks::size>>(table);
     expose<&Suite::SetStateChangedNotifyProc,
            setCallback<AIPanelStateChangedNotifyProc, &Callbacks::state>>(table);
-    expose<&Suite::SetClosedNotifyProc,
-           setCallback<AIPanelClosedNotifyProc, &Callbacks::closed>>(table);
+    expose<&Suite::SetClosedNotifyProc, setCallback<AIPanelClosedNotifyProc, &Callbacks::closed>>(
+        table);
 }
 
 } // namespace

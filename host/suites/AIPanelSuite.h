@@ -35,7 +35,7 @@ struct AIPanelSuite {
     AIErr (*SetUserData)(AIPanelRef, AIPanelUserData);
     AIErr (*SetTitle)(AIPanelRef, const ai::UnicodeString&);
     AIErr (*GetTitle)(AIPanelRef, ai::UnicodeString&);
-    ReservedSlot SetIcon;           // their arguments differ between builds of the host
+    ReservedSlot SetIcon; // their arguments differ between builds of the host
     ReservedSlot SetIconResourceID;
     AIErr (*GetSize)(AIPanelRef, AISize&);
     AIErr (*SetMinimumSize)(AIPanelRef, const AISize&);

@@ -2,8 +2,8 @@
 
 #include "easel/suites/SuiteServer.h"
 #include "host/UnicodeString.h"
-#include "host/suites/AINotifierSuite.h"
 #include "host/suites/AIModalParentSuite.h"
+#include "host/suites/AINotifierSuite.h"
 #include "host/suites/AIPanelFlyoutMenuSuite.h"
 #include "host/suites/AIPanelSuite.h"
 #include "host/suites/AIUIThemeSuite.h"
@@ -51,8 +51,8 @@ struct PanelFixture {
         menus.AppendItem(menu, 1, ai::UnicodeString("One"));
         menus.AppendSeparator(menu, 2);
         menus.AppendItem(menu, 3, ai::UnicodeString("Two"));
-        REQUIRE(panels.Create(plugin.self(), ai::UnicodeString("mine"), ai::UnicodeString("Mine"), 2,
-                              {240, 188}, resizable ? 1 : 0, menu, this, panel) == kNoErr);
+        REQUIRE(panels.Create(plugin.self(), ai::UnicodeString("mine"), ai::UnicodeString("Mine"),
+                              2, {240, 188}, resizable ? 1 : 0, menu, this, panel) == kNoErr);
         panels.SetVisibilityChangedNotifyProc(panel, [](AIPanelRef, AIBoolean visible) {
             told().push_back(visible != 0 ? "shown" : "hidden");
         });
@@ -121,7 +121,8 @@ TEST_CASE("a resizable panel grows by whole steps") {
         AISize wanted;
         AISize got;
     };
-    const Row rows[] = {{{260, 229}, {260, 228}}, {{100, 100}, {240, 188}}, {{900, 900}, {300, 388}}};
+    const Row rows[] = {
+        {{260, 229}, {260, 228}}, {{100, 100}, {240, 188}}, {{900, 900}, {300, 388}}};
     for (const auto& [wanted, got] : rows) {
         INFO(wanted.width, " x ", wanted.height);
         fixture.host.resizePanel(fixture.panel, wanted);
@@ -213,11 +214,11 @@ TEST_CASE("the interface turns dark and says so; dialogs have an owner while the
     fixture.plugin.received.clear();
     for (int i = 0; i < 2; ++i) // the second time is no change
         fixture.host.setInterfaceDark(true);
-    CHECK(fixture.plugin.received ==
-          std::vector<std::string>{"AI UI Brightness Changed Notifier"});
+    CHECK(fixture.plugin.received == std::vector<std::string>{"AI UI Brightness Changed Notifier"});
     CHECK(themes.IsUIThemeDark() == 1);
 
-    const auto& parents = suite<AIModalParentSuite>(kAIModalParentSuite, kAIModalParentSuiteVersion);
+    const auto& parents =
+        suite<AIModalParentSuite>(kAIModalParentSuite, kAIModalParentSuiteVersion);
     int window = 0;
     CHECK(parents.SetParent(reinterpret_cast<AIWindowRef>(&window)) == kNoErr);
     CHECK(fixture.host.user.modalParents.size() == 1);
