@@ -133,6 +133,8 @@ AIErr FacettaPlugin::SetGlobal(Plugin* plugin) {
 AIErr FacettaPlugin::Notify(AINotifierMessage& message) {
     if (message.type != nullptr && message.type == std::string_view(kApplicationStartedNotifier))
         welcomeOnFirstStart();
+    if (message.type != nullptr && message.type == std::string_view(kUIBrightnessChangedNotifier))
+        redrawOverlay(view);
     handleNotification(*this, message.notifier);
     return kNoErr;
 }

@@ -14,21 +14,25 @@ namespace {
 
 constexpr ai::uint32 kSmooth = 1; ///< the port option of anti-aliased drawing
 
-void drawSymmetry(const Surface& surface, const ToolSession& session) {
+void drawSymmetry(const Surface& surface, ToolSession& session) {
     if (!axesAreShown(session)) return;
     const ToolState& state = session.state;
     const PixelAxes axes = inPixels(inArtSpace(state.axes), surface.view);
     if (maskIsShown(session)) drawMask(surface, axes, session.preferences.opacity);
-    drawPreview(surface, session);
-    drawAxes(surface, axes);
+    if (axesArePending(state)) {
+        refreshPreview(session); // the art may have changed since the axes did
+        drawPreview(surface, session);
+    }
     const bool canBeGrabbed = state.axes.onLayer || axesArePending(state);
-    if (canBeGrabbed && state.sectorHandleHighlighted) drawSectorHandle(surface, axes);
+    drawAxes(surface, axes,
+             canBeGrabbed && state.sectorHandleHighlighted ? SectorHandle::Shown
+                                                           : SectorHandle::Hidden);
 }
 
 } // namespace
 
-void drawAnnotations(const ToolSession& session, const AIAnnotatorMessage& message,
-                     Interface brightness, ai::uint64 now) {
+void drawAnnotations(ToolSession& session, const AIAnnotatorMessage& message, Interface brightness,
+                     ai::uint64 now) {
     const bool canDraw = message.drawer != nullptr && suites.annotatorDrawer != nullptr;
     if (!canDraw || !documentIsOpen()) return;
     const Surface surface{message.drawer, fetchViewMap(message.view), coloursOf(brightness)};

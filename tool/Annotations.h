@@ -11,8 +11,8 @@ namespace facetta {
 
 /// Answers the host's draw message. `now` is the system's tick counter in milliseconds. Throws
 /// `ai::Error`.
-void drawAnnotations(const ToolSession& session, const AIAnnotatorMessage& message,
-                     Interface brightness, ai::uint64 now);
+void drawAnnotations(ToolSession& session, const AIAnnotatorMessage& message, Interface brightness,
+                     ai::uint64 now);
 
 /// Asks the host to draw anew what follows the cursor, which went from `from` to `to` on the page.
 /// Throws `ai::Error`.

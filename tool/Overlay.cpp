@@ -35,12 +35,22 @@ void setColour(const Surface& surface, const AIRGBColor& colour) {
     suites.annotatorDrawer->SetColor(surface.drawer, colour);
 }
 
-/// What of the line from `start` to `end` lies in the view.
+/// What of `line` lies in the view.
 void drawLine(const Surface& surface, const LineSegment& line) {
     const std::optional<LineSegment> visible = clipped(line, surface.view.visible);
     if (!visible) return;
     ai::check(suites.annotatorDrawer->DrawLine(surface.drawer, nearestPixel(visible->start),
                                                nearestPixel(visible->end)));
+}
+
+/// The ground under a line: outlines of polygons without width, so that the lines that are drawn
+/// are the axes and nothing else.
+void drawHalo(const Surface& surface, const LineSegment& line) {
+    const std::optional<LineSegment> visible = clipped(line, surface.view.visible);
+    if (!visible) return;
+    const AIPoint ends[] = {nearestPixel(visible->start), nearestPixel(visible->end)};
+    ai::check(suites.annotatorDrawer->DrawPolygon(surface.drawer, ends,
+                                                  static_cast<ai::uint32>(std::size(ends)), 0));
 }
 
 template <std::size_t Most>
@@ -51,10 +61,12 @@ void drawFilled(const Surface& surface, std::span<const Point, Most> corners) {
                                                   static_cast<ai::uint32>(corners.size()), 1));
 }
 
-void drawAxisLines(const Surface& surface, const PixelAxes& axes) {
+using DrawLineFunction = void (*)(const Surface&, const LineSegment&);
+
+void drawEachAxis(const Surface& surface, const PixelAxes& axes, DrawLineFunction draw) {
     for (int axis = 0; axis < axes.axisCount; ++axis) {
         const Vector reach = axes.reach * pixelDirection(axes.angle + axis * axes.halfStep);
-        drawLine(surface, {axes.origin - reach, axes.origin + reach});
+        draw(surface, {axes.origin - reach, axes.origin + reach});
     }
 }
 
@@ -63,6 +75,15 @@ void drawMarkers(const Surface& surface, const PixelAxes& axes) {
     const std::array<Point, 3> last = markerOn(axes, axes.angle + axes.halfStep, -1.0);
     drawFilled(surface, std::span(first));
     drawFilled(surface, std::span(last));
+}
+
+void drawSectorHandle(const Surface& surface, const PixelAxes& axes) {
+    AIFloat dashes[] = {4.0F, 4.0F};
+    const Vector reach = axes.reach * pixelDirection(axes.angle + axes.halfStep / 2);
+    ai::check(suites.annotatorDrawer->SetLineDashedEx(surface.drawer, dashes,
+                                                      static_cast<ai::int32>(std::size(dashes))));
+    drawLine(surface, {axes.origin, axes.origin + reach});
+    suites.annotatorDrawer->SetLineDashed(surface.drawer, 0);
 }
 
 void drawOrigin(const Surface& surface, const PixelAxes& axes) {
@@ -115,7 +136,6 @@ std::array<Point, 3> markerOn(const PixelAxes& axes, double angle, double side) 
 void drawMask(const Surface& surface, const PixelAxes& axes, double opacity) {
     constexpr std::size_t kFewestCorners = 3;
     setColour(surface, surface.colours.mask);
-    // Settings may hold more than the whole.
     ai::check(
         suites.annotatorDrawer->SetOpacity(surface.drawer, narrow(std::clamp(opacity, 0.0, 1.0))));
     const Mask mask = maskOf(axes, grown(surface.view.visible, kMaskMargin));
@@ -124,27 +144,18 @@ void drawMask(const Surface& surface, const PixelAxes& axes, double opacity) {
     ai::check(suites.annotatorDrawer->SetOpacity(surface.drawer, 1.0F));
 }
 
-void drawAxes(const Surface& surface, const PixelAxes& axes) {
+void drawAxes(const Surface& surface, const PixelAxes& axes, SectorHandle handle) {
     if (axes.axisCount <= kMostHalos) {
         setColour(surface, surface.colours.halo);
         suites.annotatorDrawer->SetLineWidth(surface.drawer, kHaloWidth);
-        drawAxisLines(surface, axes);
+        drawEachAxis(surface, axes, drawHalo);
     }
     setColour(surface, surface.colours.axes);
     suites.annotatorDrawer->SetLineWidth(surface.drawer, kLineWidth);
-    drawAxisLines(surface, axes);
+    drawEachAxis(surface, axes, drawLine);
     drawMarkers(surface, axes);
+    if (handle == SectorHandle::Shown) drawSectorHandle(surface, axes);
     drawOrigin(surface, axes);
-}
-
-void drawSectorHandle(const Surface& surface, const PixelAxes& axes) {
-    AIFloat dashes[] = {4.0F, 4.0F};
-    const Vector reach = axes.reach * pixelDirection(axes.angle + axes.halfStep / 2);
-    setColour(surface, surface.colours.axes);
-    ai::check(suites.annotatorDrawer->SetLineDashedEx(surface.drawer, dashes,
-                                                      static_cast<ai::int32>(std::size(dashes))));
-    drawLine(surface, {axes.origin, axes.origin + reach});
-    suites.annotatorDrawer->SetLineDashed(surface.drawer, 0);
 }
 
 } // namespace facetta

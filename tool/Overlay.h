@@ -29,10 +29,12 @@ namespace facetta {
 /// counter-clockwise, -1 clockwise) of it. In pixels.
 [[nodiscard]] std::array<Point, 3> markerOn(const PixelAxes& axes, double angle, double side);
 
-/// All draw onto `surface` and throw `ai::Error`.
+/// The bisector of the active sector, by which it is turned: seen while the cursor is over it.
+enum class SectorHandle : bool { Hidden, Shown };
+
+/// Both draw onto `surface` and throw `ai::Error`. `opacity` is a fraction; more than 1 counts
+/// as 1.
 void drawMask(const Surface& surface, const PixelAxes& axes, double opacity);
-void drawAxes(const Surface& surface, const PixelAxes& axes);
-/// The bisector of the active sector, by which it is turned.
-void drawSectorHandle(const Surface& surface, const PixelAxes& axes);
+void drawAxes(const Surface& surface, const PixelAxes& axes, SectorHandle handle);
 
 } // namespace facetta

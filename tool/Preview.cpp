@@ -9,7 +9,6 @@
 #include "symmetry/ArtTree.h"
 #include "symmetry/LayerAxesStore.h"
 #include "symmetry/PathArt.h"
-#include "tool/Overlay.h"
 #include "tool/ToolSession.h"
 
 #include <algorithm>
@@ -180,9 +179,8 @@ void refreshPreview(ToolSession& session) {
 
 void clearPreview(ToolState& state) { state.preview = {}; }
 
-void drawPreview(const Surface& surface, const ToolSession& session) {
+void drawPreview(const Surface& surface, ToolSession& session) {
     Preview& preview = session.state.preview;
-    if (!preview.captured || !axesArePending(session.state)) return;
     const SymmetryAxes& axes = session.state.axes;
     if (preview.zoom != surface.view.zoom || preview.axes != axes) {
         build(preview, inArtSpace(axes), surface.view.zoom);

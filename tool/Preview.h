@@ -3,7 +3,8 @@
 /// Mirrored art as it would be, drawn over the document while axes are pending.
 ///
 ///   1. The art is read once, by the first `refreshPreview` (selected art, or the sources of a
-///      layer whose axes are edited), and kept until `clearPreview`.
+///      layer whose axes are edited), and kept until `clearPreview`. For a layer this has to come
+///      before its axes are taken off: from then on its copies are art like any other.
 ///   2. What is drawn is made from it when it is drawn, for the axes of that moment: however many
 ///      messages a drag sends, each picture is made once.
 
@@ -48,8 +49,7 @@ void refreshPreview(ToolSession& session);
 /// Nothing is to be previewed any more, or the art is another.
 void clearPreview(ToolState& state);
 
-/// Draws the images of the art across the axes of `session`, when these are pending. Throws
-/// `ai::Error`.
-void drawPreview(const Surface& surface, const ToolSession& session);
+/// Draws the images of the art that has been read across the axes of `session`. Throws `ai::Error`.
+void drawPreview(const Surface& surface, ToolSession& session);
 
 } // namespace facetta

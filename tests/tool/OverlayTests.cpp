@@ -1,0 +1,256 @@
+#include "tests/tool/Annotated.h"
+#include "tool/Overlay.h"
+
+using namespace facetta;
+using namespace facetta::tests;
+
+namespace {
+
+/// Pending axes at 300,-250 on the page.
+class PendingAxes : public ToolInHand {
+public:
+    explicit PendingAxes(int count, double angle = 0.0) {
+        thePlugin->preferences.count = count;
+        thePlugin->preferences.angle = angle;
+        press(300, -250);
+        release(300, -250);
+    }
+};
+
+/// Pixels between `point` and the line that `command` draws.
+double offLine(const easel::DrawCommand& command, Point point) {
+    const Vector along = at(command.points[1]) - at(command.points[0]);
+    return std::abs(cross(along, point - at(command.points[0]))) / length(along);
+}
+
+} // namespace
+
+TEST_CASE("every axis is one line through the origin, from edge to edge of the view") {
+    for (const int count : {1, 2, 3, 7, 20, 21, 72}) {
+        for (const AIReal zoom : {0.25F, 1.0F, 8.0F}) {
+            INFO("N = ", count, ", zoom ", zoom);
+            PendingAxes session{count, 0.3};
+            easel::setZoom(session.host.view(nullptr), zoom);
+            session.host.view(nullptr).centre = {310, -260};
+            const std::vector<easel::DrawCommand> lines = axisLines(drawn(session));
+            const Point origin = pixelsOf(session, {300, -250});
+            REQUIRE(std::ssize(lines) == count);
+            for (int axis = 0; axis < count; ++axis) {
+                const easel::DrawCommand& line = lines[static_cast<std::size_t>(axis)];
+                CHECK(offLine(line, origin) < 1.0);
+                const double angle = 0.3 + axis * kPi / count;
+                const Point farther = origin + 300.0 * Vector{std::cos(angle), -std::sin(angle)};
+                CHECK(offLine(line, farther) < 1.0);
+                for (const AIPoint end : line.points)
+                    CHECK((end.h == 0 || end.h == 1280 || end.v == 0 || end.v == 800));
+            }
+        }
+    }
+}
+
+TEST_CASE("axes from an origin far outside the view cross it where they belong") {
+    PendingAxes session{2, 0.4};
+    session.host.view(nullptr).centre = {6300, -250 + 6000 * std::tan(0.4F)};
+    easel::setZoom(session.host.view(nullptr), 64);
+    const std::vector<easel::DrawCommand> lines = axisLines(drawn(session));
+    REQUIRE(lines.size() == 1); // the other axis passes the view by
+    CHECK(offLine(lines[0], {640, 400}) < 2.0);
+}
+
+TEST_CASE("two triangles on the bounding rays point into the active sector") {
+    struct Row {
+        int count;
+        double begin; // pixels from the origin
+    };
+    const Row rows[] = {{1, 72}, {3, 72}, {20, 72}, {21, 72 + 45.0 / 13}, {46, 162}, {72, 252}};
+    for (const auto& [count, begin] : rows) {
+        INFO("N = ", count);
+        CHECK(markerDistance(count) == doctest::Approx(begin));
+        PendingAxes session{count, 1.1};
+        std::vector<easel::DrawCommand> triangles = ofKind(drawn(session), Kind::Polygon);
+        std::erase_if(triangles, [](const easel::DrawCommand& each) {
+            return each.points.size() != 3 || !each.fill;
+        });
+        REQUIRE(triangles.size() == 2);
+        const Point origin = pixelsOf(session, {300, -250});
+        for (const int side : {0, 1}) {
+            const easel::DrawCommand& triangle = triangles[static_cast<std::size_t>(side)];
+            const double angle = 1.1 + side * kPi / count;
+            const Vector along{std::cos(angle), -std::sin(angle)};
+            const Vector left{-std::sin(angle), -std::cos(angle)}; // counter-clockwise as seen
+            const double height = side == 0 ? 6.0 : -6.0;
+            const Point corners[] = {origin + begin * along,
+                                     origin + (begin + 4) * along + height * left,
+                                     origin + (begin + 8) * along};
+            for (std::size_t i = 0; i < 3; ++i)
+                CHECK(distance(at(triangle.points[i]), corners[i]) < 0.71); // rounding to pixels
+        }
+    }
+}
+
+TEST_CASE("the handle is dashed, along the bisector, and only there under the cursor") {
+    PendingAxes session{3};
+    CHECK(ofKind(drawn(session), Kind::Line).size() == 3);
+    const Point handle = Point{300, -250} + 150.0 * direction(kPi / 6);
+    session.host.track({.at = narrow(handle)});
+    std::vector<easel::DrawCommand> lines = ofKind(drawn(session), Kind::Line);
+    REQUIRE(lines.size() == 4);
+    CHECK(lines[3].style.dashed);
+    CHECK(lines[3].style.dashes == std::vector<AIFloat>{4, 4});
+    CHECK(distance(at(lines[3].points[0]), pixelsOf(session, {300, -250})) < 0.71);
+    CHECK(offLine(lines[3], pixelsOf(session, handle)) < 1.0);
+    session.host.track({.at = {300, -500}});
+    CHECK(ofKind(drawn(session), Kind::Line).size() == 3);
+}
+
+TEST_CASE("the origin is a small disc with an edge, drawn over all lines") {
+    PendingAxes session{3};
+    const easel::DisplayList list = drawn(session);
+    const std::vector<easel::DrawCommand> discs = ofKind(list, Kind::Ellipse);
+    REQUIRE(discs.size() == 2);
+    CHECK(discs[0].fill);
+    CHECK_FALSE(discs[1].fill);
+    const Point origin = pixelsOf(session, {300, -250});
+    for (const easel::DrawCommand& disc : discs) {
+        CHECK(at(disc.points[0]) == origin - Vector{4, 4});
+        CHECK(at(disc.points[1]) == origin + Vector{4, 4});
+    }
+    const auto isDisc = [](const easel::DrawCommand& each) { return each.kind == Kind::Ellipse; };
+    const auto isLine = [](const easel::DrawCommand& each) { return each.kind == Kind::Line; };
+    CHECK(std::ranges::find_if(list, isDisc) > std::ranges::find_if(list, isLine));
+}
+
+TEST_CASE("when axes, mask and dialog are drawn") {
+    struct Row {
+        const char* when;
+        void (*arrange)(ToolInHand&);
+        int axes;
+        bool mask;
+        bool dialog;
+    };
+    const Row rows[] = {
+        {"the tool was never over the document", [](ToolInHand&) {}, 0, false, false},
+        {"new axes follow the cursor",
+         [](ToolInHand& session) {
+             session.host.track({.at = {300, -250}});
+         },
+         3, false, false},
+        {"the first drag turns them",
+         [](ToolInHand& session) {
+             session.press(300, -250);
+             session.drag(400, -250);
+         },
+         3, true, false},
+        {"they are pending",
+         [](ToolInHand& session) {
+             session.press(300, -250);
+             session.release(300, -250);
+         },
+         3, true, true},
+        {"pending, without the dialog in the settings",
+         [](ToolInHand& session) {
+             thePlugin->preferences.useAnnotationDialog = false;
+             session.press(300, -250);
+             session.release(300, -250);
+         },
+         3, true, false},
+        {"pending, while a modal dialog is open",
+         [](ToolInHand& session) {
+             session.press(300, -250);
+             session.release(300, -250);
+             thePlugin->dialogs.open = true;
+         },
+         3, true, false},
+        {"pending, the mask wholly transparent",
+         [](ToolInHand& session) {
+             thePlugin->preferences.opacity = 0.0;
+             session.press(300, -250);
+             session.release(300, -250);
+         },
+         3, false, true},
+        {"on a layer",
+         [](ToolInHand& session) {
+             session.press(300, -250);
+             session.release(300, -250);
+             session.host.editToolOptions();
+         },
+         3, false, false},
+        {"on a layer, with its mask",
+         [](ToolInHand& session) {
+             thePlugin->preferences.useOverlay = true;
+             session.press(300, -250);
+             session.release(300, -250);
+             session.host.editToolOptions();
+         },
+         3, true, false},
+        {"on a layer, another tool in hand",
+         [](ToolInHand& session) {
+             session.press(300, -250);
+             session.release(300, -250);
+             session.host.editToolOptions();
+             session.host.selectTool(nullptr);
+         },
+         3, false, false},
+        {"on a layer that is hidden",
+         [](ToolInHand& session) {
+             session.press(300, -250);
+             session.release(300, -250);
+             session.host.editToolOptions();
+             session.host.edit("Hide", [](easel::Document& document) {
+                 document.state().currentLayer->write().attributes |= kArtHidden;
+             });
+         },
+         0, false, false},
+        {"dropped with the tool",
+         [](ToolInHand& session) {
+             session.press(300, -250);
+             session.release(300, -250);
+             session.host.selectTool(nullptr);
+         },
+         0, false, false},
+    };
+    for (const auto& [when, arrange, axes, mask, dialog] : rows) {
+        INFO(when);
+        ToolInHand session;
+        arrange(session);
+        const easel::DisplayList list = drawn(session);
+        CHECK(std::ssize(axisLines(list)) == axes);
+        CHECK(masks(list).empty() != mask);
+        CHECK(textsIn(list).empty() != dialog);
+        session.release(400, -250); // a press is never left open
+    }
+}
+
+TEST_CASE("the mask is as opaque as the setting says, at most wholly") {
+    struct Row {
+        double setting;
+        AIReal drawn;
+    };
+    for (const auto& [setting, opacity] : {Row{0.85, 0.85F}, Row{0.2, 0.2F}}) {
+        PendingAxes session{3};
+        thePlugin->preferences.opacity = setting;
+        const std::vector<easel::DrawCommand> mask = masks(drawn(session));
+        REQUIRE(mask.size() == 1);
+        CHECK(mask[0].style.opacity == opacity);
+    }
+    PendingAxes session{3};
+    thePlugin->preferences.opacity = 100.0;
+    for (const easel::DrawCommand& each : drawn(session))
+        CHECK(each.style.opacity == 1.0F);
+}
+
+TEST_CASE("a draw message that is not ours, or lends no drawer, is answered without drawing") {
+    PendingAxes session{3};
+    AIAnnotatorMessage message{};
+    message.annotator = thePlugin->annotator;
+    message.view = session.host.currentView();
+    CHECK(session.send("AI Annotation", "AI Draw", message) == kNoErr);
+    AIAnnotatorDrawer drawer;
+    message.drawer = &drawer;
+    CHECK(session.send("AI Annotation", "AI Draw", message) == kNoErr);
+    CHECK_FALSE(drawer.list.empty());
+    drawer.list.clear();
+    message.annotator = nullptr;
+    CHECK(session.send("AI Annotation", "AI Draw", message) == kNoErr);
+    CHECK(drawer.list.empty());
+}
