@@ -5,7 +5,8 @@
 
 namespace facetta {
 
-/// The compiled resources of the plug-in as a native build carries them: a file of 32-bit resources.
+/// The compiled resources of the plug-in as a native build carries them: a file of 32-bit
+/// resources.
 [[nodiscard]] std::span<const std::byte> embeddedResources() noexcept;
 
 } // namespace facetta

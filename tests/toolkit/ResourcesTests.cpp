@@ -69,22 +69,22 @@ TEST_CASE("the layout texts are there, with the line ends of the system they are
         const std::string text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
         CHECK(text.starts_with("layout "));
         CHECK(std::ranges::count(text, '\n') > 5);
-        for (std::size_t at = text.find('\n'); at != std::string::npos; at = text.find('\n', at + 1))
+        for (std::size_t at = text.find('\n'); at != std::string::npos;
+             at = text.find('\n', at + 1))
             CHECK(text[at - 1] == '\r');
     }
-    CHECK(findResource(kThisProgram, ResourceKind::Layout, 16005).empty()); // the panel has none
+    CHECK(findResource(kThisProgram, ResourceKind::Layout, 16005).empty());  // the panel has none
     CHECK(findResource(kThisProgram, ResourceKind::Picture, 16001).empty()); // not of that kind
 }
 
 TEST_CASE("lines of a menu resource: flags, separators, submenus passed over") {
-    const std::vector<unsigned char> menu{
-        0, 0, 2, 0, 9, 9,             // version, room in the head
-        0x9, 0, 5, 0, 'A', 0, 0, 0,   // greyed and checked
-        0x10, 0, 'P', 0, 0, 0,        // a submenu...
-        0x80, 0, 7, 0, 'X', 0, 0, 0,  // ... with one line
-        0, 0, 0, 0, 0, 0,             // a separator in the old form
-        0, 0x8, 0, 0, 0, 0,           // and in the new one
-        0x80, 0, 6, 0, 'Z', 0, 0, 0}; // the last line
+    const std::vector<unsigned char> menu{0,    0,   2,   0, 9,   9, // version, room in the head
+                                          0x9,  0,   5,   0, 'A', 0, 0, 0, // greyed and checked
+                                          0x10, 0,   'P', 0, 0,   0,       // a submenu...
+                                          0x80, 0,   7,   0, 'X', 0, 0, 0, // ... with one line
+                                          0,    0,   0,   0, 0,   0, // a separator in the old form
+                                          0,    0x8, 0,   0, 0,   0, // and in the new one
+                                          0x80, 0,   6,   0, 'Z', 0, 0, 0}; // the last line
     const auto lines = parseMenu(bytesOf(menu));
     REQUIRE(lines.has_value());
     REQUIRE(lines->size() == 5);
@@ -118,9 +118,9 @@ TEST_CASE("a table of strings that is cut off has the strings before the cut") {
 
 TEST_CASE("a resource file ends where it is cut off or contradicts itself") {
     const std::vector<unsigned char> good{
-        3, 0, 0, 0, 28, 0, 0, 0, // sizes of data and header
-        0xFF, 0xFF, 6, 0, 'A', 0, 'B', 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, // type 6, name AB
-        'x', 'y', 'z', 0};
+        3,    0,    0,   0, 28,  0, 0,   0, // sizes of data and header
+        0xFF, 0xFF, 6,   0, 'A', 0, 'B', 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, // type 6, name AB
+        'x',  'y',  'z', 0};
     ResourceFile file(bytesOf(good));
     const auto resource = file.next();
     REQUIRE(resource.has_value());

@@ -1,7 +1,8 @@
 #include "toolkit/ImplCommon/Cursors.h"
 
-#include "host/Codes.h"
+#include "host/Error.h"
 #include "host/UserSuiteLayout.h"
+#include "toolkit/ImplCommon/Resources.h"
 
 #include <utility>
 
@@ -12,7 +13,14 @@ Cursors::Cursors(SPPluginRef self) : self_(self) {
     if (user_.acquire() == kNoErr && !ai::liesAsDeclared(*user_)) user_.release();
 }
 
-void Cursors::show(ai::int32 id) { static_cast<void>(showByHost(id)); }
+void Cursors::show(ai::int32 id) {
+    if (closed_ || showByHost(id)) return;
+    // A host that cannot tell where the resources are leaves the cursor that is there.
+    static_cast<void>(ai::codeOf([&] {
+        system_.show(resourceLibrary(self_), id);
+        return kNoErr;
+    }));
+}
 
 bool Cursors::showByHost(ai::int32 id) {
     if (!user_) return false;
@@ -23,6 +31,7 @@ bool Cursors::showByHost(ai::int32 id) {
 void Cursors::close() noexcept {
     if (manager_ != nullptr) user_->DisposeCursorResourceMgr(std::exchange(manager_, nullptr));
     user_.release();
+    closed_ = true;
 }
 
 } // namespace NRDM

@@ -3,6 +3,7 @@
 #include "host/Handles.h"
 #include "host/SuiteHolder.h"
 #include "host/suites/AIUserSuite.h"
+#include "toolkit/ImplCommon/SystemCursors.h"
 
 namespace NRDM {
 
@@ -32,6 +33,8 @@ private:
     SPPluginRef self_;
     ai::SuiteLease<AIUserSuite, kAIUserSuite, kAIUserSuiteVersion> user_;
     AIResourceManagerHandle manager_ = nullptr; ///< from the first cursor on
+    SystemCursors system_;
+    bool closed_ = false;
 };
 
 } // namespace NRDM

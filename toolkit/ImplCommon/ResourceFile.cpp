@@ -11,9 +11,7 @@ constexpr char16_t kNumberFollows = 0xFFFF;
 /// Both parts of a resource begin at multiples of this.
 constexpr std::size_t kAlignment = 4;
 
-std::size_t aligned(std::size_t size) {
-    return (size + kAlignment - 1) / kAlignment * kAlignment;
-}
+std::size_t aligned(std::size_t size) { return (size + kAlignment - 1) / kAlignment * kAlignment; }
 
 ResourceName readName(ByteReader& header) {
     const char16_t first = header.word();

@@ -27,8 +27,8 @@ std::vector<MenuLine> readLevel(ByteReader& reader, int depth) {
         MenuLine line;
         if ((flags & kPopup) == 0) line.id = reader.word();
         line.text = reader.text();
-        line.separator =
-            (flags & kSeparator) != 0 || ((flags & kPopup) == 0 && line.id == 0 && line.text.empty());
+        line.separator = (flags & kSeparator) != 0 ||
+                         ((flags & kPopup) == 0 && line.id == 0 && line.text.empty());
         line.enabled = (flags & (kGrayed | kDisabled)) == 0;
         line.checked = (flags & kChecked) != 0;
         if ((flags & kPopup) != 0) readLevel(reader, depth + 1);

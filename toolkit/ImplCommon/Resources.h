@@ -13,9 +13,10 @@ namespace NRDM {
 enum class ResourceKind {
     Menu,
     StringTable,
-    Layout,    ///< type NREV: a layout text
-    Picture,   ///< type PNGI: a picture in PNG
-    CursorMap, ///< type XML_: where a cursor's hot spot is, and its pictures
+    Layout,               ///< type NREV: a layout text
+    Picture,              ///< type PNGI: a picture in PNG
+    PictureAtThreeHalves, ///< type PNG3: the same at one and a half times its size
+    CursorMap,            ///< type XML_: where a cursor's hot spot is, and its pictures
 };
 
 /// The library that holds the resources of `plugin`, as the host says. Null is that of the running

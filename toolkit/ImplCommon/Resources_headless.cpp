@@ -8,7 +8,7 @@ namespace NRDM {
 namespace {
 
 /// The types of `ResourceKind`, in its order.
-const std::array<ResourceName, 5> kTypes{4, 6, u"NREV", u"PNGI", u"XML_"};
+const std::array<ResourceName, 6> kTypes{4, 6, u"NREV", u"PNGI", u"PNG3", u"XML_"};
 
 } // namespace
 
