@@ -141,8 +141,8 @@ struct TrackInput {
     Place place; ///< from the top left of the item or dialog
 };
 
-/// A drawing surface lent for the time of one call; the toolkit's window side knows what it is.
-class Drawer;
+/// What stands behind ADM's drawer references, lent for the time of one call.
+class CoADMDrawer;
 
 /// What a user does to an item.
 class ItemEvents {
@@ -172,7 +172,7 @@ public:
     /// The focus came or went by the user's hand.
     virtual void activated(bool active) = 0;
 
-    virtual void draw(Drawer& drawer) = 0;
+    virtual void draw(CoADMDrawer& drawer) = 0;
 
     /// True when the item has a use for the event, and for a release asks for a notification.
     virtual bool track(const TrackInput& input) = 0;
@@ -222,7 +222,7 @@ public:
     /// The close box, or Alt+F4.
     virtual void closeRequested() = 0;
     virtual void resized(Extent size) = 0;
-    virtual void draw(Drawer& drawer) = 0;
+    virtual void draw(CoADMDrawer& drawer) = 0;
     virtual void timerFired(int timer) = 0;
     virtual bool track(const TrackInput& input) = 0;
 

@@ -12,14 +12,15 @@ namespace {
 template <typename Distance>
 void cover(Surface& surface, Box area, Colour colour, const Distance& distance) {
     if (!surface) return;
-    const auto [width, height] = surface.size();
-    const int left =
-        std::clamp(static_cast<int>(std::floor(area.left)), 0, static_cast<int>(width));
-    const int right =
-        std::clamp(static_cast<int>(std::ceil(area.right)), left, static_cast<int>(width));
-    const int top = std::clamp(static_cast<int>(std::floor(area.top)), 0, static_cast<int>(height));
-    const int bottom =
-        std::clamp(static_cast<int>(std::ceil(area.bottom)), top, static_cast<int>(height));
+    const RECT& clip = surface.clip();
+    const auto within = [](double value, LONG low, LONG high) {
+        return static_cast<int>(
+            std::clamp(value, static_cast<double>(low), static_cast<double>(high)));
+    };
+    const int left = within(std::floor(area.left), clip.left, clip.right);
+    const int right = within(std::ceil(area.right), left, clip.right);
+    const int top = within(std::floor(area.top), clip.top, clip.bottom);
+    const int bottom = within(std::ceil(area.bottom), top, clip.bottom);
     for (int y = top; y < bottom; ++y) {
         const std::span<std::uint32_t> row = surface.row(y);
         for (int x = left; x < right; ++x) {
@@ -105,7 +106,14 @@ void fillConvex(Surface& surface, std::span<const Spot> points, Colour colour) {
 }
 
 void fillRect(Surface& surface, const RECT& rect, Colour colour) {
-    fillRound(surface, toBox(rect), 0, colour);
+    RECT area;
+    if (!surface || !IntersectRect(&area, &rect, &surface.clip())) return;
+    const std::uint32_t pixel = static_cast<std::uint32_t>(colour.red) << 16 |
+                                static_cast<std::uint32_t>(colour.green) << 8 | colour.blue;
+    for (LONG y = area.top; y < area.bottom; ++y) {
+        const std::span<std::uint32_t> row = surface.row(static_cast<int>(y));
+        std::fill(row.begin() + area.left, row.begin() + area.right, pixel);
+    }
 }
 
 void frameRect(Surface& surface, const RECT& rect, int width, Colour colour) {

@@ -5,7 +5,8 @@
 
 namespace NRDM {
 
-Surface::Surface(SIZE size) : size_{std::max(size.cx, 1L), std::max(size.cy, 1L)} {
+Surface::Surface(SIZE size)
+    : size_{std::max(size.cx, 1L), std::max(size.cy, 1L)}, clip_{0, 0, size_.cx, size_.cy} {
     *dc_.put() = CreateCompatibleDC(nullptr);
     if (!dc_) {
         std::fputs("NRDM: failed to allocate device context\n", stderr);
@@ -38,6 +39,14 @@ Surface::~Surface() {
     graphics_.reset();
     view_.reset();
     if (previous_ != nullptr) SelectObject(dc_.get(), previous_);
+}
+
+void Surface::setClip(const RECT& clip) {
+    const RECT whole{0, 0, size_.cx, size_.cy};
+    if (!IntersectRect(&clip_, &whole, &clip)) clip_ = {};
+    if (graphics_)
+        graphics_->SetClip(Gdiplus::Rect(clip_.left, clip_.top, clip_.right - clip_.left,
+                                         clip_.bottom - clip_.top));
 }
 
 HDC Surface::dc() {

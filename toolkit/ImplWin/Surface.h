@@ -34,6 +34,10 @@ public:
     [[nodiscard]] explicit operator bool() const noexcept { return graphics_ != nullptr; }
     [[nodiscard]] SIZE size() const noexcept { return size_; }
 
+    /// All drawing but GDI's keeps inside `clip` from now on.
+    void setClip(const RECT& clip);
+    [[nodiscard]] const RECT& clip() const noexcept { return clip_; }
+
     /// Through GDI+; not to be asked of a surface without pixels.
     [[nodiscard]] Gdiplus::Graphics& graphics() noexcept { return *graphics_; }
 
@@ -48,6 +52,7 @@ public:
 
 private:
     SIZE size_;
+    RECT clip_;
     ai::Owned<MemoryDcTraits> dc_;
     ai::Owned<GdiObjectTraits<HBITMAP>> bitmap_;
     HGDIOBJ previous_ = nullptr;

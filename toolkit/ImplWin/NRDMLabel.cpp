@@ -1,0 +1,52 @@
+#include "toolkit/ImplWin/NRDMLabel.h"
+
+namespace NRDM {
+namespace {
+
+/// ADM's style bits of a static text, the stronger first.
+struct StyleRow {
+    int bit;
+    Overflow overflow;
+};
+constexpr StyleRow kStyles[] = {
+    {1, Overflow::Clip},
+    {4, Overflow::EndEllipsis},
+    {8, Overflow::MiddleEllipsis},
+};
+
+Overflow overflowOf(int style) {
+    for (const auto& [bit, overflow] : kStyles)
+        if ((style & bit) != 0) return overflow;
+    return Overflow::Shrink;
+}
+
+} // namespace
+
+NRDMLabel::NRDMLabel(NativeDialog& dialog, const ItemView& view, ItemEvents& events)
+    : NativeItem(dialog, view, events) {
+    createItem(nullptr, 0);
+}
+
+LRESULT NRDMLabel::serve(UINT message, WPARAM wide, LPARAM lengthy) {
+    const LRESULT answer = NativeItem::serve(message, wide, lengthy);
+    if (message == WM_LBUTTONDOWN) events().clicked();
+    return answer;
+}
+
+void NRDMLabel::paint(const Canvas& canvas, const RECT& area) {
+    const FaceState now = state();
+    if (view().hasPicture) {
+        drawPicture(canvas, area, now);
+        return;
+    }
+    const TextLine line{caption(),       textStyle(),
+                        canvas.scale,    textColour(canvas.palette, now),
+                        justify(),       overflowOf(view().style),
+                        now.keyboardCues};
+    if (view().kind == ControlKind::MultiLineLabel)
+        drawWrapped(canvas.surface, area, line);
+    else
+        drawLine(canvas.surface, area, line);
+}
+
+} // namespace NRDM

@@ -1,0 +1,134 @@
+#include "toolkit/ImplWin/NRDMSlider.h"
+
+#include <windowsx.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace NRDM {
+
+int SliderScale::pixelOf(double value) const {
+    if (!(highest > lowest)) return left;
+    const double part = std::clamp((value - lowest) / (highest - lowest), 0.0, 1.0);
+    return left + static_cast<int>(std::lround(part * (right - left)));
+}
+
+double SliderScale::valueAt(int pixel) const {
+    if (right <= left) return lowest;
+    const double part = std::clamp(static_cast<double>(pixel - left) / (right - left), 0.0, 1.0);
+    return lowest + part * (highest - lowest);
+}
+
+SliderScale sliderScale(const ItemView& view, const RECT& area, Scale scale) {
+    const int radius = thumbRadius(scale);
+    return {view.lowest, view.highest, static_cast<int>(area.left) + radius,
+            static_cast<int>(area.right) - radius};
+}
+
+void SliderDrag::slideTo(double value, Phase phase) {
+    const double within = std::clamp(value, view_.lowest, std::max(view_.lowest, view_.highest));
+    if (within != view_.value || phase == Phase::Complete) events_.slide(within, phase);
+}
+
+bool SliderDrag::serve(HWND window, UINT message, LPARAM lengthy, const RECT& area, Scale scale) {
+    const SliderScale bar = sliderScale(view_, area, scale);
+    const int x = GET_X_LPARAM(lengthy);
+    switch (message) {
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK: {
+        const int thumb = bar.pixelOf(view_.value);
+        if (std::abs(x - thumb) > thumbRadius(scale)) {
+            const double step = x > thumb ? view_.largeIncrement : -view_.largeIncrement;
+            slideTo(view_.value + step, Phase::Complete);
+            return true;
+        }
+        SetCapture(window);
+        grip_ = x - thumb;
+        return true;
+    }
+    case WM_MOUSEMOVE:
+        if (!grip_) return false;
+        slideTo(bar.valueAt(x - *grip_), Phase::InProgress);
+        return true;
+    case WM_LBUTTONUP: {
+        if (!grip_) return false;
+        const double value = bar.valueAt(x - *grip_);
+        grip_.reset();
+        ReleaseCapture();
+        slideTo(value, Phase::Complete);
+        return true;
+    }
+    case WM_CAPTURECHANGED: // taken away in mid-drag: what was reached stays
+        if (!grip_) return false;
+        grip_.reset();
+        slideTo(view_.value, Phase::Complete);
+        return true;
+    default:
+        return false;
+    }
+}
+
+std::optional<double> sliderKey(const ItemView& view, WPARAM key) {
+    const auto within = [&](double value) {
+        return std::clamp(value, view.lowest, std::max(view.lowest, view.highest));
+    };
+    switch (key) {
+    case VK_LEFT:
+    case VK_DOWN:
+        return within(view.value - view.smallIncrement);
+    case VK_RIGHT:
+    case VK_UP:
+        return within(view.value + view.smallIncrement);
+    case VK_NEXT:
+        return within(view.value - view.largeIncrement);
+    case VK_PRIOR:
+        return within(view.value + view.largeIncrement);
+    case VK_HOME:
+        return view.lowest;
+    case VK_END:
+        return view.highest;
+    default:
+        return std::nullopt;
+    }
+}
+
+NRDMSlider::NRDMSlider(NativeDialog& dialog, const ItemView& view, ItemEvents& events)
+    : NativeItem(dialog, view, events), drag_(view, events) {
+    createItem(nullptr, WS_TABSTOP);
+}
+
+LRESULT NRDMSlider::serve(UINT message, WPARAM wide, LPARAM lengthy) {
+    const std::weak_ptr<const char> alive = watch();
+    if (message == WM_LBUTTONDOWN) {
+        SetFocus(handle());
+        if (alive.expired()) return 0;
+    }
+    const LRESULT answer = NativeItem::serve(message, wide, lengthy);
+    if (!alive.expired() && drag_.serve(handle(), message, lengthy, client(), scale()) &&
+        !alive.expired() && message != WM_MOUSEMOVE)
+        repaint(); // pressed or no longer
+    return answer;
+}
+
+bool NRDMSlider::key(WPARAM key) {
+    const std::optional<double> value = sliderKey(view(), key);
+    if (!value) return false;
+    if (*value != view().value) events().slide(*value, Phase::Complete);
+    return true;
+}
+
+bool NRDMSlider::wheel(int steps) {
+    const double value =
+        std::clamp(view().value + steps * view().smallIncrement, view().lowest, view().highest);
+    if (value != view().value) events().slide(value, Phase::Complete);
+    return true;
+}
+
+void NRDMSlider::paint(const Canvas& canvas, const RECT& area) {
+    FaceState now = state();
+    now.pressed = drag_.dragging();
+    drawSlider(canvas, area, sliderScale(view(), area, canvas.scale).pixelOf(view().value), now);
+}
+
+} // namespace NRDM

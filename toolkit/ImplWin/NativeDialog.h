@@ -1,0 +1,77 @@
+#pragma once
+
+#include "toolkit/ImplWin/HWNDBased.h"
+#include "toolkit/ImplWin/Text.h"
+#include "toolkit/ImplWin/ToolTips.h"
+
+#include "toolkit/ImplCommon/Peers.h"
+
+#include <exception>
+#include <memory>
+
+namespace NRDM {
+
+class NativeItem;
+
+/// The window of a dialog or panel: holds the items' windows, gives them what they report to it
+/// instead of to themselves, and turns keys into what they mean to a dialog.
+class NativeDialog final : public HWNDBased, public DialogPeer {
+public:
+    NativeDialog(Screen& screen, const DialogView& view, DialogEvents& events);
+    ~NativeDialog() override;
+
+    std::unique_ptr<ItemPeer> createItem(const ItemView& view, ItemEvents& events) override;
+    void changed() override;
+    void invalidate() override { repaintAll(); }
+    void invalidate(const Bounds& area) override;
+    void update() override;
+    void activate() override;
+    void runModal() override;
+    bool endModal() override;
+    void startTimer(int timer, int milliseconds) override;
+    void stopTimer(int timer) override;
+    [[nodiscard]] Place screenCorner() const override;
+    void moveTo(Place corner) override;
+    [[nodiscard]] void* window() const override { return handle(); }
+
+    [[nodiscard]] Scale scale() const override { return scale_; }
+    [[nodiscard]] const DialogView& view() const noexcept { return view_; }
+    [[nodiscard]] bool inPanel() const noexcept { return view_.kind == DialogKind::Panel; }
+    [[nodiscard]] ToolTips& tips() noexcept { return tips_; }
+
+    /// Whether focus and access keys are to be shown: from the first use of the keyboard on, or
+    /// always when the user set Windows so.
+    [[nodiscard]] bool keyboardCues() const noexcept { return keyboardCues_; }
+    void showKeyboardCues();
+
+    /// A key message that a control has no use for; true when the dialog had.
+    bool dialogKey(UINT message, WPARAM wide);
+
+    /// The colours have changed.
+    void repaintAll() const;
+
+    /// Called inside a handler: the exception in flight ends the modal loop, or is only reported.
+    void failed() noexcept override;
+
+protected:
+    LRESULT serve(UINT message, WPARAM wide, LPARAM lengthy) override;
+    void paint(const Canvas& canvas, const RECT& area) override;
+
+private:
+    void createWindow();
+    [[nodiscard]] RECT windowRect() const;
+    bool reflect(HWND control, UINT message, WPARAM wide, LPARAM lengthy, LRESULT& answer);
+    void rescale(const RECT& suggested);
+
+    const DialogView& view_;
+    DialogEvents& events_;
+    Scale scale_;
+    ToolTips tips_;
+    HWND focused_ = nullptr; ///< the item that gets the focus back with the activation
+    bool keyboardCues_;
+    bool running_ = false;  ///< `runModal` serves events
+    bool changing_ = false; ///< the size is set by the model, which need not be told
+    std::exception_ptr failure_;
+};
+
+} // namespace NRDM

@@ -1,0 +1,175 @@
+#include "toolkit/ImplWin/NativeItem.h"
+
+#include <windowsx.h>
+
+namespace NRDM {
+namespace {
+
+/// ADM's cursors; any other number leaves the control's own.
+LPCWSTR systemCursor(int number) {
+    switch (number) {
+    case -1:
+        return IDC_IBEAM;
+    case -2:
+        return IDC_CROSS;
+    case -3:
+        return IDC_WAIT;
+    case -4:
+    case -9:
+        return IDC_ARROW;
+    case -5:
+        return IDC_NO;
+    case -6:
+        return IDC_HAND;
+    default:
+        return nullptr;
+    }
+}
+
+bool isMouseMessage(UINT message) { return message >= WM_MOUSEFIRST && message <= WM_MOUSELAST; }
+
+} // namespace
+
+NativeItem::NativeItem(NativeDialog& dialog, const ItemView& view, ItemEvents& events)
+    : HWNDBased(dialog.screen()), dialog_(dialog), view_(view), events_(events) {}
+
+NativeItem::~NativeItem() { dialog_.tips().remove(dialog_.handle(), this); }
+
+void NativeItem::createItem(const wchar_t* systemClass, DWORD style) {
+    Plan plan;
+    plan.systemClass = systemClass;
+    plan.style = WS_CHILD | WS_CLIPSIBLINGS | style | (view_.visible ? WS_VISIBLE : 0U) |
+                 (view_.enabled ? 0U : WS_DISABLED);
+    plan.place = scale().toPixels(
+        RECT{view_.bounds.left, view_.bounds.top, view_.bounds.right, view_.bounds.bottom});
+    plan.parent = dialog_.handle();
+    create(plan);
+    applyTip();
+}
+
+void NativeItem::applyTip() {
+    const Bounds& bounds = view_.bounds;
+    dialog_.tips().set(
+        dialog_.handle(), this, view_.visible ? toWide(view_.tip) : std::wstring(),
+        scale().toPixels(RECT{bounds.left, bounds.top, bounds.right, bounds.bottom}));
+}
+
+void NativeItem::changed(Aspect aspects) {
+    if (has(aspects, Aspect::Bounds)) {
+        const Bounds& bounds = view_.bounds;
+        const RECT place =
+            scale().toPixels(RECT{bounds.left, bounds.top, bounds.right, bounds.bottom});
+        SetWindowPos(handle(), nullptr, place.left, place.top, place.right - place.left,
+                     place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    if (has(aspects, Aspect::Visible)) ShowWindow(handle(), view_.visible ? SW_SHOWNA : SW_HIDE);
+    if (has(aspects, Aspect::Enabled)) EnableWindow(handle(), view_.enabled);
+    if (has(aspects, Aspect::Tip | Aspect::Bounds | Aspect::Visible)) applyTip();
+    if (aspects != Aspect::Tip) repaint();
+}
+
+void NativeItem::focus() { SetFocus(focusWindow()); }
+
+void NativeItem::showTip(bool shown) { dialog_.tips().show(dialog_.handle(), this, shown); }
+
+bool NativeItem::notified(UINT, WPARAM, LPARAM, LRESULT&) { return false; }
+
+Justify NativeItem::justify() const {
+    return view_.justify == 1   ? Justify::Centre
+           : view_.justify == 2 ? Justify::Right
+                                : Justify::Left;
+}
+
+FaceState NativeItem::state() const {
+    FaceState state;
+    state.enabled = view_.enabled && dialog_.view().enabled;
+    state.hot = hot_ && state.enabled;
+    state.focused = GetFocus() == focusWindow();
+    state.isDefault = view_.isDefault;
+    state.keyboardCues = dialog_.keyboardCues();
+    return state;
+}
+
+void NativeItem::drawPicture(const Canvas& canvas, const RECT& area, const FaceState& state) {
+    Pictures& pictures = screen().pictures;
+    const bool dark = canvas.palette.dark;
+    const PictureIds& ids = view_.pictures;
+    const int wanted = !state.enabled              ? ids.disabled
+                       : state.on || state.pressed ? ids.selected
+                       : state.hot                 ? ids.rollover
+                                                   : ids.normal;
+    const bool own = wanted != 0 && pictures.exists(wanted, dark);
+    const int id = own ? wanted : ids.normal;
+    const SIZE size = pictures.size(id, dark);
+    const int width = canvas.scale.toPixels(size.cx);
+    const int height = canvas.scale.toPixels(size.cy);
+    const auto tint = state.enabled || own ? Pictures::Tint::None : Pictures::Tint::Dimmed;
+    pictures.draw(canvas.surface, id, dark, canvas.scale,
+                  static_cast<int>(area.left + (area.right - area.left - width) / 2),
+                  static_cast<int>(area.top + (area.bottom - area.top - height) / 2), tint);
+}
+
+void NativeItem::relayToTips(HWND source, UINT message, WPARAM wide, LPARAM lengthy) const {
+    if (!isMouseMessage(message) || message == WM_MOUSEWHEEL) return;
+    POINT point{GET_X_LPARAM(lengthy), GET_Y_LPARAM(lengthy)};
+    MapWindowPoints(source, dialog_.handle(), &point, 1);
+    dialog_.tips().relay(dialog_.handle(), message, wide, point);
+}
+
+bool NativeItem::serveKey(UINT message, WPARAM wide) {
+    const std::weak_ptr<const char> alive = watch();
+    if (message == WM_KEYDOWN && key(wide)) return true;
+    return alive.expired() || dialog_.dialogKey(message, wide);
+}
+
+LRESULT NativeItem::serve(UINT message, WPARAM wide, LPARAM lengthy) {
+    relayToTips(handle(), message, wide, lengthy);
+    switch (message) {
+    case WM_MOUSEMOVE:
+        if (!hot_) {
+            hot_ = true;
+            TRACKMOUSEEVENT request{sizeof(request), TME_LEAVE, handle(), 0};
+            TrackMouseEvent(&request);
+            if (reactsToPointer()) repaint();
+        }
+        break;
+    case WM_MOUSELEAVE:
+        hot_ = false;
+        if (reactsToPointer()) repaint();
+        break;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS: {
+        const std::weak_ptr<const char> alive = watch();
+        repaint();
+        const LRESULT answer = HWNDBased::serve(message, wide, lengthy);
+        if (!alive.expired()) events_.activated(message == WM_SETFOCUS);
+        return answer;
+    }
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+    case WM_SYSCHAR:
+    case WM_CHAR:
+        if (serveKey(message, wide)) return 0;
+        break;
+    case WM_MOUSEWHEEL: {
+        wheelRest_ += GET_WHEEL_DELTA_WPARAM(wide);
+        const int steps = wheelRest_ / WHEEL_DELTA;
+        wheelRest_ -= steps * WHEEL_DELTA;
+        if (steps != 0 && wheel(steps)) return 0;
+        break;
+    }
+    case WM_GETDLGCODE:
+        return DLGC_WANTALLKEYS; // a host's own dialog loop must not eat them
+    case WM_SETCURSOR:
+        if (const LPCWSTR cursor = systemCursor(view_.cursor)) {
+            SetCursor(LoadCursorW(nullptr, cursor));
+            return TRUE;
+        }
+        break;
+    default:
+        break;
+    }
+    return HWNDBased::serve(message, wide, lengthy);
+}
+
+} // namespace NRDM

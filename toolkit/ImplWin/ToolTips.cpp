@@ -1,0 +1,97 @@
+#include "toolkit/ImplWin/ToolTips.h"
+
+#include "toolkit/ImplCommon/Exceptions.h"
+#include "toolkit/ImplWin/Text.h"
+
+#include <commctrl.h>
+
+#include <utility>
+
+namespace NRDM {
+namespace {
+
+constexpr int kTipFont = 13; // ADM's number
+constexpr int kWidestTip = 320;
+
+TOOLINFOW entryOf(HWND dialog, const void* item) {
+    TOOLINFOW entry{};
+    entry.cbSize = TTTOOLINFOW_V2_SIZE; // what every version of the control knows
+    entry.hwnd = dialog;
+    entry.uId = reinterpret_cast<UINT_PTR>(item);
+    return entry;
+}
+
+LRESULT ask(HWND tips, UINT message, TOOLINFOW& entry) {
+    return SendMessageW(tips, message, 0, reinterpret_cast<LPARAM>(&entry));
+}
+
+} // namespace
+
+void ToolTips::create(HWND dialog) {
+    *window_.put() = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, L"",
+                                     WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0, 0, dialog,
+                                     nullptr, WindowClass::library(), nullptr);
+    if (!window_) throw NRDMResourceException();
+    const Scale scale = screen_.scaleFor(dialog);
+    *font_.put() = makeGdiFont(textStyleOf(kTipFont, true), scale);
+    SendMessageW(window_.get(), WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), FALSE);
+    SendMessageW(window_.get(), TTM_SETMAXTIPWIDTH, 0, scale.toPixels(kWidestTip));
+}
+
+void ToolTips::colour() const {
+    SendMessageW(window_.get(), TTM_SETTIPBKCOLOR, toColorRef(screen_.palette.tip), 0);
+    SendMessageW(window_.get(), TTM_SETTIPTEXTCOLOR, toColorRef(screen_.palette.text), 0);
+}
+
+void ToolTips::set(HWND dialog, const void* item, const std::wstring& text, const RECT& area) {
+    if (text.empty()) {
+        remove(dialog, item);
+        return;
+    }
+    if (!window_) create(dialog);
+    std::wstring copy = text; // the control takes a copy but wants one it could write to
+    TOOLINFOW entry = entryOf(dialog, item);
+    ask(window_.get(), TTM_DELTOOLW, entry);
+    entry.rect = area;
+    entry.lpszText = copy.data();
+    ask(window_.get(), TTM_ADDTOOLW, entry);
+}
+
+void ToolTips::remove(HWND dialog, const void* item) noexcept {
+    if (!window_) return;
+    TOOLINFOW entry = entryOf(dialog, item);
+    ask(window_.get(), TTM_DELTOOLW, entry);
+}
+
+void ToolTips::relay(HWND dialog, UINT message, WPARAM wide, POINT point) const {
+    if (!window_) return;
+    if (message == WM_MOUSEMOVE && !IsWindowVisible(window_.get())) colour();
+    MSG relayed{};
+    relayed.hwnd = dialog;
+    relayed.message = message;
+    relayed.wParam = wide;
+    relayed.lParam = MAKELPARAM(point.x, point.y);
+    SendMessageW(window_.get(), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&relayed));
+}
+
+void ToolTips::show(HWND dialog, const void* item, bool shown) const {
+    if (!window_) return;
+    if (!shown) {
+        SendMessageW(window_.get(), TTM_POP, 0, 0);
+        return;
+    }
+    TOOLINFOW entry = entryOf(dialog, item);
+    if (ask(window_.get(), TTM_GETTOOLINFOW, entry) == 0) return;
+    colour();
+    POINT middle{(entry.rect.left + entry.rect.right) / 2,
+                 (entry.rect.top + entry.rect.bottom) / 2};
+    relay(dialog, WM_MOUSEMOVE, 0, middle);
+    SendMessageW(window_.get(), TTM_POPUP, 0, 0);
+}
+
+void ToolTips::close() noexcept {
+    window_.reset();
+    font_.reset();
+}
+
+} // namespace NRDM

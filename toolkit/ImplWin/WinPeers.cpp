@@ -1,0 +1,114 @@
+#include "toolkit/ImplWin/WinPeers.h"
+
+#include "toolkit/ImplWin/NRDMListView.h"
+#include "toolkit/ImplWin/NativeDialog.h"
+
+#include "toolkit/Toolkit.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace NRDM {
+namespace {
+
+/// What a kind of control adds to its text, in units. A width of its own, where there is one,
+/// counts instead of the text's.
+struct SizeRow {
+    int besideText;
+    int ownWidth;
+    int dialogHeight;
+    int panelHeight;
+    bool hasBaseline;
+};
+
+/// In the order of `ControlKind`.
+constexpr SizeRow kSizes[] = {
+    {30, 0, 24, 21, true},    // PushButton
+    {21, 0, 18, 16, true},    // CheckBox
+    {21, 0, 18, 16, true},    // RadioButton
+    {1, 0, 16, 14, true},     // Label
+    {1, 0, 16, 14, true},     // MultiLineLabel
+    {0, 96, 22, 19, true},    // Edit
+    {0, 96, 22, 19, true},    // EditPopup
+    {0, 96, 22, 19, true},    // SpinEdit
+    {0, 96, 22, 19, true},    // SpinEditPopup
+    {0, 96, 22, 19, true},    // EditSlider
+    {0, 96, 22, 19, true},    // SpinEditSlider
+    {24, 0, 20, 18, false},   // Frame
+    {0, 120, 18, 14, false},  // Slider
+    {0, 140, 100, 84, false}, // ListBox
+    {27, 0, 24, 21, true},    // PopupList
+    {27, 0, 24, 21, true},    // PopupMenu
+    {0, 0, 0, 0, false},      // Group
+    {0, 100, 100, 100, false} // User
+};
+constexpr int kPictureMargin = 4; ///< of a picture button, on each side
+
+const SizeRow& rowOf(ControlKind kind) { return kSizes[static_cast<std::size_t>(kind)]; }
+
+int widthOf(std::string_view text, TextStyle style) {
+    return static_cast<int>(std::ceil(textWidth(captionOf(toWide(text)).text, style, {1.0})));
+}
+
+int widestEntry(const ItemView& view, TextStyle style) {
+    int widest = 0;
+    for (const EntryView& entry : view.entries)
+        widest = std::max(widest, widthOf(entry.text, style));
+    return widest;
+}
+
+} // namespace
+
+WinPeers::WinPeers(const Theme& theme, PictureSource pictures)
+    : screen_(std::make_unique<Screen>(theme, std::move(pictures))) {}
+
+std::unique_ptr<DialogPeer> WinPeers::createDialog(const DialogView& view, DialogEvents& events) {
+    return std::make_unique<NativeDialog>(*screen_, view, events);
+}
+
+NaturalSize WinPeers::measure(const ItemView& view, DialogKind where) const {
+    if (view.hasPicture) {
+        Extent largest;
+        for (const int id : {view.pictures.normal, view.pictures.selected, view.pictures.disabled,
+                             view.pictures.rollover}) {
+            const SIZE size = screen_->pictures.size(id, screen_->palette.dark);
+            largest = {std::max(largest.width, static_cast<int>(size.cx)),
+                       std::max(largest.height, static_cast<int>(size.cy))};
+        }
+        const int margin = view.kind == ControlKind::Label ? 0 : kPictureMargin;
+        return {{largest.width + 2 * margin, largest.height + 2 * margin}, -1};
+    }
+    const bool inPanel = where == DialogKind::Panel;
+    const TextStyle style = textStyleOf(view.font, inPanel);
+    const auto& [besideText, ownWidth, dialogHeight, panelHeight, hasBaseline] = rowOf(view.kind);
+    const int text = std::max(widthOf(view.text, style), widestEntry(view, style));
+    const int width = ownWidth > 0 ? ownWidth : text + besideText;
+    // Larger fonts than the usual ones need more than the usual height.
+    const int line = static_cast<int>(std::ceil(lineMetrics(style, {1.0}).height));
+    const int height = hasBaseline ? std::max(inPanel ? panelHeight : dialogHeight, line)
+                                   : (inPanel ? panelHeight : dialogHeight);
+    return {{width, height}, hasBaseline ? baselineOf(0, height, style, {1.0}) : -1};
+}
+
+int WinPeers::heightAt(const ItemView& view, DialogKind where, int width) const {
+    const TextStyle style = textStyleOf(view.font, where == DialogKind::Panel);
+    return wrappedHeight(captionOf(toWide(view.text)).text, style, {1.0}, width);
+}
+
+void WinPeers::fail() noexcept {
+    if (screen_->failed) screen_->failed();
+}
+
+void WinPeers::beep() { MessageBeep(MB_OK); }
+
+void WinPeers::setTheme(const Theme& theme) {
+    screen_->palette = Palette(theme);
+    themeChanged();
+}
+
+void WinPeers::themeChanged() {
+    for (const HWND dialog : screen_->dialogs)
+        RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
+} // namespace NRDM
