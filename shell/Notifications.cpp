@@ -8,6 +8,7 @@
 #include "shell/PreferenceStore.h"
 #include "symmetry/LiveLayers.h"
 #include "tool/CurrentAxes.h"
+#include "tool/Preview.h"
 
 #include <algorithm>
 
@@ -83,6 +84,9 @@ void followDocument(FacettaPlugin& plugin) {
         dropAxes(plugin.tool);
         return;
     }
+    clearPreview(plugin.tool);
+    // While the art of a layer moves with its axes, the layer's own axes are where they were.
+    if (plugin.tool.reposition) return;
     regenerateChangedLayers(plugin.mirroring());
     followCurrentLayer(plugin.tool);
 }

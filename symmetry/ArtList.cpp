@@ -8,6 +8,14 @@
 namespace facetta {
 namespace {
 
+ai::ArtSet newSet() {
+    ai::ArtSet set;
+    ai::check(suites.artSet->NewArtSet(set.put()));
+    return set;
+}
+
+} // namespace
+
 std::vector<AIArtHandle> membersOf(AIArtSet set) {
     std::size_t count = 0;
     ai::check(suites.artSet->CountArtSet(set, &count));
@@ -20,14 +28,6 @@ std::vector<AIArtHandle> membersOf(AIArtSet set) {
     }
     return members;
 }
-
-ai::ArtSet newSet() {
-    ai::ArtSet set;
-    ai::check(suites.artSet->NewArtSet(set.put()));
-    return set;
-}
-
-} // namespace
 
 std::vector<AIArtHandle> selectedArt() {
     const ai::ArtSet set = newSet();

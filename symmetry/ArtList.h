@@ -6,6 +6,9 @@
 
 namespace facetta {
 
+/// The objects in `set` in their order. Throws `ai::Error`.
+[[nodiscard]] std::vector<AIArtHandle> membersOf(AIArtSet set);
+
 /// The selected objects, containers with a selected part among them, in paint order, a container
 /// before what it contains. Throws `ai::Error`.
 [[nodiscard]] std::vector<AIArtHandle> selectedArt();

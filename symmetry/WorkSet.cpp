@@ -130,7 +130,7 @@ UnitKind kindOf(ai::int16 type) {
 /// Turns a list of art, containers before their members, into units.
 class UnitCollector {
 public:
-    enum class Copies { AreArt, AreLeftOut, AreDeleted };
+    enum class Copies { AreArt, AreLeftOut };
 
     explicit UnitCollector(Copies copies) : copies_(copies) {}
 
@@ -139,7 +139,7 @@ public:
         if (around.generated && copies_ != Copies::AreArt) return; // goes with its container
         const ArtMarks marks = marksOf(art, keys_);
         if (marks.mirror == MirrorTag::kCopy && copies_ != Copies::AreArt) {
-            if (copies_ == Copies::AreDeleted) doomed_.push_back(art);
+            generated_.push_back(art);
             return;
         }
         if (around.unit == nullptr)
@@ -151,16 +151,17 @@ public:
     /// Deletes the copies that were found; unlocking comes first, whether or not the host asks for
     /// it.
     void deleteCopies() {
-        if (doomed_.empty()) return;
+        if (generated_.empty()) return;
         const AllChangesAllowed evenInLockedGroups;
-        for (auto copy = doomed_.rbegin(); copy != doomed_.rend(); ++copy) {
+        for (auto copy = generated_.rbegin(); copy != generated_.rend(); ++copy) {
             ai::check(suites.art->SetArtUserAttr(*copy, kArtLocked | kArtHidden, 0));
             ai::check(suites.art->DisposeArt(*copy));
         }
-        doomed_.clear();
+        generated_.clear();
     }
 
-    [[nodiscard]] std::vector<Unit> take() { return std::move(units_); }
+    [[nodiscard]] std::vector<Unit> takeUnits() { return std::move(units_); }
+    [[nodiscard]] std::vector<AIArtHandle> takeCopies() { return std::move(generated_); }
 
 private:
     void consider(AIArtHandle art, const ArtMarks& marks, const Surroundings& around) {
@@ -179,30 +180,34 @@ private:
     MarkKeys keys_ = markKeys();
     Containers containers_{keys_};
     std::unordered_set<AIArtHandle> seen_;
-    std::vector<AIArtHandle> doomed_;
+    std::vector<AIArtHandle> generated_; ///< the copies found, unless they are art
     std::vector<Unit> units_;
 };
 
-std::vector<Unit> collect(std::span<const AIArtHandle> art, UnitCollector::Copies copies) {
+UnitCollector collect(std::span<const AIArtHandle> art, UnitCollector::Copies copies) {
     UnitCollector collector{copies};
     for (const AIArtHandle object : art)
         collector.examine(object);
-    collector.deleteCopies();
-    return collector.take();
+    return collector;
 }
 
 } // namespace
 
 std::vector<Unit> unitsOfSelection() {
-    return collect(selectedArt(), UnitCollector::Copies::AreArt);
+    return collect(selectedArt(), UnitCollector::Copies::AreArt).takeUnits();
 }
 
 std::vector<Unit> unitsOfLayer(AILayerHandle layer) {
-    return collect(artOnLayer(layer), UnitCollector::Copies::AreDeleted);
+    UnitCollector collector = collect(artOnLayer(layer), UnitCollector::Copies::AreLeftOut);
+    collector.deleteCopies();
+    return collector.takeUnits();
 }
 
-std::vector<Unit> sourcesOnLayer(AILayerHandle layer) {
-    return collect(artOnLayer(layer), UnitCollector::Copies::AreLeftOut);
+std::vector<Unit> sourcesOnLayer(AILayerHandle layer) { return contentsOfLayer(layer).sources; }
+
+LayerContents contentsOfLayer(AILayerHandle layer) {
+    UnitCollector collector = collect(artOnLayer(layer), UnitCollector::Copies::AreLeftOut);
+    return {collector.takeUnits(), collector.takeCopies()};
 }
 
 } // namespace facetta

@@ -39,4 +39,11 @@ struct Unit {
 /// The same units; the document stays as it is.
 [[nodiscard]] std::vector<Unit> sourcesOnLayer(AILayerHandle layer);
 
+/// What a layer and its sublayers hold, with nothing in both lists.
+struct LayerContents {
+    std::vector<Unit> sources;       ///< as `sourcesOnLayer`
+    std::vector<AIArtHandle> copies; ///< what earlier runs generated, even locked and hidden
+};
+[[nodiscard]] LayerContents contentsOfLayer(AILayerHandle layer);
+
 } // namespace facetta

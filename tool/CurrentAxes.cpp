@@ -6,13 +6,42 @@
 #include "symmetry/ArtSpace.h"
 #include "symmetry/LayerAxesStore.h"
 #include "symmetry/LiveLayers.h"
+#include "tool/CursorSnap.h"
+#include "tool/LayerEdit.h"
+#include "tool/Preview.h"
+#include "tool/Reposition.h"
 
 namespace facetta {
+namespace {
+
+void showLayerAxes(ToolState& state, const SymmetryAxes& stored) {
+    endLayerEdit(state);
+    state.axes = stored;
+    state.committed = true;
+}
+
+/// Pending axes that are a layer's: is that layer still waiting for them?
+void followEditedLayer(ToolState& state) {
+    const AILayerHandle layer = topLevelLayer(nullptr);
+    SymmetryAxes stored;
+    if (layer != state.editedLayer)
+        endLayerEdit(state);
+    else if (LayerAxesStore::read(layer, stored))
+        showLayerAxes(state, stored); // undone
+}
+
+} // namespace
 
 void dropAxes(ToolState& state) {
     state.axes = {};
     state.committed = false;
+    state.secondClick = false;
+    state.sectorHandleHighlighted = false;
+    state.hoverItem = DialogItem::None;
     state.zone = ToolZone::Canvas;
+    endLayerEdit(state);
+    endReposition(state);
+    clearPreview(state);
 }
 
 void moveOriginTo(ToolState& state, AIRealPoint point) {
@@ -29,14 +58,19 @@ void previewAt(ToolSession& session, AIRealPoint point) {
 }
 
 void followCurrentLayer(ToolState& state) {
-    if (state.axes.provisional || !documentIsOpen()) return;
+    if (!documentIsOpen()) return;
+    if (state.layerEdit) return followEditedLayer(state);
+    if (state.axes.provisional) return;
     SymmetryAxes stored;
-    if (LayerAxesStore::read(nullptr, stored)) {
-        state.axes = stored;
-        state.committed = true;
-    } else if (state.axes.onLayer) {
+    if (LayerAxesStore::read(nullptr, stored))
+        showLayerAxes(state, stored);
+    else if (state.axes.onLayer)
         dropAxes(state);
-    }
+}
+
+void axesChanged(ToolSession& session) {
+    refreshPreview(session);
+    redrawOverlay(session.view);
 }
 
 void rememberAsDefault(ToolSession& session) {
@@ -44,20 +78,28 @@ void rememberAsDefault(ToolSession& session) {
     session.preferences.count = session.state.axes.axisCount;
 }
 
-void applyToSelection(ToolSession& session) {
-    if (!session.licence.allows(GuardedAction::ApplyToSelection) || selectionIsEmpty()) return;
+bool applyToSelection(ToolSession& session) {
+    if (!session.licence.allows(GuardedAction::ApplyToSelection) || selectionIsEmpty())
+        return false;
     MirrorEngine(session.mirroring)
         .run(/*selectionMode*/ true, /*keepCurrentAxes*/ false, /*option*/ false, nullptr);
-    dropAxes(session.state);
     ai::nameUndoStep("Apply Symmetry Axes to Selection");
+    dropAxes(session.state);
+    return true;
 }
 
 void applyToLayer(ToolSession& session) {
     if (!session.licence.allows(GuardedAction::ApplyToLayer)) return;
     attachAxes(session.mirroring, session.preferences.autoMirror);
+    ai::nameUndoStep("Apply Symmetry Axes to Layer");
     session.state.axes.provisional = false;
     session.state.committed = true;
-    ai::nameUndoStep("Apply Symmetry Axes to Layer");
+    endLayerEdit(session.state);
+}
+
+AIRealPoint snapToAnything(ToolSession& session, const AIToolMessage& message) {
+    return snapped(session.state.snapPointForm, session.view.handle, message.cursor, message.event,
+                   kSnapToAnything);
 }
 
 bool selectionIsEmpty() {

@@ -2,18 +2,22 @@
 
 #include "host/Error.h"
 #include "host/Suites.h"
-#include "host/UndoText.h"
 #include "host/suites/AIArtSuite.h"
 #include "host/suites/AIDocumentSuite.h"
 #include "symmetry/ArtSpace.h"
+#include "tool/Annotations.h"
 #include "tool/CurrentAxes.h"
-#include "tool/CursorSnap.h"
-#include "tool/HitTest.h"
+#include "tool/Gesture.h"
+#include "tool/Preview.h"
+#include "tool/Zones.h"
 
 #include <algorithm>
+#include <array>
 
 namespace facetta {
 namespace {
+
+using platform::Key;
 
 /// May art be put where the host would put it now?
 bool insertionPointIsEditable() {
@@ -24,121 +28,148 @@ bool insertionPointIsEditable() {
     return editable != 0;
 }
 
-AIRealPoint snapToAnything(ToolSession& session, const AIToolMessage& message) {
-    return snapped(session.state.snapPointForm, session.view.handle, message.cursor, message.event,
-                   kSnapToAnything);
+/// What the tool remembers of a gesture.
+void forgetGesture(ToolState& state) {
+    state.dragging = false;
+    state.cancelled = false;
+    state.perpendicularSnapFound = false;
+    state.smartGuidesSuppressed = false;
+    state.latches = {};
 }
 
-void storeCursor(ToolState& state, AIRealPoint cursor) {
-    state.previousCursor = state.cursor;
-    state.cursor = cursor;
+void pressCanvas(ToolSession& session, const AIToolMessage& message) {
+    // The layer may have been locked since the cursor moved last.
+    if (!insertionPointIsEditable()) {
+        session.state.zone = ToolZone::LayerLocked;
+        return;
+    }
+    ToolState& state = session.state;
+    state.anchor = snapToAnything(session, message);
+    previewAt(session, state.anchor);
+    axesChanged(session);
+}
+
+/// The sector under the cursor becomes the active one.
+void pressSector(ToolSession& session, const AIToolMessage&) {
+    ToolState& state = session.state;
+    state.zone = ToolZone::Sector;
+    if (!session.keys.isDown(Key::Alt)) return;
+    state.pickedSector = sectorIndexOf(inArtSpace(state.axes), widen(state.cursor));
+    if (state.pickedSector == 0) return;
+    state.zone = ToolZone::SectorPicked;
+    state.axes.angle = normaliseAngle(state.axes.angle + state.pickedSector * halfStep(state.axes));
+    session.preferences.angle = state.axes.angle;
+    if (!state.axes.onLayer) axesChanged(session);
+}
+
+void pressAxes(ToolSession& session, const AIToolMessage& message) {
+    ToolState& state = session.state;
+    state.anchor = snapToAnything(session, message);
+    state.reposition = state.axes.onLayer && session.keys.isDown(Key::Alt);
+}
+
+void pressNothing(ToolSession&, const AIToolMessage&) {}
+
+using Press = void (*)(ToolSession&, const AIToolMessage&);
+constexpr std::array<Press, 8> kPresses{
+    pressCanvas,  // Canvas
+    pressSector,  // Sector
+    pressSector,  // SectorPicked
+    pressAxes,    // Axis
+    pressAxes,    // Origin
+    pressNothing, // DialogTitle
+    pressNothing, // DialogButton
+    pressNothing, // LayerLocked
+};
+
+void press(ToolSession& session, const AIToolMessage& message) {
+    ToolState& state = session.state;
+    kPresses.at(static_cast<std::size_t>(state.zone))(session, message);
+    showZoneCursor(session);
+    redrawOverlay(session.view);
+    ai::check(ai::suites.document->RedrawDocument());
 }
 
 } // namespace
 
 void selectTool(ToolSession& session, const AIToolMessage& message) {
     ToolState& state = session.state;
+    forgetGesture(state);
     state.toolSelected = true;
-    state.dragging = false;
-    state.cancelled = false;
-    state.selectionEmpty = selectionIsEmpty();
+    state.secondClick = false;
+    state.sectorHandleHighlighted = false;
+    state.hoverItem = DialogItem::None;
     state.cursor = message.cursor;
+    state.selectionEmpty = selectionIsEmpty();
     followCurrentLayer(state);
+    session.updatePanel();
 }
 
 void deselectTool(ToolSession& session) {
-    session.state.toolSelected = false;
-    if (!session.state.axes.onLayer) dropAxes(session.state);
+    ToolState& state = session.state;
+    state.toolSelected = false;
+    if (!state.axes.onLayer) {
+        dropAxes(state);
+        session.updatePanel();
+    }
+    clearPreview(state);
     redrawOverlay(session.view);
 }
 
 void trackCursor(ToolSession& session, const AIToolMessage& message) {
     ToolState& state = session.state;
     storeCursor(state, message.cursor);
-    if (!insertionPointIsEditable())
+    if (!insertionPointIsEditable()) {
         state.zone = ToolZone::LayerLocked;
-    else if (!hasAxes(state))
+        showZoneCursor(session);
+    } else if (!hasAxes(state)) {
         previewAt(session, snapToAnything(session, message));
-    else
+        showZoneCursor(session);
+        redrawOverlay(session.view);
+    } else {
+        if (!state.preview.captured) axesChanged(session); // the art has changed
         updateZone(session);
-    redrawOverlay(session.view);
+    }
+    invalidateBetween(session, state.previousCursor, state.cursor);
 }
 
 void mouseDown(ToolSession& session, const AIToolMessage& message) {
     ToolState& state = session.state;
-    state.dragging = false;
-    state.cancelled = false;
+    forgetGesture(state);
+    if (!session.licence.allows(GuardedAction::ToolMouseDown)) {
+        state.cancelled = true; // what follows until the release is refused as well
+        return;
+    }
     state.mouseDown = state.previousCursor = state.cursor = message.cursor;
-    switch (state.zone) {
-    case ToolZone::Canvas:
-        if (state.axes.axisCount == 0) previewAt(session, message.cursor); // no tracking before
-        state.anchor = snapToAnything(session, message);
-        state.dragBackup = state.axes;
-        previewAt(session, state.anchor);
-        break;
-    case ToolZone::Axis:
-    case ToolZone::Origin:
-        state.anchor = snapToAnything(session, message);
-        state.dragBackup = state.axes;
-        break;
-    default:
-        break;
-    }
-    redrawOverlay(session.view);
-    ai::check(ai::suites.document->RedrawDocument());
-}
-
-void mouseUp(ToolSession& session, const AIToolMessage& message) {
-    ToolState& state = session.state;
-    clearSnapFeedback(state.snapPointForm, session.view.handle, message.event);
-    if (!session.licence.allows(GuardedAction::ToolMouseUp)) return;
-    if (state.cancelled) {
-        state.cancelled = false;
-        if (state.zone == ToolZone::Canvas) previewAt(session, snapToAnything(session, message));
-    } else if (state.zone == ToolZone::Canvas) {
-        state.axes.provisional = true;
-        state.committed = false;
-        state.zone = ToolZone::Axis;
-    } else if (state.axes.provisional && state.dragging) {
-        rememberAsDefault(session);
-        ai::nameUndoStep("Edit Symmetry Axes");
-    }
-    state.dragging = false;
-    storeCursor(state, message.cursor);
-    updateZone(session);
-    redrawOverlay(session.view);
+    state.dragBackup = state.axes;
+    inGesture(session, [&] { press(session, message); });
 }
 
 void editOptions(ToolSession& session) {
-    using platform::Key;
-    const ToolState& state = session.state;
+    ToolState& state = session.state;
     const bool pending = state.axes.provisional && !state.committed && state.axes.axisCount != 0;
-    // What is not an order to apply opens the preferences dialog, once the toolkit has dialogs.
-    if (!pending || session.keys.isDown(Key::Control) || session.keys.isDown(Key::Shift)) return;
+    const bool asksToApply = !session.keys.isDown(Key::Control) && !session.keys.isDown(Key::Shift);
+    if (!pending || !asksToApply) {
+        session.dialogs.preferences();
+        return;
+    }
     if (session.preferences.applyToSelection)
         applyToSelection(session);
     else
         applyToLayer(session);
     redrawOverlay(session.view);
+    session.updatePanel();
 }
 
 void changeAxisCount(ToolSession& session, int step) {
     SymmetryAxes& axes = session.state.axes;
-    if (axes.onLayer) return;
-    session.preferences.count =
-        std::clamp(session.preferences.count + step, kFewestAxes, kMostAxes);
-    if (axes.axisCount != 0) axes.axisCount = session.preferences.count;
-    redrawOverlay(session.view);
-}
-
-void updateZone(ToolSession& session) {
-    ToolState& state = session.state;
-    if (!hasAxes(state) || state.axes.axisCount == 0) return;
-    const ZoneUnder under =
-        zoneUnder(inArtSpace(state.axes), widen(state.cursor), kGrabPixels / currentZoom());
-    state.zone = under.zone;
-    state.grabIndex = under.grabIndex;
-    state.sectorHandleHighlighted = under.onSectorHandle;
+    if (!axes.onLayer) {
+        const int count = axes.axisCount != 0 ? axes.axisCount : session.preferences.count;
+        session.preferences.count = std::clamp(count + step, kFewestAxes, kMostAxes);
+        if (axes.axisCount != 0) axes.axisCount = session.preferences.count;
+        axesChanged(session);
+    }
+    session.updatePanel();
 }
 
 } // namespace facetta

@@ -33,7 +33,4 @@ void editOptions(ToolSession& session);
 /// One axis more (`step` 1) or fewer (-1), within 1 to 72; axes on a layer keep theirs.
 void changeAxisCount(ToolSession& session, int step);
 
-/// Finds out what is under the cursor when there are axes.
-void updateZone(ToolSession& session);
-
 } // namespace facetta

@@ -48,8 +48,11 @@ struct ToolState {
     /// Angle in radians counter-clockwise with y up; origin hardened: in canvas coordinates, y
     /// down, so that it stays where it is when the user moves the ruler origin.
     SymmetryAxes axes;
-    SymmetryAxes dragBackup;       ///< the axes at mouse-down, for Escape
-    SymmetryAxes layerBackup;      ///< the layer's axes before their edit began
+    SymmetryAxes dragBackup;  ///< the axes at mouse-down, for Escape
+    SymmetryAxes layerBackup; ///< the layer's axes before their edit began
+    AILayerHandle editedLayer =
+        nullptr;                   ///< whose axes those are; compared, never handed to the host
+    ai::ArtSet releasedCopies;     ///< the art that was generated on it before the edit began
     SymmetryAxes repositionBackup; ///< the axes when the layer's art began to move with them
 
     bool committed = false; ///< the axes shown are applied, and no edit is pending
@@ -93,6 +96,12 @@ struct ToolState {
 /// Are axes being made, or edited apart from their layer?
 [[nodiscard]] constexpr bool hasAxes(const ToolState& state) {
     return state.axes.provisional || state.axes.onLayer;
+}
+
+/// The cursor moves to `point`.
+constexpr void storeCursor(ToolState& state, AIRealPoint point) {
+    state.previousCursor = state.cursor;
+    state.cursor = point;
 }
 
 } // namespace facetta

@@ -1,0 +1,86 @@
+#include "symmetry/LayerArt.h"
+
+#include "host/Art.h"
+#include "host/Error.h"
+#include "host/suites/AIArtSuite.h"
+#include "symmetry/AllChangesAllowed.h"
+#include "symmetry/ArtList.h"
+#include "symmetry/ArtSpace.h"
+#include "symmetry/ArtTree.h"
+#include "symmetry/GuideTag.h"
+#include "symmetry/ImageCopies.h"
+#include "symmetry/LayerAxesStore.h"
+#include "symmetry/LiveLayers.h"
+#include "symmetry/WorkSet.h"
+
+#include <vector>
+
+namespace facetta {
+namespace {
+
+std::vector<AIArtHandle> artOf(const std::vector<Unit>& units) {
+    std::vector<AIArtHandle> art;
+    art.reserve(units.size());
+    for (const Unit& unit : units)
+        art.push_back(unit.art);
+    return art;
+}
+
+/// The host moves nothing that is locked, even where it lets changes into locked groups through.
+void moveLocked(AIArtHandle art, AIRealMatrix& matrix, Transform parts) {
+    ai::check(suites.art->SetArtUserAttr(art, kArtLocked, 0));
+    transformArt(art, matrix, parts);
+    ai::check(suites.art->SetArtUserAttr(art, kArtLocked, kArtLocked));
+}
+
+} // namespace
+
+ai::ArtSet collectLayerArt() {
+    ai::ArtSet set;
+    ai::check(suites.artSet->NewArtSet(set.put()));
+    const AILayerHandle layer = topLevelLayer(nullptr);
+    if (layer == nullptr) return set;
+    const auto add = [&](AIArtHandle art) {
+        ai::check(suites.artSet->AddArtToArtSet(set.get(), art));
+    };
+    const LayerContents contents = contentsOfLayer(layer);
+    for (const AIArtHandle art : artOf(contents.sources))
+        add(art);
+    for (const AIArtHandle art : contents.copies)
+        add(art);
+    for (const AIArtHandle art : artOnLayer(layer))
+        if (GuideTag::has(art)) add(art);
+    return set;
+}
+
+void moveArt(const ai::ArtSet& art, const Matrix& motion) {
+    const AllChangesAllowed evenInLockedGroups;
+    AIRealMatrix matrix = narrow(motion);
+    for (const AIArtHandle each : membersOf(art.get())) {
+        const Transform parts =
+            typeOf(each) == kPluginArt ? Transform::AndTellPlugins : Transform::Whole;
+        if (attributesOf(each, kArtLocked) != 0)
+            moveLocked(each, matrix, parts);
+        else
+            transformArt(each, matrix, parts);
+    }
+}
+
+void changeActiveSector(const MirrorEnvironment& environment, int picked) {
+    const AILayerHandle layer = topLevelLayer(nullptr);
+    if (layer == nullptr) return;
+    LayerAxesStore::write(environment.currentAxes);
+    const std::vector<AIArtHandle> art = artOf(unitsOfLayer(layer));
+    const SymmetryAxes axes = inArtSpace(environment.currentAxes);
+    int steps = sectorCount(axes) - picked;
+    if (steps % 2 != 0) {
+        // An image in an odd sector is turned over: across the former first axis it lies in the
+        // sector before the former active one.
+        reflectCopies(art, axes, picked, Duplicate::No);
+        --steps;
+    }
+    if (steps != 0) rotateCopies(art, axes, -steps * halfStep(axes), Duplicate::No);
+    regenerateLayer(environment, /*option*/ false, layer);
+}
+
+} // namespace facetta

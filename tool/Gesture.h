@@ -1,0 +1,26 @@
+#pragma once
+
+/// From press to release: one gesture, one undo step of the host's, and one way back.
+
+#include "tool/ToolSession.h"
+
+namespace facetta {
+
+/// Everything is as it was at the press, in the document and in the state, and nothing more happens
+/// until the release. Throws `ai::Error`.
+void cancelGesture(ToolSession& session);
+
+/// The same as far as the host allows it: for when a host call has failed.
+void abandonGesture(ToolSession& session) noexcept;
+
+/// Runs one message of a gesture. When it fails the gesture is over, and the failure travels on.
+template <typename Step> void inGesture(ToolSession& session, Step step) {
+    try {
+        step();
+    } catch (...) {
+        abandonGesture(session);
+        throw;
+    }
+}
+
+} // namespace facetta

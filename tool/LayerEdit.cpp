@@ -1,0 +1,92 @@
+#include "tool/LayerEdit.h"
+
+#include "host/Error.h"
+#include "host/References.h"
+#include "host/UndoText.h"
+#include "host/suites/AIArtSuite.h"
+#include "symmetry/AllChangesAllowed.h"
+#include "symmetry/ArtList.h"
+#include "symmetry/AxisGuides.h"
+#include "symmetry/LayerAxesStore.h"
+#include "symmetry/MirrorTag.h"
+#include "tool/CurrentAxes.h"
+#include "tool/Preview.h"
+
+#include <utility>
+
+namespace facetta {
+namespace {
+
+/// A set and not a list: the host keeps it while the user goes on editing.
+ai::ArtSet copiesOn(AILayerHandle layer) {
+    ai::ArtSet copies;
+    ai::check(ai::suites.artSet->NewArtSet(copies.put()));
+    if (layer == nullptr) return copies;
+    for (const AIArtHandle art : artOnLayer(layer))
+        if (MirrorTag::get(art) == MirrorTag::kCopy)
+            ai::check(ai::suites.artSet->AddArtToArtSet(copies.get(), art));
+    return copies;
+}
+
+/// What is left of the former copies is generated art again: marked and locked.
+void reclaimCopies(const ai::ArtSet& copies) {
+    constexpr AIBoolean kInLayersToo = 1;
+    const AllChangesAllowed evenInLockedGroups;
+    for (const AIArtHandle art : membersOf(copies.get())) {
+        if (!ai::suites.art->ValidArt(art, kInLayersToo)) continue;
+        MirrorTag::set(art, MirrorTag::kCopy);
+        ai::check(ai::suites.art->SetArtUserAttr(art, kArtLocked, kArtLocked));
+    }
+}
+
+} // namespace
+
+void beginLayerEdit(ToolState& state, const SymmetryAxes& axes) {
+    ai::ArtSet copies = copiesOn(currentLayer());
+    const AILayerHandle layer = topLevelLayer(nullptr);
+    state.guidesToRestore = layerHasAxisGuides();
+    state.layerBackup = axes;
+    state.editedLayer = layer;
+    state.releasedCopies = std::move(copies);
+    state.layerEdit = true;
+    clearPreview(state); // what the layer had generated is art to be mirrored as well
+}
+
+void takeAxesOffLayer(ToolSession& session) {
+    ToolState& state = session.state;
+    if (state.guidesToRestore) removeAxisGuides(nullptr, /*untagOnly*/ false);
+    // Only the drag that begins the edit finds the axes on the layer.
+    if (state.dragBackup.onLayer) LayerAxesStore::remove(nullptr, /*resolveTopLevel*/ true);
+    state.committed = false;
+    state.axes.provisional = true;
+    state.axes.onLayer = false;
+    session.updatePanel();
+}
+
+void renewGuides(const ToolState& state, const SymmetryAxes& axes) {
+    if (!state.guidesToRestore) return;
+    removeAxisGuides(nullptr, /*untagOnly*/ false);
+    addAxisGuides(axes);
+}
+
+void restoreLayer(ToolSession& session) {
+    ToolState& state = session.state;
+    reclaimCopies(state.releasedCopies);
+    renewGuides(state, state.layerBackup);
+    LayerAxesStore::write(state.layerBackup);
+    LayerAxesStore::stamp(nullptr); // last: all of the above changes art of the layer
+    ai::nameUndoStep("Cancel Edit Symmetry Axes");
+    state.axes = state.layerBackup;
+    state.committed = true;
+    rememberAsDefault(session);
+    endLayerEdit(state);
+}
+
+void endLayerEdit(ToolState& state) noexcept {
+    state.layerEdit = false;
+    state.guidesToRestore = false;
+    state.editedLayer = nullptr;
+    state.releasedCopies.reset();
+}
+
+} // namespace facetta

@@ -1,0 +1,33 @@
+#include "tool/Reposition.h"
+
+#include "symmetry/ArtSpace.h"
+#include "symmetry/LayerArt.h"
+#include "symmetry/LayerAxesStore.h"
+
+namespace facetta {
+
+void beginReposition(ToolState& state) {
+    state.repositionArt = collectLayerArt();
+    state.repositionBackup = state.axes;
+    state.reposition = true;
+}
+
+void carryLayerArt(const ToolState& state) {
+    const SymmetryAxes from = inArtSpace(state.repositionBackup);
+    const SymmetryAxes to = inArtSpace(state.axes);
+    const Vector shift = originOf(to) - originOf(from);
+    const Matrix turn = rotationAbout(originOf(from), from.angle - to.angle); // clockwise
+    moveArt(state.repositionArt, compose(turn, {.tx = shift.x, .ty = shift.y}));
+}
+
+void keepReposition(const ToolState& state) {
+    LayerAxesStore::write(state.axes);
+    LayerAxesStore::stamp(nullptr); // the copies have moved with the art: nothing is to be mirrored
+}
+
+void endReposition(ToolState& state) noexcept {
+    state.reposition = false;
+    state.repositionArt.reset();
+}
+
+} // namespace facetta
