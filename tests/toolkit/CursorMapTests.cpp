@@ -72,7 +72,7 @@ TEST_CASE("the cursors of the product: hot spot 15,15, and a picture for each sc
             readCursorMap({reinterpret_cast<const char*>(document.data()), document.size()});
         CHECK(map.hotX == 15);
         CHECK(map.hotY == 15);
-        CHECK(map.pictures == std::vector<CursorMap::Picture>{
-                                  {1, cursor}, {1.5, cursor + 100}, {2, cursor + 200}});
+        CHECK(map.pictures ==
+              std::vector<CursorMap::Picture>{{1, cursor}, {1.5, cursor + 100}, {2, cursor + 200}});
     }
 }

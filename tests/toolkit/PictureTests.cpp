@@ -55,11 +55,18 @@ struct Row {
 };
 /// Every picture that the panel, the toolbox and the about box name.
 constexpr Row kPictures[] = {
-    {2100, 24, 24}, {2103, 24, 24}, {2105, 24, 24, /*hasDouble*/ false},
-    {2106, 24, 19}, {2108, 24, 19, true, /*dim*/ true},
-    {2110, 24, 19}, {2112, 25, 25}, {2114, 25, 25},
-    {2116, 25, 25}, {2118, 25, 25, true, /*dim*/ true},
-    {2120, 102, 7}, {2122, 102, 7, true, /*dim*/ true},
+    {2100, 24, 24},
+    {2103, 24, 24},
+    {2105, 24, 24, /*hasDouble*/ false},
+    {2106, 24, 19},
+    {2108, 24, 19, true, /*dim*/ true},
+    {2110, 24, 19},
+    {2112, 25, 25},
+    {2114, 25, 25},
+    {2116, 25, 25},
+    {2118, 25, 25, true, /*dim*/ true},
+    {2120, 102, 7},
+    {2122, 102, 7, true, /*dim*/ true},
     {7000, 600, 468},
 };
 constexpr int kDark = 1000;
@@ -77,8 +84,7 @@ TEST_CASE("every picture has every variant, in the right size") {
             CHECK(threeHalves.width == scaled(row.width, 1.5));
             CHECK(threeHalves.height == scaled(row.height, 1.5));
             const PngPicture next = picture(id + 1);
-            const bool nextIsDouble =
-                next.width == 2 * row.width && next.height == 2 * row.height;
+            const bool nextIsDouble = next.width == 2 * row.width && next.height == 2 * row.height;
             CHECK(nextIsDouble == row.hasDouble);
         }
     }

@@ -40,8 +40,8 @@ std::vector<BYTE> cursorBits(int hotX, int hotY, Bytes png) {
 
 Cursor load(SPPlatformAccessRef library, int id, double scale) {
     const Bytes document = findResource(library, ResourceKind::CursorMap, id);
-    const CursorMap map = readCursorMap(
-        {reinterpret_cast<const char*>(document.data()), document.size()});
+    const CursorMap map =
+        readCursorMap({reinterpret_cast<const char*>(document.data()), document.size()});
     const CursorMap::Picture picture = pictureFor(map, scale, id);
     const Bytes png = findResource(library, ResourceKind::Picture, picture.id);
     if (png.empty()) return Cursor();
