@@ -31,7 +31,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const CursorMap::Picture shown = NRDM::pictureFor(map, scale, kPlain);
         require(shown.scale > 0 && shown.scale < 100, "the scale of a picture");
         require((shown.id == kPlain) == map.pictures.empty(), "a picture when there is one");
-        require(map.pictures.empty() || std::ranges::find(map.pictures, shown) != map.pictures.end(),
+        require(map.pictures.empty() ||
+                    std::ranges::find(map.pictures, shown) != map.pictures.end(),
                 "one of those described");
     }
     return 0;

@@ -1,0 +1,83 @@
+#include "easel/runtime/PanelWindow.h"
+
+#include <doctest/doctest.h>
+
+#include <windows.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+struct Recorded {
+    std::vector<AISize> sizes;
+    int closed = 0;
+};
+
+easel::PanelWindowEvents recordIn(Recorded& recorded) {
+    return {[&recorded](AISize size) { recorded.sizes.push_back(size); },
+            [&recorded] { ++recorded.closed; }};
+}
+
+HWND clientOf(const easel::PanelWindow& window) {
+    return reinterpret_cast<HWND>(window.client());
+}
+
+SIZE sizeOf(HWND window) {
+    RECT area{};
+    GetClientRect(window, &area);
+    return {area.right, area.bottom};
+}
+
+} // namespace
+
+TEST_CASE("a panel's client area is a child window of just the size asked for") {
+    Recorded recorded;
+    easel::PanelWindow window(U"Panel", {240, 188}, /*resizable*/ false, recordIn(recorded));
+    const HWND client = clientOf(window);
+    const HWND frame = GetParent(client);
+    REQUIRE(frame != nullptr);
+    CHECK(sizeOf(client).cx == 240);
+    CHECK(sizeOf(client).cy == 188);
+    window.setSize({240, 83});
+    CHECK(sizeOf(client).cy == 83);
+    CHECK(sizeOf(frame).cy == 83);
+    CHECK((GetWindowLongPtrW(client, GWL_STYLE) & WS_CLIPCHILDREN) != 0);
+    CHECK(IsWindowVisible(client) == FALSE);
+    window.show(true);
+    CHECK(IsWindowVisible(client) != FALSE);
+    window.setTitle(U"\u00C4nderung");
+    std::wstring title(32, L'\0');
+    title.resize(static_cast<std::size_t>(GetWindowTextW(frame, title.data(), 32)));
+    CHECK(title == std::wstring(L"\u00C4nderung"));
+    CHECK(recorded.sizes.empty()); // nothing of this was the user's doing
+}
+
+TEST_CASE("what the user does to a panel's window is reported, and the window stays") {
+    Recorded recorded;
+    easel::PanelWindow window(U"Panel", {240, 188}, /*resizable*/ true, recordIn(recorded));
+    const HWND frame = GetParent(clientOf(window));
+    RECT outer{};
+    GetWindowRect(frame, &outer);
+    SetWindowPos(frame, nullptr, 0, 0, outer.right - outer.left + 20, outer.bottom - outer.top + 12,
+                 SWP_NOMOVE | SWP_NOZORDER);
+    REQUIRE(recorded.sizes.size() == 1);
+    CHECK(recorded.sizes[0].width == 260);
+    CHECK(recorded.sizes[0].height == 200);
+    CHECK(sizeOf(clientOf(window)).cx == 260);
+    SendMessageW(frame, WM_CLOSE, 0, 0);
+    CHECK(recorded.closed == 1);
+    CHECK(IsWindow(frame) != FALSE);
+}
+
+TEST_CASE("a panel destroyed while it tells of its end does no harm") {
+    std::unique_ptr<easel::PanelWindow> window;
+    window = std::make_unique<easel::PanelWindow>(
+        U"Panel", AISize{100, 100}, false,
+        easel::PanelWindowEvents{{}, [&window] { window.reset(); }});
+    const HWND frame = GetParent(clientOf(*window));
+    SendMessageW(frame, WM_CLOSE, 0, 0);
+    CHECK(window == nullptr);
+    CHECK(IsWindow(frame) == FALSE);
+}
