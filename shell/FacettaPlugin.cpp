@@ -112,6 +112,7 @@ bool FacettaPlugin::addTool() {
 AIErr FacettaPlugin::Shutdown(SPInterfaceMessage& message) {
     AIErr saved = kNoErr;
     if (hasSuites()) {
+        hintTimer.stop();
         preferences.dialogX = tool.dialog.x;
         preferences.dialogY = tool.dialog.y;
         dropAxes(tool); // what it holds of the host's goes while there are suites
@@ -166,6 +167,7 @@ template <typename Handler> AIErr FacettaPlugin::withSession(Handler handler) {
                         view, licence,     dialogs,
                         keys, mirroring(), [this](ai::int32 id) { toolkit().cursors().show(id); }};
     handler(session);
+    hintTimer.follow(self(), tool.hint, platform::ticks());
     return kNoErr;
 }
 
@@ -223,8 +225,8 @@ AIErr FacettaPlugin::AnnotatorInvalidate(AIAnnotatorMessage& message) {
     return kNoErr;
 }
 
-AIErr FacettaPlugin::GoTimer(AITimerMessage&) {
-    // Timers are the licensing module's, and it has none running.
+AIErr FacettaPlugin::GoTimer(AITimerMessage& message) {
+    if (hintTimer.isDue(message.timer, tool.hint, platform::ticks())) redrawHint(view, tool);
     return kNoErr;
 }
 

@@ -5,6 +5,7 @@
 #include "shell/Plugin.h"
 #include "symmetry/MirrorEngine.h"
 #include "tool/CurrentView.h"
+#include "tool/HintTimer.h"
 #include "tool/Licensing.h"
 #include "tool/ModalDialogs.h"
 #include "tool/Preferences.h"
@@ -54,6 +55,7 @@ public:
     char16_t decimalSeparator = u'.'; ///< of number fields; as the user's locale has it
     CurrentView view;                 ///< follows the host's notifications
     ToolState tool;
+    HintTimer hintTimer;
     ModalDialogs dialogs;
 
     // What the host knows of the plug-in; null where registering failed.

@@ -50,4 +50,10 @@ void invalidateBetween(const ToolSession& session, AIRealPoint from, AIRealPoint
                hintReach(viewPixelOf(session.view, from), viewPixelOf(session.view, to)));
 }
 
+void redrawHint(const CurrentView& view, const ToolState& state) {
+    if (view.handle == nullptr || !documentIsOpen()) return;
+    const AIPoint cursor = viewPixelOf(view, state.cursor);
+    invalidate(view, hintReach(cursor, cursor));
+}
+
 } // namespace facetta

@@ -18,4 +18,7 @@ void drawAnnotations(ToolSession& session, const AIAnnotatorMessage& message, In
 /// Throws `ai::Error`.
 void invalidateBetween(const ToolSession& session, AIRealPoint from, AIRealPoint to);
 
+/// The same for the hint where it stands; nothing happens without a view. Throws `ai::Error`.
+void redrawHint(const CurrentView& view, const ToolState& state);
+
 } // namespace facetta

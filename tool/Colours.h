@@ -55,12 +55,12 @@ inline constexpr InterfaceColours kDark{
     .preview = rgb(0x3D9BF0),
     .mask = rgb(0x4A4A4A),
     .titleFill = rgb(0x6B6B6B),
-    .outline = rgb(0xE6E6E6),
+    .outline = rgb(0xF0F0F0),
     .dimmedText = rgb(0x8A8A8A),
     .buttonFill = rgb(0x3C3C3C),
     .hoveredFill = rgb(0x2B5C8F),
     .hintFill = rgb(0x2A2A2A),
-    .hintText = rgb(0xE6E6E6),
+    .hintText = rgb(0xF0F0F0),
 };
 
 } // namespace colours

@@ -9,10 +9,16 @@ namespace {
 /// More lines than this a single curve never becomes.
 constexpr double kMostPieces = 256.0;
 
-/// Lines that stay within `tolerance` of `curve`: the error of a chord falls with the square of
-/// their number, and is at most 1/8 of the second derivative, which the second differences of the
-/// control points bound (Wang's formula).
+/// Lines that stay within `tolerance` of `curve`. A curve lies inside the hull of its control
+/// points: handles on the chord make one line. Otherwise the error of a chord falls with the square
+/// of their number, and is at most 1/8 of the second derivative, which the second differences of
+/// the control points bound (Wang's formula).
 int piecesOf(const Cubic& curve, double tolerance) {
+    const LineSegment chord{curve.p0, curve.p3};
+    const auto isNearChord = [&](Point handle) {
+        return distance(handle, nearestPoint(chord, handle)) <= tolerance;
+    };
+    if (isNearChord(curve.p1) && isNearChord(curve.p2)) return 1;
     const Vector first = (curve.p0 - curve.p1) + (curve.p2 - curve.p1);
     const Vector second = (curve.p1 - curve.p2) + (curve.p3 - curve.p2);
     const double bend = std::max(length(first), length(second));
@@ -55,8 +61,9 @@ void PreviewPaths::add(const PathShape& shape, Images images, bool isArt) {
 }
 
 void PreviewPaths::limit(std::size_t mostLines) {
+    constexpr double kCoarser = 1.5;
     // Ends: once the detail is wider than everything there is, nothing is left.
-    for (double detail = tolerance_; lineCount() > mostLines; detail *= 2.0)
+    for (double detail = tolerance_; lineCount() > mostLines; detail *= kCoarser)
         thinOut(detail);
 }
 

@@ -4,12 +4,22 @@
 
 #include "tests/tool/Drawing.h"
 
+#include "tool/ToolSession.h"
+
 #include <algorithm>
 #include <vector>
 
 namespace facetta::tests {
 
 using Kind = easel::DrawCommand::Kind;
+
+/// The tool's functions called without a message: no key is held.
+inline ToolSession toolSession() {
+    static const platform::KeyState kNoKeys;
+    return {thePlugin->tool, thePlugin->preferences, thePlugin->hostPreferences,
+            thePlugin->view, thePlugin->licence,     thePlugin->dialogs,
+            kNoKeys,         thePlugin->mirroring()};
+}
 
 /// All that is drawn at this moment.
 inline easel::DisplayList drawn(Session& session) { return session.host.drawAnnotations(nullptr); }

@@ -1,0 +1,96 @@
+#include "tool/HintDrawing.h"
+
+#include "tests/tool/Annotated.h"
+
+using namespace facetta;
+using namespace facetta::tests;
+
+namespace {
+
+constexpr ai::uint64 kShown = 10'000; ///< when the hints here are shown, in milliseconds
+
+easel::DisplayList hintDrawn(const ToolState& state, ai::uint64 now, const PixelRect& visible) {
+    AIAnnotatorDrawer drawer;
+    ViewMap view;
+    view.toPixels = {.d = -1.0}; // pixels are points, y turned over
+    view.visible = visible;
+    drawHint({&drawer, view, colours::kLight}, state, now);
+    return drawer.list;
+}
+
+} // namespace
+
+TEST_CASE("a hint stands right of the cursor and above it, moved as far as the view asks for") {
+    struct Row {
+        const char* where;
+        AIPoint cursor;
+        AIPoint text; // its bottom left
+    };
+    const PixelRect view{0, 0, 800, 600};
+    const Row rows[] = {
+        // the text is 100 by 13, its box 5 wider and 3 higher on every side
+        {"anywhere", {400, 300}, {412, 291}},
+        {"as far right as it goes", {683, 300}, {695, 291}},
+        {"too far right", {790, 300}, {695, 291}},
+        {"as high as it goes", {400, 25}, {412, 16}},
+        {"too high", {400, 3}, {412, 16}},
+        {"below the view", {400, 900}, {412, 597}},
+        {"left of the view", {-300, 300}, {5, 291}},
+        {"a corner", {800, 0}, {695, 16}},
+    };
+    for (const auto& [where, cursor, text] : rows) {
+        INFO(where);
+        const AIPoint placed = hintTextAt(cursor, 100, 13, view);
+        CHECK(placed.h == text.h);
+        CHECK(placed.v == text.v);
+    }
+    const AIPoint cramped = hintTextAt({10, 10}, 100, 13, {0, 0, 50, 8});
+    CHECK(cramped.h == 5);
+    CHECK(cramped.v == 16);
+}
+
+TEST_CASE("a hint is whole at first and fades at the end of its life") {
+    struct Row {
+        ai::uint64 age;
+        double opacity;
+    };
+    for (const auto& [age, opacity] :
+         {Row{0, 1}, Row{1000, 1}, Row{1125, 0.5}, Row{1249, 0.004}, Row{1250, 0}, Row{99999, 0}}) {
+        INFO(age);
+        CHECK(hintOpacity({HintId::MoveOrigin, true, kShown}, kShown + age) ==
+              doctest::Approx(opacity));
+    }
+}
+
+TEST_CASE("the hint is a text in a box, inside the view, as opaque as its age leaves it") {
+    Session session; // texts are the host's
+    session.host.start();
+    ToolState state;
+    state.cursor = {790, -4};
+    showHint(state.hint, HintId::ConstrainAngle, kShown);
+    const PixelRect view{0, 0, 800, 600};
+    const easel::DisplayList list = hintDrawn(state, kShown + 1125, view);
+    REQUIRE(list.size() == 3);
+    CHECK(list[2].text == U"Constrain Angle");
+    for (const easel::DrawCommand& each : list) {
+        CHECK(each.style.opacity == doctest::Approx(0.5F));
+        for (const AIPoint point : each.points)
+            CHECK(contains(view, at(point)));
+    }
+    CHECK(list[0].fill);
+    CHECK_FALSE(list[1].fill);
+    CHECK(hintDrawn(state, kShown + kHintLifetime, view).empty());
+}
+
+TEST_CASE("no hint is drawn while cancelled new axes wait for the release") {
+    Session session;
+    session.host.start();
+    const PixelRect view{0, 0, 800, 600};
+    ToolState state;
+    showHint(state.hint, HintId::ConstrainAngle, kShown);
+    state.cancelled = true;
+    state.zone = ToolZone::Canvas;
+    CHECK(hintDrawn(state, kShown, view).empty());
+    state.zone = ToolZone::Axis;
+    CHECK_FALSE(hintDrawn(state, kShown, view).empty());
+}
