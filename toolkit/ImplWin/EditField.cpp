@@ -37,9 +37,7 @@ DWORD justifyStyle(int justify) {
 
 } // namespace
 
-EditField::EditField(Screen& screen, HWND parent, EditFieldOwner& owner, int maximumLength,
-                     int justify)
-    : HWNDBased(screen), owner_(owner) {
+void EditField::open(HWND parent, int maximumLength, int justify) {
     Plan plan;
     plan.systemClass = L"EDIT";
     plan.style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL | justifyStyle(justify);

@@ -28,7 +28,10 @@ protected:
 /// off during such messages; afterwards it is painted once, if it looks different.
 class EditField final : public HWNDBased {
 public:
-    EditField(Screen& screen, HWND parent, EditFieldOwner& owner, int maximumLength, int justify);
+    EditField(Screen& screen, EditFieldOwner& owner) : HWNDBased(screen), owner_(owner) {}
+
+    /// Throws `NRDMResourceException`.
+    void open(HWND parent, int maximumLength, int justify);
 
     [[nodiscard]] std::wstring text() const;
     /// Tells nobody.

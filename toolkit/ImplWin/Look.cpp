@@ -251,6 +251,14 @@ void drawFrame(const Canvas& canvas, const RECT& area, int style) {
         frameRect(canvas.surface, area, line, palette.light);
         frameRect(canvas.surface, inner, line, palette.shadow);
         break;
+    case 4: {
+        RECT below = area;
+        OffsetRect(&below, line, line);
+        frameRect(canvas.surface, below, line, palette.light);
+        frameRect(canvas.surface, {area.left, area.top, area.right - line, area.bottom - line},
+                  line, palette.line);
+        break;
+    }
     default:
         frameRect(canvas.surface, area, line, style == 0 ? palette.text : palette.line);
     }

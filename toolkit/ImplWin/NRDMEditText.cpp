@@ -21,9 +21,9 @@ bool held(int key) { return GetKeyState(key) < 0; }
 } // namespace
 
 NRDMEditText::NRDMEditText(NativeDialog& dialog, const ItemView& view, ItemEvents& events)
-    : NativeItem(dialog, view, events),
-      field_((createItem(nullptr, WS_CLIPCHILDREN), dialog.screen()), handle(), *this,
-             view.maximumLength, view.justify) {
+    : NativeItem(dialog, view, events), field_(dialog.screen(), *this) {
+    createItem(nullptr, WS_CLIPCHILDREN);
+    field_.open(handle(), view.maximumLength, view.justify);
     EnableWindow(field_.handle(), view.enabled);
     field_.setFont(textStyle(), scale());
     arrange();
@@ -76,7 +76,8 @@ void NRDMEditText::arrange() {
     const RECT area = client();
     RECT place = placeOf(Part::None);
     place.left += scale().toPixels(kSideMargin) - std::max(1, static_cast<int>(scale().factor));
-    place.right -= scale().toPixels(2);
+    const bool alone = !spins() && !slides() && !lists();
+    place.right -= scale().toPixels(alone ? kSideMargin - 1 : 2);
     const int baseline = baselineOf(area.top, area.bottom, textStyle(), scale());
     place.top = std::max<LONG>(place.top, baseline - field_.ascent());
     place.bottom = std::min<LONG>(place.bottom, place.top + field_.lineHeight());

@@ -23,7 +23,7 @@ int NRDMListViewEntry::height(const EntryView& view, TextStyle style, Scale scal
 }
 
 void NRDMListViewEntry::draw(const Canvas& canvas, const RECT& area, TextStyle style,
-                             RowState state, Colour plain, bool showsMark) const {
+                             RowState state, Colour plain, bool showsMark, bool listEnabled) const {
     const Palette& palette = canvas.palette;
     if (view_.separator) {
         drawRow(canvas, area, RowState::Plain, plain);
@@ -35,10 +35,14 @@ void NRDMListViewEntry::draw(const Canvas& canvas, const RECT& area, TextStyle s
         fillRect(canvas.surface, line, mix(plain, palette.text, 0.22));
         return;
     }
-    drawRow(canvas, area, state, plain);
-    const Colour colour = !view_.enabled              ? palette.dimText
-                          : state == RowState::Chosen ? palette.onAccent
-                                                      : palette.text;
+    if (listEnabled)
+        drawRow(canvas, area, state, plain);
+    else
+        fillRect(canvas.surface, area,
+                 state == RowState::Chosen ? mix(plain, palette.text, 0.2) : plain);
+    const Colour colour = !view_.enabled || !listEnabled ? palette.dimText
+                          : state == RowState::Chosen    ? palette.onAccent
+                                                         : palette.text;
     RECT text = area;
     text.left += canvas.scale.toPixels(kSide);
     text.right -= canvas.scale.toPixels(kSide);
@@ -123,8 +127,8 @@ bool ListRows::scrollBy(int pixels, const RECT& area, Scale scale) {
     return moved;
 }
 
-void ListRows::draw(const Canvas& canvas, const RECT& area, int hot, int chosen,
-                    Colour plain) const {
+void ListRows::draw(const Canvas& canvas, const RECT& area, int hot, int chosen, Colour plain,
+                    bool enabled) const {
     const RECT outer = canvas.surface.clip();
     RECT clip{};
     if (!IntersectRect(&clip, &outer, &area)) return;
@@ -137,7 +141,7 @@ void ListRows::draw(const Canvas& canvas, const RECT& area, int hot, int chosen,
                                : entry == hot  ? RowState::Hot
                                                : RowState::Plain;
         NRDMListViewEntry(view_.entries[static_cast<std::size_t>(entry)])
-            .draw(canvas, row, style_, state, plain, marks);
+            .draw(canvas, row, style_, state, plain, marks, enabled);
     }
     const int whole = topOf(count(), canvas.scale);
     const int seen = static_cast<int>(area.bottom - area.top);
@@ -230,7 +234,8 @@ void NRDMListView::paint(const Canvas& canvas, const RECT& area) {
     drawField(canvas, area, now);
     rows_.draw(canvas, inside(), now.enabled ? hotEntry_ : -1, view().chosen,
                now.enabled ? canvas.palette.field
-                           : mix(canvas.palette.background, canvas.palette.field, 0.35));
+                           : mix(canvas.palette.background, canvas.palette.field, 0.35),
+               now.enabled);
 }
 
 } // namespace NRDM

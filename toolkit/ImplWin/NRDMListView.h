@@ -15,7 +15,7 @@ public:
     [[nodiscard]] static int height(const EntryView& view, TextStyle style, Scale scale);
 
     void draw(const Canvas& canvas, const RECT& area, TextStyle style, RowState state, Colour plain,
-              bool showsMark) const;
+              bool showsMark, bool listEnabled = true) const;
 
     [[nodiscard]] bool canBeChosen() const { return view_.enabled && !view_.separator; }
 
@@ -43,7 +43,8 @@ public:
     /// True when it moved.
     bool scrollBy(int pixels, const RECT& area, Scale scale);
 
-    void draw(const Canvas& canvas, const RECT& area, int hot, int chosen, Colour plain) const;
+    void draw(const Canvas& canvas, const RECT& area, int hot, int chosen, Colour plain,
+              bool enabled = true) const;
 
 private:
     [[nodiscard]] int count() const { return static_cast<int>(view_.entries.size()); }

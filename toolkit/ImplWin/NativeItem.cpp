@@ -44,6 +44,8 @@ void NativeItem::createItem(const wchar_t* systemClass, DWORD style) {
         RECT{view_.bounds.left, view_.bounds.top, view_.bounds.right, view_.bounds.bottom});
     plan.parent = dialog_.handle();
     create(plan);
+    // Windows puts a new child below its siblings; what is created later is to lie above.
+    SetWindowPos(handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     applyTip();
 }
 

@@ -189,8 +189,8 @@ int wrappedHeight(std::wstring_view text, TextStyle style, Scale scale, int widt
 }
 
 int baselineOf(int top, int bottom, TextStyle style, Scale scale) {
-    return static_cast<int>(
-        std::floor((top + bottom + lineMetrics(style, scale).capHeight) / 2 + 0.5));
+    const int capital = static_cast<int>(std::lround(lineMetrics(style, scale).capHeight));
+    return (top + bottom + capital + 1) / 2;
 }
 
 void drawLine(Surface& surface, const RECT& place, const TextLine& line) {
