@@ -120,7 +120,8 @@ int main() {
             check->check(*id, resource->data, findings);
     }
     for (const auto& [type, check] : kChecks)
-        findings.require(std::ranges::any_of(seen, [&](const auto& each) { return each.first == type; }),
-                         "nothing of one of the kinds there should be");
+        findings.require(
+            std::ranges::any_of(seen, [&](const auto& each) { return each.first == type; }),
+            "nothing of one of the kinds there should be");
     return findings.flawless() ? 0 : 1;
 }

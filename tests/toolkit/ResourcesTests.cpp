@@ -39,6 +39,7 @@ TEST_CASE("the hints in the string tables are those the tool shows") {
 
 TEST_CASE("strings that are not there are nothing") {
     CHECK(stringResource(18001) == "%s  v%s");
+    CHECK(readString(kThisProgram, 18003) == u"\u00A9 %s %s");
     CHECK(stringResource(18009) == "Continue");
     for (const int id : {-1, 0, 17100, 17113, 18000, 18010, 70000})
         CHECK_FALSE(readString(kThisProgram, id).has_value());

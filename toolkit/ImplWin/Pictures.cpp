@@ -107,16 +107,8 @@ void Pictures::draw(Surface& surface, int id, bool dark, Scale scale, int x, int
 }
 
 PictureSource picturesOf(HMODULE module) {
-    return [module](int id, PictureDensity density) -> std::span<const std::byte> {
-        const bool half = density == PictureDensity::OneAndHalf;
-        const int number = density == PictureDensity::Two ? id + 1 : id;
-        const HRSRC found =
-            FindResourceW(module, MAKEINTRESOURCEW(number), half ? L"PNG3" : L"PNGI");
-        if (found == nullptr) return {};
-        const void* const bytes = LockResource(LoadResource(module, found));
-        if (bytes == nullptr) return {};
-        return {static_cast<const std::byte*>(bytes), SizeofResource(module, found)};
-    };
+    const auto library = reinterpret_cast<SPPlatformAccessRef>(module);
+    return [library](int id, PictureDensity density) { return findPicture(library, id, density); };
 }
 
 } // namespace NRDM

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "toolkit/ImplCommon/PictureResources.h"
 #include "toolkit/ImplWin/GdiPlus.h"
 #include "toolkit/ImplWin/Scale.h"
 #include "toolkit/ImplWin/Surface.h"
@@ -12,8 +13,6 @@
 #include <utility>
 
 namespace NRDM {
-
-enum class PictureDensity { One, OneAndHalf, Two };
 
 /// The bytes of a PNG resource, empty when there is none: by the id of its variant at normal size.
 using PictureSource = std::function<std::span<const std::byte>(int id, PictureDensity density)>;

@@ -20,9 +20,7 @@ easel::PanelWindowEvents recordIn(Recorded& recorded) {
             [&recorded] { ++recorded.closed; }};
 }
 
-HWND clientOf(const easel::PanelWindow& window) {
-    return reinterpret_cast<HWND>(window.client());
-}
+HWND clientOf(const easel::PanelWindow& window) { return reinterpret_cast<HWND>(window.client()); }
 
 SIZE sizeOf(HWND window) {
     RECT area{};
