@@ -89,7 +89,7 @@ void loadPreferences(HostPreferences& host, Preferences& own) {
 
 double readConstrainAngle() {
     double degrees = 0.0;
-    read(kHostPrefix, "constrain/angle", degrees);
+    read(kHostPrefix, kConstrainAnglePreference, degrees);
     return degrees;
 }
 

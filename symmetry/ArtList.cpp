@@ -1,5 +1,6 @@
 #include "symmetry/ArtList.h"
 
+#include "host/Art.h"
 #include "host/Error.h"
 #include "host/References.h"
 
@@ -32,6 +33,13 @@ std::vector<AIArtHandle> membersOf(AIArtSet set) {
 std::vector<AIArtHandle> selectedArt() {
     const ai::ArtSet set = newSet();
     ai::check(suites.artSet->SelectedArtSet(set.get()));
+    return membersOf(set.get());
+}
+
+std::vector<AIArtHandle> freePaths() {
+    const ai::ArtSet set = newSet();
+    AIArtSpec wanted{kPathArt, kArtLocked | kArtHidden, 0};
+    ai::check(suites.artSet->MatchingArtSet(&wanted, 1, set.get()));
     return membersOf(set.get());
 }
 

@@ -13,6 +13,10 @@ namespace facetta {
 /// before what it contains. Throws `ai::Error`.
 [[nodiscard]] std::vector<AIArtHandle> selectedArt();
 
+/// The paths of the current document that are neither locked nor hidden themselves; what they lie
+/// in may be. Throws `ai::Error`.
+[[nodiscard]] std::vector<AIArtHandle> freePaths();
+
 /// Every object on `layer` (not null) and its sublayers, in the same order; the groups of layers
 /// may be among them. Throws `ai::Error`.
 [[nodiscard]] std::vector<AIArtHandle> artOnLayer(AILayerHandle layer);

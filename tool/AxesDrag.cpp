@@ -154,6 +154,8 @@ void drag(ToolSession& session, const AIToolMessage& message) {
     ToolState& state = session.state;
     if (shapesAxes(state.zone) && session.keys.isDown(Key::Escape)) return escape(session);
     changeCountByKeys(session);
+    toggleSmartGuides(session, message);
+    if (state.zone == ToolZone::Axis && session.keys.isDown(Key::A)) setConstrainAngle(session);
     if (!state.dragging && !beginsDrag(state)) return;
     if (!state.dragging) beginDrag(state);
     ai::check(ai::suites.undo->UndoChanges());

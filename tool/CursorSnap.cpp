@@ -46,4 +46,9 @@ void clearSnapFeedback(SnapPointForm& form, AIDocumentViewHandle view, const AIE
     static_cast<void>(snapped(form, view, kFarAway, event, kSnapReset));
 }
 
+void hideSnapFeedback(SnapPointForm& form, AIDocumentViewHandle view, const AIEvent* event) {
+    constexpr AIRealPoint kOffTheCanvas{16384.0F, 16384.0F};
+    static_cast<void>(snapped(form, view, kOffTheCanvas, event, kSnapToNothing));
+}
+
 } // namespace facetta

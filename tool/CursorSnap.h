@@ -12,6 +12,7 @@ namespace facetta {
 inline constexpr char kSnapToAnything[] = "ATFGPLM v i o";      ///< before and at a press
 inline constexpr char kSnapWhileDragging[] = "ATFGPLM v i o f"; ///< filled areas as well
 inline constexpr char kSnapReset[] = "AP v i o";                ///< at a release
+inline constexpr char kSnapToNothing[] = "";
 
 /// Where `point` (on the page, y up) snaps to; the point itself when there is nothing near. `event`
 /// carries the keys held and may be null. `form` is found out at the first call and kept. Throws
@@ -21,5 +22,8 @@ inline constexpr char kSnapReset[] = "AP v i o";                ///< at a releas
 
 /// Takes the host's guide lines off the screen, by snapping far away from everything.
 void clearSnapFeedback(SnapPointForm& form, AIDocumentViewHandle view, const AIEvent* event);
+
+/// The same while snapping is suppressed.
+void hideSnapFeedback(SnapPointForm& form, AIDocumentViewHandle view, const AIEvent* event);
 
 } // namespace facetta

@@ -31,4 +31,7 @@ struct HostPreferences {
     double constrainAngle = 0.0;   ///< degrees
 };
 
+/// Where the host keeps its constrain angle: among the application's own preferences, in degrees.
+inline constexpr char kConstrainAnglePreference[] = "constrain/angle";
+
 } // namespace facetta

@@ -44,7 +44,7 @@ void pressCanvas(ToolSession& session, const AIToolMessage& message) {
         return;
     }
     ToolState& state = session.state;
-    state.anchor = snapToAnything(session, message);
+    state.anchor = state.snapped = snapToAnything(session, message);
     previewAt(session, state.anchor);
     axesChanged(session);
 }
@@ -64,7 +64,7 @@ void pressSector(ToolSession& session, const AIToolMessage&) {
 
 void pressAxes(ToolSession& session, const AIToolMessage& message) {
     ToolState& state = session.state;
-    state.anchor = snapToAnything(session, message);
+    state.anchor = state.snapped = snapToAnything(session, message);
     state.reposition = state.axes.onLayer && session.keys.isDown(Key::Alt);
 }
 
