@@ -1,6 +1,10 @@
 #pragma once
 
 /// What stands in for keyboard, clock and desktop where there are none.
+///
+/// The program that runs the code may stand for the keyboard and the clock: when it exports
+/// `bool headlessKeyIsDown(unsigned virtualKey)` and `uint64_t headlessTicks()` (C linkage), they
+/// are asked. Otherwise, and for the rest, it is what `surroundings` says.
 
 #include "platform/Platform.h"
 

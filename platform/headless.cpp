@@ -16,9 +16,27 @@ Surroundings& surroundings() noexcept {
 
 } // namespace headless
 
-KeyState readKeys() { return headless::surroundings().keys; }
+namespace {
+
+/// A function that the running program exports to stand for the system; null when it does not. A
+/// library loaded by a host is reached this way: it has surroundings of its own that nobody sees.
+template <typename Function> Function* offered(const char* name) noexcept {
+    return reinterpret_cast<Function*>(dlsym(RTLD_DEFAULT, name));
+}
+
+} // namespace
+
+KeyState readKeys() {
+    auto* const isDown = offered<bool(unsigned)>("headlessKeyIsDown");
+    if (isDown == nullptr) return headless::surroundings().keys;
+    KeyState keys;
+    for (unsigned key = 0; key < keys.down.size(); ++key)
+        keys.down[key] = isDown(key);
+    return keys;
+}
 
 ai::uint64 ticks() noexcept {
+    if (auto* const programTicks = offered<ai::uint64()>("headlessTicks")) return programTicks();
     if (const auto still = headless::surroundings().ticks) return *still;
     using namespace std::chrono;
     const auto sinceStart = steady_clock::now().time_since_epoch();
