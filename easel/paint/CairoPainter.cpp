@@ -249,6 +249,23 @@ Picture render(int width, int height, const std::function<void(Painter&)>& paint
     return picture;
 }
 
+std::optional<Picture> readPng(std::span<const std::byte> png) {
+    const Surface surface = decodedPng(png);
+    if (!surface) return std::nullopt;
+    const int width = cairo_image_surface_get_width(surface.get());
+    const int height = cairo_image_surface_get_height(surface.get());
+    // Painted over, because a file without transparency comes in a form without alpha.
+    const Surface whole{cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height)};
+    const Context context{cairo_create(whole.get())};
+    cairo_set_source_surface(context.get(), surface.get(), 0, 0);
+    cairo_paint(context.get());
+    cairo_surface_flush(whole.get());
+    Picture picture{width, height, {}};
+    picture.pixels.resize(4 * static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    unpack(whole.get(), picture);
+    return picture;
+}
+
 bool writePng(const Picture& picture, const std::filesystem::path& file) {
     const Surface surface{
         cairo_image_surface_create(CAIRO_FORMAT_ARGB32, picture.width, picture.height)};

@@ -386,6 +386,27 @@ Picture render(int width, int height, const std::function<void(Painter&)>& paint
     return picture;
 }
 
+std::optional<Picture> readPng(std::span<const std::byte> png) {
+    const Running running;
+    const auto bitmap = decodedPng(png);
+    if (!bitmap) return std::nullopt;
+    const auto width = static_cast<int>(bitmap->GetWidth());
+    const auto height = static_cast<int>(bitmap->GetHeight());
+    Gdiplus::BitmapData data{};
+    const Gdiplus::Rect all{0, 0, width, height};
+    if (bitmap->LockBits(&all, Gdiplus::ImageLockModeRead, PixelFormat32bppARGB, &data) !=
+        Gdiplus::Ok)
+        return std::nullopt;
+    Picture picture{width, height, {}};
+    for (int y = 0; y < height; ++y) {
+        const auto* row = static_cast<const BYTE*>(data.Scan0) + std::ptrdiff_t{y} * data.Stride;
+        for (int x = 0; x < width; ++x, row += 4) // GDI+ has blue first
+            picture.pixels.insert(picture.pixels.end(), {row[2], row[1], row[0], row[3]});
+    }
+    bitmap->UnlockBits(&data);
+    return picture;
+}
+
 bool writePng(const Picture& picture, const std::filesystem::path& file) {
     const Running running;
     std::vector<std::uint8_t> swapped = picture.pixels; // GDI+ has blue first

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <optional>
+#include <span>
 #include <vector>
 
 namespace easel::paint {
@@ -27,6 +29,15 @@ constexpr std::int64_t kMostPixels = 200'000'000;
 /// several times, each time for a part of the picture, and must then paint the same. Throws
 /// std::length_error when the size is beyond the limits or not positive.
 [[nodiscard]] Picture render(int width, int height, const std::function<void(Painter&)>& paint);
+
+/// The picture in the bytes of a PNG file; nothing when they are none.
+[[nodiscard]] std::optional<Picture> readPng(std::span<const std::byte> png);
+
+/// The share of pixels, 0 to 1, of which a channel differs by more than `kVisibleDifference`;
+/// transparent pixels are alike whatever their colour. 1 when the sizes differ.
+[[nodiscard]] double difference(const Picture& a, const Picture& b);
+/// Of 255. Two painters' smoothed edges stay below it almost everywhere.
+constexpr int kVisibleDifference = 48;
 
 /// False when the file cannot be written.
 [[nodiscard]] bool writePng(const Picture& picture, const std::filesystem::path& file);
