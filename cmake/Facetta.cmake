@@ -133,11 +133,17 @@ function(facetta_tests name)
     add_executable(${name}_tests ${arg_SOURCES})
     target_link_libraries(${name}_tests PRIVATE facetta_test_main ${depends})
     add_test(NAME ${name}_tests COMMAND ${name}_tests WORKING_DIRECTORY ${CMAKE_SOURCE_DIR})
-    set_tests_properties(${name}_tests PROPERTIES TIMEOUT ${arg_TIMEOUT} LABELS "${arg_LABELS}"
+    set_tests_properties(${name}_tests PROPERTIES TIMEOUT ${arg_TIMEOUT} LABELS "${arg_LABELS}")
+    facetta_runs_program(${name}_tests)
+endfunction()
+
+# What every test needs that runs a program of ours.
+function(facetta_runs_program test)
+    set_tests_properties(${test} PROPERTIES
         ENVIRONMENT "ASAN_OPTIONS=detect_stack_use_after_return=1;UBSAN_OPTIONS=print_stacktrace=1;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/leaks-of-others.txt:print_suppressions=0")
     if(WIN32)
         # Two programs that open windows in one Wine prefix can wait for each other for ever.
-        set_tests_properties(${name}_tests PROPERTIES RESOURCE_LOCK wine FIXTURES_REQUIRED wine)
+        set_tests_properties(${test} PROPERTIES RESOURCE_LOCK wine FIXTURES_REQUIRED wine)
     endif()
 endfunction()
 

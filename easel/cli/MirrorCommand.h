@@ -1,18 +1,12 @@
 #pragma once
 
+#include "easel/cli/ExitStatus.h"
 #include "easel/cli/MirrorSession.h"
 
 #include <filesystem>
 #include <ostream>
 
 namespace easel {
-
-/// How a program ends; scripts rely on the numbers.
-enum class ExitStatus : int {
-    Done = 0,
-    Fault = 1, ///< The input, the drawing or the plug-in is at fault: a line on standard error.
-    Usage = 2, ///< The command line is.
-};
 
 struct MirrorCommand {
     MirrorRequest request;

@@ -2,7 +2,6 @@
 
 #include "easel/document/Attributes.h"
 #include "easel/document/Layers.h"
-#include "easel/svg/SvgFile.h"
 
 #include <cmath>
 #include <numbers>
@@ -60,35 +59,12 @@ void selectLayer(Document& document, Art& layer) {
 
 } // namespace
 
-MirrorSession::~MirrorSession() {
-    if (running_) host.quit();
-}
-
 void MirrorSession::prepare(const MirrorRequest& request) {
     host.preferences.put(kSettings, "FTAngle", radians(request.angleDegrees));
     host.preferences.put(kSettings, "FTCount", ai::int32{request.axes});
     host.preferences.put(kSettings, "FTInitDragPO", true);
     host.preferences.put(kSettings, "FTApplySel", request.mode == MirrorMode::Selection);
     host.preferences.put(kSettings, "FTRemovePoints", !request.keepPoints);
-}
-
-void MirrorSession::start() {
-    host.user.browserAvailable = false; // a plug-in's first start would open a page for nobody
-    try {
-        running_ = true;
-        host.start();
-    } catch (const ai::Error& error) {
-        throw SessionError("the plug-in's library cannot be loaded: " + codeText(error.code));
-    }
-    for (const auto& [handle, plugin] : host.plugins)
-        if (plugin->broken) throw SessionError(plugin->name + ": the plug-in did not start");
-}
-
-std::vector<std::string> MirrorSession::open(const std::filesystem::path& file) {
-    svg::OpenedDrawing drawing = svg::readSvg(file);
-    drawing.document->path = file;
-    host.open(std::move(drawing.document));
-    return std::move(drawing.warnings);
 }
 
 void MirrorSession::choose(const MirrorRequest& request) {
@@ -140,43 +116,6 @@ void MirrorSession::checkAnswers(std::size_t first) const {
             throw SessionError(message.plugin + " answered " + codeText(message.result) + " to " +
                                message.caller + '/' + message.selector);
     }
-}
-
-void MirrorSession::save(const std::filesystem::path& file) {
-    host.beforeSaving();
-    svg::writeSvg(currentDocument(), file);
-    host.afterSaving();
-}
-
-std::vector<std::string> MirrorSession::finish() {
-    running_ = false;
-    host.quit();
-    return host.complaints();
-}
-
-void addPluginLibrary(Host& host, const std::filesystem::path& file) {
-    try {
-        host.addPlugins(file);
-    } catch (const ai::Error& error) {
-        const std::string name = file.string();
-        if (error.code == kSPPluginNotFoundError)
-            throw SessionError(name + ": there is no plug-in; --plugin FILE names another");
-        throw SessionError(name + ": not a plug-in that can be loaded: " + codeText(error.code));
-    }
-}
-
-std::filesystem::path defaultPluginLibrary() {
-    const std::filesystem::path program = programFolder();
-    const std::filesystem::path name = pluginFileName();
-    const std::filesystem::path places[] = {
-        program / name,
-        program / "dist" / name,
-        program.parent_path() / "dist" / name,
-        std::filesystem::current_path() / "dist" / name,
-    };
-    for (const std::filesystem::path& place : places)
-        if (std::filesystem::exists(place)) return place;
-    return places[0];
 }
 
 } // namespace easel

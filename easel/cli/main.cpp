@@ -1,6 +1,8 @@
 #include "easel/cli/Info.h"
 #include "easel/cli/MirrorCommand.h"
+#include "easel/cli/PlayCommand.h"
 #include "easel/cli/Terminal.h"
+#include "easel/script/Commands.h"
 
 #include "Version.h"
 
@@ -108,6 +110,42 @@ ExitStatus info(InfoWords& words) {
     }
 }
 
+struct PlayWords {
+    std::vector<std::string> scripts;
+    std::string output = ".";
+    std::string plugin;
+    bool commands = false;
+};
+
+void addPlay(CLI::App& app, PlayWords& words) {
+    CLI::App* const play = app.add_subcommand("play", "Replay what a user does, from scripts");
+    auto* const scripts =
+        play->add_option("scripts", words.scripts, "Scripts, or folders of *.play files");
+    scripts->type_name("SCRIPT");
+    play->add_option("-o,--output", words.output,
+                     "The folder for what scripts save and for pictures of failures")
+        ->type_name("DIR");
+    play->add_option("--plugin", words.plugin, "The plug-in's library")->type_name("FILE");
+    play->add_flag("--commands", words.commands, "Tell the commands of scripts instead")
+        ->excludes(scripts);
+    play->callback([&words] {
+        if (words.scripts.empty() && !words.commands) throw CLI::RequiredError("SCRIPT");
+    });
+}
+
+ExitStatus play(const PlayWords& words) {
+    if (words.commands) {
+        std::cout << easel::script::languageTables();
+        return ExitStatus::Done;
+    }
+    easel::PlayCommand command;
+    for (const std::string& each : words.scripts)
+        command.scripts.push_back(easel::pathFromUtf8(each));
+    command.output = easel::pathFromUtf8(words.output);
+    command.plugin = easel::pathFromUtf8(words.plugin);
+    return easel::runPlay(command, std::cout, std::cerr);
+}
+
 /// Takes the arguments without the program's name.
 int run(std::vector<std::string> arguments) {
     CLI::App app{"Easel opens drawings, mirrors them with the Facetta plug-in and saves them.",
@@ -118,15 +156,18 @@ int run(std::vector<std::string> arguments) {
     MirrorWords mirrorWords;
     InfoWords infoWords;
     addMirror(app, mirrorWords);
+    PlayWords playWords;
     addInfo(app, infoWords);
+    addPlay(app, playWords);
     try {
         std::reverse(arguments.begin(), arguments.end()); // the parser takes them from the back
         app.parse(std::move(arguments));
     } catch (const CLI::ParseError& error) {
         return static_cast<int>(app.exit(error) == 0 ? ExitStatus::Done : ExitStatus::Usage);
     }
-    const bool asksInfo = app.got_subcommand("info");
-    return static_cast<int>(asksInfo ? info(infoWords) : mirror(mirrorWords));
+    if (app.got_subcommand("info")) return static_cast<int>(info(infoWords));
+    if (app.got_subcommand("play")) return static_cast<int>(play(playWords));
+    return static_cast<int>(mirror(mirrorWords));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "easel/core/Text.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
@@ -10,8 +11,9 @@
 namespace easel {
 namespace {
 
-constexpr const char* kKindNames[] = {"line", "rect",   "polygon", "ellipse", "text",    "text in",
-                                      "png",  "png in", "clip {",  "clip }",  "clip off"};
+constexpr const char* kKindNames[] = {"line",   "rect",   "polygon", "ellipse",
+                                      "bezier", "text",   "text in", "png",
+                                      "png in", "clip {", "clip }",  "clip off"};
 
 constexpr AIReal kCharacterWidth = 0.5F; ///< Of the font size.
 constexpr AIReal kLineHeight = 1.2F;     ///< Of the font size.
@@ -58,4 +60,14 @@ AIRect textBounds(const std::u32string& text, AIReal fontSize) {
 void AIAnnotatorDrawer::add(easel::DrawCommand command) {
     command.style = style;
     list.push_back(std::move(command));
+}
+
+void AIAnnotatorDrawer::endClip() {
+    using Kind = easel::DrawCommand::Kind;
+    const auto marks = [](const easel::DrawCommand& command) {
+        return command.kind == Kind::ClipStart || command.kind == Kind::ClipClear;
+    };
+    const auto last = std::find_if(list.rbegin(), list.rend(), marks);
+    if (last != list.rend() && last->kind == Kind::ClipStart)
+        add({.kind = Kind::ClipClear, .style = {}});
 }

@@ -8,17 +8,18 @@
 
 namespace easel {
 
-/// The state of an annotator's pen. Each draw message starts with this one: nothing carries over
-/// from one annotator to the next.
+/// The state of an annotator's pen. Its points are pixels of the view, as the coordinates are:
+/// an annotation is as wide and its letters as tall at every zoom. Each draw message starts with
+/// this one: nothing carries over from one annotator to the next.
 struct DrawStyle {
     AIRGBColor colour{0, 0, 0};
-    AIReal lineWidth = 1; ///< Document points.
+    AIReal lineWidth = 1;
     bool dashed = false;
-    std::vector<AIFloat> dashes{4, 4}; ///< Document points, on and off in turn.
+    std::vector<AIFloat> dashes{4, 4}; ///< On and off in turn.
     AIReal opacity = 1;
     bool highlight = false;
-    bool smooth = false;  ///< Anti-aliased.
-    AIReal fontSize = 11; ///< Document points.
+    bool smooth = false; ///< Anti-aliased.
+    AIReal fontSize = 11;
     std::u32string fontName = U"Tahoma";
 };
 
@@ -29,6 +30,7 @@ struct DrawCommand {
         Rect,
         Polygon,
         Ellipse,
+        Bezier,
         Text,
         TextInRect,
         Png,
@@ -39,8 +41,9 @@ struct DrawCommand {
     };
     Kind kind;
     DrawStyle style;
-    /// Line: both ends. Rect, Ellipse and what lies in a rectangle: top left and bottom right.
-    /// Text: its bottom left. Png: its top left.
+    /// Line: both ends. Bezier: an anchor, then handle, handle and anchor in turns. Rect, Ellipse
+    /// and what lies in a rectangle: top left and bottom right. Text: its bottom left. Png: its top
+    /// left.
     std::vector<AIPoint> points = {};
     bool fill = false;
     std::u32string text = {};
@@ -68,4 +71,6 @@ public:
 
     /// Adds a command in the present style.
     void add(easel::DrawCommand command);
+    /// Clears the clip if there is one, so that it does not reach the next annotator.
+    void endClip();
 };

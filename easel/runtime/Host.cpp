@@ -278,6 +278,7 @@ void Host::collectChanges() {
     };
     for (const auto& document : documents_) {
         const DocumentChanges changes = document->takeChanges();
+        if (changes.any()) redrawLater();
         for (const Row& row : kRows)
             if (changes.*row.what) queue(row.type);
     }
@@ -310,6 +311,7 @@ Document& Host::open(std::unique_ptr<Document> opened) {
 void Host::activate(Document& document) {
     if (session().current == &document) return;
     contexts.switchTo(&document);
+    redrawLater();
     queue("AI Document View Style Active View Changed Notifier");
     queue("AI Document Changed Notifier");
     idle();

@@ -152,8 +152,25 @@ public:
     void decreaseDiameter();
     void increaseDiameter();
 
+    // The window
+    void zoom(AIReal factor);
+    /// What lies in the middle of the window; soft coordinates.
+    void centreOn(AIRealPoint centre);
+    /// In pixels; what lay in the middle stays there.
+    void resizeView(ai::int32 width, ai::int32 height);
+    void setDarkTheme(bool dark);
+    /// Degrees; what Shift and the host's own tools go by.
+    void setConstrainAngle(double degrees);
+    /// Queues what a view that has moved or changed its size on screen leads to.
+    void noteViewMoved();
+    /// The window no longer shows what there is; it will be painted when there is time.
+    void redrawLater() noexcept { stale_ = true; }
+    [[nodiscard]] bool needsRedraw() const noexcept {
+        return stale_ || !annotators.invalid.empty();
+    }
+
     // Annotations
-    /// Asks all active annotators to draw into `view`, and clears the invalid areas.
+    /// Asks all active annotators to draw into `view`; then nothing needs to be redrawn.
     [[nodiscard]] DisplayList drawAnnotations(AIDocumentViewHandle view);
     void invalidateAnnotations(AIDocumentViewHandle view);
 
@@ -212,6 +229,7 @@ private:
     bool inAccessMessage_ = false;
     bool updatingMenus_ = false;
     bool inIdle_ = false;
+    bool stale_ = false;
 };
 
 /// The host that is running. There must be one.

@@ -130,10 +130,12 @@ DisplayList Host::drawAnnotations(AIDocumentViewHandle handle) {
         message.drawer = &drawer;
         send(annotator->plugin, kCallerAnnotation, kSelectorDraw, message, annotator->name,
              kSilentUndoContext);
+        drawer.endClip();
         all.insert(all.end(), std::make_move_iterator(drawer.list.begin()),
                    std::make_move_iterator(drawer.list.end()));
     }
     annotators.invalid.clear();
+    stale_ = false;
     return all;
 }
 

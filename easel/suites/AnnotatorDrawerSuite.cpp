@@ -78,6 +78,16 @@ AIErr drawEllipse(AIAnnotatorDrawer* drawer, const AIRect& rect, AIBoolean fill)
                {.kind = Kind::Ellipse, .style = {}, .points = cornersOf(rect), .fill = fill != 0});
 }
 
+AIErr drawBezier(AIAnnotatorDrawer* drawer, const AIPoint& start, const AIPoint (*sets)[3],
+                 ai::uint32 count, AIBoolean fill) {
+    std::vector<AIPoint> points{start};
+    points.reserve(1 + 3 * std::size_t{count});
+    const AIPoint* const first = &required(sets)[0];
+    points.insert(points.end(), first, first + 3 * std::ptrdiff_t{count});
+    return add(drawer,
+               {.kind = Kind::Bezier, .style = {}, .points = std::move(points), .fill = fill != 0});
+}
+
 AIErr setDashes(AIAnnotatorDrawer* drawer, AIFloat* dashes, ai::int32 count) {
     if (count < 1) throw ai::Error{kBadParameterErr};
     if (count > kMostDashes) throw ai::Error{kDashTooBig};
@@ -185,6 +195,7 @@ void installAnnotatorDrawerSuite(SuiteServer& server) {
     expose<&Suite::DrawRect, drawRect>(table);
     expose<&Suite::DrawPolygon, drawPolygon>(table);
     expose<&Suite::DrawEllipse, drawEllipse>(table);
+    expose<&Suite::DrawBezier, drawBezier>(table);
     expose<&Suite::SetLineDashedEx, setDashes>(table);
     expose<&Suite::GetLineDashedEx, getDashes>(table);
     expose<&Suite::DrawText, drawText>(table);

@@ -78,9 +78,10 @@ AIErr setModified(AIBoolean modified) {
     return kNoErr;
 }
 
-/// Easel paints after each message anyway.
+/// The painting comes later, when the message has been answered.
 AIErr redraw() {
     static_cast<void>(currentDocument());
+    host().redrawLater();
     return kNoErr;
 }
 

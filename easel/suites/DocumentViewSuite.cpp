@@ -15,9 +15,6 @@ using ViewRef = AIDocumentViewHandle;
 
 DocumentView& at(ViewRef view) { return host().view(view); }
 
-/// What shows the document has moved or changed its size on screen.
-void noteMoved() { host().queue("AI Document View Changed Notifier"); }
-
 AIErr getBounds(ViewRef view, AIRealRect* bounds) {
     required(bounds) = visibleArtwork(at(view));
     return kNoErr;
@@ -30,7 +27,7 @@ AIErr getCentre(ViewRef view, AIRealPoint* centre) {
 
 AIErr setCentre(ViewRef view, const AIRealPoint* centre) {
     at(view).centre = required(centre);
-    noteMoved();
+    host().noteViewMoved();
     return kNoErr;
 }
 
@@ -42,7 +39,7 @@ AIErr getZoom(ViewRef view, AIReal* zoom) {
 AIErr setZoomOf(ViewRef view, AIReal zoom) {
     if (!std::isfinite(zoom)) throw ai::Error{kBadParameterErr};
     setZoom(at(view), zoom);
-    noteMoved();
+    host().noteViewMoved();
     return kNoErr;
 }
 
@@ -88,7 +85,7 @@ AIErr scroll(ViewRef view, AIRealPoint* delta) {
     DocumentView& scrolled = at(view);
     scrolled.centre.h += required(delta).h;
     scrolled.centre.v += delta->v;
-    noteMoved();
+    host().noteViewMoved();
     return kNoErr;
 }
 
@@ -99,6 +96,7 @@ AIErr getInvalidRect(ViewRef view, AIRealRect* rect) {
 
 AIErr setInvalidRect(ViewRef view, const AIRealRect* rect) {
     at(view).invalid = required(rect);
+    host().redrawLater();
     return kNoErr;
 }
 
@@ -145,7 +143,7 @@ AIErr getDocumentOf(ViewRef view, AIDocumentHandle* document) {
 AIErr setStyle(ViewRef view, ai::int16 mask, ai::int16 style) {
     DocumentView& changed = at(view);
     changed.style = static_cast<ai::int16>((changed.style & ~mask) | (style & mask));
-    noteMoved();
+    host().noteViewMoved();
     return kNoErr;
 }
 

@@ -20,7 +20,10 @@ struct AIAnnotatorDrawerSuite {
     AIErr (*DrawRect)(AIAnnotatorDrawer*, const AIRect&, AIBoolean);
     AIErr (*DrawPolygon)(AIAnnotatorDrawer*, const AIPoint*, ai::uint32, AIBoolean);
     AIErr (*DrawEllipse)(AIAnnotatorDrawer*, const AIRect&, AIBoolean);
-    ReservedSlot DrawBezier;
+    /// Each set: the handle that leaves the former anchor, the one that enters the next, and that
+    /// anchor itself.
+    AIErr (*DrawBezier)(AIAnnotatorDrawer*, const AIPoint&, const AIPoint (*)[3], ai::uint32,
+                        AIBoolean);
     AIErr (*SetLineDashedEx)(AIAnnotatorDrawer*, AIFloat*, ai::int32);
     AIErr (*GetLineDashedEx)(AIAnnotatorDrawer*, AIFloat*, ai::int32&);
     AIErr (*DrawText)(AIAnnotatorDrawer*, const ai::UnicodeString&, const AIPoint&);

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "easel/cli/ExitStatus.h"
+
+#include <filesystem>
+#include <ostream>
+#include <vector>
+
+namespace easel {
+
+struct PlayCommand {
+    std::vector<std::filesystem::path> scripts; ///< A folder stands for all "*.play" in it.
+    std::filesystem::path output = ".";         ///< Where results and kept pictures go.
+    std::filesystem::path plugin;               ///< Empty: the default.
+};
+
+/// `easel play`: a line on `out` for each script that went as it should; on `error` one for all
+/// else. `Fault` when any script has a mistake or did not go as it should.
+[[nodiscard]] ExitStatus runPlay(const PlayCommand& command, std::ostream& out,
+                                 std::ostream& error);
+
+} // namespace easel

@@ -1,0 +1,230 @@
+#include "easel/paint/PaintAnnotations.h"
+
+#include "easel/core/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+
+namespace easel::paint {
+namespace {
+
+using Kind = DrawCommand::Kind;
+
+constexpr double kPixelMiddle = 0.5;
+
+// Of a font's size, for the common sans-serif faces.
+constexpr double kCapitalHeight = 0.72;
+constexpr double kAscent = 0.95;
+constexpr double kDescent = 0.23;
+
+/// The handle length that makes four cubics a circle of radius 1: 4/3 (sqrt(2) - 1).
+constexpr double kCircleHandle = 4.0 / 3.0 * (std::numbers::sqrt2 - 1.0);
+
+Point middleOf(AIPoint pixel) { return {pixel.h + kPixelMiddle, pixel.v + kPixelMiddle}; }
+
+Outline polygon(const std::vector<AIPoint>& points, bool closed) {
+    svg::Subpath subpath;
+    for (const AIPoint point : points)
+        subpath.anchors.push_back(svg::cornerAt(middleOf(point)));
+    subpath.closed = closed;
+    return {std::move(subpath)};
+}
+
+Outline rectangle(AIPoint from, AIPoint to) {
+    return polygon({from, {to.h, from.v}, to, {from.h, to.v}}, true);
+}
+
+Outline ellipse(AIPoint from, AIPoint to) {
+    const Point a = middleOf(from);
+    const Point b = middleOf(to);
+    const Point centre = 0.5 * (a + b);
+    const Point radius = 0.5 * (b - a);
+    const auto at = [&](double x, double y) {
+        return Point{centre.x + radius.x * x, centre.y + radius.y * y};
+    };
+    constexpr double k = kCircleHandle;
+    return {{{{at(1, 0), at(1, -k), at(1, k)},
+              {at(0, 1), at(k, 1), at(-k, 1)},
+              {at(-1, 0), at(-1, k), at(-1, -k)},
+              {at(0, -1), at(-k, -1), at(k, -1)}},
+             true}};
+}
+
+Outline bezier(const std::vector<AIPoint>& points) {
+    svg::Subpath subpath;
+    subpath.anchors.push_back(svg::cornerAt(middleOf(points.front())));
+    for (std::size_t i = 1; i + 2 < points.size(); i += 3)
+        svg::appendCurve(subpath, middleOf(points[i]), middleOf(points[i + 1]),
+                         middleOf(points[i + 2]));
+    return {std::move(subpath)};
+}
+
+/// Nothing for what is no shape.
+Outline outlineOf(const DrawCommand& command) {
+    switch (command.kind) {
+    case Kind::Line:
+        return polygon(command.points, false);
+    case Kind::Rect:
+        return rectangle(command.points[0], command.points[1]);
+    case Kind::Polygon:
+        return polygon(command.points, true);
+    case Kind::Ellipse:
+        return ellipse(command.points[0], command.points[1]);
+    case Kind::Bezier:
+        return bezier(command.points);
+    default:
+        return {};
+    }
+}
+
+/// Twice the area that the anchors enclose, with a sign for the sense in which they go round.
+double turningSense(const svg::Subpath& subpath) {
+    double sum = 0;
+    for (std::size_t i = 0; i < subpath.anchors.size(); ++i) {
+        const Point a = subpath.anchors[i].p;
+        const Point b = subpath.anchors[(i + 1) % subpath.anchors.size()].p;
+        sum += a.x * b.y - a.y * b.x;
+    }
+    return sum;
+}
+
+/// Goes round as its neighbours in a clip do, so that together they cover what each covers.
+svg::Subpath turnedAlike(svg::Subpath subpath) {
+    if (turningSense(subpath) >= 0) return subpath;
+    std::reverse(subpath.anchors.begin(), subpath.anchors.end());
+    for (svg::Anchor& anchor : subpath.anchors)
+        std::swap(anchor.in, anchor.out);
+    return subpath;
+}
+
+Ink inkOf(const DrawStyle& style) {
+    const auto channel = [](ai::uint16 value) { return static_cast<float>(value) / 65535.0F; };
+    return {{channel(style.colour.red), channel(style.colour.green), channel(style.colour.blue),
+             static_cast<float>(style.opacity)},
+            nullptr,
+            {}};
+}
+
+Pen penOf(const DrawStyle& style) {
+    Pen pen;
+    pen.width = static_cast<double>(style.lineWidth);
+    if (style.dashed) pen.dashes.assign(style.dashes.begin(), style.dashes.end());
+    return pen;
+}
+
+svg::Font fontOf(const DrawStyle& style) {
+    return {utf8FromUtf32(style.fontName), static_cast<double>(style.fontSize), false, false};
+}
+
+/// Walks over the list with the clip that it has defined so far.
+class AnnotationPainter {
+public:
+    explicit AnnotationPainter(Painter& painter) : painter_(painter) {}
+    ~AnnotationPainter() { endClip(); }
+    AnnotationPainter(const AnnotationPainter&) = delete;
+    AnnotationPainter& operator=(const AnnotationPainter&) = delete;
+
+    void paint(const DrawCommand& command) {
+        switch (command.kind) {
+        case Kind::ClipStart:
+            endClip();
+            defining_ = true;
+            return;
+        case Kind::ClipEnd:
+            return beginClip();
+        case Kind::ClipClear:
+            return endClip();
+        case Kind::Text:
+            return paintText(command, middleOf(command.points[0]));
+        case Kind::TextInRect:
+            return paintText(command, startInRect(command));
+        case Kind::Png:
+        case Kind::PngInRect:
+            return paintImage(command);
+        default:
+            return paintShape(command);
+        }
+    }
+
+private:
+    void paintShape(const DrawCommand& command) {
+        const Outline outline = outlineOf(command);
+        if (defining_) {
+            for (const svg::Subpath& subpath : outline)
+                clip_.push_back(turnedAlike(subpath));
+            return;
+        }
+        const Ink ink = inkOf(command.style);
+        if (command.fill)
+            painter_.fill(outline, FillRule::NonZero, ink);
+        else
+            painter_.stroke(outline, penOf(command.style), ink);
+    }
+
+    void beginClip() {
+        if (!defining_) return;
+        defining_ = false;
+        painter_.save();
+        painter_.clip(clip_, FillRule::NonZero);
+        clip_.clear();
+        clipped_ = true;
+    }
+
+    void endClip() {
+        defining_ = false;
+        clip_.clear();
+        if (clipped_) painter_.restore();
+        clipped_ = false;
+    }
+
+    /// The baseline stands on whole pixels: letters are sharpest there.
+    void paintText(const DrawCommand& command, Point start) {
+        painter_.text(utf8FromUtf32(command.text), fontOf(command.style),
+                      {start.x, std::round(start.y)}, inkOf(command.style));
+    }
+
+    Point startInRect(const DrawCommand& command) {
+        const Point from = middleOf(command.points[0]);
+        const Point to = middleOf(command.points[1]);
+        const svg::Font font = fontOf(command.style);
+        const double width = painter_.textWidth(utf8FromUtf32(command.text), font);
+        const std::array<double, 3> lefts = {from.x, (from.x + to.x - width) / 2, to.x - width};
+        const std::array<double, 3> baselines = {from.y + kAscent * font.size,
+                                                 (from.y + to.y + kCapitalHeight * font.size) / 2,
+                                                 to.y - kDescent * font.size};
+        const auto row = [](auto alignment) {
+            return static_cast<std::size_t>(std::clamp<int>(alignment, 0, 2));
+        };
+        return {lefts.at(row(command.horizontal)), baselines.at(row(command.vertical))};
+    }
+
+    void paintImage(const DrawCommand& command) {
+        const std::span<const std::byte> png = std::as_bytes(std::span{command.png});
+        const Point size = painter_.imageSize(png);
+        const AIPoint first = command.points.front();
+        Point corner{static_cast<double>(first.h), static_cast<double>(first.v)};
+        if (command.kind == Kind::PngInRect) {
+            const AIPoint last = command.points.back();
+            corner = {std::round((first.h + last.h - size.x) / 2),
+                      std::round((first.v + last.v - size.y) / 2)};
+        }
+        painter_.image(png, corner, size);
+    }
+
+    Painter& painter_;
+    Outline clip_;
+    bool defining_ = false;
+    bool clipped_ = false;
+};
+
+} // namespace
+
+void paintAnnotations(const DisplayList& list, Painter& painter) {
+    AnnotationPainter annotations{painter};
+    for (const DrawCommand& command : list)
+        annotations.paint(command);
+}
+
+} // namespace easel::paint

@@ -1,0 +1,406 @@
+#include "easel/script/Commands.h"
+
+#include "easel/core/Text.h"
+#include "easel/document/Attributes.h"
+#include "easel/document/Dump.h"
+#include "easel/document/Layers.h"
+#include "easel/script/System.h"
+#include "easel/svg/Content.h"
+
+#include <algorithm>
+
+namespace easel::script {
+namespace {
+
+constexpr const char* kSwitch[] = {"off", "on"};
+constexpr const char* kThemes[] = {"light", "dark"};
+constexpr int kMostSteps = 100'000;
+
+// Drawings
+
+Action readOpen(Arguments& arguments) {
+    return [name = arguments.text("file")](Player& player) {
+        player.session().open(player.input(name));
+    };
+}
+
+Action readNew(Arguments& arguments) {
+    const double width = arguments.number("width");
+    const double height = arguments.number("height");
+    if (!(width >= 1 && height >= 1 && width <= kCanvasSide && height <= kCanvasSide))
+        throw Mistake("a page is 1 to 16383 points wide and high");
+    return [=](Player& player) {
+        const AISize size{static_cast<AIReal>(width), static_cast<AIReal>(height)};
+        player.host().open(std::make_unique<Document>(size));
+    };
+}
+
+Action readSave(Arguments& arguments) {
+    return [name = arguments.text("file")](Player& player) {
+        static_cast<void>(player.document());
+        player.session().save(player.output(name));
+    };
+}
+
+Art& layerNamed(Document& document, const std::string& title) {
+    if (Art* const layer = findLayer(document, title)) return *layer;
+    throw SessionError("there is no layer \"" + title + '"');
+}
+
+template <ai::int32 Flag, bool On> void setFlag(Document& document, const std::string& title) {
+    setUserAttributes(layerNamed(document, title), Flag, On ? Flag : 0);
+}
+
+/// What the Layers panel does to the layer of that title.
+struct LayerDeed {
+    const char* name;
+    const char* undoText;
+    void (*change)(Document&, const std::string& title);
+};
+constexpr LayerDeed kLayerDeeds[] = {
+    {"choose", "Choose Layer",
+     [](Document& document, const std::string& title) {
+         setCurrentLayer(document, layerNamed(document, title));
+     }},
+    {"add", "New Layer",
+     [](Document& document, const std::string& title) {
+         setCurrentLayer(document, createLayer(document, title, onTopOf(document.root())));
+     }},
+    {"delete", "Delete Layer",
+     [](Document& document, const std::string& title) {
+         deleteLayer(layerNamed(document, title));
+     }},
+    {"lock", "Lock Layer", setFlag<kArtLocked, true>},
+    {"unlock", "Unlock Layer", setFlag<kArtLocked, false>},
+    {"hide", "Hide Layer", setFlag<kArtHidden, true>},
+    {"show", "Show Layer", setFlag<kArtHidden, false>},
+};
+
+Action readLayer(Arguments& arguments) {
+    std::vector<const char*> names;
+    for (const LayerDeed& deed : kLayerDeeds)
+        names.push_back(deed.name);
+    const LayerDeed& deed = kLayerDeeds[arguments.choice("deed with layers", names)];
+    return [&deed, title = arguments.text("title")](Player& player) {
+        static_cast<void>(player.document());
+        const bool isChoice = &deed == &kLayerDeeds[0];
+        player.host().edit(
+            deed.undoText, [&](Document& document) { deed.change(document, title); },
+            isChoice ? kSilentUndoContext : kStandardUndoContext);
+    };
+}
+
+/// Art goes by the id of its element or by its name.
+bool goesBy(const Art& art, const std::string& id) {
+    if (art.details().name == id) return true;
+    const svg::DrawingSource* const source = svg::sourceOf(art.document());
+    const svg::ElementSource* const element = source != nullptr ? source->find(art) : nullptr;
+    return element != nullptr && element->attributes.find(" id=\"" + id + '"') != std::string::npos;
+}
+
+std::vector<Art*> artNamed(const Document& document, const std::string& id) {
+    std::vector<Art*> found;
+    const Art& root = document.root();
+    for (Art* art = nextInPreorder(root, root); art != nullptr; art = nextInPreorder(*art, root))
+        if (!art->isLayer() && goesBy(*art, id)) found.push_back(art);
+    if (found.empty()) throw SessionError("no art has the id or name \"" + id + '"');
+    return found;
+}
+
+Action readSelect(Arguments& arguments) {
+    if (arguments.take("all"))
+        return [](Player& player) {
+            static_cast<void>(player.document());
+            player.host().edit("Select All", selectAll, kSilentUndoContext);
+        };
+    std::vector<std::string> ids;
+    if (!arguments.take("none")) do
+            ids.push_back(arguments.text("id"));
+        while (!arguments.atEnd());
+    return [ids](Player& player) {
+        static_cast<void>(player.document());
+        const auto change = [&](Document& document) {
+            deselectAll(document);
+            for (const std::string& id : ids)
+                for (Art* const art : artNamed(document, id))
+                    select(*art, true);
+        };
+        player.host().edit("Select", change, kSilentUndoContext);
+    };
+}
+
+Action readDelete(Arguments& arguments) {
+    return [id = arguments.text("id")](Player& player) {
+        static_cast<void>(player.document());
+        player.host().edit("Clear", [&](Document& document) {
+            for (Art* const art : artNamed(document, id))
+                disposeArt(*art);
+        });
+    };
+}
+
+// The tool box
+
+void chooseTool(Player& player, const std::string& name) {
+    Tools& tools = player.host().tools;
+    try {
+        const AIToolType number = tools.numberOf(name);
+        player.host().selectTool(tools.handleOf(number), number);
+    } catch (const ai::Error& error) {
+        if (error.code != kBadParameterErr) throw;
+        throw SessionError("there is no tool \"" + name + '"');
+    }
+}
+
+Action readTool(Arguments& arguments) {
+    if (arguments.take("options")) return [](Player& player) { player.host().editToolOptions(); };
+    return [name = arguments.text("name")](Player& player) { chooseTool(player, name); };
+}
+
+Action readKey(Arguments& arguments) {
+    constexpr const char* kTaps[] = {"[", "]"};
+    const bool up = arguments.choice("key that a tool is told of", kTaps) == 1;
+    const int count = arguments.atEnd() ? 1 : arguments.whole("number of taps", 1, 1000);
+    return [=](Player& player) {
+        for (int i = 0; i < count; ++i)
+            up ? player.host().increaseDiameter() : player.host().decreaseDiameter();
+    };
+}
+
+// The mouse
+
+Action readMove(Arguments& arguments) {
+    return [place = arguments.place("place")](Player& player) { player.moveTo(place); };
+}
+
+Action readPress(Arguments& arguments) {
+    return [place = arguments.place("place")](Player& player) { player.pressAt(place); };
+}
+
+Action readDrag(Arguments& arguments) {
+    const Place place = arguments.place("place");
+    const int steps = arguments.take("in") ? arguments.whole("number of steps", 1, kMostSteps) : 1;
+    return [=](Player& player) { player.dragTo(place, steps); };
+}
+
+Action readRelease(Arguments& arguments) {
+    std::optional<Place> place;
+    if (!arguments.atEnd()) place = arguments.place("place");
+    return [place](Player& player) { player.releaseAt(place); };
+}
+
+Action readClick(Arguments& arguments) {
+    return [place = arguments.place("place")](Player& player) {
+        player.pressAt(place);
+        player.releaseAt(place);
+    };
+}
+
+// Menus and history
+
+AIMenuItemHandle menuItemNamed(Menus& menus, const std::string& name) {
+    if (const AIMenuItemHandle item = menus.itemNamed(name)) return item;
+    const std::u32string text = utf32FromUtf8(name);
+    const AIMenuItemHandle item =
+        menus.items.findIf([&](const MenuItem& each) { return each.text == text; });
+    if (item == nullptr) throw SessionError("there is no menu item \"" + name + '"');
+    return item;
+}
+
+Action readMenu(Arguments& arguments) {
+    return [name = arguments.text("item")](Player& player) {
+        Host& host = player.host();
+        host.openMenus();
+        const AIMenuItemHandle item = menuItemNamed(host.menus, name);
+        if (!host.menus.items.at(item).enabled)
+            throw SessionError("the menu item \"" + name + "\" is disabled");
+        host.chooseMenuItem(item);
+    };
+}
+
+Action readUndo(Arguments&) {
+    return [](Player& player) {
+        static_cast<void>(player.document());
+        if (!player.host().undo()) throw SessionError("there is nothing to undo");
+    };
+}
+
+Action readRedo(Arguments&) {
+    return [](Player& player) {
+        static_cast<void>(player.document());
+        if (!player.host().redo()) throw SessionError("there is nothing to redo");
+    };
+}
+
+Action readRemember(Arguments& arguments) {
+    return [name = arguments.text("name")](Player& player) {
+        player.remembered[name] = dump(player.document());
+    };
+}
+
+// Window and settings
+
+Action readWindow(Arguments& arguments) {
+    const int width = arguments.whole("width", 1, 20'000);
+    const int height = arguments.whole("height", 1, 20'000);
+    return [=](Player& player) {
+        static_cast<void>(player.document());
+        player.host().resizeView(width, height);
+    };
+}
+
+Action readZoom(Arguments& arguments) {
+    const double factor = arguments.number("factor");
+    if (!(factor >= double{kLeastZoom} && factor <= double{kMostZoom}))
+        throw Mistake("the zoom goes from 0.01 to 64");
+    return [factor](Player& player) {
+        static_cast<void>(player.document());
+        player.host().zoom(static_cast<AIReal>(factor));
+    };
+}
+
+Action readCentre(Arguments& arguments) {
+    return [place = arguments.place("place")](Player& player) {
+        player.host().centreOn(player.soft(place));
+    };
+}
+
+Action readSmartGuides(Arguments& arguments) {
+    const bool on = arguments.choice("state", kSwitch) == 1;
+    return [on](Player& player) { player.host().cursorSnap.enabled = on; };
+}
+
+Action readTheme(Arguments& arguments) {
+    const bool dark = arguments.choice("theme", kThemes) == 1;
+    return [dark](Player& player) { player.host().setDarkTheme(dark); };
+}
+
+Action readConstrain(Arguments& arguments) {
+    return [degrees = arguments.number("angle")](Player& player) {
+        player.host().setConstrainAngle(degrees);
+    };
+}
+
+/// Whole numbers are stored as integers unless they are written with a point.
+Preferences::Value preferenceValue(Arguments& arguments) {
+    if (arguments.take("on")) return true;
+    if (arguments.take("off")) return false;
+    Arguments peek = arguments;
+    const std::string written = peek.text("value");
+    const double number = arguments.number("value");
+    if (written.find_first_of(".eE") != std::string::npos) return number;
+    return static_cast<ai::int32>(std::clamp(number, -2147483648.0, 2147483647.0));
+}
+
+Action readPreference(Arguments& arguments) {
+    const std::string prefix = arguments.text("prefix");
+    const std::string name = arguments.text("name");
+    return [=, value = preferenceValue(arguments)](Player& player) {
+        player.preferences().put(prefix, name, value);
+    };
+}
+
+Action readRestart(Arguments&) {
+    return [](Player& player) { player.restart(); };
+}
+
+Action readAnswer(Arguments& arguments) {
+    constexpr const char* kAnswers[] = {"no", "yes", "cancel"}; // as the host numbers them
+    const auto answer = static_cast<AIAnswer>(arguments.choice("answer", kAnswers));
+    return [answer](Player& player) { player.host().user.answers.push_back(answer); };
+}
+
+Action readWait(Arguments& arguments) {
+    const int milliseconds = arguments.whole("number of milliseconds", 1, 60'000);
+    return [milliseconds](Player& player) {
+        player.host().clock.advance(milliseconds);
+        letTimePass(milliseconds);
+        player.host().idle();
+    };
+}
+
+Action readRedraw(Arguments&) {
+    return [](Player& player) {
+        static_cast<void>(player.document());
+        player.host().redrawLater();
+    };
+}
+
+Action readPicture(Arguments& arguments) {
+    const std::string name = arguments.text("file");
+    const double scale = arguments.take("scale") ? arguments.number("scale") : 1.0;
+    if (!(scale > 0)) throw Mistake("a scale is more than 0");
+    return [=](Player& player) {
+        const std::filesystem::path file = player.output(name);
+        if (!paint::writePng(player.picture(scale), file))
+            throw SessionError(file.string() + ": cannot be written");
+    };
+}
+
+constexpr CommandRow kCommands[] = {
+    {"open", "FILE", "Opens the drawing FILE, which lies where the script does", readOpen},
+    {"new", "WIDTH HEIGHT", "Opens an empty drawing of that size, in points", readNew},
+    {"save", "FILE", "Saves the drawing among the results", readSave},
+    {"layer", "choose|add|delete|lock|unlock|hide|show TITLE",
+     "Does that to the layer of that title; a new one lies on top and is current", readLayer},
+    {"select", "all|none|ID...",
+     "Selects everything, nothing, or the art that has one of these ids or names", readSelect},
+    {"delete", "ID", "Deletes the art of that id or name", readDelete},
+    {"tool", "NAME|options",
+     "Takes that tool in hand, or double-clicks the icon of the one in hand", readTool},
+    {"key", "[|] [COUNT]", "Taps that key between drags, COUNT times", readKey},
+    {"move", "X,Y", "Moves the mouse there, its button up", readMove},
+    {"press", "X,Y", "Moves the mouse there and presses the button", readPress},
+    {"drag", "X,Y [in COUNT]", "Moves it there with the button down, in COUNT messages, or one",
+     readDrag},
+    {"release", "[X,Y]", "Lets the button go, there or where the mouse is", readRelease},
+    {"click", "X,Y", "Presses and releases there", readClick},
+    {"menu", "ITEM", "Chooses the menu item of that name or text", readMenu},
+    {"undo", "", "Takes the last step back", readUndo},
+    {"redo", "", "Does the step again that was last taken back", readRedo},
+    {"remember", "NAME", "Keeps the whole drawing as it is, to be compared with later",
+     readRemember},
+    {"window", "WIDTH HEIGHT", "Makes the view that large, in pixels; at first it is 1280 by 800",
+     readWindow},
+    {"zoom", "FACTOR", "Shows a point as that many pixels, 0.01 to 64; the middle stays", readZoom},
+    {"centre", "X,Y", "Scrolls that place into the middle of the view", readCentre},
+    {"smart-guides", "on|off", "Turns the host's cursor snapping on or off; at first it is on",
+     readSmartGuides},
+    {"theme", "light|dark", "Changes the brightness of the interface", readTheme},
+    {"constrain", "DEGREES", "Sets the host's constrain angle", readConstrain},
+    {"preference", "PREFIX NAME on|off|NUMBER",
+     "Stores a setting; a plug-in reads its own when it starts, so before everything else or a "
+     "restart. Whole numbers are stored as integers unless written with a point",
+     readPreference},
+    {"restart", "", "Quits host and plug-in and starts them again; settings stay, drawings do not",
+     readRestart},
+    {"answer", "yes|no|cancel", "Answers the next question that is asked; otherwise it is yes",
+     readAnswer},
+    {"wait", "MILLISECONDS", "Lets time pass", readWait},
+    {"redraw", "", "Uncovers the window, so that it is painted anew", readRedraw},
+    {"picture", "FILE [scale N]",
+     "Keeps what the window shows among the results, with N pixels to one of the view",
+     readPicture},
+};
+
+template <typename Row> std::string tableOf(std::span<const Row> rows, const char* before) {
+    std::string text;
+    for (const Row& row : rows) {
+        std::string arguments = row.arguments;
+        for (std::size_t at = 0; (at = arguments.find('|', at)) != std::string::npos; at += 2)
+            arguments.insert(at, "\\"); // a bare one would end the cell
+        text += std::string("| `") + before + row.name + (arguments.empty() ? "" : " ") +
+                arguments + "` | " + row.meaning + " |\n";
+    }
+    return text;
+}
+
+} // namespace
+
+std::span<const CommandRow> commands() { return kCommands; }
+
+std::string languageTables() {
+    return tableOf(commands(), "") + '\n' + tableOf(expectations(), "expect ");
+}
+
+} // namespace easel::script
