@@ -35,12 +35,12 @@ std::vector<Path> filesOf(const std::vector<Path>& given) {
 
 std::string contentOf(const Path& file) {
     std::ifstream stream(file, std::ios::binary);
-    if (!stream) throw SessionError(file.string() + ": there is no such script");
+    if (!stream) throw SessionError(file.generic_string() + ": there is no such script");
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 script::Outcome playFile(const PlayCommand& command, const Path& file) {
-    const std::string name = file.string();
+    const std::string name = file.generic_string();
     script::Script script = script::readScript(contentOf(file), name);
     if (!script.mistakes.empty()) return {0, std::move(script.mistakes)};
     return script::play(script, name,
@@ -62,7 +62,7 @@ ExitStatus runPlay(const PlayCommand& command, std::ostream& out, std::ostream& 
             if (!outcome.failures.empty())
                 status = ExitStatus::Fault;
             else
-                out << file.string() << ": as it should be, " << outcome.expectations
+                out << file.generic_string() << ": as it should be, " << outcome.expectations
                     << " expectations\n";
             out.flush();
         }
