@@ -50,7 +50,7 @@ std::optional<LineSegment> clipped(const LineSegment& line, const AIRealRect& to
 std::vector<LineSegment> guidesAlong(const SymmetryAxes& axes) {
     AIRealRect canvas{};
     ai::check(suites.document->GetDocumentMaxArtboardBounds(&canvas));
-    const Point origin = originOf(axes);
+    const Point origin = soften(originOf(axes));
     std::vector<LineSegment> guides;
     double angle = axes.angle;
     for (int i = 0; i < axes.axisCount; ++i, angle += halfStep(axes)) {
@@ -95,7 +95,7 @@ void addAxisGuides(const SymmetryAxes& axes) {
     if (axes.axisCount == 0) return;
     const AIArtHandle group = groupArtOf(topLevelLayer(nullptr));
     if (group == nullptr) return;
-    for (const LineSegment& guide : guidesAlong(inArtSpace(axes)))
+    for (const LineSegment& guide : guidesAlong(axes))
         addGuide(group, guide);
 }
 

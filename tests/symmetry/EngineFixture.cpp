@@ -202,6 +202,7 @@ EngineFixture::EngineFixture(easel::Switches switches) {
     easel::switches() = switches; // before the suites, whose slots depend on them
     easel::SuiteServer& server = suiteServer();
     easel::installDocumentSuites(server);
+    easel::installDocumentSuite(server);
     easel::installUnicodeStringSuite(server);
     exposeShellSide(server);
     for (const ai::SuiteRow& row : ai::suiteTable())
