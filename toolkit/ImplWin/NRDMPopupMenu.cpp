@@ -39,13 +39,14 @@ LRESULT NRDMPopupMenu::serve(UINT message, WPARAM wide, LPARAM lengthy) {
         SetFocus(handle());
         if (!alive.expired()) open();
     }
+    // Not when it goes down: the menu would get the blank that follows, and close.
+    if (message == WM_KEYUP && wide == VK_SPACE && !alive.expired()) open();
     return answer;
 }
 
 bool NRDMPopupMenu::key(WPARAM key) {
-    if (key != VK_SPACE && key != VK_F4 && key != VK_DOWN) return false;
-    open();
-    return true;
+    if (key == VK_F4 || key == VK_DOWN) open();
+    return key == VK_F4 || key == VK_DOWN || key == VK_SPACE;
 }
 
 void NRDMPopupMenu::paint(const Canvas& canvas, const RECT& area) {

@@ -41,8 +41,8 @@ Palette::Palette(const Theme& theme)
       onAccent(brightness(accent) > 170 ? kBlack : kWhite), field(toColour(theme.editBackground)),
       fieldText(toColour(theme.editText)),
       fieldBorder(dark ? mix(background, kWhite, 0.20) : mix(background, kBlack, 0.34)),
-      face(mix(background, kWhite, dark ? 0.11 : 0.55)),
-      faceHot(mix(background, kWhite, dark ? 0.18 : 0.82)),
+      face(mix(background, kWhite, dark ? 0.085 : 0.55)),
+      faceHot(mix(background, kWhite, dark ? 0.125 : 0.82)),
       facePressed(mix(background, kBlack, dark ? 0.30 : 0.14)),
       faceBorder(dark ? mix(background, kWhite, 0.27) : mix(background, kBlack, 0.36)),
       faceOn(mix(background, kBlack, dark ? 0.36 : 0.13)),
@@ -51,6 +51,6 @@ Palette::Palette(const Theme& theme)
       shadow(mix(background, kBlack, dark ? 0.40 : 0.26)),
       rowHot(mix(field, accent, dark ? 0.38 : 0.18)),
       menu(dark ? mix(background, kBlack, 0.16) : mix(background, kWhite, 0.70)),
-      tip(dark ? mix(background, kWhite, 0.16) : Colour{255, 255, 255}) {}
+      tip(dark ? mix(background, kBlack, 0.30) : Colour{255, 255, 255}) {}
 
 } // namespace NRDM

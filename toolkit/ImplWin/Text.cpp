@@ -189,8 +189,9 @@ int wrappedHeight(std::wstring_view text, TextStyle style, Scale scale, int widt
 }
 
 int baselineOf(int top, int bottom, TextStyle style, Scale scale) {
-    const int capital = static_cast<int>(std::lround(lineMetrics(style, scale).capHeight));
-    return (top + bottom + capital + 1) / 2;
+    // Rounded in units: neighbours whose middles are half a unit apart would part at other scales.
+    const int capital = static_cast<int>(std::lround(lineMetrics(style, {1.0}).capHeight));
+    return top + scale.toPixels((scale.toUnits(bottom - top) + capital + 1) / 2);
 }
 
 void drawLine(Surface& surface, const RECT& place, const TextLine& line) {

@@ -27,11 +27,27 @@ LRESULT ask(HWND tips, UINT message, TOOLINFOW& entry) {
 
 } // namespace
 
+/// The control looks for entries of the window below the pointer, which is an item's: that it is to
+/// take the dialog's instead can only be said by a procedure before its own.
+LRESULT CALLBACK ToolTips::procedure(HWND window, UINT message, WPARAM wide, LPARAM lengthy) {
+    const auto* const self =
+        reinterpret_cast<const ToolTips*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (message == TTM_WINDOWFROMPOINT) {
+        const HWND below = WindowFromPoint(*reinterpret_cast<const POINT*>(lengthy));
+        return reinterpret_cast<LRESULT>(IsChild(self->dialog_, below) ? self->dialog_ : below);
+    }
+    return CallWindowProcW(self->classProcedure_, window, message, wide, lengthy);
+}
+
 void ToolTips::create(HWND dialog) {
     *window_.put() = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, L"",
                                      WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0, 0, dialog,
                                      nullptr, WindowClass::library(), nullptr);
     if (!window_) throw NRDMResourceException();
+    dialog_ = dialog;
+    SetWindowLongPtrW(window_.get(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    classProcedure_ = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(window_.get(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
     const Scale scale = screen_.scaleFor(dialog);
     *font_.put() = makeGdiFont(textStyleOf(kTipFont, true), scale);
     SendMessageW(window_.get(), WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), FALSE);

@@ -37,10 +37,13 @@ public:
     [[nodiscard]] HWND window() const noexcept { return window_.get(); }
 
 private:
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wide, LPARAM lengthy);
     void create(HWND dialog);
     void colour() const;
 
     Screen& screen_;
+    HWND dialog_ = nullptr;
+    WNDPROC classProcedure_ = nullptr;
     ai::Owned<GdiObjectTraits<HFONT>> font_;
     ai::Owned<TipWindowTraits> window_; ///< from the first tip on
 };

@@ -1,0 +1,206 @@
+/// Dialogs as a whole: modal loops, colours, how much is painted, and what is left behind.
+
+#include "tests/toolkit/win/Stage.h"
+
+#include <doctest/doctest.h>
+
+#include <chrono>
+#include <stdexcept>
+#include <thread>
+
+using namespace NRDM;
+using namespace NRDM::tests;
+
+namespace {
+
+/// One item of each kind, in rows.
+void addEveryKind(Stage& stage) {
+    for (int kind = 0; kind <= static_cast<int>(ControlKind::User); ++kind) {
+        const int left = 10 + kind % 3 * 100;
+        const int top = 10 + kind / 3 * 36;
+        ItemView view =
+            itemView(static_cast<ControlKind>(kind), {left, top, left + 90, top + 24}, "&Item");
+        view.entries.resize(3);
+        view.chosen = 0;
+        view.tip = "A tip";
+        stage.add(view);
+    }
+}
+
+/// Does something a while after the modal loop has begun to serve messages.
+void soon(const std::function<void()>& act) {
+    static std::function<void()> pending;
+    pending = act;
+    SetTimer(nullptr, 0, 30, [](HWND, UINT, UINT_PTR timer, DWORD) {
+        KillTimer(nullptr, timer);
+        const auto now = std::exchange(pending, nullptr);
+        now();
+    });
+}
+
+struct Owner {
+    HWND window = CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0,
+                                  400, 300, nullptr, nullptr, nullptr, nullptr);
+    ~Owner() { DestroyWindow(window); }
+};
+
+} // namespace
+
+TEST_CASE("a modal dialog keeps its owner disabled until it is ended") {
+    const Owner owner;
+    Stage stage(DialogKind::Modal);
+    stage.view.parent = owner.window;
+    StagedItem& button = stage.add(itemView(ControlKind::PushButton, {20, 20, 120, 44}, "OK"));
+    stage.peer = stage.peers.createDialog(stage.view, stage);
+    button.peer = stage.peer->createItem(button.view, button);
+    CHECK(stage.peer->endModal() == false); // no loop yet
+    bool disabled = false;
+    button.onClick = [&] {
+        disabled = IsWindowEnabled(owner.window) == FALSE;
+        CHECK(stage.peer->endModal());
+    };
+    SUBCASE("by a button") {
+        soon([&] { stage.clickMiddle(button.window()); });
+        stage.peer->runModal();
+        CHECK(disabled);
+    }
+    SUBCASE("by its close box") {
+        stage.onClose = [&] { stage.peer->endModal(); };
+        soon([&] { PostMessageW(stage.window(), WM_CLOSE, 0, 0); });
+        stage.peer->runModal();
+    }
+    SUBCASE("by what a handler throws, which comes out of the loop") {
+        button.onClick = [] { throw std::runtime_error("a handler's own"); };
+        soon([&] { SendMessageW(button.window(), BM_CLICK, 0, 0); });
+        CHECK_THROWS_WITH(stage.peer->runModal(), "a handler's own");
+        CHECK(stage.failures == 0);
+    }
+    CHECK(IsWindowEnabled(owner.window) != FALSE);
+    CHECK(IsWindowVisible(stage.window()) == FALSE);
+}
+
+TEST_CASE("a dialog that is open follows the host's brightness") {
+    Stage stage;
+    StagedItem& field = stage.add(itemView(ControlKind::Edit, {20, 20, 140, 42}, "5"));
+    stage.open();
+    const COLORREF before = Stage::pixel(stage.window(), {5, 5});
+    const COLORREF fieldBefore = Stage::pixel(field.window(), {3, 10});
+    Theme dark;
+    dark.dark = true;
+    dark.background = {1, 0.2F, 0.2F, 0.2F};
+    dark.editBackground = {1, 0.1F, 0.1F, 0.1F};
+    stage.peers.setTheme(dark);
+    stage.pump();
+    CHECK(before == RGB(214, 214, 214));
+    CHECK(Stage::pixel(stage.window(), {5, 5}) == RGB(51, 51, 51));
+    CHECK(fieldBefore == RGB(255, 255, 255));
+    CHECK(Stage::pixel(field.window(), {3, 10}) == RGB(26, 26, 26));
+}
+
+TEST_CASE("what did not change is not painted") {
+    Stage stage;
+    addEveryKind(stage);
+    StagedItem& field = stage.add(itemView(ControlKind::Edit, {200, 190, 300, 212}, "5"));
+    ItemView view = itemView(ControlKind::Slider, {20, 190, 130, 206});
+    view.value = 50;
+    StagedItem& slider = stage.add(view);
+    stage.open();
+    SUBCASE("typing a character paints the field's text once") {
+        field.peer->focus();
+        stage.pump();
+        stage.forgetPaints();
+        stage.type(L"7");
+        CHECK(stage.paintsOf(field.field()) == 1);
+        CHECK(stage.paints() == 1);
+    }
+    SUBCASE("a move of the thumb paints the slider once") {
+        stage.press(slider.window(), {55, 8});
+        stage.forgetPaints();
+        stage.move(slider.window(), {70, 8});
+        CHECK(stage.paintsOf(slider.window()) == 1);
+        CHECK(stage.paints() == 1);
+        stage.release();
+    }
+    SUBCASE("the same text again paints nothing") {
+        stage.forgetPaints();
+        field.peer->changed(Aspect::Text);
+        stage.pump();
+        CHECK(stage.paints() == 0);
+    }
+}
+
+TEST_CASE("200 dialogs with every kind of item leave nothing behind") {
+    Stage stage;
+    addEveryKind(stage);
+    const auto openAndClose = [&] {
+        stage.open();
+        stage.close();
+        stage.pump();
+    };
+    openAndClose(); // what is made once and kept
+    const int gdiBefore = gdiObjects();
+    const int windowsBefore = windows();
+    REQUIRE(gdiBefore > 0);
+    for (int round = 0; round < 200; ++round)
+        openAndClose();
+    CHECK(gdiObjects() == gdiBefore);
+    CHECK(windows() == windowsBefore);
+}
+
+TEST_CASE("a dialog of 30 items opens in less than a tenth of a second") {
+    {
+        Stage first; // what only the first window costs
+        addEveryKind(first);
+        first.open();
+    }
+    Stage stage(DialogKind::Floating, {420, 420});
+    for (int i = 0; i < 30; ++i)
+        stage.add(itemView(static_cast<ControlKind>(i % 5 == 4 ? 5 : i % 5),
+                           {10 + i % 4 * 100, 10 + i / 4 * 30, 100 + i % 4 * 100, 34 + i / 4 * 30},
+                           "Item"));
+    using Clock = std::chrono::steady_clock;
+    const auto begun = Clock::now();
+    stage.view.visible = true;
+    stage.open();
+    const auto taken = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - begun);
+    MESSAGE("30 items in " << taken.count() << " ms");
+    CHECK(taken.count() < 100);
+}
+
+TEST_CASE("a popup menu answers with the position chosen") {
+    Stage stage;
+    ItemView view = itemView(ControlKind::PopupMenu, {20, 20, 120, 44}, "More");
+    for (const char* const text : {"Copy", "-", "Remove"}) {
+        EntryView entry;
+        entry.text = text;
+        entry.separator = entry.text == "-";
+        view.entries.push_back(entry);
+    }
+    StagedItem& menu = stage.add(view);
+    stage.open();
+    // The menu has a loop of its own: another thread's hand is on the keys meanwhile.
+    std::thread hand([] {
+        const auto strike = [](WORD key) {
+            INPUT input{};
+            input.type = INPUT_KEYBOARD;
+            input.ki.wVk = key;
+            SendInput(1, &input, sizeof input);
+            input.ki.dwFlags = KEYEVENTF_KEYUP;
+            SendInput(1, &input, sizeof input);
+            Sleep(150);
+        };
+        Sleep(600);
+        strike(VK_DOWN);
+        strike(VK_DOWN);
+        strike(VK_RETURN);
+    });
+    stage.move(stage.window(), {300, 230}); // a pointer on the menu would choose as well
+    menu.peer->focus();
+    stage.pump();
+    stage.log.clear();
+    stage.key(VK_SPACE);
+    hand.join();
+    stage.pump();
+    REQUIRE(!stage.log.empty());
+    CHECK(stage.log.back() == "choose 2");
+}

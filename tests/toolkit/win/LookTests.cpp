@@ -1,0 +1,171 @@
+/// What can be said of the look of controls without looking.
+
+#include "toolkit/ImplWin/NRDMSlider.h"
+#include "toolkit/ImplWin/Palette.h"
+#include "toolkit/ImplWin/Shapes.h"
+#include "toolkit/ImplWin/Text.h"
+#include "toolkit/Toolkit.h"
+
+#include <doctest/doctest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+using namespace NRDM;
+
+namespace {
+
+/// The four brightnesses of the host's interface, from dark to light.
+Theme themeOf(float background) {
+    const bool dark = background < 0.5F;
+    const auto grey = [](float value) { return AIUIThemeColor{1, value, value, value}; };
+    return {.background = grey(background),
+            .text = grey(dark ? 0.87F : 0.1F),
+            .focusRing = grey(0.5F),
+            .editText = grey(dark ? 0.9F : 0.1F),
+            .editBackground = grey(dark ? background - 0.08F : 1.0F),
+            .dark = dark};
+}
+
+/// Of two colours, 1 to 21, as the Web Content Accessibility Guidelines 2.1 define it.
+double contrast(Colour a, Colour b) {
+    const auto luminance = [](Colour colour) {
+        const auto linear = [](std::uint8_t channel) {
+            const double value = channel / 255.0;
+            return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(colour.red) + 0.7152 * linear(colour.green) +
+               0.0722 * linear(colour.blue);
+    };
+    const auto [darker, lighter] = std::minmax(luminance(a), luminance(b));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+/// How many pixels' worth of white is on a black surface.
+double whiteOn(Surface& surface) {
+    double sum = 0;
+    for (int y = 0; y < surface.size().cy; ++y)
+        for (const std::uint32_t pixel : surface.row(y))
+            sum += (pixel & 0xFF) / 255.0;
+    return sum;
+}
+
+constexpr Colour kWhite{255, 255, 255};
+
+} // namespace
+
+TEST_CASE("text can be read on every part, at each of the host's brightnesses") {
+    for (const float background : {0.2F, 0.325F, 0.72F, 0.94F}) {
+        CAPTURE(background);
+        const Palette palette(themeOf(background));
+        CHECK(contrast(palette.text, palette.background) >= 4.5);
+        CHECK(contrast(palette.text, palette.face) >= 4.5);
+        CHECK(contrast(palette.text, palette.faceHot) >= 4.0);
+        CHECK(contrast(palette.text, palette.menu) >= 4.5);
+        CHECK(contrast(palette.text, palette.tip) >= 4.5);
+        CHECK(contrast(palette.fieldText, palette.field) >= 4.5);
+        CHECK(contrast(palette.onAccent, palette.accent) >= 3.0);
+        CHECK(contrast(palette.dimText, palette.background) >= 1.7); // dim, yet there
+        CHECK(contrast(palette.dimText, palette.background) <
+              contrast(palette.text, palette.background) / 1.5);
+    }
+}
+
+TEST_CASE("shapes cover the area that geometry gives them") {
+    const GdiPlusSession session;
+    const auto covered = [](const auto& draw) {
+        Surface surface({64, 64});
+        draw(surface);
+        return whiteOn(surface);
+    };
+    constexpr double kPi = std::numbers::pi;
+    CHECK(std::abs(covered([](Surface& s) {
+                       fillRound(s, {10, 10, 50, 50}, 20, kWhite);
+                   }) -
+                   kPi * 400) < 6);
+    CHECK(std::abs(covered([](Surface& s) {
+                       fillRound(s, {10.5, 8, 50.5, 30}, 4, kWhite);
+                   }) -
+                   (40 * 22 - (4 - kPi) * 16)) < 6);
+    CHECK(std::abs(covered([](Surface& s) {
+                       strokeRound(s, {8, 8, 56, 56}, 24, 2, kWhite);
+                   }) -
+                   kPi * (24 * 24 - 22 * 22)) < 6);
+    const Spot triangle[] = {{32, 8}, {56, 56}, {8, 56}};
+    CHECK(std::abs(covered([&](Surface& s) { fillConvex(s, triangle, kWhite); }) - 48 * 48 / 2.0) <
+          12);
+    SUBCASE("and nothing outside the clip or the surface") {
+        CHECK(covered([](Surface& s) {
+                  s.setClip({0, 0, 20, 20});
+                  fillRound(s, {-100, -100, 200, 200}, 0, kWhite);
+              }) == 400);
+    }
+}
+
+TEST_CASE("an access key is the letter after the first single ampersand") {
+    struct Row {
+        const wchar_t* marked;
+        std::wstring text;
+        int accessKey;
+    };
+    const Row rows[] = {
+        {L"Origin &X:", L"Origin X:", 7},
+        {L"Cut && &Paste", L"Cut & Paste", 6},
+        {L"plain", L"plain", -1},
+        {L"ends with &", L"ends with &", -1},
+        {L"&A &B", L"A B", 0},
+    };
+    for (const auto& [marked, text, accessKey] : rows) {
+        const Caption caption = captionOf(marked);
+        CHECK(caption.text == text);
+        CHECK(caption.accessKey == accessKey);
+    }
+}
+
+TEST_CASE("a slider's pixels and values are each other's inverse") {
+    const SliderScale scale{-360, 360, 5, 105};
+    for (int pixel = 5; pixel <= 105; ++pixel)
+        CHECK(scale.pixelOf(scale.valueAt(pixel)) == pixel);
+    CHECK(scale.valueAt(-1000) == -360);
+    CHECK(scale.valueAt(1000) == 360);
+    const SliderScale empty{3, 3, 5, 105};
+    CHECK(empty.pixelOf(3) == 5);
+}
+
+TEST_CASE("a line of text keeps within its place, whatever is to become of the rest") {
+    const GdiPlusSession session;
+    const RECT place{20, 10, 60, 30};
+    for (const Overflow overflow :
+         {Overflow::Shrink, Overflow::EndEllipsis, Overflow::MiddleEllipsis, Overflow::Clip}) {
+        Surface surface({100, 40});
+        drawLine(surface, place,
+                 {{L"Remove All Layer Axes", -1}, {}, {}, kWhite, Justify::Left, overflow});
+        double inside = 0;
+        for (LONG y = 0; y < 40; ++y)
+            for (LONG x = 0; x < 100; ++x) {
+                const bool white =
+                    (surface.row(static_cast<int>(y))[static_cast<std::size_t>(x)] & 0xFF) != 0;
+                const bool within =
+                    y >= place.top && y < place.bottom && x >= place.left && x <= place.right;
+                if (within)
+                    inside += white ? 1 : 0;
+                else
+                    CHECK_FALSE(white);
+            }
+        CHECK(inside > 20);
+    }
+}
+
+TEST_CASE("fields and labels beside each other share a baseline") {
+    const GdiPlusSession session;
+    const TextStyle style = textStyleOf(2, true);
+    for (const double factor : {1.0, 1.5, 2.0}) {
+        CAPTURE(factor);
+        const Scale scale{factor};
+        // The panel's: a label at 94 to 108 beside a field at 91 to 110.
+        const int label = scale.toPixels(94) + baselineOf(0, scale.toPixels(14), style, scale);
+        const int field = scale.toPixels(91) + baselineOf(0, scale.toPixels(19), style, scale);
+        CHECK(label == field);
+    }
+}

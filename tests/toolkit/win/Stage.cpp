@@ -1,0 +1,265 @@
+#include "tests/toolkit/win/Stage.h"
+
+#include <winternl.h>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace NRDM::tests {
+namespace {
+
+std::string number(double value) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%g", value);
+    return text;
+}
+
+std::string tail(Phase phase) { return phase == Phase::Complete ? "." : ".."; }
+
+void send(INPUT input) { SendInput(1, &input, sizeof input); }
+
+INPUT keyInput(WORD key, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.dwFlags = flags;
+    return input;
+}
+
+INPUT mouseInput(DWORD flags, DWORD data = 0) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    input.mi.mouseData = data;
+    return input;
+}
+
+} // namespace
+
+void StagedItem::clicked() {
+    log_.emplace_back("click");
+    if (onClick) onClick();
+}
+
+bool StagedItem::commit() {
+    log_.emplace_back("commit");
+    return accepts;
+}
+
+void StagedItem::step(int steps, bool large, Phase phase) {
+    log_.push_back("step " + std::to_string(steps) + (large ? " large" : "") + tail(phase));
+}
+
+void StagedItem::slide(double value, Phase phase) {
+    view.value = value;
+    log_.push_back("slide " + number(value) + tail(phase));
+    peer->changed(Aspect::Value);
+}
+
+void StagedItem::choose(int entry) {
+    view.chosen = entry;
+    log_.push_back("choose " + std::to_string(entry));
+    peer->changed(Aspect::Value);
+}
+
+void StagedItem::draw(CoADMDrawer& drawer) {
+    if (onDraw) onDraw(drawer);
+}
+
+bool StagedItem::track(const TrackInput& input) {
+    log_.push_back("track " + std::to_string(input.action) + " at " +
+                   std::to_string(input.place.x) + "," + std::to_string(input.place.y));
+    return true;
+}
+
+Stage::Stage(DialogKind kind, Extent size)
+    : peers(Theme{}, [](int, PictureDensity) { return std::span<const std::byte>(); }) {
+    peers.screen().failed = [this] { ++failures; };
+    peers.screen().fixedScale = Scale{1.0};
+    view.kind = kind;
+    view.size = size;
+    view.title = "Stage";
+}
+
+Stage::~Stage() { close(); }
+
+StagedItem& Stage::add(ItemView itemView) {
+    items_.push_back(std::make_unique<StagedItem>(std::move(itemView), log));
+    return *items_.back();
+}
+
+void Stage::open() {
+    view.visible = true;
+    peer = peers.createDialog(view, *this);
+    for (const auto& item : items_)
+        item->peer = peer->createItem(item->view, *item);
+    peer->activate();
+    pump();
+    SetForegroundWindow(window());
+    pump();
+    log.clear();
+}
+
+void Stage::close() {
+    for (const auto& item : items_)
+        item->peer.reset();
+    peer.reset();
+}
+
+void Stage::pump(int milliseconds) {
+    const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
+    do {
+        MSG message;
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) {
+            if (message.message == WM_PAINT) ++paints_[message.hwnd];
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+        if (milliseconds > 0) Sleep(1);
+    } while (GetTickCount64() < end);
+}
+
+int Stage::paintsOf(HWND window) const {
+    const auto found = paints_.find(window);
+    return found == paints_.end() ? 0 : found->second;
+}
+
+int Stage::paints() const {
+    int all = 0;
+    for (const auto& [window, count] : paints_)
+        all += count;
+    return all;
+}
+
+void Stage::move(HWND window, POINT point) {
+    ClientToScreen(window, &point);
+    INPUT input = mouseInput(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE);
+    // In 65536ths of the screen, rounded so that the pixel comes out again.
+    input.mi.dx = (point.x * 65536 + 65535) / GetSystemMetrics(SM_CXSCREEN);
+    input.mi.dy = (point.y * 65536 + 65535) / GetSystemMetrics(SM_CYSCREEN);
+    send(input);
+    pump();
+}
+
+void Stage::press(HWND window, POINT point) {
+    move(window, point);
+    send(mouseInput(MOUSEEVENTF_LEFTDOWN));
+    pump();
+}
+
+void Stage::release() {
+    send(mouseInput(MOUSEEVENTF_LEFTUP));
+    pump();
+}
+
+void Stage::click(HWND window, POINT point) {
+    press(window, point);
+    release();
+}
+
+void Stage::clickMiddle(HWND window) {
+    RECT area{};
+    GetClientRect(window, &area);
+    click(window, {area.right / 2, area.bottom / 2});
+}
+
+void Stage::wheel(int notches) {
+    send(mouseInput(MOUSEEVENTF_WHEEL, static_cast<DWORD>(notches * WHEEL_DELTA)));
+    pump();
+}
+
+void Stage::key(WORD key) {
+    send(keyInput(key, 0));
+    send(keyInput(key, KEYEVENTF_KEYUP));
+    pump();
+}
+
+void Stage::keyWith(WORD modifier, WORD wanted) {
+    send(keyInput(modifier, 0));
+    pump();
+    key(wanted);
+    send(keyInput(modifier, KEYEVENTF_KEYUP));
+    pump();
+}
+
+void Stage::type(const std::wstring& text) {
+    for (const wchar_t letter : text) {
+        INPUT input = keyInput(0, KEYEVENTF_UNICODE);
+        input.ki.wScan = letter;
+        send(input);
+        input.ki.dwFlags |= KEYEVENTF_KEYUP;
+        send(input);
+        pump();
+    }
+}
+
+COLORREF Stage::pixel(HWND window, POINT point) {
+    const HDC dc = GetDC(window);
+    const COLORREF colour = GetPixel(dc, point.x, point.y);
+    ReleaseDC(window, dc);
+    return colour;
+}
+
+bool Stage::key(DialogKey key, char32_t letter) {
+    constexpr const char* kNames[] = {"Tab",      "BackTab", "Enter", "Escape",
+                                      "Previous", "Next",    "Access"};
+    std::string entry = std::string("key ") + kNames[static_cast<int>(key)];
+    if (letter != 0) entry += std::string(" ") + static_cast<char>(letter);
+    log.push_back(entry);
+    return usesKeys;
+}
+
+void Stage::closeRequested() {
+    log.emplace_back("close");
+    if (onClose) onClose();
+}
+
+ItemView itemView(ControlKind kind, Bounds bounds, std::string text) {
+    ItemView view;
+    view.kind = kind;
+    view.bounds = bounds;
+    view.text = std::move(text);
+    return view;
+}
+
+int gdiObjects() {
+    // Windows keeps one table for all processes and shows each of them its entries.
+    constexpr std::size_t kTableInPeb = 0xF8;
+    constexpr int kEntries = 16384;
+    struct Entry {
+        std::uint64_t object;
+        std::uint16_t owner;
+        std::uint16_t unused;
+        std::uint8_t upper;
+        std::uint8_t type;
+        std::uint16_t flags;
+        std::uint64_t data;
+    };
+    static_assert(sizeof(Entry) == 24);
+    const auto* const peb =
+        reinterpret_cast<const std::byte*>(NtCurrentTeb()->ProcessEnvironmentBlock);
+    const auto* const table = *reinterpret_cast<const Entry* const*>(peb + kTableInPeb);
+    return static_cast<int>(
+        std::count_if(table, table + kEntries, [](const Entry& entry) { return entry.type != 0; }));
+}
+
+int windows() {
+    int count = 0;
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND window, LPARAM counter) -> BOOL {
+            ++*reinterpret_cast<int*>(counter);
+            EnumChildWindows(
+                window,
+                [](HWND, LPARAM inner) -> BOOL {
+                    ++*reinterpret_cast<int*>(inner);
+                    return TRUE;
+                },
+                counter);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&count));
+    return count;
+}
+
+} // namespace NRDM::tests

@@ -1,0 +1,106 @@
+#pragma once
+
+#include "toolkit/ImplWin/WinPeers.h"
+#include "toolkit/Toolkit.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace NRDM::tests {
+
+using Log = std::vector<std::string>;
+
+/// An item that writes down what its peer reports, and follows a slider or field as a model would.
+class StagedItem final : public ItemEvents {
+public:
+    StagedItem(ItemView itemView, Log& log) : view(std::move(itemView)), log_(log) {}
+
+    [[nodiscard]] HWND window() const { return static_cast<HWND>(peer->window()); }
+    /// The edit inside a field.
+    [[nodiscard]] HWND field() const { return FindWindowExW(window(), nullptr, L"EDIT", nullptr); }
+
+    ItemView view;
+    std::unique_ptr<ItemPeer> peer;
+    bool accepts = true;           ///< what `commit` answers
+    std::function<void()> onClick; ///< done besides writing it down
+
+    void clicked() override;
+    void typed(const std::string& text) override { log_.push_back("typed " + text); }
+    bool commit() override;
+    void revert() override { log_.emplace_back("revert"); }
+    void step(int steps, bool large, Phase phase) override;
+    void slide(double value, Phase phase) override;
+    void choose(int entry) override;
+    void activated(bool active) override { log_.emplace_back(active ? "focus" : "blur"); }
+    void draw(CoADMDrawer&) override;
+    bool track(const TrackInput& input) override;
+
+    std::function<void(CoADMDrawer&)> onDraw;
+
+private:
+    Log& log_;
+};
+
+/// A dialog on the screen, and hands to use it with. Messages are served by `pump` only.
+class Stage final : public DialogEvents {
+public:
+    explicit Stage(DialogKind kind = DialogKind::Floating, Extent size = {320, 240});
+    ~Stage();
+
+    StagedItem& add(ItemView view);
+    void open();
+    void close();
+
+    /// Serves messages until there are none, or for that long; counts how often each window is
+    /// painted.
+    void pump(int milliseconds = 0);
+    [[nodiscard]] int paintsOf(HWND window) const;
+    [[nodiscard]] int paints() const;
+    void forgetPaints() { paints_.clear(); }
+
+    // Input, as from the user's hand. Points are pixels of the window.
+    void move(HWND window, POINT point);
+    void press(HWND window, POINT point);
+    void release();
+    void click(HWND window, POINT point);
+    void clickMiddle(HWND window);
+    void wheel(int notches);
+    void key(WORD key);
+    void keyWith(WORD modifier, WORD key);
+    void type(const std::wstring& text);
+
+    [[nodiscard]] HWND window() const { return static_cast<HWND>(peer->window()); }
+    [[nodiscard]] static COLORREF pixel(HWND window, POINT point);
+
+    WinPeers peers;
+    DialogView view;
+    std::unique_ptr<DialogPeer> peer;
+    Log log;
+    bool usesKeys = false; ///< what `key` answers
+    int failures = 0;      ///< exceptions that reached `Screen::failed`
+    std::function<void()> onClose;
+
+    bool key(DialogKey key, char32_t letter) override;
+    void closeRequested() override;
+    void resized(Extent) override {}
+    void draw(CoADMDrawer&) override {}
+    void timerFired(int) override {}
+    bool track(const TrackInput&) override { return false; }
+
+private:
+    std::vector<std::unique_ptr<StagedItem>> items_;
+    std::map<HWND, int> paints_;
+};
+
+/// A view with what the tests need of it.
+[[nodiscard]] ItemView itemView(ControlKind kind, Bounds bounds, std::string text = {});
+
+/// How many GDI objects this process has, counted in the table that Windows keeps of them.
+[[nodiscard]] int gdiObjects();
+/// How many windows this thread has, children included.
+[[nodiscard]] int windows();
+
+} // namespace NRDM::tests
