@@ -43,8 +43,9 @@ std::size_t Ledger::KeyHash::operator()(const Key& key) const noexcept {
 std::array<LoanTerm, kLentKinds> Ledger::defaultTerms() noexcept {
     std::array<LoanTerm, kLentKinds> terms{};
     terms.fill(LoanTerm::Message);
-    // A plug-in keeps its suites and itself, and may keep its state in blocks of the host.
-    for (const Lent kind : {Lent::Block, Lent::PluginAccess, Lent::Suite})
+    // A plug-in keeps its suites and itself, and may keep its state in blocks of the host; a tool
+    // keeps the art it has taken up until its user puts it down.
+    for (const Lent kind : {Lent::ArtSet, Lent::Block, Lent::PluginAccess, Lent::Suite})
         terms[index(kind)] = LoanTerm::Life;
     return terms;
 }

@@ -73,7 +73,7 @@ struct Fixture {
                  AIArtSet set = artSet;
                  return s.artSet->DisposeArtSet(&set);
              },
-             "AI Art Set Suite.NewArtSet", false},
+             "AI Art Set Suite.NewArtSet", true},
             {"string", [&] { s.unicodeString->Initialize(string.object(), "x", 1, 1); },
              [&] {
                  Unowned<ai::UnicodeString> same = string;
