@@ -49,7 +49,7 @@ constexpr Row kRows[] = {
     {kLicenceChangedNotifier, followLicence},
     {kPreferenceChangedNotifier, followConstrainAngle},
     {"AI Document Opened Notifier", fetchViewAndPlaceDialog},
-    {"AI Document Closed Notifier", fetchViewAndPlaceDialog},
+    {"AI Document Closed Notifier", fetchViewAndPlaceDialog, Document::MayHaveChanged},
     {"AI Document Changed Notifier", fetchViewAndPlaceDialog, Document::MayHaveChanged},
     {"AI Document View Changed Notifier", fetchViewAndPlaceDialog},
     {"AI Document View Style Active View Changed Notifier", fetchViewAndPlaceDialog},

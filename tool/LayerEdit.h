@@ -3,7 +3,8 @@
 /// Editing the axes of a layer apart from it.
 ///
 ///   1. `beginLayerEdit` notes what the layer has: axes, guides along them, generated copies.
-///   2. `takeAxesOffLayer` makes the axes pending; the copies become ordinary art, the guides go. In
+///   2. `takeAxesOffLayer` makes the axes pending; the copies become ordinary art, the guides go.
+///   In
 ///      a drag the host takes back what the message before it did, so every message does this anew.
 ///   3. The edit ends when the axes are applied or dropped (`endLayerEdit`), or with everything as
 ///      it was when it began (`restoreLayer`).

@@ -46,7 +46,8 @@ void setSectorHandleHighlight(ToolSession& session, bool highlighted) {
 
 void enterDialog(ToolSession& session) {
     ToolState& state = session.state;
-    state.zone = state.hoverItem == DialogItem::Title ? ToolZone::DialogTitle : ToolZone::DialogButton;
+    state.zone =
+        state.hoverItem == DialogItem::Title ? ToolZone::DialogTitle : ToolZone::DialogButton;
     hideHint(state.hint);
     setSectorHandleHighlight(session, false);
     showZoneCursor(session);
@@ -57,9 +58,8 @@ void enterDialog(ToolSession& session) {
 void updateHoverItem(ToolSession& session) {
     ToolState& state = session.state;
     const DialogItem item =
-        dialogIsShown(session)
-            ? dialogItemAt(state.dialog, viewPixelOf(session.view, state.cursor))
-            : DialogItem::None;
+        dialogIsShown(session) ? dialogItemAt(state.dialog, viewPixelOf(session.view, state.cursor))
+                               : DialogItem::None;
     if (item == state.hoverItem) return;
     state.hoverItem = item;
     redrawDialog(session);

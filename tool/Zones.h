@@ -1,7 +1,7 @@
 #pragma once
 
-/// What lies under the cursor, and how the user is told: by the cursor's shape, by what lights up and
-/// by hints. All functions throw `ai::Error`.
+/// What lies under the cursor, and how the user is told: by the cursor's shape, by what lights up
+/// and by hints. All functions throw `ai::Error`.
 
 #include "tool/ToolSession.h"
 

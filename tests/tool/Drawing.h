@@ -4,6 +4,10 @@
 
 #include "easel/document/ArtTree.h"
 #include "easel/document/Dump.h"
+#include "symmetry/AxisGuides.h"
+
+#include <algorithm>
+#include <sstream>
 
 namespace facetta::tests {
 
@@ -40,6 +44,35 @@ public:
     }
     [[nodiscard]] easel::Document& document() const { return *host.documents().front(); }
     [[nodiscard]] std::string text() const { return easel::dump(document()); }
+    /// Without the stamp that a live layer has noted: a change taken back leaves a later one.
+    [[nodiscard]] std::string textButStamp() const {
+        std::istringstream lines(text());
+        std::string kept;
+        for (std::string line; std::getline(lines, line);)
+            if (line.find("\"ts\"") == std::string::npos) kept += line + '\n';
+        return kept;
+    }
+    /// Attaches the pending axes to the layer, with guides along them if these are wanted.
+    void makeLive(bool withGuides = false) {
+        host.editToolOptions();
+        if (withGuides)
+            host.edit("Guides", [](easel::Document&) { addAxisGuides(thePlugin->tool.axes); });
+    }
+    /// The directions of the guides along axes, in degrees from 0 to 180, sorted.
+    [[nodiscard]] std::vector<int> guideAngles() const;
 };
+
+inline std::vector<int> Drawing::guideAngles() const {
+    std::vector<int> angles;
+    const easel::Art& root = document().root();
+    for (const easel::Art* art = &root; art != nullptr; art = easel::nextInPreorder(*art, root)) {
+        if (!art->content().guide) continue;
+        const Vector along = widen(art->segments()[1].p) - widen(art->segments()[0].p);
+        const double degrees = std::atan2(along.y, along.x) * 180 / kPi;
+        angles.push_back((static_cast<int>(std::lround(degrees)) + 360) % 180);
+    }
+    std::ranges::sort(angles);
+    return angles;
+}
 
 } // namespace facetta::tests

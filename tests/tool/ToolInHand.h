@@ -26,6 +26,35 @@ public:
     }
     void release(AIReal x, AIReal y) { host.release({.at = {x, y}}); }
 
+    /// One whole gesture along a straight line, with a message half-way.
+    void dragFrom(AIRealPoint from, AIRealPoint to) {
+        press(from.h, from.v);
+        drag((from.h + to.h) / 2, (from.v + to.v) / 2);
+        drag(to.h, to.v);
+        release(to.h, to.v);
+    }
+    void click(AIRealPoint point) {
+        press(point.h, point.v);
+        release(point.h, point.v);
+    }
+
+    /// A place `halfSteps` half steps counter-clockwise of the first axis.
+    [[nodiscard]] AIRealPoint onRay(double halfSteps, double radius) const {
+        const double angle = axes().angle + halfSteps * halfStep(axes());
+        return narrow(origin() + radius * direction(angle));
+    }
+    /// A place on the on-canvas dialog, in pixels from its corner.
+    [[nodiscard]] AIRealPoint onDialog(int x, int y) const {
+        const DialogPosition& dialog = thePlugin->tool.dialog;
+        const AIRealPoint pixel{static_cast<AIReal>(dialog.x + x),
+                                static_cast<AIReal>(dialog.y + y)};
+        return easel::toArtwork(host.view(nullptr), pixel);
+    }
+    [[nodiscard]] AIRealPoint onButton(DialogItem item) const {
+        return onDialog(96, 30 * static_cast<int>(item) - 30);
+    }
+
+    [[nodiscard]] ToolState& tool() const { return thePlugin->tool; }
     [[nodiscard]] const SymmetryAxes& axes() const { return thePlugin->tool.axes; }
     [[nodiscard]] Point origin() const { return soften(originOf(axes())); }
 };

@@ -1,27 +1,11 @@
+#include "tests/tool/KeysHeld.h"
 #include "tests/tool/ToolInHand.h"
-
-#include "platform/Headless.h"
 
 using namespace facetta;
 using namespace facetta::tests;
 using platform::Key;
 
 namespace {
-
-/// Keys held down for the life of the object.
-class KeysHeld {
-public:
-    explicit KeysHeld(std::initializer_list<Key> held) {
-        for (const Key key : held)
-            keys().down.at(static_cast<unsigned char>(key)) = true;
-    }
-    ~KeysHeld() { keys() = {}; }
-    KeysHeld(const KeysHeld&) = delete;
-    KeysHeld& operator=(const KeysHeld&) = delete;
-
-private:
-    static platform::KeyState& keys() { return platform::headless::surroundings().keys; }
-};
 
 constexpr Key digit(int number) { return static_cast<Key>('0' + number); }
 

@@ -1,0 +1,129 @@
+#include "tests/tool/Drawing.h"
+
+using namespace facetta;
+using namespace facetta::tests;
+
+namespace {
+
+constexpr ai::int32 kFinger = 16024;
+constexpr ai::int32 kBase = 16021;
+
+} // namespace
+
+TEST_CASE("the cursor finds the items of the dialog, to the pixel") {
+    struct Row {
+        int x;
+        int y;
+        DialogItem item;
+    };
+    const Row rows[] = {
+        {0, 1, DialogItem::Title},
+        {191, 14, DialogItem::Title},
+        {96, 15, DialogItem::ApplyToSelection},
+        {96, 45, DialogItem::ApplyToLayer},
+        {96, 104, DialogItem::Cancel},
+        {96, 105, DialogItem::None},
+        {192, 50, DialogItem::None},
+    };
+    Drawing session(/*selected*/ true);
+    for (const auto& [x, y, item] : rows) {
+        INFO(x, ",", y);
+        session.host.track({.at = session.onDialog(x, y)});
+        CHECK(session.tool().hoverItem == item);
+        const bool isButton = item >= DialogItem::ApplyToSelection;
+        CHECK((session.tool().zone == ToolZone::DialogButton) == isButton);
+        CHECK((session.tool().zone == ToolZone::DialogTitle) == (item == DialogItem::Title));
+        CHECK((session.host.user.cursor == kFinger) == (item != DialogItem::None));
+    }
+}
+
+TEST_CASE("the dialog is not there without pending axes, or when the user does without it") {
+    Drawing session(/*selected*/ true);
+    const AIRealPoint place = session.onButton(DialogItem::Cancel);
+    thePlugin->preferences.useAnnotationDialog = false;
+    session.host.track({.at = place});
+    CHECK(session.tool().hoverItem == DialogItem::None);
+    thePlugin->preferences.useAnnotationDialog = true;
+    session.makeLive();
+    session.host.track({.at = place});
+    CHECK(session.tool().hoverItem == DialogItem::None);
+}
+
+TEST_CASE("what the buttons do") {
+    struct Row {
+        const char* what;
+        DialogItem button;
+        bool selected;
+        bool axesStay;
+        bool onLayer;
+        const char* undoText;
+    };
+    const Row rows[] = {
+        {"mirror the selection", DialogItem::ApplyToSelection, true, false, false,
+         "Undo Apply Symmetry Axes to Selection"},
+        {"nothing is selected", DialogItem::ApplyToSelection, false, true, false, "Undo Draw"},
+        {"attach to the layer", DialogItem::ApplyToLayer, false, true, true,
+         "Undo Apply Symmetry Axes to Layer"},
+        {"drop the axes", DialogItem::Cancel, true, false, false, "Undo Draw"},
+        {"the title does nothing", DialogItem::Title, true, true, false, "Undo Draw"},
+    };
+    for (const auto& [what, button, selected, axesStay, onLayer, undoText] : rows) {
+        INFO(what);
+        Drawing session(selected);
+        const AIRealPoint place =
+            button == DialogItem::Title ? session.onDialog(96, 7) : session.onButton(button);
+        session.click(place);
+        CHECK(hasAxes(session.tool()) == axesStay);
+        CHECK(session.axes().onLayer == onLayer);
+        CHECK(session.tool().committed == onLayer);
+        CHECK(session.host.undoText() == undoText);
+        if (axesStay) continue;
+        CHECK(session.tool().zone == ToolZone::Canvas);
+        CHECK(near(session.origin(), widen(place))); // new axes follow the cursor
+        CHECK(session.host.user.cursor == kBase);
+    }
+}
+
+TEST_CASE("what counts is the button under the cursor when it is released") {
+    Drawing session(/*selected*/ true);
+    const auto slide = [&](AIRealPoint to) {
+        const AIRealPoint from = session.onButton(DialogItem::ApplyToLayer);
+        session.press(from.h, from.v);
+        session.drag(to.h, to.v);
+        session.release(to.h, to.v);
+    };
+    const std::string before = session.text();
+    slide({150, -700}); // off the dialog
+    CHECK(session.text() == before);
+    CHECK(session.axes().provisional);
+    slide(session.onButton(DialogItem::Cancel));
+    CHECK(session.text() == before);
+    CHECK_FALSE(session.axes().provisional);
+}
+
+TEST_CASE("the title strip moves the dialog by whole pixels, and it stays there") {
+    Drawing session(/*selected*/ true);
+    const DialogPosition before = session.tool().dialog;
+    const SymmetryAxes axes = session.axes();
+    const AIRealPoint from = session.onDialog(20, 7);
+    session.dragFrom(from, {from.h + 60, from.v - 41});
+    CHECK(session.tool().dialog == DialogPosition{before.x + 60, before.y + 41});
+    CHECK(session.axes() == axes);
+    CHECK(session.tool().zone == ToolZone::DialogTitle);
+    session.host.view(nullptr).zoom = 2;
+    const AIRealPoint zoomed = session.onDialog(20, 7);
+    session.dragFrom(zoomed, {zoomed.h - 10, zoomed.v});
+    CHECK(session.tool().dialog.x == before.x + 40);
+}
+
+TEST_CASE("the licence may refuse what the buttons apply") {
+    const Licensing refusing{LicenceState::Licensed,
+                             {GuardedAction::ApplyToSelection, GuardedAction::ApplyToLayer}};
+    Drawing session(/*selected*/ true, refusing);
+    const std::string before = session.text();
+    for (const DialogItem button : {DialogItem::ApplyToSelection, DialogItem::ApplyToLayer}) {
+        session.click(session.onButton(button));
+        CHECK(session.text() == before);
+        CHECK(session.axes().provisional);
+    }
+}

@@ -1,0 +1,79 @@
+#include "tests/tool/FaultSweep.h"
+
+namespace facetta::tests {
+namespace {
+
+/// Calls that give something back, an entry by reading or storing it: when the host fails these, it
+/// is left with what it lent.
+bool givesBack(const std::string& function) {
+    if (function.starts_with("AI Entry Suite.To") || function == "AI Dictionary Suite.Set")
+        return true;
+    for (const char* const end : {"Destroy", "Release", "DisposeArtSet", "PopAppContext"})
+        if (function.ends_with(end)) return true;
+    return false;
+}
+
+std::vector<std::string> fallibleCalls(const FaultAction& action) {
+    Drawing session(/*selected*/ true);
+    action.prepare(session);
+    easel::hostCalls().setRecording(true);
+    action.perform(session);
+    easel::hostCalls().setRecording(false);
+    std::vector<std::string> names;
+    for (const easel::SlotRecord* slot : easel::hostCalls().recorded())
+        if (slot->returnsError) names.push_back(slot->name);
+    return names;
+}
+
+/// A whole gesture and a picture of it, without any failure.
+void checkGoesOn(Drawing& session) {
+    session.host.sent.clear(); // holds what has failed
+    session.host.selectTool(nullptr);
+    session.host.selectTool(thePlugin->toolHandle);
+    session.dragFrom({520, -300}, {620, -260});
+    CHECK(hasAxes(session.tool()));
+    CHECK_FALSE(session.tool().cancelled);
+    CHECK_FALSE(session.tool().repositionArt);
+    CHECK_FALSE(session.host.drawAnnotations(nullptr).empty());
+    CHECK(session.host.sent.empty());
+}
+
+void performWithFault(const FaultAction& action, std::size_t call) {
+    Drawing session(/*selected*/ true);
+    action.prepare(session);
+    // A stamp that cannot be read only has a layer mirrored once more, with the same result.
+    const std::string before = session.textButStamp();
+    session.host.sent.clear();
+    easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::Once,
+                            .call = call,
+                            .function = {},
+                            .code = kOutOfMemoryErr});
+    action.perform(session);
+    CHECK(easel::hostCalls().fired());
+    easel::hostCalls().disarm();
+    CHECK(session.host.user.alerts.size() <= 1);
+    for (const easel::SentMessage& failed : session.host.sent)
+        CHECK(failed.result == kOutOfMemoryErr);
+    if (session.textButStamp() != before) {
+        session.host.undo();
+        CHECK(session.textButStamp() == before);
+    }
+    checkGoesOn(session);
+}
+
+} // namespace
+
+void sweepFaults(std::span<const FaultAction> actions) {
+    for (const FaultAction& action : actions) {
+        const std::vector<std::string> names = fallibleCalls(action);
+        REQUIRE(names.size() > 10);
+        for (std::size_t call = 1; call <= names.size(); ++call) {
+            if (givesBack(names[call - 1])) continue;
+            const std::string what = std::string(action.name) + ", " + names[call - 1];
+            INFO(what, ", host call ", call);
+            performWithFault(action, call);
+        }
+    }
+}
+
+} // namespace facetta::tests

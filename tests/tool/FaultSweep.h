@@ -1,0 +1,20 @@
+#pragma once
+
+#include "tests/tool/Drawing.h"
+
+#include <span>
+
+namespace facetta::tests {
+
+/// Something the user does, as one undo step at most, and what comes before it.
+struct FaultAction {
+    const char* name;
+    void (*prepare)(Drawing&);
+    void (*perform)(Drawing&);
+};
+
+/// Performs each action again and again, failing another host call each time. Nothing may be lent
+/// for good, the document must be what it was or one undo away from it, and the tool must go on.
+void sweepFaults(std::span<const FaultAction> actions);
+
+} // namespace facetta::tests

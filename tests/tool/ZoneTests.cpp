@@ -1,0 +1,103 @@
+#include "tests/tool/Drawing.h"
+#include "tests/tool/KeysHeld.h"
+
+using namespace facetta;
+using namespace facetta::tests;
+using platform::Key;
+
+TEST_CASE("cursor and Alt hint by what is under the cursor") {
+    struct Row {
+        const char* where;
+        double halfSteps;
+        double radius;
+        ToolZone zone;
+        ai::int32 cursor;
+        HintId pending; ///< with Alt, for pending axes
+        HintId onLayer;
+    };
+    const Row rows[] = {
+        {"a sector", 1.3, 200, ToolZone::Sector, 16021, HintId::SpecifySector,
+         HintId::SpecifySector},
+        {"an axis", 2, 200, ToolZone::Axis, 16022, HintId::None, HintId::RepositionLayerAxes},
+        {"the handle", 0.5, 200, ToolZone::Axis, 16022, HintId::None, HintId::RepositionLayerAxes},
+        {"the origin", 0, 0, ToolZone::Origin, 16022, HintId::None, HintId::RepositionLayerAxes},
+    };
+    for (const bool onLayer : {false, true}) {
+        Drawing session(/*selected*/ false);
+        if (onLayer) session.makeLive();
+        for (const Row& row : rows) {
+            INFO(row.where, onLayer ? " of a layer's axes" : " of pending axes");
+            session.tool().hint = {};
+            const AIRealPoint place = session.onRay(row.halfSteps, row.radius);
+            {
+                const KeysHeld held({Key::Alt});
+                session.host.track({.at = place});
+            }
+            CHECK(session.tool().zone == row.zone);
+            CHECK(session.host.user.cursor == row.cursor);
+            CHECK(session.tool().sectorHandleHighlighted == (row.halfSteps == 0.5));
+            const HintId expected = onLayer ? row.onLayer : row.pending;
+            CHECK(session.tool().hint.id == expected);
+            CHECK(session.tool().hint.shown == (expected != HintId::None));
+            session.host.track({.at = place});
+            CHECK_FALSE(session.tool().hint.shown);
+        }
+    }
+}
+
+TEST_CASE("the keys that set the number of axes tell what they did, at their limits nothing") {
+    struct Row {
+        Key key;
+        ai::int32 before;
+        ai::int32 after;
+        HintId hint;
+    };
+    const Row rows[] = {{Key::Digit9, 3, 9, HintId::SpecifyAxes},
+                        {Key::RightBracket, 71, 72, HintId::IncreaseAxes},
+                        {Key::RightBracket, 72, 72, HintId::None},
+                        {Key::LeftBracket, 2, 1, HintId::DecreaseAxes},
+                        {Key::LeftBracket, 1, 1, HintId::None}};
+    for (const auto& [key, before, after, hint] : rows) {
+        ToolInHand session;
+        thePlugin->preferences.count = before;
+        session.press(200, -200);
+        session.tool().hint = {};
+        const KeysHeld held({key});
+        session.drag(200, -200); // without moving
+        CHECK(session.axes().axisCount == after);
+        CHECK(session.tool().hint.id == hint);
+        session.release(200, -200);
+    }
+}
+
+TEST_CASE("another number of axes is an edit of the layer's, even without moving") {
+    Drawing session(/*selected*/ false);
+    session.makeLive();
+    const SymmetryAxes before = session.axes();
+    const AIRealPoint axis = session.onRay(0, 200);
+    session.press(axis.h, axis.v);
+    {
+        const KeysHeld held({Key::Digit9});
+        session.drag(axis.h, axis.v);
+    }
+    session.release(axis.h, axis.v);
+    CHECK(session.axes().axisCount == 9);
+    CHECK(session.axes().provisional);
+    CHECK(session.tool().layerBackup == before);
+    session.click(session.onButton(DialogItem::Cancel));
+    CHECK(session.axes() == before);
+}
+
+TEST_CASE("on a layer that is locked nothing is made, also where the cursor rests") {
+    ToolInHand session;
+    session.host.track({.at = {100, -100}});
+    session.host.edit("Lock", [](easel::Document& document) {
+        document.state().currentLayer->write().attributes |= kArtLocked;
+        document.note(&easel::DocumentChanges::layerOptions);
+    });
+    session.host.press({.at = {100, -100}});
+    CHECK(session.host.user.cursor == 16023);
+    session.drag(200, -100);
+    session.release(200, -100);
+    CHECK_FALSE(hasAxes(session.tool()));
+}
