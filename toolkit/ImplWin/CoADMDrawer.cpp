@@ -36,8 +36,8 @@ std::array<Colour, 17> admColours(const Palette& palette) {
 } // namespace
 
 CoADMDrawer::CoADMDrawer(Screen& screen, Surface& surface, Scale scale, bool inPanel)
-    : screen_(screen), surface_(surface), scale_(scale), inPanel_(inPanel), update_(surface.clip()),
-      colour_(screen.palette.text) {}
+    : screen_(screen), surface_(surface), scale_(scale), inPanel_(inPanel),
+      panelBackground_(inPanel), update_(surface.clip()), colour_(screen.palette.text) {}
 
 RECT CoADMDrawer::toPixels(const Bounds& bounds) const {
     return scale_.toPixels(RECT{bounds.left + origin_.x, bounds.top + origin_.y,
@@ -228,8 +228,8 @@ int CoADMDrawer::textHeight(std::wstring_view text, int width) const {
     return scale_.toUnits(wrappedHeight(text, style(), scale_, scale_.toPixels(width)));
 }
 
-CoADMDrawer::FontInfo CoADMDrawer::fontInfo(int font) const {
-    const TextStyle known = textStyleOf(font, inPanel_);
+FontInfo fontInfo(int font, bool inPanel) {
+    const TextStyle known = textStyleOf(font, inPanel);
     const LineMetrics metrics = lineMetrics(known, {1.0});
     const int ascent = static_cast<int>(std::lround(metrics.ascent));
     const int height = static_cast<int>(std::lround(metrics.height));

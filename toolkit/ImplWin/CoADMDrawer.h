@@ -11,6 +11,16 @@
 
 namespace NRDM {
 
+/// In units; `font` is ADM's number.
+struct FontInfo {
+    int height;
+    int ascent;
+    int descent;
+    int leading;
+    int maximumWidth;
+};
+[[nodiscard]] FontInfo fontInfo(int font, bool inPanel);
+
 /// What stands behind a drawer reference: pixels, and how the next call draws on them. It is lent
 /// to a draw procedure and is good for the length of that call.
 ///
@@ -45,6 +55,10 @@ public:
     void setFont(int font) noexcept { font_ = font; }
     [[nodiscard]] int font() const noexcept { return font_; }
 
+    /// Dialogs and panels have the same background here; the choice is only kept.
+    void usePanelBackground(bool used) noexcept { panelBackground_ = used; }
+    [[nodiscard]] bool usesPanelBackground() const noexcept { return panelBackground_; }
+
     void clear(const Bounds& area);
     void drawLine(Place from, Place to);
     void drawRect(const Bounds& rect);
@@ -69,10 +83,7 @@ public:
     [[nodiscard]] int textWidth(std::wstring_view text) const;
     [[nodiscard]] int textHeight(std::wstring_view text, int width) const;
 
-    struct FontInfo {
-        int height, ascent, descent, leading, maximumWidth;
-    };
-    [[nodiscard]] FontInfo fontInfo(int font) const;
+    [[nodiscard]] FontInfo fontInfo(int font) const { return NRDM::fontInfo(font, inPanel_); }
 
 private:
     [[nodiscard]] RECT toPixels(const Bounds& bounds) const;
@@ -85,6 +96,7 @@ private:
     Surface& surface_;
     Scale scale_;
     bool inPanel_;
+    bool panelBackground_;
     RECT update_;
     Place origin_;
     Colour colour_;

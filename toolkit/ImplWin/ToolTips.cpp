@@ -40,6 +40,8 @@ LRESULT CALLBACK ToolTips::procedure(HWND window, UINT message, WPARAM wide, LPA
 }
 
 void ToolTips::create(HWND dialog) {
+    const INITCOMMONCONTROLSEX wanted{sizeof(wanted), ICC_BAR_CLASSES}; // tips are among them
+    InitCommonControlsEx(&wanted);
     *window_.put() = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, L"",
                                      WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0, 0, dialog,
                                      nullptr, WindowClass::library(), nullptr);

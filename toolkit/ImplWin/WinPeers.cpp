@@ -60,7 +60,7 @@ int widestEntry(const ItemView& view, TextStyle style) {
 } // namespace
 
 WinPeers::WinPeers(const Theme& theme, PictureSource pictures)
-    : screen_(std::make_unique<Screen>(theme, std::move(pictures))) {}
+    : theme_(theme), screen_(std::make_unique<Screen>(theme, std::move(pictures))) {}
 
 std::unique_ptr<DialogPeer> WinPeers::createDialog(const DialogView& view, DialogEvents& events) {
     return std::make_unique<NativeDialog>(*screen_, view, events);
@@ -101,12 +101,8 @@ void WinPeers::fail() noexcept {
 
 void WinPeers::beep() { MessageBeep(MB_OK); }
 
-void WinPeers::setTheme(const Theme& theme) {
-    screen_->palette = Palette(theme);
-    themeChanged();
-}
-
 void WinPeers::themeChanged() {
+    screen_->palette = Palette(theme_);
     for (const HWND dialog : screen_->dialogs)
         RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }

@@ -8,7 +8,8 @@ namespace NRDM {
 /// Windows for dialogs and items.
 class WinPeers final : public Peers {
 public:
-    /// `pictures` are the plug-in's. Throws `NRDMResourceException`.
+    /// `theme` is read again when it has changed; `pictures` are the plug-in's. Throws
+    /// `NRDMResourceException`.
     WinPeers(const Theme& theme, PictureSource pictures);
 
     std::unique_ptr<DialogPeer> createDialog(const DialogView& view, DialogEvents& events) override;
@@ -18,12 +19,10 @@ public:
     void beep() override;
     void themeChanged() override;
 
-    /// `theme` holds from now on: everything open is painted anew.
-    void setTheme(const Theme& theme);
-
     [[nodiscard]] Screen& screen() noexcept { return *screen_; }
 
 private:
+    const Theme& theme_;
     std::unique_ptr<Screen> screen_;
 };
 

@@ -1,11 +1,11 @@
 #include "toolkit/gallery/Exhibit.h"
 
-#include "toolkit/ImplWin/CoADMDrawer.h"
+#include <windows.h>
 
 #include <algorithm>
-#include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 namespace NRDM::gallery {
 
@@ -72,30 +72,6 @@ void Exhibit::choose(int entry) {
     peer_->changed(Aspect::Value | Aspect::Text);
 }
 
-/// A user item shows what a drawer can do.
-void Exhibit::draw(CoADMDrawer& drawer) {
-    const Bounds area = drawer.bounds();
-    drawer.setColour(13);
-    drawer.fillRect(area);
-    drawer.drawSunkenRect({6, 6, 40, 34});
-    drawer.drawRaisedRect({46, 6, 80, 34});
-    drawer.setColour(2);
-    drawer.fillOval({86, 6, 114, 34});
-    drawer.setColour(15);
-    drawer.drawOval({120, 6, 148, 34});
-    const std::array star{Place{168, 6}, Place{182, 34}, Place{154, 34}};
-    drawer.drawPolygon(star);
-    drawer.drawArrow({190, 6, 210, 34}, Arrow::Up);
-    drawer.drawArrow({212, 6, 232, 34}, Arrow::Down);
-    drawer.drawArrow({234, 6, 254, 34}, Arrow::Left);
-    drawer.drawArrow({256, 6, 276, 34}, Arrow::Right);
-    drawer.drawText(L"Left", Bounds{6, 40, 276, 56}, Justify::Left);
-    drawer.drawText(L"Centred", Bounds{6, 40, 276, 56}, Justify::Centre);
-    drawer.drawText(L"Right", Bounds{6, 40, 276, 56}, Justify::Right);
-    drawer.setColour(7);
-    drawer.drawRect(area);
-}
-
 Page::Page(std::string title, Extent size, DialogKind fontsOf) {
     view_.kind = DialogKind::Floating;
     view_.title = std::move(title);
@@ -105,6 +81,12 @@ Page::Page(std::string title, Extent size, DialogKind fontsOf) {
 
 Page& Page::add(ItemView view, Pose pose) {
     exhibits_.push_back(std::make_unique<Exhibit>(std::move(view), pose));
+    return *this;
+}
+
+Page& Page::addDrawn(ItemView view, std::function<void(CoADMDrawer&)> draw) {
+    add(std::move(view));
+    exhibits_.back()->onDraw = std::move(draw);
     return *this;
 }
 

@@ -2,6 +2,7 @@
 
 #include "toolkit/ImplCommon/Peers.h"
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -24,6 +25,8 @@ public:
     [[nodiscard]] const ItemView& view() const { return view_; }
     [[nodiscard]] ItemPeer* peer() const { return peer_.get(); }
 
+    std::function<void(CoADMDrawer&)> onDraw; ///< of a user item
+
     void clicked() override;
     void typed(const std::string& text) override { typed_ = text; }
     bool commit() override;
@@ -32,7 +35,7 @@ public:
     void slide(double value, Phase phase) override;
     void choose(int entry) override;
     void activated(bool) override {}
-    void draw(CoADMDrawer& drawer) override;
+    void draw(CoADMDrawer& drawer) override { onDraw(drawer); }
     bool track(const TrackInput&) override { return false; }
 
 private:
@@ -50,6 +53,7 @@ public:
     Page(std::string title, Extent size, DialogKind fontsOf);
 
     Page& add(ItemView view, Pose pose = Pose::Plain);
+    Page& addDrawn(ItemView view, std::function<void(CoADMDrawer&)> draw);
 
     void open(Peers& peers);
     void close();

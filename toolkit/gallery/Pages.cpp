@@ -1,5 +1,9 @@
 #include "toolkit/gallery/Pages.h"
 
+#include "toolkit/ImplWin/CoADMDrawer.h"
+
+#include <array>
+
 namespace NRDM::gallery {
 namespace {
 
@@ -75,6 +79,30 @@ void addHeadings(Page& page, std::initializer_list<const char*> headings, int le
         page.add(view);
         left += width;
     }
+}
+
+/// A user item shows what a drawer can do.
+void drawSamples(CoADMDrawer& drawer) {
+    const Bounds area = drawer.bounds();
+    drawer.setColour(13);
+    drawer.fillRect(area);
+    drawer.drawSunkenRect({6, 6, 40, 34});
+    drawer.drawRaisedRect({46, 6, 80, 34});
+    drawer.setColour(2);
+    drawer.fillOval({86, 6, 114, 34});
+    drawer.setColour(15);
+    drawer.drawOval({120, 6, 148, 34});
+    const std::array star{Place{168, 6}, Place{182, 34}, Place{154, 34}};
+    drawer.drawPolygon(star);
+    drawer.drawArrow({190, 6, 210, 34}, Arrow::Up);
+    drawer.drawArrow({212, 6, 232, 34}, Arrow::Down);
+    drawer.drawArrow({234, 6, 254, 34}, Arrow::Left);
+    drawer.drawArrow({256, 6, 276, 34}, Arrow::Right);
+    drawer.drawText(L"Left", Bounds{6, 40, 276, 56}, Justify::Left);
+    drawer.drawText(L"Centred", Bounds{6, 40, 276, 56}, Justify::Centre);
+    drawer.drawText(L"Right", Bounds{6, 40, 276, 56}, Justify::Right);
+    drawer.setColour(7);
+    drawer.drawRect(area);
 }
 
 constexpr int kColumn = 98;
@@ -209,7 +237,7 @@ std::unique_ptr<Page> lists() {
     }
     page->add(styled(item(ControlKind::Frame, at(kLeft, 288, 184, 56), "Group"), 1));
     page->add(item(ControlKind::CheckBox, at(22, 310, 170, 18), "Inside a named frame"));
-    page->add(item(ControlKind::User, at(206, 288, 282, 60)));
+    page->addDrawn(item(ControlKind::User, at(206, 288, 282, 60)), drawSamples);
     return page;
 }
 

@@ -1,16 +1,21 @@
 /// gallery.exe: every kind of item, to look at. Without arguments it opens its pages as windows.
 ///
-///     gallery --png FOLDER       writes each page in light and dark, at 1x and 2x
-///     gallery --dark --scale 2   opens the windows so
+///     gallery --png FOLDER         writes each page in light and dark, at 1x and 2x
+///     gallery --layout FILE        shows a layout, or its text with the mistakes in it
+///     gallery --dark --scale 2     opens the windows so
 
 #include "toolkit/ImplWin/WinPeers.h"
 #include "toolkit/Toolkit.h"
+#include "toolkit/gallery/LayoutPage.h"
 #include "toolkit/gallery/Pages.h"
 #include "toolkit/gallery/Snapshot.h"
+#include "toolkit/layout/Layout.h"
 
 #include <CLI/CLI.hpp>
 
 #include <cstdio>
+#include <fstream>
+#include <iterator>
 #include <string>
 
 using namespace NRDM;
@@ -29,46 +34,72 @@ Theme themeOf(bool dark) {
             .dark = true};
 }
 
-bool writePage(WinPeers& peers, const PageRow& row, const std::wstring& file) {
-    const std::unique_ptr<Page> page = row.make();
-    page->open(peers);
-    page->pose();
-    const bool written = savePicture(static_cast<HWND>(page->window()), file);
-    page->close();
-    if (!written) std::fprintf(stderr, "cannot write %ls\n", file.c_str());
+/// A page and the name of its picture files.
+struct NamedPage {
+    std::string name;
+    std::unique_ptr<Page> page;
+};
+
+std::vector<NamedPage> allPages() {
+    std::vector<NamedPage> all;
+    for (const auto& [name, make] : pages())
+        all.push_back({name, make()});
+    return all;
+}
+
+std::vector<NamedPage> layoutPages(const std::string& file) {
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream) throw std::runtime_error("cannot read " + file);
+    const std::string text{std::istreambuf_iterator<char>(stream), {}};
+    const layout::Parsed parsed = layout::parse(text);
+    for (const layout::Message& message : parsed.messages)
+        std::fprintf(stderr, "%s\n", layout::format(message, file).c_str());
+    std::vector<NamedPage> all;
+    all.push_back({"layout", mistakesPage(file, text, parsed.messages)});
+    return all;
+}
+
+bool writePicture(WinPeers& peers, NamedPage& named, const std::string& folder,
+                  const std::string& variant) {
+    const std::string file = folder + "/gallery-" + named.name + variant + ".png";
+    named.page->open(peers);
+    named.page->pose();
+    const bool written = savePicture(static_cast<HWND>(named.page->window()),
+                                     std::wstring(file.begin(), file.end()));
+    named.page->close();
+    if (!written) std::fprintf(stderr, "cannot write %s\n", file.c_str());
     return written;
 }
 
-int writePictures(const std::string& folder) {
+int writePictures(std::vector<NamedPage> shown, const std::string& folder) {
     bool written = true;
     for (const bool dark : {false, true}) {
-        WinPeers peers(themeOf(dark), picturesOf(WindowClass::library()));
+        const Theme theme = themeOf(dark);
+        WinPeers peers(theme, picturesOf(WindowClass::library()));
         for (const int scale : {1, 2}) {
             peers.screen().fixedScale = Scale{static_cast<double>(scale)};
-            for (const PageRow& row : pages()) {
-                const std::string name = folder + "/gallery-" + row.name +
-                                         (dark ? "-dark-" : "-light-") + std::to_string(scale) +
-                                         "x.png";
-                written = writePage(peers, row, std::wstring(name.begin(), name.end())) && written;
-            }
+            const std::string variant =
+                std::string(dark ? "-dark-" : "-light-") + std::to_string(scale) + "x";
+            for (NamedPage& named : shown)
+                written = writePicture(peers, named, folder, variant) && written;
         }
     }
     return written ? 0 : 1;
 }
 
-int showWindows(bool dark, double scale) {
-    WinPeers peers(themeOf(dark), picturesOf(WindowClass::library()));
+int showWindows(std::vector<NamedPage> shown, bool dark, double scale) {
+    const Theme theme = themeOf(dark);
+    WinPeers peers(theme, picturesOf(WindowClass::library()));
     if (scale > 0) peers.screen().fixedScale = Scale{scale};
-    std::vector<std::unique_ptr<Page>> open;
-    for (const PageRow& row : pages()) {
-        open.push_back(row.make());
-        open.back()->open(peers);
-    }
+    for (const NamedPage& named : shown)
+        named.page->open(peers);
     MSG message;
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }
+    for (const NamedPage& named : shown)
+        named.page->close();
     return 0;
 }
 
@@ -78,15 +109,19 @@ int main(int argc, char** argv) {
     SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
     CLI::App app("Every kind of item of the dialog toolkit, to look at.");
     std::string folder;
+    std::string layout;
     bool dark = false;
     double scale = 0;
-    app.add_option("--png", folder, "Write each page as pictures into this folder");
+    app.add_option("--png", folder, "Write what would be shown as pictures into this folder");
+    app.add_option("--layout", layout, "Show the layout in this file instead of the pages");
     app.add_flag("--dark", dark, "Dark interface");
     app.add_option("--scale", scale, "Pixels a unit, instead of the display's")
         ->check(CLI::Range(1.0, 4.0));
     CLI11_PARSE(app, argc, argv);
     try {
-        return folder.empty() ? showWindows(dark, scale) : writePictures(folder);
+        std::vector<NamedPage> shown = layout.empty() ? allPages() : layoutPages(layout);
+        return folder.empty() ? showWindows(std::move(shown), dark, scale)
+                              : writePictures(std::move(shown), folder);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
         return 1;

@@ -73,7 +73,7 @@ bool StagedItem::track(const TrackInput& input) {
 }
 
 Stage::Stage(DialogKind kind, Extent size)
-    : peers(Theme{}, [](int, PictureDensity) { return std::span<const std::byte>(); }) {
+    : peers(theme, [](int, PictureDensity) { return std::span<const std::byte>(); }) {
     peers.screen().failed = [this] { ++failures; };
     peers.screen().fixedScale = Scale{1.0};
     view.kind = kind;
