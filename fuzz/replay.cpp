@@ -25,7 +25,7 @@ using Input = std::vector<std::uint8_t>;
 using Random = std::mt19937;
 
 constexpr unsigned kSeed = 1;
-constexpr int kChangedInputs = 2000;
+constexpr int kChangedInputs = 4000;
 constexpr int kMostEdits = 4;
 /// Changed inputs stay as short as those that a fuzzer tries.
 constexpr std::size_t kMostBytes = 16384;

@@ -78,7 +78,6 @@ void ArtBuilder::readChildren(NodeIndex node, Art& parent, const Context& contex
         Art* art = nullptr;
         if (state_.tree.at(child).kind == XmlTree::Kind::Element) {
             const Element element{state_.tree, child};
-            if (element.isTrue("easel:generated")) continue;
             art = readElement(element, parent, context);
         }
         if (art != nullptr)

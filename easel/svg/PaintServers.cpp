@@ -78,6 +78,24 @@ void bringFocusInside(GradientContent& gradient) {
 
 } // namespace
 
+bool isGenerated(const XmlTree& tree, NodeIndex node) {
+    const XmlTree::Node& element = tree.at(node);
+    return element.kind == XmlTree::Kind::Element && element.name == "defs" &&
+           element.parent == tree.root() && Element{tree, node}.isTrue("easel:generated");
+}
+
+bool isDerived(const XmlTree& tree, const Element& element) {
+    if (!element.isTrue("easel:derived")) return false;
+    const NodeIndex source = tree.find(element.get("easel:source"));
+    return source != kNoNode && !Element{tree, source}.isTrue("easel:derived");
+}
+
+bool isMadeAnew(const XmlTree& tree, NodeIndex node) {
+    const NodeIndex parent = tree.at(node).parent;
+    return parent != kNoNode && isGenerated(tree, parent) &&
+           tree.at(node).kind == XmlTree::Kind::Element && isDerived(tree, Element{tree, node});
+}
+
 std::vector<Element> referenceChain(const XmlTree& tree, NodeIndex node) {
     std::vector<Element> chain;
     while (node != kNoNode && chain.size() < kLongestChain) {

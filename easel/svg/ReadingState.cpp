@@ -1,6 +1,7 @@
 #include "easel/svg/ReadingState.h"
 
 #include "easel/svg/Numbers.h"
+#include "easel/svg/PaintServers.h"
 
 #include <algorithm>
 
@@ -27,6 +28,15 @@ void PendingInterludes::add(const XmlTree& tree, NodeIndex node) {
     const bool isElement = tree.at(node).kind == XmlTree::Kind::Element;
     pending_.push_back({std::string{trimmed(tree.source(node))}, nullptr, node,
                         isElement && isDefinition(tree.at(node).name)});
+}
+
+void PendingInterludes::addForeign(const XmlTree& tree, NodeIndex generated) {
+    std::string kept;
+    for (NodeIndex node = tree.at(generated).firstChild; node != kNoNode;
+         node = tree.at(node).nextSibling)
+        if (tree.at(node).kind != XmlTree::Kind::Text && !isMadeAnew(tree, node))
+            kept += tree.source(node);
+    if (!kept.empty()) pending_.push_back({"<defs>" + kept + "</defs>", nullptr, generated, true});
 }
 
 void PendingInterludes::moveTo(std::vector<Interlude>& target, AIArtHandle before) {

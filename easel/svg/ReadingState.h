@@ -61,6 +61,8 @@ private:
 class PendingInterludes {
 public:
     void add(const XmlTree& tree, NodeIndex node);
+    /// What others have put among the definitions that saving makes anew.
+    void addForeign(const XmlTree& tree, NodeIndex generated);
     [[nodiscard]] bool empty() const { return pending_.empty(); }
     /// Moves all to the end of `target`, as what stands before that art; null: before none.
     void moveTo(std::vector<Interlude>& target, AIArtHandle before);

@@ -2,6 +2,7 @@
 #include "easel/svg/ArtBuilder.h"
 #include "easel/svg/DictionaryJson.h"
 #include "easel/svg/Numbers.h"
+#include "easel/svg/PaintServers.h"
 #include "easel/svg/SvgFile.h"
 #include "easel/svg/ViewBox.h"
 
@@ -118,8 +119,9 @@ private:
                 target += ' ' + std::string{attribute.source};
         }
         for (const std::string& id : state_.tree.idsBeginningWith(kOwnIds)) {
-            const Element element{state_.tree, state_.tree.find(id)};
-            const bool givenByUs = element.isTrue("easel:derived") || element.isTrue("easel:clip");
+            const NodeIndex node = state_.tree.find(id);
+            const bool givenByUs =
+                isMadeAnew(state_.tree, node) || Element{state_.tree, node}.isTrue("easel:clip");
             if (!givenByUs) source_->reservedIds.push_back(id);
         }
     }
@@ -157,8 +159,9 @@ private:
              node = state_.tree.at(node).nextSibling) {
             const bool isElement = state_.tree.at(node).kind == XmlTree::Kind::Element;
             const Element element{state_.tree, isElement ? node : root.node()};
-            if (isElement && element.isTrue("easel:generated")) continue;
-            if (isElement && isLayerElement(element)) {
+            if (isGenerated(state_.tree, node)) {
+                pending.addForeign(state_.tree, node);
+            } else if (isElement && isLayerElement(element)) {
                 loose = nullptr;
                 pending.moveTo(source_->interludes, readLayer(builder, element, context).handle());
             } else if (isElement && ArtBuilder::isArt(element)) {

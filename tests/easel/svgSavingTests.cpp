@@ -207,6 +207,26 @@ TEST_CASE("a gradient that another program has moved stays where it put it") {
     checkStable(*moved.document);
 }
 
+TEST_CASE("what another program adds to the definitions that saving makes anew is kept") {
+    const OpenedDrawing opened = readSvgText(
+        file("<linearGradient id='a'><stop offset='0'/></linearGradient>"
+             "<path d='M0 0H9V9Z' fill='url(#easel-paint-1)'/><path d='M0 0H9' stroke='url(#b)'/>"
+             "<defs easel:generated='true'><!-- theirs -->"
+             "<linearGradient id='easel-paint-1' xlink:href='#a' easel:derived='true' "
+             "easel:source='a' easel:matrix='9 0 0 -9 0 0'/>"
+             "<linearGradient id='b' gradientUnits='userSpaceOnUse' x2='5'/>"
+             "<linearGradient id='easel-paint-2' easel:derived='true' easel:source='gone'/>"
+             "</defs>"),
+        "x");
+    const std::string saved = svgText(*opened.document);
+    for (const char* kept : {"<!-- theirs -->", "<linearGradient id='b'", "easel:source='gone'"}) {
+        INFO(std::string{kept});
+        CHECK(saved.find(kept) != std::string::npos);
+    }
+    CHECK(saved.find("easel-paint-1'") == std::string::npos); // written anew, as "easel-paint-1"
+    checkStable(*opened.document);
+}
+
 TEST_CASE("definitions outlive the group that they stood in") {
     const auto opened = readSvgText(
         file("<g><linearGradient id='a' gradientUnits='userSpaceOnUse'><stop/></linearGradient>"
