@@ -60,7 +60,7 @@ public:
     static constexpr std::uint64_t kCallsPerPulse = 1 << 16;
 
     // For the exposed functions.
-    /// Counts the call; true when it is to fail with `faultCode()` before it has any effect.
+    /// Counts the call; true when it is to fail with `faultCode()`.
     [[nodiscard]] bool enter(SlotRecord& slot);
     /// `outer` is what `current()` was before `enter`.
     void leave(const SlotRecord* outer) noexcept;

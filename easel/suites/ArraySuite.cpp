@@ -192,7 +192,7 @@ void installArraySuite(SuiteServer& server) {
     expose<&S::CopyEntry, copyEntry>(table);
     expose<&S::SwapEntries, swapEntries>(table);
     expose<&S::Get, get>(table);
-    expose<&S::Set, set>(table);
+    expose<&S::Set, set, FailsConsuming>(table);
     expose<&S::GetBooleanEntry, getBoolean>(table);
     expose<&S::SetBooleanEntry, setBoolean>(table);
     expose<&S::GetIntegerEntry, getInteger>(table);
@@ -209,7 +209,7 @@ void installArraySuite(SuiteServer& server) {
     expose<&S::SetArrayEntry, setArrayEntry>(table);
     expose<&S::GetUnicodeStringEntry, getUnicodeString>(table);
     expose<&S::SetUnicodeStringEntry, setUnicodeString>(table);
-    expose<&S::AppendEntry, appendEntry>(table);
+    expose<&S::AppendEntry, appendEntry, FailsConsuming>(table);
     expose<&S::Reserve, reserve>(table);
 }
 

@@ -159,7 +159,7 @@ void installArtSetSuite(SuiteServer& server) {
     using S = AIArtSetSuite;
     auto table = server.table<S>(kAIArtSetSuite, kAIArtSetSuiteVersion);
     expose<&S::NewArtSet, newArtSet>(table);
-    expose<&S::DisposeArtSet, disposeArtSet>(table);
+    exposeEnding<&S::DisposeArtSet, disposeArtSet>(table);
     expose<&S::CountArtSet, countArtSet>(table);
     expose<&S::IndexArtSet, indexArtSet>(table);
     expose<&S::ArrayArtSet, arrayArtSet>(table);

@@ -32,7 +32,7 @@ AIErr sizeOf(void* block, std::size_t* size) {
 void installBlockSuite(SuiteServer& server) {
     auto table = server.table<AIBlockSuite>(kAIBlockSuite, kAIBlockSuiteVersion);
     expose<&AIBlockSuite::AllocateBlock, allocate>(table);
-    expose<&AIBlockSuite::DisposeBlock, dispose>(table);
+    exposeEnding<&AIBlockSuite::DisposeBlock, dispose>(table);
     expose<&AIBlockSuite::ReallocateBlock, reallocate>(table);
     expose<&AIBlockSuite::SizeOfMemoryBlock, sizeOf>(table);
 }

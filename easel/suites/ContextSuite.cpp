@@ -60,7 +60,7 @@ void installContextSuite(SuiteServer& server) {
     auto table = server.table<AIAppContextSuite>(kAIAppContextSuite, kAIAppContextSuiteVersion);
     expose<&AIAppContextSuite::GetPlatformAppWindow, getPlatformAppWindow>(table);
     expose<&AIAppContextSuite::PushAppContext, pushAppContext>(table);
-    expose<&AIAppContextSuite::PopAppContext, popAppContext>(table);
+    exposeEnding<&AIAppContextSuite::PopAppContext, popAppContext>(table);
     expose<&AIAppContextSuite::SuspendAppContext, suspendAppContext>(table);
     expose<&AIAppContextSuite::ResumeAppContext, resumeAppContext>(table);
     expose<&AIAppContextSuite::AllowAllChanges, allowAllChanges>(table);

@@ -245,7 +245,7 @@ void installDictionarySuite(SuiteServer& server) {
     expose<&S::MoveEntry, moveEntry>(table);
     expose<&S::SwapEntries, swapEntries>(table);
     expose<&S::Get, get>(table);
-    expose<&S::Set, set>(table);
+    expose<&S::Set, set, FailsConsuming>(table);
     expose<&S::GetBooleanEntry, getBoolean>(table);
     expose<&S::SetBooleanEntry, setBoolean>(table);
     expose<&S::GetIntegerEntry, getInteger>(table);

@@ -23,6 +23,15 @@ public:
 /// The value of an entry, whose reference ends.
 [[nodiscard]] Value consume(AIEntryRef entry);
 
+/// For calls that consume an entry: they do so before anything can fail, and also when made to.
+struct FailsConsuming {
+    static void fail(auto&&... arguments) { (drop(arguments), ...); }
+
+private:
+    static void drop(AIEntryRef entry) { static_cast<void>(consume(entry)); }
+    static void drop(const auto&) {}
+};
+
 [[nodiscard]] Dictionary& dictionaryOf(ConstAIDictionaryRef dictionary);
 [[nodiscard]] Array& arrayOf(AIArrayRef array);
 [[nodiscard]] AIDictionaryRef lend(const Ref<Dictionary>& dictionary);

@@ -29,19 +29,34 @@ private:
     bool fails_;
 };
 
-template <auto Slot, auto Function> struct Exposed;
+/// What a call that is made to fail does first: nothing.
+struct FailsUntouched {
+    static void fail(auto&&...) {}
+};
+
+/// For calls that end a loan: made to fail, such a call ends it all the same and only answers a
+/// code. What a host does is not published. But a plug-in cannot give a reference back twice, and
+/// one left over would count as its leak, so that no other choice lets every call be tried.
+template <auto Function> struct FailsWhenDone {
+    static void fail(auto&&... arguments) { static_cast<void>(Function(arguments...)); }
+};
+
+template <auto Slot, auto Function, typename Failing> struct Exposed;
 
 template <typename Suite, typename Result, typename... Arguments,
-          Result (*Suite::*Slot)(Arguments...), Result (*Function)(Arguments...)>
-struct Exposed<Slot, Function> {
+          Result (*Suite::*Slot)(Arguments...), Result (*Function)(Arguments...), typename Failing>
+struct Exposed<Slot, Function, Failing> {
     static inline SlotRecord* record = nullptr;
 
     static Result call(Arguments... arguments) {
         const HostCallScope scope{*record};
-        if constexpr (std::is_same_v<Result, AIErr>) {
-            if (scope.fails()) return hostCalls().faultCode();
-        }
         try {
+            if constexpr (std::is_same_v<Result, AIErr>) {
+                if (scope.fails()) {
+                    Failing::fail(arguments...);
+                    return hostCalls().faultCode();
+                }
+            }
             return Function(arguments...);
         } catch (...) {
             if constexpr (std::is_same_v<Result, AIErr>) {
@@ -54,10 +69,16 @@ struct Exposed<Slot, Function> {
     }
 };
 
-template <auto Slot, auto Function, typename Suite> void expose(SuiteTable<Suite>& table) {
-    using Thunk = Exposed<Slot, Function>;
+template <auto Slot, auto Function, typename Failing = FailsUntouched, typename Suite>
+void expose(SuiteTable<Suite>& table) {
+    using Thunk = Exposed<Slot, Function, Failing>;
     Thunk::record = &table.record(Slot);
     table.functions().*Slot = &Thunk::call;
+}
+
+/// For a function that gives back what the plug-in was lent.
+template <auto Slot, auto Function, typename Suite> void exposeEnding(SuiteTable<Suite>& table) {
+    expose<Slot, Function, FailsWhenDone<Function>>(table);
 }
 
 } // namespace easel

@@ -103,7 +103,7 @@ SPErr setCurrentPlugin(SPPluginRef plugin) {
 void installSPAccessSuite(SuiteServer& server) {
     auto table = server.table<SPAccessSuite>(kSPAccessSuite, kSPAccessSuiteVersion);
     expose<&SPAccessSuite::AcquirePlugin, acquirePlugin>(table);
-    expose<&SPAccessSuite::ReleasePlugin, releasePlugin>(table);
+    exposeEnding<&SPAccessSuite::ReleasePlugin, releasePlugin>(table);
     expose<&SPAccessSuite::GetPluginAccess, getPluginAccess>(table);
     expose<&SPAccessSuite::GetAccessPlugin, getAccessPlugin>(table);
     expose<&SPAccessSuite::GetAccessEntry, getAccessEntry>(table);

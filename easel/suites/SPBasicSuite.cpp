@@ -58,10 +58,10 @@ SPErr undefined() { return kNotImplementedErr; }
 void installSPBasicSuite(SuiteServer& server) {
     auto table = server.table<SPBasicSuite>(kSPBasicSuite, kSPBasicSuiteVersion);
     expose<&SPBasicSuite::AcquireSuite, acquireSuite>(table);
-    expose<&SPBasicSuite::ReleaseSuite, releaseSuite>(table);
+    exposeEnding<&SPBasicSuite::ReleaseSuite, releaseSuite>(table);
     expose<&SPBasicSuite::IsEqual, isEqual>(table);
     expose<&SPBasicSuite::AllocateBlock, allocate>(table);
-    expose<&SPBasicSuite::FreeBlock, release>(table);
+    exposeEnding<&SPBasicSuite::FreeBlock, release>(table);
     expose<&SPBasicSuite::ReallocateBlock, reallocate>(table);
     expose<&SPBasicSuite::Undefined, undefined>(table);
 }

@@ -28,7 +28,7 @@ SPErr reallocate(void* block, std::size_t size, const char* /*debug*/, void** mo
 void installSPBlocksSuite(SuiteServer& server) {
     auto table = server.table<SPBlocksSuite>(kSPBlocksSuite, kSPBlocksSuiteVersion);
     expose<&SPBlocksSuite::AllocateBlock, allocate>(table);
-    expose<&SPBlocksSuite::FreeBlock, release>(table);
+    exposeEnding<&SPBlocksSuite::FreeBlock, release>(table);
     expose<&SPBlocksSuite::ReallocateBlock, reallocate>(table);
 }
 

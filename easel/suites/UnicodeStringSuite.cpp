@@ -213,7 +213,7 @@ void installUnicodeStringSuite(SuiteServer& server) {
     expose<&Suite::Initialize, initialize>(table);
     expose<&Suite::InitializeUTF16, initializeUtf16>(table);
     expose<&Suite::InitializeUTF32Char, initializeUtf32>(table);
-    expose<&Suite::Destroy, destroy>(table);
+    exposeEnding<&Suite::Destroy, destroy>(table);
     expose<&Suite::Append, append>(table);
     expose<&Suite::AppendSubString, appendPart>(table);
     expose<&Suite::Assign, assign>(table);
