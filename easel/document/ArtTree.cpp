@@ -93,13 +93,17 @@ Art& createArt(Document& document, ai::int16 type, Position position) {
 }
 
 void disposeArt(Art& art) {
+    UndoLog& undo = art.document().undo();
+    ArtTreeAccess::unlink(art);
+    if (art.firstChild() == nullptr) {
+        undo.noteDisposed(art); // may free it
+        return;
+    }
     std::vector<Art*> going;
     for (Art* each = &art; each != nullptr; each = nextInPreorder(*each, art))
         going.push_back(each);
-    ArtTreeAccess::unlink(art);
-    UndoLog& undo = art.document().undo();
     for (Art* each : going)
-        undo.noteDisposed(*each); // may free it
+        undo.noteDisposed(*each);
 }
 
 void moveArt(Art& art, Position position) {
