@@ -1,5 +1,6 @@
 #include "symmetry/Bezier.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -99,6 +100,9 @@ double rootBetween(const BernsteinCubic& function, double low, double high, doub
 
 Roots signChanges(const BernsteinCubic& function) {
     Roots roots;
+    // The function lies within the range of its coefficients.
+    const auto [least, most] = std::ranges::minmax(function);
+    if (least >= 0.0 || most <= 0.0) return roots;
     const Stretches stretches = monotoneStretches(function);
     double lastEnd = 0.0; // the last end of a stretch at which the function is not zero
     double lastValue = 0.0;

@@ -94,8 +94,10 @@ void ContactFinder::collectCrossings(const PathShape& path) {
         const PathSegment& next = segments[i + 1 == segments.size() ? 0 : i + 1];
         const Wedge::Distances there = wedge_.distances(next.anchor);
         margins_[i] = here.margin();
-        if (!staysClear(here, wedge_.distances(segments[i].out), wedge_.distances(next.in), there))
-            addCurveCrossings(i, curveAt(path, i));
+        const Wedge::Distances out = wedge_.distances(segments[i].out);
+        const Wedge::Distances in = wedge_.distances(next.in);
+        if (!staysClear(here, out, in, there))
+            addCurveCrossings(i, curveAt(path, i), {here, out, in, there});
         here = there;
     }
     if (!path.closed) {
@@ -110,13 +112,16 @@ Crossing ContactFinder::anchorCrossing(std::size_t index, Point anchor) const {
 }
 
 /// Adds the crossings of one curve: its first anchor and the places up to the second one.
-void ContactFinder::addCurveCrossings(std::size_t index, const Cubic& curve) {
+/// `distances` are those of its control points.
+void ContactFinder::addCurveCrossings(std::size_t index, const Cubic& curve,
+                                      const std::array<Wedge::Distances, 4>& distances) {
     const Crossing start = anchorCrossing(index, curve.p0);
     const Crossing end = anchorCrossing(index + 1, curve.p3);
     if (start.ray != Ray::None) crossings_.push_back(start);
     const auto first = std::ssize(crossings_);
-    addRayCrossings(index, curve, Ray::First);
-    addRayCrossings(index, curve, Ray::Last);
+    const auto& [a, b, c, d] = distances;
+    addRayCrossings(index, curve, Ray::First, {a.fromFirst, b.fromFirst, c.fromFirst, d.fromFirst});
+    addRayCrossings(index, curve, Ray::Last, {a.fromLast, b.fromLast, c.fromLast, d.fromLast});
     std::ranges::sort(crossings_.begin() + first, crossings_.end(), {}, &Crossing::parameter);
 
     // Places at which the curve has hardly left an anchor on the axis are that anchor's own.
@@ -140,8 +145,9 @@ bool ContactFinder::hardlyLeaves(const Cubic& curve, const Crossing& from, const
     return std::abs(farthestMargin(curve, from, to)) <= limit && !runsAlong(curve, from, to);
 }
 
-void ContactFinder::addRayCrossings(std::size_t index, const Cubic& curve, Ray ray) {
-    const Roots roots = signChanges(distancesFrom(wedge_, ray, curve));
+void ContactFinder::addRayCrossings(std::size_t index, const Cubic& curve, Ray ray,
+                                    const BernsteinCubic& distances) {
+    const Roots roots = signChanges(distances);
     for (const double t : roots.all()) {
         const Point found = evaluate(curve, t);
         if (wedge_.along(ray, found) < -kOnAxisDistance) continue; // behind the origin

@@ -10,6 +10,7 @@
 #include "symmetry/SymmetryAxes.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -119,8 +120,10 @@ public:
 private:
     void collectCrossings(const PathShape& path);
     [[nodiscard]] Crossing anchorCrossing(std::size_t index, Point anchor) const;
-    void addCurveCrossings(std::size_t index, const Cubic& curve);
-    void addRayCrossings(std::size_t index, const Cubic& curve, Ray ray);
+    void addCurveCrossings(std::size_t index, const Cubic& curve,
+                           const std::array<Wedge::Distances, 4>& distances);
+    void addRayCrossings(std::size_t index, const Cubic& curve, Ray ray,
+                         const BernsteinCubic& distances);
     [[nodiscard]] double farthestMargin(std::size_t firstAnchor, std::size_t endAnchor) const;
     [[nodiscard]] double farthestMargin(const Cubic& curve, const Crossing& from,
                                         const Crossing& to) const;

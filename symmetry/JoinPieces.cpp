@@ -57,8 +57,8 @@ void PieceJoiner::join(Piece& piece, Contour& contour) const {
     Ray end = resolve(piece.end, start);
     if (start == Ray::None && end == Ray::None) {
         path.assign(run.begin(), run.end());
+        contour = {std::move(contour.shape), Images::All};
         contour.shape.closed = false;
-        contour.images = Images::All;
         return;
     }
     if (end == Ray::None) { // the free end comes first
@@ -96,6 +96,8 @@ void PieceJoiner::join(Piece& piece, Contour& contour) const {
     }
     contour.shape.closed = closed;
     contour.images = ring ? Images::None : Images::Rotations;
+    contour.firstJoint = 0;
+    contour.jointSpacing = run.size() - 1;
 }
 
 void reverseRun(std::span<PathSegment> run) {

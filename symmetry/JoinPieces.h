@@ -17,6 +17,9 @@ namespace facetta {
 struct Contour {
     PathShape shape;
     Images images = Images::All;
+    /// Images are joined at this anchor and at every so many from it. A spacing of 0: nowhere.
+    std::size_t firstJoint = 0;
+    std::size_t jointSpacing = 0;
 };
 
 /// A run of anchors inside sector 0 and the rays on which it starts and ends.
@@ -41,7 +44,7 @@ public:
     /// | both, different rays | all 2N images, closed                         | None         |
     ///
     /// The anchors of `piece` come first and unaltered but for the outer handles at joins, which
-    /// mirror the inner ones. The piece itself serves as scratch.
+    /// mirror the inner ones. Free ends count as joints. The piece itself serves as scratch.
     void join(Piece& piece, Contour& contour) const;
 
 private:

@@ -40,7 +40,7 @@ void removeAxisPoints(AIArtHandle path, ai::int32 selection, const SymmetryAxes&
     const PathShape before = readPath(path, selection);
     const PathShape after = removeRedundantAxisPoints(before, axes);
     if (after.segments.size() == before.segments.size()) return;
-    writePath(path, after);
+    PathTransfer{}.write(path, after);
     // What was selected in part may have moved to other anchors.
     if ((selection & kArtFullySelected) == 0) selectAnchors(path, after);
 }

@@ -79,11 +79,11 @@ private:
     std::array<std::vector<AIRealMatrix>, 3> matrices_;
 };
 
-/// One run over the units of a work set.
+/// One run over the units of a work set. `axes` has its origin in page coordinates.
 class Run {
 public:
     Run(const SymmetryAxes& axes, CopyMode mode, bool removePoints)
-        : axes_(axes), removePoints_(removePoints), copies_(mode), matrices_(axes),
+        : removePoints_(removePoints), copies_(mode), matrices_(axes),
           mirror_(axes, snapDistance()) {}
 
     void mirror(const Unit& unit) {
@@ -111,34 +111,29 @@ private:
     }
 
     void mirrorPath(const Unit& unit) {
-        const PathShape original = readPath(unit.art, unit.selection);
-        const MirroredPath& mirrored = mirror_.mirror(original);
-        for (const PlacedArt& placed :
-             replacePath(unit, original, finished(mirrored), foldOf(mirrored)))
+        transfer_.read(unit.art, unit.selection, source_);
+        MirroredPath& mirrored = mirror_.mirror(std::move(source_));
+        finish(mirrored);
+        replacePath(unit, mirrored, mirror_.fold(mirrored.sector), transfer_, placed_);
+        for (const PlacedArt& placed : placed_)
             makeCopies(unit, placed);
     }
 
     void mirrorCompound(const Unit& unit) {
-        std::vector<PathShape> originals;
+        std::vector<PathShape> members;
         for (const AIArtHandle path : pathsInside(unit.art))
-            originals.push_back(readPath(path, attributesOf(path, kSelectionAttributes)));
-        const MirroredPath& mirrored = mirror_.mirrorCompound(originals);
+            transfer_.read(path, attributesOf(path, kSelectionAttributes), members.emplace_back());
+        MirroredPath& mirrored = mirror_.mirrorCompound(members);
         if (mirrored.contours.empty()) return;
-        makeCopies(unit, replaceMembers(unit, originals, finished(mirrored), foldOf(mirrored)));
+        finish(mirrored);
+        makeCopies(unit, replaceMembers(unit, mirrored, mirror_.fold(mirrored.sector), transfer_));
     }
 
-    [[nodiscard]] Matrix foldOf(const MirroredPath& mirrored) const {
-        return foldMatrix(axes_, mirrored.sector);
-    }
-
-    /// `mirrored` as it enters the document: when the user wants it, without the anchors on the
-    /// axes.
-    [[nodiscard]] const MirroredPath& finished(const MirroredPath& mirrored) {
-        if (!removePoints_ || mirrored.unchanged) return mirrored;
-        finished_ = mirrored;
-        for (Contour& contour : finished_.contours)
-            contour.shape = removeRedundantAxisPoints(std::move(contour.shape), axes_);
-        return finished_;
+    /// When the user wants it, takes the anchors made on the axes away again.
+    void finish(MirroredPath& mirrored) {
+        if (!removePoints_ || mirrored.unchanged || mirrored.carried) return;
+        for (Contour& contour : mirrored.contours)
+            joints_.removeFrom(contour);
     }
 
     /// The copies lie directly behind `placed`, so that all images of one object are neighbours in
@@ -155,12 +150,14 @@ private:
             behind = copies_.make(source, matrix, behind);
     }
 
-    SymmetryAxes axes_; ///< In page coordinates.
     bool removePoints_;
     CopyMaker copies_;
     ImageMatrices matrices_;
     PathMirror mirror_;
-    MirroredPath finished_;
+    JointRemover joints_;
+    PathTransfer transfer_;
+    PathShape source_;
+    std::vector<PlacedArt> placed_;
     bool pathsTooLong_ = false;
 };
 

@@ -4,53 +4,69 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace facetta {
 
 PathMirror::PathMirror(const SymmetryAxes& axes, double snapDistance)
     : axes_(axes),
       wedge_(axes), rays_{raySegment(axes, 0), raySegment(axes, sectorCount(axes) - 1)},
-      snapDistance_(std::max(snapDistance, kOnAxisDistance)), cutter_(wedge_), joiner_(axes) {}
+      snapDistance_(std::max(snapDistance, kOnAxisDistance)), cutter_(wedge_), joiner_(axes) {
+    for (int sector = 0; sector < sectorCount(axes); ++sector)
+        folds_.push_back(foldMatrix(axes, sector));
+}
 
-const MirroredPath& PathMirror::mirror(const PathShape& source) {
+MirroredPath& PathMirror::mirror(PathShape&& source) {
+    std::swap(folded_, source);
     begin();
-    addMirrored(source, kOnAxisDistance);
+    addMirrored(kOnAxisDistance);
     // Moving an end can take a short path out of the sector in which it was drawn. Then it belongs
     // to the sector beyond. Asking for ever clearer samples ends any going to and fro.
     double clear = kOnAxisDistance;
-    for (; contourCount_ == 0 && !source.segments.empty() && clear < kRayLength; clear *= 4.0)
-        addMirrored(folded_, clear);
-    if (contourCount_ == 0) keepAsDrawn({&source, 1});
-    result_.compound = source.closed && contourCount_ > 1;
+    for (; contourCount_ == 0 && !folded_.segments.empty() && clear < kRayLength; clear *= 4.0)
+        addMirrored(clear);
+    if (contourCount_ == 0) keepAsDrawn();
+    result_.compound = folded_.closed && contourCount_ > 1;
+    result_.carried = !endsMoved_ && !cut_;
+    const bool joinedAsBefore =
+        !endsMoved_ && contourCount_ == 1 && sameShape(result_.contours.front().shape, folded_);
+    result_.unchanged = result_.sector == 0 && (result_.carried || joinedAsBefore);
     if (result_.compound) agreeInImages();
     result_.contours.resize(contourCount_);
-    result_.unchanged = contourCount_ == 1 && sameShape(result_.contours.front().shape, source);
     return result_;
 }
 
-void PathMirror::addMirrored(const PathShape& shape, double clear) {
-    const Start start = findStart(shape, clear);
+void PathMirror::addMirrored(double clear) {
+    const Start start = findStart(folded_, clear);
     // An odd sector was turned over when it was folded: beyond it the sectors count downwards.
     const int turn = result_.sector % 2 == 0 ? start.sector : sectorCount(axes_) - start.sector;
     result_.sector = (result_.sector + turn) % sectorCount(axes_);
-    fold(shape, start.sector);
-    if (!shape.closed) snapEnds();
+    foldSource(start.sector);
+    if (!folded_.closed) snapEnds();
     addContours(start.position);
 }
 
-const MirroredPath& PathMirror::mirrorCompound(std::span<const PathShape> members) {
+MirroredPath& PathMirror::mirrorCompound(std::span<const PathShape> members) {
     begin();
     const Start start = members.empty() ? Start{} : findStart(members.front(), kOnAxisDistance);
     result_.sector = start.sector;
     for (const PathShape& member : members) {
-        fold(member, start.sector);
-        if (!member.closed) snapEnds();
+        folded_ = member;
+        foldSource(start.sector);
+        if (!folded_.closed) snapEnds();
         addContours(start.position);
     }
-    if (contourCount_ == 0) keepAsDrawn(members);
+    if (contourCount_ == 0)
+        for (const PathShape& member : members) {
+            folded_ = member;
+            foldSource(start.sector);
+            keepAsDrawn();
+        }
     result_.compound = true;
+    const std::size_t kept = contourCount_;
     agreeInImages();
     result_.contours.resize(contourCount_);
+    result_.carried = !endsMoved_ && !cut_ && kept == members.size() && contourCount_ == kept;
     result_.unchanged = std::ranges::equal(
         result_.contours, members,
         [](const PathShape& one, const PathShape& other) { return sameShape(one, other); },
@@ -58,14 +74,19 @@ const MirroredPath& PathMirror::mirrorCompound(std::span<const PathShape> member
     return result_;
 }
 
+/// Takes the source as the one contour, whose storage it gets in exchange.
+void PathMirror::keepWhole(Images images) {
+    Contour& contour = nextContour();
+    std::swap(contour.shape, folded_);
+    contour = {std::move(contour.shape), images};
+}
+
 /// The last resort when nothing would be left, which takes art that lies within a few hundredths of
 /// a point of the origin or the axes: no path is ever lost.
-void PathMirror::keepAsDrawn(std::span<const PathShape> sources) {
-    for (const PathShape& source : sources) {
-        if (source.segments.empty()) continue;
-        fold(source, result_.sector);
-        nextContour() = {folded_, Images::All};
-    }
+void PathMirror::keepAsDrawn() {
+    if (folded_.segments.empty()) return;
+    cut_ = false;
+    keepWhole(Images::All);
 }
 
 /// The sample that tells the sector must be clear of the axes to mean anything: a shape drawn
@@ -90,15 +111,11 @@ PathMirror::Start PathMirror::findStart(const PathShape& path, double clear) con
     return {atHome ? 0 : sectorIndexOf(axes_, sample), kSampleParameter};
 }
 
-/// Fills `folded_` with the source carried into sector 0; `source` may be `folded_` itself.
-void PathMirror::fold(const PathShape& source, int sector) {
-    folded_.closed = source.closed;
-    if (&source != &folded_)
-        folded_.segments.assign(source.segments.begin(), source.segments.end());
+/// Carries the source, or what it has become, from `sector` into sector 0.
+void PathMirror::foldSource(int sector) {
     if (sector == 0) return;
-    const Matrix map = foldMatrix(axes_, sector);
     for (PathSegment& segment : folded_.segments)
-        segment = transformed(segment, map);
+        segment = transformed(segment, fold(sector));
 }
 
 void PathMirror::snapEnds() {
@@ -110,7 +127,7 @@ void PathMirror::snapEnds() {
 /// Moves an end onto the nearer of the two rays when one is near enough. Otherwise the end is free
 /// and loses both handles, so that the path runs straight into it; that is the rule, not an
 /// oversight.
-void PathMirror::snapEnd(PathSegment& end) const {
+void PathMirror::snapEnd(PathSegment& end) {
     Ray nearest = Ray::None;
     double reach = snapDistance_;
     for (const Ray ray : {Ray::First, Ray::Last}) {
@@ -121,10 +138,12 @@ void PathMirror::snapEnd(PathSegment& end) const {
             reach = away;
         }
     }
+    const PathSegment drawn = end;
     if (nearest != Ray::None)
         moveOnto(nearest, end);
     else if (wedge_.rayAt(end.anchor) == Ray::None)
         end.in = end.out = end.anchor;
+    endsMoved_ = endsMoved_ || !sameShape(drawn, end);
 }
 
 /// Moves a segment so that its anchor lies on `ray`. An anchor that is as near to it as stored
@@ -143,6 +162,7 @@ void PathMirror::moveOnto(Ray ray, PathSegment& segment) const {
 
 void PathMirror::begin() {
     result_.sector = 0;
+    endsMoved_ = cut_ = false;
     contourCount_ = 0;
 }
 
@@ -156,11 +176,10 @@ void PathMirror::addContours(double start) {
     if (folded_.segments.empty()) return;
     cutter_.cut(folded_, start);
     if (cutter_.keepsWhole()) {
-        Contour& contour = nextContour();
-        contour.shape = folded_;
-        contour.images = cutter_.wholeAlongRay() ? Images::Rotations : Images::All;
+        keepWhole(cutter_.wholeAlongRay() ? Images::Rotations : Images::All);
         return;
     }
+    cut_ = true;
     for (const Stretch& stretch : cutter_.kept()) {
         if (stretch.alongRay) {
             addAlongRay(stretch);
@@ -171,19 +190,23 @@ void PathMirror::addContours(double start) {
         piece_.end = stretch.to.ray;
         Contour& contour = nextContour();
         joiner_.join(piece_, contour);
-        if (contour.shape.closed) startWithSource(stretch, contour.shape.segments);
+        if (contour.shape.closed) startWithSource(stretch, contour);
     }
 }
 
 /// Lets a closed contour begin where its source does, when the curve that starts there is kept, so
 /// that the active sector is found by the same curve again.
-void PathMirror::startWithSource(const Stretch& stretch, std::vector<PathSegment>& segments) const {
+void PathMirror::startWithSource(const Stretch& stretch, Contour& contour) const {
     const bool runsPastStart = folded_.closed && stretch.to.position() > 0.0 &&
                                stretch.to.position() <= stretch.from.position();
-    if (runsPastStart)
-        std::rotate(segments.begin(),
-                    segments.begin() + (std::ssize(folded_.segments) - stretch.from.segment),
-                    segments.end());
+    if (!runsPastStart) return;
+    const std::size_t turn =
+        folded_.segments.size() - static_cast<std::size_t>(stretch.from.segment);
+    std::vector<PathSegment>& segments = contour.shape.segments;
+    std::rotate(segments.begin(), segments.begin() + static_cast<std::ptrdiff_t>(turn),
+                segments.end());
+    contour.firstJoint =
+        (contour.jointSpacing - turn % contour.jointSpacing) % contour.jointSpacing;
 }
 
 /// Adds a stretch that lies on a ray as an open path of its own. Handles that led into the curves
@@ -197,22 +220,24 @@ void PathMirror::addAlongRay(const Stretch& stretch) {
     const double lastPosition = static_cast<double>(folded_.segments.size() - 1);
     if (folded_.closed || stretch.from.position() > 0.0) run.front().in = run.front().anchor;
     if (folded_.closed || stretch.to.position() < lastPosition) run.back().out = run.back().anchor;
+    contour = {std::move(contour.shape), Images::Rotations};
     contour.shape.closed = false;
-    contour.images = Images::Rotations;
 }
 
 namespace {
 
-/// The image of a shape under `map`. That of a reflection runs backwards, so that it winds around
-/// its inside as the original does.
-PathShape imageOf(const PathShape& shape, const Matrix& map) {
-    PathShape image;
-    image.closed = shape.closed;
-    image.segments.reserve(shape.segments.size());
-    for (const PathSegment& segment : shape.segments)
-        image.segments.push_back(transformed(segment, map));
-    if (mirrors(map))
-        reverseRun(std::span(image.segments).subspan(shape.closed ? 1 : 0)); // begins as before
+/// The image of a contour under `map`, which needs no copies. That of a reflection runs backwards,
+/// so that it winds around its inside as the original does.
+Contour imageOf(const Contour& contour, const Matrix& map) {
+    Contour image = contour;
+    image.images = Images::None;
+    for (PathSegment& segment : image.shape.segments)
+        segment = transformed(segment, map);
+    if (!mirrors(map)) return image;
+    const std::size_t fixed = contour.shape.closed ? 1 : 0; // it begins as before
+    reverseRun(std::span(image.shape.segments).subspan(fixed));
+    if (contour.jointSpacing > 0)
+        image.firstJoint = (contour.jointSpacing - contour.firstJoint) % contour.jointSpacing;
     return image;
 }
 
@@ -227,9 +252,9 @@ void PathMirror::agreeInImages() {
         return;
     std::vector<Contour> complete;
     for (const Contour& contour : contours) {
-        complete.push_back({contour.shape, Images::None});
+        complete.push_back(imageOf(contour, {}));
         for (const Matrix& map : imageTransforms(axes_, contour.images))
-            complete.push_back({imageOf(contour.shape, map), Images::None});
+            complete.push_back(imageOf(contour, map));
     }
     result_.contours = std::move(complete);
     contourCount_ = result_.contours.size();

@@ -29,6 +29,7 @@ struct MirroredPath {
     std::vector<Contour> contours; ///< the one that holds the start of the source comes first
     bool compound = false;         ///< the contours are one compound path; they agree in `images`
     bool unchanged = false;        ///< the contours are the source, bit for bit
+    bool carried = false;          ///< they are the source carried into sector 0, and no more
 };
 
 /// Mirrors paths across one set of axes. Keeps its working storage from path to path, so that one
@@ -43,12 +44,21 @@ public:
     /// closed one are painted together. Coordinates of the result are storable as 32-bit reals. An
     /// empty path gives no contours.
     ///
-    /// The reference is good until the next call.
-    [[nodiscard]] const MirroredPath& mirror(const PathShape& source);
+    /// The result is the caller's until the next call, which takes back its storage. `source` is
+    /// left as a path of no meaning, with storage that serves for the next one.
+    [[nodiscard]] MirroredPath& mirror(PathShape&& source);
+    [[nodiscard]] MirroredPath& mirror(const PathShape& source) {
+        return mirror(PathShape{source});
+    }
 
     /// The same for the members of a compound path: they share the active sector, found by the
     /// first one, and the result is always a compound.
-    [[nodiscard]] const MirroredPath& mirrorCompound(std::span<const PathShape> members);
+    [[nodiscard]] MirroredPath& mirrorCompound(std::span<const PathShape> members);
+
+    /// The map that carries a sector onto sector 0.
+    [[nodiscard]] const Matrix& fold(int sector) const {
+        return folds_[static_cast<std::size_t>(sector)];
+    }
 
 private:
     /// The sector in which a path starts and the place that tells it.
@@ -58,17 +68,18 @@ private:
     };
 
     [[nodiscard]] Start findStart(const PathShape& path, double clear) const;
-    void fold(const PathShape& source, int sector);
+    void foldSource(int sector);
     void snapEnds();
-    void snapEnd(PathSegment& end) const;
+    void snapEnd(PathSegment& end);
     void moveOnto(Ray ray, PathSegment& segment) const;
 
     void begin();
     Contour& nextContour();
-    void addMirrored(const PathShape& shape, double clear);
+    void addMirrored(double clear);
     void addContours(double start);
-    void keepAsDrawn(std::span<const PathShape> sources);
-    void startWithSource(const Stretch& stretch, std::vector<PathSegment>& segments) const;
+    void keepWhole(Images images);
+    void keepAsDrawn();
+    void startWithSource(const Stretch& stretch, Contour& contour) const;
     void addAlongRay(const Stretch& stretch);
     void agreeInImages();
 
@@ -78,7 +89,10 @@ private:
     double snapDistance_;
     PathCutter cutter_;
     PieceJoiner joiner_;
-    PathShape folded_;
+    std::vector<Matrix> folds_; ///< By sector.
+    PathShape folded_;          ///< The source, in place.
+    bool endsMoved_ = false;
+    bool cut_ = false; ///< Some of it: then the contours are not the whole of it.
     Piece piece_;
     MirroredPath result_;
     std::size_t contourCount_ = 0; // of the contours in result_, which keep their storage

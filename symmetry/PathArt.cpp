@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <span>
 
 namespace facetta {
 namespace {
@@ -48,30 +49,38 @@ void readAnchorSelection(AIArtHandle path, ai::int32 selected, PathShape& shape)
 
 } // namespace
 
-PathShape readPath(AIArtHandle path, ai::int32 selection) {
-    const ai::int16 count = segmentCount(path);
-    std::vector<AIPathSegment> stored(static_cast<std::size_t>(std::max<ai::int16>(count, 0)));
-    if (count > 0) ai::check(suites.path->GetPathSegments(path, 0, count, stored.data()));
-    PathShape shape{.segments = {}, .closed = isClosed(path)};
-    shape.segments.reserve(stored.size());
-    for (const AIPathSegment& segment : stored)
-        shape.segments.push_back(widened(segment));
-    readAnchorSelection(path, selection, shape);
-    return shape;
+AIPathSegment* PathTransfer::roomFor(std::size_t count) {
+    if (stored_.size() < count) stored_.resize(count);
+    return stored_.data();
 }
 
-void writePath(AIArtHandle path, const PathShape& shape) {
+void PathTransfer::read(AIArtHandle path, ai::int32 selection, PathShape& shape) {
+    const ai::int16 count = std::max<ai::int16>(segmentCount(path), 0);
+    const std::span segments{roomFor(static_cast<std::size_t>(count)),
+                             static_cast<std::size_t>(count)};
+    if (count > 0) ai::check(suites.path->GetPathSegments(path, 0, count, segments.data()));
+    shape.closed = isClosed(path);
+    shape.segments.resize(segments.size());
+    std::ranges::transform(segments, shape.segments.begin(), widened);
+    readAnchorSelection(path, selection, shape);
+}
+
+void PathTransfer::write(AIArtHandle path, const PathShape& shape) {
     // Counts are 16-bit; the host's own limit lies below and is learnt from its answer.
     if (shape.segments.size() > std::numeric_limits<ai::int16>::max())
         throw ai::Error{kTooManySegmentsErr};
-    std::vector<AIPathSegment> stored;
-    stored.reserve(shape.segments.size());
-    for (const PathSegment& segment : shape.segments)
-        stored.push_back(narrowed(segment));
-    const auto count = static_cast<ai::int16>(stored.size());
+    const auto count = static_cast<ai::int16>(shape.segments.size());
+    AIPathSegment* const segments = roomFor(shape.segments.size());
+    std::ranges::transform(shape.segments, segments, narrowed);
     ai::check(suites.path->SetPathSegmentCount(path, count));
-    if (count > 0) ai::check(suites.path->SetPathSegments(path, 0, count, stored.data()));
+    if (count > 0) ai::check(suites.path->SetPathSegments(path, 0, count, segments));
     ai::check(suites.path->SetPathClosed(path, shape.closed));
+}
+
+PathShape readPath(AIArtHandle path, ai::int32 selection) {
+    PathShape shape;
+    PathTransfer{}.read(path, selection, shape);
+    return shape;
 }
 
 void selectAnchors(AIArtHandle path, const PathShape& shape) {

@@ -11,9 +11,7 @@
 #include "symmetry/ArtTree.h"
 #include "symmetry/ImageCopies.h"
 #include "symmetry/MirrorTag.h"
-#include "symmetry/PathArt.h"
 
-#include <algorithm>
 #include <span>
 
 namespace facetta {
@@ -61,9 +59,9 @@ void carryOver(const Unit& source, AIArtHandle art, const Matrix& fold) {
     if (source.marks.mirror != MirrorTag::kSource) MirrorTag::set(art, source.marks.mirror);
 }
 
-Draft newPath(const Contour& contour, ai::int16 order, AIArtHandle place) {
+Draft newPath(const Contour& contour, ai::int16 order, AIArtHandle place, PathTransfer& transfer) {
     Draft path = newArt(kPathArt, order, place);
-    writePath(path.get(), contour.shape);
+    transfer.write(path.get(), contour.shape);
     ai::check(suites.path->SetPathGuide(path.get(), false));
     return path;
 }
@@ -74,11 +72,12 @@ void selectAll(std::span<const Draft> paths, const std::vector<Contour>& contour
 }
 
 /// Members for `compound`, behind those that it has.
-std::vector<Draft> newMembers(AIArtHandle compound, const std::vector<Contour>& contours) {
+std::vector<Draft> newMembers(AIArtHandle compound, const std::vector<Contour>& contours,
+                              PathTransfer& transfer) {
     std::vector<Draft> members;
     members.reserve(contours.size());
     for (const Contour& contour : contours)
-        members.push_back(newPath(contour, kPlaceInsideOnBottom, compound));
+        members.push_back(newPath(contour, kPlaceInsideOnBottom, compound, transfer));
     return members;
 }
 
@@ -93,77 +92,61 @@ void keep(std::vector<Draft>& drafts) {
         static_cast<void>(draft.release());
 }
 
-std::vector<PlacedArt> replaceByCompound(const Unit& source, const MirroredPath& mirrored,
-                                         const Matrix& fold) {
+PlacedArt replaceByCompound(const Unit& source, const MirroredPath& mirrored, const Matrix& fold,
+                            PathTransfer& transfer) {
     Draft compound = newArt(kCompoundPathArt, kPlaceBelow, source.art);
-    std::vector<Draft> members = newMembers(compound.get(), mirrored.contours);
+    std::vector<Draft> members = newMembers(compound.get(), mirrored.contours, transfer);
     styleMembers(members, source.art);
     carryOver(source, compound.get(), fold);
     selectAll(members, mirrored.contours);
     ai::check(suites.art->DisposeArt(source.art));
     keep(members);
-    return {{compound.release(), mirrored.contours.front().images}};
+    return {compound.release(), mirrored.contours.front().images};
 }
 
-std::vector<PlacedArt> replaceByPaths(const Unit& source, const MirroredPath& mirrored,
-                                      const Matrix& fold) {
+void replaceByPaths(const Unit& source, const MirroredPath& mirrored, const Matrix& fold,
+                    PathTransfer& transfer, std::vector<PlacedArt>& placed) {
     std::vector<Draft> paths;
+    paths.reserve(mirrored.contours.size());
     AIArtHandle inFront = source.art;
     for (const Contour& contour : mirrored.contours) {
-        paths.push_back(newPath(contour, kPlaceBelow, inFront));
+        paths.push_back(newPath(contour, kPlaceBelow, inFront, transfer));
         inFront = paths.back().get();
         carryOver(source, inFront, fold);
     }
     selectAll(paths, mirrored.contours);
     ai::check(suites.art->DisposeArt(source.art));
-    std::vector<PlacedArt> placed;
     for (std::size_t i = 0; i < paths.size(); ++i)
         placed.push_back({paths[i].release(), mirrored.contours[i].images});
-    return placed;
-}
-
-bool isFolded(const PathShape& original, const Contour& contour, const Matrix& fold) {
-    return contour.images == Images::All && original.closed == contour.shape.closed &&
-           std::ranges::equal(original.segments, contour.shape.segments,
-                              [&fold](const PathSegment& before, const PathSegment& after) {
-                                  return sameShape(transformed(before, fold), after);
-                              });
-}
-
-/// Whether the fold alone leads from the originals to the contours.
-bool onlyFolded(std::span<const PathShape> originals, const MirroredPath& mirrored,
-                const Matrix& fold) {
-    return std::ranges::equal(originals, mirrored.contours,
-                              [&fold](const PathShape& original, const Contour& contour) {
-                                  return isFolded(original, contour, fold);
-                              });
 }
 
 } // namespace
 
-std::vector<PlacedArt> replacePath(const Unit& source, const PathShape& original,
-                                   const MirroredPath& mirrored, const Matrix& fold) {
-    if (mirrored.contours.empty()) return {};
-    if (mirrored.unchanged) return {{source.art, mirrored.contours.front().images}};
-    if (onlyFolded({&original, 1}, mirrored, fold)) {
-        foldArt(source.art, fold, Transform::Whole);
-        return {{source.art, Images::All}};
+void replacePath(const Unit& source, const MirroredPath& mirrored, const Matrix& fold,
+                 PathTransfer& transfer, std::vector<PlacedArt>& placed) {
+    placed.clear();
+    if (mirrored.contours.empty()) return;
+    if (mirrored.unchanged || mirrored.carried) {
+        if (!mirrored.unchanged) foldArt(source.art, fold, Transform::Whole);
+        placed.push_back({source.art, mirrored.contours.front().images});
+        return;
     }
-    return mirrored.compound && mirrored.contours.size() > 1
-               ? replaceByCompound(source, mirrored, fold)
-               : replaceByPaths(source, mirrored, fold);
+    if (mirrored.compound && mirrored.contours.size() > 1)
+        placed.push_back(replaceByCompound(source, mirrored, fold, transfer));
+    else
+        replaceByPaths(source, mirrored, fold, transfer, placed);
 }
 
-PlacedArt replaceMembers(const Unit& compound, const std::vector<PathShape>& originals,
-                         const MirroredPath& mirrored, const Matrix& fold) {
+PlacedArt replaceMembers(const Unit& compound, const MirroredPath& mirrored, const Matrix& fold,
+                         PathTransfer& transfer) {
     const PlacedArt placed{compound.art, mirrored.contours.front().images};
     if (mirrored.unchanged) return placed;
-    if (onlyFolded(originals, mirrored, fold)) {
+    if (mirrored.carried) {
         foldArt(compound.art, fold, Transform::Whole);
         return placed;
     }
     const std::vector<AIArtHandle> formerMembers = childrenOf(compound.art);
-    std::vector<Draft> members = newMembers(compound.art, mirrored.contours);
+    std::vector<Draft> members = newMembers(compound.art, mirrored.contours, transfer);
     styleMembers(members, pathsInside(compound.art).front());
     selectAll(members, mirrored.contours);
     for (const AIArtHandle former : formerMembers)

@@ -4,6 +4,7 @@
 
 #include "host/Handles.h"
 #include "symmetry/MirrorPath.h"
+#include "symmetry/PathArt.h"
 #include "symmetry/WorkSet.h"
 
 #include <vector>
@@ -16,19 +17,18 @@ struct PlacedArt {
     Images images = Images::All;
 };
 
-/// Replaces the path of `source`, which reads `original`, by `mirrored`, under `fold` (the map that
-/// carried its active sector onto sector 0). A source that comes out the same stays untouched, and
-/// one that is only folded stays the same object. Otherwise new paths take its place, with its
-/// style and other attributes, its marks and what was selected of it, and it is deleted.
+/// Replaces the path of `source` by `mirrored`, under `fold` (the map that carried its active
+/// sector onto sector 0). A source that comes out the same stays untouched, and one that is only
+/// carried there stays the same object. Otherwise new paths take its place, with its style and
+/// other attributes, its marks and what was selected of it, and it is deleted. `placed` becomes
+/// what then stands for the source.
 ///
 /// 'SEGM', thrown as `ai::Error`, leaves the document as it was.
-[[nodiscard]] std::vector<PlacedArt> replacePath(const Unit& source, const PathShape& original,
-                                                 const MirroredPath& mirrored, const Matrix& fold);
+void replacePath(const Unit& source, const MirroredPath& mirrored, const Matrix& fold,
+                 PathTransfer& transfer, std::vector<PlacedArt>& placed);
 
-/// The same for a compound path, whose `members` read `originals`. The compound itself stays and
-/// gets new members.
-[[nodiscard]] PlacedArt replaceMembers(const Unit& compound,
-                                       const std::vector<PathShape>& originals,
-                                       const MirroredPath& mirrored, const Matrix& fold);
+/// The same for a compound path. The compound itself stays and gets new members.
+[[nodiscard]] PlacedArt replaceMembers(const Unit& compound, const MirroredPath& mirrored,
+                                       const Matrix& fold, PathTransfer& transfer);
 
 } // namespace facetta

@@ -88,15 +88,30 @@ Cubic curveBetween(const PathSegment& from, const PathSegment& to) {
 }
 
 /// Thins a path out while it is run through. What has been run through is kept in place, at the
-/// front of the path's own segments.
-class Thinner {
+/// front of the path's own segments. `MayGo` tells by its index in the path and its place whether
+/// an anchor is one that may go.
+template <typename MayGo> class Thinner {
 public:
-    Thinner(std::vector<PathSegment>& segments, const SymmetryAxes& axes)
-        : segments_(segments), axes_(axes), deviations_(segments.size(), 0.0) {}
+    /// `deviations` serves as storage.
+    Thinner(std::vector<PathSegment>& segments, MayGo mayGo, std::vector<double>& deviations)
+        : segments_(segments), mayGo_(mayGo), deviations_(deviations),
+          lastIndex_(segments.size() - 1) {
+        deviations_.assign(segments.size(), 0.0);
+    }
 
+    void thin(bool closed) {
+        for (std::size_t i = 0; i <= lastIndex_; ++i)
+            step(i);
+        if (closed) closeSeam();
+        segments_.resize(count_);
+    }
+
+private:
     /// Goes on to the next segment; the one before it goes if it is redundant.
     void step(std::size_t next) {
-        if (count_ >= 2 && removable(count_ - 2, count_ - 1, next)) --count_;
+        if (count_ >= 2 && mayGo_(next - 1, segments_[count_ - 1].anchor) &&
+            removable(count_ - 2, count_ - 1, next))
+            --count_;
         segments_[count_] = segments_[next];
         deviations_[count_] = deviations_[next];
         ++count_;
@@ -104,21 +119,19 @@ public:
 
     /// Treats the last and the first anchor of a closed path, whose neighbours meet at its seam.
     void closeSeam() {
-        if (count_ > 2 && removable(count_ - 2, count_ - 1, 0)) --count_;
-        if (count_ > 2 && removable(count_ - 1, 0, 1)) {
+        if (count_ > 2 && mayGo_(lastIndex_, segments_[count_ - 1].anchor) &&
+            removable(count_ - 2, count_ - 1, 0))
+            --count_;
+        if (count_ > 2 && mayGo_(0, segments_[0].anchor) && removable(count_ - 1, 0, 1)) {
             std::rotate(segments_.begin(), segments_.begin() + 1,
                         segments_.begin() + static_cast<std::ptrdiff_t>(count_));
             --count_;
         }
     }
 
-    void finish() { segments_.resize(count_); }
-
-private:
     /// Whether the anchor `middle` can go; if so, its neighbours get the handles of the one curve
     /// that then joins them. The deviations of removals in a row add up and count together.
     bool removable(std::size_t before, std::size_t middle, std::size_t after) {
-        if (!axes_.isOnAxis(segments_[middle].anchor)) return false;
         const auto merged = merge(curveBetween(segments_[before], segments_[middle]),
                                   curveBetween(segments_[middle], segments_[after]));
         if (!merged) return false;
@@ -131,20 +144,29 @@ private:
     }
 
     std::vector<PathSegment>& segments_;
-    AxisProbe axes_;
-    std::vector<double> deviations_; // of the curve that ends at each anchor, from the original
+    MayGo mayGo_;
+    std::vector<double>& deviations_; // of the curve that ends at each anchor, from the original
+    std::size_t lastIndex_;
     std::size_t count_ = 0;
 };
 
 } // namespace
 
 PathShape removeRedundantAxisPoints(PathShape shape, const SymmetryAxes& axes) {
-    Thinner thinner(shape.segments, axes);
-    for (std::size_t i = 0; i < shape.segments.size(); ++i)
-        thinner.step(i);
-    if (shape.closed) thinner.closeSeam();
-    thinner.finish();
+    if (shape.segments.empty()) return shape;
+    AxisProbe probe{axes};
+    std::vector<double> deviations;
+    const auto mayGo = [&](std::size_t, Point anchor) { return probe.isOnAxis(anchor); };
+    Thinner{shape.segments, mayGo, deviations}.thin(shape.closed);
     return shape;
+}
+
+void JointRemover::removeFrom(Contour& contour) {
+    if (contour.jointSpacing == 0) return;
+    const auto mayGo = [&](std::size_t index, Point) {
+        return index % contour.jointSpacing == contour.firstJoint;
+    };
+    Thinner{contour.shape.segments, mayGo, deviations_}.thin(contour.shape.closed);
 }
 
 } // namespace facetta

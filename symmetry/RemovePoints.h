@@ -2,8 +2,11 @@
 
 /// Removing the anchors that mirroring left on the axes.
 
+#include "symmetry/JoinPieces.h"
 #include "symmetry/PathShape.h"
 #include "symmetry/SymmetryAxes.h"
+
+#include <vector>
 
 namespace facetta {
 
@@ -11,5 +14,14 @@ namespace facetta {
 /// it is, to 0.01 points: straight runs, and smooth curves that were split there. The ends of an
 /// open path stay, and so do the last two anchors of a closed one.
 [[nodiscard]] PathShape removeRedundantAxisPoints(PathShape shape, const SymmetryAxes& axes);
+
+/// Removes the redundant joints of new contours, by the same measure, reusing its storage.
+class JointRemover {
+public:
+    void removeFrom(Contour& contour);
+
+private:
+    std::vector<double> deviations_;
+};
 
 } // namespace facetta

@@ -165,8 +165,9 @@ public:
 
 private:
     void consider(AIArtHandle art, const ArtMarks& marks, const Surroundings& around) {
-        if (!seen_.insert(art).second) return;
         const ai::int16 type = typeOf(art);
+        // What has members is met again with each of them.
+        if (type != kPathArt && !seen_.insert(art).second) return;
         if (type == kPluginArt) containers_.enterPluginGroup(art, around);
         if (around.blocked || isPlainGroup(art, type)) return;
         const ai::int32 state =

@@ -22,9 +22,9 @@ constexpr double kSnapDistance = 12.0;
 std::string outcomeOf(const MirroredPath& result) {
     constexpr const char* kImages[] = {"all", "rotations", "none"};
     std::string text;
-    for (const auto& [shape, images] : result.contours)
-        text += std::string(text.empty() ? "" : ", ") + kImages[static_cast<int>(images)] + " " +
-                textOf(shape);
+    for (const Contour& contour : result.contours)
+        text += std::string(text.empty() ? "" : ", ") + kImages[static_cast<int>(contour.images)] +
+                " " + textOf(contour.shape);
     return (result.compound ? "compound: " : "") + text;
 }
 
@@ -38,9 +38,9 @@ std::vector<PathShape> shapesOf(const MirroredPath& result) {
 /// All shapes of the whole rosette; images of reflections run backwards, as in one compound path.
 std::vector<PathShape> rosetteOf(const SymmetryAxes& axes, const MirroredPath& result) {
     std::vector<PathShape> shapes = shapesOf(result);
-    for (const auto& [shape, images] : result.contours)
-        for (const Matrix& map : imageTransforms(axes, images)) {
-            PathShape image = shape;
+    for (const Contour& contour : result.contours)
+        for (const Matrix& map : imageTransforms(axes, contour.images)) {
+            PathShape image = contour.shape;
             for (PathSegment& segment : image.segments)
                 segment = transformed(segment, map);
             if (mirrors(map)) reverseRun(image.segments);
