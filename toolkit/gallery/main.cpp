@@ -14,7 +14,9 @@
 #include <CLI/CLI.hpp>
 
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <string>
 
@@ -40,6 +42,12 @@ struct NamedPage {
     std::unique_ptr<Page> page;
 };
 
+/// The file's name without folders and ending.
+std::string nameOf(const std::string& file) { return std::filesystem::path(file).stem().string(); }
+
+/// What is to be shown, with the peers that will show it.
+using Choice = std::function<std::vector<NamedPage>(const Peers&)>;
+
 std::vector<NamedPage> allPages() {
     std::vector<NamedPage> all;
     for (const auto& [name, make] : pages())
@@ -47,7 +55,7 @@ std::vector<NamedPage> allPages() {
     return all;
 }
 
-std::vector<NamedPage> layoutPages(const std::string& file) {
+std::vector<NamedPage> layoutPages(const std::string& file, const Peers& peers) {
     std::ifstream stream(file, std::ios::binary);
     if (!stream) throw std::runtime_error("cannot read " + file);
     const std::string text{std::istreambuf_iterator<char>(stream), {}};
@@ -55,7 +63,8 @@ std::vector<NamedPage> layoutPages(const std::string& file) {
     for (const layout::Message& message : parsed.messages)
         std::fprintf(stderr, "%s\n", layout::format(message, file).c_str());
     std::vector<NamedPage> all;
-    all.push_back({"layout", mistakesPage(file, text, parsed.messages)});
+    all.push_back({nameOf(file), parsed.layout ? layoutPage(*parsed.layout, peers)
+                                               : mistakesPage(file, text, parsed.messages)});
     return all;
 }
 
@@ -71,7 +80,7 @@ bool writePicture(WinPeers& peers, NamedPage& named, const std::string& folder,
     return written;
 }
 
-int writePictures(std::vector<NamedPage> shown, const std::string& folder) {
+int writePictures(const Choice& choose, const std::string& folder) {
     bool written = true;
     for (const bool dark : {false, true}) {
         const Theme theme = themeOf(dark);
@@ -80,17 +89,18 @@ int writePictures(std::vector<NamedPage> shown, const std::string& folder) {
             peers.screen().fixedScale = Scale{static_cast<double>(scale)};
             const std::string variant =
                 std::string(dark ? "-dark-" : "-light-") + std::to_string(scale) + "x";
-            for (NamedPage& named : shown)
+            for (NamedPage& named : choose(peers))
                 written = writePicture(peers, named, folder, variant) && written;
         }
     }
     return written ? 0 : 1;
 }
 
-int showWindows(std::vector<NamedPage> shown, bool dark, double scale) {
+int showWindows(const Choice& choose, bool dark, double scale) {
     const Theme theme = themeOf(dark);
     WinPeers peers(theme, picturesOf(WindowClass::library()));
     if (scale > 0) peers.screen().fixedScale = Scale{scale};
+    const std::vector<NamedPage> shown = choose(peers);
     for (const NamedPage& named : shown)
         named.page->open(peers);
     MSG message;
@@ -119,9 +129,10 @@ int main(int argc, char** argv) {
         ->check(CLI::Range(1.0, 4.0));
     CLI11_PARSE(app, argc, argv);
     try {
-        std::vector<NamedPage> shown = layout.empty() ? allPages() : layoutPages(layout);
-        return folder.empty() ? showWindows(std::move(shown), dark, scale)
-                              : writePictures(std::move(shown), folder);
+        const Choice choose = [&](const Peers& peers) {
+            return layout.empty() ? allPages() : layoutPages(layout, peers);
+        };
+        return folder.empty() ? showWindows(choose, dark, scale) : writePictures(choose, folder);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
         return 1;

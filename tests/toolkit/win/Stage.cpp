@@ -106,7 +106,7 @@ void Stage::close() {
     peer.reset();
 }
 
-void Stage::pump(int milliseconds) {
+void Hands::pump(int milliseconds) {
     const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
     do {
         MSG message;
@@ -119,19 +119,19 @@ void Stage::pump(int milliseconds) {
     } while (GetTickCount64() < end);
 }
 
-int Stage::paintsOf(HWND window) const {
+int Hands::paintsOf(HWND window) const {
     const auto found = paints_.find(window);
     return found == paints_.end() ? 0 : found->second;
 }
 
-int Stage::paints() const {
+int Hands::paints() const {
     int all = 0;
     for (const auto& [window, count] : paints_)
         all += count;
     return all;
 }
 
-void Stage::move(HWND window, POINT point) {
+void Hands::move(HWND window, POINT point) {
     ClientToScreen(window, &point);
     INPUT input = mouseInput(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE);
     // In 65536ths of the screen, rounded so that the pixel comes out again.
@@ -141,40 +141,40 @@ void Stage::move(HWND window, POINT point) {
     pump();
 }
 
-void Stage::press(HWND window, POINT point) {
+void Hands::press(HWND window, POINT point) {
     move(window, point);
     send(mouseInput(MOUSEEVENTF_LEFTDOWN));
     pump();
 }
 
-void Stage::release() {
+void Hands::release() {
     send(mouseInput(MOUSEEVENTF_LEFTUP));
     pump();
 }
 
-void Stage::click(HWND window, POINT point) {
+void Hands::click(HWND window, POINT point) {
     press(window, point);
     release();
 }
 
-void Stage::clickMiddle(HWND window) {
+void Hands::clickMiddle(HWND window) {
     RECT area{};
     GetClientRect(window, &area);
     click(window, {area.right / 2, area.bottom / 2});
 }
 
-void Stage::wheel(int notches) {
+void Hands::wheel(int notches) {
     send(mouseInput(MOUSEEVENTF_WHEEL, static_cast<DWORD>(notches * WHEEL_DELTA)));
     pump();
 }
 
-void Stage::key(WORD key) {
+void Hands::key(WORD key) {
     send(keyInput(key, 0));
     send(keyInput(key, KEYEVENTF_KEYUP));
     pump();
 }
 
-void Stage::keyWith(WORD modifier, WORD wanted) {
+void Hands::keyWith(WORD modifier, WORD wanted) {
     send(keyInput(modifier, 0));
     pump();
     key(wanted);
@@ -182,7 +182,7 @@ void Stage::keyWith(WORD modifier, WORD wanted) {
     pump();
 }
 
-void Stage::type(const std::wstring& text) {
+void Hands::type(const std::wstring& text) {
     for (const wchar_t letter : text) {
         INPUT input = keyInput(0, KEYEVENTF_UNICODE);
         input.ki.wScan = letter;

@@ -44,16 +44,9 @@ private:
     Log& log_;
 };
 
-/// A dialog on the screen, and hands to use it with. Messages are served by `pump` only.
-class Stage final : public DialogEvents {
+/// A user's hands. Messages are served by `pump` only, which all others end with.
+class Hands {
 public:
-    explicit Stage(DialogKind kind = DialogKind::Floating, Extent size = {320, 240});
-    ~Stage();
-
-    StagedItem& add(ItemView view);
-    void open();
-    void close();
-
     /// Serves messages until there are none, or for that long; counts how often each window is
     /// painted.
     void pump(int milliseconds = 0);
@@ -71,6 +64,22 @@ public:
     void key(WORD key);
     void keyWith(WORD modifier, WORD key);
     void type(const std::wstring& text);
+
+private:
+    std::map<HWND, int> paints_;
+};
+
+/// A dialog on the screen, and hands to use it with.
+class Stage final : public DialogEvents, public Hands {
+public:
+    using Hands::key;
+
+    explicit Stage(DialogKind kind = DialogKind::Floating, Extent size = {320, 240});
+    ~Stage();
+
+    StagedItem& add(ItemView view);
+    void open();
+    void close();
 
     [[nodiscard]] HWND window() const { return static_cast<HWND>(peer->window()); }
     [[nodiscard]] static COLORREF pixel(HWND window, POINT point);
@@ -93,7 +102,6 @@ public:
 
 private:
     std::vector<std::unique_ptr<StagedItem>> items_;
-    std::map<HWND, int> paints_;
 };
 
 /// A view with what the tests need of it.
