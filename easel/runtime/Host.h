@@ -136,6 +136,8 @@ public:
     const FlyoutMenu& openFlyout(AIPanelRef panel);
     /// Opens the flyout menu and chooses the item, or nothing when it cannot be chosen.
     void chooseFlyoutItem(AIPanelRef panel, ai::uint32 id);
+    /// Lets the one before the screen choose; without a screen nothing is chosen.
+    void pressFlyout(AIPanelRef panel);
     void setInterfaceDark(bool dark);
 
     // Tools

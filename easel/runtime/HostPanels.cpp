@@ -2,8 +2,6 @@
 
 #include "host/MessageNames.h"
 
-#include <algorithm>
-
 namespace easel {
 
 void Host::setInterfaceDark(bool dark) {
@@ -34,16 +32,16 @@ void Host::cyclePanel(AIPanelRef ref) {
     idle();
 }
 
-const FlyoutMenu& Host::openFlyout(AIPanelRef ref) {
-    if (const auto opens = panels.at(ref).callbacks.flyoutOpens) opens(ref);
-    return panels.menu(panels.at(ref).flyout);
+const FlyoutMenu& Host::openFlyout(AIPanelRef panel) { return panels.openFlyout(panel); }
+
+void Host::chooseFlyoutItem(AIPanelRef panel, ai::uint32 id) {
+    panels.openFlyout(panel);
+    panels.chooseFromFlyout(panel, id);
+    idle();
 }
 
-void Host::chooseFlyoutItem(AIPanelRef ref, ai::uint32 id) {
-    const FlyoutMenu& menu = openFlyout(ref);
-    const auto item = std::ranges::find(menu.items, id, &FlyoutItem::id);
-    const bool canBe = item != menu.items.end() && !item->isSeparator && item->enabled != 0;
-    if (const auto chosen = panels.at(ref).callbacks.flyoutChosen) chosen(ref, canBe ? id : 0);
+void Host::pressFlyout(AIPanelRef panel) {
+    panels.chooseFromFlyout(panel, panels.popUpFlyout(panel));
     idle();
 }
 

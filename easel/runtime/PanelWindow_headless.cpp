@@ -9,6 +9,8 @@ PanelWindow::~PanelWindow() = default;
 AIPanelPlatformWindow PanelWindow::client() const noexcept { return nullptr; }
 void PanelWindow::setTitle(const std::u32string&) {}
 void PanelWindow::setSize(AISize) {}
+void PanelWindow::setButtons(PanelButtons) {}
+ai::uint32 PanelWindow::popUp(const std::vector<PopupLine>&) { return 0; }
 void PanelWindow::show(bool) {}
 void PanelWindow::move(AIPoint) {}
 

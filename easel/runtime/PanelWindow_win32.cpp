@@ -2,17 +2,23 @@
 
 #include "easel/core/Text.h"
 #include "host/Error.h"
+#include "host/Owned.h"
 
 #include <windows.h>
 
 #include <cmath>
-#include <system_error>
 
 namespace easel {
 namespace {
 
 constexpr wchar_t kFrameClass[] = L"EaselPanelFrame";
 constexpr wchar_t kClientClass[] = L"EaselPanelClient";
+
+// The buttons, from right to left in a strip above the client area.
+constexpr int kStripHeight = 18;
+constexpr int kButtonWidth = 22;
+constexpr WORD kFlyoutButton = 1;
+constexpr WORD kStateButton = 2;
 
 SIZE pixels(AISize size) { return {std::lround(size.width), std::lround(size.height)}; }
 
@@ -25,6 +31,29 @@ std::wstring wide(const std::u32string& text) {
 template <typename Handler, typename... Arguments>
 void tell(Handler handler, Arguments... arguments) {
     if (handler) handler(arguments...);
+}
+
+struct MenuTraits {
+    using Ref = HMENU;
+    static void release(Ref menu) noexcept { DestroyMenu(menu); }
+};
+using Menu = ai::Owned<MenuTraits>;
+
+Menu popupMenu(const std::vector<PopupLine>& lines) {
+    Menu menu(CreatePopupMenu());
+    for (const PopupLine& line : lines) {
+        const std::wstring text = wide(line.text);
+        UINT flags = line.isSeparator ? MF_SEPARATOR : MF_STRING;
+        if (!line.enabled) flags |= MF_GRAYED;
+        if (line.marked) flags |= MF_CHECKED;
+        UINT_PTR id = line.id;
+        if (!line.submenu.empty()) {
+            flags |= MF_POPUP; // the menu owns its submenus
+            id = reinterpret_cast<UINT_PTR>(popupMenu(line.submenu).release());
+        }
+        AppendMenuW(menu.get(), flags, id, text.c_str());
+    }
+    return menu;
 }
 
 void registerClass(const wchar_t* name, WNDPROC procedure) {
@@ -46,24 +75,29 @@ void registerClass(const wchar_t* name, WNDPROC procedure) {
 /// A tool window and, inside it, the client area as a child of its own: the plug-in never gets
 /// hold of the frame.
 struct PanelWindow::System {
-    System(const std::u32string& title, AISize size, bool resizable, PanelWindowEvents handlers);
+    System(const std::u32string& title, AISize initial, bool resizable, PanelWindowEvents handlers);
     ~System() {
         events = {}; // what goes on from here is not the user's doing
         DestroyWindow(frame);
     }
-    void setSize(AISize size);
+    void setSize(AISize wanted);
     [[nodiscard]] SIZE frameFor(SIZE client) const;
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM first, LPARAM second);
     LRESULT handle(UINT message, WPARAM first, LPARAM second);
     void fitClient();
+    void setButton(WORD button, const wchar_t* glyph, bool shown);
+    /// Where the flyout menu hangs from, in screen pixels.
+    [[nodiscard]] POINT belowFlyoutButton() const;
 
     PanelWindowEvents events;
     HWND frame = nullptr;
     HWND client = nullptr;
+    int stripHeight = 0;
+    AISize size{};
     bool settingSize = false; ///< the size changes by our own call, not by the user's mouse
 };
 
-PanelWindow::System::System(const std::u32string& title, AISize size, bool resizable,
+PanelWindow::System::System(const std::u32string& title, AISize initial, bool resizable,
                             PanelWindowEvents handlers)
     : events(std::move(handlers)) {
     registerClass(kFrameClass, procedure);
@@ -81,17 +115,18 @@ PanelWindow::System::System(const std::u32string& title, AISize size, bool resiz
         DestroyWindow(frame);
         throw ai::Error{kOutOfMemoryErr};
     }
-    setSize(size);
+    setSize(initial);
 }
 
 SIZE PanelWindow::System::frameFor(SIZE area) const {
-    RECT outer{0, 0, area.cx, area.cy};
+    RECT outer{0, 0, area.cx, area.cy + stripHeight};
     AdjustWindowRectEx(&outer, static_cast<DWORD>(GetWindowLongPtrW(frame, GWL_STYLE)), FALSE,
                        WS_EX_TOOLWINDOW);
     return {outer.right - outer.left, outer.bottom - outer.top};
 }
 
-void PanelWindow::System::setSize(AISize size) {
+void PanelWindow::System::setSize(AISize wanted) {
+    size = wanted;
     const SIZE outer = frameFor(pixels(size));
     settingSize = true;
     SetWindowPos(frame, nullptr, 0, 0, outer.cx, outer.cy,
@@ -103,7 +138,31 @@ void PanelWindow::System::setSize(AISize size) {
 void PanelWindow::System::fitClient() {
     RECT area{};
     GetClientRect(frame, &area);
-    SetWindowPos(client, nullptr, 0, 0, area.right, area.bottom, SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(client, nullptr, 0, stripHeight, area.right, area.bottom - stripHeight,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+    int right = area.right;
+    for (const WORD button : {kFlyoutButton, kStateButton})
+        if (const HWND window = GetDlgItem(frame, button))
+            SetWindowPos(window, nullptr, right -= kButtonWidth, 0, kButtonWidth, stripHeight,
+                         SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void PanelWindow::System::setButton(WORD button, const wchar_t* glyph, bool shown) {
+    const HWND window = GetDlgItem(frame, button);
+    if (shown == (window != nullptr)) return;
+    if (!shown) {
+        DestroyWindow(window);
+        return;
+    }
+    const auto id = reinterpret_cast<HMENU>(static_cast<UINT_PTR>(button));
+    CreateWindowExW(0, L"BUTTON", glyph, WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON | BS_FLAT, 0, 0, 0,
+                    0, frame, id, GetModuleHandleW(nullptr), nullptr);
+}
+
+POINT PanelWindow::System::belowFlyoutButton() const {
+    RECT button{};
+    GetWindowRect(GetDlgItem(frame, kFlyoutButton), &button);
+    return {button.right, button.bottom};
 }
 
 LRESULT CALLBACK PanelWindow::System::procedure(HWND window, UINT message, WPARAM first,
@@ -117,7 +176,13 @@ LRESULT CALLBACK PanelWindow::System::procedure(HWND window, UINT message, WPARA
     auto* self = reinterpret_cast<System*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (self == nullptr || self->frame == nullptr)
         return DefWindowProcW(window, message, first, second);
-    return self->handle(message, first, second);
+    LRESULT answer = 0;
+    // What a handler throws must not reach the system; the plug-in has been told, or is gone.
+    static_cast<void>(ai::codeOf([&] {
+        answer = self->handle(message, first, second);
+        return kNoErr;
+    }));
+    return answer;
 }
 
 LRESULT PanelWindow::System::handle(UINT message, WPARAM first, LPARAM second) {
@@ -125,8 +190,12 @@ LRESULT PanelWindow::System::handle(UINT message, WPARAM first, LPARAM second) {
     case WM_SIZE:
         fitClient();
         if (!settingSize)
-            tell(events.resized,
-                 AISize{static_cast<AIReal>(LOWORD(second)), static_cast<AIReal>(HIWORD(second))});
+            tell(events.resized, AISize{static_cast<AIReal>(LOWORD(second)),
+                                        static_cast<AIReal>(HIWORD(second) - stripHeight)});
+        return 0;
+    case WM_COMMAND:
+        if (LOWORD(first) == kStateButton) tell(events.cycled);
+        if (LOWORD(first) == kFlyoutButton) tell(events.flyout);
         return 0;
     case WM_CLOSE:
         // The window stays: a panel that is closed can be shown again.
@@ -152,6 +221,24 @@ void PanelWindow::setTitle(const std::u32string& title) {
 }
 
 void PanelWindow::setSize(AISize size) { system_->setSize(size); }
+
+void PanelWindow::setButtons(PanelButtons buttons) {
+    system_->setButton(kStateButton, L"\u2195", buttons.states);
+    system_->setButton(kFlyoutButton, L"\u2261", buttons.flyout);
+    system_->stripHeight = buttons.states || buttons.flyout ? kStripHeight : 0;
+    system_->setSize(system_->size);
+}
+
+ai::uint32 PanelWindow::popUp(const std::vector<PopupLine>& lines) {
+    const Menu menu = popupMenu(lines);
+    const POINT at = system_->belowFlyoutButton();
+    // The menu goes away on a click elsewhere only when its owner is in front.
+    SetForegroundWindow(system_->frame);
+    constexpr UINT kOptions = TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTALIGN;
+    const BOOL chosen =
+        TrackPopupMenu(menu.get(), kOptions, at.x, at.y, 0, system_->frame, nullptr);
+    return static_cast<ai::uint32>(chosen);
+}
 
 void PanelWindow::show(bool shown) {
     ShowWindow(system_->frame, shown ? SW_SHOWNOACTIVATE : SW_HIDE);

@@ -1,12 +1,16 @@
 #include "easel/runtime/Panels.h"
 
 #include "easel/core/Text.h"
+#include "easel/runtime/Host.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace easel {
 namespace {
+
+/// A submenu may lead back to the menu it is in.
+constexpr int kDeepestMenu = 4;
 
 bool sameSize(AISize a, AISize b) { return a.width == b.width && a.height == b.height; }
 
@@ -19,6 +23,10 @@ AISize fitted(const Panel& panel, AISize size) {
         fit.height = sizes.least.height +
                      sizes.step * std::floor((fit.height - sizes.least.height) / sizes.step);
     return fit;
+}
+
+void showButtons(Panel& panel) {
+    panel.window->setButtons({panel.stateCount > 1, panel.flyout != nullptr});
 }
 
 /// Tells the plug-in, if it wants to know.
@@ -46,8 +54,10 @@ AIPanelRef Panels::add(Panel panel) {
     Panel& added = panels_.at(ref);
     added.window = std::make_unique<PanelWindow>(
         added.title, added.size, added.resizable,
-        PanelWindowEvents{[this, ref](AISize size) { resize(ref, size); },
-                          [this, ref] { close(ref); }});
+        PanelWindowEvents{[ref](AISize size) { host().resizePanel(ref, size); },
+                          [ref] { host().closePanel(ref); }, [ref] { host().cyclePanel(ref); },
+                          [ref] { host().pressFlyout(ref); }});
+    showButtons(added);
     added.window->move(added.position);
     return ref;
 }
@@ -77,7 +87,7 @@ void Panels::removeMenu(AIPanelFlyoutMenuRef removed) {
     static_cast<void>(menu(removed));
     menus_.remove(removed);
     for (const auto& [ref, panel] : panels_)
-        if (panel->flyout == removed) panel->flyout = nullptr;
+        if (panel->flyout == removed) setFlyout(ref, nullptr);
     for (const auto& [ref, menu] : menus_)
         for (FlyoutItem& item : menu->items)
             if (item.submenu == removed) item.submenu = nullptr;
@@ -118,6 +128,56 @@ void Panels::minimize(AIPanelRef ref, bool minimized) {
 void Panels::close(AIPanelRef ref) {
     show(ref, false);
     if (const Panel* const panel = panels_.find(ref)) tell(panel->callbacks.closed, ref);
+}
+
+void Panels::setFlyout(AIPanelRef ref, AIPanelFlyoutMenuRef shown) {
+    if (shown != nullptr) static_cast<void>(menu(shown));
+    Panel& panel = at(ref);
+    panel.flyout = shown;
+    showButtons(panel);
+}
+
+void Panels::setStateCount(AIPanelRef ref, ai::int16 count) {
+    if (count < 1) throw ai::Error{kBadParameterErr};
+    Panel& panel = at(ref);
+    panel.stateCount = count;
+    showButtons(panel);
+    if (panel.state > count) setState(ref, count);
+}
+
+const FlyoutMenu& Panels::openFlyout(AIPanelRef ref) {
+    tell(at(ref).callbacks.flyoutOpens, ref);
+    return menu(at(ref).flyout);
+}
+
+bool Panels::canChoose(const FlyoutMenu& from, ai::uint32 id, int depth) const {
+    return std::ranges::any_of(from.items, [&](const FlyoutItem& item) {
+        if (item.isSeparator || item.enabled == 0) return false;
+        if (item.submenu == nullptr) return item.id == id;
+        return depth < kDeepestMenu && canChoose(menu(item.submenu), id, depth + 1);
+    });
+}
+
+void Panels::chooseFromFlyout(AIPanelRef ref, ai::uint32 id) {
+    const bool can = canChoose(menu(at(ref).flyout), id, 0);
+    tell(at(ref).callbacks.flyoutChosen, ref, can ? id : 0);
+}
+
+ai::uint32 Panels::popUpFlyout(AIPanelRef ref) {
+    const std::vector<PopupLine> lines = popupLines(openFlyout(ref), 0);
+    return at(ref).window->popUp(lines);
+}
+
+std::vector<PopupLine> Panels::popupLines(const FlyoutMenu& from, int depth) const {
+    std::vector<PopupLine> lines;
+    for (const FlyoutItem& item : from.items) {
+        const bool marked = item.mark != AIPanelFlyoutMenuItemMark::None;
+        PopupLine line{item.id, item.text, item.isSeparator, item.enabled != 0, marked, {}};
+        if (item.submenu != nullptr && depth < kDeepestMenu)
+            line.submenu = popupLines(menu(item.submenu), depth + 1);
+        lines.push_back(std::move(line));
+    }
+    return lines;
 }
 
 std::vector<std::string> Panels::removeAllOf(SPPluginRef plugin) {

@@ -97,11 +97,24 @@ public:
     void minimize(AIPanelRef panel, bool minimized);
     /// The user closes it: it is hidden, and the plug-in is told both.
     void close(AIPanelRef panel);
+    void setFlyout(AIPanelRef panel, AIPanelFlyoutMenuRef menu);
+    /// Throws 'PARM' below 1.
+    void setStateCount(AIPanelRef panel, ai::int16 count);
+
+    /// The menu as the plug-in has brought it up to date. Throws 'INVD' when the panel has none.
+    const FlyoutMenu& openFlyout(AIPanelRef panel);
+    /// The open menu closes: tells what was chosen, or nothing when that cannot be.
+    void chooseFromFlyout(AIPanelRef panel, ai::uint32 id);
+    /// The user opens the flyout menu on the screen and chooses; 0: nothing.
+    [[nodiscard]] ai::uint32 popUpFlyout(AIPanelRef panel);
 
     /// What a plug-in leaves behind at its end is gone; a line for each.
     std::vector<std::string> removeAllOf(SPPluginRef plugin);
 
 private:
+    [[nodiscard]] std::vector<PopupLine> popupLines(const FlyoutMenu& menu, int depth) const;
+    [[nodiscard]] bool canChoose(const FlyoutMenu& menu, ai::uint32 id, int depth) const;
+
     Registry<AIPanelRef, Panel> panels_;
     Registry<AIPanelFlyoutMenuRef, FlyoutMenu> menus_;
 };

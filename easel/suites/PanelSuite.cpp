@@ -96,9 +96,7 @@ AIErr setCurrentState(AIPanelRef panel, ai::int16 state) {
 }
 
 AIErr setStateCount(AIPanelRef panel, ai::int16 count) {
-    if (count < 1) throw ai::Error{kBadParameterErr};
-    at(panel).stateCount = count;
-    if (at(panel).state > count) host().panels.setState(panel, count);
+    host().panels.setStateCount(panel, count);
     return kNoErr;
 }
 
@@ -114,8 +112,7 @@ AIErr getVerticalStep(AIPanelRef panel, AIReal& step) {
 }
 
 AIErr setFlyoutMenu(AIPanelRef panel, AIPanelFlyoutMenuRef menu) {
-    if (menu != nullptr) static_cast<void>(host().panels.menu(menu));
-    at(panel).flyout = menu;
+    host().panels.setFlyout(panel, menu);
     return kNoErr;
 }
 

@@ -152,6 +152,25 @@ TEST_CASE("the flyout menu is brought up to date before it opens") {
     for (const ai::uint32 item : {1U, 2U, 3U, 9U})
         host.chooseFlyoutItem(panel, item);
     CHECK(told() == std::vector<std::string>{"item 1", "item 0", "item 0", "item 0"});
+    panels.SetFlyoutMenu(panel, nullptr);
+    CHECK_THROWS_AS(host.openFlyout(panel), ai::Error);
+}
+
+TEST_CASE("items of submenus are chosen by their ids; a menu that leads to itself ends") {
+    PanelFixture fixture;
+    auto& [host, plugin, panels, menus, panel, menu] = fixture;
+    AIPanelFlyoutMenuRef inner = nullptr;
+    menus.Create(inner);
+    menus.AppendItem(inner, 11, ai::UnicodeString("Inner"));
+    menus.AppendItem(inner, 12, ai::UnicodeString("Back"));
+    CHECK(menus.SetItemSubMenu(menu, 2, inner) == kNoErr);
+    CHECK(menus.SetItemSubMenu(inner, 1, menu) == kNoErr);
+    CHECK(menus.SetItemSubMenu(inner, 0, inner) == kBadParameterErr);
+    for (const ai::uint32 item : {11U, 3U, 99U}) // 3 only opens the submenu
+        host.chooseFlyoutItem(panel, item);
+    menus.Destroy(inner);
+    host.chooseFlyoutItem(panel, 3); // an item like any other again
+    CHECK(told() == std::vector<std::string>{"item 11", "item 0", "item 0", "item 3"});
 }
 
 TEST_CASE("flyout items are found by index, put before an id, and never share an id") {

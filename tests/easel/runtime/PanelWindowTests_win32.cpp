@@ -13,11 +13,14 @@ namespace {
 struct Recorded {
     std::vector<AISize> sizes;
     int closed = 0;
+    int cycled = 0;
 };
 
 easel::PanelWindowEvents recordIn(Recorded& recorded) {
     return {[&recorded](AISize size) { recorded.sizes.push_back(size); },
-            [&recorded] { ++recorded.closed; }};
+            [&recorded] { ++recorded.closed; },
+            [&recorded] { ++recorded.cycled; },
+            {}};
 }
 
 HWND clientOf(const easel::PanelWindow& window) { return reinterpret_cast<HWND>(window.client()); }
@@ -69,11 +72,65 @@ TEST_CASE("what the user does to a panel's window is reported, and the window st
     CHECK(IsWindow(frame) != FALSE);
 }
 
+TEST_CASE("buttons stand above the client area and take nothing from it") {
+    Recorded recorded;
+    easel::PanelWindow window(U"Panel", {240, 188}, /*resizable*/ true, recordIn(recorded));
+    const HWND frame = GetParent(clientOf(window));
+    window.setButtons({.states = true, .flyout = true});
+    CHECK(sizeOf(clientOf(window)).cy == 188);
+    CHECK(sizeOf(frame).cy > 188);
+    RECT client{};
+    GetWindowRect(clientOf(window), &client);
+    for (const int button : {1, 2}) {
+        RECT bounds{};
+        REQUIRE(GetWindowRect(GetDlgItem(frame, button), &bounds) != 0);
+        CHECK(bounds.bottom <= client.top);
+        CHECK(bounds.right <= client.right);
+        CHECK(bounds.right > bounds.left);
+    }
+    SendMessageW(GetDlgItem(frame, 2), BM_CLICK, 0, 0);
+    CHECK(recorded.cycled == 1);
+    window.setButtons({});
+    CHECK(sizeOf(frame).cy == 188);
+    CHECK(GetDlgItem(frame, 1) == nullptr);
+    CHECK(recorded.sizes.empty());
+}
+
+TEST_CASE("the flyout menu is chosen from by keyboard; disabled lines cannot be chosen") {
+    Recorded recorded;
+    easel::PanelWindow window(U"Panel", {240, 188}, /*resizable*/ false, recordIn(recorded));
+    window.setButtons({.states = false, .flyout = true});
+    window.show(true);
+    const HWND frame = GetParent(clientOf(window));
+    const auto line = [](ai::uint32 id, const std::u32string& text, bool enabled) {
+        return easel::PopupLine{id, text, text.empty(), enabled, /*marked*/ false, {}};
+    };
+    const std::vector<easel::PopupLine> lines{line(1, U"One", true), line(2, U"", true),
+                                              line(3, U"Three", true), line(4, U"Four", false)};
+    struct Row {
+        std::vector<WPARAM> keys;
+        ai::uint32 chosen;
+    };
+    const Row rows[] = {{{VK_DOWN, VK_RETURN}, 1},
+                        {{VK_DOWN, VK_DOWN, VK_RETURN}, 3},
+                        {{VK_DOWN, VK_ESCAPE}, 0},
+                        {{VK_UP, VK_RETURN, VK_ESCAPE}, 0}};
+    for (const auto& [keys, chosen] : rows) {
+        INFO(keys.size(), " keys");
+        for (const WPARAM key : keys)
+            PostMessageW(frame, WM_KEYDOWN, key, 0);
+        CHECK(window.popUp(lines) == chosen);
+        MSG left{};
+        while (PeekMessageW(&left, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE) != 0) {
+        }
+    }
+}
+
 TEST_CASE("a panel destroyed while it tells of its end does no harm") {
     std::unique_ptr<easel::PanelWindow> window;
     window = std::make_unique<easel::PanelWindow>(
         U"Panel", AISize{100, 100}, false,
-        easel::PanelWindowEvents{{}, [&window] { window.reset(); }});
+        easel::PanelWindowEvents{{}, [&window] { window.reset(); }, {}, {}});
     const HWND frame = GetParent(clientOf(*window));
     SendMessageW(frame, WM_CLOSE, 0, 0);
     CHECK(window == nullptr);
