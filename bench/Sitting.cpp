@@ -93,6 +93,10 @@ Cost Sitting::edit(const std::function<void(easel::Document&)>& change, Take tak
     return measure([&] { session_.host.edit("Edit", change); }, take);
 }
 
+Cost Sitting::drag(AIRealPoint to, Take take) {
+    return measure([&] { session_.host.drag({.at = to}); }, take);
+}
+
 Cost Sitting::measure(const std::function<void()>& action, Take take) {
     easel::HostCalls& calls = easel::hostCalls();
     const double perCall = take == Take::OwnTime ? clockCostPerCall() : 0;

@@ -50,6 +50,13 @@ public:
     Cost apply(Take take);
     /// Any action of the user that is one undo step without the plug-in.
     Cost edit(const std::function<void(easel::Document&)>& change, Take take);
+    /// With the tool. A drag is one message of it.
+    void press(AIRealPoint at) {
+        session_.host.track({.at = at});
+        session_.host.press({.at = at});
+    }
+    Cost drag(AIRealPoint to, Take take);
+    void release(AIRealPoint at) { session_.host.release({.at = at}); }
 
 private:
     Cost measure(const std::function<void()>& action, Take take);

@@ -4,6 +4,7 @@
 #include "bench/LiveLayerCase.h"
 #include "bench/MirrorCases.h"
 #include "bench/ProgramCases.h"
+#include "bench/SnapCases.h"
 
 #include <benchmark/benchmark.h>
 #include <malloc.h>
@@ -23,15 +24,18 @@ int main(int argumentCount, char** arguments) {
     ProgramCases program;
     LiveLayerCase liveLayer;
     MirrorCases mirroring;
+    SnapCases snapping;
     program.registerAll();
     liveLayer.registerAll();
     mirroring.registerAll();
+    snapping.registerAll();
     benchmark::RunSpecifiedBenchmarks();
 
     Findings findings;
     mirroring.judge(findings);
     liveLayer.judge(findings);
     program.judge(findings);
+    snapping.judge(findings);
     print(findings);
     write(findings, "build/bench/findings.json");
 }
