@@ -1,5 +1,6 @@
 #include "bench/Sitting.h"
 
+#include "bench/Allocations.h"
 #include "bench/Drawings.h"
 #include "bench/Stopwatch.h"
 #include "easel/document/Attributes.h"
@@ -40,6 +41,9 @@ SPErr enterPlugin(const char* caller, const char* selector, void* message) {
     }
     return result;
 }
+
+/// Behind the plug-in's entry and in no function of the host.
+bool inPlugin() { return timedEntry().depth > 0 && easel::hostCalls().current() == nullptr; }
 
 /// Loaded once: it holds nothing between one start and the next.
 SPPluginEntryFunc pluginEntry() {
@@ -97,15 +101,24 @@ Cost Sitting::drag(AIRealPoint to, Take take) {
     return measure([&] { session_.host.drag({.at = to}); }, take);
 }
 
+Cost Sitting::draw(Take take) {
+    return measure([this] { static_cast<void>(session_.host.drawAnnotations(nullptr)); }, take);
+}
+
 Cost Sitting::measure(const std::function<void()>& action, Take take) {
     easel::HostCalls& calls = easel::hostCalls();
     const double perCall = take == Take::OwnTime ? clockCostPerCall() : 0;
     calls.resetCounts();
     calls.setTiming(take == Take::OwnTime);
     timedEntry().seconds = timedEntry().processorSeconds = 0;
+    countAllocations(take == Take::OwnTime ? inPlugin : nullptr);
     const Stopwatch watch;
     action();
-    Cost cost{.seconds = watch.processorSeconds(), .ownSeconds = 0, .hostCalls = calls.total()};
+    Cost cost{.seconds = watch.processorSeconds(),
+              .ownSeconds = 0,
+              .hostCalls = calls.total(),
+              .ownAllocations = allocationCount()};
+    countAllocations(nullptr);
     calls.setTiming(false);
     for (const easel::SentMessage& message : session_.host.sent) // failed ones, nothing else
         giveUp(message.caller + '/' + message.selector + ": " + easel::codeText(message.result));

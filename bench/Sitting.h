@@ -26,10 +26,12 @@ struct Cost {
     double seconds = 0;    ///< Of processor time, from the action until the host is idle again.
     double ownSeconds = 0; ///< Inside the plug-in, without the host functions that it called.
     std::uint64_t hostCalls = 0;
+    std::uint64_t ownAllocations =
+        0; ///< Of the plug-in, without the host functions that it called.
 };
 
-/// The host's clock, which slows the action as a whole, runs only when the plug-in's own time is
-/// wanted.
+/// The host's clock and the count of allocations, which slow the action as a whole, run only when
+/// the plug-in's own costs are wanted.
 enum class Take : std::uint8_t { TotalTime, OwnTime };
 
 class Sitting {
@@ -57,6 +59,9 @@ public:
     }
     Cost drag(AIRealPoint to, Take take);
     void release(AIRealPoint at) { session_.host.release({.at = at}); }
+    /// Draws what is over the document.
+    Cost draw(Take take);
+    void zoom(AIReal zoom) { easel::setZoom(session_.host.view(nullptr), zoom); }
 
 private:
     Cost measure(const std::function<void()>& action, Take take);

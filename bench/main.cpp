@@ -3,6 +3,7 @@
 
 #include "bench/LiveLayerCase.h"
 #include "bench/MirrorCases.h"
+#include "bench/OverlayCases.h"
 #include "bench/ProgramCases.h"
 #include "bench/SnapCases.h"
 
@@ -25,10 +26,12 @@ int main(int argumentCount, char** arguments) {
     LiveLayerCase liveLayer;
     MirrorCases mirroring;
     SnapCases snapping;
+    OverlayCases overlay;
     program.registerAll();
     liveLayer.registerAll();
     mirroring.registerAll();
     snapping.registerAll();
+    overlay.registerAll();
     benchmark::RunSpecifiedBenchmarks();
 
     Findings findings;
@@ -36,6 +39,7 @@ int main(int argumentCount, char** arguments) {
     liveLayer.judge(findings);
     program.judge(findings);
     snapping.judge(findings);
+    overlay.judge(findings);
     print(findings);
     write(findings, "build/bench/findings.json");
 }

@@ -78,8 +78,8 @@ static_assert(std::size(kRows) == kNotifierCount);
 
 /// Live layers are brought up to date, and the axes shown are those of the current layer.
 void followDocument(FacettaPlugin& plugin) {
-    // While a layer's axes are off it for an edit, its sources cannot be told from its copies.
-    if (!plugin.tool.dragging && !plugin.tool.layerEdit) clearPreview(plugin.tool);
+    // What a drag changes meanwhile it takes back.
+    if (!plugin.tool.dragging) clearPreview(plugin.tool);
     if (!documentIsOpen()) {
         dropAxes(plugin.tool);
         return;

@@ -14,6 +14,11 @@ namespace {
 
 constexpr ai::uint32 kSmooth = 1; ///< the port option of anti-aliased drawing
 
+std::span<const AIRealRect> erasedIn(const AIAnnotatorMessage& message) {
+    if (message.invalidationRects == nullptr || message.numInvalidationRects <= 0) return {};
+    return {message.invalidationRects, static_cast<std::size_t>(message.numInvalidationRects)};
+}
+
 void drawSymmetry(const Surface& surface, ToolSession& session) {
     if (!axesAreShown(session)) return;
     const ToolState& state = session.state;
@@ -35,7 +40,8 @@ void drawAnnotations(ToolSession& session, const AIAnnotatorMessage& message, In
                      ai::uint64 now) {
     const bool canDraw = message.drawer != nullptr && suites.annotatorDrawer != nullptr;
     if (!canDraw || !documentIsOpen()) return;
-    const Surface surface{message.drawer, fetchViewMap(message.view), coloursOf(brightness)};
+    const Surface surface{message.drawer, fetchViewMap(message.view), coloursOf(brightness),
+                          erasedIn(message)};
     ai::check(suites.annotatorDrawer->SetPortOptions(message.drawer, kSmooth, kSmooth));
     drawSymmetry(surface, session);
     // The host is scrolling under a drag: what stands still in the view would leave traces.

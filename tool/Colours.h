@@ -36,10 +36,10 @@ constexpr AIRGBColor rgb(ai::uint32 hex) {
 }
 
 inline constexpr InterfaceColours kLight{
-    .axes = rgb(0xC4540C),
+    .axes = rgb(0xB04505),
     .halo = rgb(0xFFFFFF),
-    .preview = rgb(0x0F6FD1),
-    .mask = rgb(0xDCDCDC),
+    .preview = rgb(0x0B5FB8),
+    .mask = rgb(0xC2C2C2),
     .titleFill = rgb(0x9C9C9C),
     .outline = rgb(0x2E2E2E),
     .dimmedText = rgb(0x8C8C8C),
@@ -51,9 +51,9 @@ inline constexpr InterfaceColours kLight{
 
 inline constexpr InterfaceColours kDark{
     .axes = rgb(0xF58F45),
-    .halo = rgb(0x1E1E1E),
-    .preview = rgb(0x3D9BF0),
-    .mask = rgb(0x4A4A4A),
+    .halo = rgb(0x343434),
+    .preview = rgb(0x4DA3F2),
+    .mask = rgb(0x383838),
     .titleFill = rgb(0x6B6B6B),
     .outline = rgb(0xF0F0F0),
     .dimmedText = rgb(0x8A8A8A),

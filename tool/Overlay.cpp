@@ -4,16 +4,19 @@
 #include "host/Suites.h"
 #include "host/suites/AIAnnotatorDrawerSuite.h"
 #include "host/suites/AILayerSuite.h"
+#include "symmetry/ArtSpace.h"
 #include "symmetry/LayerAxesStore.h"
 #include "tool/Mask.h"
 
 #include <algorithm>
+#include <cassert>
+#include <cmath>
 
 namespace facetta {
 namespace {
 
 constexpr AIReal kLineWidth = 1.0F;
-constexpr AIReal kHaloWidth = 3.0F;
+constexpr AIReal kHaloWidth = 2.0F; // half a pixel on each side
 
 /// With more axes than this the halos would run into each other around the origin.
 constexpr int kMostHalos = 20;
@@ -43,22 +46,41 @@ void drawLine(const Surface& surface, const LineSegment& line) {
                                                nearestPixel(visible->end)));
 }
 
-/// The ground under a line: outlines of polygons without width, so that the lines that are drawn
-/// are the axes and nothing else.
+enum class Fill : AIBoolean { No = 0, Yes = 1 };
+
+void drawPolygon(const Surface& surface, std::span<const Point> corners, Fill fill) {
+    std::array<AIPoint, 8> pixels{}; // a polygon of the mask has the most
+    assert(corners.size() <= pixels.size());
+    std::ranges::transform(corners, pixels.begin(), nearestPixel);
+    ai::check(suites.annotatorDrawer->DrawPolygon(surface.drawer, pixels.data(),
+                                                  static_cast<ai::uint32>(corners.size()),
+                                                  static_cast<AIBoolean>(fill)));
+}
+
+/// The ground under a line: the outline of a polygon without width, so that the lines that are
+/// drawn are the axes and nothing else.
 void drawHalo(const Surface& surface, const LineSegment& line) {
     const std::optional<LineSegment> visible = clipped(line, surface.view.visible);
     if (!visible) return;
-    const AIPoint ends[] = {nearestPixel(visible->start), nearestPixel(visible->end)};
-    ai::check(suites.annotatorDrawer->DrawPolygon(surface.drawer, ends,
-                                                  static_cast<ai::uint32>(std::size(ends)), 0));
+    const Point ends[] = {visible->start, visible->end};
+    drawPolygon(surface, ends, Fill::No);
 }
 
-template <std::size_t Most>
-void drawFilled(const Surface& surface, std::span<const Point, Most> corners) {
-    std::array<AIPoint, 8> pixels{};
-    std::ranges::transform(corners, pixels.begin(), nearestPixel);
-    ai::check(suites.annotatorDrawer->DrawPolygon(surface.drawer, pixels.data(),
-                                                  static_cast<ai::uint32>(corners.size()), 1));
+/// The pixels of `rect`, whichever way up the host gives it.
+AIRect pixelsIn(const AIRealRect& rect) {
+    const auto [top, bottom] = std::minmax({rect.top, rect.bottom});
+    const AIPoint first = nearestPixel(widen(AIRealPoint{std::floor(rect.left), std::floor(top)}));
+    const AIPoint last = nearestPixel(widen(AIRealPoint{std::ceil(rect.right), std::ceil(bottom)}));
+    return {first.h, first.v, last.h, last.v};
+}
+
+/// From here to `ClearClip` only what the host has erased is drawn on.
+void clipToErased(const Surface& surface) {
+    if (surface.erased.empty()) return;
+    suites.annotatorDrawer->DefineClipStart(surface.drawer);
+    for (const AIRealRect& rect : surface.erased)
+        ai::check(suites.annotatorDrawer->DrawRect(surface.drawer, pixelsIn(rect), 1));
+    suites.annotatorDrawer->DefineClipEnd(surface.drawer);
 }
 
 using DrawLineFunction = void (*)(const Surface&, const LineSegment&);
@@ -70,11 +92,9 @@ void drawEachAxis(const Surface& surface, const PixelAxes& axes, DrawLineFunctio
     }
 }
 
-void drawMarkers(const Surface& surface, const PixelAxes& axes) {
-    const std::array<Point, 3> first = markerOn(axes, axes.angle, 1.0);
-    const std::array<Point, 3> last = markerOn(axes, axes.angle + axes.halfStep, -1.0);
-    drawFilled(surface, std::span(first));
-    drawFilled(surface, std::span(last));
+void drawMarkers(const Surface& surface, const PixelAxes& axes, Fill fill) {
+    drawPolygon(surface, markerOn(axes, axes.angle, 1.0), fill);
+    drawPolygon(surface, markerOn(axes, axes.angle + axes.halfStep, -1.0), fill);
 }
 
 void drawSectorHandle(const Surface& surface, const PixelAxes& axes) {
@@ -135,13 +155,16 @@ std::array<Point, 3> markerOn(const PixelAxes& axes, double angle, double side) 
 
 void drawMask(const Surface& surface, const PixelAxes& axes, double opacity) {
     constexpr std::size_t kFewestCorners = 3;
+    clipToErased(surface);
     setColour(surface, surface.colours.mask);
     ai::check(
         suites.annotatorDrawer->SetOpacity(surface.drawer, narrow(std::clamp(opacity, 0.0, 1.0))));
     const Mask mask = maskOf(axes, grown(surface.view.visible, kMaskMargin));
     for (const MaskPolygon& polygon : mask.all())
-        if (polygon.corners().size() >= kFewestCorners) drawFilled(surface, polygon.corners());
+        if (polygon.corners().size() >= kFewestCorners)
+            drawPolygon(surface, polygon.corners(), Fill::Yes);
     ai::check(suites.annotatorDrawer->SetOpacity(surface.drawer, 1.0F));
+    if (!surface.erased.empty()) suites.annotatorDrawer->ClearClip(surface.drawer);
 }
 
 void drawAxes(const Surface& surface, const PixelAxes& axes, SectorHandle handle) {
@@ -149,11 +172,12 @@ void drawAxes(const Surface& surface, const PixelAxes& axes, SectorHandle handle
         setColour(surface, surface.colours.halo);
         suites.annotatorDrawer->SetLineWidth(surface.drawer, kHaloWidth);
         drawEachAxis(surface, axes, drawHalo);
+        drawMarkers(surface, axes, Fill::No);
     }
     setColour(surface, surface.colours.axes);
     suites.annotatorDrawer->SetLineWidth(surface.drawer, kLineWidth);
     drawEachAxis(surface, axes, drawLine);
-    drawMarkers(surface, axes);
+    drawMarkers(surface, axes, Fill::Yes);
     if (handle == SectorHandle::Shown) drawSectorHandle(surface, axes);
     drawOrigin(surface, axes);
 }

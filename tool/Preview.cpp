@@ -170,11 +170,10 @@ void refreshPreview(ToolSession& session) {
     ToolState& state = session.state;
     if (state.preview.captured || !documentIsOpen()) return;
     const bool ofLayer = state.axes.onLayer || state.layerEdit;
-    const AILayerHandle layer = ofLayer ? topLevelLayer(nullptr) : nullptr;
-    if (layer != nullptr)
-        capture(state.preview, sourcesOnLayer(layer));
-    else
-        capture(state.preview, unitsOfSelection());
+    std::vector<Unit> units = ofLayer ? std::vector<Unit>{} : unitsOfSelection();
+    const AILayerHandle layer = units.empty() ? topLevelLayer(nullptr) : nullptr;
+    if (layer != nullptr) units = sourcesOnLayer(layer);
+    capture(state.preview, units);
 }
 
 void clearPreview(ToolState& state) { state.preview = {}; }

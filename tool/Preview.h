@@ -2,9 +2,8 @@
 
 /// Mirrored art as it would be, drawn over the document while axes are pending.
 ///
-///   1. The art is read once, by the first `refreshPreview` (selected art, or the sources of a
-///      layer whose axes are edited), and kept until `clearPreview`. For a layer this has to come
-///      before its axes are taken off: from then on its copies are art like any other.
+///   1. The art is read once, by the first `refreshPreview`, and kept until `clearPreview`: what is
+///      selected, or with nothing selected, and while a layer's axes are edited, that of the layer.
 ///   2. What is drawn is made from it when it is drawn, for the axes of that moment: however many
 ///      messages a drag sends, each picture is made once.
 

@@ -4,6 +4,8 @@
 #include "tool/Colours.h"
 #include "tool/ViewMap.h"
 
+#include <span>
+
 namespace facetta {
 
 /// What is drawn on for the length of one draw message.
@@ -11,6 +13,9 @@ struct Surface {
     AIAnnotatorDrawer* drawer;
     ViewMap view;
     const InterfaceColours& colours;
+    /// What the host has erased, in pixels; empty: everything. What is opaque may be drawn again
+    /// outside of it; what is not would grow denser there.
+    std::span<const AIRealRect> erased{};
 };
 
 } // namespace facetta

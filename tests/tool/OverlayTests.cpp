@@ -254,3 +254,24 @@ TEST_CASE("a draw message that is not ours, or lends no drawer, is answered with
     CHECK(session.send("AI Annotation", "AI Draw", message) == kNoErr);
     CHECK(drawer.list.empty());
 }
+
+TEST_CASE("the translucent mask is drawn only on what the host has erased") {
+    PendingAxes session{3};
+    AIAnnotatorDrawer drawer;
+    const AIRealRect erased[] = {{10.5F, 20.5F, 30.5F, 40.5F}, {100, 260, 140, 200}};
+    AIAnnotatorMessage message{};
+    message.annotator = thePlugin->annotator;
+    message.view = session.host.currentView();
+    message.drawer = &drawer;
+    message.invalidationRects = erased;
+    message.numInvalidationRects = 2;
+    REQUIRE(session.send("AI Annotation", "AI Draw", message) == kNoErr);
+    const auto mask = std::ranges::find_if(
+        drawer.list, [](const easel::DrawCommand& each) { return each.style.opacity < 1.0F; });
+    REQUIRE(mask - drawer.list.begin() == 4);
+    CHECK(easel::dump({drawer.list.begin(), mask}) == "clip {\n"
+                                                      "rect 10,20 31,41 #000000 filled\n"
+                                                      "rect 100,200 140,260 #000000 filled\n"
+                                                      "clip }\n");
+    CHECK((mask + 1)->kind == Kind::ClipClear);
+}

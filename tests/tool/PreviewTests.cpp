@@ -78,15 +78,17 @@ TEST_CASE("the preview follows the axes, the zoom and the art") {
     CHECK(preview().size() > turned.size());
 }
 
-TEST_CASE("without a selection nothing is previewed, and nothing for axes on a layer") {
-    {
-        Drawing session{/*selected*/ false};
+TEST_CASE("without a selection the art of the layer is previewed, and nothing for axes on it") {
+    std::string previews[2];
+    for (const bool selected : {false, true}) {
+        Drawing session{selected};
+        previews[selected ? 1 : 0] = easel::dump(previewIn(drawn(session)));
+        session.host.editToolOptions();
+        REQUIRE(thePlugin->tool.axes.onLayer);
         CHECK(previewIn(drawn(session)).empty());
     }
-    Drawing session{/*selected*/ true};
-    session.host.editToolOptions();
-    REQUIRE(thePlugin->tool.axes.onLayer);
-    CHECK(previewIn(drawn(session)).empty());
+    CHECK_FALSE(previews[0].empty());
+    CHECK(previews[0] == previews[1]);
 }
 
 TEST_CASE("the preview of a layer is made of its sources, however many copies there are") {
