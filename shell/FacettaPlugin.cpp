@@ -161,7 +161,10 @@ MirrorEnvironment FacettaPlugin::mirroring() {
 
 template <typename Handler> AIErr FacettaPlugin::withSession(Handler handler) {
     // The view may have come up before the notification that tells of it.
-    if (view.handle == nullptr && documentIsOpen()) view = fetchCurrentView();
+    if (view.handle == nullptr && documentIsOpen()) {
+        view = fetchCurrentView();
+        tool.dialog = placedIn(view.pixels, tool.dialog);
+    }
     const platform::KeyState keys = platform::readKeys();
     ToolSession session{tool, preferences, hostPreferences,
                         view, licence,     dialogs,

@@ -84,7 +84,6 @@ void followDocument(FacettaPlugin& plugin) {
         dropAxes(plugin.tool);
         return;
     }
-    clearPreview(plugin.tool);
     // While the art of a layer moves with its axes, the layer's own axes are where they were.
     if (plugin.tool.reposition) return;
     regenerateChangedLayers(plugin.mirroring());

@@ -87,7 +87,7 @@ void drawDialog(const Surface& surface, const ToolSession& session) {
 }
 
 void redrawDialog(const ToolSession& session) {
-    invalidate(session.view, placed(session.state.dialog, 0, kLastHitRow));
+    invalidate(session.view, grown(placed(session.state.dialog, 0, kLastHitRow), 1));
 }
 
 void moveDialog(ToolSession& session, AIPoint by) {

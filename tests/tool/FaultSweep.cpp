@@ -3,16 +3,6 @@
 namespace facetta::tests {
 namespace {
 
-/// Calls that give something back, an entry by reading or storing it: when the host fails these, it
-/// is left with what it lent.
-bool givesBack(const std::string& function) {
-    if (function.starts_with("AI Entry Suite.To") || function == "AI Dictionary Suite.Set")
-        return true;
-    for (const char* const end : {"Destroy", "Release", "DisposeArtSet", "PopAppContext"})
-        if (function.ends_with(end)) return true;
-    return false;
-}
-
 std::vector<std::string> fallibleCalls(const FaultAction& action) {
     Drawing session(/*selected*/ true);
     action.prepare(session);
@@ -62,6 +52,14 @@ void performWithFault(const FaultAction& action, std::size_t call) {
 }
 
 } // namespace
+
+bool givesBack(const std::string& function) {
+    if (function.starts_with("AI Entry Suite.To") || function == "AI Dictionary Suite.Set")
+        return true;
+    for (const char* const end : {"Destroy", "Release", "DisposeArtSet", "PopAppContext"})
+        if (function.ends_with(end)) return true;
+    return false;
+}
 
 void sweepFaults(std::span<const FaultAction> actions) {
     for (const FaultAction& action : actions) {

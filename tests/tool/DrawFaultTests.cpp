@@ -1,0 +1,61 @@
+#include "tests/tool/Annotated.h"
+#include "tests/tool/FaultSweep.h"
+
+using namespace facetta;
+using namespace facetta::tests;
+
+namespace {
+
+/// The answer to a draw message, and what is drawn by it.
+struct Drawn {
+    SPErr answer = kNoErr;
+    std::string text;
+};
+
+Drawn draw(Session& session) {
+    AIAnnotatorDrawer drawer;
+    AIAnnotatorMessage message{};
+    message.annotator = thePlugin->annotator;
+    message.view = session.host.currentView();
+    message.drawer = &drawer;
+    const SPErr answer = session.send("AI Annotation", "AI Draw", message);
+    return {answer, easel::dump(drawer.list)};
+}
+
+} // namespace
+
+TEST_CASE("whichever host call fails, drawing answers its code, and the next picture is whole") {
+    Drawing session{/*selected*/ true};
+    thePlugin->tool.sectorHandleHighlighted = true;
+    const auto drawAfresh = [&] {
+        showHint(thePlugin->tool.hint, HintId::MoveOrigin, platform::ticks());
+        clearPreview(thePlugin->tool); // so that the art is read again
+        return draw(session);
+    };
+    REQUIRE(drawAfresh().answer == kNoErr); // the first hint makes its timer
+    easel::hostCalls().setRecording(true);
+    const Drawn whole = drawAfresh();
+    easel::hostCalls().setRecording(false);
+    REQUIRE(whole.answer == kNoErr);
+    std::vector<std::string> names;
+    for (const easel::SlotRecord* slot : easel::hostCalls().recorded())
+        if (slot->returnsError) names.push_back(slot->name);
+    REQUIRE(names.size() > 50);
+
+    std::size_t answered = 0;
+    for (std::size_t call = 1; call <= names.size(); ++call) {
+        if (givesBack(names[call - 1])) continue;
+        INFO(names[call - 1], ", host call ", call);
+        easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::Once,
+                                .call = call,
+                                .function = {},
+                                .code = kOutOfMemoryErr});
+        const Drawn broken = drawAfresh();
+        CHECK(easel::hostCalls().fired());
+        easel::hostCalls().disarm();
+        CHECK((broken.answer == kNoErr || broken.answer == kOutOfMemoryErr));
+        answered += broken.answer == kOutOfMemoryErr ? 1 : 0;
+        CHECK(drawAfresh().text == whole.text);
+    }
+    CHECK(answered > names.size() / 2); // few answers have a default
+}
