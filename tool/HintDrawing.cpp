@@ -16,6 +16,7 @@ constexpr ai::int32 kRightOfCursor = 12;
 constexpr ai::int32 kAboveCursor = 9;
 constexpr ai::int32 kPaddingAcross = 5; ///< between the text and its box
 constexpr ai::int32 kPaddingAlong = 3;
+constexpr ai::int32 kDescent = 3; ///< what letters such as g reach below the point they stand on
 
 /// More pixels than any hint's box is wide or high.
 constexpr ai::int32 kWidest = 240;
@@ -25,8 +26,9 @@ constexpr ai::int32 kHighest = 40;
 constexpr ai::uint64 kFading = 250;
 
 AIRect boxAround(AIPoint bottomLeft, ai::int32 width, ai::int32 height) {
-    return {bottomLeft.h - kPaddingAcross, bottomLeft.v - height - kPaddingAlong,
-            bottomLeft.h + width + kPaddingAcross, bottomLeft.v + kPaddingAlong};
+    const ai::int32 bottom = bottomLeft.v + kDescent;
+    return {bottomLeft.h - kPaddingAcross, bottom - height - kPaddingAlong,
+            bottomLeft.h + width + kPaddingAcross, bottom + kPaddingAlong};
 }
 
 } // namespace
@@ -40,8 +42,8 @@ AIPoint hintTextAt(AIPoint cursor, ai::int32 width, ai::int32 height, const Pixe
     };
     return {within(cursor.h + kRightOfCursor, nearest.h + kPaddingAcross,
                    farthest.h - width - kPaddingAcross),
-            within(cursor.v - kAboveCursor, nearest.v + height + kPaddingAlong,
-                   farthest.v - kPaddingAlong)};
+            within(cursor.v - kAboveCursor, nearest.v + height + kPaddingAlong - kDescent,
+                   farthest.v - kPaddingAlong - kDescent)};
 }
 
 AIRect hintReach(AIPoint a, AIPoint b) {
