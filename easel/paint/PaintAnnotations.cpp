@@ -1,6 +1,7 @@
 #include "easel/paint/PaintAnnotations.h"
 
 #include "easel/core/Text.h"
+#include "easel/paint/Picture.h"
 
 #include <algorithm>
 #include <array>
@@ -225,6 +226,14 @@ void paintAnnotations(const DisplayList& list, Painter& painter) {
     AnnotationPainter annotations{painter};
     for (const DrawCommand& command : list)
         annotations.paint(command);
+}
+
+double annotationWidth(const std::u32string& text, const DrawStyle& style) {
+    double width = 0;
+    static_cast<void>(render(1, 1, [&](Painter& painter) {
+        width = painter.textWidth(utf8FromUtf32(text), fontOf(style));
+    }));
+    return width;
 }
 
 } // namespace easel::paint

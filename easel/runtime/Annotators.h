@@ -1,9 +1,11 @@
 #pragma once
 
 #include "easel/core/Registry.h"
+#include "easel/runtime/Drawer.h"
 #include "host/Handles.h"
 #include "host/Types.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -19,6 +21,8 @@ struct Annotator {
 
 struct Annotators {
     Registry<AIAnnotatorHandle, Annotator> annotators;
+    /// How wide a line of text is in pixels, for what paints it; empty: an estimate.
+    std::function<double(const std::u32string& text, const DrawStyle& style)> textWidth;
     /// Areas of the current view, in its pixels, to be painted anew by the next draw pass.
     std::vector<AIRect> invalid;
 };

@@ -49,10 +49,13 @@ std::string dump(const DisplayList& list) {
     return lines;
 }
 
-AIRect textBounds(const std::u32string& text, AIReal fontSize) {
-    const auto up = [](AIReal length) { return static_cast<ai::int32>(std::ceil(length)); };
-    return {0, 0, up(static_cast<AIReal>(text.size()) * fontSize * kCharacterWidth),
-            up(fontSize * kLineHeight)};
+AIRect textBounds(double width, AIReal fontSize) {
+    const auto up = [](double length) { return static_cast<ai::int32>(std::ceil(length)); };
+    return {0, 0, up(width), up(static_cast<double>(fontSize * kLineHeight))};
+}
+
+double estimatedWidth(const std::u32string& text, AIReal fontSize) {
+    return static_cast<double>(static_cast<AIReal>(text.size()) * fontSize * kCharacterWidth);
 }
 
 } // namespace easel

@@ -57,9 +57,10 @@ using DisplayList = std::vector<DrawCommand>;
 /// A line for each command, for tests: "line 10,20 30,40 #ff0000".
 [[nodiscard]] std::string dump(const DisplayList& list);
 
-/// The rectangle that a line of `text` takes, from 0, 0: the recorder has no fonts, so every
-/// character is half as wide as the font is tall.
-[[nodiscard]] AIRect textBounds(const std::u32string& text, AIReal fontSize);
+/// The rectangle, from 0, 0, of a line of text that is `width` wide.
+[[nodiscard]] AIRect textBounds(double width, AIReal fontSize);
+/// Without a font at hand: every character is half as wide as the font is tall.
+[[nodiscard]] double estimatedWidth(const std::u32string& text, AIReal fontSize);
 
 } // namespace easel
 

@@ -1,5 +1,6 @@
 #include "easel/script/Player.h"
 
+#include "easel/paint/PaintAnnotations.h"
 #include "easel/script/System.h"
 #include "easel/svg/Content.h"
 
@@ -31,6 +32,7 @@ Player::Player(PlayerSettings settings)
 
 void Player::start() {
     addPluginLibrary(session_->host, settings_.plugin);
+    session_->host.annotators.textWidth = paint::annotationWidth; // as it will be painted
     session_->start();
     started_ = true;
 }

@@ -1,7 +1,7 @@
 #include "host/suites/AIAnnotatorDrawerSuite.h"
 
 #include "easel/core/HostString.h"
-#include "easel/runtime/Drawer.h"
+#include "easel/runtime/Host.h"
 #include "easel/suites/Arguments.h"
 #include "easel/suites/Expose.h"
 #include "easel/suites/RuntimeSuites.h"
@@ -122,7 +122,12 @@ AIErr drawTextAligned(AIAnnotatorDrawer* drawer, const ai::UnicodeString& text,
 
 AIErr getTextBounds(AIAnnotatorDrawer* drawer, const ai::UnicodeString& text, AIPoint* location,
                     AIBoolean /*useFallback*/, AIRect& bounds) {
-    AIRect size = textBounds(readString(text), required(drawer).style.fontSize);
+    const DrawStyle& style = required(drawer).style;
+    const std::u32string letters = readString(text);
+    const auto& measured = host().annotators.textWidth;
+    const double width =
+        measured ? measured(letters, style) : estimatedWidth(letters, style.fontSize);
+    AIRect size = textBounds(width, style.fontSize);
     if (location != nullptr) { // the bottom left of the text
         size = {location->h, location->v - size.bottom, location->h + size.right, location->v};
     }
