@@ -122,6 +122,12 @@ AIErr FacettaPlugin::Shutdown(SPInterfaceMessage& message) {
     return err != kNoErr ? err : saved;
 }
 
+AIErr FacettaPlugin::Reload(SPAccessMessage& message) {
+    dialogs = {};
+    updatePanel = [] {};
+    return Plugin::Reload(message);
+}
+
 AIErr FacettaPlugin::Message(std::string_view caller, std::string_view selector, void* message) {
     const AIErr err = Plugin::Message(caller, selector, message);
     if (err != kNoErr && err != kUnhandledMsgErr) ReportError(err, caller, selector, message);
@@ -166,9 +172,11 @@ template <typename Handler> AIErr FacettaPlugin::withSession(Handler handler) {
         tool.dialog = placedIn(view.pixels, tool.dialog);
     }
     const platform::KeyState keys = platform::readKeys();
-    ToolSession session{tool, preferences, hostPreferences,
-                        view, licence,     dialogs,
-                        keys, mirroring(), [this](ai::int32 id) { toolkit().cursors().show(id); }};
+    ToolSession session{
+        tool,       preferences, hostPreferences,
+        view,       licence,     dialogs,
+        keys,       mirroring(), [this](ai::int32 id) { toolkit().cursors().show(id); },
+        updatePanel};
     handler(session);
     hintTimer.follow(self(), tool.hint, platform::ticks());
     return kNoErr;

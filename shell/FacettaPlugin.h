@@ -27,6 +27,7 @@ public:
 
     AIErr Startup(SPInterfaceMessage& message) override;
     AIErr Shutdown(SPInterfaceMessage& message) override;
+    AIErr Reload(SPAccessMessage& message) override;
     AIErr Message(std::string_view caller, std::string_view selector, void* message) override;
     AIErr SetGlobal(Plugin* plugin) override;
     AIErr Notify(AINotifierMessage& message) override;
@@ -56,7 +57,10 @@ public:
     CurrentView view;                 ///< follows the host's notifications
     ToolState tool;
     HintTimer hintTimer;
+    // Functions of the library; a reload puts them in anew.
     ModalDialogs dialogs;
+    /// Called when the axes shown are others, or may be applied or not; the panel puts its own in.
+    void (*updatePanel)() = [] {};
 
     // What the host knows of the plug-in; null where registering failed.
     MenuItems menuItems;

@@ -82,12 +82,14 @@ void followDocument(FacettaPlugin& plugin) {
     if (!plugin.tool.dragging) clearPreview(plugin.tool);
     if (!documentIsOpen()) {
         dropAxes(plugin.tool);
+        plugin.updatePanel();
         return;
     }
     // While the art of a layer moves with its axes, the layer's own axes are where they were.
     if (plugin.tool.reposition) return;
     regenerateChangedLayers(plugin.mirroring());
     followCurrentLayer(plugin.tool);
+    plugin.updatePanel();
 }
 
 } // namespace

@@ -42,8 +42,8 @@ void reclaimCopies(const ai::ArtSet& copies) {
 } // namespace
 
 void beginLayerEdit(ToolState& state, const SymmetryAxes& axes) {
-    ai::ArtSet copies = copiesOn(currentLayer());
     const AILayerHandle layer = topLevelLayer(nullptr);
+    ai::ArtSet copies = copiesOn(layer);
     state.guidesToRestore = layerHasAxisGuides();
     state.layerBackup = axes;
     state.editedLayer = layer;
@@ -56,7 +56,9 @@ void takeAxesOffLayer(ToolSession& session) {
     ToolState& state = session.state;
     if (state.guidesToRestore) removeAxisGuides(nullptr, /*untagOnly*/ false);
     // Only the drag that begins the edit finds the axes on the layer.
-    if (state.dragBackup.onLayer) LayerAxesStore::remove(nullptr, /*resolveTopLevel*/ true);
+    // They belong to all its sublayers, whichever of these is the current one.
+    if (state.dragBackup.onLayer)
+        LayerAxesStore::remove(topLevelLayer(nullptr), /*resolveTopLevel*/ true);
     state.committed = false;
     state.axes.provisional = true;
     state.axes.onLayer = false;

@@ -26,7 +26,7 @@ struct ToolSession {
     /// Shows a cursor of the plug-in's resources; the rooms below know none.
     std::function<void(ai::int32 id)> setCursor = [](ai::int32) {};
     /// Tells whoever shows the axes' numbers that they are others, or may be applied or not.
-    std::function<void()> updatePanel = [] {};
+    void (*updatePanel)() = [] {};
 };
 
 } // namespace facetta

@@ -116,6 +116,34 @@ TEST_CASE("the title strip moves the dialog by whole pixels, and it stays there"
     CHECK(session.tool().dialog.x == before.x + 40);
 }
 
+TEST_CASE("the panel is told whenever what it shows may be another") {
+    static int updates = 0;
+    struct Row {
+        std::string what;
+        bool axesBefore;
+        void (*act)(Drawing&);
+    };
+    const Row rows[] = {
+        {"the tool is put away", true, [](Drawing& s) { s.host.selectTool(nullptr); }},
+        {"one axis more", true, [](Drawing& s) { s.host.increaseDiameter(); }},
+        {"new axes", false,
+         [](Drawing& s) {
+             s.dragFrom({520, -300}, {600, -300});
+         }},
+        {"a button", true, [](Drawing& s) { s.click(s.onButton(DialogItem::Cancel)); }},
+        {"applied by the tool's icon", true, [](Drawing& s) { s.host.editToolOptions(); }},
+    };
+    for (const auto& [what, axesBefore, act] : rows) {
+        INFO(what);
+        Drawing session(/*selected*/ false);
+        if (!axesBefore) session.click(session.onButton(DialogItem::Cancel));
+        thePlugin->updatePanel = [] { ++updates; };
+        updates = 0;
+        act(session);
+        CHECK(updates > 0);
+    }
+}
+
 TEST_CASE("the licence may refuse what the buttons apply") {
     const Licensing refusing{LicenceState::Licensed,
                              {GuardedAction::ApplyToSelection, GuardedAction::ApplyToLayer}};

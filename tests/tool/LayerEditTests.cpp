@@ -70,6 +70,23 @@ TEST_CASE("Cancel gives an edited layer back its axes, its copies and its guides
     }
 }
 
+TEST_CASE("the edit reaches all of a layer from any of its sublayers") {
+    Drawing session(/*selected*/ false);
+    session.host.edit("New Sublayer", [](easel::Document& document) {
+        easel::Art& top = *document.state().currentLayer;
+        easel::setCurrentLayer(document,
+                               easel::createLayer(document, "Inner", easel::onTopOf(top)));
+        drawLine(document, {320, -150}, {350, -140}, /*selected*/ false);
+    });
+    session.makeLive();
+    const std::string before = session.textButStamp();
+    REQUIRE(countPaths(session.document(), /*lockedOnes*/ true) == 10);
+    session.dragFrom(session.onRay(1, 200), session.onRay(1.25, 200));
+    CHECK(countPaths(session.document(), /*lockedOnes*/ true) == 0);
+    session.click(session.onButton(DialogItem::Cancel));
+    CHECK(session.textButStamp() == before);
+}
+
 TEST_CASE("guides along the axes of a layer go with them") {
     EditedLayer session(/*withGuides*/ true);
     CHECK(session.guideAngles() == std::vector{20, 80, 140});

@@ -41,6 +41,12 @@ void takeAxesOffLayer(Drawing& session) {
 
 void draw(Drawing& session) { static_cast<void>(session.host.drawAnnotations(nullptr)); }
 
+void chooseToolAndHover(Drawing& session) {
+    dropAxesByTool(session);
+    for (const AIReal x : {200.0F, 260.0F, 320.0F})
+        session.host.track({.at = {x, -200}});
+}
+
 constexpr FaultAction kActions[] = {
     {"drag new axes", dropAxesByTool, makeAxes},
     {"apply to the selection", chooseSelection, editOptions},
@@ -52,6 +58,7 @@ constexpr FaultAction kActions[] = {
     {"edit them further", takeAxesOffLayer, editLayerFurther},
     {"press Cancel during the edit", takeAxesOffLayer, press<DialogItem::Cancel>},
     {"draw", nothing, draw},
+    {"choose the tool and hover", makeLive, chooseToolAndHover},
 };
 
 } // namespace

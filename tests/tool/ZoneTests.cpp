@@ -70,6 +70,34 @@ TEST_CASE("the keys that set the number of axes tell what they did, at their lim
     }
 }
 
+TEST_CASE("a double click on the tool's icon applies what is pending, else it asks for settings") {
+    static int opened = 0;
+    struct Row {
+        const char* what;
+        bool pending;
+        std::initializer_list<Key> keys;
+        bool asks;
+    };
+    const Row rows[] = {{"pending axes", true, {}, false},
+                        {"with Ctrl", true, {Key::Control}, true},
+                        {"with Shift", true, {Key::Shift}, true},
+                        {"axes that only follow the cursor", false, {}, true}};
+    for (const auto& [what, pending, keys, asks] : rows) {
+        INFO(what);
+        Drawing session(/*selected*/ false);
+        if (!pending) session.click(session.onButton(DialogItem::Cancel));
+        thePlugin->dialogs.preferences = [] {
+            ++opened;
+            return DialogResult::Ok;
+        };
+        opened = 0;
+        const KeysHeld held(keys);
+        session.host.editToolOptions();
+        CHECK(opened == (asks ? 1 : 0));
+        CHECK(session.axes().onLayer == !asks);
+    }
+}
+
 TEST_CASE("another number of axes is an edit of the layer's, even without moving") {
     Drawing session(/*selected*/ false);
     session.makeLive();
