@@ -90,6 +90,7 @@ bool applyToSelection(ToolSession& session) {
 
 void applyToLayer(ToolSession& session) {
     if (!session.licence.allows(GuardedAction::ApplyToLayer)) return;
+    reclaimCopies(session.state);
     attachAxes(session.mirroring, session.preferences.autoMirror);
     ai::nameUndoStep("Apply Symmetry Axes to Layer");
     session.state.axes.provisional = false;

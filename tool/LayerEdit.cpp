@@ -28,17 +28,6 @@ ai::ArtSet copiesOn(AILayerHandle layer) {
     return copies;
 }
 
-/// What is left of the former copies is generated art again: marked and locked.
-void reclaimCopies(const ai::ArtSet& copies) {
-    constexpr AIBoolean kInLayersToo = 1;
-    const AllChangesAllowed evenInLockedGroups;
-    for (const AIArtHandle art : membersOf(copies.get())) {
-        if (!ai::suites.art->ValidArt(art, kInLayersToo)) continue;
-        MirrorTag::set(art, MirrorTag::kCopy);
-        ai::check(ai::suites.art->SetArtUserAttr(art, kArtLocked, kArtLocked));
-    }
-}
-
 } // namespace
 
 void beginLayerEdit(ToolState& state, const SymmetryAxes& axes) {
@@ -71,9 +60,20 @@ void renewGuides(const ToolState& state, const SymmetryAxes& axes) {
     addAxisGuides(axes);
 }
 
+void reclaimCopies(const ToolState& state) {
+    if (!state.releasedCopies) return;
+    constexpr AIBoolean kInLayersToo = 1;
+    const AllChangesAllowed evenInLockedGroups;
+    for (const AIArtHandle art : membersOf(state.releasedCopies.get())) {
+        if (!ai::suites.art->ValidArt(art, kInLayersToo)) continue;
+        MirrorTag::set(art, MirrorTag::kCopy);
+        ai::check(ai::suites.art->SetArtUserAttr(art, kArtLocked, kArtLocked));
+    }
+}
+
 void restoreLayer(ToolSession& session) {
     ToolState& state = session.state;
-    reclaimCopies(state.releasedCopies);
+    reclaimCopies(state);
     renewGuides(state, state.layerBackup);
     LayerAxesStore::write(state.layerBackup);
     LayerAxesStore::stamp(nullptr); // last: all of the above changes art of the layer
