@@ -76,7 +76,8 @@ bool beginsDrag(const ToolState& state) {
            (state.axes.onLayer && state.axes.axisCount != state.dragBackup.axisCount);
 }
 
-void beginDrag(ToolState& state) {
+void beginDrag(ToolSession& session) {
+    ToolState& state = session.state;
     state.dragging = true;
     state.secondClick = false;
     state.snapDistance = kSnapPixels / currentZoom();
@@ -85,7 +86,7 @@ void beginDrag(ToolState& state) {
     if (state.reposition)
         beginReposition(state);
     else if (state.axes.onLayer)
-        beginLayerEdit(state, state.dragBackup);
+        beginLayerEdit(session, state.dragBackup);
 }
 
 void applyToAxes(ToolSession& session) {
@@ -157,7 +158,7 @@ void drag(ToolSession& session, const AIToolMessage& message) {
     toggleSmartGuides(session, message);
     if (state.zone == ToolZone::Axis && session.keys.isDown(Key::A)) setConstrainAngle(session);
     if (!state.dragging && !beginsDrag(state)) return;
-    if (!state.dragging) beginDrag(state);
+    if (!state.dragging) beginDrag(session);
     ai::check(ai::suites.undo->UndoChanges());
     if (isOnAxes(state.zone) && !state.reposition) takeAxesOffLayer(session);
     findDragTarget(session, message);

@@ -30,7 +30,8 @@ ai::ArtSet copiesOn(AILayerHandle layer) {
 
 } // namespace
 
-void beginLayerEdit(ToolState& state, const SymmetryAxes& axes) {
+void beginLayerEdit(ToolSession& session, const SymmetryAxes& axes) {
+    ToolState& state = session.state;
     const AILayerHandle layer = topLevelLayer(nullptr);
     ai::ArtSet copies = copiesOn(layer);
     state.guidesToRestore = layerHasAxisGuides();
@@ -38,7 +39,8 @@ void beginLayerEdit(ToolState& state, const SymmetryAxes& axes) {
     state.editedLayer = layer;
     state.releasedCopies = std::move(copies);
     state.layerEdit = true;
-    clearPreview(state); // what the layer had generated is art to be mirrored as well
+    clearPreview(state);
+    refreshPreview(session); // now, while the copies can still be told from what was drawn
 }
 
 void takeAxesOffLayer(ToolSession& session) {

@@ -17,7 +17,7 @@
 namespace facetta {
 
 /// Begins the edit of the current layer's axes, which are `axes`.
-void beginLayerEdit(ToolState& state, const SymmetryAxes& axes);
+void beginLayerEdit(ToolSession& session, const SymmetryAxes& axes);
 
 /// The axes are pending from now on, no longer the layer's.
 void takeAxesOffLayer(ToolSession& session);

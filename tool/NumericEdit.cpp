@@ -31,7 +31,7 @@ void prepare(ToolSession& session) {
     ToolState& state = session.state;
     if (!state.axes.onLayer) return;
     if (session.keys.isDown(platform::Key::Alt)) return beginReposition(state);
-    beginLayerEdit(state, state.axes);
+    beginLayerEdit(session, state.axes);
     takeAxesOffLayer(session);
 }
 
