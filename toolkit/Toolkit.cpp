@@ -31,7 +31,13 @@ constexpr ColourRow kColours[] = {
 
 } // namespace
 
-Toolkit::Toolkit(SPPluginRef self) : cursors_(self) {
+std::unique_ptr<Peers> Toolkit::makePeers(void* toolkit) {
+    const Toolkit& self = *static_cast<Toolkit*>(toolkit);
+    return systemPeers({.theme = self.theme_, .plugin = self.self_, .fail = nullptr});
+}
+
+Toolkit::Toolkit(SPPluginRef self)
+    : self_(self), cursors_(self), dialogs_(theme_, makePeers, this) {
     ai::check(notifierSuite_.acquire());
     if (themeSuite_.acquire() == kNoErr) readTheme();
     for (std::size_t i = 0; i < kNotifierCount; ++i)
@@ -45,10 +51,12 @@ bool Toolkit::serve(AINotifierHandle notifier) {
     // When the host closes, windows go before the suites do: nothing is drawn from here on. At the
     // other two the colours may be new ones: other plug-ins set them while they start.
     if (own - notifiers_.begin() == kShutdown) {
+        dialogs_.closeAll();
         cursors_.close();
         themeSuite_.release();
     } else if (themeSuite_) {
         readTheme();
+        dialogs_.themeChanged();
     }
     return true;
 }

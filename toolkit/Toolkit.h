@@ -6,20 +6,12 @@
 #include "host/suites/AINotifierSuite.h"
 #include "host/suites/AIUIThemeSuite.h"
 #include "toolkit/ImplCommon/Cursors.h"
+#include "toolkit/ImplCommon/Dialogs.h"
+#include "toolkit/ImplCommon/Theme.h"
 
 #include <array>
 
 namespace NRDM {
-
-/// The host's interface colours, as the toolkit's controls are drawn in them.
-struct Theme {
-    AIUIThemeColor background{1, 0.84F, 0.84F, 0.84F};
-    AIUIThemeColor text{1, 0.1F, 0.1F, 0.1F};
-    AIUIThemeColor focusRing{1, 0.3F, 0.3F, 0.3F};
-    AIUIThemeColor editText{1, 0.1F, 0.1F, 0.1F};
-    AIUIThemeColor editBackground{1, 1, 1, 1};
-    bool dark = false; ///< Pictures are taken from their dark variants.
-};
 
 /// The dialog toolkit, from the start of the plug-in to its end. It starts before the plug-in's
 /// suites are acquired and so holds those that it needs itself.
@@ -27,6 +19,14 @@ class Toolkit {
 public:
     /// Acquires the toolkit's suites and registers its notifiers. Throws `ai::Error`.
     explicit Toolkit(SPPluginRef self);
+    Toolkit(const Toolkit&) = delete;
+    Toolkit& operator=(const Toolkit&) = delete;
+
+    /// The library is about to go: nothing may be left that points into it.
+    void unloading() noexcept { dialogs_.closeAll(); }
+
+    /// The library has been loaded again, at another place: what its own variables held is lost.
+    void reloaded() noexcept { dialogs_.announce(makePeers); }
 
     /// Serves a notification of the toolkit's own; the plug-in's handling goes on afterwards.
     /// False when `notifier` is none of the toolkit's.
@@ -36,10 +36,15 @@ public:
 
     [[nodiscard]] Cursors& cursors() noexcept { return cursors_; }
 
+    [[nodiscard]] Dialogs& dialogs() noexcept { return dialogs_; }
+
 private:
     static constexpr std::size_t kNotifierCount = 3;
 
     void readTheme() noexcept;
+    static std::unique_ptr<Peers> makePeers(void* toolkit);
+
+    SPPluginRef self_;
 
     ai::SuiteLease<AINotifierSuite, kAINotifierSuite, kAINotifierSuiteVersion> notifierSuite_;
     /// Without it the controls keep the light colours.
@@ -47,6 +52,7 @@ private:
     std::array<AINotifierHandle, kNotifierCount> notifiers_{};
     Theme theme_;
     Cursors cursors_;
+    Dialogs dialogs_;
 };
 
 } // namespace NRDM

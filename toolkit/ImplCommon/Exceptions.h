@@ -16,6 +16,9 @@ public:
     NRDMParameterException() : std::runtime_error("Bad parameter in NRDM call") {}
 };
 
+/// Why an exception of that type is thrown when a resource is missing or damaged.
+inline constexpr char kResourceReadFailed[] = "Resource read failed";
+
 /// A resource that cannot be read, or a system that has no more to give.
 class NRDMResourceException : public std::runtime_error {
 public:

@@ -15,6 +15,7 @@
 /// `NRDMResourceException` when the system has no window to give; an event may throw anything,
 /// which is reported to `Peers::fail` and goes no further.
 
+#include "host/Handles.h"
 #include "host/Types.h"
 
 #include <memory>
@@ -287,5 +288,17 @@ public:
     /// The host's colours are others now: everything open is painted anew.
     virtual void themeChanged() = 0;
 };
+
+struct Theme;
+
+/// What the makers of windows take from the toolkit.
+struct Surroundings {
+    const Theme& theme;      ///< kept up to date while the peers live
+    SPPluginRef plugin;      ///< whose resources hold the pictures
+    void (*fail)() noexcept; ///< for `Peers::fail`
+};
+
+/// The peers of the system that the toolkit is built for.
+[[nodiscard]] std::unique_ptr<Peers> systemPeers(const Surroundings& surroundings);
 
 } // namespace NRDM

@@ -1,0 +1,157 @@
+#include "tests/toolkit/model/Stage.h"
+
+#include "host/Codes.h"
+#include "toolkit/ImplCommon/Exceptions.h"
+#include "toolkit/ImplCommon/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+using namespace facetta::tests;
+using namespace NRDM;
+
+namespace {
+
+int askedOfHost = 0;
+
+SPErr hostAcquires(const char*, ai::int32, const void** functions) {
+    ++askedOfHost;
+    *functions = nullptr;
+    return kSPSuiteNotFoundError;
+}
+SPErr hostReleases(const char*, ai::int32) {
+    ++askedOfHost;
+    return kNoErr;
+}
+
+/// What `work` prints on standard error.
+template <typename Work> std::string printedBy(Work work) {
+    char* text = nullptr;
+    std::size_t length = 0;
+    std::FILE* const saved = stderr;
+    stderr = open_memstream(&text, &length);
+    work();
+    std::fclose(stderr);
+    stderr = saved;
+    const std::string result(text, length);
+    std::free(text);
+    return result;
+}
+
+} // namespace
+
+TEST_CASE("the toolkit's suites are acquired like the host's, before it is asked") {
+    SPBasicSuite host{};
+    host.AcquireSuite = hostAcquires;
+    host.ReleaseSuite = hostReleases;
+    const SPBasicSuite& basic = *offeringSuites(&host);
+    askedOfHost = 0;
+    for (const SuiteTable& table : suiteTables()) {
+        INFO(std::string(table.name));
+        const void* functions = nullptr;
+        CHECK(basic.AcquireSuite(table.name, table.version, &functions) == kNoErr);
+        CHECK(functions == table.functions);
+        CHECK(basic.ReleaseSuite(table.name, table.version) == kNoErr);
+        CHECK(askedOfHost == 0);
+        CHECK(basic.AcquireSuite(table.name, table.version + 1, &functions) != kNoErr);
+        CHECK(std::exchange(askedOfHost, 0) == 1);
+    }
+    const void* functions = nullptr;
+    CHECK(basic.AcquireSuite("ADM Dialog Group Suite", 6, &functions) == kSPSuiteNotFoundError);
+    CHECK(basic.ReleaseSuite("AI Art Suite", 22) == kNoErr);
+    CHECK(askedOfHost == 2);
+}
+
+TEST_CASE("every slot is filled, and no two of a suite are one function") {
+    std::size_t total = 0;
+    for (const SuiteTable& table : suiteTables()) {
+        INFO(std::string(table.name));
+        std::vector<void*> slots(table.slots);
+        std::memcpy(slots.data(), table.functions, slots.size() * sizeof(void*));
+        CHECK(std::ranges::count(slots, nullptr) == 0);
+        total += table.slots;
+    }
+    CHECK(total == 560);
+}
+
+TEST_CASE("a function that is not offered says which one it is") {
+    const std::string printed = printedBy([] {
+        CHECK_THROWS_WITH_AS(kItemSuite.SetNextFocus(nullptr, nullptr),
+                             "NRDM: Function not implemented", NRDMNotImpl);
+        CHECK_THROWS_AS(kBasicSuite.SetAppFPS(1), NRDMNotImpl);
+        CHECK_THROWS_AS(kImageSuite.GetByteWidth(nullptr), NRDMNotImpl);
+    });
+    CHECK(printed == "Not implemented: ADMItemSuite::SetNextFocus in ADMItemSuite\n"
+                     "Not implemented: ADMBasicSuite::SetAppFPS in ADMBasicSuite\n"
+                     "Not implemented: ADMImagesuite::GetByteWidth in ADMImagesuite\n");
+}
+
+TEST_CASE("an item answers through its suite what it was told") {
+    Stage stage;
+    ADMDialogRef dialog = &stage.dialog();
+    const ADMItemSuite& items = kItemSuite;
+    const ADMRect rect{10, 20, 110, 40};
+    int mark = 0;
+    ADMItemRef item = items.Create(dialog, 9, kADMTextEditType, &rect, nullptr, &mark, 0);
+    CHECK(items.GetUserData(item) == &mark);
+    CHECK(items.GetDialog(item) == dialog);
+    CHECK(kDialogSuite.GetItem(dialog, 9) == item);
+    CHECK(kDialogSuite.GetItem(dialog, 21) == nullptr);
+    CHECK(std::string(items.GetItemType(item)) == kADMTextEditType);
+    items.SetUnits(item, kADMInchUnits);
+    items.SetPrecision(item, 2);
+    items.ShowUnits(item, true);
+    items.SetMinFloatValue(item, -720);
+    items.SetMaxIntValue(item, 720);
+    items.SetFloatValue(item, 108);
+    std::array<char, 16> text{};
+    items.GetText(item, text.data(), text.size());
+    CHECK(std::string(text.data()) == "1.50 in");
+    CHECK(items.GetTextLength(item) == 7);
+    items.GetText(item, text.data(), 4);
+    CHECK(std::string(text.data()) == "1.5");
+    items.SetIntValue(item, 9999); // no further than the limit
+    CHECK(items.GetIntValue(item) == 720);
+    CHECK(items.GetMinIntValue(item) == -720);
+    CHECK(items.GetSmallIncrement(item) == 72);
+    items.Move(item, 5, 6);
+    items.Size(item, 30, 12);
+    ADMRect bounds{};
+    items.GetBoundsRect(item, &bounds);
+    CHECK(std::vector{bounds.left, bounds.top, bounds.right, bounds.bottom} ==
+          std::vector<ADMInt32>{5, 6, 35, 18});
+    items.SetPictureID(item, 2106, nullptr);
+    items.SetDisabledPictureID(item, 2108, nullptr);
+    ADMInt32 picture = 0;
+    items.GetDisabledPictureID(item, &picture, nullptr);
+    CHECK(picture == 2108);
+    CHECK(items.GetList(item) == nullptr);
+    CHECK(items.GetChildItem(item, 3) == item);
+    items.SetTipString(item, "45\u00B0");
+    items.GetTipString(item, text.data(), 4); // no half characters
+    CHECK(std::string(text.data()) == "45");
+    kBasicSuite.EnableToolTips(false);
+    CHECK(item->view().tip.empty());
+    CHECK(items.IsTipEnabled(item));
+    kDialogSuite.SetMask(dialog, kADMLeaveMask);
+    CHECK(kDialogSuite.GetMask(dialog) == kADMLeaveMask);
+    items.Destroy(item);
+    CHECK(kDialogSuite.GetItem(dialog, 9) == nullptr);
+}
+
+TEST_CASE("texts in UTF-16 arrive as they are, and what is no text is marked") {
+    Stage stage;
+    ADMItemRef item = &Stage::add(stage.dialog(), 3, kADMTextStaticType);
+    const ADMUnicode clef[] = {0xD834, 0xDD1E, 'a', 0};
+    kItemSuite.SetTextW(item, clef);
+    CHECK(item->text() == "\U0001D11Ea");
+    CHECK(kItemSuite.GetTextLength(item) == 2);
+    CHECK(utf16Of("\U0001D11Ea") == u"\U0001D11Ea");
+    const ADMUnicode broken[] = {0xDD1E, 'b', 0xD834, 0};
+    kItemSuite.SetTextW(item, broken);
+    CHECK(item->text() == "\uFFFDb\uFFFD");
+    CHECK(utf16Of("a\xC3\x28\xED\xA0\x80") == u"a\uFFFD(\uFFFD");
+}

@@ -1,0 +1,208 @@
+#include "toolkit/ImplCommon/CoADMDialog.h"
+
+#include "host/Codes.h"
+#include "toolkit/ImplCommon/Exceptions.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace NRDM {
+namespace {
+
+/// An option of creation: items begin hidden.
+constexpr int kItemsHiddenOption = 0x10;
+
+/// Made-up ids begin here, out of the way of those that clients give later.
+constexpr int kFirstMadeUpId = 30000;
+
+} // namespace
+
+CoADMDialog::CoADMDialog(Dialogs& dialogs, const DialogRequest& request)
+    : BaseDialog(dialogs, request), options_(request.options) {}
+
+void CoADMDialog::open() {
+    if (view_.kind == DialogKind::Panel) {
+        menuItem_ = std::make_shared<CoADMItem>(*this, kADMMenuItemID,
+                                                *findItemType(kADMPopupMenuType), Bounds{});
+        panel_ = std::make_unique<HostPanel>(*this);
+        view_.parent = panel_->window();
+    }
+    attach(dialogs().peers().createDialog(view_, *this));
+    for (const auto& item : items_)
+        attachWindow(*item);
+}
+
+void CoADMDialog::close() {
+    if (std::exchange(closed_, true)) return;
+    if (procedures.destroy != nullptr) procedures.destroy(this);
+    while (!timers_.empty())
+        abortTimer(*timers_.back(), kADMNoEventAction);
+    while (!items_.empty())
+        destroyItem(*items_.back());
+    if (menuItem_) menuItem_->close();
+    detach();
+    panelMenu_.reset();
+}
+
+int CoADMDialog::run() {
+    if (!isModal() || isRunning() || closed_) throw NRDMParameterException();
+    const auto self = shared_from_this();
+    focusFirst();
+    return runLoop();
+}
+
+void CoADMDialog::attachWindow(CoADMItem& item) {
+    if (peer() != nullptr) item.attach(peer()->createItem(item.view(), item));
+}
+
+CoADMItem* CoADMDialog::createItem(int id, std::string_view type, const Bounds& bounds,
+                                   ADMItemInitProc init, ADMUserData itemData) {
+    const ItemType* const known = findItemType(type);
+    if (known == nullptr || id < 0 || closed_) throw NRDMParameterException();
+    const auto item =
+        std::make_shared<CoADMItem>(*this, id != kADMUniqueItemID ? id : freeId(), *known, bounds);
+    item->userData = itemData;
+    item->show((options_ & kItemsHiddenOption) == 0);
+    items_.push_back(item);
+    markDefault();
+    attachWindow(*item);
+    if (init == nullptr || init(item.get()) == kNoErr) return item.get();
+    destroyItem(*item);
+    return nullptr;
+}
+
+void CoADMDialog::destroyItem(CoADMItem& item) {
+    const auto kept = item.shared_from_this();
+    std::erase(items_, kept);
+    kept->close();
+}
+
+int CoADMDialog::freeId() const {
+    int largest = kFirstMadeUpId;
+    for (const auto& item : items_)
+        largest = std::max(largest, item->id());
+    return largest + 1;
+}
+
+CoADMItem* CoADMDialog::item(int id) const {
+    switch (id) {
+    case kADMFirstItemID:
+        return items_.empty() ? nullptr : items_.front().get();
+    case kADMLastItemID:
+        return items_.empty() ? nullptr : items_.back().get();
+    case kADMDefaultItemID:
+        return item(defaultId_);
+    case kADMCancelItemID:
+        return item(cancelId_);
+    case kADMMenuItemID:
+        return menuItem_.get();
+    default:
+        const auto found = std::ranges::find(items_, id, [](const auto& one) { return one->id(); });
+        return found != items_.end() ? found->get() : nullptr;
+    }
+}
+
+CoADMItem* CoADMDialog::neighbour(const CoADMItem& item, int distance) const {
+    const auto found =
+        std::ranges::find_if(items_, [&](const auto& one) { return one.get() == &item; });
+    const auto place = found - items_.begin() + distance;
+    if (found == items_.end() || place < 0 || place >= std::ssize(items_)) return nullptr;
+    return items_[static_cast<std::size_t>(place)].get();
+}
+
+CoADMItem* CoADMDialog::pushButton(int id) const {
+    CoADMItem* const button = item(id);
+    return button != nullptr && button->kind() == ControlKind::PushButton ? button : nullptr;
+}
+
+/// Only modal dialogs have a default item: in a panel, Enter belongs to the field.
+void CoADMDialog::markDefault() {
+    for (const auto& one : items_)
+        one->markDefault(isModal() && one.get() == pushButton(defaultId_));
+}
+
+void CoADMDialog::setDefaultId(int id) {
+    defaultId_ = id;
+    markDefault();
+}
+
+bool CoADMDialog::end(int result, bool cancelling) {
+    if (!isRunning()) return false;
+    const auto self = shared_from_this();
+    if (cancelling)
+        dropTyped();
+    else
+        commitTyped();
+    return endModal(result);
+}
+
+void CoADMDialog::notify(const char* type) {
+    const auto self = shared_from_this();
+    CoADMNotifier notifier(*this, nullptr, type);
+    receive(notifier);
+}
+
+void CoADMDialog::receive(CoADMNotifier& notifier) {
+    if (procedures.notify != nullptr)
+        procedures.notify(this, &notifier);
+    else
+        handle(notifier);
+}
+
+void CoADMDialog::handle(CoADMNotifier& notifier) {
+    if (std::exchange(notifier.handledByDialog, true)) return;
+    const CoADMItem* const item = notifier.item();
+    if (item == nullptr || notifier.type() != kADMUserChangedNotifier) return;
+    if (item == pushButton(cancelId_))
+        end(cancelId_, /*cancelling*/ true);
+    else if (item == pushButton(defaultId_))
+        end(defaultId_, /*cancelling*/ false);
+}
+
+CoADMTimer* CoADMDialog::startTimer(int milliseconds, ADMActionMask abortMask,
+                                    ADMDialogTimerProc fired, ADMDialogTimerAbortProc aborted) {
+    if (fired == nullptr || milliseconds < 0 || peer() == nullptr) throw NRDMParameterException();
+    timers_.push_back(
+        std::make_unique<CoADMTimer>(CoADMTimer{++lastTimer_, abortMask, fired, aborted}));
+    peer()->startTimer(lastTimer_, milliseconds);
+    return timers_.back().get();
+}
+
+void CoADMDialog::abortTimer(CoADMTimer& timer, ADMAction cause) {
+    const auto found = std::ranges::find(timers_, &timer, &std::unique_ptr<CoADMTimer>::get);
+    if (found == timers_.end()) throw NRDMParameterException();
+    const std::unique_ptr<CoADMTimer> kept = std::move(*found);
+    timers_.erase(found);
+    if (peer() != nullptr) peer()->stopTimer(kept->number);
+    if (kept->aborted != nullptr) kept->aborted(this, kept.get(), cause);
+}
+
+std::vector<CoADMItem*> CoADMDialog::groupOf(const CoADMItem& item) const {
+    const auto radio = [&](int id) {
+        CoADMItem* const other = this->item(id);
+        return other != nullptr && other->kind() == ControlKind::RadioButton ? other : nullptr;
+    };
+    int first = item.id();
+    while (first > 1 && radio(first - 1) != nullptr)
+        --first;
+    std::vector<CoADMItem*> group;
+    for (int id = first; CoADMItem* const member = radio(id); ++id)
+        group.push_back(member);
+    return group;
+}
+
+void CoADMDialog::menuChanged() {
+    if (!panel_ || !dialogs().flyoutMenus) return;
+    if (!panelMenu_) {
+        panelMenu_ = std::make_unique<NRDMPanelMenu>(*dialogs().flyoutMenus);
+        panel_->setMenu(panelMenu_->reference());
+    }
+    panelMenu_->show(*menuItem_->list());
+}
+
+void CoADMDialog::panelStateChanged(int state) {
+    if (std::exchange(knownState_, state) == state) return; // our own change, coming back
+    notify(kADMCycleNotifier);
+}
+
+} // namespace NRDM

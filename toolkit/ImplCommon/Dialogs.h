@@ -1,0 +1,112 @@
+#pragma once
+
+#include "host/SuiteHolder.h"
+#include "host/suites/AIModalParentSuite.h"
+#include "host/suites/AIPanelFlyoutMenuSuite.h"
+#include "host/suites/AIPanelSuite.h"
+#include "toolkit/ImplCommon/CoADMIcon.h"
+#include "toolkit/ImplCommon/Numbers.h"
+#include "toolkit/ImplCommon/Peers.h"
+#include "toolkit/ImplCommon/Theme.h"
+#include "toolkit/layout/Layout.h"
+#include "toolkit/suites/ADMTypes.h"
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace NRDM {
+
+/// What a client asks for when it creates a dialog.
+struct DialogRequest {
+    SPPluginRef plugin = nullptr;
+    std::string name;
+    int resource = 0; ///< of its layout; 0 for none
+    ADMDialogStyle style = kADMModalDialogStyle;
+    ADMDialogInitProc init = nullptr;
+    ADMUserData userData = nullptr;
+    int options = 0;
+};
+
+/// How far the arrows of a field go.
+struct Increments {
+    float small;
+    float large;
+};
+
+/// The dialogs that are open, and what holds for all of them. The toolkit has one, which the
+/// functions of the suites find as `current`.
+class Dialogs {
+public:
+    /// Made for the owner of the dialogs. Nothing is kept in it, because the library may be loaded
+    /// again at another place.
+    using MakePeers = std::unique_ptr<Peers> (*)(void* owner);
+
+    /// Windows are made by what `makePeers` gives once the first dialog wants one. `theme` is kept
+    /// up to date by its owner. The host's suites are taken as far as the host has them.
+    Dialogs(const Theme& theme, MakePeers makePeers, void* owner);
+    /// Destroys what is left.
+    ~Dialogs();
+    Dialogs(const Dialogs&) = delete;
+    Dialogs& operator=(const Dialogs&) = delete;
+
+    /// Throws `NRDMResourceException` while the toolkit is not running.
+    [[nodiscard]] static Dialogs& current();
+
+    /// The library has been loaded anew, with no dialog open: this is the current one again.
+    void announce(MakePeers makePeers) noexcept;
+
+    /// A dialog, or null when its init procedure refuses. Throws `NRDMResourceException` when its
+    /// resources are missing; a panel does without a layout.
+    CoADMDialog* create(const DialogRequest& request);
+    /// The same with a layout that is no resource.
+    CoADMDialog* create(const DialogRequest& request, const layout::Layout& layout);
+    /// Creates, runs and destroys a modal dialog. Answers what it was ended with, 0 when its init
+    /// procedure refused.
+    int modal(const DialogRequest& request);
+    void destroy(CoADMDialog& dialog);
+    void closeAll() noexcept;
+
+    [[nodiscard]] Peers& peers();
+    [[nodiscard]] const Theme& theme() const noexcept { return theme_; }
+    /// Tells what is in flight, inside its handler, where no caller can be told.
+    void fail() noexcept;
+    /// The host's colours have changed.
+    void themeChanged();
+    [[nodiscard]] const std::vector<std::shared_ptr<CoADMDialog>>& open() const noexcept {
+        return open_;
+    }
+
+    /// What `text` means in the field of `item`.
+    [[nodiscard]] std::optional<double> numberIn(const CoADMItem& item,
+                                                 const std::string& text) const;
+    [[nodiscard]] Increments incrementsOf(ADMUnits units) const;
+    void setIncrements(ADMUnits units, const Increments& increments);
+
+    void enableTips(bool enabled);
+    [[nodiscard]] bool areTipsEnabled() const noexcept { return tipsEnabled_; }
+
+    NumberCustoms customs;
+    Icons icons;
+
+    // The host's; empty in a host without them.
+    ai::SuiteLease<AIPanelSuite, kAIPanelSuite, kAIPanelSuiteVersion> panels;
+    ai::SuiteLease<AIPanelFlyoutMenuSuite, kAIPanelFlyoutMenuSuite, kAIPanelFlyoutMenuSuiteVersion>
+        flyoutMenus;
+    ai::SuiteLease<AIModalParentSuite, kAIModalParentSuite, kAIModalParentSuiteVersion> modalParent;
+
+private:
+    CoADMDialog* create(const DialogRequest& request, const layout::Layout* layout);
+
+    const Theme& theme_;
+    MakePeers makePeers_ = nullptr;
+    void* owner_;
+    std::unique_ptr<Peers> peers_;
+    std::vector<std::shared_ptr<CoADMDialog>> open_;
+    std::map<ADMUnits, Increments> increments_;
+    bool tipsEnabled_ = true;
+};
+
+} // namespace NRDM

@@ -1,0 +1,118 @@
+#include "toolkit/ImplCommon/HostPanel.h"
+
+#include "host/Error.h"
+#include "host/UnicodeString.h"
+#include "toolkit/ImplCommon/CoADMDialog.h"
+#include "toolkit/ImplCommon/Exceptions.h"
+
+#include <cmath>
+
+namespace NRDM {
+namespace {
+
+/// The user steps through them with the panel's arrow: compact and full.
+constexpr ai::int16 kStates = 2;
+
+const AIPanelSuite& requirePanels(const Dialogs& dialogs) {
+    if (!dialogs.panels) throw NRDMResourceException();
+    return *dialogs.panels;
+}
+
+AISize sizeOf(Extent extent) {
+    return {static_cast<AIReal>(extent.width), static_cast<AIReal>(extent.height)};
+}
+
+/// Runs `work` on the dialog in `panel`. The border that no exception crosses.
+template <typename Work> void serve(AIPanelRef panel, Work work) noexcept {
+    try {
+        Dialogs& dialogs = Dialogs::current();
+        try {
+            AIPanelUserData data = nullptr;
+            ai::check(requirePanels(dialogs).GetUserData(panel, data));
+            const auto dialog = static_cast<CoADMDialog*>(data)->shared_from_this();
+            if (!dialog->isClosed()) work(*dialog);
+        } catch (...) {
+            dialogs.fail();
+        }
+    } catch (const NRDMResourceException&) {
+        return; // the toolkit has ended, and its panels with it
+    }
+}
+
+void sizeChanged(AIPanelRef panel) {
+    serve(panel, [=](CoADMDialog& dialog) {
+        AISize size{};
+        ai::check(requirePanels(dialog.dialogs()).GetSize(panel, size));
+        dialog.resized({static_cast<int>(std::lround(size.width)),
+                        static_cast<int>(std::lround(size.height))});
+    });
+}
+
+void stateChanged(AIPanelRef panel, ai::int16 state) {
+    serve(panel, [=](CoADMDialog& dialog) { dialog.panelStateChanged(state); });
+}
+
+void menuOpens(AIPanelRef panel) {
+    serve(panel, [](CoADMDialog& dialog) {
+        dialog.item(kADMMenuItemID)->track({kADMButtonDownAction, 0, {}});
+    });
+}
+
+void menuClosed(AIPanelRef panel, ai::uint32 chosen) {
+    serve(panel, [=](CoADMDialog& dialog) {
+        CoADMItem& menu = *dialog.item(kADMMenuItemID);
+        menu.choose(NRDMPanelMenu::positionOf(chosen));
+        if (!menu.isClosed()) menu.list()->choose(nullptr); // no entry looks chosen next time
+    });
+}
+
+} // namespace
+
+HostPanel::HostPanel(CoADMDialog& dialog) : suite_(requirePanels(dialog.dialogs())) {
+    const DialogView& view = dialog.view();
+    const AIErr err = suite_.Create(dialog.plugin(), ai::UnicodeString(dialog.name()),
+                                    ai::UnicodeString(view.title), kStates, sizeOf(view.size),
+                                    /*resizable*/ false, /*menu*/ nullptr, &dialog, panel_);
+    if (err != kNoErr) throw NRDMResourceException();
+    suite_.SetSizeChangedNotifyProc(panel_, sizeChanged);
+    suite_.SetStateChangedNotifyProc(panel_, stateChanged);
+    suite_.SetFlyoutMenuPreVisibilityProc(panel_, menuOpens);
+    suite_.SetFlyoutMenuProc(panel_, menuClosed);
+}
+
+HostPanel::~HostPanel() { suite_.Destroy(panel_); }
+
+void* HostPanel::window() const {
+    AIPanelPlatformWindow window = nullptr;
+    return suite_.GetPlatformWindow(panel_, window) == kNoErr ? window : nullptr;
+}
+
+void HostPanel::setTitle(const std::string& title) {
+    ai::check(suite_.SetTitle(panel_, ai::UnicodeString(title)));
+}
+
+void HostPanel::show(bool shown) { ai::check(suite_.Show(panel_, shown)); }
+
+bool HostPanel::isShown() const {
+    AIBoolean shown = 0;
+    ai::check(suite_.IsShown(panel_, shown));
+    return shown != 0;
+}
+
+void HostPanel::setSize(Extent size) { ai::check(suite_.SetSize(panel_, sizeOf(size))); }
+
+int HostPanel::state() const {
+    ai::int16 state = 0;
+    ai::check(suite_.GetCurrentState(panel_, state));
+    return state;
+}
+
+void HostPanel::setState(int state) {
+    ai::check(suite_.SetCurrentState(panel_, static_cast<ai::int16>(state)));
+}
+
+void HostPanel::setMenu(AIPanelFlyoutMenuRef menu) {
+    ai::check(suite_.SetFlyoutMenu(panel_, menu));
+}
+
+} // namespace NRDM

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "host/Handles.h"
+#include "host/suites/AIPanelSuite.h"
+#include "toolkit/ImplCommon/Peers.h"
+
+#include <string>
+
+namespace NRDM {
+
+class CoADMDialog;
+
+/// The host's panel that a dialog lies in: its frame, tab, place on the screen and flyout menu.
+///
+/// The host tells of its changes outside any message:
+/// - another state: the dialog is notified as if its size had been cycled;
+/// - another size: the dialog takes it over, and is notified when it did not ask for it;
+/// - before the menu opens: the menu item's track procedure brings the entries up to date;
+/// - an entry chosen: the menu item's entry is chosen.
+class HostPanel {
+public:
+    /// With the title and size of the dialog's view, hidden at first. Throws
+    /// `NRDMResourceException` when the host gives no panel.
+    explicit HostPanel(CoADMDialog& dialog);
+    ~HostPanel();
+    HostPanel(const HostPanel&) = delete;
+    HostPanel& operator=(const HostPanel&) = delete;
+
+    /// What the dialog's window lies in; null where there are no windows.
+    [[nodiscard]] void* window() const;
+
+    void setTitle(const std::string& title);
+    void show(bool shown);
+    /// False also behind another tab.
+    [[nodiscard]] bool isShown() const;
+    void setSize(Extent size);
+    [[nodiscard]] int state() const;
+    void setState(int state);
+    void setMenu(AIPanelFlyoutMenuRef menu);
+
+private:
+    const AIPanelSuite& suite_;
+    AIPanelRef panel_ = nullptr;
+};
+
+} // namespace NRDM

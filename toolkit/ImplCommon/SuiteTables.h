@@ -1,0 +1,47 @@
+#pragma once
+
+#include "host/Types.h"
+#include "host/suites/SPBasicSuite.h"
+#include "toolkit/suites/ADMBasicSuite.h"
+#include "toolkit/suites/ADMDialogSuite.h"
+#include "toolkit/suites/ADMDrawerSuite.h"
+#include "toolkit/suites/ADMEntrySuite.h"
+#include "toolkit/suites/ADMIconSuite.h"
+#include "toolkit/suites/ADMImageSuite.h"
+#include "toolkit/suites/ADMItemSuite.h"
+#include "toolkit/suites/ADMListSuite.h"
+#include "toolkit/suites/ADMNotifierSuite.h"
+#include "toolkit/suites/ADMTrackerSuite.h"
+#include "toolkit/suites/ADMWinHostSuite.h"
+
+#include <span>
+
+namespace NRDM {
+
+// The toolkit's tables, each in the source of its name.
+extern const ADMBasicSuite kBasicSuite;
+extern const ADMDialogSuite kDialogSuite;
+extern const ADMDrawerSuite kDrawerSuite;
+extern const ADMEntrySuite kEntrySuite;
+extern const ADMIconSuite kIconSuite;
+extern const ADMImageSuite kImageSuite;
+extern const ADMItemSuite kItemSuite;
+extern const ADMListSuite kListSuite;
+extern const ADMNotifierSuite kNotifierSuite;
+extern const ADMTrackerSuite kTrackerSuite;
+extern const ADMWinHostSuite kWinHostSuite;
+
+struct SuiteTable {
+    const char* name;
+    ai::int32 version;
+    const void* functions;
+    std::size_t slots;
+};
+
+[[nodiscard]] std::span<const SuiteTable> suiteTables();
+
+/// The host's basic suite with the toolkit's suites among those that can be acquired: they are
+/// looked up first, everything else goes to the host. Good until the next call; null for null.
+[[nodiscard]] const SPBasicSuite* offeringSuites(const SPBasicSuite* host);
+
+} // namespace NRDM

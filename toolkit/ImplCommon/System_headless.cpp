@@ -1,0 +1,9 @@
+#include "toolkit/ImplCommon/System.h"
+
+namespace NRDM {
+
+Bounds screenAt(Place) { return {}; }
+
+Bounds workspaceBounds() { return {}; }
+
+} // namespace NRDM
