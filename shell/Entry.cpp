@@ -4,6 +4,7 @@
 #include "host/MessageNames.h"
 #include "host/Messages.h"
 #include "shell/FacettaPlugin.h"
+#include "toolkit/ImplCommon/SuiteTables.h"
 
 #include <cstring>
 #include <string_view>
@@ -93,7 +94,7 @@ SPErr handleMessage(const Licensing& licensing, const char* caller, const char* 
                     void* message) noexcept {
     if (caller == nullptr || selector == nullptr || message == nullptr) return kSPBadParameterError;
     const Call call{caller, selector, message};
-    ai::basicSuite = call.data().basic;
+    ai::basicSuite = NRDM::offeringSuites(call.data().basic);
     const SPErr err = ai::codeOf([&] { return handle(licensing, call); });
     if (err != kNoErr) report(err, call);
     return err;

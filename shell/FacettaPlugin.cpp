@@ -79,6 +79,7 @@ void FacettaPlugin::startProduct() {
     addHelpItems(self(), menuItems);
     const bool canShowAllPanels = addShowAllPanelsItem(self(), menuItems);
     decimalSeparator = findDecimalSeparator();
+    toolkit().dialogs().customs.separator = decimalSeparator;
     if (licence.state() == LicenceState::Expired) return;
 
     if (canShowAllPanels) {

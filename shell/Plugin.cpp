@@ -62,12 +62,14 @@ AIErr Plugin::Shutdown(SPInterfaceMessage&) {
 AIErr Plugin::Unload(SPAccessMessage&) {
     const AIErr err = UnloadHook();
     ai::check(SetGlobal(nullptr));
+    if (toolkit_) toolkit_->unloading();
     releaseSuites();
     return err;
 }
 
 AIErr Plugin::Reload(SPAccessMessage&) {
     ai::check(SetGlobal(this));
+    if (toolkit_) toolkit_->reloaded();
     // A holder that survived has its suites, but the library's pointers to them are new and empty.
     const AIErr err = suites_ ? suites_->refresh() : acquireSuites();
     if (err != kNoErr) {

@@ -69,11 +69,10 @@ TEST_CASE("pairs that nobody handles succeed and show nothing") {
 }
 
 TEST_CASE("whichever suite is refused, start-up fails with the host's code and gives all back") {
-    // The toolkit's own three come first; the host's cursors and colours and the overlay's drawer
-    // are not indispensable.
-    constexpr int kToolkitSuites = 3;
-    constexpr int kCursors = 1;
-    constexpr int kTheme = 3;
+    // The toolkit's own six come first. Of those only the notifiers are indispensable; of the rest
+    // all but the overlay's drawer.
+    constexpr int kToolkitSuites = 6;
+    constexpr int kNotifiers = 5;
     const int suites = kToolkitSuites + static_cast<int>(ai::suiteTable().size());
     for (int refused = 1; refused <= suites; ++refused) {
         INFO("acquisition ", refused);
@@ -81,7 +80,8 @@ TEST_CASE("whichever suite is refused, start-up fails with the host's code and g
         session.startUpMayFail = true;
         easel::suiteServer().refuseAcquisition(refused);
         const SPErr result = session.send(kCallerInterface, kSelectorStartup);
-        const bool optional = refused == kCursors || refused == kTheme || refused == suites;
+        const bool optional =
+            (refused <= kToolkitSuites && refused != kNotifiers) || refused == suites;
         CHECK(result == (optional ? kNoErr : kSPSuiteNotFoundError));
         CHECK((session.record().globals != nullptr) == optional);
         CHECK((thePlugin != nullptr) == optional);
