@@ -38,7 +38,7 @@ double contrast(Colour a, Colour b) {
         return 0.2126 * linear(colour.red) + 0.7152 * linear(colour.green) +
                0.0722 * linear(colour.blue);
     };
-    const auto [darker, lighter] = std::minmax(luminance(a), luminance(b));
+    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 
