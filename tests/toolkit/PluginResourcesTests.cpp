@@ -31,7 +31,8 @@ struct PluginInHost {
         return host.plugins.at(host.plugins.nth(0)).library->native();
     }
     [[nodiscard]] AIToolHandle tool() const {
-        return host.tools.tools.findIf([](const auto& each) { return each.name == "Facetta Tool"; });
+        return host.tools.tools.findIf(
+            [](const auto& each) { return each.name == "Facetta Tool"; });
     }
 };
 
@@ -62,8 +63,7 @@ TEST_CASE("over the document the tool's cursor is shown, by the host when it can
         CHECK(plugin.host.user.cursorManagers.count() == 0);
     }
     // A host whose user suite is laid out otherwise never gets the call; the system shows it.
-    easel::hostCalls().arm(
-        {easel::FaultPlan::Mode::FromThenOn, 1, "AI User Suite.GetDateAndTime"});
+    easel::hostCalls().arm({easel::FaultPlan::Mode::FromThenOn, 1, "AI User Suite.GetDateAndTime"});
     PluginInHost plugin;
     easel::hostCalls().disarm();
     plugin.host.selectTool(plugin.tool());
