@@ -4,6 +4,7 @@
 #include "host/MessageNames.h"
 #include "host/UnicodeString.h"
 #include "host/suites/AIAnnotatorSuite.h"
+#include "host/suites/AIMenuSuite.h"
 #include "host/suites/AIToolSuite.h"
 #include "host/suites/AIUserSuite.h"
 #include "platform/Platform.h"
@@ -16,6 +17,7 @@
 
 #include <new>
 #include <string>
+#include <utility>
 
 namespace facetta {
 
@@ -86,9 +88,7 @@ void FacettaPlugin::startProduct() {
         if (!addWindowGroup(self())) return;
         if (addPanelItem(self(), menuItems)) registerNotifiers(self(), notifiers);
     }
-    // The panel is made last, once there is a tool for it to hand to the host: that needs the
-    // toolkit's dialogs, which are not there yet.
-    if (addAnnotator()) addTool();
+    if (addAnnotator() && addTool()) panel.emplace(self());
 }
 
 bool FacettaPlugin::addAnnotator() {
@@ -118,15 +118,10 @@ AIErr FacettaPlugin::Shutdown(SPInterfaceMessage& message) {
         preferences.dialogY = tool.dialog.y;
         dropAxes(tool); // what it holds of the host's goes while there are suites
         saved = savePreferences(preferences);
+        panel.reset();
     }
     const AIErr err = Plugin::Shutdown(message);
     return err != kNoErr ? err : saved;
-}
-
-AIErr FacettaPlugin::Reload(SPAccessMessage& message) {
-    dialogs = {};
-    updatePanel = [] {};
-    return Plugin::Reload(message);
 }
 
 AIErr FacettaPlugin::Message(std::string_view caller, std::string_view selector, void* message) {
@@ -140,6 +135,22 @@ AIErr FacettaPlugin::SetGlobal(Plugin* plugin) {
     return kNoErr;
 }
 
+AIErr FacettaPlugin::UnloadHook() {
+    if (panel)
+        panelAfterReload_ = panel->isVisible() ? PanelAfterReload::Shown : PanelAfterReload::Hidden;
+    panel.reset();
+    return kNoErr;
+}
+
+AIErr FacettaPlugin::SuitesReadyHook() {
+    dialogs = {};
+    updatePanel = [] {};
+    const PanelAfterReload wanted = std::exchange(panelAfterReload_, PanelAfterReload::None);
+    if (wanted == PanelAfterReload::None) return kNoErr;
+    panel.emplace(self()).show(wanted == PanelAfterReload::Shown);
+    return kNoErr;
+}
+
 AIErr FacettaPlugin::Notify(AINotifierMessage& message) {
     if (message.type != nullptr && message.type == std::string_view(kApplicationStartedNotifier))
         welcomeOnFirstStart();
@@ -150,13 +161,17 @@ AIErr FacettaPlugin::Notify(AINotifierMessage& message) {
 }
 
 AIErr FacettaPlugin::GoMenuItem(AIMenuMessage& message) {
-    chooseMenuItem(menuItems, message.menuItem);
+    if (message.menuItem != nullptr && message.menuItem == menuItems.panel) {
+        if (panel) panel->show(!panel->isVisible());
+    } else {
+        chooseMenuItem(menuItems, message.menuItem);
+    }
     return kNoErr;
 }
 
-AIErr FacettaPlugin::UpdateMenuItem(AIMenuMessage&) {
-    // The check mark of "Facetta Panel" follows the panel; without one it stays as it is.
-    return kNoErr;
+AIErr FacettaPlugin::UpdateMenuItem(AIMenuMessage& message) {
+    if (message.menuItem == nullptr || message.menuItem != menuItems.panel) return kNoErr;
+    return ai::suites.menu->CheckItem(menuItems.panel, panel && panel->isVisible());
 }
 
 MirrorEnvironment FacettaPlugin::mirroring() {

@@ -10,6 +10,9 @@
 #include "tool/ModalDialogs.h"
 #include "tool/Preferences.h"
 #include "tool/ToolState.h"
+#include "ui/SymmetryPanel.h"
+
+#include <optional>
 
 namespace facetta {
 
@@ -27,9 +30,10 @@ public:
 
     AIErr Startup(SPInterfaceMessage& message) override;
     AIErr Shutdown(SPInterfaceMessage& message) override;
-    AIErr Reload(SPAccessMessage& message) override;
     AIErr Message(std::string_view caller, std::string_view selector, void* message) override;
     AIErr SetGlobal(Plugin* plugin) override;
+    AIErr SuitesReadyHook() override;
+    AIErr UnloadHook() override;
     AIErr Notify(AINotifierMessage& message) override;
     AIErr GoMenuItem(AIMenuMessage& message) override;
     AIErr UpdateMenuItem(AIMenuMessage& message) override;
@@ -67,8 +71,12 @@ public:
     NotifierHandles notifiers{};
     AIAnnotatorHandle annotator = nullptr;
     AIToolHandle toolHandle = nullptr;
+    std::optional<SymmetryPanel> panel;
 
 private:
+    /// What becomes of the panel, whose windows call into the library, when that is loaded again.
+    enum class PanelAfterReload { None, Hidden, Shown };
+
     /// Runs `handler` on the tool's state and what the plug-in lends it for one message.
     template <typename Handler> AIErr withSession(Handler handler);
     /// The same for a message to our tool; messages to others are none of ours.
@@ -77,6 +85,8 @@ private:
     void startProduct();
     bool addAnnotator();
     bool addTool();
+
+    PanelAfterReload panelAfterReload_ = PanelAfterReload::None;
 };
 
 /// The live plug-in object; null before start-up, after shut-down and while the library is being

@@ -32,7 +32,7 @@ bool addShowAllPanelsItem(SPPluginRef self, MenuItems& items);
 bool addWindowGroup(SPPluginRef self);
 bool addPanelItem(SPPluginRef self, MenuItems& items);
 
-/// Does what choosing `item` asks for; nothing when it is none of ours.
+/// Does what choosing `item` asks for; nothing when it is none of ours, or the panel's.
 void chooseMenuItem(const MenuItems& items, AIMenuItemHandle item);
 
 } // namespace facetta

@@ -33,6 +33,10 @@ void fetchViewAndPlaceDialog(FacettaPlugin& plugin) {
         plugin.tool.dialog = placedIn(plugin.view.pixels, plugin.tool.dialog);
 }
 
+void showPanel(FacettaPlugin& plugin) {
+    if (plugin.panel) plugin.panel->show(true);
+}
+
 /// Known to the handlers that follow, with no reaction of its own.
 void passOn(FacettaPlugin&) {}
 
@@ -72,7 +76,7 @@ constexpr Row kRows[] = {
     {"AI Tool Resumed by Spacebar Notifier", passOn},
     {"AI Current Coordinate System Changed Notifier", fetchView},
     {"AI Document Ruler Origin Changed Notifier", passOn},
-    {kShowAllPanelsNotifier, passOn}, // the panel shows itself here once there is one
+    {kShowAllPanelsNotifier, showPanel},
 };
 static_assert(std::size(kRows) == kNotifierCount);
 

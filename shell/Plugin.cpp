@@ -76,7 +76,8 @@ AIErr Plugin::Reload(SPAccessMessage&) {
         suites_.reset();
         return err;
     }
-    SuitesReadyHook(); // the suites are there whatever the hook finds
+    // The suites are there whatever the hook finds.
+    static_cast<void>(ai::codeOf([&] { return SuitesReadyHook(); }));
     return kNoErr;
 }
 

@@ -67,6 +67,10 @@ TEST_CASE("start-up goes step by step") {
         {"AI Annotator Suite.SetAnnotatorOptions", 1},
         {"AI Tool Suite.AddTool", 1},
         {"AI Tool Suite.SetToolInfoVars", 1},
+        {"AI Panel Suite.SetSizeChangedNotifyProc", 1},
+        {"AI Panel Suite.SetStateChangedNotifyProc", 1},
+        {"AI Panel Suite.SetFlyoutMenuPreVisibilityProc", 1},
+        {"AI Panel Suite.SetFlyoutMenuProc", 1},
     };
     Session session;
     easel::hostCalls().setRecording(true);
