@@ -92,7 +92,9 @@ void followDocument(FacettaPlugin& plugin) {
     // While the art of a layer moves with its axes, the layer's own axes are where they were.
     if (plugin.tool.reposition) return;
     regenerateChangedLayers(plugin.mirroring());
+    const SymmetryAxes before = plugin.tool.axes;
     followCurrentLayer(plugin.tool);
+    if (plugin.tool.axes != before) redrawOverlay(plugin.view);
     plugin.updatePanel();
 }
 

@@ -62,8 +62,7 @@ void pressCancel(ToolSession& session) {
 }
 
 void pressApplyToSelection(ToolSession& session) {
-    if (session.state.selectionEmpty || !applyToSelection(session)) return;
-    previewAt(session, session.state.cursor);
+    if (!session.state.selectionEmpty) applyToSelection(session);
 }
 
 void pressNothing(ToolSession&) {}
@@ -109,6 +108,7 @@ void release(ToolSession& session, const AIToolMessage& message) {
     ToolState& state = session.state;
     clearSnapFeedback(state.snapPointForm, session.view.handle, message.event);
     if (!session.licence.allows(GuardedAction::ToolMouseUp)) {
+        if (state.cancelled) return; // already, or the press was refused as well
         cancelGesture(session);
         return axesChanged(session);
     }

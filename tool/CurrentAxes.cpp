@@ -78,14 +78,13 @@ void rememberAsDefault(ToolSession& session) {
     session.preferences.count = session.state.axes.axisCount;
 }
 
-bool applyToSelection(ToolSession& session) {
-    if (!session.licence.allows(GuardedAction::ApplyToSelection) || selectionIsEmpty())
-        return false;
+void applyToSelection(ToolSession& session) {
+    if (!session.licence.allows(GuardedAction::ApplyToSelection) || selectionIsEmpty()) return;
     MirrorEngine(session.mirroring)
         .run(/*selectionMode*/ true, /*keepCurrentAxes*/ false, /*option*/ false, nullptr);
     ai::nameUndoStep("Apply Symmetry Axes to Selection");
     dropAxes(session.state);
-    return true;
+    previewAt(session, session.state.cursor);
 }
 
 void applyToLayer(ToolSession& session) {

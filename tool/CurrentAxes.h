@@ -28,9 +28,9 @@ void axesChanged(ToolSession& session);
 /// The tool's own copy of angle and count becomes the default for new axes.
 void rememberAsDefault(ToolSession& session);
 
-/// Mirrors the selected art across the axes, once; the axes are then done with. Nothing happens,
-/// and the answer is false, while nothing is selected or the licence forbids it.
-bool applyToSelection(ToolSession& session);
+/// Mirrors the selected art across the axes, once; the axes are then done with, and new ones follow
+/// the cursor. Nothing happens while nothing is selected or the licence forbids it.
+void applyToSelection(ToolSession& session);
 
 /// Attaches the axes to the current layer, which stays mirrored from now on.
 void applyToLayer(ToolSession& session);

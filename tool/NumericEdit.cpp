@@ -29,6 +29,7 @@ DialogResult askForAxes(ToolSession& session) {
 
 void prepare(ToolSession& session) {
     ToolState& state = session.state;
+    endReposition(state); // Alt counts now, and not when the button went down
     if (!state.axes.onLayer) return;
     if (session.keys.isDown(platform::Key::Alt)) return beginReposition(state);
     beginLayerEdit(session, state.axes);

@@ -62,10 +62,14 @@ void drawButton(const Surface& surface, const ToolState& state, const DrawnRow& 
 
 } // namespace
 
+bool axesHaveDialog(const ToolSession& session) {
+    const SymmetryAxes& axes = session.state.axes;
+    return session.preferences.useAnnotationDialog && axes.provisional && !axes.onLayer;
+}
+
 bool dialogIsShown(const ToolSession& session) {
-    const ToolState& state = session.state;
-    return session.preferences.useAnnotationDialog && state.axes.provisional &&
-           !state.axes.onLayer && state.zone != ToolZone::Canvas && !session.dialogs.open;
+    return axesHaveDialog(session) && session.state.zone != ToolZone::Canvas &&
+           !session.dialogs.open;
 }
 
 DialogItem dialogItemAt(DialogPosition position, AIPoint viewPixels) {

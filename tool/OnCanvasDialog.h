@@ -10,8 +10,10 @@
 
 namespace facetta {
 
-/// Is it on screen? Only pending axes of the tool have it, and never while a press on the canvas
-/// makes new ones, or a modal dialog is open.
+/// Is there a dialog for the cursor to be on? Only pending axes have one, if the user wants it.
+[[nodiscard]] bool axesHaveDialog(const ToolSession& session);
+
+/// Is it on screen? Never while a press on the canvas makes new axes, or a modal dialog is open.
 [[nodiscard]] bool dialogIsShown(const ToolSession& session);
 
 /// The item at `viewPixels` of a dialog at `position`. Does not ask whether the dialog is shown.

@@ -57,15 +57,6 @@ void drawPolygon(const Surface& surface, std::span<const Point> corners, Fill fi
                                                   static_cast<AIBoolean>(fill)));
 }
 
-/// The ground under a line: the outline of a polygon without width, so that the lines that are
-/// drawn are the axes and nothing else.
-void drawHalo(const Surface& surface, const LineSegment& line) {
-    const std::optional<LineSegment> visible = clipped(line, surface.view.visible);
-    if (!visible) return;
-    const Point ends[] = {visible->start, visible->end};
-    drawPolygon(surface, ends, Fill::No);
-}
-
 /// The pixels of `rect`, whichever way up the host gives it.
 AIRect pixelsIn(const AIRealRect& rect) {
     const auto [top, bottom] = std::minmax({rect.top, rect.bottom});
@@ -83,12 +74,10 @@ void clipToErased(const Surface& surface) {
     suites.annotatorDrawer->DefineClipEnd(surface.drawer);
 }
 
-using DrawLineFunction = void (*)(const Surface&, const LineSegment&);
-
-void drawEachAxis(const Surface& surface, const PixelAxes& axes, DrawLineFunction draw) {
+void drawLines(const Surface& surface, const PixelAxes& axes) {
     for (int axis = 0; axis < axes.axisCount; ++axis) {
         const Vector reach = axes.reach * pixelDirection(axes.angle + axis * axes.halfStep);
-        draw(surface, {axes.origin - reach, axes.origin + reach});
+        drawLine(surface, {axes.origin - reach, axes.origin + reach});
     }
 }
 
@@ -171,12 +160,12 @@ void drawAxes(const Surface& surface, const PixelAxes& axes, SectorHandle handle
     if (axes.axisCount <= kMostHalos) {
         setColour(surface, surface.colours.halo);
         suites.annotatorDrawer->SetLineWidth(surface.drawer, kHaloWidth);
-        drawEachAxis(surface, axes, drawHalo);
+        drawLines(surface, axes);
         drawMarkers(surface, axes, Fill::No);
     }
     setColour(surface, surface.colours.axes);
     suites.annotatorDrawer->SetLineWidth(surface.drawer, kLineWidth);
-    drawEachAxis(surface, axes, drawLine);
+    drawLines(surface, axes);
     drawMarkers(surface, axes, Fill::Yes);
     if (handle == SectorHandle::Shown) drawSectorHandle(surface, axes);
     drawOrigin(surface, axes);

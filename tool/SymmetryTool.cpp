@@ -120,6 +120,7 @@ void trackCursor(ToolSession& session, const AIToolMessage& message) {
     ToolState& state = session.state;
     storeCursor(state, message.cursor);
     if (!insertionPointIsEditable()) {
+        if (state.zone != ToolZone::LayerLocked) redrawOverlay(session.view); // new axes go
         state.zone = ToolZone::LayerLocked;
         showZoneCursor(session);
     } else if (!hasAxes(state)) {
@@ -135,11 +136,11 @@ void trackCursor(ToolSession& session, const AIToolMessage& message) {
 
 void mouseDown(ToolSession& session, const AIToolMessage& message) {
     ToolState& state = session.state;
-    forgetGesture(state);
     if (!session.licence.allows(GuardedAction::ToolMouseDown)) {
         state.cancelled = true; // what follows until the release is refused as well
         return;
     }
+    forgetGesture(state);
     state.mouseDown = state.previousCursor = state.cursor = message.cursor;
     state.dragBackup = state.axes;
     inGesture(session, [&] { press(session, message); });

@@ -58,8 +58,9 @@ void enterDialog(ToolSession& session) {
 void updateHoverItem(ToolSession& session) {
     ToolState& state = session.state;
     const DialogItem item =
-        dialogIsShown(session) ? dialogItemAt(state.dialog, viewPixelOf(session.view, state.cursor))
-                               : DialogItem::None;
+        axesHaveDialog(session)
+            ? dialogItemAt(state.dialog, viewPixelOf(session.view, state.cursor))
+            : DialogItem::None;
     if (item == state.hoverItem) return;
     state.hoverItem = item;
     redrawDialog(session);

@@ -19,7 +19,7 @@ namespace facetta {
 /// Finds out the zone at the state's cursor. Without axes the zone stays as it is.
 void updateZone(ToolSession& session);
 
-/// Finds out which item of the on-canvas dialog the state's cursor is over, if it is shown.
+/// Finds out which item of the on-canvas dialog the state's cursor is over, if there is one.
 void updateHoverItem(ToolSession& session);
 
 /// Shows the cursor of the state's zone.

@@ -1,5 +1,6 @@
 #include "easel/script/ShownAxes.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <vector>
@@ -20,6 +21,8 @@ double length(Point p) { return std::hypot(p.x, p.y); }
 struct Line {
     Point from;
     Point along; ///< To its other end.
+
+    bool operator==(const Line&) const = default;
 };
 
 Line lineOf(const DrawCommand& command) {
@@ -105,9 +108,12 @@ std::optional<ShownAxes> shownAxes(const DisplayList& list) {
     const std::optional<Point> origin = originOf(list);
     if (!origin) return std::nullopt;
     std::vector<Line> lines;
-    for (const DrawCommand& command : list)
-        if (isAxisLine(command) && passesThrough(command, *origin))
-            lines.push_back(lineOf(command));
+    for (const DrawCommand& command : list) {
+        if (!isAxisLine(command) || !passesThrough(command, *origin)) continue;
+        // A broader line of another colour may lie below each.
+        const Line line = lineOf(command);
+        if (std::ranges::find(lines, line) == lines.end()) lines.push_back(line);
+    }
     if (lines.empty()) return std::nullopt;
     ShownAxes axes{static_cast<int>(lines.size()), *origin, std::nullopt};
     for (const DrawCommand& command : list) {

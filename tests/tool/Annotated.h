@@ -31,10 +31,12 @@ inline std::vector<easel::DrawCommand> ofKind(const easel::DisplayList& list, Ki
     return found;
 }
 
-/// Solid lines: the axes.
+/// The axes: solid lines of one pixel, without the broader ground below them.
 inline std::vector<easel::DrawCommand> axisLines(const easel::DisplayList& list) {
     std::vector<easel::DrawCommand> lines = ofKind(list, Kind::Line);
-    std::erase_if(lines, [](const easel::DrawCommand& each) { return each.style.dashed; });
+    std::erase_if(lines, [](const easel::DrawCommand& each) {
+        return each.style.dashed || each.style.lineWidth != 1.0F;
+    });
     return lines;
 }
 

@@ -17,6 +17,7 @@ TEST_CASE(
     CHECK(session.host.undoText() == "Undo Apply Symmetry Axes to Selection");
     CHECK_FALSE(session.axes().provisional);
     CHECK(thePlugin->tool.zone == ToolZone::Canvas);
+    CHECK(session.axes().axisCount == thePlugin->preferences.count); // the next ones to be made
 
     CHECK(session.host.undo());
     CHECK(session.text() == before);

@@ -107,3 +107,22 @@ TEST_CASE("with Alt the dialog takes the art of the layer along") {
         CHECK(near(stored.originX, before.originX + 30));
     }
 }
+
+TEST_CASE("what counts for the dialog is whether Alt is held when it opens") {
+    Drawing session(/*selected*/ false);
+    session.makeLive();
+    thePlugin->dialogs.editAxes = turnAndMove<DialogResult::Ok>;
+    session.click(session.onRay(0, 200));
+    const AIRealPoint axis = session.onRay(0, 200);
+    {
+        const KeysHeld held({Key::Alt});
+        session.press(axis.h, axis.v);
+    }
+    session.release(axis.h, axis.v);
+    CHECK(session.axes().provisional);
+    CHECK_FALSE(session.axes().onLayer);
+    session.host.edit("Look", [&](easel::Document&) {
+        SymmetryAxes stored;
+        CHECK_FALSE(LayerAxesStore::read(nullptr, stored));
+    });
+}

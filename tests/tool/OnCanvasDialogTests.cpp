@@ -126,3 +126,13 @@ TEST_CASE("while the host scrolls under a drag the dialog is left out, the axes 
     CHECK(textsIn(drawer.list).empty());
     CHECK(axisLines(drawer.list).size() == 3);
 }
+
+TEST_CASE("axes that came without a press have a dialog as soon as the mouse moves") {
+    Drawing session{/*selected*/ true};
+    session.tool().zone = ToolZone::Canvas;
+    CHECK(textsIn(drawn(session)).empty());
+    session.host.track({.at = session.onButton(DialogItem::Cancel)});
+    CHECK(session.tool().zone == ToolZone::DialogButton);
+    CHECK(session.tool().hoverItem == DialogItem::Cancel);
+    CHECK_FALSE(textsIn(drawn(session)).empty());
+}

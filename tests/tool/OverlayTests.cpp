@@ -90,17 +90,37 @@ TEST_CASE("two triangles on the bounding rays point into the active sector") {
 
 TEST_CASE("the handle is dashed, along the bisector, and only there under the cursor") {
     PendingAxes session{3};
-    CHECK(ofKind(drawn(session), Kind::Line).size() == 3);
+    const std::size_t withoutHandle = ofKind(drawn(session), Kind::Line).size();
     const Point handle = Point{300, -250} + 150.0 * direction(kPi / 6);
     session.host.track({.at = narrow(handle)});
     std::vector<easel::DrawCommand> lines = ofKind(drawn(session), Kind::Line);
-    REQUIRE(lines.size() == 4);
-    CHECK(lines[3].style.dashed);
-    CHECK(lines[3].style.dashes == std::vector<AIFloat>{4, 4});
-    CHECK(distance(at(lines[3].points[0]), pixelsOf(session, {300, -250})) < 0.71);
-    CHECK(offLine(lines[3], pixelsOf(session, handle)) < 1.0);
+    REQUIRE(lines.size() == withoutHandle + 1);
+    const easel::DrawCommand& dashed = lines.back();
+    CHECK(dashed.style.dashed);
+    CHECK(dashed.style.dashes == std::vector<AIFloat>{4, 4});
+    CHECK(distance(at(dashed.points[0]), pixelsOf(session, {300, -250})) < 0.71);
+    CHECK(offLine(dashed, pixelsOf(session, handle)) < 1.0);
     session.host.track({.at = {300, -500}});
-    CHECK(ofKind(drawn(session), Kind::Line).size() == 3);
+    CHECK(ofKind(drawn(session), Kind::Line).size() == withoutHandle);
+}
+
+TEST_CASE("a broader line of another colour lies below each axis, while there is room for it") {
+    struct Row {
+        int count;
+        std::ptrdiff_t grounds;
+    };
+    for (const auto& [count, grounds] : {Row{1, 1}, Row{20, 20}, Row{21, 0}}) {
+        INFO("N = ", count);
+        PendingAxes session{count};
+        const std::vector<easel::DrawCommand> lines = ofKind(drawn(session), Kind::Line);
+        REQUIRE(std::ssize(lines) == grounds + count);
+        for (std::size_t i = 0; std::cmp_less(i, grounds); ++i) {
+            const easel::DrawCommand& axis = lines[i + static_cast<std::size_t>(grounds)];
+            CHECK(at(lines[i].points[0]) == at(axis.points[0]));
+            CHECK(at(lines[i].points[1]) == at(axis.points[1]));
+            CHECK(lines[i].style.lineWidth > axis.style.lineWidth);
+        }
+    }
 }
 
 TEST_CASE("the origin is a small disc with an edge, drawn over all lines") {

@@ -144,4 +144,14 @@ TEST_CASE("a refused press changes nothing; a refused release leaves no axes beh
         session.release(100, -100);
         CHECK_FALSE(session.axes().provisional);
     }
+    {
+        ToolInHand session;
+        session.dragFrom({100, -100}, {200, -100});
+        thePlugin->licence = {LicenceState::Expired,
+                              {GuardedAction::ToolMouseDown, GuardedAction::ToolMouseUp}};
+        session.host.increaseDiameter();
+        const SymmetryAxes pending = session.axes();
+        session.dragFrom({150, -100}, {150, -150});
+        CHECK(session.axes() == pending);
+    }
 }
