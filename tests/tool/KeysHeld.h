@@ -1,24 +1,22 @@
 #pragma once
 
-#include "platform/Headless.h"
+#include "platform/Platform.h"
 
 #include <initializer_list>
 
 namespace facetta::tests {
 
-/// Keys held down for the life of the object, where there is no keyboard.
+/// Just these keys are down on the keyboard that `platform::readKeys` reads; none with an empty
+/// list.
+void holdKeys(std::initializer_list<platform::Key> held);
+
+/// Keys held down for the life of the object.
 class KeysHeld {
 public:
-    KeysHeld(std::initializer_list<platform::Key> held) {
-        for (const platform::Key key : held)
-            keys().down.at(static_cast<unsigned char>(key)) = true;
-    }
-    ~KeysHeld() { keys() = {}; }
+    KeysHeld(std::initializer_list<platform::Key> held) { holdKeys(held); }
+    ~KeysHeld() { holdKeys({}); }
     KeysHeld(const KeysHeld&) = delete;
     KeysHeld& operator=(const KeysHeld&) = delete;
-
-private:
-    static platform::KeyState& keys() { return platform::headless::surroundings().keys; }
 };
 
 } // namespace facetta::tests
