@@ -1,5 +1,6 @@
 #include "toolkit/ImplWin/CoADMDrawer.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <vector>
@@ -95,6 +96,15 @@ void CoADMDrawer::clear(const Bounds& area) {
 }
 
 void CoADMDrawer::drawLine(Place from, Place to) {
+    if (from.x == to.x || from.y == to.y) { // on whole pixels, both ends included
+        const auto [left, right] = std::minmax(from.x, to.x);
+        const auto [top, bottom] = std::minmax(from.y, to.y);
+        RECT line = toPixels(Bounds{left, top, right + 1, bottom + 1});
+        if (from.x == to.x) line.right = line.left + scale_.line();
+        if (from.y == to.y) line.bottom = line.top + scale_.line();
+        NRDM::fillRect(surface_, line, colour_);
+        return;
+    }
     const double half = scale_.factor / 2; // a line covers the units that it names
     const std::array points{Spot{toPixels(from).x + half, toPixels(from).y + half},
                             Spot{toPixels(to).x + half, toPixels(to).y + half}};
@@ -102,7 +112,7 @@ void CoADMDrawer::drawLine(Place from, Place to) {
 }
 
 void CoADMDrawer::drawRect(const Bounds& rect) {
-    frameRect(surface_, toPixels(rect), scale_.toPixels(1), colour_);
+    frameRect(surface_, toPixels(rect), scale_.line(), colour_);
 }
 
 void CoADMDrawer::fillRect(const Bounds& rect) {
@@ -110,7 +120,7 @@ void CoADMDrawer::fillRect(const Bounds& rect) {
 }
 
 void CoADMDrawer::edge(const RECT& area, Colour topLeft, Colour bottomRight) {
-    const int line = scale_.toPixels(1);
+    const int line = scale_.line();
     NRDM::fillRect(surface_, area, bottomRight);
     NRDM::fillRect(surface_, {area.left, area.top, area.right - line, area.bottom - line}, topLeft);
     NRDM::fillRect(surface_,

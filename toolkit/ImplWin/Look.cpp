@@ -13,8 +13,7 @@ constexpr double kBoxGap = 6;
 
 double px(const Canvas& canvas, double units) { return units * canvas.scale.factor; }
 
-/// A line of the interface: one pixel up to 1.5x, two at 2x.
-double hairline(const Canvas& canvas) { return std::max(1.0, std::floor(canvas.scale.factor)); }
+double hairline(const Canvas& canvas) { return canvas.scale.line(); }
 
 Spot middleOf(const RECT& area) {
     return {(area.left + area.right) / 2.0, (area.top + area.bottom) / 2.0};
@@ -64,7 +63,7 @@ MarkColours markColours(const Canvas& canvas, const FaceState& state) {
         return {fill, fill, state.enabled ? palette.onAccent : palette.background};
     }
     const Colour fill = !state.enabled  ? mix(palette.background, palette.field, 0.4)
-                        : state.pressed ? palette.facePressed
+                        : state.pressed ? mix(palette.field, palette.text, 0.18)
                                         : palette.field;
     const Colour border = state.enabled && state.hot ? mix(palette.fieldBorder, palette.text, 0.45)
                                                      : palette.fieldBorder;
@@ -234,7 +233,7 @@ void drawSlider(const Canvas& canvas, const RECT& area, int thumb, const FaceSta
 
 void drawFrame(const Canvas& canvas, const RECT& area, int style) {
     const Palette& palette = canvas.palette;
-    const int line = static_cast<int>(hairline(canvas));
+    const int line = canvas.scale.line();
     if (area.bottom - area.top < 4 * line) {
         const LONG top = (area.top + area.bottom - line) / 2;
         fillRect(canvas.surface, {area.left, top, area.right, top + line}, palette.line);
@@ -277,7 +276,7 @@ void drawCheckMark(const Canvas& canvas, const RECT& area, Colour colour) {
 
 void drawMenuFrame(const Canvas& canvas, const RECT& area) {
     fillRect(canvas.surface, area, canvas.palette.menu);
-    frameRect(canvas.surface, area, static_cast<int>(hairline(canvas)), canvas.palette.faceBorder);
+    frameRect(canvas.surface, area, canvas.scale.line(), canvas.palette.faceBorder);
 }
 
 } // namespace NRDM

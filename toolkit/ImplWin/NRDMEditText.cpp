@@ -45,7 +45,7 @@ bool NRDMEditText::lists() const {
 
 RECT NRDMEditText::placeOf(Part part) const {
     RECT area = client();
-    const int border = std::max(1, static_cast<int>(scale().factor));
+    const int border = scale().line();
     InflateRect(&area, -border, -border);
     const int width = scale().toPixels(kArrowWidth);
     const LONG popupLeft = slides() || lists() ? area.right - width : area.right;
@@ -75,7 +75,7 @@ NRDMEditText::Part NRDMEditText::partAt(POINT point) const {
 void NRDMEditText::arrange() {
     const RECT area = client();
     RECT place = placeOf(Part::None);
-    place.left += scale().toPixels(kSideMargin) - std::max(1, static_cast<int>(scale().factor));
+    place.left += scale().toPixels(kSideMargin) - scale().line();
     const bool alone = !spins() && !slides() && !lists();
     place.right -= scale().toPixels(alone ? kSideMargin - 1 : 2);
     const int baseline = baselineOf(area.top, area.bottom, textStyle(), scale());

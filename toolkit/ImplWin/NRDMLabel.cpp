@@ -43,10 +43,13 @@ void NRDMLabel::paint(const Canvas& canvas, const RECT& area) {
                         canvas.scale,    textColour(canvas.palette, now),
                         justify(),       overflowOf(view().style),
                         now.keyboardCues};
-    if (view().kind == ControlKind::MultiLineLabel)
+    if (view().kind == ControlKind::MultiLineLabel) {
         drawWrapped(canvas.surface, area, line);
-    else
-        drawLine(canvas.surface, area, line);
+        return;
+    }
+    RECT text = area; // a text that just fits keeps clear of the field after it
+    if (line.justify == Justify::Left) text.right -= canvas.scale.toPixels(1);
+    drawLine(canvas.surface, text, line);
 }
 
 } // namespace NRDM

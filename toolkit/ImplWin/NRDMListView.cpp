@@ -12,7 +12,7 @@ constexpr double kRowPadding = 3;
 constexpr double kSide = 8;
 constexpr double kMark = 18;
 constexpr double kSeparator = 7;
-constexpr double kBar = 4; ///< The mark at the side of a list with more than it shows.
+constexpr double kBar = 4; ///< The bar at the side of a list that shows a part of its entries.
 
 } // namespace
 
@@ -29,7 +29,7 @@ void NRDMListViewEntry::draw(const Canvas& canvas, const RECT& area, TextStyle s
         drawRow(canvas, area, RowState::Plain, plain);
         RECT line = area;
         InflateRect(&line, -canvas.scale.toPixels(kSide), 0);
-        const int thickness = std::max(1, static_cast<int>(canvas.scale.factor));
+        const int thickness = canvas.scale.line();
         line.top += (area.bottom - area.top - thickness) / 2;
         line.bottom = line.top + thickness;
         fillRect(canvas.surface, line, mix(plain, palette.text, 0.22));
@@ -133,9 +133,15 @@ void ListRows::draw(const Canvas& canvas, const RECT& area, int hot, int chosen,
     RECT clip{};
     if (!IntersectRect(&clip, &outer, &area)) return;
     canvas.surface.setClip(clip);
+    const int whole = topOf(count(), canvas.scale);
+    const int seen = static_cast<int>(area.bottom - area.top);
+    const int bar = canvas.scale.toPixels(kBar);
+    const int gap = canvas.scale.toPixels(2);
+    RECT rows = area;
+    if (whole > seen) rows.right -= bar + 2 * gap;
     const bool marks = hasMarks();
     for (int entry = 0; entry < count(); ++entry) {
-        const RECT row = rowOf(entry, area, canvas.scale);
+        const RECT row = rowOf(entry, rows, canvas.scale);
         if (row.bottom <= clip.top || row.top >= clip.bottom) continue;
         const RowState state = entry == chosen ? RowState::Chosen
                                : entry == hot  ? RowState::Hot
@@ -143,17 +149,13 @@ void ListRows::draw(const Canvas& canvas, const RECT& area, int hot, int chosen,
         NRDMListViewEntry(view_.entries[static_cast<std::size_t>(entry)])
             .draw(canvas, row, style_, state, plain, marks, enabled);
     }
-    const int whole = topOf(count(), canvas.scale);
-    const int seen = static_cast<int>(area.bottom - area.top);
     if (whole > seen) {
-        const int width = canvas.scale.toPixels(kBar);
-        const int gap = canvas.scale.toPixels(2);
         const double length = static_cast<double>(seen) * seen / whole;
         const double top = area.top + static_cast<double>(scrolled_) * seen / whole;
         fillRound(canvas.surface,
-                  {static_cast<double>(area.right - width - gap), top + gap,
+                  {static_cast<double>(area.right - bar - gap), top + gap,
                    static_cast<double>(area.right - gap), top + length - gap},
-                  width / 2.0, mix(plain, canvas.palette.text, 0.4));
+                  bar / 2.0, mix(plain, canvas.palette.text, enabled ? 0.4 : 0.2));
     }
     canvas.surface.setClip(outer);
 }

@@ -34,7 +34,9 @@ protected:
 
     LRESULT serve(UINT message, WPARAM wide, LPARAM lengthy) override;
     void failed() noexcept override { dialog_.failed(); }
-    [[nodiscard]] Scale scale() const override { return dialog_.scale(); }
+    [[nodiscard]] Scale scale() const override {
+        return {dialog_.scale().factor, view_.bounds.top};
+    }
 
     /// A key that the control has a use for itself; true when it had.
     virtual bool key(WPARAM) { return false; }

@@ -36,7 +36,7 @@ double brightness(Colour colour) {
 
 Palette::Palette(const Theme& theme)
     : dark(theme.dark), background(toColour(theme.background)), text(toColour(theme.text)),
-      dimText(mix(background, text, dark ? 0.42 : 0.45)),
+      dimText(mix(background, text, dark ? 0.52 : 0.48)),
       accent(isGrey(toColour(theme.focusRing)) ? kBlue : toColour(theme.focusRing)),
       onAccent(brightness(accent) > 170 ? kBlack : kWhite), field(toColour(theme.editBackground)),
       fieldText(toColour(theme.editText)),

@@ -5,12 +5,14 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace NRDM {
 
 struct Scale {
     double factor = 1.0;
+    int top = 0; ///< of the window in its dialog, in units: heights inside count from the dialog's
 
     [[nodiscard]] int toPixels(double units) const {
         return static_cast<int>(std::lround(units * factor));
@@ -18,6 +20,15 @@ struct Scale {
     [[nodiscard]] int toUnits(int pixels) const {
         return static_cast<int>(std::lround(pixels / factor));
     }
+
+    /// The pixels between the window's top and a height `units` below it, rounded where the dialog
+    /// counts from: heights that agree in units agree in pixels, whichever window they are in.
+    [[nodiscard]] int heightToPixels(int units) const {
+        return toPixels(top + units) - toPixels(top);
+    }
+
+    /// The thickness of a line of the interface: one pixel up to 1.5x, two at 2x.
+    [[nodiscard]] int line() const { return std::max(1, static_cast<int>(factor)); }
 
     /// Corners are scaled, not sizes, so that neighbours stay neighbours.
     [[nodiscard]] RECT toPixels(const RECT& units) const {

@@ -34,12 +34,12 @@ constexpr StyleRow kStyles[] = {
 /// A font, and a context to measure with when there are no pixels to draw on.
 class Face {
 public:
-    Face(TextStyle style, Scale scale)
-        : font_(style.fixedWidth ? kFixedFamily : kFamily,
-                static_cast<Gdiplus::REAL>(style.size * scale.factor),
+    Face(TextStyle style, int pixels)
+        : font_(style.fixedWidth ? kFixedFamily : kFamily, static_cast<Gdiplus::REAL>(pixels),
                 (style.bold ? Gdiplus::FontStyleBold : 0) |
                     (style.italic ? Gdiplus::FontStyleItalic : 0),
                 Gdiplus::UnitPixel) {}
+    Face(TextStyle style, Scale scale) : Face(style, fontPixels(style, scale)) {}
 
     [[nodiscard]] const Gdiplus::Font& font() const { return font_; }
 
@@ -124,16 +124,15 @@ std::wstring shortened(const std::wstring& text, double room, const Face& face, 
     return {};
 }
 
-/// The largest of a few sizes in which `text` is no wider than `room`, or the smallest of them.
-TextStyle fitting(std::wstring_view text, TextStyle style, Scale scale, double room) {
-    constexpr int kSteps = 4;
+/// The largest size in which `text` is no wider than `room`, or the smallest allowed, in pixels.
+int fittingPixels(std::wstring_view text, TextStyle style, Scale scale, double room) {
+    const int largest = fontPixels(style, scale);
+    const int smallest = largest - largest / 8;
     const Ruler ruler;
-    TextStyle smaller = style;
-    for (int step = 0; step <= kSteps; ++step) {
-        smaller.size = style.size * (1.0 - step / 32.0);
-        if (ruler.width(text, Face(smaller, scale)) <= room) break;
-    }
-    return smaller;
+    int pixels = largest;
+    while (pixels > smallest && ruler.width(text, Face(style, pixels)) > room)
+        --pixels;
+    return pixels;
 }
 
 } // namespace
@@ -178,6 +177,11 @@ std::string toUtf8(std::wstring_view text) {
     return utf8;
 }
 
+int fontPixels(TextStyle style, Scale scale) {
+    constexpr double kJustBelow = 1e-6; // a product that is whole but for its rounding
+    return static_cast<int>(std::floor(style.size * scale.factor + kJustBelow));
+}
+
 LineMetrics lineMetrics(TextStyle style, Scale scale) { return Face(style, scale).metrics(); }
 
 double textWidth(std::wstring_view text, TextStyle style, Scale scale) {
@@ -191,7 +195,7 @@ int wrappedHeight(std::wstring_view text, TextStyle style, Scale scale, int widt
 int baselineOf(int top, int bottom, TextStyle style, Scale scale) {
     // Rounded in units: neighbours whose middles are half a unit apart would part at other scales.
     const int capital = static_cast<int>(std::lround(lineMetrics(style, {1.0}).capHeight));
-    return top + scale.toPixels((scale.toUnits(bottom - top) + capital + 1) / 2);
+    return top + scale.heightToPixels((scale.toUnits(bottom - top) + capital + 1) / 2);
 }
 
 void drawLine(Surface& surface, const RECT& place, const TextLine& line) {
@@ -199,7 +203,8 @@ void drawLine(Surface& surface, const RECT& place, const TextLine& line) {
     const double room = place.right - place.left + 0.5; // measured widths end between pixels
     const auto& [caption, style, scale, colour, justify, overflow, showAccessKey] = line;
     const bool shrinks = overflow == Overflow::Shrink;
-    const Face face(shrinks ? fitting(caption.text, style, scale, room) : style, scale);
+    const Face face(style, shrinks ? fittingPixels(caption.text, style, scale, room)
+                                   : fontPixels(style, scale));
     const Ruler ruler;
     double width = ruler.width(caption.text, face);
     std::wstring text = caption.text;
@@ -223,7 +228,7 @@ void drawLine(Surface& surface, const RECT& place, const TextLine& line) {
         const double left = x + ruler.width(text.substr(0, index), face);
         const double right = x + ruler.width(text.substr(0, index + 1), face);
         const Gdiplus::SolidBrush brush(toGdiPlus(colour));
-        const int thickness = std::max(1, scale.toPixels(1));
+        const int thickness = scale.line();
         graphics.FillRectangle(&brush, static_cast<INT>(std::lround(left)), baseline + thickness,
                                static_cast<INT>(std::lround(right - left)), thickness);
     }
@@ -255,7 +260,7 @@ void drawAt(Surface& surface, double x, double baseline, std::wstring_view text,
 }
 
 HFONT makeGdiFont(TextStyle style, Scale scale) {
-    return CreateFontW(-scale.toPixels(style.size), 0, 0, 0, style.bold ? FW_BOLD : FW_NORMAL,
+    return CreateFontW(-fontPixels(style, scale), 0, 0, 0, style.bold ? FW_BOLD : FW_NORMAL,
                        style.italic ? TRUE : FALSE, FALSE, FALSE, DEFAULT_CHARSET,
                        OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, CLEARTYPE_QUALITY,
                        DEFAULT_PITCH | FF_DONTCARE, style.fixedWidth ? kFixedFamily : kFamily);

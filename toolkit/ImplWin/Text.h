@@ -23,6 +23,10 @@ struct TextStyle {
 /// in a panel, as does any number unknown.
 [[nodiscard]] TextStyle textStyleOf(int font, bool inPanel);
 
+/// The size of the letters, in pixels: whole, since fonts are hinted for whole sizes, and rounded
+/// down, so that a text that fits its item at 1x fits it at every scale.
+[[nodiscard]] int fontPixels(TextStyle style, Scale scale);
+
 /// A text and the letter that Alt chooses it with.
 struct Caption {
     std::wstring text;  ///< without marks; "&&" is one ampersand

@@ -1,5 +1,6 @@
 /// What can be said of the look of controls without looking.
 
+#include "toolkit/ImplWin/CoADMDrawer.h"
 #include "toolkit/ImplWin/NRDMSlider.h"
 #include "toolkit/ImplWin/Palette.h"
 #include "toolkit/ImplWin/Shapes.h"
@@ -66,7 +67,7 @@ TEST_CASE("text can be read on every part, at each of the host's brightnesses") 
         CHECK(contrast(palette.text, palette.tip) >= 4.5);
         CHECK(contrast(palette.fieldText, palette.field) >= 4.5);
         CHECK(contrast(palette.onAccent, palette.accent) >= 3.0);
-        CHECK(contrast(palette.dimText, palette.background) >= 1.7); // dim, yet there
+        CHECK(contrast(palette.dimText, palette.background) >= 2.2); // dim, yet there
         CHECK(contrast(palette.dimText, palette.background) <
               contrast(palette.text, palette.background) / 1.5);
     }
@@ -163,9 +164,31 @@ TEST_CASE("fields and labels beside each other share a baseline") {
     for (const double factor : {1.0, 1.5, 2.0}) {
         CAPTURE(factor);
         const Scale scale{factor};
-        // The panel's: a label at 94 to 108 beside a field at 91 to 110.
-        const int label = scale.toPixels(94) + baselineOf(0, scale.toPixels(14), style, scale);
-        const int field = scale.toPixels(91) + baselineOf(0, scale.toPixels(19), style, scale);
-        CHECK(label == field);
+        for (const int top : {91, 92, 119, 120}) { // odd and even, which round differently
+            CAPTURE(top);
+            const auto baseline = [&](int from, int to) {
+                const Scale inWindow{factor, from};
+                return scale.toPixels(from) +
+                       baselineOf(0, scale.toPixels(to) - scale.toPixels(from), style, inWindow);
+            };
+            const int label = baseline(top + 3, top + 17);
+            const int field = baseline(top, top + 19);
+            CHECK(label == field);
+            CHECK(baseline(top - 1, top + 20) == field); // a button
+        }
+    }
+}
+
+TEST_CASE("a drawer's straight lines are sharp at every scale") {
+    const Theme theme = themeOf(0.94F);
+    Screen screen(theme, [](int, PictureDensity) { return std::span<const std::byte>(); });
+    for (const auto& [factor, thickness] : {std::pair{1.0, 1}, {1.5, 1}, {2.0, 2}}) {
+        CAPTURE(factor);
+        Surface surface({64, 64});
+        CoADMDrawer drawer(screen, surface, Scale{factor}, false);
+        drawer.setColour(kWhite);
+        drawer.drawLine({3, 5}, {12, 5});
+        drawer.drawLine({5, 9}, {5, 18}); // ends included
+        CHECK(whiteOn(surface) == 2 * thickness * 10 * factor);
     }
 }
