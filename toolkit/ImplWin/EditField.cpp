@@ -37,13 +37,31 @@ DWORD justifyStyle(int justify) {
 
 } // namespace
 
-void EditField::open(HWND parent, int maximumLength, int justify) {
+void EditField::open(HWND parent, int justify) {
     Plan plan;
     plan.systemClass = L"EDIT";
     plan.style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL | justifyStyle(justify);
     plan.parent = parent;
     create(plan);
-    SendMessageW(handle(), EM_LIMITTEXT, static_cast<WPARAM>(maximumLength), 0);
+    justify_ = justify;
+}
+
+/// It takes another edit: Windows knows no way to change that of one that there is.
+void EditField::setJustify(int justify) {
+    if (justify == justify_) return;
+    const HWND parent = GetParent(handle());
+    const std::wstring kept = text();
+    const bool focused = GetFocus() == handle();
+    const bool enabled = IsWindowEnabled(handle()) != FALSE;
+    destroy();
+    open(parent, justify);
+    EnableWindow(handle(), enabled);
+    setText(kept);
+    if (focused) SetFocus(handle());
+}
+
+void EditField::setMaximumLength(int characters) const {
+    SendMessageW(handle(), EM_LIMITTEXT, static_cast<WPARAM>(characters), 0);
 }
 
 std::wstring EditField::text() const {

@@ -31,7 +31,11 @@ public:
     EditField(Screen& screen, EditFieldOwner& owner) : HWNDBased(screen), owner_(owner) {}
 
     /// Throws `NRDMResourceException`.
-    void open(HWND parent, int maximumLength, int justify);
+    void open(HWND parent, int justify);
+
+    /// ADM's numbers. Text and focus stay. Throws `NRDMResourceException`.
+    void setJustify(int justify);
+    void setMaximumLength(int characters) const;
 
     [[nodiscard]] std::wstring text() const;
     /// Tells nobody.
@@ -63,6 +67,7 @@ private:
     LRESULT serveSilently(UINT message, WPARAM wide, LPARAM lengthy);
 
     EditFieldOwner& owner_;
+    int justify_ = 0;
     TextStyle style_;
     Scale scale_;
     ai::Owned<GdiObjectTraits<HFONT>> font_;

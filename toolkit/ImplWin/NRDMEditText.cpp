@@ -23,7 +23,8 @@ bool held(int key) { return GetKeyState(key) < 0; }
 NRDMEditText::NRDMEditText(NativeDialog& dialog, const ItemView& view, ItemEvents& events)
     : NativeItem(dialog, view, events), field_(dialog.screen(), *this) {
     createItem(nullptr, WS_CLIPCHILDREN);
-    field_.open(handle(), view.maximumLength, view.justify);
+    field_.open(handle(), view.justify);
+    field_.setMaximumLength(view.maximumLength);
     EnableWindow(field_.handle(), view.enabled);
     field_.setFont(textStyle(), scale());
     arrange();
@@ -93,6 +94,10 @@ void NRDMEditText::showText() {
 void NRDMEditText::changed(Aspect aspects) {
     if (has(aspects, Aspect::Text | Aspect::Value)) showText();
     if (has(aspects, Aspect::Enabled)) EnableWindow(field_.handle(), view().enabled);
+    if (has(aspects, Aspect::Look)) {
+        field_.setJustify(view().justify);
+        field_.setMaximumLength(view().maximumLength);
+    }
     if (has(aspects, Aspect::Look | Aspect::Bounds)) field_.setFont(textStyle(), scale());
     // A new text is the field's to show: what is around it stays as it is.
     constexpr auto kAround =

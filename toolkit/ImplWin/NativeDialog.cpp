@@ -60,6 +60,7 @@ void NativeDialog::createWindow() {
     plan.parent = static_cast<HWND>(view_.parent);
     create(plan);
     if (view_.visible) ShowWindow(handle(), SW_SHOWNA);
+    placed_ = inPanel() || view_.visible;
 }
 
 /// A panel fills the corner of its host's window; anything else stands in the middle of its owner,
@@ -95,12 +96,14 @@ void NativeDialog::changed() {
     if (area.right != scale_.toPixels(view_.size.width) ||
         area.bottom != scale_.toPixels(view_.size.height)) {
         changing_ = true;
-        SetWindowPos(handle(), nullptr, 0, 0, wanted.right - wanted.left,
-                     wanted.bottom - wanted.top, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        SetWindowPos(handle(), nullptr, wanted.left, wanted.top, wanted.right - wanted.left,
+                     wanted.bottom - wanted.top,
+                     (placed_ ? SWP_NOMOVE : 0U) | SWP_NOZORDER | SWP_NOACTIVATE);
         changing_ = false;
     }
     if (view_.visible != (IsWindowVisible(handle()) != FALSE))
         ShowWindow(handle(), view_.visible ? SW_SHOWNA : SW_HIDE);
+    placed_ = placed_ || view_.visible;
 }
 
 void NativeDialog::invalidate(const Bounds& area) {
@@ -141,6 +144,7 @@ void NativeDialog::moveTo(Place corner) {
     GetWindowRect(handle(), &place);
     SetWindowPos(handle(), nullptr, place.left + corner.x - now.x, place.top + corner.y - now.y, 0,
                  0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    placed_ = true;
 }
 
 void NativeDialog::runModal() {
@@ -159,6 +163,7 @@ void NativeDialog::runModal() {
     {
         const DisabledOwner disabled(GetWindow(handle(), GW_OWNER));
         running_ = true;
+        placed_ = true;
         ShowWindow(handle(), SW_SHOW);
         SetActiveWindow(handle());
         MSG message;

@@ -70,6 +70,7 @@ private:
     HWND focused_ = nullptr; ///< the item that gets the focus back with the activation
     bool keyboardCues_;
     bool running_ = false;  ///< `runModal` serves events
+    bool placed_ = false;   ///< where it is counts; until then it keeps to the middle
     bool changing_ = false; ///< the size is set by the model, which need not be told
     std::exception_ptr failure_;
 };

@@ -157,6 +157,26 @@ TEST_CASE("a field that was refused when the focus left gets it back") {
     CHECK(GetFocus() == field.field());
 }
 
+TEST_CASE("a field that is justified anew keeps its text and the focus") {
+    Stage stage;
+    StagedItem& item = stage.add(itemView(ControlKind::Edit, {20, 20, 120, 42}, "5"));
+    stage.open();
+    item.peer->focus();
+    stage.pump();
+    const auto leftOfText = [&] {
+        return static_cast<short>(LOWORD(SendMessageW(item.field(), EM_POSFROMCHAR, 0, 0)));
+    };
+    const int before = leftOfText();
+    item.view.justify = 2;
+    item.peer->changed(Aspect::Look);
+    stage.pump();
+    CHECK(leftOfText() > before + 50);
+    CHECK(GetFocus() == item.field());
+    stage.log.clear();
+    stage.type(L"7");
+    CHECK(stage.log == Log{"typed 75"});
+}
+
 TEST_CASE("keys and the wheel step a number") {
     struct Row {
         WORD modifier;

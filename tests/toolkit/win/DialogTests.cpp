@@ -5,6 +5,7 @@
 #include <doctest/doctest.h>
 
 #include <chrono>
+#include <cstdlib>
 #include <stdexcept>
 #include <thread>
 
@@ -91,6 +92,28 @@ TEST_CASE("a modal dialog keeps its owner disabled until it is ended") {
     }
     CHECK(IsWindowEnabled(owner.window) != FALSE);
     CHECK(IsWindowVisible(stage.window()) == FALSE);
+}
+
+TEST_CASE("a dialog keeps to the middle of the screen until it has been shown") {
+    Stage stage;
+    stage.peer = stage.peers.createDialog(stage.view, stage);
+    const auto middle = [&] {
+        RECT place{};
+        GetWindowRect(stage.window(), &place);
+        return POINT{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+    };
+    const auto grow = [&] {
+        stage.view.size = {stage.view.size.width + 200, stage.view.size.height + 100};
+        stage.peer->changed();
+    };
+    const POINT first = middle();
+    grow();
+    CHECK(std::abs(middle().x - first.x) <= 1);
+    CHECK(std::abs(middle().y - first.y) <= 1);
+    stage.view.visible = true;
+    stage.peer->changed();
+    grow();
+    CHECK(middle().x == first.x + 100); // the corner stays where the user has seen it
 }
 
 TEST_CASE("a dialog that is open follows the host's brightness") {
