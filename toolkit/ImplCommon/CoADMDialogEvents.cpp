@@ -141,7 +141,7 @@ void CoADMDialog::activateNeighbour(const CoADMItem& label) {
 
 void CoADMDialog::closeRequested() {
     const auto self = shared_from_this();
-    if (!isModal()) return show(false);
+    if (!isRunning()) return show(false);
     if (CoADMItem* const button = pushButton(cancelId_))
         button->clicked();
     else

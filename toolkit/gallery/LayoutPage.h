@@ -1,6 +1,7 @@
 #pragma once
 
-#include "toolkit/gallery/Exhibit.h"
+#include "toolkit/ImplCommon/Dialogs.h"
+#include "toolkit/gallery/Page.h"
 #include "toolkit/layout/Layout.h"
 
 #include <string>
@@ -12,8 +13,8 @@ namespace NRDM::gallery {
 [[nodiscard]] std::unique_ptr<Page> mistakesPage(const std::string& title, const std::string& text,
                                                  const layout::Messages& messages);
 
-/// The dialog that `layout` describes, its items placed as they are in the product. Throws
-/// `layout::Error` when it does not fit into windows.
-[[nodiscard]] std::unique_ptr<Page> layoutPage(const layout::Layout& layout, const Peers& peers);
+/// The dialog that `layout` describes, as the product makes it; what its owner would draw is
+/// outlined. Throws `layout::Error` when it does not fit into windows.
+[[nodiscard]] std::unique_ptr<Page> layoutPage(const layout::Layout& layout, Dialogs& dialogs);
 
 } // namespace NRDM::gallery

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "toolkit/gallery/Exhibit.h"
+#include "toolkit/gallery/Page.h"
 
-#include <functional>
 #include <span>
 
 namespace NRDM::gallery {
