@@ -439,7 +439,13 @@ Check readPictureLike(Arguments& arguments) {
     const std::string name = arguments.text("file");
     const double scale = arguments.take("scale") ? arguments.number("scale") : 1.0;
     if (!arguments.take("within")) throw Mistake("there is no tolerance");
-    const double percent = arguments.number("tolerance");
+    double percent = arguments.number("tolerance");
+    if (arguments.take("or")) {
+        const double there = arguments.number("tolerance");
+        if (!arguments.take("on") || !arguments.take("windows"))
+            throw Mistake("a second tolerance ends with \"on windows\"");
+        if (onWindows()) percent = there;
+    }
     return [=](Player& player) -> Finding {
         const paint::Picture reference = readReference(player.input(name));
         const double differing = 100 * paint::difference(player.picture(scale), reference);
@@ -480,9 +486,9 @@ constexpr ExpectationRow kExpectations[] = {
      "a number of the information display", readInfo},
     {"preference", "PREFIX NAME on|off|NUMBER [within T]", "a stored setting", readPreferenceValue},
     {"alert", "none|TEXT", "the oldest message box not yet expected", readAlert},
-    {"picture", "FILE [scale N] within PERCENT",
+    {"picture", "FILE [scale N] within PERCENT [or PERCENT on windows]",
      "the window like the PNG FILE, which lies where the script does, but for that many of its "
-     "pixels",
+     "pixels; letters differ from system to system",
      readPictureLike},
 };
 

@@ -34,6 +34,8 @@ void Player::start() {
     addPluginLibrary(session_->host, settings_.plugin);
     session_->host.annotators.textWidth = paint::annotationWidth; // as it will be painted
     session_->start();
+    for (const auto& [handle, plugin] : session_->host.plugins)
+        if (plugin->library) takeOverClock(plugin->library->native());
     started_ = true;
 }
 

@@ -20,7 +20,11 @@ Simulated& simulated() {
 
 } // namespace
 
+bool onWindows() { return false; }
+
 void holdKeys(const HeldKeys& keys) { simulated().keys = keys; }
+
+void takeOverClock(SPPlatformAccessRef) {} // a library asks `headlessTicks`
 
 void letTimePass(std::int64_t milliseconds) {
     simulated().ticks += static_cast<std::uint64_t>(milliseconds);

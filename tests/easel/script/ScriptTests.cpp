@@ -53,6 +53,7 @@ TEST_CASE("every mistake of a script is told, with its line and what would be ri
         {"expect axes 0", "0 is no number of axes"},
         {"expect axes 3 at 5", "\"at\" does not belong here"},
         {"expect picture a.png", "there is no tolerance"},
+        {"expect picture a.png within 1 or 2", "a second tolerance ends with \"on windows\""},
     };
     std::string text;
     for (const Row& row : rows)

@@ -80,3 +80,17 @@ TEST_CASE("no lines, no axes; no triangles, no first axis") {
     REQUIRE(axes);
     CHECK_FALSE(axes->angleDegrees);
 }
+
+TEST_CASE("a broader line below an axis is no axis of its own") {
+    const DisplayList axes = drawnAxes(5, 12, 640, 400);
+    DisplayList list;
+    for (const DrawCommand& command : axes) {
+        if (command.kind != Kind::Line) continue;
+        list.push_back(command);
+        list.back().style.lineWidth = 3;
+    }
+    list.insert(list.end(), axes.begin(), axes.end());
+    const auto found = shownAxes(list);
+    REQUIRE(found);
+    CHECK(found->count == 5);
+}
