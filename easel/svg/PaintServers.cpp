@@ -84,16 +84,16 @@ bool isGenerated(const XmlTree& tree, NodeIndex node) {
            element.parent == tree.root() && Element{tree, node}.isTrue("easel:generated");
 }
 
-bool isDerived(const XmlTree& tree, const Element& element) {
+bool isDerived(const XmlTree& tree, NodeIndex node) {
+    const auto standsAmongGenerated = [&](NodeIndex element) {
+        const NodeIndex parent = tree.at(element).parent;
+        return parent != kNoNode && isGenerated(tree, parent);
+    };
+    if (tree.at(node).kind != XmlTree::Kind::Element || !standsAmongGenerated(node)) return false;
+    const Element element{tree, node};
     if (!element.isTrue("easel:derived")) return false;
     const NodeIndex source = tree.find(element.get("easel:source"));
-    return source != kNoNode && !Element{tree, source}.isTrue("easel:derived");
-}
-
-bool isMadeAnew(const XmlTree& tree, NodeIndex node) {
-    const NodeIndex parent = tree.at(node).parent;
-    return parent != kNoNode && isGenerated(tree, parent) &&
-           tree.at(node).kind == XmlTree::Kind::Element && isDerived(tree, Element{tree, node});
+    return source != kNoNode && !standsAmongGenerated(source);
 }
 
 std::vector<Element> referenceChain(const XmlTree& tree, NodeIndex node) {

@@ -140,7 +140,7 @@ ArtBuilder::serverFor(const std::string& id, const Context& context, const Outli
         return ServerUse{&definition(Definition::Kind::Gradient, id, nullptr, {}), unplaced};
     const Element element{state_.tree, node};
     state_.countReference(element);
-    if (isDerived(state_.tree, element)) return derivedUse(element, context, outline);
+    if (isDerived(state_.tree, node)) return derivedUse(element, context, outline);
     const Box bounds = boundsOf(outline);
     if (element.name() == "pattern") return patternUse(element, nullptr, context, bounds);
     const auto gradient = gradientContent(state_, node, context.viewport);

@@ -118,10 +118,9 @@ private:
             else
                 target += ' ' + std::string{attribute.source};
         }
-        for (const std::string& id : state_.tree.idsBeginningWith(kOwnIds)) {
-            const NodeIndex node = state_.tree.find(id);
+        for (const auto& [id, node] : state_.tree.idsBeginningWith(kOwnIds)) {
             const bool givenByUs =
-                isMadeAnew(state_.tree, node) || Element{state_.tree, node}.isTrue("easel:clip");
+                isDerived(state_.tree, node) || Element{state_.tree, node}.isTrue("easel:clip");
             if (!givenByUs) source_->reservedIds.push_back(id);
         }
     }
