@@ -62,9 +62,10 @@ private:
     Viewport whole_;
 };
 
+/// What is no transform, or beyond all drawings, changes nothing.
 Matrix transformOf(const std::vector<Element>& chain, std::string_view attribute) {
-    const std::string text = attributeInChain(chain, attribute);
-    return parseTransform(text).value_or(Matrix{});
+    const auto transform = parseTransform(attributeInChain(chain, attribute));
+    return transform && isWithin(kLargestCoordinate, *transform) ? *transform : Matrix{};
 }
 
 /// A focus outside the circle is brought inside, as SVG has it.
