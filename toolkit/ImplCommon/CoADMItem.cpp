@@ -129,6 +129,7 @@ void CoADMItem::setKnown(bool known) {
 }
 
 void CoADMItem::setText(std::string text) {
+    const bool shown = view_.known && !typed_ && view_.text == text;
     typed_.reset();
     if (numeric_) {
         // A text that is no number leaves the number as it is.
@@ -136,6 +137,7 @@ void CoADMItem::setText(std::string text) {
             setValue(static_cast<float>(*value));
         return;
     }
+    if (shown) return;
     view_.text = std::move(text);
     view_.known = true;
     changed(Aspect::Text);
@@ -171,13 +173,16 @@ void CoADMItem::setForm(const NumberForm& form) {
 
 void CoADMItem::setValue(float value) {
     value_ = std::min(std::max(requireNumber(value), lowest_), highest_);
+    const bool shown = view_.known && !typed_ && view_.value == value_;
+    const std::string shownText = view_.text;
     view_.known = true;
     typed_.reset();
     makeNumeric();
     if (kind() == ControlKind::RadioButton && isOn()) switchOthersOff();
     refreshValue();
     refreshText();
-    changed(Aspect::Text | Aspect::Value);
+    // Panels set all their values whenever one may have changed: most need no painting.
+    if (!shown || view_.text != shownText) changed(Aspect::Text | Aspect::Value);
 }
 
 void CoADMItem::setLowest(float lowest) {

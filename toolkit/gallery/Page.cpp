@@ -115,7 +115,8 @@ void Exhibit::strike() const {
 }
 
 Page::Page(const char* title, Extent size, Fonts fonts)
-    : dialog_(suites_.dialog->Create(nullptr, title, 0, kADMModalDialogStyle, nullptr, nullptr, 0)) {
+    : dialog_(
+          suites_.dialog->Create(nullptr, title, 0, kADMModalDialogStyle, nullptr, nullptr, 0)) {
     if (fonts == Fonts::OfPalettes) suites_.dialog->SetFont(dialog_, kADMPaletteFont);
     suites_.dialog->Size(dialog_, size.width, size.height);
 }
