@@ -101,8 +101,10 @@ Context ArtBuilder::contextOf(const Element& element, const Context& parent) {
         }
         context.matrix = parent.matrix * *matrix;
     }
-    if (!isWithin(kLargestCoordinate, context.matrix))
-        element.fail("the transforms here lead beyond 1e9 user units; make them smaller");
+    for (const double entry : {context.matrix.a, context.matrix.b, context.matrix.c,
+                               context.matrix.d, context.matrix.e, context.matrix.f})
+        if (!(std::abs(entry) <= kLargestCoordinate))
+            element.fail("the transforms here lead beyond 1e9 user units; make them smaller");
     return context;
 }
 

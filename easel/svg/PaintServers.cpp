@@ -62,10 +62,9 @@ private:
     Viewport whole_;
 };
 
-/// What is no transform, or beyond all drawings, changes nothing.
 Matrix transformOf(const std::vector<Element>& chain, std::string_view attribute) {
-    const auto transform = parseTransform(attributeInChain(chain, attribute));
-    return transform && isWithin(kLargestCoordinate, *transform) ? *transform : Matrix{};
+    const std::string text = attributeInChain(chain, attribute);
+    return parseTransform(text).value_or(Matrix{});
 }
 
 /// A focus outside the circle is brought inside, as SVG has it.
@@ -85,16 +84,16 @@ bool isGenerated(const XmlTree& tree, NodeIndex node) {
            element.parent == tree.root() && Element{tree, node}.isTrue("easel:generated");
 }
 
-bool isDerived(const XmlTree& tree, NodeIndex node) {
-    const auto standsAmongGenerated = [&](NodeIndex element) {
-        const NodeIndex parent = tree.at(element).parent;
-        return parent != kNoNode && isGenerated(tree, parent);
-    };
-    if (tree.at(node).kind != XmlTree::Kind::Element || !standsAmongGenerated(node)) return false;
-    const Element element{tree, node};
+bool isDerived(const XmlTree& tree, const Element& element) {
     if (!element.isTrue("easel:derived")) return false;
     const NodeIndex source = tree.find(element.get("easel:source"));
-    return source != kNoNode && !standsAmongGenerated(source);
+    return source != kNoNode && !Element{tree, source}.isTrue("easel:derived");
+}
+
+bool isMadeAnew(const XmlTree& tree, NodeIndex node) {
+    const NodeIndex parent = tree.at(node).parent;
+    return parent != kNoNode && isGenerated(tree, parent) &&
+           tree.at(node).kind == XmlTree::Kind::Element && isDerived(tree, Element{tree, node});
 }
 
 std::vector<Element> referenceChain(const XmlTree& tree, NodeIndex node) {

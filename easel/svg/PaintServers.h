@@ -7,11 +7,13 @@ namespace easel::svg {
 /// Is this a <defs> that holds what saving a drawing makes anew?
 [[nodiscard]] bool isGenerated(const XmlTree& tree, NodeIndex node);
 
-/// Is this a gradient or pattern put in its place for one shape, as saving made it among the
-/// generated definitions? It says where it comes from, and its source stands elsewhere. It is made
-/// anew whenever the drawing is saved and need not be kept; what others have put beside it, or
-/// changed past recognition, is like any other element.
-[[nodiscard]] bool isDerived(const XmlTree& tree, NodeIndex node);
+/// Is this element, as saving made it, a gradient or pattern put in its place for one shape, which
+/// says where it comes from? Its source is in the drawing and no such element itself.
+[[nodiscard]] bool isDerived(const XmlTree& tree, const Element& element);
+
+/// Is the element made anew whenever the drawing is saved, so that it need not be kept? What others
+/// have put among the generated definitions, or changed past recognition, is not.
+[[nodiscard]] bool isMadeAnew(const XmlTree& tree, NodeIndex node);
 
 /// The element, then those that it refers to for what it does not say itself, in that order.
 [[nodiscard]] std::vector<Element> referenceChain(const XmlTree& tree, NodeIndex node);

@@ -34,7 +34,7 @@ void PendingInterludes::addForeign(const XmlTree& tree, NodeIndex generated) {
     std::string kept;
     for (NodeIndex node = tree.at(generated).firstChild; node != kNoNode;
          node = tree.at(node).nextSibling)
-        if (tree.at(node).kind != XmlTree::Kind::Text && !isDerived(tree, node))
+        if (tree.at(node).kind != XmlTree::Kind::Text && !isMadeAnew(tree, node))
             kept += tree.source(node);
     if (!kept.empty()) pending_.push_back({"<defs>" + kept + "</defs>", nullptr, generated, true});
 }

@@ -5,7 +5,6 @@
 #include "easel/svg/ViewBox.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace easel::svg {
 namespace {
@@ -41,21 +40,13 @@ std::shared_ptr<const StyleExtras> extrasOf(const Style& style) {
     return extras;
 }
 
-/// The largest of the host's reals.
-constexpr double kLargestReal = std::numeric_limits<AIReal>::max();
-
-/// The matrix that we wrote beside a derived transform; nothing when it is none.
-std::optional<AIRealMatrix> writtenMatrix(const Element& derived) {
-    const NumberList list = parseNumbers(derived.get("easel:matrix"));
-    const std::vector<double>& n = list.numbers;
-    if (n.size() != 6 || !isWithin(kLargestReal, {n[0], n[1], n[2], n[3], n[4], n[5]}))
-        return std::nullopt;
-    return AIRealMatrix{narrowed(n[0]), narrowed(n[1]), narrowed(n[2]),
-                        narrowed(n[3]), narrowed(n[4]), narrowed(n[5])};
+AIRealMatrix floatMatrix(const std::vector<double>& n) {
+    return {narrowed(n[0]), narrowed(n[1]), narrowed(n[2]),
+            narrowed(n[3]), narrowed(n[4]), narrowed(n[5])};
 }
 
 /// The matrix that we wrote, unless another program has since moved the gradient or the shape: what
-/// others understand has the last word, as far as the host's reals can say it.
+/// others understand has the last word.
 AIRealMatrix derivedMatrix(const Element& derived, const Definition& definition,
                            const AIRealMatrix& written, const Matrix& shape, Point offset) {
     const std::string transform =
@@ -67,8 +58,7 @@ AIRealMatrix derivedMatrix(const Element& derived, const Definition& definition,
     const auto own = inverse(derivedTransform(definition, toSoft(Matrix{}, offset), offset));
     const auto moved = parseTransform(transform);
     if (!asWritten && own && moved) matrix = *moved * *own;
-    matrix = shape * matrix;
-    return isWithin(kLargestReal, matrix) ? toSoft(matrix, offset) : written;
+    return toSoft(shape * matrix, offset);
 }
 
 Matrix boundsMatrix(const Box& bounds) {
@@ -150,7 +140,7 @@ ArtBuilder::serverFor(const std::string& id, const Context& context, const Outli
         return ServerUse{&definition(Definition::Kind::Gradient, id, nullptr, {}), unplaced};
     const Element element{state_.tree, node};
     state_.countReference(element);
-    if (isDerived(state_.tree, node)) return derivedUse(element, context, outline);
+    if (isDerived(state_.tree, element)) return derivedUse(element, context, outline);
     const Box bounds = boundsOf(outline);
     if (element.name() == "pattern") return patternUse(element, nullptr, context, bounds);
     const auto gradient = gradientContent(state_, node, context.viewport);
@@ -176,8 +166,10 @@ ArtBuilder::ServerUse ArtBuilder::derivedUse(const Element& derived, const Conte
         use.matrix = toSoft(Matrix{}, offset_);
         if (!gradient) return use;
     }
-    if (const auto written = writtenMatrix(derived))
-        use.matrix = derivedMatrix(derived, *use.definition, *written, context.matrix, offset_);
+    const NumberList numbers = parseNumbers(derived.get("easel:matrix"));
+    if (numbers.numbers.size() == 6)
+        use.matrix = derivedMatrix(derived, *use.definition, floatMatrix(numbers.numbers),
+                                   context.matrix, offset_);
     return use;
 }
 

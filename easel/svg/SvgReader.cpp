@@ -118,9 +118,10 @@ private:
             else
                 target += ' ' + std::string{attribute.source};
         }
-        for (const auto& [id, node] : state_.tree.idsBeginningWith(kOwnIds)) {
+        for (const std::string& id : state_.tree.idsBeginningWith(kOwnIds)) {
+            const NodeIndex node = state_.tree.find(id);
             const bool givenByUs =
-                isDerived(state_.tree, node) || Element{state_.tree, node}.isTrue("easel:clip");
+                isMadeAnew(state_.tree, node) || Element{state_.tree, node}.isTrue("easel:clip");
             if (!givenByUs) source_->reservedIds.push_back(id);
         }
     }

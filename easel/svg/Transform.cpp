@@ -96,11 +96,6 @@ std::optional<Matrix> inverse(const Matrix& m) {
     return result;
 }
 
-bool isWithin(double limit, const Matrix& m) {
-    const auto holds = [&](double entry) { return std::abs(entry) <= limit; };
-    return holds(m.a) && holds(m.b) && holds(m.c) && holds(m.d) && holds(m.e) && holds(m.f);
-}
-
 double meanScale(const Matrix& m) { return std::sqrt(std::abs(m.a * m.d - m.b * m.c)); }
 
 std::optional<Matrix> parseTransform(std::string_view text) {

@@ -36,9 +36,6 @@ struct Matrix {
 /// Nothing when the matrix flattens the plane, or nearly so.
 [[nodiscard]] std::optional<Matrix> inverse(const Matrix& matrix);
 
-/// No entry is larger than `limit`, and all are numbers.
-[[nodiscard]] bool isWithin(double limit, const Matrix& matrix);
-
 /// The factor by which a length grows on the average over all directions; what a stroke that is
 /// flattened together with its path is multiplied by.
 [[nodiscard]] double meanScale(const Matrix& matrix);

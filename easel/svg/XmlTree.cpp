@@ -299,14 +299,9 @@ private:
             const std::string_view value = text_.substr(at + 1, end - at - 1);
             if (value.find('<') != std::string_view::npos)
                 fail("the value of " + std::string{name} + " holds a <; write &lt;");
-            if (name == "id") identify(index, tree_.decode(value));
+            if (name == "id") tree_.ids_.try_emplace(tree_.decode(value), index);
             at = end + 1;
         }
-    }
-
-    void identify(NodeIndex element, std::string id) {
-        if (!tree_.ids_.try_emplace(id, element).second)
-            tree_.repeatedIds_.push_back({std::move(id), element});
     }
 
     /// More are no drawing; finding a name that stands twice would take long.
@@ -362,13 +357,11 @@ NodeIndex XmlTree::find(std::string_view id) const {
     return found == ids_.end() ? kNoNode : found->second;
 }
 
-std::vector<XmlTree::Identified> XmlTree::idsBeginningWith(std::string_view prefix) const {
-    std::vector<Identified> found;
-    for (const auto& [id, element] : ids_)
-        if (id.starts_with(prefix)) found.push_back({id, element});
-    for (const Identified& repeated : repeatedIds_)
-        if (repeated.id.starts_with(prefix)) found.push_back(repeated);
-    std::ranges::sort(found, {}, &Identified::id);
+std::vector<std::string> XmlTree::idsBeginningWith(std::string_view prefix) const {
+    std::vector<std::string> found;
+    for (const auto& [id, node] : ids_)
+        if (id.starts_with(prefix)) found.push_back(id);
+    std::ranges::sort(found);
     return found;
 }
 

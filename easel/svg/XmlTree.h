@@ -81,12 +81,8 @@ public:
     /// The element with this id, the first of several; kNoNode when there is none.
     [[nodiscard]] NodeIndex find(std::string_view id) const;
 
-    struct Identified {
-        std::string id;
-        NodeIndex element;
-    };
-    /// All elements whose ids begin so, those that repeat another's id too, sorted by id.
-    [[nodiscard]] std::vector<Identified> idsBeginningWith(std::string_view prefix) const;
+    /// Sorted.
+    [[nodiscard]] std::vector<std::string> idsBeginningWith(std::string_view prefix) const;
 
     /// All text inside the node, decoded, its elements left out.
     [[nodiscard]] std::string textOf(NodeIndex node) const;
@@ -100,8 +96,7 @@ private:
     std::vector<Node> nodes_;
     NodeIndex root_ = kNoNode;
     std::size_t elementCount_ = 0;
-    std::unordered_map<std::string, NodeIndex> ids_; ///< The first element of each.
-    std::vector<Identified> repeatedIds_;
+    std::unordered_map<std::string, NodeIndex> ids_;
     std::unordered_map<std::string_view, std::string_view> entities_;
 };
 

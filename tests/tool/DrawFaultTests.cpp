@@ -1,4 +1,5 @@
 #include "tests/tool/Annotated.h"
+#include "tests/tool/FaultSweep.h"
 
 using namespace facetta;
 using namespace facetta::tests;
@@ -43,6 +44,7 @@ TEST_CASE("whichever host call fails, drawing answers its code, and the next pic
 
     std::size_t answered = 0;
     for (std::size_t call = 1; call <= names.size(); ++call) {
+        if (givesBack(names[call - 1])) continue;
         INFO(names[call - 1], ", host call ", call);
         easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::Once,
                                 .call = call,

@@ -7,6 +7,10 @@
 
 namespace facetta::tests {
 
+/// Is this a call that gives something back, or an entry by reading or storing it? When the host
+/// fails these, it is left with what it lent.
+[[nodiscard]] bool givesBack(const std::string& function);
+
 /// Something the user does, as one undo step at most, and what comes before it.
 struct FaultAction {
     const char* name;

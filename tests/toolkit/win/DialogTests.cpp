@@ -1,10 +1,9 @@
-/// Dialogs as a whole: modal loops, colours, how much is painted, and what is left behind.
+/// Dialogs as a whole: modal loops, colours, and how much is painted.
 
 #include "tests/toolkit/win/Stage.h"
 
 #include <doctest/doctest.h>
 
-#include <chrono>
 #include <cstdlib>
 #include <stdexcept>
 #include <thread>
@@ -37,20 +36,6 @@ void soon(const std::function<void()>& act) {
         const auto now = std::exchange(pending, nullptr);
         now();
     });
-}
-
-/// What this process has used so far.
-double processorMilliseconds() {
-    FILETIME created{};
-    FILETIME ended{};
-    FILETIME kernel{};
-    FILETIME user{};
-    GetProcessTimes(GetCurrentProcess(), &created, &ended, &kernel, &user);
-    const auto ticks = [](FILETIME time) {
-        return static_cast<double>(
-            ULARGE_INTEGER{{time.dwLowDateTime, time.dwHighDateTime}}.QuadPart);
-    };
-    return (ticks(kernel) + ticks(user)) / 10'000;
 }
 
 struct Owner {
@@ -163,46 +148,6 @@ TEST_CASE("what did not change is not painted") {
         stage.pump();
         CHECK(stage.paints() == 0);
     }
-}
-
-TEST_CASE("200 dialogs with every kind of item leave nothing behind") {
-    Stage stage;
-    addEveryKind(stage);
-    const auto openAndClose = [&] {
-        stage.open();
-        stage.close();
-        stage.pump();
-    };
-    openAndClose(); // what is made once and kept
-    const int gdiBefore = gdiObjects();
-    const int windowsBefore = windows();
-    REQUIRE(gdiBefore > 0);
-    for (int round = 0; round < 200; ++round)
-        openAndClose();
-    CHECK(gdiObjects() == gdiBefore);
-    CHECK(windows() == windowsBefore);
-}
-
-TEST_CASE("a dialog of 30 items opens in less than a tenth of a second") {
-    {
-        Stage first; // what only the first window costs
-        addEveryKind(first);
-        first.open();
-    }
-    Stage stage(DialogKind::Floating, {420, 420});
-    for (int i = 0; i < 30; ++i)
-        stage.add(itemView(static_cast<ControlKind>(i % 5 == 4 ? 5 : i % 5),
-                           {10 + i % 4 * 100, 10 + i / 4 * 30, 100 + i % 4 * 100, 34 + i / 4 * 30},
-                           "Item"));
-    // The processor's time is checked, because the machine may have other work, too.
-    using Clock = std::chrono::steady_clock;
-    const double workBefore = processorMilliseconds();
-    const auto begun = Clock::now();
-    stage.open();
-    const double work = processorMilliseconds() - workBefore;
-    const auto taken = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - begun);
-    MESSAGE("30 items: " << work << " ms of work in " << taken.count() << " ms");
-    CHECK(work < 100);
 }
 
 TEST_CASE("a popup menu answers with the position chosen") {

@@ -229,11 +229,10 @@ int gdiObjects() {
     constexpr int kEntries = 16384;
     struct Entry {
         std::uint64_t object;
-        std::uint16_t owner;
-        std::uint16_t unused;
-        std::uint8_t upper;
+        std::uint32_t owner;
+        std::uint16_t generation; // stays when the object has gone
         std::uint8_t type;
-        std::uint16_t flags;
+        std::uint8_t flags;
         std::uint64_t data;
     };
     static_assert(sizeof(Entry) == 24);
@@ -265,6 +264,17 @@ int windows() {
             return TRUE;
         },
         reinterpret_cast<LPARAM>(&count));
+    for (HWND window = nullptr;
+         (window = FindWindowExW(HWND_MESSAGE, window, nullptr, nullptr)) != nullptr;)
+        if (GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId()) ++count;
+    return count;
+}
+
+int menus() {
+    // A handle's low half alone names an object, too: as many names as there can be objects.
+    int count = 0;
+    for (std::uintptr_t name = 0x20; name < 0x10000; name += 2)
+        if (IsMenu(reinterpret_cast<HMENU>(name)) != FALSE) ++count;
     return count;
 }
 

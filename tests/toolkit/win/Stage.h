@@ -109,7 +109,9 @@ private:
 
 /// How many GDI objects this process has, counted in the table that Windows keeps of them.
 [[nodiscard]] int gdiObjects();
-/// How many windows this thread has, children included.
+/// How many windows this thread has, children and those without a place on the screen included.
 [[nodiscard]] int windows();
+/// How many menus this process has.
+[[nodiscard]] int menus();
 
 } // namespace NRDM::tests

@@ -1,0 +1,308 @@
+/// What dialogs cost: objects of the system that they leave behind, the time they take to open, and
+/// how much is painted when little changes. The dialogs are the model's, in a host, as the
+/// plug-in's are.
+
+#include "tests/easel/runtime/TestPlugin.h"
+#include "tests/toolkit/win/Stage.h"
+
+#include "toolkit/ImplCommon/CoADMDialog.h"
+#include "toolkit/ImplCommon/Dialogs.h"
+#include "toolkit/ImplCommon/Resources.h"
+
+#include <array>
+#include <chrono>
+#include <optional>
+
+using namespace NRDM;
+using namespace NRDM::tests;
+
+namespace {
+
+constexpr int kPreferences = 16001;
+constexpr int kEditAxes = 16002;
+constexpr int kAbout = 16003;
+constexpr int kFlyoutMenu = 701;
+
+/// A plug-in that a host has started, with dialogs of its own whose resources are this program's.
+class HostedDialogs {
+public:
+    HostedDialogs() {
+        plugin_.on("SP Interface/Startup", [this](SPMessageData& message) {
+            ai::basicSuite = message.basic;
+            dialogs_.emplace(theme_, makePeers, this);
+            return kNoErr;
+        });
+        plugin_.on("SP Interface/Shutdown", [this](SPMessageData&) {
+            dialogs_.reset();
+            ai::basicSuite = nullptr;
+            return kNoErr;
+        });
+        host_.start();
+    }
+    ~HostedDialogs() { host_.quit(); }
+    HostedDialogs(const HostedDialogs&) = delete;
+    HostedDialogs& operator=(const HostedDialogs&) = delete;
+
+    /// Runs `work` inside a message of the host.
+    template <typename Work> void run(Work work) {
+        REQUIRE(plugin_.run([&] { work(*dialogs_); }) == kNoErr);
+    }
+
+    [[nodiscard]] DialogRequest request(ADMDialogStyle style, int resource) const {
+        return {.plugin = plugin_.self(), .name = "Facetta", .resource = resource, .style = style};
+    }
+
+    void showPanel() { host_.showPanel(host_.panels.named(U"Facetta"), true); }
+
+private:
+    static std::unique_ptr<Peers> makePeers(void* self) {
+        return std::make_unique<WinPeers>(static_cast<HostedDialogs*>(self)->theme_,
+                                          picturesOf(WindowClass::library()));
+    }
+
+    easel::Host host_;
+    facetta::tests::TestPlugin plugin_{host_};
+    Theme theme_;
+    std::optional<Dialogs> dialogs_;
+};
+
+/// Ends the modal dialog that is about to run, once it has been painted: a timer's turn comes after
+/// that of painting.
+ADMErr endWhenPainted(ADMDialogRef) {
+    SetTimer(nullptr, 0, USER_TIMER_MINIMUM, [](HWND, UINT, UINT_PTR timer, DWORD) {
+        KillTimer(nullptr, timer);
+        Dialogs::current().open().back()->closeRequested();
+    });
+    return kNoErr;
+}
+
+int openAndCloseModal(Dialogs& dialogs, DialogRequest request) {
+    request.init = endWhenPainted;
+    return dialogs.modal(request);
+}
+
+/// A layout of as many items as asked for, of every kind in turn, in rows of five.
+layout::Layout layoutOfItems(int count) {
+    constexpr std::array kKinds = {
+        R"(button(name: "&Apply", item_id: )",
+        R"(checkbox(name: "Snap", item_id: )",
+        R"(radio_button(name: "Every layer", item_id: )",
+        R"(static_text(name: "Number of Axes:", item_id: )",
+        R"(edit_text(item_id: )",
+        R"(spin_edit(item_id: )",
+        R"(edit_popup(menu_id: 700, item_id: )",
+        R"(spin_edit_popup(menu_id: 700, item_id: )",
+        R"(edit_slider(item_id: )",
+        R"(spin_edit_slider(item_id: )",
+        R"(slider(item_id: )",
+        R"(popup(menu_id: 700, item_id: )",
+        R"(popup_menu(menu_id: 700, item_id: )",
+        R"(listbox(item_id: )",
+        R"(button(image_id: 2106, item_id: )",
+    };
+    std::string text = "layout Many { view dialog(name: \"Many\", placement: place_column) {";
+    for (int i = 0; i < count; ++i) {
+        if (i % 5 == 0) text += i == 0 ? "row() {" : "} row() {";
+        text += kKinds.at(static_cast<std::size_t>(i) % kKinds.size());
+        text += std::to_string(i + 1) + ");";
+    }
+    return layout::load(text + "} } }", "a layout of many items");
+}
+
+void openAndClose(Hands& hands, Dialogs& dialogs, const DialogRequest& request,
+                  const layout::Layout& layout) {
+    CoADMDialog& dialog = *dialogs.create(request, layout);
+    for (const auto& item : dialog.items())
+        item->setTip("What this does");
+    dialog.show(true);
+    hands.pump();
+    dialogs.destroy(dialog);
+    hands.pump();
+}
+
+void openAndClosePanel(Hands& hands, HostedDialogs& hosted, const layout::Layout& items) {
+    CoADMDialog* panel = nullptr;
+    hosted.run([&](Dialogs& dialogs) {
+        const DialogRequest request = hosted.request(kADMTabbedFloatingDialogStyle, 0);
+        panel = dialogs.create(request, items);
+        panel->item(kADMMenuItemID)->list()->setMenu(request.plugin, kFlyoutMenu);
+    });
+    hosted.showPanel();
+    hands.pump();
+    hosted.run([&](Dialogs& dialogs) { dialogs.destroy(*panel); });
+    hands.pump();
+}
+
+/// The objects of the system that this process holds.
+struct Census {
+    int gdi = gdiObjects();
+    int windowCount = windows();
+    int menuCount = menus();
+};
+
+/// Does `once` 200 times; what a first time makes and keeps is not counted.
+template <typename Once> void checkLeavesNothing(const char* what, Once once) {
+    CAPTURE(what);
+    once();
+    const Census before;
+    REQUIRE(before.gdi > 0);
+    for (int round = 0; round < 200; ++round)
+        once();
+    const Census after;
+    CHECK(after.gdi == before.gdi);
+    CHECK(after.windowCount == before.windowCount);
+    CHECK(after.menuCount == before.menuCount);
+}
+
+/// What this process has used so far.
+double processorMilliseconds() {
+    FILETIME created{};
+    FILETIME ended{};
+    FILETIME kernel{};
+    FILETIME user{};
+    GetProcessTimes(GetCurrentProcess(), &created, &ended, &kernel, &user);
+    const auto ticks = [](FILETIME time) {
+        return static_cast<double>(
+            ULARGE_INTEGER{{time.dwLowDateTime, time.dwHighDateTime}}.QuadPart);
+    };
+    return (ticks(kernel) + ticks(user)) / 10'000;
+}
+
+HWND windowOf(const CoADMItem& item) { return static_cast<HWND>(item.peer()->window()); }
+
+} // namespace
+
+TEST_CASE("an object that is left behind is counted") {
+    struct LeftBehind {
+        HBRUSH brush = CreateSolidBrush(RGB(1, 2, 3));
+        HMENU menu = CreatePopupMenu();
+        HWND window = CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 1, 1, HWND_MESSAGE,
+                                      nullptr, nullptr, nullptr);
+        ~LeftBehind() {
+            DeleteObject(brush);
+            DestroyMenu(menu);
+            DestroyWindow(window);
+        }
+    };
+    { const LeftBehind first; } // what the system makes for the first of them
+    const Census before;
+    const LeftBehind left;
+    const Census after;
+    CHECK(after.gdi == before.gdi + 1);
+    CHECK(after.menuCount == before.menuCount + 1);
+    CHECK(after.windowCount == before.windowCount + 1);
+}
+
+TEST_CASE("200 openings and closings of each dialog leave nothing behind") {
+    HostedDialogs hosted;
+    Hands hands;
+    for (const int resource : {kPreferences, kEditAxes, kAbout})
+        checkLeavesNothing(std::to_string(resource).c_str(), [&] {
+            hosted.run([&](Dialogs& dialogs) {
+                const int ending =
+                    openAndCloseModal(dialogs, hosted.request(kADMModalDialogStyle, resource));
+                CHECK(ending == 2); // Cancel or Close
+            });
+            hands.pump();
+        });
+}
+
+TEST_CASE("200 openings and closings of a panel and of a dialog with everything leave nothing") {
+    HostedDialogs hosted;
+    Hands hands;
+    const layout::Layout many = layoutOfItems(30);
+    checkLeavesNothing("panel", [&] { openAndClosePanel(hands, hosted, many); });
+    checkLeavesNothing("dialog", [&] {
+        hosted.run([&](Dialogs& dialogs) {
+            openAndClose(hands, dialogs, hosted.request(kADMModalDialogStyle, 0), many);
+        });
+    });
+}
+
+TEST_CASE("a dialog of 30 items opens in less than a tenth of a second") {
+    HostedDialogs hosted;
+    Hands hands;
+    const layout::Layout many = layoutOfItems(30);
+    hosted.run([&](Dialogs& dialogs) {
+        const DialogRequest request = hosted.request(kADMModalDialogStyle, 0);
+        openAndClose(hands, dialogs, request, many); // what only the first window costs
+        // The processor's time is checked, the least of a few: a machine with other work to do
+        // stretches the time on the wall, and spoils caches.
+        using Clock = std::chrono::steady_clock;
+        double least = 1e9;
+        double leastOnWall = 1e9;
+        for (int round = 0; round < 5; ++round) {
+            const double workBefore = processorMilliseconds();
+            const auto begun = Clock::now();
+            CoADMDialog& dialog = *dialogs.create(request, many);
+            dialog.show(true);
+            hands.pump();
+            const std::chrono::duration<double, std::milli> taken = Clock::now() - begun;
+            least = std::min(least, processorMilliseconds() - workBefore);
+            leastOnWall = std::min(leastOnWall, taken.count());
+            dialogs.destroy(dialog);
+        }
+        MESSAGE("30 items: " << least << " ms of work, " << leastOnWall << " ms on the wall");
+        CHECK(least < 100);
+    });
+}
+
+TEST_CASE("a change paints what changed and no more") {
+    HostedDialogs hosted;
+    Hands hands;
+    hosted.run([&](Dialogs& dialogs) {
+        CoADMDialog& dialog =
+            *dialogs.create(hosted.request(kADMModalDialogStyle, 0), layoutOfItems(15));
+        CoADMItem& field = *dialog.item(6);
+        CoADMItem& slider = *dialog.item(11);
+        for (CoADMItem* const item : {&field, &slider}) {
+            item->setLowest(0);
+            item->setHighest(100);
+            item->setValue(50);
+        }
+        dialog.show(true);
+        dialog.activate();
+        field.activate(true);
+        hands.pump();
+        SetForegroundWindow(static_cast<HWND>(dialog.peer()->window()));
+        hands.pump();
+        const HWND edit = FindWindowExW(windowOf(field), nullptr, L"EDIT", nullptr);
+        REQUIRE(GetFocus() == edit);
+        hands.forgetPaints();
+        SUBCASE("typing: the field's text, once a character") {
+            hands.type(L"72");
+            CHECK(field.hasTyped());
+            CHECK(hands.paintsOf(edit) == 2);
+            CHECK(hands.paints() == 2);
+        }
+        SUBCASE("stepping: the text once a step, the arrows with it at most") {
+            hands.key(VK_UP);
+            hands.key(VK_UP);
+            CHECK(field.value() == 52);
+            CHECK(hands.paintsOf(edit) == 2);
+            CHECK(hands.paints() <= hands.paintsOf(edit) + hands.paintsOf(windowOf(field)));
+        }
+        SUBCASE("dragging: the slider once a move") {
+            const HWND bar = windowOf(slider);
+            RECT area{};
+            GetClientRect(bar, &area);
+            const POINT middle{area.right / 2, area.bottom / 2};
+            hands.press(bar, middle);
+            hands.forgetPaints();
+            for (int step = 1; step <= 3; ++step)
+                hands.move(bar, {middle.x + 10 * step, middle.y});
+            CHECK(slider.value() > 55);
+            CHECK(hands.paintsOf(bar) == 3);
+            CHECK(hands.paints() == 3);
+            hands.release();
+        }
+        SUBCASE("the value that it has: nothing") {
+            slider.setValue(slider.value());
+            field.setValue(field.value());
+            field.setTip("A new tip");
+            hands.pump();
+            CHECK(hands.paints() == 0);
+        }
+        dialogs.destroy(dialog);
+    });
+}
