@@ -22,6 +22,10 @@ constexpr double kTolerance = 0.3;
 /// Pixels. Lines reach over the edge of the view by their own width.
 constexpr double kMargin = 2.0;
 
+/// Pixels. Curves that reach farther over the edge of the view are drawn as lines and cut there:
+/// hosts need not count beyond.
+constexpr double kFarthest = 8192.0;
+
 /// Open ends within this many pixels of an axis are drawn onto it by the engine.
 constexpr double kSnapPixels = 12.0;
 
@@ -82,16 +86,28 @@ void build(Preview& preview, const SymmetryAxes& axes, double zoom) {
             addContours(preview.paths, mirror.mirrorCompound(source.paths));
     }
     preview.paths.limit(kMostPreviewLines);
+    preview.asCurves = preview.paths.curveCount() <= kMostPreviewCurves;
     // Drawn open, a path is run through there and back.
     constexpr std::size_t kEnds = 4; // where it is cut by the edge of the view, and its closing
-    preview.pixels.resize(2 * preview.paths.longest() + kEnds);
+    preview.pixels.resize(
+        std::max(2 * preview.paths.mostPoints() + kEnds, preview.paths.mostControls()));
 }
 
-/// Draws pieces of one path, point by point.
-class LineDrawing {
+/// Draws one path after the other, point by point.
+class PathDrawing {
 public:
-    LineDrawing(AIAnnotatorDrawer* drawer, std::span<AIPoint> pixels)
+    PathDrawing(AIAnnotatorDrawer* drawer, std::span<AIPoint> pixels)
         : drawer_(drawer), pixels_(pixels) {}
+
+    void curves(std::span<const Point> controls, const Matrix& map) {
+        std::ranges::transform(controls, pixels_.begin(),
+                               [&](Point control) { return nearestPixel(apply(map, control)); });
+        const auto* const sets = reinterpret_cast<const AIPoint(*)[3]>(pixels_.data() + 1);
+        ai::check(suites.annotatorDrawer->DrawBezier(
+            drawer_, pixels_.front(), sets, static_cast<ai::uint32>(controls.size() / 3), 0));
+    }
+
+    // Pieces of a path as lines.
 
     void add(Point at) {
         const AIPoint pixel = nearestPixel(at);
@@ -128,7 +144,7 @@ private:
 };
 
 /// The pieces of a line through `points` that lie in `area`.
-void drawClipped(LineDrawing& drawing, std::span<const Point> points, const Matrix& map,
+void drawClipped(PathDrawing& drawing, std::span<const Point> points, const Matrix& map,
                  bool closed, const PixelRect& area) {
     Point previous = apply(map, points.front());
     const auto drawTo = [&](Point next) {
@@ -147,12 +163,15 @@ void drawClipped(LineDrawing& drawing, std::span<const Point> points, const Matr
     drawing.endOpen();
 }
 
-void drawImage(LineDrawing& drawing, const Preview& preview, const PreviewPath& path,
+void drawImage(PathDrawing& drawing, const Preview& preview, const PreviewPath& path,
                const Matrix& map, const ViewMap& view) {
     const Point middle = apply(map, path.middle);
     const double radius = path.radius * view.zoom;
     const PixelRect area = grown(view.visible, kMargin);
     if (!contains(grown(area, radius), middle)) return;
+    const bool fitsHost = contains(grown(area, kFarthest - radius), middle);
+    if (preview.asCurves && path.curveCount > 0 && fitsHost)
+        return drawing.curves(preview.paths.controlsOf(path), map);
     const std::span<const Point> points = preview.paths.pointsOf(path);
     if (!contains(grown(area, -radius), middle))
         return drawClipped(drawing, points, map, path.closed, area);
@@ -188,7 +207,7 @@ void drawPreview(const Surface& surface, ToolSession& session) {
     }
     suites.annotatorDrawer->SetColor(surface.drawer, surface.colours.preview);
     suites.annotatorDrawer->SetLineWidth(surface.drawer, 1.0F);
-    LineDrawing drawing{surface.drawer, preview.pixels};
+    PathDrawing drawing{surface.drawer, preview.pixels};
     for (const PreviewPath& path : preview.paths.paths())
         for (const Matrix& map : preview.paths.mapsOf(path))
             drawImage(drawing, preview, path, compose(map, surface.view.toPixels), surface.view);

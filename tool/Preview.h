@@ -30,6 +30,7 @@ struct Preview {
     PreviewPaths paths;
     SymmetryAxes axes;           ///< for which the paths were made,
     double zoom = 0.0;           ///< and at which zoom; 0: none were
+    bool asCurves = true;        ///< there are few enough of them
     std::vector<AIPoint> pixels; ///< of the path being drawn
 };
 
@@ -39,6 +40,8 @@ constexpr std::size_t kMostSourceSegments = 20'000;
 constexpr std::size_t kMostSources = 5'000;
 /// Curves that are mirrored for one picture: a few milliseconds.
 constexpr std::size_t kMostMirroredCurves = 100'000;
+/// Curves of one picture that are drawn as such; more become lines.
+constexpr std::size_t kMostPreviewCurves = 10'000;
 /// Lines of one picture.
 constexpr std::size_t kMostPreviewLines = 40'000;
 

@@ -38,6 +38,7 @@ std::vector<Matrix> withIdentity(const SymmetryAxes& axes, Images images) {
 void PreviewPaths::begin(const SymmetryAxes& axes, double tolerance) {
     tolerance_ = tolerance;
     points_.clear();
+    controls_.clear();
     paths_.clear();
     all_ = withIdentity(axes, Images::All);
     rotations_ = withIdentity(axes, Images::Rotations);
@@ -45,11 +46,17 @@ void PreviewPaths::begin(const SymmetryAxes& axes, double tolerance) {
 
 void PreviewPaths::add(const PathShape& shape, Images images, bool isArt) {
     if (shape.segments.empty()) return;
-    PreviewPath path{
-        .begin = points_.size(), .closed = shape.closed, .images = images, .isArt = isArt};
+    PreviewPath path{.begin = points_.size(),
+                     .controlsBegin = controls_.size(),
+                     .curveCount = facetta::curveCount(shape),
+                     .closed = shape.closed,
+                     .images = images,
+                     .isArt = isArt};
     points_.push_back(shape.segments.front().anchor);
-    for (std::size_t i = 0; i < curveCount(shape); ++i) {
+    controls_.push_back(shape.segments.front().anchor);
+    for (std::size_t i = 0; i < path.curveCount; ++i) {
         const Cubic curve = curveAt(shape, i);
+        controls_.insert(controls_.end(), {curve.p1, curve.p2, curve.p3});
         const int pieces = piecesOf(curve, tolerance_);
         for (int piece = 1; piece < pieces; ++piece)
             points_.push_back(evaluate(curve, piece / static_cast<double>(pieces)));
@@ -74,6 +81,13 @@ std::size_t PreviewPaths::lineCount() const {
     return lines;
 }
 
+std::size_t PreviewPaths::curveCount() const {
+    std::size_t curves = 0;
+    for (const PreviewPath& path : paths_)
+        curves += path.curveCount * mapsOf(path).size();
+    return curves;
+}
+
 std::span<const Matrix> PreviewPaths::mapsOf(const PreviewPath& path) const {
     std::span<const Matrix> maps = path.images == Images::All         ? std::span(all_)
                                    : path.images == Images::Rotations ? std::span(rotations_)
@@ -81,10 +95,17 @@ std::span<const Matrix> PreviewPaths::mapsOf(const PreviewPath& path) const {
     return path.isArt ? maps.subspan(1) : maps;
 }
 
-std::size_t PreviewPaths::longest() const {
+std::size_t PreviewPaths::mostPoints() const {
     std::size_t most = 0;
     for (const PreviewPath& path : paths_)
         most = std::max(most, path.count);
+    return most;
+}
+
+std::size_t PreviewPaths::mostControls() const {
+    std::size_t most = 0;
+    for (const PreviewPath& path : paths_)
+        most = std::max(most, 1 + 3 * path.curveCount);
     return most;
 }
 

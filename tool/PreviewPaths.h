@@ -1,10 +1,11 @@
 #pragma once
 
-/// Mirrored art as lines that are quick to draw, for art of any size.
+/// Mirrored art as outlines that are quick to draw, for art of any size.
 ///
-/// What is kept is the art of one sector, flattened, and the maps that make its images. When all
-/// images together would be more lines than can be drawn while the mouse moves, detail goes: first
-/// points that lie close together, then small paths.
+/// What is kept is the art of one sector, as it is and flattened, and the maps that make its
+/// images. Few curves are drawn as curves, which are smooth at every density of the screen. When
+/// all images together would be more lines than can be drawn while the mouse moves, detail goes:
+/// first points that lie close together, then small paths.
 
 #include "symmetry/MirrorPath.h"
 
@@ -18,6 +19,8 @@ namespace facetta {
 struct PreviewPath {
     std::size_t begin = 0; ///< its first point
     std::size_t count = 0;
+    std::size_t controlsBegin = 0; ///< its first control point
+    std::size_t curveCount = 0;
     bool closed = false;
     Images images = Images::All; ///< copies that are drawn
     bool isArt = false;          ///< the path itself lies in the drawing already: only its copies
@@ -38,15 +41,22 @@ public:
 
     /// Lines of all images together.
     [[nodiscard]] std::size_t lineCount() const;
+    /// Curves of all images together.
+    [[nodiscard]] std::size_t curveCount() const;
 
     [[nodiscard]] std::span<const PreviewPath> paths() const { return paths_; }
     [[nodiscard]] std::span<const Point> pointsOf(const PreviewPath& path) const {
         return std::span(points_).subspan(path.begin, path.count);
     }
+    /// The control points of its curves: the first anchor, then two handles and an anchor for each.
+    [[nodiscard]] std::span<const Point> controlsOf(const PreviewPath& path) const {
+        return std::span(controls_).subspan(path.controlsBegin, 1 + 3 * path.curveCount);
+    }
     /// The maps under which `path` is drawn.
     [[nodiscard]] std::span<const Matrix> mapsOf(const PreviewPath& path) const;
-    /// The most points of one path.
-    [[nodiscard]] std::size_t longest() const;
+    /// The most points of one path, and the most control points.
+    [[nodiscard]] std::size_t mostPoints() const;
+    [[nodiscard]] std::size_t mostControls() const;
 
 private:
     void thinOut(double detail);
@@ -54,6 +64,7 @@ private:
 
     double tolerance_ = 0.0;
     std::vector<Point> points_;
+    std::vector<Point> controls_;
     std::vector<PreviewPath> paths_;
     std::vector<Matrix> all_;       ///< the identity, then those of `Images::All`
     std::vector<Matrix> rotations_; ///< the identity, then those of `Images::Rotations`

@@ -9,12 +9,12 @@ namespace {
 
 std::vector<easel::DrawCommand> previewIn(const easel::DisplayList& list) {
     const AIRGBColor& colour = colours::kLight.preview;
-    std::vector<easel::DrawCommand> lines = ofKind(list, Kind::Polygon);
-    std::erase_if(lines, [&](const easel::DrawCommand& each) {
+    std::vector<easel::DrawCommand> outlines = list;
+    std::erase_if(outlines, [&](const easel::DrawCommand& each) {
         const AIRGBColor& own = each.style.colour;
         return own.red != colour.red || own.green != colour.green || own.blue != colour.blue;
     });
-    return lines;
+    return outlines;
 }
 
 double distanceTo(const std::vector<easel::DrawCommand>& lines, Point pixel) {
@@ -102,13 +102,40 @@ TEST_CASE("the preview of a layer is made of its sources, however many copies th
     clearPreview(thePlugin->tool);
 }
 
-TEST_CASE("paths are cut at the edge of the view, and drawn nowhere else") {
+TEST_CASE("what is far too large for the view is cut at its edge, and drawn nowhere else") {
     Drawing session{/*selected*/ true};
+    session.host.edit("Draw", [](easel::Document& document) {
+        drawLine(document, {1500, -168}, {-500, -172}, /*selected*/ true);
+    });
     session.host.view(nullptr).centre = {320, -165};
     easel::setZoom(session.host.view(nullptr), 40);
-    const std::vector<easel::DrawCommand> preview = previewIn(drawn(session));
+    std::vector<easel::DrawCommand> preview = previewIn(drawn(session));
+    std::erase_if(preview, [](const auto& each) { return each.kind == Kind::Bezier; });
+    REQUIRE_FALSE(preview.empty());
     const PixelRect visible{-3, -3, 1283, 803};
     for (const easel::DrawCommand& each : preview)
         for (const AIPoint pixel : each.points)
             CHECK(contains(visible, at(pixel)));
+}
+
+TEST_CASE("few curves are drawn as curves, many as lines") {
+    struct Row {
+        int paths;
+        bool curves;
+    };
+    constexpr int kCopies = 5; // of each path, across three axes
+    for (const auto& [paths, curves] : {Row{1, true}, Row{10'000 / kCopies + 1, false}}) {
+        INFO(paths);
+        Drawing session{/*selected*/ false};
+        session.host.edit("Draw", [&, count = paths](easel::Document& document) {
+            for (int i = 0; i < count; ++i) {
+                const AIReal x = 300 + 0.01F * static_cast<AIReal>(i);
+                drawLine(document, {x, -170}, {x + 40, -160}, /*selected*/ true);
+            }
+        });
+        const std::vector<easel::DrawCommand> preview = previewIn(drawn(session));
+        REQUIRE(std::ssize(preview) == kCopies * paths);
+        for (const easel::DrawCommand& each : preview)
+            CHECK((each.kind == Kind::Bezier) == curves);
+    }
 }
