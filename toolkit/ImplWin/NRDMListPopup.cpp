@@ -26,6 +26,16 @@ NRDMListPopup::NRDMListPopup(NativeDialog& dialog, const ItemView& view, TextSty
     const LONG height = std::min<LONG>(natural.cy, unit.toPixels(kHighest)) + 2 * edge;
     open(anchor, {std::max<LONG>(natural.cx + 2, anchor.right - anchor.left), height});
     rows_.scrollTo(hot_, inside(), unit);
+    GetCursorPos(&pointer_);
+}
+
+/// Windows tells a move whenever a window appears or changes below a pointer at rest, which is to
+/// leave a choice by keys alone.
+bool NRDMListPopup::hasMoved(POINT point) {
+    ClientToScreen(handle(), &point);
+    const bool moved = point.x != pointer_.x || point.y != pointer_.y;
+    pointer_ = point;
+    return moved;
 }
 
 RECT NRDMListPopup::inside() const {
@@ -85,6 +95,7 @@ LRESULT NRDMListPopup::serve(UINT message, WPARAM wide, LPARAM lengthy) {
     const POINT point{GET_X_LPARAM(lengthy), GET_Y_LPARAM(lengthy)};
     switch (message) {
     case WM_MOUSEMOVE:
+        if (!hasMoved(point)) return 0;
         if (const auto entry = rows_.entryAt(point, inside(), scale())) {
             pressedInside_ = pressedInside_ || (wide & MK_LBUTTON) != 0;
             setHot(*entry);

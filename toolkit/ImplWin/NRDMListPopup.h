@@ -21,6 +21,7 @@ protected:
 
 private:
     [[nodiscard]] RECT inside() const;
+    [[nodiscard]] bool hasMoved(POINT point);
     void setHot(int entry);
     void finish(int entry);
 
@@ -28,6 +29,7 @@ private:
     ListRows rows_;
     std::shared_ptr<int> result_; ///< outlives the popup: read when it has gone
     int hot_;
+    POINT pointer_{}; ///< where it was last, on the screen
     bool pressedInside_ = false;
 };
 

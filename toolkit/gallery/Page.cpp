@@ -137,7 +137,7 @@ void Page::show() { suites_.dialog->Show(dialog_, true); }
 
 bool Page::isShown() const { return suites_.dialog->IsVisible(dialog_) != 0; }
 
-void Page::run() { suites_.dialog->DisplayAsModal(dialog_); }
+int Page::run() { return suites_.dialog->DisplayAsModal(dialog_); }
 
 void Page::pose() const {
     suites_.dialog->Activate(dialog_, true);

@@ -66,11 +66,12 @@ public:
 
     void show();
     [[nodiscard]] bool isShown() const;
-    /// Shows it until it is ended.
-    void run();
+    /// Shows it until it is ended, and answers with what.
+    int run();
     /// Painted, with every exhibit in its pose.
     void pose() const;
     [[nodiscard]] HWND window() const;
+    [[nodiscard]] ADMDialogRef dialog() const noexcept { return dialog_; }
 
 private:
     Suites suites_;

@@ -2,9 +2,12 @@
 ///
 ///     gallery --png FOLDER         writes each page in light and dark, at 1x, 1.5x and 2x
 ///     gallery --layout FILE        shows a layout, or its text with the mistakes in it
+///     gallery --page NAME          shows one of the pages
 ///     gallery --dark --scale 2     opens the windows so
+///     gallery --log FILE           writes what the items tell
 
 #include "toolkit/gallery/Gallery.h"
+#include "toolkit/gallery/Journal.h"
 #include "toolkit/gallery/LayoutPage.h"
 #include "toolkit/gallery/Pages.h"
 #include "toolkit/gallery/Snapshot.h"
@@ -18,6 +21,7 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <optional>
 #include <string>
 
 using namespace NRDM;
@@ -39,10 +43,12 @@ using NamedPages = std::vector<NamedPage>;
 /// What is to be shown.
 using Choice = std::function<NamedPages(Dialogs&)>;
 
-NamedPages allPages() {
+/// The page of that name, or all of them.
+NamedPages pagesNamed(const std::string& wanted) {
     NamedPages all;
     for (const auto& [name, make] : pages())
-        all.push_back({name, make()});
+        if (wanted.empty() || wanted == name) all.push_back({name, make()});
+    if (all.empty()) throw std::runtime_error("there is no page " + wanted);
     return all;
 }
 
@@ -90,11 +96,15 @@ int writePictures(const Choice& choose, const std::string& folder) {
 }
 
 /// Until the last one has been closed. One alone is run as a modal dialog.
-int showWindows(const Choice& choose, const Manner& manner) {
+int showWindows(const Choice& choose, const Manner& manner, Journal* journal) {
     Gallery gallery(manner);
     const NamedPages shown = choose(gallery.dialogs());
+    if (journal != nullptr)
+        for (const auto& [name, page] : shown)
+            journal->watch(*page);
     if (shown.size() == 1) {
-        shown.front().page->run();
+        const int ending = shown.front().page->run();
+        if (journal != nullptr) journal->write("ended\t" + std::to_string(ending));
         return 0;
     }
     for (const auto& [name, page] : shown)
@@ -115,18 +125,25 @@ int main(int argc, char** argv) {
     CLI::App app("Every kind of item of the dialog toolkit, to look at.");
     std::string folder;
     std::string layout;
+    std::string page;
+    std::string log;
     Manner manner;
     app.add_option("--png", folder, "Write what would be shown as pictures into this folder");
     app.add_option("--layout", layout, "Show the layout in this file instead of the pages");
+    app.add_option("--page", page, "Show only the page of this name")->excludes("--layout");
+    app.add_option("--log", log, "Write where the items are and what they tell into this file");
     app.add_flag("--dark", manner.dark, "Dark interface");
     app.add_option("--scale", manner.scale, "Pixels a unit, instead of the display's")
         ->check(CLI::Range(1.0, 4.0));
     CLI11_PARSE(app, argc, argv);
     try {
         const Choice choose = [&](Dialogs& dialogs) {
-            return layout.empty() ? allPages() : layoutPages(layout, dialogs);
+            return layout.empty() ? pagesNamed(page) : layoutPages(layout, dialogs);
         };
-        return folder.empty() ? showWindows(choose, manner) : writePictures(choose, folder);
+        if (!folder.empty()) return writePictures(choose, folder);
+        std::optional<Journal> journal;
+        if (!log.empty()) journal.emplace(log);
+        return showWindows(choose, manner, journal ? &*journal : nullptr);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
         return 1;
