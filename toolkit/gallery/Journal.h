@@ -16,8 +16,8 @@ namespace NRDM::gallery {
 ///     moving ID WHAT                             a change is in progress
 ///     ended ID                                   a modal page was ended, with that number
 ///
-/// WHAT is the text of a field, the chosen entry of a list, a slider's value, "on" or "off" of a box
-/// and "-" of a button.
+/// WHAT is the text of a field, the chosen entry of a list, a slider's value, "on" or "off" of a
+/// box and "-" of a button.
 class Journal {
 public:
     /// Throws `std::runtime_error` when the file cannot be written.
