@@ -291,10 +291,13 @@ void GdiplusPainter::text(const std::string& text, const svg::Font& font, Point 
     paint(path, nullptr, ink);
 }
 
+/// Measured large: GDI+ fits small letters to whole pixels, and the outlines that are painted are
+/// those of no size.
 double GdiplusPainter::textWidth(const std::string& text, const svg::Font& font) {
+    constexpr double kEnlarged = 64;
     const auto family = familyOf(font);
-    const Gdiplus::Font measured{family.get(), static_cast<float>(font.size), styleOf(font),
-                                 Gdiplus::UnitPixel};
+    const Gdiplus::Font measured{family.get(), static_cast<float>(kEnlarged * font.size),
+                                 styleOf(font), Gdiplus::UnitPixel};
     const std::wstring letters = wide(text);
     Gdiplus::StringFormat format{Gdiplus::StringFormat::GenericTypographic()};
     format.SetFormatFlags(format.GetFormatFlags() |
@@ -302,7 +305,7 @@ double GdiplusPainter::textWidth(const std::string& text, const svg::Font& font)
     Gdiplus::RectF bounds;
     graphics().MeasureString(letters.c_str(), static_cast<INT>(letters.size()), &measured,
                              Gdiplus::PointF{0, 0}, &format, &bounds);
-    return static_cast<double>(bounds.Width);
+    return static_cast<double>(bounds.Width) / kEnlarged;
 }
 
 void GdiplusPainter::image(std::span<const std::byte> png, Point corner, Point size) {

@@ -17,9 +17,9 @@ using Kind = DrawCommand::Kind;
 
 constexpr AIRGBColor kRed{65535, 0, 0};
 
-/// Painted over white, at `scale` pixels to one of the view.
-Picture painted(const DisplayList& list, double scale = 1.0) {
-    const int side = static_cast<int>(40 * scale);
+/// Painted over white, at `scale` pixels to one of the view, which is `view` pixels wide and high.
+Picture painted(const DisplayList& list, double scale = 1.0, int view = 40) {
+    const int side = static_cast<int>(view * scale);
     return render(side, side, [&](Painter& painter) {
         const auto size = static_cast<double>(side);
         painter.fill({{{svg::cornerAt({0, 0}), svg::cornerAt({size, 0}),
@@ -157,6 +157,20 @@ TEST_CASE("text stands on its point, or lies in its rectangle as told") {
     text.horizontal = 0;
     text.vertical = 0;
     CHECK(redBox(painted({text})).left <= 6);
+}
+
+TEST_CASE("a text is as wide as it is told to be") {
+    for (const char32_t* const words : {U"Constrain Angle", U"Specify Number of Axes", U"Illill"}) {
+        DrawCommand text = shape(Kind::Text, {{10, 25}});
+        text.text = words;
+        const Picture picture = painted({text}, 1.0, 200);
+        int end = 0;
+        for (int x = 0; x < 200; ++x)
+            for (int y = 0; y < 40; ++y)
+                if (red(picture, x, y) > 30) end = x + 1;
+        constexpr double kBearing = 2.0; // the last letter's own, and the start's half pixel
+        CHECK(std::abs(end - 10 - annotationWidth(text.text, text.style)) <= kBearing);
+    }
 }
 
 TEST_CASE(
