@@ -8,15 +8,21 @@
 namespace NRDM {
 namespace {
 
+/// What the host knows the toolkit's notifiers by.
+constexpr char kUpdateNotifier[] = "NRDMUIUpdate";
+constexpr char kShutdownNotifier[] = "NRDMAppShutdown";
+
+struct NotifierRow {
+    const char* name;
+    const char* type;
+};
 /// In the order of `Toolkit::notifiers_`; `kShutdown` names a row.
-constexpr std::array kNotifierTypes = {
-    kUIBrightnessChangedNotifier,
-    kApplicationShutdownNotifier,
-    kAllPluginsStartedNotifier,
+constexpr NotifierRow kNotifiers[] = {
+    {kUpdateNotifier, kUIBrightnessChangedNotifier},
+    {kShutdownNotifier, kApplicationShutdownNotifier},
+    {kUpdateNotifier, kAllPluginsStartedNotifier},
 };
 constexpr std::size_t kShutdown = 1;
-
-constexpr char kNotifierName[] = "NRDM Toolkit";
 
 /// The host's numbers for the colours of a dialog.
 constexpr ai::int32 kDialogTheme = 0;
@@ -40,9 +46,10 @@ Toolkit::Toolkit(SPPluginRef self)
     : self_(self), cursors_(self), dialogs_(theme_, makePeers, this) {
     ai::check(notifierSuite_.acquire());
     if (themeSuite_.acquire() == kNoErr) readTheme();
+    static_assert(std::size(kNotifiers) == kNotifierCount);
     for (std::size_t i = 0; i < kNotifierCount; ++i)
-        ai::check(
-            notifierSuite_->AddNotifier(self, kNotifierName, kNotifierTypes[i], &notifiers_[i]));
+        ai::check(notifierSuite_->AddNotifier(self, kNotifiers[i].name, kNotifiers[i].type,
+                                              &notifiers_[i]));
 }
 
 bool Toolkit::serve(AINotifierHandle notifier) {

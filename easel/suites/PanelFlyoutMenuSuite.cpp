@@ -133,7 +133,7 @@ void installPanelFlyoutMenuSuite(SuiteServer& server) {
     using Mark = AIPanelFlyoutMenuItemMark;
     auto table = server.table<Suite>(kAIPanelFlyoutMenuSuite, kAIPanelFlyoutMenuSuiteVersion);
     expose<&Suite::Create, create>(table);
-    expose<&Suite::Destroy, destroy>(table);
+    exposeEnding<&Suite::Destroy, destroy>(table);
     expose<&Suite::Size, size>(table);
     expose<&Suite::AppendItem, appendItem>(table);
     expose<&Suite::AppendSeparator, appendSeparator>(table);

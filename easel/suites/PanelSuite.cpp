@@ -176,7 +176,7 @@ void exposeCallbacks(SuiteTable<Suite>& table) {
 void installPanelSuite(SuiteServer& server) {
     auto table = server.table<Suite>(kAIPanelSuite, kAIPanelSuiteVersion);
     expose<&Suite::Create, create>(table);
-    expose<&Suite::Destroy, destroy>(table);
+    exposeEnding<&Suite::Destroy, destroy>(table);
     expose<&Suite::GetPlatformWindow, getPlatformWindow>(table);
     expose<&Suite::Show, show>(table);
     expose<&Suite::IsShown, get<AIBoolean, &Panel::shown>>(table);

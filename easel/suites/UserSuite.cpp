@@ -217,7 +217,7 @@ void installUserSuite(SuiteServer& server) {
     expose<&AIUserSuite::MessageAlert, messageAlert>(table);
     expose<&AIUserSuite::CreateCursorResourceMgr, createCursors>(table);
     expose<&AIUserSuite::SetCursor, setCursor>(table);
-    expose<&AIUserSuite::DisposeCursorResourceMgr, disposeCursors>(table);
+    exposeEnding<&AIUserSuite::DisposeCursorResourceMgr, disposeCursors>(table);
     expose<&AIUserSuite::GetAILanguageCode, getLanguage>(table);
     expose<&AIUserSuite::GetMaximumScaleFactorOnSystem, getMaximumScale>(table);
 }

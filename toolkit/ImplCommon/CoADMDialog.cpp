@@ -26,6 +26,8 @@ void CoADMDialog::open() {
                                                 *findItemType(kADMPopupMenuType), Bounds{});
         panel_ = std::make_unique<HostPanel>(*this);
         view_.parent = panel_->window();
+    } else {
+        view_.parent = dialogs().ownerWindow();
     }
     attach(dialogs().peers().createDialog(view_, *this));
     for (const auto& item : items_)

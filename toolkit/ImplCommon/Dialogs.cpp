@@ -26,6 +26,7 @@ Dialogs::Dialogs(const Theme& theme, MakePeers makePeers, void* owner)
     static_cast<void>(panels.acquire());
     static_cast<void>(flyoutMenus.acquire());
     static_cast<void>(modalParent.acquire());
+    static_cast<void>(appContext.acquire());
 }
 
 Dialogs::~Dialogs() {
@@ -110,6 +111,18 @@ void Dialogs::fail() noexcept {
 
 void Dialogs::themeChanged() {
     if (peers_) peers_->themeChanged();
+}
+
+void* Dialogs::hostWindow() const {
+    AIWindowRef window = nullptr;
+    if (!appContext || appContext->GetPlatformAppWindow(&window) != kNoErr) return nullptr;
+    return window;
+}
+
+void* Dialogs::ownerWindow() const {
+    const auto top = std::find_if(open_.rbegin(), open_.rend(),
+                                  [](const auto& dialog) { return dialog->isRunning(); });
+    return top != open_.rend() ? (*top)->peer()->window() : hostWindow();
 }
 
 void Dialogs::enableTips(bool enabled) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/SuiteHolder.h"
+#include "host/suites/AIAppContextSuite.h"
 #include "host/suites/AIModalParentSuite.h"
 #include "host/suites/AIPanelFlyoutMenuSuite.h"
 #include "host/suites/AIPanelSuite.h"
@@ -85,6 +86,11 @@ public:
     [[nodiscard]] Increments incrementsOf(ADMUnits units) const;
     void setIncrements(ADMUnits units, const Increments& increments);
 
+    /// The host's main window; null where there is none.
+    [[nodiscard]] void* hostWindow() const;
+    /// What a new window belongs to: the modal dialog on top, or the host's main window.
+    [[nodiscard]] void* ownerWindow() const;
+
     void enableTips(bool enabled);
     [[nodiscard]] bool areTipsEnabled() const noexcept { return tipsEnabled_; }
 
@@ -96,6 +102,7 @@ public:
     ai::SuiteLease<AIPanelFlyoutMenuSuite, kAIPanelFlyoutMenuSuite, kAIPanelFlyoutMenuSuiteVersion>
         flyoutMenus;
     ai::SuiteLease<AIModalParentSuite, kAIModalParentSuite, kAIModalParentSuiteVersion> modalParent;
+    ai::SuiteLease<AIAppContextSuite, kAIAppContextSuite, kAIAppContextSuiteVersion> appContext;
 
 private:
     CoADMDialog* create(const DialogRequest& request, const layout::Layout* layout);

@@ -92,7 +92,7 @@ void NativeDialog::changed() {
     const RECT area = client();
     const RECT wanted = windowRect();
     SetWindowTextW(handle(), toWide(view_.title).c_str());
-    EnableWindow(handle(), view_.enabled);
+    enableAsItIs();
     if (area.right != scale_.toPixels(view_.size.width) ||
         area.bottom != scale_.toPixels(view_.size.height)) {
         changing_ = true;
@@ -147,21 +147,47 @@ void NativeDialog::moveTo(Place corner) {
     placed_ = true;
 }
 
-void NativeDialog::runModal() {
+/// While a modal dialog runs, the toolkit's other windows and the owner take no input.
+class NativeDialog::OthersDisabled {
+public:
+    explicit OthersDisabled(NativeDialog& running)
+        : screen_(running.screen()), others_(screen_.dialogs) {
+        std::erase(others_, running.handle());
+        count(1);
+        const HWND owner = GetWindow(running.handle(), GW_OWNER);
+        if (owner == nullptr || !IsWindowEnabled(owner)) return;
+        owner_ = owner;
+        EnableWindow(owner_, FALSE);
+    }
     /// The owner is enabled before the dialog goes, or Windows would activate another program.
-    struct DisabledOwner {
-        explicit DisabledOwner(HWND window)
-            : owner(window != nullptr && IsWindowEnabled(window) ? window : nullptr) {
-            if (owner != nullptr) EnableWindow(owner, FALSE);
+    ~OthersDisabled() {
+        if (owner_ != nullptr) EnableWindow(owner_, TRUE);
+        count(-1);
+    }
+    OthersDisabled(const OthersDisabled&) = delete;
+    OthersDisabled& operator=(const OthersDisabled&) = delete;
+
+private:
+    void count(int change) {
+        for (const HWND window : others_) {
+            if (std::ranges::find(screen_.dialogs, window) == screen_.dialogs.end()) continue;
+            auto& dialog = *dynamic_cast<NativeDialog*>(objectOf(window));
+            dialog.modalsAbove_ += change;
+            dialog.enableAsItIs();
         }
-        ~DisabledOwner() {
-            if (owner != nullptr) EnableWindow(owner, TRUE);
-        }
-        HWND owner;
-    };
+    }
+
+    Screen& screen_;
+    std::vector<HWND> others_; ///< that there were when it began
+    HWND owner_ = nullptr;
+};
+
+void NativeDialog::enableAsItIs() { EnableWindow(handle(), view_.enabled && modalsAbove_ == 0); }
+
+void NativeDialog::runModal() {
     failure_ = nullptr;
     {
-        const DisabledOwner disabled(GetWindow(handle(), GW_OWNER));
+        const OthersDisabled disabled(*this);
         running_ = true;
         placed_ = true;
         ShowWindow(handle(), SW_SHOW);

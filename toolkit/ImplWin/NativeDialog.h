@@ -58,7 +58,10 @@ protected:
     void paint(const Canvas& canvas, const RECT& area) override;
 
 private:
+    class OthersDisabled;
+
     void createWindow();
+    void enableAsItIs();
     [[nodiscard]] RECT windowRect() const;
     bool reflect(HWND control, UINT message, WPARAM wide, LPARAM lengthy, LRESULT& answer);
     void rescale(const RECT& suggested);
@@ -70,6 +73,7 @@ private:
     HWND focused_ = nullptr; ///< the item that gets the focus back with the activation
     bool keyboardCues_;
     bool running_ = false;  ///< `runModal` serves events
+    int modalsAbove_ = 0;   ///< other dialogs that run meanwhile
     bool placed_ = false;   ///< where it is counts; until then it keeps to the middle
     bool changing_ = false; ///< the size is set by the model, which need not be told
     std::exception_ptr failure_;

@@ -4,6 +4,7 @@
 #include "tests/toolkit/model/Stage.h"
 
 #include "toolkit/ImplCommon/Exceptions.h"
+#include "toolkit/Toolkit.h"
 
 #include <array>
 #include <optional>
@@ -111,6 +112,36 @@ TEST_CASE("a panel's menu shows what its tracker made of it, and gives back what
     CHECK(chosen == 13);
     CHECK(takeHeard() == Heard{"opens 2", "user -5"});
     CHECK(menu.list()->chosen() == nullptr);
+}
+
+TEST_CASE("the toolkit hears of colours and of the host's end under names of its own") {
+    easel::Host host;
+    TestPlugin plugin(host);
+    std::optional<Toolkit> toolkit;
+    plugin.on("SP Interface/Startup", [&](SPMessageData& message) {
+        ai::basicSuite = message.basic;
+        toolkit.emplace(plugin.self());
+        return kNoErr;
+    });
+    plugin.on("SP Interface/Shutdown", [&](SPMessageData&) {
+        toolkit.reset();
+        ai::basicSuite = nullptr;
+        return kNoErr;
+    });
+    host.start();
+    const std::pair<const char*, const char*> expected[] = {
+        {"NRDMUIUpdate", "AI UI Brightness Changed Notifier"},
+        {"NRDMAppShutdown", "AI Application Shutdown Notifier"},
+        {"NRDMUIUpdate", "AI All Plug-ins Started Notifier"},
+    };
+    for (const auto& [name, type] : expected) {
+        INFO(std::string(type));
+        CHECK(host.notifiers.findIf([&, &name = name, &type = type](const easel::Notifier& each) {
+            return each.name == name && each.type == type;
+        }) != nullptr);
+    }
+    CHECK_FALSE(toolkit->serve(nullptr));
+    host.quit();
 }
 
 TEST_CASE("the dialogs of the resources have their items where the layout puts them") {

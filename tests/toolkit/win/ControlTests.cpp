@@ -37,31 +37,6 @@ Log acts(const Log& log) {
     return kept;
 }
 
-/// The popup that is open, or null.
-HWND popupOf(const Stage& stage) {
-    struct Search {
-        HWND dialog;
-        HWND found;
-    } search{stage.window(), nullptr};
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM parameter) -> BOOL {
-            auto& sought = *reinterpret_cast<Search*>(parameter);
-            const bool popup = (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_NOACTIVATE) != 0;
-            if (popup && GetWindow(window, GW_OWNER) == sought.dialog) sought.found = window;
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&search));
-    return search.found;
-}
-
-HWND tipOf(const Stage& stage) {
-    HWND tip = nullptr;
-    while ((tip = FindWindowExW(nullptr, tip, L"tooltips_class32", nullptr)) != nullptr)
-        if (GetWindow(tip, GW_OWNER) == stage.window()) return tip;
-    return nullptr;
-}
-
 } // namespace
 
 TEST_CASE("a button is pressed by mouse and Space, and not when the mouse is let go beside it") {
@@ -265,14 +240,14 @@ TEST_CASE("a popup list is chosen from by mouse and by keys") {
     StagedItem& list = stage.add(listing(ControlKind::PopupList));
     stage.open();
     stage.clickMiddle(list.window());
-    const HWND popup = popupOf(stage);
+    const HWND popup = popupOf(stage.window());
     REQUIRE(popup != nullptr);
     SUBCASE("a click on an entry") {
         RECT area{};
         GetClientRect(popup, &area);
         stage.click(popup, {20, area.bottom - 12});
         CHECK(acts(stage.log) == Log{"choose 3"});
-        CHECK(popupOf(stage) == nullptr);
+        CHECK(popupOf(stage.window()) == nullptr);
     }
     SUBCASE("arrows pass over the separator, Enter chooses") {
         stage.key(VK_DOWN);
@@ -282,11 +257,11 @@ TEST_CASE("a popup list is chosen from by mouse and by keys") {
     }
     SUBCASE("Escape and a click elsewhere choose nothing") {
         stage.key(VK_ESCAPE);
-        CHECK(popupOf(stage) == nullptr);
+        CHECK(popupOf(stage.window()) == nullptr);
         stage.clickMiddle(list.window());
-        REQUIRE(popupOf(stage) != nullptr);
+        REQUIRE(popupOf(stage.window()) != nullptr);
         stage.click(stage.window(), {300, 200});
-        CHECK(popupOf(stage) == nullptr);
+        CHECK(popupOf(stage.window()) == nullptr);
         CHECK(acts(stage.log).empty());
     }
     SUBCASE("the dialog goes while it is open") {
@@ -304,7 +279,7 @@ TEST_CASE("an edit with a popup offers its list, a list box its rows") {
     RECT area{};
     GetClientRect(field.window(), &area);
     stage.click(field.window(), {area.right - 8, 11});
-    REQUIRE(popupOf(stage) != nullptr);
+    REQUIRE(popupOf(stage.window()) != nullptr);
     stage.key(VK_DOWN);
     stage.key(VK_RETURN);
     CHECK(acts(stage.log) == Log{"choose 1"});
@@ -348,7 +323,7 @@ TEST_CASE("a tip shows when the pointer rests on an item, a disabled one too") {
         stage.move(stage.window(), {250, 200});
         stage.move(button.window(), {30, 10});
         stage.pump(1200);
-        const HWND tip = tipOf(stage);
+        const HWND tip = tipOf(stage.window());
         REQUIRE(tip != nullptr);
         CHECK(IsWindowVisible(tip) != FALSE);
     }

@@ -6,7 +6,6 @@
 
 #include <cstdlib>
 #include <stdexcept>
-#include <thread>
 
 using namespace NRDM;
 using namespace NRDM::tests;
@@ -26,23 +25,6 @@ void addEveryKind(Stage& stage) {
         stage.add(view);
     }
 }
-
-/// Does something a while after the modal loop has begun to serve messages.
-void soon(const std::function<void()>& act) {
-    static std::function<void()> pending;
-    pending = act;
-    SetTimer(nullptr, 0, 30, [](HWND, UINT, UINT_PTR timer, DWORD) {
-        KillTimer(nullptr, timer);
-        const auto now = std::exchange(pending, nullptr);
-        now();
-    });
-}
-
-struct Owner {
-    HWND window = CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0,
-                                  400, 300, nullptr, nullptr, nullptr, nullptr);
-    ~Owner() { DestroyWindow(window); }
-};
 
 } // namespace
 
@@ -161,29 +143,11 @@ TEST_CASE("a popup menu answers with the position chosen") {
     }
     StagedItem& menu = stage.add(view);
     stage.open();
-    // The menu has a loop of its own: another thread's hand is on the keys meanwhile.
-    std::thread hand([] {
-        const auto strike = [](WORD key) {
-            INPUT input{};
-            input.type = INPUT_KEYBOARD;
-            input.ki.wVk = key;
-            SendInput(1, &input, sizeof input);
-            input.ki.dwFlags = KEYEVENTF_KEYUP;
-            SendInput(1, &input, sizeof input);
-            Sleep(150);
-        };
-        Sleep(600);
-        strike(VK_DOWN);
-        strike(VK_DOWN);
-        strike(VK_RETURN);
-    });
     stage.move(stage.window(), {300, 230}); // a pointer on the menu would choose as well
     menu.peer->focus();
     stage.pump();
     stage.log.clear();
-    stage.key(VK_SPACE);
-    hand.join();
-    stage.pump();
+    stage.useMenu([&] { stage.key(VK_SPACE); }, {VK_DOWN, VK_DOWN, VK_RETURN});
     REQUIRE(!stage.log.empty());
     CHECK(stage.log.back() == "choose 2");
 }

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <stdexcept>
+#include <thread>
+#include <utility>
 
 namespace NRDM::tests {
 namespace {
@@ -194,6 +196,23 @@ void Hands::type(const std::wstring& text) {
     }
 }
 
+void Hands::useMenu(const std::function<void()>& open, const std::vector<WORD>& keys) {
+    // A menu has a loop of its own: another thread's hand is on the keys meanwhile.
+    std::thread hand([&keys] {
+        constexpr int kMostWaits = 200;
+        for (int waits = 0; waits < kMostWaits; ++waits, Sleep(25))
+            if (IsWindowVisible(FindWindowW(L"#32768", nullptr)) != FALSE) break;
+        for (const WORD key : keys) {
+            Sleep(150);
+            send(keyInput(key, 0));
+            send(keyInput(key, KEYEVENTF_KEYUP));
+        }
+    });
+    open();
+    hand.join();
+    pump();
+}
+
 COLORREF Stage::pixel(HWND window, POINT point) {
     const HDC dc = GetDC(window);
     const COLORREF colour = GetPixel(dc, point.x, point.y);
@@ -221,6 +240,40 @@ ItemView itemView(ControlKind kind, Bounds bounds, std::string text) {
     view.bounds = bounds;
     view.text = std::move(text);
     return view;
+}
+
+void soon(std::function<void()> act) {
+    static std::function<void()> pending;
+    pending = std::move(act);
+    SetTimer(nullptr, 0, 30, [](HWND, UINT, UINT_PTR timer, DWORD) {
+        KillTimer(nullptr, timer);
+        const auto now = std::exchange(pending, nullptr);
+        now();
+    });
+}
+
+HWND popupOf(HWND dialog) {
+    struct Search {
+        HWND dialog;
+        HWND found;
+    } search{dialog, nullptr};
+    EnumThreadWindows(
+        GetCurrentThreadId(),
+        [](HWND window, LPARAM parameter) -> BOOL {
+            auto& sought = *reinterpret_cast<Search*>(parameter);
+            const bool popup = (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_NOACTIVATE) != 0;
+            if (popup && GetWindow(window, GW_OWNER) == sought.dialog) sought.found = window;
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+HWND tipOf(HWND dialog) {
+    HWND tip = nullptr;
+    while ((tip = FindWindowExW(nullptr, tip, L"tooltips_class32", nullptr)) != nullptr)
+        if (GetWindow(tip, GW_OWNER) == dialog) return tip;
+    return nullptr;
 }
 
 int gdiObjects() {

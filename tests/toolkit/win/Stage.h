@@ -64,6 +64,8 @@ public:
     void key(WORD key);
     void keyWith(WORD modifier, WORD key);
     void type(const std::wstring& text);
+    /// Opens a menu and strikes keys in it.
+    void useMenu(const std::function<void()>& open, const std::vector<WORD>& keys);
 
 private:
     std::map<HWND, int> paints_;
@@ -106,6 +108,21 @@ private:
 
 /// A view with what the tests need of it.
 [[nodiscard]] ItemView itemView(ControlKind kind, Bounds bounds, std::string text = {});
+
+/// Does something a while after a loop has begun to serve messages.
+void soon(std::function<void()> act);
+
+/// The popup of an item of `dialog` that is open, or null.
+[[nodiscard]] HWND popupOf(HWND dialog);
+/// The window of its tips, or null.
+[[nodiscard]] HWND tipOf(HWND dialog);
+
+/// A window as the host's.
+struct Owner {
+    HWND window = CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0,
+                                  400, 300, nullptr, nullptr, nullptr, nullptr);
+    ~Owner() { DestroyWindow(window); }
+};
 
 /// How many GDI objects this process has, counted in the table that Windows keeps of them.
 [[nodiscard]] int gdiObjects();
