@@ -1,4 +1,4 @@
-#include "toolkit/ImplWin/CoADMDrawer.h"
+#include "toolkit/ImplWin/CoADMImage.h"
 
 #include "toolkit/ImplCommon/CoADMIcon.h"
 #include "toolkit/ImplCommon/Slots.h"
@@ -88,6 +88,16 @@ void drawIcon(ADMDrawerRef drawer, ADMIconRef icon, const ADMPoint* corner) {
 }
 void drawIconCentred(ADMDrawerRef drawer, ADMIconRef icon, const ADMRect* rect) {
     objectOf(drawer).drawPictureCentred(objectOf(icon).id(), boundsOf(rect));
+}
+
+void drawImage(ADMDrawerRef drawer, ADMImageRef image, const ADMPoint* corner) {
+    objectOf(drawer).drawImage(objectOf(image).surface(), placeOf(corner));
+}
+void drawImageCentred(ADMDrawerRef drawer, ADMImageRef image, const ADMRect* rect) {
+    CoADMImage& known = objectOf(image);
+    const auto [left, top, right, bottom] = boundsOf(rect);
+    objectOf(drawer).drawImage(
+        known.surface(), {(left + right - known.width()) / 2, (top + bottom - known.height()) / 2});
 }
 
 template <typename Unit> ADMInt32 textWidthOf(ADMDrawerRef drawer, const Unit* text) {
@@ -186,8 +196,8 @@ const ADMDrawerSuite kDrawerSuite = {
     .DrawRightArrow = call<&drawArrow<Arrow::Right>>,
     .Create = stub<"Create">,
     .Destroy = stub<"Destroy">,
-    .DrawADMImage = stub<"DrawADMImage">,
-    .DrawADMImageCentered = stub<"DrawADMImageCentered">,
+    .DrawADMImage = drawImage,
+    .DrawADMImageCentered = drawImageCentred,
     .GetADMWindowPort = stub<"GetADMWindowPort">,
     .ReleaseADMWindowPort = stub<"ReleaseADMWindowPort">,
     .GetThisFontInfo = getThisFontInfo,

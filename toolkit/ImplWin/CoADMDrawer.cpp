@@ -211,6 +211,22 @@ void CoADMDrawer::drawPictureCentred(int id, const Bounds& rect) {
                      rect.top + (rect.bottom - rect.top - size.height) / 2});
 }
 
+void CoADMDrawer::drawImage(Surface& image, Place corner) {
+    if (!surface_ || !image) return;
+    const auto [width, height] = image.size();
+    const RECT place = toPixels(Bounds{corner.x, corner.y, corner.x + static_cast<int>(width),
+                                       corner.y + static_cast<int>(height)});
+    image.graphics().Flush(Gdiplus::FlushIntentionSync);
+    Gdiplus::Bitmap pixels(width, height, width * 4, PixelFormat32bppRGB,
+                           reinterpret_cast<BYTE*>(image.row(0).data()));
+    Gdiplus::ImageAttributes edges; // or what lies around them would show at the edges
+    edges.SetWrapMode(Gdiplus::WrapModeTileFlipXY);
+    surface_.graphics().DrawImage(
+        &pixels,
+        Gdiplus::Rect(place.left, place.top, place.right - place.left, place.bottom - place.top), 0,
+        0, width, height, Gdiplus::UnitPixel, &edges);
+}
+
 Extent CoADMDrawer::pictureSize(int id) const {
     const SIZE size = screen_.pictures.size(id, screen_.palette.dark);
     return {static_cast<int>(size.cx), static_cast<int>(size.cy)};

@@ -75,6 +75,9 @@ public:
     void drawPictureCentred(int id, const Bounds& rect);
     [[nodiscard]] Extent pictureSize(int id) const;
 
+    /// The pixels of `image` take up as many units.
+    void drawImage(Surface& image, Place corner);
+
     /// `start` is on the baseline.
     void drawText(std::wstring_view text, Place start);
     /// One line, vertically centred, clipped.

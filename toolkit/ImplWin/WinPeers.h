@@ -1,6 +1,7 @@
 #pragma once
 
 #include "toolkit/ImplCommon/Peers.h"
+#include "toolkit/ImplWin/CoADMImage.h"
 #include "toolkit/ImplWin/Screen.h"
 
 namespace NRDM {
@@ -20,10 +21,12 @@ public:
     void themeChanged() override;
 
     [[nodiscard]] Screen& screen() noexcept { return *screen_; }
+    [[nodiscard]] Images& images() noexcept { return images_; }
 
 private:
     const Theme& theme_;
     std::unique_ptr<Screen> screen_;
+    Images images_;
 };
 
 } // namespace NRDM
