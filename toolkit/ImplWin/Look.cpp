@@ -195,15 +195,15 @@ void drawArrowPart(const Canvas& canvas, const RECT& area, Arrow arrow, const Fa
               state.enabled ? mix(palette.field, palette.fieldText, 0.78) : palette.dimText);
 }
 
-RECT drawPopup(const Canvas& canvas, const RECT& area, const FaceState& state) {
+RECT drawPopup(const Canvas& canvas, const RECT& area, Arrow arrow, const FaceState& state) {
     FaceState face = state;
     face.isDefault = false;
     drawButton(canvas, area, face);
     const int arrowWidth = canvas.scale.toPixels(18);
-    RECT arrow = area;
-    arrow.left = arrow.right - arrowWidth;
-    drawArrow(canvas, arrow, Arrow::Down, textColour(canvas.palette, state));
-    return {area.left + canvas.scale.toPixels(7), area.top, arrow.left, area.bottom};
+    RECT part = area;
+    part.left = part.right - arrowWidth;
+    drawArrow(canvas, part, arrow, textColour(canvas.palette, state));
+    return {area.left + canvas.scale.toPixels(7), area.top, part.left, area.bottom};
 }
 
 int thumbRadius(Scale scale) { return scale.toPixels(5); }

@@ -57,8 +57,9 @@ void drawArrow(const Canvas& canvas, const RECT& area, Arrow arrow, Colour colou
 /// One of the two buttons at the side of a spin edit, or the arrow part of an edit with a popup.
 void drawArrowPart(const Canvas& canvas, const RECT& area, Arrow arrow, const FaceState& state);
 
-/// A popup list's face; returns what is left for the text beside the arrow.
-RECT drawPopup(const Canvas& canvas, const RECT& area, const FaceState& state);
+/// The face of a popup list or menu, its arrow to where that opens; returns what is left for the
+/// text beside the arrow.
+RECT drawPopup(const Canvas& canvas, const RECT& area, Arrow arrow, const FaceState& state);
 
 /// The bar of a slider; `thumb` is the middle of its thumb.
 void drawSlider(const Canvas& canvas, const RECT& area, int thumb, const FaceState& state);

@@ -40,7 +40,7 @@ bool NRDMListPopup::hasMoved(POINT point) {
 
 RECT NRDMListPopup::inside() const {
     RECT area = client();
-    InflateRect(&area, -1, -scale().toPixels(kEdge));
+    InflateRect(&area, -scale().line(), -scale().toPixels(kEdge));
     return area;
 }
 

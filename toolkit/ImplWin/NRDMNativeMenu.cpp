@@ -30,10 +30,16 @@ void NRDMNativeMenuItem::draw(const DRAWITEMSTRUCT& request, const Palette& pale
                SRCCOPY);
 }
 
-NRDMNativeMenu::NRDMNativeMenu(const std::vector<EntryView>& entries, TextStyle style)
+NRDMNativeMenu::NRDMNativeMenu(const std::vector<EntryView>& entries, TextStyle style, Colour back)
     : items_(entries.begin(), entries.end()), style_(style) {
+    *back_.put() = CreateSolidBrush(toColorRef(back));
     *menu_.put() = CreatePopupMenu();
-    if (!menu_) throw NRDMResourceException();
+    if (!back_ || !menu_) throw NRDMResourceException();
+    MENUINFO look{};
+    look.cbSize = sizeof(look);
+    look.fMask = MIM_BACKGROUND;
+    look.hbrBack = back_.get();
+    SetMenuInfo(menu_.get(), &look);
     // Commands are positions plus one, because 0 is the system's word for no choice.
     for (std::size_t i = 0; i < items_.size(); ++i)
         items_[i].appendTo(menu_.get(), static_cast<UINT>(i + 1));

@@ -30,8 +30,8 @@ private:
 /// A menu of Windows that shows entries and answers with the position chosen.
 class NRDMNativeMenu {
 public:
-    /// Throws `NRDMResourceException`.
-    NRDMNativeMenu(const std::vector<EntryView>& entries, TextStyle style);
+    /// Throws `NRDMResourceException`. `back` is the colour between the entries and the frame.
+    NRDMNativeMenu(const std::vector<EntryView>& entries, TextStyle style, Colour back);
 
     /// Opens it with its corner at `corner` of the screen and serves it until it closes; -1 when
     /// nothing was chosen. `owner` hands the messages about the menu on to `notified`.
@@ -44,6 +44,7 @@ public:
 private:
     std::vector<NRDMNativeMenuItem> items_;
     TextStyle style_;
+    ai::Owned<GdiObjectTraits<HBRUSH>> back_;
     ai::Owned<MenuTraits> menu_;
 };
 

@@ -72,7 +72,7 @@ bool NRDMPopupList::wheel(int steps) {
 void NRDMPopupList::paint(const Canvas& canvas, const RECT& area) {
     FaceState now = state();
     now.pressed = popup_ != nullptr;
-    const RECT text = drawPopup(canvas, area, now);
+    const RECT text = drawPopup(canvas, area, Arrow::Down, now);
     const auto chosen = static_cast<std::size_t>(view().chosen);
     if (view().chosen < 0 || chosen >= view().entries.size() || !view().known) return;
     drawLine(canvas.surface, text,

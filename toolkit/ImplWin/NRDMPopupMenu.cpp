@@ -16,7 +16,7 @@ NRDMPopupMenu::NRDMPopupMenu(NativeDialog& dialog, const ItemView& view, ItemEve
 void NRDMPopupMenu::open() {
     if (menu_ != nullptr || view().entries.empty()) return;
     const std::weak_ptr<const char> alive = watch();
-    const NRDMNativeMenu menu(view().entries, textStyle());
+    const NRDMNativeMenu menu(view().entries, textStyle(), screen().palette.menu);
     menu_ = &menu;
     repaint();
     RECT place{};
@@ -58,7 +58,7 @@ void NRDMPopupMenu::paint(const Canvas& canvas, const RECT& area) {
         drawArrow(canvas, area, arrow, textColour(canvas.palette, now));
         return;
     }
-    const RECT text = drawPopup(canvas, area, now);
+    const RECT text = drawPopup(canvas, area, arrow, now);
     if (view().hasPicture)
         drawPicture(canvas, text, now);
     else

@@ -5,7 +5,7 @@
 namespace NRDM {
 namespace {
 
-/// ADM's cursors; any other number leaves the control's own.
+/// ADM's own cursors, which are the system's.
 LPCWSTR systemCursor(int number) {
     switch (number) {
     case -1:
@@ -24,6 +24,13 @@ LPCWSTR systemCursor(int number) {
     default:
         return nullptr;
     }
+}
+
+/// The cursor with ADM's number, or null for the control's own.
+HCURSOR cursorOf(const Screen& screen, int number) {
+    if (number > 0) return screen.cursorOf ? screen.cursorOf(number) : nullptr;
+    const LPCWSTR name = systemCursor(number);
+    return name != nullptr ? LoadCursorW(nullptr, name) : nullptr;
 }
 
 bool isMouseMessage(UINT message) { return message >= WM_MOUSEFIRST && message <= WM_MOUSELAST; }
@@ -163,8 +170,8 @@ LRESULT NativeItem::serve(UINT message, WPARAM wide, LPARAM lengthy) {
     case WM_GETDLGCODE:
         return DLGC_WANTALLKEYS; // a host's own dialog loop must not eat them
     case WM_SETCURSOR:
-        if (const LPCWSTR cursor = systemCursor(view_.cursor)) {
-            SetCursor(LoadCursorW(nullptr, cursor));
+        if (const HCURSOR cursor = cursorOf(screen(), view_.cursor)) {
+            SetCursor(cursor);
             return TRUE;
         }
         break;

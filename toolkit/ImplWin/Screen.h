@@ -24,6 +24,8 @@ struct Screen {
     /// Instead of the display's own scale.
     std::optional<Scale> fixedScale;
     std::vector<HWND> dialogs; ///< all there are
+    /// The cursor with an id of the plug-in's resources, or null.
+    std::function<HCURSOR(int id)> cursorOf;
     /// Told, inside its handler, of an exception that reached a window procedure.
     std::function<void()> failed;
 

@@ -1,20 +1,18 @@
 #include "toolkit/ImplWin/WinPeers.h"
 
 #include "toolkit/ImplCommon/Resources.h"
+#include "toolkit/ImplCommon/SystemCursors.h"
 
 namespace NRDM {
-namespace {
-
-/// The plug-in's own pictures; none while the host does not say where its library is.
-PictureSource picturesOfPlugin(SPPluginRef plugin) {
-    return picturesOf(reinterpret_cast<HMODULE>(resourceLibrary(plugin)));
-}
-
-} // namespace
+namespace {} // namespace
 
 std::unique_ptr<Peers> systemPeers(const Surroundings& surroundings) {
-    auto peers =
-        std::make_unique<WinPeers>(surroundings.theme, picturesOfPlugin(surroundings.plugin));
+    const SPPlatformAccessRef library = resourceLibrary(surroundings.plugin);
+    auto peers = std::make_unique<WinPeers>(surroundings.theme,
+                                            picturesOf(reinterpret_cast<HMODULE>(library)));
+    peers->screen().cursorOf = [library, cursors = std::make_shared<SystemCursors>()](int id) {
+        return static_cast<HCURSOR>(cursors->find(library, id));
+    };
     peers->screen().failed = surroundings.fail;
     return peers;
 }

@@ -12,6 +12,7 @@ namespace {
 
 constexpr int kTipFont = 13; // ADM's number
 constexpr int kWidestTip = 320;
+constexpr int kTipMargin = 4;
 
 TOOLINFOW entryOf(HWND dialog, const void* item) {
     TOOLINFOW entry{};
@@ -54,6 +55,9 @@ void ToolTips::create(HWND dialog) {
     *font_.put() = makeGdiFont(textStyleOf(kTipFont, true), scale);
     SendMessageW(window_.get(), WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), FALSE);
     SendMessageW(window_.get(), TTM_SETMAXTIPWIDTH, 0, scale.toPixels(kWidestTip));
+    const int margin = scale.toPixels(kTipMargin);
+    const RECT margins{margin, margin / 2, margin, margin / 2};
+    SendMessageW(window_.get(), TTM_SETMARGIN, 0, reinterpret_cast<LPARAM>(&margins));
 }
 
 void ToolTips::colour() const {

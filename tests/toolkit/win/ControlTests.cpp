@@ -329,6 +329,55 @@ TEST_CASE("a tip shows when the pointer rests on an item, a disabled one too") {
     }
 }
 
+TEST_CASE("the pointer over an item takes the cursor that the item is given") {
+    const HCURSOR ours = LoadCursorW(nullptr, IDC_UPARROW);
+    const HCURSOR arrow = LoadCursorW(nullptr, IDC_ARROW);
+    struct Row {
+        int number;
+        HCURSOR shown;
+    };
+    const Row rows[] = {
+        {0, arrow},     {-6, LoadCursorW(nullptr, IDC_HAND)}, {-9, arrow}, {16021, ours},
+        {16999, arrow}, // no such resource
+    };
+    Stage stage;
+    stage.peers.screen().cursorOf = [=](int id) { return id == 16021 ? ours : nullptr; };
+    StagedItem& item = stage.add(itemView(ControlKind::PushButton, {20, 20, 120, 44}, "Item"));
+    stage.open();
+    for (const auto& [number, shown] : rows) {
+        CAPTURE(number);
+        item.view.cursor = number;
+        item.peer->changed(Aspect::Look);
+        stage.move(stage.window(), {200, 200});
+        stage.move(item.window(), {10, 10});
+        CHECK(GetCursor() == shown);
+    }
+}
+
+TEST_CASE("a popup opened by a key leaves the choice to the keys, whatever the pointer rests on") {
+    Stage stage;
+    ItemView view = itemView(ControlKind::PopupList, {20, 20, 140, 44});
+    for (const char* const text : {"Points", "Inches", "Millimetres"}) {
+        EntryView entry;
+        entry.text = text;
+        view.entries.push_back(entry);
+    }
+    view.chosen = 1;
+    StagedItem& popup = stage.add(view);
+    stage.open();
+    stage.move(stage.window(), {40, 56}); // where its first entry will be
+    popup.peer->focus();
+    stage.key(VK_SPACE);
+    // What Windows sends when a window appears below a pointer at rest.
+    const HWND list = GetCapture();
+    REQUIRE(list != nullptr);
+    SendMessageW(list, WM_MOUSEMOVE, 0, MAKELPARAM(20, 12));
+    stage.key(VK_DOWN);
+    stage.log.clear();
+    stage.key(VK_RETURN);
+    CHECK(stage.log == Log{"choose 2"});
+}
+
 TEST_CASE("a user item is drawn by its owner and told the mouse") {
     Stage stage;
     StagedItem& item = stage.add(itemView(ControlKind::User, {20, 20, 60, 60}));
