@@ -69,8 +69,8 @@ TEST_CASE("pairs that nobody handles succeed and show nothing") {
 }
 
 TEST_CASE("whichever suite is refused, start-up fails with the host's code and gives all back") {
-    // The toolkit's own seven come first. Of those only the notifiers are indispensable; of the rest
-    // all but the overlay's drawer.
+    // The toolkit's own seven come first. Of those only the notifiers are indispensable; of the
+    // rest all but the overlay's drawer.
     constexpr int kToolkitSuites = 7;
     constexpr int kPanels = 2;
     constexpr int kNotifiers = 6;
