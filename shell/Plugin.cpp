@@ -5,6 +5,7 @@
 #include "host/suites/AINotifierSuite.h"
 #include "host/suites/SPAccessSuite.h"
 #include "host/suites/SPPluginsSuite.h"
+#include "shell/FacettaPlugin.h"
 #include "shell/Routing.h"
 
 #include <algorithm>
@@ -12,6 +13,14 @@
 #include <string>
 
 namespace facetta {
+namespace {
+
+/// Of a procedure that the toolkit called outside any message.
+void reportFailure() noexcept {
+    if (thePlugin != nullptr) thePlugin->ReportError(ai::currentErrorCode(), "", "", nullptr);
+}
+
+} // namespace
 
 void Plugin::ReportError(AIErr error, std::string_view, std::string_view, void*) {
     errors_.report(error);
@@ -26,7 +35,7 @@ AIErr Plugin::LockPlugin(bool lock) {
 }
 
 AIErr Plugin::Startup(SPInterfaceMessage&) {
-    toolkit_.emplace(self_);
+    toolkit_.emplace(self_, reportFailure);
     ai::check(SetGlobal(this));
     ai::check(acquireSuites());
     ai::check(addStartedNotifier());
@@ -69,7 +78,7 @@ AIErr Plugin::Unload(SPAccessMessage&) {
 
 AIErr Plugin::Reload(SPAccessMessage&) {
     ai::check(SetGlobal(this));
-    if (toolkit_) toolkit_->reloaded();
+    if (toolkit_) toolkit_->reloaded(reportFailure);
     // A holder that survived has its suites, but the library's pointers to them are new and empty.
     const AIErr err = suites_ ? suites_->refresh() : acquireSuites();
     if (err != kNoErr) {

@@ -39,11 +39,11 @@ constexpr ColourRow kColours[] = {
 
 std::unique_ptr<Peers> Toolkit::makePeers(void* toolkit) {
     const Toolkit& self = *static_cast<Toolkit*>(toolkit);
-    return systemPeers({.theme = self.theme_, .plugin = self.self_, .fail = nullptr});
+    return systemPeers({.theme = self.theme_, .plugin = self.self_, .fail = self.failed_});
 }
 
-Toolkit::Toolkit(SPPluginRef self)
-    : self_(self), cursors_(self), dialogs_(theme_, makePeers, this) {
+Toolkit::Toolkit(SPPluginRef self, Failed failed)
+    : self_(self), failed_(failed), cursors_(self), dialogs_(theme_, makePeers, this) {
     ai::check(notifierSuite_.acquire());
     if (themeSuite_.acquire() == kNoErr) readTheme();
     static_assert(std::size(kNotifiers) == kNotifierCount);

@@ -17,8 +17,12 @@ namespace NRDM {
 /// suites are acquired and so holds those that it needs itself.
 class Toolkit {
 public:
+    /// Called inside the handler of an exception that a client's procedure let out and that no
+    /// caller can be told of.
+    using Failed = void (*)() noexcept;
+
     /// Acquires the toolkit's suites and registers its notifiers. Throws `ai::Error`.
-    explicit Toolkit(SPPluginRef self);
+    Toolkit(SPPluginRef self, Failed failed);
     Toolkit(const Toolkit&) = delete;
     Toolkit& operator=(const Toolkit&) = delete;
 
@@ -26,7 +30,10 @@ public:
     void unloading() noexcept { dialogs_.closeAll(); }
 
     /// The library has been loaded again, at another place: what its own variables held is lost.
-    void reloaded() noexcept { dialogs_.announce(makePeers); }
+    void reloaded(Failed failed) noexcept {
+        failed_ = failed;
+        dialogs_.announce(makePeers);
+    }
 
     /// Serves a notification of the toolkit's own; the plug-in's handling goes on afterwards.
     /// False when `notifier` is none of the toolkit's.
@@ -45,6 +52,7 @@ private:
     static std::unique_ptr<Peers> makePeers(void* toolkit);
 
     SPPluginRef self_;
+    Failed failed_;
 
     ai::SuiteLease<AINotifierSuite, kAINotifierSuite, kAINotifierSuiteVersion> notifierSuite_;
     /// Without it the controls keep the light colours.

@@ -1,6 +1,8 @@
 #include "tests/shell/Session.h"
 
+#include "host/Error.h"
 #include "host/MessageNames.h"
+#include "toolkit/ImplCommon/CoADMDialog.h"
 #include "toolkit/Toolkit.h"
 
 using namespace facetta;
@@ -9,7 +11,7 @@ using namespace facetta::tests;
 TEST_CASE("the toolkit follows the interface's brightness until the host closes") {
     Session session;
     session.host.start();
-    NRDM::Toolkit toolkit(session.plugin);
+    NRDM::Toolkit toolkit(session.plugin, nullptr);
     CHECK_FALSE(toolkit.theme().dark);
     const float light = toolkit.theme().background.red;
 
@@ -37,4 +39,19 @@ TEST_CASE("the toolkit follows the interface's brightness until the host closes"
     CHECK(serve(kApplicationShutdownNotifier));
     CHECK(serve(kUIBrightnessChangedNotifier));
     CHECK_FALSE(toolkit.theme().dark); // nothing is drawn any more
+}
+
+TEST_CASE("what a panel's procedure lets out is shown to the user once, and goes no further") {
+    Session session;
+    session.host.start();
+    const auto& open = NRDM::Dialogs::current().open();
+    REQUIRE(open.size() == 1);
+    open.front()->procedures.notify = [](ADMDialogRef, ADMNotifierRef) {
+        throw ai::Error(kBadParameterErr);
+    };
+    const AIPanelRef panel = session.host.panels.named(U"Facetta");
+    session.host.cyclePanel(panel);
+    session.host.cyclePanel(panel);
+    REQUIRE(session.host.user.alerts.size() == 1);
+    CHECK(session.host.user.alerts.front().text.find("PARM") != std::string::npos);
 }

@@ -120,7 +120,7 @@ TEST_CASE("the toolkit hears of colours and of the host's end under names of its
     std::optional<Toolkit> toolkit;
     plugin.on("SP Interface/Startup", [&](SPMessageData& message) {
         ai::basicSuite = message.basic;
-        toolkit.emplace(plugin.self());
+        toolkit.emplace(plugin.self(), nullptr);
         return kNoErr;
     });
     plugin.on("SP Interface/Shutdown", [&](SPMessageData&) {
