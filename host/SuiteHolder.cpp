@@ -8,24 +8,37 @@ namespace ai {
 namespace {
 
 /// Acquires one row; null is stored when the host refuses.
-SPErr acquireRow(const SuiteRow& row) noexcept {
-    const void* table = nullptr;
-    const SPErr err = basicSuite->AcquireSuite(row.name, row.version, &table);
-    row.store(err == 0 ? table : nullptr);
-    return err;
+AcquiredSuite acquireRow(const SuiteRow& row) noexcept {
+    const AcquiredSuite acquired = acquireSuite(row.name, row.version, row.fallbacks);
+    row.store(acquired.functions);
+    return acquired;
 }
 
 } // namespace
+
+AcquiredSuite acquireSuite(const char* name, ai::int32 version,
+                           std::span<const ai::int32> fallbacks) noexcept {
+    const auto acquire = [name](ai::int32 wanted) {
+        const void* table = nullptr;
+        const SPErr error = basicSuite->AcquireSuite(name, wanted, &table);
+        return error == 0 ? AcquiredSuite{0, wanted, table} : AcquiredSuite{error, 0, nullptr};
+    };
+    const AcquiredSuite first = acquire(version);
+    if (first.error == 0) return first;
+    for (const ai::int32 fallback : fallbacks)
+        if (const AcquiredSuite other = acquire(fallback); other.error == 0) return other;
+    return first;
+}
 
 SPErr SuiteHolder::acquire() noexcept {
     const auto rows = suiteTable();
     assert(rows.size() <= kMostSuites);
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        const SPErr err = acquireRow(rows[i]);
-        held_[i] = err == 0;
-        if (err != 0 && rows[i].need == Need::Required) {
+        const AcquiredSuite acquired = acquireRow(rows[i]);
+        held_[i] = acquired.version;
+        if (acquired.error != 0 && rows[i].need == Need::Required) {
             release();
-            return err;
+            return acquired.error;
         }
     }
     return 0;
@@ -34,20 +47,21 @@ SPErr SuiteHolder::acquire() noexcept {
 void SuiteHolder::acquireOptional() noexcept {
     const auto rows = suiteTable();
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (rows[i].need == Need::Optional && !held_[i]) held_[i] = acquireRow(rows[i]) == 0;
+        if (rows[i].need == Need::Optional && held_[i] == 0) held_[i] = acquireRow(rows[i]).version;
     }
 }
 
 SPErr SuiteHolder::refresh() noexcept {
     const auto rows = suiteTable();
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (!held_[i]) continue;
-        const SPErr err = acquireRow(rows[i]);
-        if (err != 0) {
+        if (held_[i] == 0) continue;
+        const AcquiredSuite acquired = acquireRow(rows[i]);
+        if (acquired.error != 0) {
             release();
-            return err;
+            return acquired.error;
         }
-        basicSuite->ReleaseSuite(rows[i].name, rows[i].version); // held once before, held once now
+        basicSuite->ReleaseSuite(rows[i].name, held_[i]); // held once before, held once now
+        held_[i] = acquired.version;
     }
     return 0;
 }
@@ -55,10 +69,10 @@ SPErr SuiteHolder::refresh() noexcept {
 void SuiteHolder::release() noexcept {
     const auto rows = suiteTable();
     for (std::size_t i = rows.size(); i-- > 0;) {
-        if (!held_[i]) continue;
+        if (held_[i] == 0) continue;
         rows[i].store(nullptr);
-        basicSuite->ReleaseSuite(rows[i].name, rows[i].version);
-        held_[i] = false;
+        basicSuite->ReleaseSuite(rows[i].name, held_[i]);
+        held_[i] = 0;
     }
 }
 

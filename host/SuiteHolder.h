@@ -3,10 +3,26 @@
 #include "host/Suites.h"
 #include "host/suites/SPBasicSuite.h"
 
-#include <bitset>
+#include <array>
 #include <cstddef>
+#include <span>
 
 namespace ai {
+
+/// What a host answers to the wish for a suite. The version is that to release.
+struct AcquiredSuite {
+    SPErr error = 0;
+    ai::int32 version = 0;           ///< 0: not acquired.
+    const void* functions = nullptr; ///< Null: not acquired.
+};
+
+/// Acquires the suite in this version, or in the first of `fallbacks` that the host has. When it
+/// has none, the error is the one for `version`.
+[[nodiscard]] AcquiredSuite acquireSuite(const char* name, ai::int32 version,
+                                         std::span<const ai::int32> fallbacks) noexcept;
+
+/// For a suite that is good in one version only.
+inline constexpr std::array<ai::int32, 0> kNoFallbacks{};
 
 /// Acquires the suites of `suiteTable()` into `ai::suites` and gives them back.
 ///
@@ -35,11 +51,13 @@ public:
 private:
     static constexpr std::size_t kMostSuites = 192; // the table has some 140 rows
 
-    std::bitset<kMostSuites> held_;
+    /// The version in which each row is held, 0 where it is not.
+    std::array<ai::int32, kMostSuites> held_{};
 };
 
 /// One suite held apart from the table, by whoever starts before the table is acquired.
-template <typename Suite, const char* Name, ai::int32 Version> class SuiteLease {
+template <typename Suite, const char* Name, ai::int32 Version, const auto& Fallbacks = kNoFallbacks>
+class SuiteLease {
 public:
     SuiteLease() noexcept = default;
     ~SuiteLease() { release(); }
@@ -47,40 +65,40 @@ public:
     SuiteLease& operator=(const SuiteLease&) = delete;
 
     [[nodiscard]] SPErr acquire() noexcept {
-        const void* table = nullptr;
-        const SPErr err = basicSuite->AcquireSuite(Name, Version, &table);
-        functions_ = err == 0 ? static_cast<const Suite*>(table) : nullptr;
-        return err;
+        acquired_ = acquireSuite(Name, Version, Fallbacks);
+        return acquired_.error;
     }
 
     void release() noexcept {
-        if (functions_ != nullptr) basicSuite->ReleaseSuite(Name, Version);
-        functions_ = nullptr;
+        if (acquired_.functions != nullptr) basicSuite->ReleaseSuite(Name, acquired_.version);
+        acquired_ = {};
     }
 
-    [[nodiscard]] explicit operator bool() const noexcept { return functions_ != nullptr; }
-    const Suite* operator->() const noexcept { return functions_; }
-    const Suite& operator*() const noexcept { return *functions_; }
+    [[nodiscard]] explicit operator bool() const noexcept { return acquired_.functions != nullptr; }
+    const Suite* operator->() const noexcept {
+        return static_cast<const Suite*>(acquired_.functions);
+    }
+    const Suite& operator*() const noexcept { return *operator->(); }
 
 private:
-    const Suite* functions_ = nullptr;
+    AcquiredSuite acquired_;
 };
 
 /// Sees to it that one pointer of `ai::suites` is filled for a while: borrows the suite when nobody
 /// holds it, as before start-up and after a failed one.
-template <auto Member, const char* Name, ai::int32 Version> class BorrowedSuite {
+template <auto Member, const char* Name, ai::int32 Version, const auto& Fallbacks = kNoFallbacks>
+class BorrowedSuite {
 public:
     BorrowedSuite() noexcept {
         if (suites.*Member != nullptr) return;
-        const void* table = nullptr;
-        if (basicSuite->AcquireSuite(Name, Version, &table) != 0) return;
-        suites.*Member = static_cast<decltype(+(suites.*Member))>(table);
-        borrowed_ = true;
+        const AcquiredSuite acquired = acquireSuite(Name, Version, Fallbacks);
+        suites.*Member = static_cast<decltype(+(suites.*Member))>(acquired.functions);
+        borrowedVersion_ = acquired.version;
     }
     ~BorrowedSuite() {
-        if (!borrowed_) return;
+        if (borrowedVersion_ == 0) return;
         suites.*Member = nullptr;
-        basicSuite->ReleaseSuite(Name, Version);
+        basicSuite->ReleaseSuite(Name, borrowedVersion_);
     }
     BorrowedSuite(const BorrowedSuite&) = delete;
     BorrowedSuite& operator=(const BorrowedSuite&) = delete;
@@ -89,7 +107,7 @@ public:
     [[nodiscard]] explicit operator bool() const noexcept { return suites.*Member != nullptr; }
 
 private:
-    bool borrowed_ = false;
+    ai::int32 borrowedVersion_ = 0;
 };
 
 } // namespace ai

@@ -54,15 +54,27 @@ namespace {
 
 template <auto Member>
 constexpr SuiteRow row(const char* name, ai::int32 version, Need need = Need::Required) {
-    return {name, version, need, [](const void* table) {
+    return {name,
+            version,
+            need,
+            [](const void* table) {
                 using Pointer = std::remove_reference_t<decltype(suites.*Member)>;
                 suites.*Member = static_cast<Pointer>(table);
-            }};
+            },
+            {}};
+}
+
+constexpr SuiteRow withFallbacks(SuiteRow row, std::span<const ai::int32> fallbacks) {
+    row.fallbacks = fallbacks;
+    return row;
 }
 
 template <std::size_t Index> constexpr SuiteRow text(const char* name, ai::int32 version) {
-    return {name, version, Need::Required,
-            [](const void* table) { std::get<Index>(suites.text) = table; }};
+    return {name,
+            version,
+            Need::Required,
+            [](const void* table) { std::get<Index>(suites.text) = table; },
+            {}};
 }
 
 constexpr SuiteRow kRows[] = {
@@ -206,8 +218,10 @@ constexpr SuiteRow kRows[] = {
 
     // What the shell needs besides.
     row<&Suites::notifier>(kAINotifierSuite, kAINotifierSuiteVersion),
-    row<&Suites::appContext>(kAIAppContextSuite, kAIAppContextSuiteVersion),
-    row<&Suites::plugins>(kSPPluginsSuite, kSPPluginsSuiteVersion),
+    withFallbacks(row<&Suites::appContext>(kAIAppContextSuite, kAIAppContextSuiteVersion),
+                  kAIAppContextSuiteFallbacks),
+    withFallbacks(row<&Suites::plugins>(kSPPluginsSuite, kSPPluginsSuiteVersion),
+                  kSPPluginsSuiteFallbacks),
     row<&Suites::access>(kSPAccessSuite, kSPAccessSuiteVersion),
     row<&Suites::blocks>(kSPBlocksSuite, kSPBlocksSuiteVersion),
     row<&Suites::annotatorDrawer>(kAIAnnotatorDrawerSuite, kAIAnnotatorDrawerSuiteVersion,

@@ -36,7 +36,8 @@ void showAlert(std::string_view text) {
                             kAIUnicodeStringSuiteVersion>
         strings;
     const ai::BorrowedSuite<&ai::Suites::user, kAIUserSuite, kAIUserSuiteVersion> user;
-    const ai::BorrowedSuite<&ai::Suites::appContext, kAIAppContextSuite, kAIAppContextSuiteVersion>
+    const ai::BorrowedSuite<&ai::Suites::appContext, kAIAppContextSuite, kAIAppContextSuiteVersion,
+                            kAIAppContextSuiteFallbacks>
         context;
     if (strings && user && ai::liesAsDeclared(*ai::suites.user))
         ai::suites.user->WarningAlert(ai::UnicodeString(widened(text)), nullptr);

@@ -103,6 +103,12 @@ AnySuiteTable& SuiteServer::at(std::string_view name, ai::int32 version) {
     return *tables_.at({std::string(name), version});
 }
 
+void SuiteServer::renumber(std::string_view name, ai::int32 from, ai::int32 to) {
+    auto table = tables_.extract({std::string(name), from});
+    table.key().second = to;
+    tables_.insert(std::move(table));
+}
+
 SPErr SuiteServer::acquire(const char* name, ai::int32 version, const void** functions) {
     if (name == nullptr || functions == nullptr) return kSPBadParameterError;
     *functions = nullptr;

@@ -68,6 +68,10 @@ public:
         return SuiteTable<Suite>(at(name, version));
     }
 
+    /// Offers a suite under another version than it has, as a host of another generation does.
+    /// Nobody may hold it.
+    void renumber(std::string_view name, ai::int32 from, ai::int32 to);
+
     /// 'S!Fd' and null when there is no such suite, or when acquiring it is made to fail.
     SPErr acquire(const char* name, ai::int32 version, const void** functions);
     /// The table of a suite, without counting; null when there is no such suite.

@@ -3,8 +3,12 @@
 #include "host/Handles.h"
 #include "host/Types.h"
 
+#include <array>
+
 inline constexpr char kAIPanelFlyoutMenuSuite[] = "AI Panel Flyout Menu Suite";
 inline constexpr ai::int32 kAIPanelFlyoutMenuSuiteVersion = 1;
+/// A newer version, numbered anew because of reals, of which this suite has none.
+inline constexpr std::array<ai::int32, 1> kAIPanelFlyoutMenuSuiteFallbacks{2};
 
 /// What stands before the text of an item.
 enum class AIPanelFlyoutMenuItemMark : ai::int32 {

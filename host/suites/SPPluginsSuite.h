@@ -4,8 +4,12 @@
 #include "host/Messages.h"
 #include "host/Types.h"
 
+#include <array>
+
 inline constexpr char kSPPluginsSuite[] = "SP Plug-ins Suite";
 inline constexpr ai::int32 kSPPluginsSuiteVersion = 4;
+/// Newer versions: slots are added behind, and some take wider file names.
+inline constexpr std::array<ai::int32, 2> kSPPluginsSuiteFallbacks{6, 5};
 
 struct SPPluginsSuite {
     SPErr (*AllocatePluginList)(SPStringPoolRef, SPPluginListRef*);

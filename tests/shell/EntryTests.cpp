@@ -2,6 +2,9 @@
 
 #include "host/MessageNames.h"
 #include "host/SuiteTable.h"
+#include "host/suites/AIAppContextSuite.h"
+#include "host/suites/AIPathSuite.h"
+#include "host/suites/SPPluginsSuite.h"
 
 #include <cstring>
 
@@ -92,6 +95,39 @@ TEST_CASE("whichever suite is refused, start-up fails with the host's code and g
         session.send("AI Menu", "AI Go", AIMenuMessage{}); // tries the optional ones again
         CHECK(ai::suites.annotatorDrawer != nullptr);
         session.send(kCallerInterface, kSelectorShutdown);
+    }
+}
+
+TEST_CASE("a host with another version of the same slots is served, and gets that version back") {
+    struct Offer {
+        const char* suite;
+        ai::int32 wanted;
+        ai::int32 offered;
+        bool starts;
+    };
+    const Offer offers[] = {
+        {kAIAppContextSuite, kAIAppContextSuiteVersion, 5, true},
+        {kAIAppContextSuite, kAIAppContextSuiteVersion, 4, true},
+        {kAIAppContextSuite, kAIAppContextSuiteVersion, 7, false},
+        {kSPPluginsSuite, kSPPluginsSuiteVersion, 6, true},
+        {kSPPluginsSuite, kSPPluginsSuiteVersion, 5, true},
+        {kAIPathSuite, kAIPathSuiteVersion, 11, false}, // reals have twice the bits there
+    };
+    for (const auto& [suite, wanted, offered, starts] : offers) {
+        INFO(std::string(suite), ' ', offered);
+        easel::suiteServer().renumber(suite, wanted, offered);
+        {
+            Session session;
+            session.startUpMayFail = true;
+            CHECK((session.send(kCallerInterface, kSelectorStartup) == kNoErr) == starts);
+            if (starts) {
+                session.send(kCallerAccess, kSelectorUnload);
+                session.send(kCallerAccess, kSelectorReload);
+                session.send(kCallerInterface, kSelectorShutdown);
+            }
+            CHECK(easel::suiteServer().outstanding().empty());
+        }
+        easel::suiteServer().renumber(suite, offered, wanted);
     }
 }
 

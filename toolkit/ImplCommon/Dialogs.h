@@ -99,10 +99,15 @@ public:
 
     // The host's; empty in a host without them.
     ai::SuiteLease<AIPanelSuite, kAIPanelSuite, kAIPanelSuiteVersion> panels;
-    ai::SuiteLease<AIPanelFlyoutMenuSuite, kAIPanelFlyoutMenuSuite, kAIPanelFlyoutMenuSuiteVersion>
+    ai::SuiteLease<AIPanelFlyoutMenuSuite, kAIPanelFlyoutMenuSuite, kAIPanelFlyoutMenuSuiteVersion,
+                   kAIPanelFlyoutMenuSuiteFallbacks>
         flyoutMenus;
-    ai::SuiteLease<AIModalParentSuite, kAIModalParentSuite, kAIModalParentSuiteVersion> modalParent;
-    ai::SuiteLease<AIAppContextSuite, kAIAppContextSuite, kAIAppContextSuiteVersion> appContext;
+    ai::SuiteLease<AIModalParentSuite, kAIModalParentSuite, kAIModalParentSuiteVersion,
+                   kAIModalParentSuiteFallbacks>
+        modalParent;
+    ai::SuiteLease<AIAppContextSuite, kAIAppContextSuite, kAIAppContextSuiteVersion,
+                   kAIAppContextSuiteFallbacks>
+        appContext;
 
 private:
     CoADMDialog* create(const DialogRequest& request, const layout::Layout* layout);
