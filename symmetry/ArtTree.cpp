@@ -7,10 +7,28 @@
 #include "host/suites/AIGroupSuite.h"
 #include "host/suites/AILayerSuite.h"
 #include "host/suites/AIPathSuite.h"
+#include "host/suites/AIPluginGroupSuite.h"
 
 #include <algorithm>
 
 namespace facetta {
+namespace {
+
+/// A plug-in group does not list its edit and result art as children.
+std::vector<AIArtHandle> membersOf(AIArtHandle art) {
+    const ai::int16 type = typeOf(art);
+    if (type == kGroupArt || type == kCompoundPathArt) return childrenOf(art);
+    if (type != kPluginArt) return {};
+    AIArtHandle edit = nullptr;
+    AIArtHandle result = nullptr;
+    ai::check(suites.pluginGroup->GetPluginArtEditArt(art, &edit));
+    ai::check(suites.pluginGroup->GetPluginArtResultArt(art, &result));
+    std::vector<AIArtHandle> parts{edit, result};
+    std::erase(parts, nullptr);
+    return parts;
+}
+
+} // namespace
 
 AIArtHandle parentOf(AIArtHandle art) {
     AIArtHandle parent = nullptr;
@@ -43,19 +61,23 @@ std::vector<AIArtHandle> childrenOf(AIArtHandle art) {
     return children;
 }
 
-std::vector<AIArtHandle> pathsInside(AIArtHandle compound) {
-    std::vector<AIArtHandle> paths;
-    std::vector<AIArtHandle> toVisit{compound}; // a stack of its own: groups nest at any depth
+std::vector<AIArtHandle> artInside(AIArtHandle container) {
+    std::vector<AIArtHandle> inside;
+    std::vector<AIArtHandle> toVisit = membersOf(container); // a stack: groups nest at any depth
+    std::ranges::reverse(toVisit);
     while (!toVisit.empty()) {
         const AIArtHandle art = toVisit.back();
         toVisit.pop_back();
-        if (typeOf(art) == kPathArt) {
-            paths.push_back(art);
-            continue;
-        }
-        const std::vector<AIArtHandle> children = childrenOf(art);
-        toVisit.insert(toVisit.end(), children.rbegin(), children.rend());
+        inside.push_back(art);
+        const std::vector<AIArtHandle> members = membersOf(art);
+        toVisit.insert(toVisit.end(), members.rbegin(), members.rend());
     }
+    return inside;
+}
+
+std::vector<AIArtHandle> pathsInside(AIArtHandle compound) {
+    std::vector<AIArtHandle> paths = artInside(compound);
+    std::erase_if(paths, [](AIArtHandle art) { return typeOf(art) != kPathArt; });
     return paths;
 }
 

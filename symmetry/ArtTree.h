@@ -20,6 +20,10 @@ namespace facetta {
 /// Front-most first; empty for what is no container.
 [[nodiscard]] std::vector<AIArtHandle> childrenOf(AIArtHandle art);
 
+/// All that lies inside a container, at any depth, in paint order, a container before what it
+/// contains. Of a plug-in group, what its edit and result art contain.
+[[nodiscard]] std::vector<AIArtHandle> artInside(AIArtHandle container);
+
 /// The paths inside a compound path, at any depth, in paint order.
 [[nodiscard]] std::vector<AIArtHandle> pathsInside(AIArtHandle compound);
 

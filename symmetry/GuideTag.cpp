@@ -2,6 +2,7 @@
 
 #include "host/Error.h"
 #include "symmetry/ArtMarks.h"
+#include "symmetry/ArtTree.h"
 #include "symmetry/MirrorTag.h"
 
 namespace facetta::GuideTag {
@@ -24,6 +25,12 @@ void clear(AIArtHandle art) {
     const AIDictKey mark = key();
     if (entries && suites.dictionary->IsKnown(entries.get(), mark))
         ai::check(suites.dictionary->DeleteEntry(entries.get(), mark));
+}
+
+std::vector<AIArtHandle> marksInside(AIArtHandle container) {
+    std::vector<AIArtHandle> inside = artInside(container);
+    std::erase_if(inside, [](AIArtHandle art) { return !has(art); });
+    return inside;
 }
 
 } // namespace facetta::GuideTag

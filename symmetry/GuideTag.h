@@ -5,6 +5,8 @@
 
 #include "host/Handles.h"
 
+#include <vector>
+
 namespace facetta::GuideTag {
 
 /// The key of the mark, interned in the host.
@@ -17,5 +19,8 @@ void set(AIArtHandle art);
 
 /// Takes the mark off, if there is one.
 void clear(AIArtHandle art);
+
+/// What carries the mark inside `container`, at any depth.
+[[nodiscard]] std::vector<AIArtHandle> marksInside(AIArtHandle container);
 
 } // namespace facetta::GuideTag

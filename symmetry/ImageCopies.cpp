@@ -6,6 +6,7 @@
 #include "host/suites/AITransformArtSuite.h"
 #include "symmetry/ArtSpace.h"
 #include "symmetry/ArtTree.h"
+#include "symmetry/GuideTag.h"
 #include "symmetry/MirrorTag.h"
 
 namespace facetta {
@@ -50,9 +51,12 @@ void transformArt(AIArtHandle art, AIRealMatrix& matrix, Transform parts) {
     ai::check(suites.transformArt->TransformArt(art, &matrix, kSameStrokeWeight, optionsOf(parts)));
 }
 
+bool holdsGuides(AIArtHandle art) { return !GuideTag::marksInside(art).empty(); }
+
 CopySource copySource(AIArtHandle art, const MarkKeys& keys) {
     return {.art = art,
             .marks = marksOf(art, keys),
+            .holdsGuides = holdsGuides(art),
             .selected = attributesOf(art, kArtSelected) != 0,
             .parts = typeOf(art) == kPluginArt ? Transform::AndTellPlugins : Transform::Whole};
 }
@@ -62,6 +66,9 @@ AIArtHandle CopyMaker::make(const CopySource& source, AIRealMatrix& matrix,
     AIArtHandle copy = nullptr;
     ai::check(suites.art->DuplicateArt(source.art, kPlaceBelow, behind, &copy));
     transformArt(copy, matrix, source.parts);
+    if (source.holdsGuides)
+        for (const AIArtHandle guide : GuideTag::marksInside(copy))
+            GuideTag::clear(guide);
     if (mode_ == CopyMode::Live)
         markAndLock(copy, source);
     else

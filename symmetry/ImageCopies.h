@@ -34,9 +34,13 @@ void transformArt(AIArtHandle art, AIRealMatrix& matrix, Transform parts);
 struct CopySource {
     AIArtHandle art = nullptr;
     ArtMarks marks;
+    bool holdsGuides = false; ///< Something inside it carries the mark of a guide.
     bool selected = false;
     Transform parts = Transform::Whole;
 };
+
+/// Whether something inside `art` carries the mark of a guide. Throws `ai::Error`.
+[[nodiscard]] bool holdsGuides(AIArtHandle art);
 
 /// `source` with its marks and selection read from the host. Throws `ai::Error`.
 [[nodiscard]] CopySource copySource(AIArtHandle art, const MarkKeys& keys);

@@ -139,12 +139,13 @@ private:
     /// The copies lie directly behind `placed`, so that all images of one object are neighbours in
     /// paint order.
     void makeCopies(const Unit& unit, const PlacedArt& placed) {
-        const CopySource source{.art = placed.art,
-                                .marks = unit.marks,
-                                .selected = (unit.selection & kArtSelected) != 0,
-                                .parts = unit.kind == UnitKind::PluginGroup
-                                             ? Transform::AndTellPlugins
-                                             : Transform::Whole};
+        const CopySource source{
+            .art = placed.art,
+            .marks = unit.marks,
+            .holdsGuides = unit.kind != UnitKind::Path && holdsGuides(placed.art),
+            .selected = (unit.selection & kArtSelected) != 0,
+            .parts =
+                unit.kind == UnitKind::PluginGroup ? Transform::AndTellPlugins : Transform::Whole};
         AIArtHandle behind = placed.art;
         for (AIRealMatrix& matrix : matrices_.of(placed.images))
             behind = copies_.make(source, matrix, behind);

@@ -4,13 +4,16 @@
 #include "easel/document/Layers.h"
 #include "easel/document/Session.h"
 #include "symmetry/ArtSpace.h"
+#include "symmetry/ArtTree.h"
 #include "symmetry/GuideTag.h"
 #include "symmetry/MirrorTag.h"
 #include "tests/symmetry/EngineFixture.h"
 
 #include <doctest/doctest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <string>
 
 using namespace facetta;
 using easel::Art;
@@ -163,4 +166,25 @@ TEST_CASE("without a document there are no guides") {
     CHECK_FALSE(layerHasAxisGuides());
     CHECK_FALSE(removeAxisGuides(nullptr, false));
     easel::setCurrentDocument(&fixture.document());
+}
+
+TEST_CASE("a guide inside what is mirrored whole leaves no mark in the copies") {
+    for (const char* art : {"k(!a ~b)", "k(!a g(k(!b ~d)))", "p(b ~a)", "p(k(!a ~b))"}) {
+        for (const bool live : {true, false}) {
+            INFO(std::string(art), live ? ", live" : ", selected");
+            EngineFixture fixture;
+            fixture.build(fixture.layer(), art);
+            fixture.setAxes(2);
+            const AIArtHandle layer = fixture.layer().handle();
+            fixture.step([&] {
+                easel::selectAll(fixture.document());
+                for (const AIArtHandle path : pathsInside(layer))
+                    if (isGuide(path)) GuideTag::set(path);
+            });
+            REQUIRE(GuideTag::marksInside(layer).size() == 1);
+            live ? fixture.attach() : fixture.mirrorSelection();
+            CHECK(std::ranges::count_if(pathsInside(layer), isGuide) == 4);
+            CHECK(GuideTag::marksInside(layer).size() == 1);
+        }
+    }
 }
