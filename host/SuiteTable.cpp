@@ -47,8 +47,8 @@
 
 namespace ai {
 
-Suites suites;
-const SPBasicSuite* basicSuite = nullptr;
+Suites suites;                            // NOLINT(cppcoreguidelines-avoid-non-const-global*)
+const SPBasicSuite* basicSuite = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global*)
 
 namespace {
 

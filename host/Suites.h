@@ -109,12 +109,12 @@ struct Suites {
     std::array<const void*, 87> text{};
 };
 
-/// Written by `SuiteHolder` and `BorrowedSuite` only.
-extern Suites suites;
+/// Written by `SuiteHolder` and `BorrowedSuite` only, for whoever calls the host: all the program.
+extern Suites suites; // NOLINT(cppcoreguidelines-avoid-non-const-global*)
 
 /// Through which every suite is acquired. The host passes it with each message; the entry stores it
 /// before it does anything else.
-extern const SPBasicSuite* basicSuite;
+extern const SPBasicSuite* basicSuite; // NOLINT(cppcoreguidelines-avoid-non-const-global*)
 
 } // namespace ai
 
