@@ -69,11 +69,11 @@ void ContactFinder::examine(const PathShape& path) {
     sides_.clear();
     contacts_.clear();
     whole_ = Side::Nowhere;
-    collectCrossings(path);
+    const bool staysOnOneSide = collectCrossings(path);
 
     const std::size_t anchors = path.segments.size();
     if (crossings_.empty()) {
-        whole_ = sideOf(farthestMargin(0, anchors));
+        whole_ = sideOf(staysOnOneSide ? margins_.front() : farthestMargin(0, anchors));
         return;
     }
     for (std::size_t i = 0; i + 1 < crossings_.size(); ++i)
@@ -84,10 +84,11 @@ void ContactFinder::examine(const PathShape& path) {
         groupOpen(path);
 }
 
-void ContactFinder::collectCrossings(const PathShape& path) {
+bool ContactFinder::collectCrossings(const PathShape& path) {
     const std::vector<PathSegment>& segments = path.segments;
     margins_.resize(segments.size());
-    if (segments.empty()) return;
+    if (segments.empty()) return false;
+    bool allStayClear = true;
     const std::size_t curves = curveCount(path);
     Wedge::Distances here = wedge_.distances(segments.front().anchor);
     for (std::size_t i = 0; i < curves; ++i) {
@@ -96,8 +97,10 @@ void ContactFinder::collectCrossings(const PathShape& path) {
         margins_[i] = here.margin();
         const Wedge::Distances out = wedge_.distances(segments[i].out);
         const Wedge::Distances in = wedge_.distances(next.in);
-        if (!staysClear(here, out, in, there))
+        if (!staysClear(here, out, in, there)) {
             addCurveCrossings(i, curveAt(path, i), {here, out, in, there});
+            allStayClear = false;
+        }
         here = there;
     }
     if (!path.closed) {
@@ -105,6 +108,7 @@ void ContactFinder::collectCrossings(const PathShape& path) {
         const Crossing end = anchorCrossing(segments.size() - 1, segments.back().anchor);
         if (end.ray != Ray::None) crossings_.push_back(end);
     }
+    return allStayClear;
 }
 
 Crossing ContactFinder::anchorCrossing(std::size_t index, Point anchor) const {

@@ -118,7 +118,8 @@ public:
     [[nodiscard]] Side whole() const { return whole_; }
 
 private:
-    void collectCrossings(const PathShape& path);
+    /// True when every curve is clear of both rays, so that any anchor tells the side of all.
+    bool collectCrossings(const PathShape& path);
     [[nodiscard]] Crossing anchorCrossing(std::size_t index, Point anchor) const;
     void addCurveCrossings(std::size_t index, const Cubic& curve,
                            const std::array<Wedge::Distances, 4>& distances);
