@@ -10,7 +10,7 @@ template <slots::Name slot> inline constexpr Stub<"ADMIconSuite", slot> stub{};
 
 /// Icons of numbered families follow each other. There are no names.
 ADMIconRef getFromResource(SPPluginRef plugin, const char*, ADMInt32 id, ADMInt32 index) {
-    return Dialogs::current().icons.load(plugin, id + index);
+    return Dialogs::current().icons.make(plugin, id + index);
 }
 
 void destroy(CoADMIcon& icon) { Dialogs::current().icons.drop(icon); }

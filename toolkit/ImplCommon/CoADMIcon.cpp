@@ -1,9 +1,6 @@
 #include "toolkit/ImplCommon/CoADMIcon.h"
 
-#include "toolkit/ImplCommon/Exceptions.h"
 #include "toolkit/ImplCommon/Resources.h"
-
-#include <algorithm>
 
 namespace NRDM {
 namespace {
@@ -27,15 +24,6 @@ CoADMIcon::CoADMIcon(SPPluginRef plugin, int id) : id_(id) {
     const Bytes picture = findResource(resourceLibrary(plugin), ResourceKind::Picture, id);
     width_ = numberAt(picture, kWidthPlace);
     height_ = numberAt(picture, kHeightPlace);
-}
-
-CoADMIcon* Icons::load(SPPluginRef plugin, int id) {
-    return icons_.emplace_back(std::make_unique<CoADMIcon>(plugin, id)).get();
-}
-
-void Icons::drop(CoADMIcon& icon) {
-    if (std::erase_if(icons_, [&](const auto& one) { return one.get() == &icon; }) == 0)
-        throw NRDMParameterException();
 }
 
 } // namespace NRDM

@@ -3,9 +3,6 @@
 #include "host/Handles.h"
 #include "toolkit/suites/ADMTypes.h"
 
-#include <memory>
-#include <vector>
-
 namespace NRDM {
 
 /// A picture of a plug-in's resources. There is one in any case; of unknown type it shows nothing.
@@ -27,17 +24,6 @@ private:
     int id_;
     int width_ = 0;
     int height_ = 0;
-};
-
-/// The icons that clients have.
-class Icons {
-public:
-    CoADMIcon* load(SPPluginRef plugin, int id);
-    /// Throws `NRDMParameterException` for an icon that is gone.
-    void drop(CoADMIcon& icon);
-
-private:
-    std::vector<std::unique_ptr<CoADMIcon>> icons_;
 };
 
 } // namespace NRDM

@@ -6,6 +6,7 @@
 #include "host/suites/AIPanelFlyoutMenuSuite.h"
 #include "host/suites/AIPanelSuite.h"
 #include "toolkit/ImplCommon/CoADMIcon.h"
+#include "toolkit/ImplCommon/Lent.h"
 #include "toolkit/ImplCommon/Numbers.h"
 #include "toolkit/ImplCommon/Peers.h"
 #include "toolkit/ImplCommon/Theme.h"
@@ -95,7 +96,7 @@ public:
     [[nodiscard]] bool areTipsEnabled() const noexcept { return tipsEnabled_; }
 
     NumberCustoms customs;
-    Icons icons;
+    Lent<CoADMIcon> icons;
 
     // The host's; empty in a host without them.
     ai::SuiteLease<AIPanelSuite, kAIPanelSuite, kAIPanelSuiteVersion> panels;

@@ -1,4 +1,4 @@
-#include "toolkit/ImplWin/CoADMImage.h"
+#include "toolkit/ImplWin/WinPeers.h"
 
 #include "toolkit/ImplCommon/CoADMIcon.h"
 #include "toolkit/ImplCommon/Slots.h"
@@ -16,6 +16,18 @@ Place placeOf(const ADMPoint* point) {
     const auto& [h, v] = objectOf(point);
     return {h, v};
 }
+
+ADMDrawerRef create(ADMPortRef port, const ADMRect* rect, ADMFont font) {
+    WinPeers& peers = WinPeers::current();
+    const auto [left, top, right, bottom] = boundsOf(rect);
+    if (port == nullptr) throw NRDMParameterException();
+    CoADMDrawer* const drawer = peers.drawers().make(peers.screen(), static_cast<HDC>(port),
+                                                     RECT{left, top, right, bottom});
+    drawer->setFont(static_cast<int>(font));
+    return drawer;
+}
+/// Of drawers that `create` made; the others are lent.
+void destroy(CoADMDrawer& drawer) { WinPeers::current().drawers().drop(drawer); }
 
 /// Whatever encoding it came in.
 template <typename Unit> std::wstring wide(const Unit* text) { return toWide(textFrom(text)); }
@@ -194,8 +206,8 @@ const ADMDrawerSuite kDrawerSuite = {
     .DrawDownArrow = call<&drawArrow<Arrow::Down>>,
     .DrawLeftArrow = call<&drawArrow<Arrow::Left>>,
     .DrawRightArrow = call<&drawArrow<Arrow::Right>>,
-    .Create = stub<"Create">,
-    .Destroy = stub<"Destroy">,
+    .Create = create,
+    .Destroy = call<&destroy>,
     .DrawADMImage = drawImage,
     .DrawADMImageCentered = drawImageCentred,
     .GetADMWindowPort = stub<"GetADMWindowPort">,

@@ -1,6 +1,5 @@
 #include "toolkit/ImplWin/WinPeers.h"
 
-#include "toolkit/ImplCommon/Dialogs.h"
 #include "toolkit/ImplCommon/Slots.h"
 #include "toolkit/ImplCommon/SuiteTables.h"
 
@@ -9,13 +8,12 @@ namespace {
 
 template <slots::Name slot> inline constexpr Stub<"ADMImagesuite", slot> stub{};
 
-WinPeers& peers() { return dynamic_cast<WinPeers&>(Dialogs::current().peers()); }
-
 /// Images are opaque: there are no options.
 ADMImageRef create(ADMInt32 width, ADMInt32 height, ADMInt32) {
-    return peers().images().make(peers().screen(), {width, height});
+    WinPeers& peers = WinPeers::current();
+    return peers.images().make(peers.screen(), Extent{width, height});
 }
-void destroy(CoADMImage& image) { peers().images().drop(image); }
+void destroy(CoADMImage& image) { WinPeers::current().images().drop(image); }
 
 } // namespace
 

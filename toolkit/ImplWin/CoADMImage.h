@@ -3,7 +3,6 @@
 #include "toolkit/ImplWin/CoADMDrawer.h"
 
 #include <memory>
-#include <vector>
 
 namespace NRDM {
 
@@ -11,6 +10,7 @@ namespace NRDM {
 /// first.
 class CoADMImage {
 public:
+    /// Throws `NRDMParameterException` for a size without pixels.
     CoADMImage(Screen& screen, Extent size);
 
     [[nodiscard]] int width() const noexcept { return size_.width; }
@@ -28,18 +28,6 @@ private:
     Extent size_;
     Surface surface_;
     std::unique_ptr<CoADMDrawer> drawer_;
-};
-
-/// The images that clients have.
-class Images {
-public:
-    /// Throws `NRDMParameterException` for a size without pixels.
-    CoADMImage* make(Screen& screen, Extent size);
-    /// Throws `NRDMParameterException` for an image that is gone.
-    void drop(CoADMImage& image);
-
-private:
-    std::vector<std::unique_ptr<CoADMImage>> images_;
 };
 
 } // namespace NRDM

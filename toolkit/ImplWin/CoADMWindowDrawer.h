@@ -4,21 +4,25 @@
 
 namespace NRDM {
 
-/// A drawer for a window, between two paints of it: what is drawn appears when the drawer goes.
-class CoADMWindowDrawer {
+/// What a window, or any device context, shows in `area`, and shows again when this goes.
+class ShownPart {
 public:
-    CoADMWindowDrawer(Screen& screen, HWND window, bool inPanel);
-    ~CoADMWindowDrawer();
-    CoADMWindowDrawer(const CoADMWindowDrawer&) = delete;
-    CoADMWindowDrawer& operator=(const CoADMWindowDrawer&) = delete;
+    ShownPart(HDC target, const RECT& area);
+    ~ShownPart();
+    ShownPart(const ShownPart&) = delete;
+    ShownPart& operator=(const ShownPart&) = delete;
 
-    [[nodiscard]] CoADMDrawer& drawer() noexcept { return drawer_; }
-
-private:
-    HWND window_;
+protected:
+    HDC target_;
     RECT area_;
-    Surface surface_;
-    CoADMDrawer drawer_;
+    Surface pixels_;
+};
+
+/// A drawer for a device context of the client's, between two paints of its window: it begins with
+/// what is shown there, and what is drawn appears when the drawer goes. Units are pixels.
+class CoADMWindowDrawer final : ShownPart, public CoADMDrawer {
+public:
+    CoADMWindowDrawer(Screen& screen, HDC target, const RECT& area);
 };
 
 } // namespace NRDM

@@ -3,6 +3,8 @@
 #include "toolkit/ImplWin/NRDMListView.h"
 #include "toolkit/ImplWin/NativeDialog.h"
 
+#include "toolkit/ImplCommon/Dialogs.h"
+
 #include "toolkit/Toolkit.h"
 
 #include <algorithm>
@@ -94,6 +96,8 @@ int WinPeers::heightAt(const ItemView& view, DialogKind where, int width) const 
     const TextStyle style = textStyleOf(view.font, where == DialogKind::Panel);
     return wrappedHeight(captionOf(toWide(view.text)).text, style, {1.0}, width);
 }
+
+WinPeers& WinPeers::current() { return dynamic_cast<WinPeers&>(Dialogs::current().peers()); }
 
 void WinPeers::fail() noexcept {
     if (screen_->failed) screen_->failed();

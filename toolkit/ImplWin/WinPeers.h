@@ -1,7 +1,9 @@
 #pragma once
 
+#include "toolkit/ImplCommon/Lent.h"
 #include "toolkit/ImplCommon/Peers.h"
 #include "toolkit/ImplWin/CoADMImage.h"
+#include "toolkit/ImplWin/CoADMWindowDrawer.h"
 #include "toolkit/ImplWin/Screen.h"
 
 namespace NRDM {
@@ -21,12 +23,17 @@ public:
     void themeChanged() override;
 
     [[nodiscard]] Screen& screen() noexcept { return *screen_; }
-    [[nodiscard]] Images& images() noexcept { return images_; }
+    [[nodiscard]] Lent<CoADMImage>& images() noexcept { return images_; }
+    [[nodiscard]] Lent<CoADMWindowDrawer>& drawers() noexcept { return drawers_; }
+
+    /// Those of the running toolkit.
+    [[nodiscard]] static WinPeers& current();
 
 private:
     const Theme& theme_;
     std::unique_ptr<Screen> screen_;
-    Images images_;
+    Lent<CoADMImage> images_;
+    Lent<CoADMWindowDrawer> drawers_;
 };
 
 } // namespace NRDM

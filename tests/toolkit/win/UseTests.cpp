@@ -375,6 +375,29 @@ TEST_CASE("what is drawn on an image shows where the image is drawn") {
     CHECK_THROWS_AS(kImageSuite.Create(0, 5, 0), NRDMParameterException);
 }
 
+TEST_CASE("a client draws on a device context of its own") {
+    ModelStage stage;
+    ADMDialogRef dialog = stage.dialog(kFloating);
+    stage.show(dialog);
+    const auto window = static_cast<HWND>(kDialogSuite.GetWindowRef(dialog));
+    const HDC port = GetDC(window);
+    const ADMRect area{100, 100, 120, 110};
+    ADMDrawerRef drawer = kDrawerSuite.Create(port, &area, kADMDialogFont);
+    const ADMRGBColor red{65535, 0, 0};
+    kDrawerSuite.SetRGBColor(drawer, &red);
+    const ADMRect half{0, 0, 10, 10};
+    kDrawerSuite.FillRect(drawer, &half);
+    const COLORREF ground = GetPixel(port, 100, 100); // it appears at the end
+    kDrawerSuite.Destroy(drawer);
+    CHECK(ground == RGB(214, 214, 214));
+    CHECK(GetPixel(port, 100, 100) == RGB(255, 0, 0));
+    CHECK(GetPixel(port, 109, 109) == RGB(255, 0, 0));
+    CHECK(GetPixel(port, 110, 100) == ground);
+    ReleaseDC(window, port);
+    CHECK_THROWS_AS(kDrawerSuite.Destroy(drawer), NRDMParameterException);
+    CHECK_THROWS_AS(kDrawerSuite.Create(nullptr, &area, kADMDialogFont), NRDMParameterException);
+}
+
 TEST_CASE("a function that is not offered, called from a handler, is reported and ends the loop") {
     Form form;
     kItemSuite.SetNotifyProc(
