@@ -13,15 +13,17 @@ namespace NRDM {
 template <typename Object> class Lent {
 public:
     template <typename... Arguments> Object* make(Arguments&&... arguments) {
-        return objects_.emplace_back(std::make_unique<Object>(std::forward<Arguments>(arguments)...))
+        return objects_
+            .emplace_back(std::make_unique<Object>(std::forward<Arguments>(arguments)...))
             .get();
     }
 
     /// Throws `NRDMParameterException` for one that is not, or no longer, among them. Only its
     /// address is looked at.
     template <typename Reference> void drop(const Reference& object) {
-        const auto found = std::ranges::find_if(
-            objects_, [&](const auto& each) { return static_cast<const Reference*>(each.get()) == &object; });
+        const auto found = std::ranges::find_if(objects_, [&](const auto& each) {
+            return static_cast<const Reference*>(each.get()) == &object;
+        });
         if (found == objects_.end()) throw NRDMParameterException();
         objects_.erase(found);
     }
