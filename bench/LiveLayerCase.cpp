@@ -97,7 +97,7 @@ void LiveLayerCase::registerAll() {
             const Cost total = sitting.edit(moveAnchor, Take::TotalTime);
             totalSeconds_ = std::min(totalSeconds_, total.seconds);
 
-            sitting.open(makeDrawing(kPlan));
+            sitting.openWithoutAxes(makeDrawing(kPlan));
             const Cost bare = sitting.edit(makeCopiesBarely, Take::TotalTime);
             bareSeconds_ = std::min(bareSeconds_, bare.seconds);
             state.SetIterationTime(total.seconds);

@@ -46,6 +46,10 @@ public:
     /// Opens `drawing` and makes axes through `kOrigin` with the tool; in selection mode all art is
     /// selected before.
     easel::Document& open(std::unique_ptr<easel::Document> drawing);
+    /// Opens a drawing that has nothing to do with axes.
+    easel::Document& openWithoutAxes(std::unique_ptr<easel::Document> drawing) {
+        return session_.host.open(std::move(drawing));
+    }
     void activate(easel::Document& document) { session_.host.activate(document); }
     void close(easel::Document& document) { session_.host.close(document); }
     /// Applies the axes.
