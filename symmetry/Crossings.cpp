@@ -24,20 +24,21 @@ bool liesOnLine(const Wedge& wedge, Ray ray, const Cubic& curve) {
     });
 }
 
+// By value, unlike the standard functions, which choose between addresses: no branches arise.
+double lesser(double a, double b) { return a < b ? a : b; }
+double greater(double a, double b) { return a > b ? a : b; }
+
 /// Whether four points are clear of both bounding rays on the same side, so that their curve has
 /// nothing to do with them. This is all that is asked about most curves.
 bool staysClear(const Wedge::Distances& a, const Wedge::Distances& b, const Wedge::Distances& c,
                 const Wedge::Distances& d) {
-    const double lowestFirst =
-        std::min(std::min(a.fromFirst, b.fromFirst), std::min(c.fromFirst, d.fromFirst));
-    const double lowestLast =
-        std::min(std::min(a.fromLast, b.fromLast), std::min(c.fromLast, d.fromLast));
-    if (std::min(lowestFirst, lowestLast) > kOnAxisDistance) return true;
+    const double lowest = lesser(lesser(a.margin(), b.margin()), lesser(c.margin(), d.margin()));
+    if (lowest > kOnAxisDistance) return true;
     const double highestFirst =
-        std::max(std::max(a.fromFirst, b.fromFirst), std::max(c.fromFirst, d.fromFirst));
+        greater(greater(a.fromFirst, b.fromFirst), greater(c.fromFirst, d.fromFirst));
     const double highestLast =
-        std::max(std::max(a.fromLast, b.fromLast), std::max(c.fromLast, d.fromLast));
-    return std::min(highestFirst, highestLast) < -kOnAxisDistance;
+        greater(greater(a.fromLast, b.fromLast), greater(c.fromLast, d.fromLast));
+    return lesser(highestFirst, highestLast) < -kOnAxisDistance;
 }
 
 Side sideOf(double margin) { return margin > 0.0 ? Side::Inside : Side::Outside; }
@@ -48,7 +49,7 @@ bool leavesEdge(Side side) { return side == Side::Inside || side == Side::Outsid
 
 Wedge::Wedge(const SymmetryAxes& axes)
     : origin_(originOf(axes)), first_(direction(rayAngle(axes, 0))),
-      last_(direction(rayAngle(axes, sectorCount(axes) - 1))) {}
+      last_(axes.axisCount == 1 ? -first_ : direction(rayAngle(axes, sectorCount(axes) - 1))) {}
 
 bool Wedge::atOrigin(Point point) const { return distance(point, origin_) <= kOnAxisDistance; }
 
@@ -90,13 +91,14 @@ bool ContactFinder::collectCrossings(const PathShape& path) {
     if (segments.empty()) return false;
     bool allStayClear = true;
     const std::size_t curves = curveCount(path);
-    Wedge::Distances here = wedge_.distances(segments.front().anchor);
+    const Wedge wedge = wedge_; // nothing that is written below can change this one
+    Wedge::Distances here = wedge.distances(segments.front().anchor);
     for (std::size_t i = 0; i < curves; ++i) {
         const PathSegment& next = segments[i + 1 == segments.size() ? 0 : i + 1];
-        const Wedge::Distances there = wedge_.distances(next.anchor);
+        const Wedge::Distances there = wedge.distances(next.anchor);
         margins_[i] = here.margin();
-        const Wedge::Distances out = wedge_.distances(segments[i].out);
-        const Wedge::Distances in = wedge_.distances(next.in);
+        const Wedge::Distances out = wedge.distances(segments[i].out);
+        const Wedge::Distances in = wedge.distances(next.in);
         if (!staysClear(here, out, in, there)) {
             addCurveCrossings(i, curveAt(path, i), {here, out, in, there});
             allStayClear = false;
@@ -124,8 +126,12 @@ void ContactFinder::addCurveCrossings(std::size_t index, const Cubic& curve,
     if (start.ray != Ray::None) crossings_.push_back(start);
     const auto first = std::ssize(crossings_);
     const auto& [a, b, c, d] = distances;
-    addRayCrossings(index, curve, Ray::First, {a.fromFirst, b.fromFirst, c.fromFirst, d.fromFirst});
-    addRayCrossings(index, curve, Ray::Last, {a.fromLast, b.fromLast, c.fromLast, d.fromLast});
+    const BernsteinCubic fromFirst{a.fromFirst, b.fromFirst, c.fromFirst, d.fromFirst};
+    const BernsteinCubic fromLast{a.fromLast, b.fromLast, c.fromLast, d.fromLast};
+    const Roots onFirst = signChanges(fromFirst);
+    addRayCrossings(index, curve, Ray::First, onFirst);
+    addRayCrossings(index, curve, Ray::Last,
+                    fromLast == fromFirst ? onFirst : signChanges(fromLast));
     std::ranges::sort(crossings_.begin() + first, crossings_.end(), {}, &Crossing::parameter);
 
     // Places at which the curve has hardly left an anchor on the axis are that anchor's own.
@@ -150,8 +156,7 @@ bool ContactFinder::hardlyLeaves(const Cubic& curve, const Crossing& from, const
 }
 
 void ContactFinder::addRayCrossings(std::size_t index, const Cubic& curve, Ray ray,
-                                    const BernsteinCubic& distances) {
-    const Roots roots = signChanges(distances);
+                                    const Roots& roots) {
     for (const double t : roots.all()) {
         const Point found = evaluate(curve, t);
         if (wedge_.along(ray, found) < -kOnAxisDistance) continue; // behind the origin

@@ -8,6 +8,7 @@
 
 #include "symmetry/PathShape.h"
 #include "symmetry/SymmetryAxes.h"
+#include "symmetry/Tolerances.h"
 
 #include <algorithm>
 #include <array>
@@ -25,8 +26,8 @@ enum class Ray : std::uint8_t {
     Origin ///< where they meet
 };
 
-/// Sector 0 as two half-planes. For N = 1 both are the same one, and the two rays are the halves of
-/// its edge.
+/// Sector 0 as two half-planes. For N = 1 both are the same one, to the bit, and the two rays are
+/// the halves of its edge.
 class Wedge {
 public:
     explicit Wedge(const SymmetryAxes& axes);
@@ -55,6 +56,15 @@ public:
     /// How far along `ray` the point lies; negative behind the origin.
     [[nodiscard]] double along(Ray ray, Point point) const {
         return dot(towards(ray), point - origin_);
+    }
+
+    /// How far the point is from `ray`, which ends where rays are drawn to. Exact for a point that
+    /// is not behind the origin.
+    [[nodiscard]] double distanceFrom(Ray ray, Point point) const {
+        const Distances both = distances(point);
+        const double aside = ray == Ray::Last ? both.fromLast : both.fromFirst;
+        const double beyond = along(ray, point) - kRayLength;
+        return beyond > 0.0 ? std::hypot(aside, beyond) : std::abs(aside);
     }
 
     /// The point of `ray` nearest to `point`.
@@ -123,8 +133,7 @@ private:
     [[nodiscard]] Crossing anchorCrossing(std::size_t index, Point anchor) const;
     void addCurveCrossings(std::size_t index, const Cubic& curve,
                            const std::array<Wedge::Distances, 4>& distances);
-    void addRayCrossings(std::size_t index, const Cubic& curve, Ray ray,
-                         const BernsteinCubic& distances);
+    void addRayCrossings(std::size_t index, const Cubic& curve, Ray ray, const Roots& roots);
     [[nodiscard]] double farthestMargin(std::size_t firstAnchor, std::size_t endAnchor) const;
     [[nodiscard]] double farthestMargin(const Cubic& curve, const Crossing& from,
                                         const Crossing& to) const;

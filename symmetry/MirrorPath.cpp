@@ -9,9 +9,8 @@
 namespace facetta {
 
 PathMirror::PathMirror(const SymmetryAxes& axes, double snapDistance)
-    : axes_(axes),
-      wedge_(axes), rays_{raySegment(axes, 0), raySegment(axes, sectorCount(axes) - 1)},
-      snapDistance_(std::max(snapDistance, kOnAxisDistance)), cutter_(wedge_), joiner_(axes) {
+    : axes_(axes), wedge_(axes), snapDistance_(std::max(snapDistance, kOnAxisDistance)),
+      cutter_(wedge_), joiner_(axes) {
     for (int sector = 0; sector < sectorCount(axes); ++sector)
         folds_.push_back(foldMatrix(axes, sector));
 }
@@ -28,9 +27,11 @@ MirroredPath& PathMirror::mirror(PathShape&& source) {
     if (contourCount_ == 0) keepAsDrawn();
     result_.compound = folded_.closed && contourCount_ > 1;
     result_.carried = !endsMoved_ && !cut_;
-    const bool joinedAsBefore =
-        !endsMoved_ && contourCount_ == 1 && sameShape(result_.contours.front().shape, folded_);
-    result_.unchanged = result_.sector == 0 && (result_.carried || joinedAsBefore);
+    const auto joinedAsBefore = [this] {
+        return !endsMoved_ && contourCount_ == 1 &&
+               sameShape(result_.contours.front().shape, folded_);
+    };
+    result_.unchanged = result_.sector == 0 && (result_.carried || joinedAsBefore());
     if (result_.compound) agreeInImages();
     result_.contours.resize(contourCount_);
     return result_;
@@ -131,9 +132,9 @@ void PathMirror::snapEnd(PathSegment& end) {
     Ray nearest = Ray::None;
     double reach = snapDistance_;
     for (const Ray ray : {Ray::First, Ray::Last}) {
-        const LineSegment& segment = rays_[ray == Ray::First ? 0 : 1];
-        const double away = distance(end.anchor, nearestPoint(segment, end.anchor));
-        if (away < reach && wedge_.along(ray, end.anchor) >= 0.0) {
+        if (wedge_.along(ray, end.anchor) < 0.0) continue;
+        const double away = wedge_.distanceFrom(ray, end.anchor);
+        if (away < reach) {
             nearest = ray;
             reach = away;
         }

@@ -85,7 +85,6 @@ private:
 
     SymmetryAxes axes_;
     Wedge wedge_;
-    std::array<LineSegment, 2> rays_;
     double snapDistance_;
     PathCutter cutter_;
     PieceJoiner joiner_;

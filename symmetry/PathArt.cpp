@@ -7,6 +7,8 @@
 #include "symmetry/ArtSpace.h"
 
 #include <algorithm>
+#include <cassert>
+#include <cmath>
 #include <limits>
 #include <span>
 
@@ -20,8 +22,17 @@ PathSegment widened(const AIPathSegment& segment) {
             .corner = segment.corner != 0};
 }
 
-AIPathSegment narrowed(const PathSegment& segment) {
-    return {narrow(segment.anchor), narrow(segment.in), narrow(segment.out), segment.corner};
+/// A coordinate of a path, which was rounded to what the host can store when it was made.
+AIReal stored(double coordinate) {
+    const auto real = static_cast<AIReal>(coordinate);
+    assert(static_cast<double>(real) == coordinate || std::isnan(coordinate));
+    return real;
+}
+
+AIRealPoint stored(Point point) { return {stored(point.x), stored(point.y)}; }
+
+AIPathSegment stored(const PathSegment& segment) {
+    return {stored(segment.anchor), stored(segment.in), stored(segment.out), segment.corner};
 }
 
 ai::int16 segmentCount(AIArtHandle path) {
@@ -71,7 +82,8 @@ void PathTransfer::write(AIArtHandle path, const PathShape& shape) {
         throw ai::Error{kTooManySegmentsErr};
     const auto count = static_cast<ai::int16>(shape.segments.size());
     AIPathSegment* const segments = roomFor(shape.segments.size());
-    std::ranges::transform(shape.segments, segments, narrowed);
+    std::ranges::transform(shape.segments, segments,
+                           [](const PathSegment& segment) { return stored(segment); });
     ai::check(suites.path->SetPathSegmentCount(path, count));
     if (count > 0) ai::check(suites.path->SetPathSegments(path, 0, count, segments));
     ai::check(suites.path->SetPathClosed(path, shape.closed));

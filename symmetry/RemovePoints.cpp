@@ -72,10 +72,11 @@ std::optional<MergedCurve> mergeParts(const Cubic& first, const Cubic& second) {
     const Cubic whole{first.p0, rounded(first.p0 + (1.0 / t) * (first.p1 - first.p0)),
                       rounded(second.p3 + (1.0 / (1.0 - t)) * (second.p2 - second.p3)), second.p3};
     const auto [head, tail] = split(whole, t);
-    const double deviation = std::max({distance(head.p1, first.p1), distance(head.p2, first.p2),
-                                       distance(head.p3, first.p3), distance(tail.p1, second.p1),
-                                       distance(tail.p2, second.p2)});
-    return MergedCurve{whole, deviation};
+    const auto square = [](Point a, Point b) { return dot(b - a, b - a); };
+    const double farthest =
+        std::max({square(head.p1, first.p1), square(head.p2, first.p2), square(head.p3, first.p3),
+                  square(tail.p1, second.p1), square(tail.p2, second.p2)});
+    return MergedCurve{whole, std::sqrt(farthest)};
 }
 
 std::optional<MergedCurve> merge(const Cubic& first, const Cubic& second) {
@@ -85,6 +86,16 @@ std::optional<MergedCurve> merge(const Cubic& first, const Cubic& second) {
 
 Cubic curveBetween(const PathSegment& from, const PathSegment& to) {
     return {from.anchor, from.out, to.in, to.anchor};
+}
+
+/// One curve past the anchor `middle` in place of the two that meet there; none when it would be
+/// farther from them than `limit`.
+std::optional<MergedCurve> mergeWithin(const PathSegment& before, const PathSegment& middle,
+                                       const PathSegment& after, double limit) {
+    std::optional<MergedCurve> merged =
+        merge(curveBetween(before, middle), curveBetween(middle, after));
+    if (merged && merged->deviation > limit) merged.reset();
+    return merged;
 }
 
 /// Thins a path out while it is run through. What has been run through is kept in place, at the
@@ -132,14 +143,13 @@ private:
     /// Whether the anchor `middle` can go; if so, its neighbours get the handles of the one curve
     /// that then joins them. The deviations of removals in a row add up and count together.
     bool removable(std::size_t before, std::size_t middle, std::size_t after) {
-        const auto merged = merge(curveBetween(segments_[before], segments_[middle]),
-                                  curveBetween(segments_[middle], segments_[after]));
+        const double soFar = deviations_[middle] + deviations_[after];
+        const auto merged = mergeWithin(segments_[before], segments_[middle], segments_[after],
+                                        kRemovalDistance - soFar);
         if (!merged) return false;
-        const double deviation = deviations_[middle] + deviations_[after] + merged->deviation;
-        if (deviation > kRemovalDistance) return false;
         segments_[before].out = merged->curve.p1;
         segments_[after].in = merged->curve.p2;
-        deviations_[after] = deviation;
+        deviations_[after] = soFar + merged->deviation;
         return true;
     }
 
@@ -161,8 +171,29 @@ PathShape removeRedundantAxisPoints(PathShape shape, const SymmetryAxes& axes) {
     return shape;
 }
 
+namespace {
+
+/// Whether any joint lies within one curve, as few do: most paths need no more than this look at
+/// their joints. The ends of an open path are none, and a path of two anchors keeps both.
+bool hasRemovable(const Contour& contour) {
+    const std::vector<PathSegment>& segments = contour.shape.segments;
+    const std::size_t count = segments.size();
+    const bool closed = contour.shape.closed && count > 2;
+    for (std::size_t joint = contour.firstJoint; joint < count; joint += contour.jointSpacing) {
+        const bool atSeam = joint == 0 || joint + 1 == count;
+        if (atSeam && !closed) continue;
+        const std::size_t before = joint == 0 ? count - 1 : joint - 1;
+        const std::size_t after = joint + 1 == count ? 0 : joint + 1;
+        if (mergeWithin(segments[before], segments[joint], segments[after], kRemovalDistance))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
 void JointRemover::removeFrom(Contour& contour) {
-    if (contour.jointSpacing == 0) return;
+    if (contour.jointSpacing == 0 || !hasRemovable(contour)) return;
     const auto mayGo = [&](std::size_t index, Point) {
         return index % contour.jointSpacing == contour.firstJoint;
     };

@@ -75,6 +75,25 @@ TEST_CASE("a place on both rays is the origin; beside it the nearer ray has it")
     CHECK(halfPlane.rayAt({5.0, 0.0}) == Ray::First);
 }
 
+TEST_CASE(
+    "the distance from a ray is that from its segment, for all that is not behind the origin") {
+    Random random;
+    int compared = 0;
+    for (int i = 0; i < 2000; ++i) {
+        const SymmetryAxes axes = random.axes();
+        const Wedge wedge(axes);
+        const Point point = random.point(originOf(axes), random.coin() ? 500.0 : 2.0 * kRayLength);
+        for (const Ray ray : {Ray::First, Ray::Last}) {
+            if (wedge.along(ray, point) < 0.0) continue;
+            const int k = ray == Ray::First ? 0 : sectorCount(axes) - 1;
+            const double wanted = distance(point, nearestPoint(raySegment(axes, k), point));
+            REQUIRE(wedge.distanceFrom(ray, point) == doctest::Approx(wanted).epsilon(1e-9));
+            ++compared;
+        }
+    }
+    CHECK(compared > 1000);
+}
+
 TEST_CASE("crossings are sorted, storable, on their ray and on the path") {
     Random random;
     int cutsSeen = 0;
