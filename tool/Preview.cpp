@@ -4,14 +4,13 @@
 #include "host/Error.h"
 #include "host/Suites.h"
 #include "host/suites/AIAnnotatorDrawerSuite.h"
-#include "host/suites/AIArtSuite.h"
 #include "symmetry/ArtSpace.h"
 #include "symmetry/ArtTree.h"
 #include "symmetry/LayerAxesStore.h"
-#include "symmetry/PathArt.h"
 #include "tool/ToolSession.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace facetta {
 namespace {
@@ -29,43 +28,6 @@ constexpr double kFarthest = 8192.0;
 /// Open ends within this many pixels of an axis are drawn onto it by the engine.
 constexpr double kSnapPixels = 12.0;
 
-PathShape boxOf(AIArtHandle art) {
-    AIRealRect bounds{};
-    ai::check(suites.art->GetArtBounds(art, &bounds));
-    PathShape box{.segments = {}, .closed = true};
-    for (const AIRealPoint corner :
-         {AIRealPoint{bounds.left, bounds.top}, AIRealPoint{bounds.right, bounds.top},
-          AIRealPoint{bounds.right, bounds.bottom}, AIRealPoint{bounds.left, bounds.bottom}}) {
-        const Point at = widen(corner);
-        box.segments.push_back({.anchor = at, .in = at, .out = at});
-    }
-    return box;
-}
-
-/// Paths are read only while `room` segments are left for them.
-PreviewSource readSource(const Unit& unit, std::size_t room) {
-    PreviewSource source{.kind = unit.kind, .paths = {}, .box = boxOf(unit.art)};
-    if (room == 0) return source;
-    if (unit.kind == UnitKind::Path) source.paths.push_back(readPath(unit.art, 0));
-    if (unit.kind == UnitKind::CompoundPath)
-        for (const AIArtHandle path : pathsInside(unit.art))
-            source.paths.push_back(readPath(path, 0));
-    for (const PathShape& path : source.paths)
-        source.segments += path.segments.size();
-    return source;
-}
-
-void capture(Preview& preview, std::span<const Unit> units) {
-    preview.sources.clear();
-    std::size_t room = kMostSourceSegments;
-    for (const Unit& unit : units.first(std::min(units.size(), kMostSources))) {
-        preview.sources.push_back(readSource(unit, room));
-        room -= std::min(room, preview.sources.back().segments);
-    }
-    preview.captured = true;
-    preview.zoom = 0.0;
-}
-
 void addContours(PreviewPaths& paths, const MirroredPath& mirrored) {
     for (const Contour& contour : mirrored.contours)
         paths.add(contour.shape, contour.images, mirrored.unchanged);
@@ -74,16 +36,23 @@ void addContours(PreviewPaths& paths, const MirroredPath& mirrored) {
 void build(Preview& preview, const SymmetryAxes& axes, double zoom) {
     preview.paths.begin(axes, kTolerance / zoom);
     PathMirror mirror{axes, kSnapPixels / zoom};
+    std::vector<PathShape> shapes(1);
     std::size_t room = kMostMirroredCurves / static_cast<std::size_t>(sectorCount(axes));
-    for (const PreviewSource& source : preview.sources) {
-        const bool whole = source.paths.empty() || source.segments > room;
-        room -= whole ? 0 : source.segments;
-        if (whole)
-            preview.paths.add(source.box, Images::All, /*isArt*/ true);
-        else if (source.kind == UnitKind::Path)
-            addContours(preview.paths, mirror.mirror(source.paths.front()));
+    for (const PreviewSource& source : preview.art.sources()) {
+        const bool whole = source.pathCount == 0 || source.segments > room;
+        if (whole) {
+            preview.paths.add(boxOf(source), Images::All, /*isArt*/ true);
+            continue;
+        }
+        room -= source.segments;
+        shapes.resize(std::max(shapes.size(), source.pathCount));
+        const std::span members = std::span(shapes).first(source.pathCount);
+        for (std::size_t i = 0; i < members.size(); ++i)
+            preview.art.copyPath(source.firstPath + i, members[i]);
+        if (source.kind == UnitKind::Path)
+            addContours(preview.paths, mirror.mirror(std::move(members.front())));
         else
-            addContours(preview.paths, mirror.mirrorCompound(source.paths));
+            addContours(preview.paths, mirror.mirrorCompound(members));
     }
     preview.paths.limit(kMostPreviewLines);
     preview.asCurves = preview.paths.curveCount() <= kMostPreviewCurves;
@@ -192,7 +161,9 @@ void refreshPreview(ToolSession& session) {
     std::vector<Unit> units = ofLayer ? std::vector<Unit>{} : unitsOfSelection();
     const AILayerHandle layer = units.empty() ? topLevelLayer(nullptr) : nullptr;
     if (layer != nullptr) units = sourcesOnLayer(layer);
-    capture(state.preview, units);
+    state.preview.art.read(units);
+    state.preview.captured = true;
+    state.preview.zoom = 0.0;
 }
 
 void clearPreview(ToolState& state) { state.preview = {}; }

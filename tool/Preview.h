@@ -7,7 +7,7 @@
 ///   2. What is drawn is made from it when it is drawn, for the axes of that moment: however many
 ///      messages a drag sends, each picture is made once.
 
-#include "symmetry/WorkSet.h"
+#include "tool/PreviewArt.h"
 #include "tool/PreviewPaths.h"
 #include "tool/Surface.h"
 
@@ -16,17 +16,9 @@ namespace facetta {
 struct ToolSession;
 struct ToolState;
 
-/// An object of the art to be mirrored, read from the document.
-struct PreviewSource {
-    UnitKind kind = UnitKind::Path; ///< `Whole`: its box stands for it
-    std::vector<PathShape> paths;
-    PathShape box;
-    std::size_t segments = 0; ///< of all its paths
-};
-
 struct Preview {
-    std::vector<PreviewSource> sources;
-    bool captured = false; ///< the sources are those of the document
+    PreviewArt art;
+    bool captured = false; ///< the art is that of the document
     PreviewPaths paths;
     SymmetryAxes axes;           ///< for which the paths were made,
     double zoom = 0.0;           ///< and at which zoom; 0: none were
@@ -34,10 +26,6 @@ struct Preview {
     std::vector<AIPoint> pixels; ///< of the path being drawn
 };
 
-/// More source segments than this are not read; the art behind is shown as boxes.
-constexpr std::size_t kMostSourceSegments = 20'000;
-/// Nor are more objects.
-constexpr std::size_t kMostSources = 5'000;
 /// Curves that are mirrored for one picture: a few milliseconds.
 constexpr std::size_t kMostMirroredCurves = 100'000;
 /// Curves of one picture that are drawn as such; more become lines.

@@ -97,7 +97,7 @@ TEST_CASE("the preview of a layer is made of its sources, however many copies th
     REQUIRE(countPaths(session.document(), /*lockedOnes*/ true) == 5);
     ToolSession tool = toolSession();
     refreshPreview(tool);
-    CHECK(thePlugin->tool.preview.sources.size() == 1);
+    CHECK(thePlugin->tool.preview.art.sources().size() == 1);
     CHECK(countPaths(session.document(), /*lockedOnes*/ true) == 5);
     clearPreview(thePlugin->tool);
 }
