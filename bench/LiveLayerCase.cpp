@@ -18,7 +18,7 @@ namespace facetta::bench {
 namespace {
 
 constexpr DrawingPlan kPlan{Placement::Clear, 12, 1'000, 10};
-constexpr int kRuns = 10;
+constexpr int kRuns = 3;
 constexpr double kWantedOwnMilliseconds = 5;
 constexpr double kWantedOverBare = 1.5;
 

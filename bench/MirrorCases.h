@@ -7,18 +7,21 @@
 
 #include <deque>
 #include <functional>
+#include <limits>
 #include <span>
 
 namespace facetta::bench {
 
+constexpr double kEver = std::numeric_limits<double>::infinity(); ///< More than any time.
+
 /// One drawing mirrored; of repeated runs the least times, because noise only ever adds.
 struct MirrorCase {
     DrawingPlan plan;
-    double ownSeconds = 0;   ///< Inside the plug-in itself.
-    double totalSeconds = 0; ///< Of the whole action.
-    double floorSeconds = 0; ///< Of a plain loop over as many segments as were made.
-    std::size_t made = 0;    ///< Segments made; a source that stays as it is is not among them.
-    std::size_t copies = 0;  ///< Paths in the drawing beyond its sources.
+    double ownSeconds = kEver;   ///< Inside the plug-in itself.
+    double totalSeconds = kEver; ///< Of the whole action.
+    double floorSeconds = kEver; ///< Of a plain loop over as many segments as were made.
+    std::size_t made = 0;        ///< Segments made; a source that stays as it is is not among them.
+    std::size_t copies = 0;      ///< Paths in the drawing beyond its sources.
     std::uint64_t hostCalls = 0;
     bool measured = false;
 };

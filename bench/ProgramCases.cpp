@@ -17,7 +17,7 @@ namespace facetta::bench {
 namespace {
 
 constexpr DrawingPlan kPlan{Placement::Clear, 12, 10'000, 10};
-constexpr int kRuns = 3;
+constexpr int kRuns = 1;
 constexpr double kWantedOverDocument = 3;
 constexpr double kWantedOverPlain = 4;
 constexpr double kMebibyte = 1024.0 * 1024.0;
@@ -57,7 +57,8 @@ std::size_t segmentsIn(const std::filesystem::path& file) {
 } // namespace
 
 void ProgramCases::registerAll() {
-    // The first case of all: later, memory that others have freed would hide some of the peak.
+    // The first case of all: later, memory that others have freed hides some of the peak, so that
+    // the most of all rounds counts.
     benchmark::RegisterBenchmark("memory/axes:12/paths:10000/segments:10", [this](benchmark::State&
                                                                                       state) {
         for ([[maybe_unused]] const auto step : state) {
@@ -67,7 +68,7 @@ void ProgramCases::registerAll() {
             const double resident = residentBytes();
             easel::Document& document = sitting.open(makeDrawing(kPlan));
             static_cast<void>(sitting.apply(Take::TotalTime));
-            mirroringPeak_ = peakBytes() - resident;
+            mirroringPeak_ = std::max(mirroringPeak_, peakBytes() - resident);
             document.undo().clear();
             documentBytes_ = heapBytes() - heap;
         }

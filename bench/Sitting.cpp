@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <limits>
 
 namespace facetta::bench {
 namespace {
@@ -21,7 +22,6 @@ struct TimedEntry {
     SPPluginEntryFunc entry = nullptr;
     int depth = 0; ///< The plug-in may make the host send it a message.
     double seconds = 0;
-    double processorSeconds = 0;
 };
 
 /// An entry is a plain function, which can carry nothing with it.
@@ -35,11 +35,15 @@ SPErr enterPlugin(const char* caller, const char* selector, void* message) {
     const Stopwatch watch;
     ++timed.depth;
     const SPErr result = timed.entry(caller, selector, message);
-    if (--timed.depth == 0) {
-        timed.seconds += watch.seconds();
-        timed.processorSeconds += watch.processorSeconds();
-    }
+    if (--timed.depth == 0) timed.seconds += watch.seconds();
     return result;
+}
+
+/// What one host call adds to the plug-in's time while the host's clock runs. It is a property of
+/// the machine, not of a sitting.
+double& clockCostPerCall() {
+    static double seconds = std::numeric_limits<double>::infinity();
+    return seconds;
 }
 
 /// Behind the plug-in's entry and in no function of the host.
@@ -107,11 +111,11 @@ Cost Sitting::draw(Take take) {
 
 Cost Sitting::measure(const std::function<void()>& action, Take take) {
     easel::HostCalls& calls = easel::hostCalls();
-    const double perCall = take == Take::OwnTime ? clockCostPerCall() : 0;
+    if (take == Take::OwnTime && !clockMeasured_) measureClock();
     calls.resetCounts();
     calls.setTiming(take == Take::OwnTime);
-    timedEntry().seconds = timedEntry().processorSeconds = 0;
-    countAllocations(take == Take::OwnTime ? inPlugin : nullptr);
+    timedEntry().seconds = 0;
+    countAllocations(take == Take::OwnAllocations ? inPlugin : nullptr);
     const Stopwatch watch;
     action();
     Cost cost{.seconds = watch.processorSeconds(),
@@ -123,29 +127,26 @@ Cost Sitting::measure(const std::function<void()>& action, Take take) {
     for (const easel::SentMessage& message : session_.host.sent) // failed ones, nothing else
         giveUp(message.caller + '/' + message.selector + ": " + easel::codeText(message.result));
     if (take == Take::OwnTime)
-        cost.ownSeconds = ownSeconds(perCall * static_cast<double>(cost.hostCalls));
+        cost.ownSeconds = ownSeconds(clockCostPerCall() * static_cast<double>(cost.hostCalls));
     return cost;
 }
 
-/// Only the wall clock is quick enough to be read at each host call. What it shows as the plug-in's
-/// own share of the time behind its entry is applied to the processor time spent there, because
-/// other programs interrupt the plug-in as readily as the host.
+/// By the wall clock, the only one quick enough to be read at each host call. Other programs that
+/// interrupt the plug-in only ever add to it.
 double Sitting::ownSeconds(double clockCost) {
-    const TimedEntry& timed = timedEntry();
-    const double own = timed.seconds - secondsOf(easel::hostCalls().time()) - clockCost;
-    return timed.processorSeconds * own / timed.seconds;
+    return timedEntry().seconds - secondsOf(easel::hostCalls().time()) - clockCost;
 }
 
-/// What one host call adds to the plug-in's time while the host's clock runs: the least of some
-/// rounds, so that too little rather than too much is taken off.
-double Sitting::clockCostPerCall() {
+/// Once a sitting, because it leaves the processor's caches without the plug-in: then the next
+/// action is slow. The least of all rounds and sittings counts, so that too little rather than too
+/// much is taken off.
+void Sitting::measureClock() {
     constexpr int kRounds = 5;
     constexpr int kCalls = 20'000;
     const auto& suite = hostSuite<AIArtSuite>(kAIArtSuite, kAIArtSuiteVersion);
     const AIArtHandle art = easel::currentDocument().root().firstChild()->handle();
     easel::HostCalls& calls = easel::hostCalls();
     calls.setTiming(true);
-    double least = 1;
     for (int round = 0; round < kRounds; ++round) {
         calls.resetCounts();
         const Stopwatch watch;
@@ -153,10 +154,11 @@ double Sitting::clockCostPerCall() {
             ai::int16 type = 0;
             suite.GetArtType(art, &type);
         }
-        least = std::min(least, (watch.seconds() - secondsOf(calls.time())) / kCalls);
+        const double added = (watch.seconds() - secondsOf(calls.time())) / kCalls;
+        clockCostPerCall() = std::min(clockCostPerCall(), added);
     }
     calls.setTiming(false);
-    return least;
+    clockMeasured_ = true;
 }
 
 } // namespace facetta::bench

@@ -30,9 +30,9 @@ struct Cost {
         0; ///< Of the plug-in, without the host functions that it called.
 };
 
-/// The host's clock and the count of allocations, which slow the action as a whole, run only when
-/// the plug-in's own costs are wanted.
-enum class Take : std::uint8_t { TotalTime, OwnTime };
+/// What an action is to tell. The host's clock and the count of allocations both cost time, so each
+/// runs alone.
+enum class Take : std::uint8_t { TotalTime, OwnTime, OwnAllocations };
 
 class Sitting {
 public:
@@ -69,11 +69,12 @@ public:
 
 private:
     Cost measure(const std::function<void()>& action, Take take);
-    [[nodiscard]] static double clockCostPerCall();
+    void measureClock();
     [[nodiscard]] static double ownSeconds(double clockCost);
 
     easel::MirrorSession session_;
     easel::MirrorMode mode_;
+    bool clockMeasured_ = false;
 };
 
 } // namespace facetta::bench
