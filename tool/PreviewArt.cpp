@@ -46,9 +46,8 @@ void PreviewArt::copyPath(std::size_t index, PathShape& shape) const {
 PathShape boxOf(const PreviewSource& source) {
     const auto& [left, top, right, bottom] = source.bounds;
     PathShape box{.segments = {}, .closed = true};
-    for (const AIRealPoint corner :
-         {AIRealPoint{left, top}, AIRealPoint{right, top}, AIRealPoint{right, bottom},
-          AIRealPoint{left, bottom}}) {
+    for (const AIRealPoint corner : {AIRealPoint{left, top}, AIRealPoint{right, top},
+                                     AIRealPoint{right, bottom}, AIRealPoint{left, bottom}}) {
         const Point at = widen(corner);
         box.segments.push_back({.anchor = at, .in = at, .out = at});
     }
