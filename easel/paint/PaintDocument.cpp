@@ -10,8 +10,6 @@
 namespace easel::paint {
 namespace {
 
-using svg::operator+;
-
 /// Instances of symbols within symbols multiply; a picture with more shows no more.
 constexpr int kMostInstances = 500'000;
 /// Repetitions of a pattern over one shape.
@@ -239,13 +237,17 @@ private:
                           std::floor((covered.min.y - pattern.tileCorner.y) / size.y)};
         const Point last{std::floor((covered.max.x - pattern.tileCorner.x) / size.x),
                          std::floor((covered.max.y - pattern.tileCorner.y) / size.y)};
-        if ((last.x - first.x + 1) * (last.y - first.y + 1) > kMostTiles) return;
+        const double columns = last.x - first.x + 1;
+        const double rows = last.y - first.y + 1;
+        if (!(columns * rows <= kMostTiles)) return; // nor when a tile is infinitely far away
         painter_.save();
         painter_.clip(outline, rule);
         if (alpha < 1) painter_.beginGroup();
-        for (double row = first.y; row <= last.y; ++row)
-            for (double column = first.x; column <= last.x; ++column)
-                paintTile(pattern, toCurrent * Matrix{1, 0, 0, 1, column * size.x, row * size.y});
+        // Counted in integers: far away, a real and the next one may be the same.
+        for (int row = 0; row < rows; ++row)
+            for (int column = 0; column < columns; ++column)
+                paintTile(pattern, toCurrent * Matrix{1, 0, 0, 1, (first.x + column) * size.x,
+                                                      (first.y + row) * size.y});
         if (alpha < 1) painter_.endGroup(alpha);
         painter_.restore();
     }

@@ -113,6 +113,11 @@ TEST_CASE("pictures show what the drawing says") {
          "<pattern id='p' width='10' height='10' patternUnits='userSpaceOnUse'><rect width='5' "
          "height='10' fill='red'/></pattern><rect width='40' height='40' fill='url(#p)'/>",
          {{2, 20, "9009"}, {7, 20, "none"}, {22, 20, "9009"}}},
+        {"tiles too small and far away to tell one from the next come to an end",
+         "<pattern id='p' x='1e9' width='1e-8' height='10' patternUnits='userSpaceOnUse'><rect "
+         "width='10' height='10'/></pattern><rect width='1e-6' height='40' fill='url(#p)'/>"
+         "<rect width='40' height='40' fill='red'/>",
+         {{20, 20, "9009"}}},
         {"a symbol is fitted in",
          "<symbol id='s' viewBox='0 0 2 2'><rect width='1' height='2'/></symbol>"
          "<use href='#s' x='10' y='10' width='20' height='20' fill='red'/>",
