@@ -206,7 +206,7 @@ AIErr nthGroup(ai::int32 index, AIMenuGroup* group) {
 }
 
 AIErr getCommand(AIMenuItemHandle item, ai::int16* command, ai::int16* modifiers) {
-    required(command) = at(item).command;
+    required(command) = static_cast<unsigned char>(at(item).command);
     required(modifiers) = at(item).commandModifiers;
     return kNoErr;
 }

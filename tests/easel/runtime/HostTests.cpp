@@ -274,6 +274,12 @@ TEST_CASE("menu items go into groups that exist, and their handles die with them
     const char* key = "";
     ai::suites.menu->GetMenuItemKeyboardShortcutDictionaryKey(item, &key);
     CHECK(key == nullptr);
+    ai::int16 command = 0;
+    ai::int16 modifiers = 0;
+    CHECK(ai::suites.menu->SetItemCmd(item, '\xE9', 1) == kNoErr);
+    CHECK(ai::suites.menu->GetItemCmd(item, &command, &modifiers) == kNoErr);
+    CHECK(command == 0xE9); // a letter beyond ASCII is not below 0
+    CHECK(modifiers == 1);
     CHECK(ai::suites.menu->RemoveMenuItem(item) == kNoErr);
     CHECK(ai::suites.menu->EnableItem(item) == kBadParameterErr);
     session.host.quit();
