@@ -75,12 +75,15 @@ CoADMDialog* Dialogs::create(const DialogRequest& request, const layout::Layout*
 int Dialogs::modal(const DialogRequest& request) {
     CoADMDialog* const dialog = create(request);
     if (dialog == nullptr) return 0;
-    const struct Destroyer {
-        Dialogs& dialogs;
-        CoADMDialog& dialog;
-        ~Destroyer() { dialogs.destroy(dialog); }
-    } destroyer{*this, *dialog};
-    return dialog->run();
+    int result = 0;
+    try {
+        result = dialog->run();
+    } catch (...) {
+        destroy(*dialog);
+        throw;
+    }
+    destroy(*dialog);
+    return result;
 }
 
 void Dialogs::destroy(CoADMDialog& dialog) {

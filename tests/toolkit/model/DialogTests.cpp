@@ -307,6 +307,16 @@ TEST_CASE("a timer fires until its procedure or an event ends it") {
     CHECK(takeHeard() == Heard{"aborted -15", "aborted 2147483647"});
 }
 
+TEST_CASE("what a client's procedure throws as a modal dialog ends reaches the caller") {
+    Stage stage;
+    const auto init = [](ADMDialogRef dialog) -> ADMErr {
+        kDialogSuite.SetDestroyProc(dialog, [](ADMDialogRef) { throw NRDMParameterException(); });
+        return 0;
+    };
+    CHECK_THROWS_AS(stage.dialogs.modal({.name = "Throws", .init = init}), NRDMParameterException);
+    CHECK(stage.dialogs.open().empty());
+}
+
 TEST_CASE("a dialog that its init procedure refuses is none, and bad calls are told") {
     Stage stage;
     const auto refuse = [](ADMDialogRef) -> ADMErr { return 1; };
