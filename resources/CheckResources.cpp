@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <exception>
 #include <set>
 #include <string>
 #include <utility>
@@ -105,9 +106,7 @@ const Check kChecks[] = {
     {u"PNGI", checkPicture}, {u"PNG3", checkPicture}, {u"XML_", checkCursor},
 };
 
-} // namespace
-
-int main() {
+bool resourcesAreFlawless() {
     Findings findings;
     std::set<std::pair<ResourceName, ResourceName>> seen;
     ResourceFile file(facetta::embeddedResources());
@@ -119,9 +118,20 @@ int main() {
         if (id != nullptr && check != std::end(kChecks))
             check->check(*id, resource->data, findings);
     }
-    for (const auto& [type, check] : kChecks)
+    for (const Check& check : kChecks)
         findings.require(
-            std::ranges::any_of(seen, [&](const auto& each) { return each.first == type; }),
+            std::ranges::any_of(seen, [&](const auto& each) { return each.first == check.type; }),
             "nothing of one of the kinds there should be");
-    return findings.flawless() ? 0 : 1;
+    return findings.flawless();
+}
+
+} // namespace
+
+int main() {
+    try {
+        return resourcesAreFlawless() ? 0 : 1;
+    } catch (const std::exception& wrong) {
+        std::fprintf(stderr, "resources: %s\n", wrong.what());
+        return 1;
+    }
 }

@@ -102,12 +102,7 @@ void addInfo(CLI::App& app, InfoWords& words) {
 
 ExitStatus info(InfoWords& words) {
     words.options.file = easel::pathFromUtf8(words.file);
-    try {
-        return static_cast<ExitStatus>(easel::runInfo(words.options, std::cout));
-    } catch (const std::exception& wrong) {
-        std::cerr << wrong.what() << '\n';
-        return ExitStatus::Fault;
-    }
+    return static_cast<ExitStatus>(easel::runInfo(words.options, std::cout));
 }
 
 struct PlayWords {
@@ -173,7 +168,12 @@ int run(std::vector<std::string> arguments) {
 } // namespace
 
 int main(int count, char** arguments) {
-    std::vector<std::string> given = easel::utf8Arguments(count, arguments);
-    given.erase(given.begin());
-    return run(std::move(given));
+    try {
+        std::vector<std::string> given = easel::utf8Arguments(count, arguments);
+        given.erase(given.begin());
+        return run(std::move(given));
+    } catch (const std::exception& wrong) {
+        std::cerr << wrong.what() << '\n';
+        return static_cast<int>(ExitStatus::Fault);
+    }
 }
