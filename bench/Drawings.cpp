@@ -117,6 +117,7 @@ void appendCurve(std::string& text, const AIPathSegment& from, const AIPathSegme
 
 std::vector<easel::Segments> drawPaths(const DrawingPlan& plan) {
     std::vector<easel::Segments> paths;
+    paths.reserve(static_cast<std::size_t>(plan.paths));
     for (int path = 0; path < plan.paths; ++path)
         paths.push_back(drawPath(plan, path));
     return paths;

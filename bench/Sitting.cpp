@@ -19,14 +19,20 @@ constexpr const char* kToolName = "Facetta Tool";
 
 /// The plug-in's entry, and the time spent behind it.
 struct TimedEntry {
-    SPPluginEntryFunc entry = nullptr;
+    SPPluginEntryFunc entry;
     int depth = 0; ///< The plug-in may make the host send it a message.
     double seconds = 0;
 };
 
+/// Loaded once: it holds nothing between one start and the next.
+SPPluginEntryFunc pluginEntry() {
+    static const easel::Library library{FACETTA_LIBRARY};
+    return library.entry("PluginMain");
+}
+
 /// An entry is a plain function, which can carry nothing with it.
 TimedEntry& timedEntry() {
-    static TimedEntry timed;
+    static TimedEntry timed{.entry = pluginEntry()};
     return timed;
 }
 
@@ -48,12 +54,6 @@ double& clockCostPerCall() {
 
 /// Behind the plug-in's entry and in no function of the host.
 bool inPlugin() { return timedEntry().depth > 0 && easel::hostCalls().current() == nullptr; }
-
-/// Loaded once: it holds nothing between one start and the next.
-SPPluginEntryFunc pluginEntry() {
-    static const easel::Library library{FACETTA_LIBRARY};
-    return library.entry("PluginMain");
-}
 
 [[noreturn]] void giveUp(const std::string& why) {
     std::fprintf(stderr, "bench: %s\n", why.c_str());

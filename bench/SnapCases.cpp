@@ -39,8 +39,10 @@ constexpr double kWantedFootMicroseconds = 1.5;
 
 /// Three waves across a cell of the page, whatever the number of its anchors.
 easel::Segments waveIn(int cell, int anchors) {
-    const double left = 200 + kCellWidth * (cell % kColumns);
-    const double middle = -150 - kCellHeight * (cell / kColumns);
+    const int column = cell % kColumns;
+    const int row = cell / kColumns;
+    const double left = 200 + kCellWidth * column;
+    const double middle = -150 - kCellHeight * row;
     const double width = 0.9 * kCellWidth;
     const double height = 0.4 * kCellHeight;
     const double third = 1.0 / (3.0 * (anchors - 1)); // a cubic's handle is a third of its speed
