@@ -60,7 +60,7 @@ void saveAndReopen(const Document& document) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    constexpr std::size_t kLargestInput = 256 * 1024;
+    constexpr std::size_t kLargestInput = std::size_t{256} * 1024;
     if (size > kLargestInput) return 0;
     try {
         const svg::OpenedDrawing opened =

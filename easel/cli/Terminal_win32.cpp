@@ -22,6 +22,7 @@ std::vector<std::string> utf8Arguments(int /*count*/, char** /*arguments*/) {
     int count = 0;
     wchar_t** const wide = CommandLineToArgvW(GetCommandLineW(), &count);
     std::vector<std::string> arguments;
+    arguments.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         arguments.push_back(utf8(wide[i]));
     LocalFree(wide);

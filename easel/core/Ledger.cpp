@@ -123,6 +123,7 @@ std::vector<OpenLoan> Ledger::outstanding() const {
             ++open[{key.kind, lender}];
     }
     std::vector<OpenLoan> list;
+    list.reserve(open.size());
     for (const auto& [which, count] : open)
         list.push_back({which.first, which.second, count});
     return list;

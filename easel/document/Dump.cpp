@@ -60,7 +60,7 @@ public:
     void art(const Art& art, int depth);
 
 private:
-    void indent(int depth) { text.append(static_cast<std::size_t>(2 * depth), ' '); }
+    void indent(int depth) { text.append(2 * static_cast<std::size_t>(depth), ' '); }
     void word(const char* name) { text.append(" ").append(name); }
     void quoted(std::string_view name) {
         text += " \"";

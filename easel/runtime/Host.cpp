@@ -13,7 +13,7 @@
 namespace easel {
 namespace {
 
-Host* running = nullptr;
+Host* running = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global*)
 
 constexpr ai::int32 kMessageCheck = fourCharacterCode("SPCk");
 

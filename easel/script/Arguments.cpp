@@ -26,7 +26,7 @@ std::size_t keyNamed(const std::string& name) {
         if (name == key.name) return key.code;
     const char letter = name.size() == 1 ? name.front() : ' ';
     if (letter >= '0' && letter <= '9') return static_cast<std::size_t>(letter);
-    if (letter >= 'a' && letter <= 'z') return static_cast<std::size_t>(letter - 'a' + 'A');
+    if (letter >= 'a' && letter <= 'z') return static_cast<std::size_t>(letter - 'a') + 'A';
     throw Mistake("there is no key \"" + name +
                   "\"; keys are shift, ctrl, alt, escape, space, [, ], digits and letters");
 }

@@ -172,8 +172,7 @@ std::filesystem::path Player::input(const std::string& name) const {
 }
 
 std::filesystem::path Player::output(const std::string& name) const {
-    const auto file =
-        settings_.output / std::filesystem::path(std::u8string(name.begin(), name.end()));
+    auto file = settings_.output / std::filesystem::path(std::u8string(name.begin(), name.end()));
     std::filesystem::create_directories(file.parent_path());
     return file;
 }

@@ -6,6 +6,7 @@
 #include "easel/suites/RuntimeSuites.h"
 #include "host/suites/AIFilePathSuite.h"
 
+#include <algorithm>
 #include <system_error>
 
 /// Paths in the notation of the system that Easel runs on.
@@ -54,9 +55,10 @@ AIBool8 lessThan(const ai::FilePath& first, const ai::FilePath& second) {
     return readPath(first) < readPath(second);
 }
 
-bool isDelimiter(char32_t character) {
-    return character == U'/' || character == static_cast<char32_t>(Path::preferred_separator);
-}
+/// On some systems one and the same.
+constexpr char32_t kDelimiters[] = {U'/', static_cast<char32_t>(Path::preferred_separator)};
+
+bool isDelimiter(char32_t character) { return std::ranges::count(kDelimiters, character) != 0; }
 
 AIBool8 startsWithDelimiter(const ai::FilePath& path) {
     const std::u32string text = textOf(readPath(path));

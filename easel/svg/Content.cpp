@@ -2,6 +2,8 @@
 
 #include "easel/document/Layers.h"
 
+#include <cassert>
+
 namespace easel::svg {
 namespace {
 
@@ -21,6 +23,7 @@ const DrawingSource* sourceOf(const Document& document) {
 
 Art& startingLayer(const Document& document) {
     Art* const top = layerFrom(document.root().firstChild());
+    assert(top != nullptr); // the last layer cannot be deleted
     for (Art* layer = top; layer != nullptr; layer = layerFrom(layer->next()))
         if (!layer->has(kArtHidden) && !layer->has(kArtLocked)) return *layer;
     return *top;

@@ -163,7 +163,9 @@ std::string declarationText(const Properties& properties) {
     std::string text;
     for (const auto& [property, value] : properties) {
         if (!text.empty()) text += ';';
-        text += property + ':' + value;
+        text += property;
+        text += ':';
+        text += value;
     }
     return text;
 }

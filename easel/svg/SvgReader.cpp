@@ -265,6 +265,7 @@ OpenedDrawing readSvg(const std::filesystem::path& file) {
 }
 
 OpenedDrawing readSvgText(std::string text, const std::string& name) {
+    const std::string prefix = name + ':';
     OpenedDrawing opened;
     try {
         if (text.find('\0') != std::string::npos)
@@ -272,9 +273,9 @@ OpenedDrawing readSvgText(std::string text, const std::string& name) {
         SvgReader reader{std::move(text)};
         opened.document = reader.read();
         for (const std::string& warning : reader.warnings())
-            opened.warnings.push_back(name + ':' + warning);
+            opened.warnings.push_back(prefix + warning);
     } catch (const SvgError& error) {
-        throw FileError(name + ':' + std::to_string(error.line) + ": " + error.what());
+        throw FileError(prefix + std::to_string(error.line) + ": " + error.what());
     }
     return opened;
 }
