@@ -21,7 +21,7 @@
 
 namespace facetta {
 
-FacettaPlugin* thePlugin = nullptr;
+FacettaPlugin* thePlugin = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global*)
 
 namespace {
 

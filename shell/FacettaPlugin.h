@@ -91,6 +91,6 @@ private:
 
 /// The live plug-in object; null before start-up, after shut-down and while the library is being
 /// reloaded. Written by `FacettaPlugin` only.
-extern FacettaPlugin* thePlugin;
+extern FacettaPlugin* thePlugin; // NOLINT(cppcoreguidelines-avoid-non-const-global*)
 
 } // namespace facetta

@@ -119,8 +119,9 @@ CoADMItem* CoADMDialog::pushButton(int id) const {
 
 /// Only modal dialogs have a default item: in a panel, Enter belongs to the field.
 void CoADMDialog::markDefault() {
+    const CoADMItem* const button = isModal() ? pushButton(defaultId_) : nullptr;
     for (const auto& one : items_)
-        one->markDefault(isModal() && one.get() == pushButton(defaultId_));
+        one->markDefault(button != nullptr && one.get() == button);
 }
 
 void CoADMDialog::setDefaultId(int id) {

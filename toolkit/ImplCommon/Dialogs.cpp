@@ -12,7 +12,7 @@ namespace NRDM {
 namespace {
 
 /// The functions of the suites have no other way to it. Written by `Dialogs` only.
-Dialogs* currentDialogs = nullptr;
+Dialogs* currentDialogs = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global*)
 
 /// In an item's own unit.
 constexpr Increments kCustomaryIncrements = {1, 10};

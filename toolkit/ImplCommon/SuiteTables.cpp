@@ -36,8 +36,8 @@ const SuiteTable* find(const char* name, ai::int32 version) {
 
 /// What the host's functions are called through: they take no word of whose suite it is. Both are
 /// written by `offeringSuites`.
-const SPBasicSuite* hostSuite = nullptr;
-SPBasicSuite extendedSuite{};
+const SPBasicSuite* hostSuite = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global*)
+SPBasicSuite extendedSuite{};            // NOLINT(cppcoreguidelines-avoid-non-const-global*)
 
 SPErr acquire(const char* name, ai::int32 version, const void** functions) {
     const SuiteTable* const own = find(name, version);
