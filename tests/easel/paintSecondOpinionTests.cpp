@@ -87,19 +87,19 @@ TEST_CASE("another program sees in saved drawings what it saw before, and what w
         {"examples/layered.svg", 0.001, 0.002},
         {"fuzz/corpus/svg_fuzz/mixed.svg", 0.004, 0.02},
     };
-    for (const auto& [drawing, saved, ours] : rows) {
-        INFO(std::string{drawing});
-        const svg::OpenedDrawing opened = svg::readSvg(drawing);
+    for (const auto& row : rows) {
+        INFO(std::string{row.drawing});
+        const svg::OpenedDrawing opened = svg::readSvg(row.drawing);
         paint::PaintOptions options;
         options.background = paint::Colour{1, 1, 1, 1};
         REQUIRE(
             paint::writePng(paint::paintDocument(*opened.document, options), folder / "ours.png"));
         svg::writeSvg(*opened.document, folder / "saved.svg");
-        REQUIRE(converted(drawing, folder / "before.png"));
+        REQUIRE(converted(row.drawing, folder / "before.png"));
         REQUIRE(converted(folder / "saved.svg", folder / "after.png"));
         const Pixels before = readPng(folder / "before.png");
-        CHECK(partOfOthers(before, readPng(folder / "after.png")) <= saved);
-        CHECK(partOfOthers(before, readPng(folder / "ours.png")) <= ours);
+        CHECK(partOfOthers(before, readPng(folder / "after.png")) <= row.saved);
+        CHECK(partOfOthers(before, readPng(folder / "ours.png")) <= row.ours);
     }
     std::filesystem::remove_all(folder);
 }

@@ -37,10 +37,10 @@ struct Probe {
 };
 
 void check(const Picture& picture, std::initializer_list<Probe> probes) {
-    for (const auto& [x, y, colour] : probes) {
-        CAPTURE(x);
-        CAPTURE(y);
-        CHECK(pixel(picture, x, y) == std::string{colour});
+    for (const auto& probe : probes) {
+        CAPTURE(probe.x);
+        CAPTURE(probe.y);
+        CHECK(pixel(picture, probe.x, probe.y) == std::string{probe.colour});
     }
 }
 
@@ -129,9 +129,9 @@ TEST_CASE("pictures show what the drawing says") {
          "<rect width='40' height='40' easel:guide='true' display='none'/>",
          {{0, 0, "none"}}},
     };
-    for (const auto& [what, content, probes] : rows) {
-        INFO(std::string{what});
-        check(painted(content), probes);
+    for (const auto& row : rows) {
+        INFO(std::string{row.what});
+        check(painted(row.content), row.probes);
     }
 }
 

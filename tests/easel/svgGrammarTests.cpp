@@ -64,11 +64,11 @@ TEST_CASE("path data draws what its grammar says") {
         {"M1 1A5 5 0 0 1 1 1", "1,1"},
         {"  ", ""},
     };
-    for (const auto& [data, curves] : rows) {
-        INFO(std::string{data});
-        const PathData read = parsePathData(data);
+    for (const auto& row : rows) {
+        INFO(std::string{row.data});
+        const PathData read = parsePathData(row.data);
         CHECK(read.error.empty());
-        CHECK(text(read.outline) == curves);
+        CHECK(text(read.outline) == row.curves);
     }
 }
 
@@ -84,11 +84,11 @@ TEST_CASE("a mistake in path data keeps what comes before it") {
         {"M0 0L1e999 0", "number", 1}, {"M0 0L2e9 0", "beyond 1e9", 1},
         {"M0 0L nan 0", "number", 1},  {"M0 0H0x10", "command", 2},
     };
-    for (const auto& [data, error, anchors] : rows) {
-        INFO(std::string{data});
-        const PathData read = parsePathData(data);
-        CHECK(read.error.find(error) != std::string::npos);
-        CHECK((read.outline.empty() ? 0 : read.outline.front().anchors.size()) == anchors);
+    for (const auto& row : rows) {
+        INFO(std::string{row.data});
+        const PathData read = parsePathData(row.data);
+        CHECK(read.error.find(row.error) != std::string::npos);
+        CHECK((read.outline.empty() ? 0 : read.outline.front().anchors.size()) == row.anchors);
     }
 }
 
@@ -144,13 +144,13 @@ TEST_CASE("transforms are applied from the right to the left") {
         {"scale(2),translate(10 0)", {22, 4}},
         {" translate ( 1 , 1 ) ", {2, 3}},
     };
-    for (const auto& [transform, image] : rows) {
-        INFO(std::string{transform});
-        const auto matrix = parseTransform(transform);
+    for (const auto& row : rows) {
+        INFO(std::string{row.transform});
+        const auto matrix = parseTransform(row.transform);
         REQUIRE(matrix);
         const Point result = *matrix * Point{1, 2};
-        CHECK(result.x == doctest::Approx(image.x));
-        CHECK(result.y == doctest::Approx(image.y));
+        CHECK(result.x == doctest::Approx(row.image.x));
+        CHECK(result.y == doctest::Approx(row.image.y));
     }
     for (const char* bad : {"turn(3)", "scale()", "rotate(1 2)", "translate(1", "matrix(1 2 3)",
                             "translate(1) x", "scale(inf)"}) {
@@ -197,13 +197,13 @@ TEST_CASE("colours in all their spellings") {
         {"none", "", 0},
         {"reddish", "", 0},
     };
-    for (const auto& [spelling, hex, alpha] : rows) {
-        INFO(std::string{spelling});
-        const auto colour = parseColour(spelling);
-        CHECK(colour.has_value() == (hex[0] != '\0'));
+    for (const auto& row : rows) {
+        INFO(std::string{row.text});
+        const auto colour = parseColour(row.text);
+        CHECK(colour.has_value() == (row.hex[0] != '\0'));
         if (!colour) continue;
-        CHECK(formatColour(*colour) == hex);
-        CHECK(colour->alpha == doctest::Approx(alpha));
+        CHECK(formatColour(*colour) == row.hex);
+        CHECK(colour->alpha == doctest::Approx(row.alpha));
     }
 }
 
@@ -255,12 +255,12 @@ TEST_CASE("the stronger, then the later rule of a style sheet wins") {
         {{{"svg", "", ""}, {"g", "", ""}, {"rect", "", "deep"}}, "gray"},
         {{{"rect", "", ""}}, ""},
     };
-    for (const auto& [path, fill] : rows) {
-        INFO(std::string{fill});
+    for (const auto& row : rows) {
+        INFO(std::string{row.fill});
         std::string found;
-        for (const Declaration* declaration : sheet.matching(path, false))
+        for (const Declaration* declaration : sheet.matching(row.path, false))
             if (declaration->property == "fill") found = declaration->value;
-        CHECK(found == fill);
+        CHECK(found == row.fill);
     }
     CHECK(sheet.matching({{"circle", "", ""}}, true).front()->value == "gold");
     CHECK(sheet.matching({{"circle", "", ""}}, false).empty());

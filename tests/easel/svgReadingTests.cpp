@@ -70,9 +70,9 @@ TEST_CASE("shapes and transforms end in the outline") {
         {"<path d='M1 1h5v5' style='opacity:.5' transform='scale(2)'/>", "200 200 1200 1200 "},
         {"<rect width='1in' height='1in'/>", "0 0 9600 9600 "},
     };
-    for (const auto& [element, bounds] : rows) {
-        INFO(std::string{element});
-        CHECK(boundsText(topArt(open(element))) == bounds);
+    for (const auto& row : rows) {
+        INFO(std::string{row.element});
+        CHECK(boundsText(topArt(open(row.element))) == row.bounds);
     }
     const auto inside = open("<g transform='translate(10 0)'><g transform='rotate(90)'>"
                              "<path d='M0 0H5V2' transform='scale(2)'/></g></g>");
@@ -113,9 +113,9 @@ TEST_CASE("styles come from attributes, sheets, the style attribute and ancestor
         {"<style><![CDATA[g path{fill:red}]]></style><g><path d='M0 0H1'/></g>", "900"},
         {"<path d='M0 0H1' fill='nonsense'/>", "000"},
     };
-    for (const auto& [content, fill] : rows) {
-        INFO(std::string{content});
-        const auto opened = open(content);
+    for (const auto& row : rows) {
+        INFO(std::string{row.content});
+        const auto opened = open(row.content);
         const Art* art = &topArt(opened);
         while (art->type() == kGroupArt)
             art = art->firstChild();
@@ -127,7 +127,7 @@ TEST_CASE("styles come from attributes, sheets, the style attribute and ancestor
             for (const float channel : {rgb.red, rgb.green, rgb.blue})
                 found += std::to_string(std::lround(channel * 9));
         }
-        CHECK(found == fill);
+        CHECK(found == row.fill);
     }
 }
 
@@ -210,17 +210,17 @@ TEST_CASE("clip paths make clip groups") {
         {"<g clip-path='url(#text)'><path d='M0 0H9'/></g>", 0, kPathArt, "0 0 900 0 "},
         {"<g clip-path='url(#none)'><path d='M0 0H9'/></g>", 0, kPathArt, "0 0 900 0 "},
     };
-    for (const auto& [content, masks, type, bounds] : rows) {
-        INFO(std::string{content});
-        const auto opened = open(defs + content);
+    for (const auto& row : rows) {
+        INFO(std::string{row.content});
+        const auto opened = open(defs + row.content);
         const Art& group = topArt(opened);
-        CHECK(group.content().clipped == (masks > 0));
+        CHECK(group.content().clipped == (row.masks > 0));
         int found = 0;
         for (const Art* art = group.firstChild(); art != nullptr; art = art->next())
             if (art->has(kArtIsClipMask)) ++found;
-        CHECK(found == masks);
-        CHECK(group.firstChild()->type() == type);
-        CHECK(boundsText(*group.firstChild()) == bounds);
+        CHECK(found == row.masks);
+        CHECK(group.firstChild()->type() == row.type);
+        CHECK(boundsText(*group.firstChild()) == row.bounds);
     }
 }
 
@@ -295,9 +295,9 @@ TEST_CASE("a broken file is one line that says where, what, and what would be ri
          "a.svg:1: easel:members is no list of what the subpaths carry"},
         {std::string{"<svg\0/>", 7}, "a.svg:1: this is no text; an SVG file is XML in UTF-8"},
     };
-    for (const auto& [text, message] : rows) {
-        INFO(text);
-        CHECK(messageFor(text) == message);
+    for (const auto& row : rows) {
+        INFO(row.text);
+        CHECK(messageFor(row.text) == row.message);
     }
 }
 

@@ -104,7 +104,9 @@ TEST_CASE("every example, mirrored, is its own image across every axis and by ev
     for (const Example& example : kExamples) {
         for (const Axes& axes : kAxes) {
             INFO(example.file, " on ", axes.count, " axes at ", axes.degrees, " degrees");
-            const auto [plain, large] = mirroredPictures(example, axes);
+            const Pictures pictures = mirroredPictures(example, axes);
+            const Picture& plain = pictures.plain;
+            const Picture& large = pictures.large;
             const Mismatch images = compareWithImages(plain, seenAxes(plain, axes), kTolerance);
             INFO("first wrong pixel at ", images.x, ", ", images.y);
             CHECK(images.compared > 200000);

@@ -158,11 +158,12 @@ Mismatch findSeams(const Picture& picture, const PictureAxes& axes, int toleranc
             int x = 0;
             int y = 0;
             bool complete = true;
-            for (int offset = -4; offset <= 4; ++offset) {
+            for (std::size_t i = 0; i < across.size(); ++i) {
+                const int offset = static_cast<int>(i) - 4;
                 x = rounded(axes.centreX + alongX * distance - alongY * offset - 0.5);
                 y = rounded(axes.centreY + alongY * distance + alongX * offset - 0.5);
                 complete = complete && inside(picture, x, y, 0);
-                if (complete) across[static_cast<std::size_t>(offset + 4)] = pixelAt(picture, x, y);
+                if (complete) across[i] = pixelAt(picture, x, y);
             }
             const bool flat = complete && near(across[0], across[1], tolerance) &&
                               near(across[0], across[7], tolerance) &&

@@ -24,8 +24,10 @@ Picture painted(const std::function<double(double, double)>& shade) {
         for (int x = 0; x < kSize; ++x) {
             double sum = 0.0;
             for (int i = 0; i < kSupersampling * kSupersampling; ++i) {
-                const double u = x + (i % kSupersampling + 0.5) / kSupersampling;
-                const double v = y + (i / kSupersampling + 0.5) / kSupersampling;
+                const int column = i % kSupersampling;
+                const int row = i / kSupersampling;
+                const double u = x + (column + 0.5) / kSupersampling;
+                const double v = y + (row + 0.5) / kSupersampling;
                 sum += shade(u - kSize / 2.0, kSize / 2.0 - v);
             }
             const double mean = sum / (kSupersampling * kSupersampling);

@@ -55,7 +55,11 @@ TEST_CASE("nulls instead of a message are refused") {
 TEST_CASE("pairs that nobody handles succeed and show nothing") {
     Session session;
     session.host.start();
-    const char* const pairs[][2] = {
+    struct Pair {
+        const char* caller;
+        const char* selector;
+    };
+    const Pair pairs[] = {
         {"AI Menu", "AI Stop"},
         {"AI Tool", "AI Mouse"},
         {"Workspace Manager", "Write Workspace"},
@@ -64,9 +68,9 @@ TEST_CASE("pairs that nobody handles succeed and show nothing") {
         {"SP Adapters", "Startup"},
         {"AI Notifier", "AI Other"},
     };
-    for (const auto& [caller, selector] : pairs) {
-        INFO(caller, " / ", selector);
-        CHECK(session.send(caller, selector, AIPluginGroupMessage{}) == kNoErr);
+    for (const Pair& pair : pairs) {
+        INFO(pair.caller, " / ", pair.selector);
+        CHECK(session.send(pair.caller, pair.selector, AIPluginGroupMessage{}) == kNoErr);
     }
     CHECK(session.host.user.alerts.empty());
 }
@@ -113,21 +117,21 @@ TEST_CASE("a host with another version of the same slots is served, and gets tha
         {kSPPluginsSuite, kSPPluginsSuiteVersion, 5, true},
         {kAIPathSuite, kAIPathSuiteVersion, 11, false}, // reals have twice the bits there
     };
-    for (const auto& [suite, wanted, offered, starts] : offers) {
-        INFO(std::string(suite), ' ', offered);
-        easel::suiteServer().renumber(suite, wanted, offered);
+    for (const auto& offer : offers) {
+        INFO(std::string(offer.suite), ' ', offer.offered);
+        easel::suiteServer().renumber(offer.suite, offer.wanted, offer.offered);
         {
             Session session;
             session.startUpMayFail = true;
-            CHECK((session.send(kCallerInterface, kSelectorStartup) == kNoErr) == starts);
-            if (starts) {
+            CHECK((session.send(kCallerInterface, kSelectorStartup) == kNoErr) == offer.starts);
+            if (offer.starts) {
                 session.send(kCallerAccess, kSelectorUnload);
                 session.send(kCallerAccess, kSelectorReload);
                 session.send(kCallerInterface, kSelectorShutdown);
             }
             CHECK(easel::suiteServer().outstanding().empty());
         }
-        easel::suiteServer().renumber(suite, offered, wanted);
+        easel::suiteServer().renumber(offer.suite, offer.offered, offer.wanted);
     }
 }
 

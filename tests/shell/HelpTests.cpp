@@ -58,19 +58,19 @@ TEST_CASE("the help item opens the manual that lies beside the library, and is s
                         {"missing", false, 0, 0},
                         {"a name of 299 characters", true, 299, 1},
                         {"a name of 300 characters", true, 300, 0}};
-    for (const auto& [what, manual, nameLength, opened] : rows) {
-        INFO(what);
+    for (const auto& row : rows) {
+        INFO(row.what);
         const Desktop desktop;
-        const PluginFolder folder(manual);
+        const PluginFolder folder(row.manual);
         std::u16string library = (folder.path / "facetta.aip").u16string();
-        if (nameLength > library.size()) library.append(nameLength - library.size(), u'x');
+        if (row.nameLength > library.size()) library.append(row.nameLength - library.size(), u'x');
         desktop->moduleFileName = library;
         Session session;
         session.host.start();
         session.host.chooseMenuItem(thePlugin->menuItems.help[0]);
         const auto& launched = session.host.user.launched;
-        REQUIRE(launched.size() == opened);
-        if (opened != 0) CHECK(launched.front() == folder.manual());
+        REQUIRE(launched.size() == row.opened);
+        if (row.opened != 0) CHECK(launched.front() == folder.manual());
         CHECK(session.host.user.alerts.empty());
         CHECK(desktop->shownMessages.empty());
     }
@@ -83,12 +83,12 @@ TEST_CASE("web items open their pages; without a web the user learns whom to ask
     };
     const Row rows[] = {
         {1, "tutorialmovies"}, {2, "checkforupdates"}, {4, "buyupgrade"}, {5, "licensinghelp"}};
-    for (const auto& [item, topic] : rows) {
-        INFO(topic);
+    for (const auto& row : rows) {
+        INFO(row.topic);
         const Desktop desktop;
         Session session;
         session.host.start();
-        const AIMenuItemHandle handle = thePlugin->menuItems.help[item];
+        const AIMenuItemHandle handle = thePlugin->menuItems.help[row.item];
         session.host.chooseMenuItem(handle);
         CHECK(desktop->openedAddresses.empty());
         REQUIRE(session.host.user.alerts.size() == 1);
@@ -96,7 +96,7 @@ TEST_CASE("web items open their pages; without a web the user learns whom to ask
 
         session.host.user.browserAvailable = true;
         session.host.chooseMenuItem(handle);
-        CHECK(desktop->openedAddresses == std::vector{page(topic)});
+        CHECK(desktop->openedAddresses == std::vector{page(row.topic)});
     }
 }
 
@@ -107,20 +107,20 @@ TEST_CASE("a version's first start with a web is welcomed, once") {
     };
     const Row rows[] = {{nullptr, true},  {"1.0.9", true}, {"0.12.3", true}, {"garbage", true},
                         {"1.1.0", false}, {"1.10", false}, {"2", false}};
-    for (const auto& [lastVersion, welcomed] : rows) {
-        INFO((lastVersion == nullptr ? "never" : lastVersion));
+    for (const auto& row : rows) {
+        INFO((row.lastVersion == nullptr ? "never" : row.lastVersion));
         const Desktop desktop;
         Session session;
         session.host.user.browserAvailable = true;
-        if (lastVersion != nullptr)
+        if (row.lastVersion != nullptr)
             session.host.preferences.put("FacettaLicensing", "LastVersion",
-                                         std::string(lastVersion));
+                                         std::string(row.lastVersion));
         for (int run = 0; run < 2; ++run) {
             session.host.start();
             session.host.quit();
         }
-        CHECK(desktop->openedAddresses.size() == (welcomed ? 1 : 0));
-        if (welcomed) CHECK(desktop->openedAddresses.front() == page("welcome"));
+        CHECK(desktop->openedAddresses.size() == (row.welcomed ? 1 : 0));
+        if (row.welcomed) CHECK(desktop->openedAddresses.front() == page("welcome"));
     }
 }
 

@@ -48,7 +48,11 @@ TEST_CASE("an empty store leaves the defaults, and shut-down writes every key wi
     start(session);
     session.host.quit();
     using Value = easel::Preferences::Value;
-    const std::pair<const char*, Value> expected[] = {
+    struct Entry {
+        const char* key;
+        Value value;
+    };
+    const Entry expected[] = {
         {"FTAngle", 0.0},
         {"FTCount", ai::int32{3}},
         {"FTDlgPosX", ai::int32{-999}},
@@ -63,19 +67,19 @@ TEST_CASE("an empty store leaves the defaults, and shut-down writes every key wi
         {"FTSnapPerp", true},
         {"FTPanelExpansion", ai::int32{0}},
     };
-    for (const auto& [key, value] : expected) {
-        INFO(key);
-        const Value* const stored = session.host.preferences.find("Facetta", key);
+    for (const Entry& entry : expected) {
+        INFO(entry.key);
+        const Value* const stored = session.host.preferences.find("Facetta", entry.key);
         REQUIRE(stored != nullptr);
-        CHECK(stored->index() == value.index());
-        CHECK(session.host.preferences.number("Facetta", key) ==
+        CHECK(stored->index() == entry.value.index());
+        CHECK(session.host.preferences.number("Facetta", entry.key) ==
               std::visit(
                   [](const auto& v) -> std::optional<double> {
                       if constexpr (std::is_arithmetic_v<std::decay_t<decltype(v)>>)
                           return static_cast<double>(v);
                       return std::nullopt;
                   },
-                  value));
+                  entry.value));
     }
 }
 

@@ -147,12 +147,12 @@ constexpr Row kRows[] = {
 } // namespace
 
 TEST_CASE("each pair of caller and selector reaches its operation, and no other pair any") {
-    for (const auto& [caller, selector, operation] : kRows) {
-        INFO(caller, " / ", selector);
+    for (const auto& row : kRows) {
+        INFO(row.caller, " / ", row.selector);
         RecordingPlugin plugin;
         AnyMessage message;
-        const AIErr result = route(plugin, caller, selector, &message);
-        CHECK(plugin.reached == operation);
+        const AIErr result = route(plugin, row.caller, row.selector, &message);
+        CHECK(plugin.reached == row.operation);
         CHECK((result == kUnhandledMsgErr) == plugin.reached.empty());
     }
 }
@@ -184,10 +184,10 @@ TEST_CASE("the base answers some messages with success and leaves the others unh
         {"SP Properties", "Acquire", kUnhandledMsgErr},
         {"Workspace Manager", "Default Woskspace", kUnhandledMsgErr},
     };
-    for (const auto& [caller, selector, answer] : rows) {
-        INFO(caller, " / ", selector);
+    for (const auto& row : rows) {
+        INFO(row.caller, " / ", row.selector);
         Plugin plugin(nullptr);
         AnyMessage message;
-        CHECK(route(plugin, caller, selector, &message) == answer);
+        CHECK(route(plugin, row.caller, row.selector, &message) == row.answer);
     }
 }

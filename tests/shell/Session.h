@@ -16,10 +16,13 @@
 namespace facetta::tests {
 
 /// What the entry of this program's plug-in is licensed to; set before a host is made.
-inline Licensing licensing;
+inline Licensing& licensing() {
+    static Licensing current;
+    return current;
+}
 
 inline SPErr entry(const char* caller, const char* selector, void* message) {
-    return handleMessage(licensing, caller, selector, message);
+    return handleMessage(licensing(), caller, selector, message);
 }
 
 /// A host with Facetta in it, not started yet. What is still lent at the end fails the test.
@@ -27,7 +30,7 @@ class Session {
 public:
     explicit Session(const Licensing& licence = {}, easel::HostSettings settings = {})
         : host(settings) {
-        licensing = licence;
+        licensing() = licence;
         host.user.browserAvailable = false; // tests open no web pages
         plugin = host.addPlugin("Facetta", entry);
     }

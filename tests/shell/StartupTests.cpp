@@ -102,13 +102,13 @@ TEST_CASE("menus, notifiers, annotator and tool are registered under their names
         {"Facetta Panel", "FacettaWindowGroup", own.panel},
     };
     const auto& menus = session.host.menus;
-    for (const auto& [label, group, item] : items) {
-        INFO(label);
-        const easel::MenuItem& found = menus.items.at(item);
-        const std::string_view wanted(label);
+    for (const auto& row : items) {
+        INFO(row.label);
+        const easel::MenuItem& found = menus.items.at(row.item);
+        const std::string_view wanted(row.label);
         CHECK(found.text == std::u32string(wanted.begin(), wanted.end()));
-        CHECK(menus.groups.at(found.group).name == group);
-        CHECK(found.options == (item == own.panel ? kMenuItemWantsUpdateOption : 0));
+        CHECK(menus.groups.at(found.group).name == row.group);
+        CHECK(found.options == (row.item == own.panel ? kMenuItemWantsUpdateOption : 0));
     }
     CHECK(menus.itemNamed("NorvaneShowAllPanels") == own.showAllPanels);
     CHECK(menus.itemNamed("Facetta Panel Menu Item") == own.panel);
@@ -169,21 +169,21 @@ TEST_CASE("a failing registration keeps what depends on it from being registered
         {"AI Annotator Suite.SetAnnotatorOptions", 1, true, 27, true, false},
         {"AI Tool Suite.AddTool", 1, true, 27, true, false},
     };
-    for (const auto& [function, call, panelItem, notifiers, annotator, tool] : rows) {
-        INFO(function, " ", call);
+    for (const auto& row : rows) {
+        INFO(row.function, " ", row.call);
         Session session;
         easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::Once,
-                                .call = call,
-                                .function = function,
+                                .call = row.call,
+                                .function = row.function,
                                 .code = kBadParameterErr});
         CHECK(session.send("SP Interface", "Startup") == kNoErr);
         easel::hostCalls().disarm();
         const auto& handles = thePlugin->notifiers;
-        CHECK((thePlugin->menuItems.panel != nullptr) == panelItem);
+        CHECK((thePlugin->menuItems.panel != nullptr) == row.panelItem);
         CHECK(handles.size() - static_cast<std::size_t>(std::ranges::count(handles, nullptr)) ==
-              notifiers);
-        CHECK((thePlugin->annotator != nullptr) == annotator);
-        CHECK((thePlugin->toolHandle != nullptr) == tool);
+              row.notifiers);
+        CHECK((thePlugin->annotator != nullptr) == row.annotator);
+        CHECK((thePlugin->toolHandle != nullptr) == row.tool);
         CHECK(session.host.user.alerts.empty());
         session.send("SP Interface", "Shutdown");
     }

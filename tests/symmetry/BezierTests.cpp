@@ -46,13 +46,13 @@ TEST_CASE("a function changes its sign where it crosses zero and nowhere else") 
         {"zero everywhere", {0, 0, 0, 0}, {}},
         {"not a number", {NAN, 1, -1, 1}, {}},
     };
-    for (const auto& [what, function, expected] : rows) {
-        INFO(what);
-        const Roots roots = signChanges(function);
+    for (const auto& row : rows) {
+        INFO(row.what);
+        const Roots roots = signChanges(row.function);
         for (const double root : roots.all())
-            CHECK(std::abs(evaluate(function, root)) < 1e-14);
-        REQUIRE(roots.all().size() == expected.size());
-        for (std::size_t i = 0; i < expected.size(); ++i)
-            CHECK(roots.values[i] == doctest::Approx(expected[i]).epsilon(1e-12));
+            CHECK(std::abs(evaluate(row.function, root)) < 1e-14);
+        REQUIRE(roots.all().size() == row.expected.size());
+        for (std::size_t i = 0; i < row.expected.size(); ++i)
+            CHECK(roots.values[i] == doctest::Approx(row.expected[i]).epsilon(1e-12));
     }
 }

@@ -55,12 +55,12 @@ TEST_CASE("a path is cut where it crosses a ray, and only there") {
         {"a needle drawn across", 1, "M -0.002 50 L 0 -50 L 0.002 50", {0.5, 1.5}},
         {"a doubled anchor on the ray", 1, "M 0 50 L 10 0 L 10 0 L 20 -50", {1.0}},
     };
-    for (const auto& [what, axisCount, path, positions] : rows) {
-        INFO(what);
-        const std::vector<Contact> cuts = cutsOf(axisCount, shapeOf(path));
-        REQUIRE(cuts.size() == positions.size());
-        for (std::size_t i = 0; i < positions.size(); ++i)
-            CHECK(cuts[i].first.position() == doctest::Approx(positions[i]).epsilon(1e-3));
+    for (const auto& row : rows) {
+        INFO(row.what);
+        const std::vector<Contact> cuts = cutsOf(row.axisCount, shapeOf(row.path));
+        REQUIRE(cuts.size() == row.positions.size());
+        for (std::size_t i = 0; i < row.positions.size(); ++i)
+            CHECK(cuts[i].first.position() == doctest::Approx(row.positions[i]).epsilon(1e-3));
     }
 }
 

@@ -28,11 +28,11 @@ TEST_CASE("an angle is brought into one turn, however far out it is") {
         {"not a number", std::numeric_limits<double>::quiet_NaN(), 0.0},
         {"infinite", -kInfinity, 0.0},
     };
-    for (const auto& [what, angle, expected] : rows) {
-        INFO(what);
-        CHECK(normaliseAngle(angle) == doctest::Approx(expected).epsilon(1e-15));
-        CHECK(normaliseAngle(angle) >= 0.0);
-        CHECK(normaliseAngle(angle) < kTwoPi);
+    for (const auto& row : rows) {
+        INFO(row.what);
+        CHECK(normaliseAngle(row.angle) == doctest::Approx(row.expected).epsilon(1e-15));
+        CHECK(normaliseAngle(row.angle) >= 0.0);
+        CHECK(normaliseAngle(row.angle) < kTwoPi);
     }
 }
 

@@ -140,12 +140,12 @@ TEST_CASE("what becomes of a path") {
         {"touching along a curve: not cut", 1, "M 0 40 C 40 -13.33 80 -13.33 120 40 Z",
          "all M 0 40 C 40 -13.33 80 -13.33 120 40 Z"},
     };
-    for (const auto& [what, axisCount, source, expected] : rows) {
-        INFO(what);
-        PathMirror mirror({.axisCount = axisCount}, kSnapDistance);
-        const MirroredPath result = mirror.mirror(shapeOf(source));
-        CHECK(outcomeOf(result) == expected);
-        CHECK(result.unchanged == (textOf(result.contours[0].shape) == source));
+    for (const auto& row : rows) {
+        INFO(row.what);
+        PathMirror mirror({.axisCount = row.axisCount}, kSnapDistance);
+        const MirroredPath result = mirror.mirror(shapeOf(row.source));
+        CHECK(outcomeOf(result) == row.expected);
+        CHECK(result.unchanged == (textOf(result.contours[0].shape) == row.source));
         for (const Contour& contour : result.contours)
             CHECK(mirror.mirror(contour.shape).unchanged);
     }

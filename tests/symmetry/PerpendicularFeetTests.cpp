@@ -140,16 +140,16 @@ TEST_CASE("the feet of perpendiculars, by hand") {
         {"a point", {{7, 7}, {7, 7}, {7, 7}, {7, 7}}, {0, 0}, {}},
         {"not a number", {{0, 0}, {NAN, 1}, {2, 2}, {3, 0}}, {5, 5}, {}},
     };
-    for (const auto& [what, curve, point, expected] : rows) {
-        INFO(what);
-        const Feet feet = perpendicularFeet(curve, point);
+    for (const auto& row : rows) {
+        INFO(row.what);
+        const Feet feet = perpendicularFeet(row.curve, row.point);
         std::string found;
         for (const double t : feet.all())
             found += ' ' + std::to_string(t);
         INFO("found:", found);
-        REQUIRE(feet.all().size() == expected.size());
-        for (std::size_t i = 0; i < expected.size(); ++i)
-            CHECK(std::abs(feet.values[i] - expected[i]) < 1e-9);
+        REQUIRE(feet.all().size() == row.feet.size());
+        for (std::size_t i = 0; i < row.feet.size(); ++i)
+            CHECK(std::abs(feet.values[i] - row.feet[i]) < 1e-9);
     }
 }
 

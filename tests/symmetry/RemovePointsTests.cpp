@@ -42,9 +42,10 @@ TEST_CASE("an anchor on an axis goes when the curve is the same without it") {
         {"two anchors stay", "M -30 0 L 30 0 Z", "M -30 0 L 30 0 Z"},
         {"a single anchor stays", "M 0 0", "M 0 0"},
     };
-    for (const auto& [what, path, expected] : rows) {
-        INFO(what);
-        CHECK(textOf(removeRedundantAxisPoints(shapeOf(path), {.axisCount = 2})) == expected);
+    for (const auto& row : rows) {
+        INFO(row.what);
+        CHECK(textOf(removeRedundantAxisPoints(shapeOf(row.path), {.axisCount = 2})) ==
+              row.expected);
     }
 }
 

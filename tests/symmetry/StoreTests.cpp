@@ -26,10 +26,10 @@ void store(easel::Dictionary& entries, const char* key, Value value) {
 }
 
 /// Gives the layer an entry "FacettaFT" and returns what is in it.
-easel::Dictionary& axesEntry(Art& layer) {
-    const easel::Ref entry = easel::Ref(new easel::Dictionary);
+easel::Ref<easel::Dictionary> axesEntry(Art& layer) {
+    easel::Ref entry(new easel::Dictionary);
     store(layer.dictionary(), "FacettaFT", entry);
-    return *entry;
+    return entry;
 }
 
 SymmetryAxes readAxes(EngineFixture& fixture) {
@@ -95,9 +95,9 @@ TEST_CASE("a bad or missing value reads as its default, the others as they are")
     for (const auto& row : texts) {
         INFO(row.text);
         EngineFixture fixture;
-        easel::Dictionary& entry = axesEntry(fixture.layer());
+        const easel::Ref entry = axesEntry(fixture.layer());
         for (const char* key : {"cx", "cy", "aa"})
-            store(entry, key, easel::textValue(row.text));
+            store(*entry, key, easel::textValue(row.text));
         const SymmetryAxes axes = readAxes(fixture);
         CHECK(axes.originX == row.value);
         CHECK(axes.originY == row.value);
@@ -123,7 +123,7 @@ TEST_CASE("a bad or missing value reads as its default, the others as they are")
     for (const auto& row : rows) {
         INFO(row.what);
         EngineFixture fixture;
-        store(axesEntry(fixture.layer()), row.key, row.value);
+        store(*axesEntry(fixture.layer()), row.key, row.value);
         SymmetryAxes onLayer = row.expected;
         onLayer.onLayer = true;
         CHECK(readAxes(fixture) == onLayer);

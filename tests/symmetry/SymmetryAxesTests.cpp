@@ -65,9 +65,10 @@ TEST_CASE("sectors are numbered counter-clockwise from the first axis") {
         {"the origin, with direction 0 in sector 0", 3, -0.1, {0, 0}, 0},
         {"the origin, with direction 0 in the last sector", 3, 0.1, {0, 0}, 5},
     };
-    for (const auto& [where, axisCount, angle, point, sector] : rows) {
-        INFO(where);
-        CHECK(sectorIndexOf({.angle = angle, .axisCount = axisCount}, point) == sector);
+    for (const auto& row : rows) {
+        INFO(row.where);
+        CHECK(sectorIndexOf({.angle = row.angle, .axisCount = row.axisCount}, row.point) ==
+              row.sector);
     }
 }
 

@@ -52,16 +52,16 @@ TEST_CASE("with Alt the art of a layer moves and turns with its axes") {
     const Row rows[] = {{"moved by the origin", -1, {60, 35}, 0},
                         {"turned by an axis", 1, {}, 30},
                         {"turned by the handle of the active sector", 0.5, {}, 30}};
-    for (const auto& [what, grabbed, by, degrees] : rows) {
-        INFO(what);
+    for (const auto& row : rows) {
+        INFO(row.what);
         Drawing session(/*selected*/ false);
         session.makeLive();
         const std::vector<Line> lines = linesOf(session);
         const Point centre = session.origin();
-        const bool moves = grabbed < 0;
-        const AIRealPoint from = moves ? narrow(centre) : session.onRay(grabbed, 200);
-        const AIRealPoint to = moves ? AIRealPoint{from.h + by.h, from.v + by.v}
-                                     : session.onRay(grabbed + degrees / 60, 200);
+        const bool moves = row.grabbed < 0;
+        const AIRealPoint from = moves ? narrow(centre) : session.onRay(row.grabbed, 200);
+        const AIRealPoint to = moves ? AIRealPoint{from.h + row.by.h, from.v + row.by.v}
+                                     : session.onRay(row.grabbed + row.degrees / 60, 200);
         {
             const KeysHeld held({Key::Alt});
             session.dragFrom(from, to);
@@ -69,7 +69,7 @@ TEST_CASE("with Alt the art of a layer moves and turns with its axes") {
         std::vector<Line> moved;
         for (const auto& [start, end] : lines) {
             const auto map = [&](Point p) {
-                return rotateAbout(p, centre, -degrees * kPi / 180) + (widen(by) - Point{});
+                return rotateAbout(p, centre, -row.degrees * kPi / 180) + (widen(row.by) - Point{});
             };
             moved.emplace_back(map(start), map(end));
         }
@@ -83,7 +83,7 @@ TEST_CASE("with Alt the art of a layer moves and turns with its axes") {
         session.host.notify("AI Art Selection Changed Notifier");
         CHECK(session.text() == calm); // nothing was to be mirrored anew
         const SymmetryAxes stored = storedAxes(session);
-        CHECK(near(stored.angle, degrees * kPi / 180));
+        CHECK(near(stored.angle, row.degrees * kPi / 180));
         CHECK(near(originOf(stored), originOf(session.axes())));
         CHECK(session.host.undo());
         checkSame(linesOf(session), lines);

@@ -53,11 +53,11 @@ TEST_CASE("what is drawn stands out from its ground in light and dark") {
         {"mirrored art on the mask", &Colours::preview, &Colours::mask, kGraphics},
     };
     for (const Interface brightness : {Interface::Light, Interface::Dark}) {
-        for (const auto& [what, front, ground, least] : rows) {
+        for (const auto& row : rows) {
             const bool dark = brightness == Interface::Dark;
-            INFO(what, ", dark: ", dark);
+            INFO(row.what, ", dark: ", dark);
             const InterfaceColours& colours = coloursOf(brightness);
-            CHECK(contrast(colours.*front, colours.*ground) >= least);
+            CHECK(contrast(colours.*row.front, colours.*row.ground) >= row.least);
         }
     }
 }

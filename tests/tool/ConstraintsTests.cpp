@@ -23,12 +23,12 @@ TEST_CASE("directions are held to steps of 45 degrees from the constrain angle, 
         {337, 0, 315}, {30, 30, 30}, {52, 30, 30},  {53, 30, 75},   {8, 30, 30},
         {7, 30, -15},  {10, -90, 0}, {80, 450, 90}, {200, 30, 210}, {170, 0, 180},
     };
-    for (const auto& [free, constrainDegrees, held] : rows) {
-        INFO(free, " with ", constrainDegrees);
+    for (const auto& row : rows) {
+        INFO(row.free, " with ", row.constrainDegrees);
         const Point base{100, 50};
         const Constrained result =
-            constrain(base, base + 40.0 * direction(free * kDegree), constrainDegrees);
-        CHECK(std::abs(std::remainder(result.angle - held * kDegree, kTwoPi)) < 1e-9);
+            constrain(base, base + 40.0 * direction(row.free * kDegree), row.constrainDegrees);
+        CHECK(std::abs(std::remainder(result.angle - row.held * kDegree, kTwoPi)) < 1e-9);
     }
 }
 

@@ -26,14 +26,14 @@ TEST_CASE("the cursor finds the items of the dialog, to the pixel") {
         {192, 50, DialogItem::None},
     };
     Drawing session(/*selected*/ true);
-    for (const auto& [x, y, item] : rows) {
-        INFO(x, ",", y);
-        session.host.track({.at = session.onDialog(x, y)});
-        CHECK(session.tool().hoverItem == item);
-        const bool isButton = item >= DialogItem::ApplyToSelection;
+    for (const auto& row : rows) {
+        INFO(row.x, ",", row.y);
+        session.host.track({.at = session.onDialog(row.x, row.y)});
+        CHECK(session.tool().hoverItem == row.item);
+        const bool isButton = row.item >= DialogItem::ApplyToSelection;
         CHECK((session.tool().zone == ToolZone::DialogButton) == isButton);
-        CHECK((session.tool().zone == ToolZone::DialogTitle) == (item == DialogItem::Title));
-        CHECK((session.host.user.cursor == kFinger) == (item != DialogItem::None));
+        CHECK((session.tool().zone == ToolZone::DialogTitle) == (row.item == DialogItem::Title));
+        CHECK((session.host.user.cursor == kFinger) == (row.item != DialogItem::None));
     }
 }
 
@@ -67,17 +67,17 @@ TEST_CASE("what the buttons do") {
         {"drop the axes", DialogItem::Cancel, true, false, false, "Undo Draw"},
         {"the title does nothing", DialogItem::Title, true, true, false, "Undo Draw"},
     };
-    for (const auto& [what, button, selected, axesStay, onLayer, undoText] : rows) {
-        INFO(what);
-        Drawing session(selected);
-        const AIRealPoint place =
-            button == DialogItem::Title ? session.onDialog(96, 7) : session.onButton(button);
+    for (const auto& row : rows) {
+        INFO(row.what);
+        Drawing session(row.selected);
+        const AIRealPoint place = row.button == DialogItem::Title ? session.onDialog(96, 7)
+                                                                  : session.onButton(row.button);
         session.click(place);
-        CHECK(hasAxes(session.tool()) == axesStay);
-        CHECK(session.axes().onLayer == onLayer);
-        CHECK(session.tool().committed == onLayer);
-        CHECK(session.host.undoText() == undoText);
-        if (axesStay) continue;
+        CHECK(hasAxes(session.tool()) == row.axesStay);
+        CHECK(session.axes().onLayer == row.onLayer);
+        CHECK(session.tool().committed == row.onLayer);
+        CHECK(session.host.undoText() == row.undoText);
+        if (row.axesStay) continue;
         CHECK(session.tool().zone == ToolZone::Canvas);
         CHECK(near(session.origin(), widen(place))); // new axes follow the cursor
         CHECK(session.host.user.cursor == kBase);
@@ -133,13 +133,13 @@ TEST_CASE("the panel is told whenever what it shows may be another") {
         {"a button", true, [](Drawing& s) { s.click(s.onButton(DialogItem::Cancel)); }},
         {"applied by the tool's icon", true, [](Drawing& s) { s.host.editToolOptions(); }},
     };
-    for (const auto& [what, axesBefore, act] : rows) {
-        INFO(what);
+    for (const auto& row : rows) {
+        INFO(row.what);
         Drawing session(/*selected*/ false);
-        if (!axesBefore) session.click(session.onButton(DialogItem::Cancel));
+        if (!row.axesBefore) session.click(session.onButton(DialogItem::Cancel));
         thePlugin->updatePanel = [] { ++updates; };
         updates = 0;
-        act(session);
+        row.act(session);
         CHECK(updates > 0);
     }
 }

@@ -28,10 +28,10 @@ TEST_CASE("the dialog is centred when it was never placed, and pulled into the v
         {"below", scrolled, {300, 600}, {300, 548}},
         {"narrower than the dialog: the right edge wins", {0, 0, 150, 800}, {-20, 10}, {-42, 10}},
     };
-    for (const auto& [what, view, before, after] : rows) {
-        INFO(what);
-        const DialogPosition placed = placedIn(view, before);
-        CHECK(placed.x == after.x);
-        CHECK(placed.y == after.y);
+    for (const auto& row : rows) {
+        INFO(row.what);
+        const DialogPosition placed = placedIn(row.view, row.before);
+        CHECK(placed.x == row.after.x);
+        CHECK(placed.y == row.after.y);
     }
 }

@@ -63,16 +63,16 @@ TEST_CASE("Escape takes a drag back, from whatever was dragged, and lasts until 
         {"a layer's axes with its art", Axes::OnLayer, 1, true},
         {"a layer's origin with its art", Axes::OnLayer, -1, true},
     };
-    for (const auto& [what, state, grabbed, alt] : rows) {
-        INFO(what);
-        Prepared session(state);
+    for (const auto& row : rows) {
+        INFO(row.what);
+        Prepared session(row.state);
         const AIRealPoint from =
-            grabbed < 0 ? narrow(session.origin()) : session.onRay(grabbed, 200);
+            row.grabbed < 0 ? narrow(session.origin()) : session.onRay(row.grabbed, 200);
         session.host.track({.at = from});
         const Found found(session);
         {
-            const KeysHeld held(alt ? std::initializer_list<Key>{Key::Alt}
-                                    : std::initializer_list<Key>{});
+            const KeysHeld held(row.alt ? std::initializer_list<Key>{Key::Alt}
+                                        : std::initializer_list<Key>{});
             session.press(from.h, from.v);
         }
         session.drag(from.h + 40, from.v + 30);

@@ -39,11 +39,11 @@ TEST_CASE("a hint stands right of the cursor and above it, moved as far as the v
         {"left of the view", {-300, 300}, {5, 291}},
         {"a corner", {800, 0}, {695, 13}},
     };
-    for (const auto& [where, cursor, text] : rows) {
-        INFO(where);
-        const AIPoint placed = hintTextAt(cursor, 100, 13, view);
-        CHECK(placed.h == text.h);
-        CHECK(placed.v == text.v);
+    for (const auto& row : rows) {
+        INFO(row.where);
+        const AIPoint placed = hintTextAt(row.cursor, 100, 13, view);
+        CHECK(placed.h == row.text.h);
+        CHECK(placed.v == row.text.v);
     }
     const AIPoint cramped = hintTextAt({10, 10}, 100, 13, {0, 0, 50, 8});
     CHECK(cramped.h == 5);
@@ -55,11 +55,11 @@ TEST_CASE("a hint is whole at first and fades at the end of its life") {
         ai::uint64 age;
         double opacity;
     };
-    for (const auto& [age, opacity] :
+    for (const auto& row :
          {Row{0, 1}, Row{1000, 1}, Row{1125, 0.5}, Row{1249, 0.004}, Row{1250, 0}, Row{99999, 0}}) {
-        INFO(age);
-        CHECK(hintOpacity({HintId::MoveOrigin, true, kShown}, kShown + age) ==
-              doctest::Approx(opacity));
+        INFO(row.age);
+        CHECK(hintOpacity({HintId::MoveOrigin, true, kShown}, kShown + row.age) ==
+              doctest::Approx(row.opacity));
     }
 }
 

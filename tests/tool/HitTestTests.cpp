@@ -55,11 +55,11 @@ TEST_CASE("what lies under the cursor") {
         {"one axis: its handle is upright", one, {0, 200}, ToolZone::Axis, 0.5},
         {"one axis: below", one, {0, -200}, ToolZone::Sector, 0},
     };
-    for (const auto& [where, axes, cursor, zone, grabIndex] : rows) {
-        INFO(where);
-        const ZoneUnder under = zoneUnder(axes, cursor, kTolerance);
-        CHECK(under.zone == zone);
-        CHECK(under.grabIndex == grabIndex);
+    for (const auto& row : rows) {
+        INFO(row.where);
+        const ZoneUnder under = zoneUnder(row.axes, row.cursor, kTolerance);
+        CHECK(under.zone == row.zone);
+        CHECK(under.grabIndex == row.grabIndex);
         CHECK(under.onSectorHandle == (under.grabIndex == 0.5));
     }
 }

@@ -85,12 +85,13 @@ TEST_CASE("the mask covers the area but for the active sector, for every rectang
     };
     const Row rows[] = {{"origin in the view", 400}, {"or near it", 1500}, {"or far away", 100000}};
     Random random;
-    for (const auto& [where, spread] : rows) {
-        INFO(where);
+    for (const auto& row : rows) {
+        INFO(row.where);
         for (int i = 0; i < 1500; ++i) {
             const PixelRect area{random.real(-50, 0), random.real(-50, 0), random.real(10, 1500),
                                  random.real(10, 900)};
-            const Point origin{random.real(-spread, spread), random.real(-spread, spread)};
+            const Point origin{random.real(-row.spread, row.spread),
+                               random.real(-row.spread, row.spread)};
             const int count = i % 3 == 0 ? 1 : static_cast<int>(random.real(1, 73));
             checkBySamples(axesAt(origin, random.real(0, kTwoPi), count), area, random);
         }

@@ -55,9 +55,9 @@ TEST_CASE("the dialog is hit to the pixel, a little lower than it is drawn") {
         {192, 90, DialogItem::None},
     };
     for (const DialogPosition corner : {DialogPosition{0, 0}, DialogPosition{-50, 333}})
-        for (const auto& [x, y, item] : rows) {
-            INFO(x, ",", y);
-            CHECK(dialogItemAt(corner, {corner.x + x, corner.y + y}) == item);
+        for (const auto& row : rows) {
+            INFO(row.x, ",", row.y);
+            CHECK(dialogItemAt(corner, {corner.x + row.x, corner.y + row.y}) == row.item);
         }
 }
 

@@ -63,10 +63,10 @@ TEST_CASE("two triangles on the bounding rays point into the active sector") {
         double begin; // pixels from the origin
     };
     const Row rows[] = {{1, 72}, {3, 72}, {20, 72}, {21, 72 + 45.0 / 13}, {46, 162}, {72, 252}};
-    for (const auto& [count, begin] : rows) {
-        INFO("N = ", count);
-        CHECK(markerDistance(count) == doctest::Approx(begin));
-        PendingAxes session{count, 1.1};
+    for (const auto& row : rows) {
+        INFO("N = ", row.count);
+        CHECK(markerDistance(row.count) == doctest::Approx(row.begin));
+        PendingAxes session{row.count, 1.1};
         std::vector<easel::DrawCommand> triangles = ofKind(drawn(session), Kind::Polygon);
         std::erase_if(triangles, [](const easel::DrawCommand& each) {
             return each.points.size() != 3 || !each.fill;
@@ -75,13 +75,13 @@ TEST_CASE("two triangles on the bounding rays point into the active sector") {
         const Point origin = pixelsOf(session, {300, -250});
         for (const int side : {0, 1}) {
             const easel::DrawCommand& triangle = triangles[static_cast<std::size_t>(side)];
-            const double angle = 1.1 + side * kPi / count;
+            const double angle = 1.1 + side * kPi / row.count;
             const Vector along{std::cos(angle), -std::sin(angle)};
             const Vector left{-std::sin(angle), -std::cos(angle)}; // counter-clockwise as seen
             const double height = side == 0 ? 6.0 : -6.0;
-            const Point corners[] = {origin + begin * along,
-                                     origin + (begin + 4) * along + height * left,
-                                     origin + (begin + 8) * along};
+            const Point corners[] = {origin + row.begin * along,
+                                     origin + (row.begin + 4) * along + height * left,
+                                     origin + (row.begin + 8) * along};
             for (std::size_t i = 0; i < 3; ++i)
                 CHECK(distance(at(triangle.points[i]), corners[i]) < 0.71); // rounding to pixels
         }
@@ -109,13 +109,13 @@ TEST_CASE("a broader line of another colour lies below each axis, while there is
         int count;
         std::ptrdiff_t grounds;
     };
-    for (const auto& [count, grounds] : {Row{1, 1}, Row{20, 20}, Row{21, 0}}) {
-        INFO("N = ", count);
-        PendingAxes session{count};
+    for (const auto& row : {Row{1, 1}, Row{20, 20}, Row{21, 0}}) {
+        INFO("N = ", row.count);
+        PendingAxes session{row.count};
         const std::vector<easel::DrawCommand> lines = ofKind(drawn(session), Kind::Line);
-        REQUIRE(std::ssize(lines) == grounds + count);
-        for (std::size_t i = 0; std::cmp_less(i, grounds); ++i) {
-            const easel::DrawCommand& axis = lines[i + static_cast<std::size_t>(grounds)];
+        REQUIRE(std::ssize(lines) == row.grounds + row.count);
+        for (std::size_t i = 0; std::cmp_less(i, row.grounds); ++i) {
+            const easel::DrawCommand& axis = lines[i + static_cast<std::size_t>(row.grounds)];
             CHECK(at(lines[i].points[0]) == at(axis.points[0]));
             CHECK(at(lines[i].points[1]) == at(axis.points[1]));
             CHECK(lines[i].style.lineWidth > axis.style.lineWidth);
@@ -229,14 +229,14 @@ TEST_CASE("when axes, mask and dialog are drawn") {
          },
          0, false, false},
     };
-    for (const auto& [when, arrange, axes, mask, dialog] : rows) {
-        INFO(when);
+    for (const auto& row : rows) {
+        INFO(row.when);
         ToolInHand session;
-        arrange(session);
+        row.arrange(session);
         const easel::DisplayList list = drawn(session);
-        CHECK(std::ssize(axisLines(list)) == axes);
-        CHECK(masks(list).empty() != mask);
-        CHECK(textsIn(list).empty() != dialog);
+        CHECK(std::ssize(axisLines(list)) == row.axes);
+        CHECK(masks(list).empty() != row.mask);
+        CHECK(textsIn(list).empty() != row.dialog);
         session.release(400, -250); // a press is never left open
     }
 }

@@ -124,18 +124,18 @@ TEST_CASE("few curves are drawn as curves, many as lines") {
         bool curves;
     };
     constexpr int kCopies = 5; // of each path, across three axes
-    for (const auto& [paths, curves] : {Row{1, true}, Row{10'000 / kCopies + 1, false}}) {
-        INFO(paths);
+    for (const auto& row : {Row{1, true}, Row{10'000 / kCopies + 1, false}}) {
+        INFO(row.paths);
         Drawing session{/*selected*/ false};
-        session.host.edit("Draw", [&, count = paths](easel::Document& document) {
-            for (int i = 0; i < count; ++i) {
+        session.host.edit("Draw", [&](easel::Document& document) {
+            for (int i = 0; i < row.paths; ++i) {
                 const AIReal x = 300 + 0.01F * static_cast<AIReal>(i);
                 drawLine(document, {x, -170}, {x + 40, -160}, /*selected*/ true);
             }
         });
         const std::vector<easel::DrawCommand> preview = previewIn(drawn(session));
-        REQUIRE(std::ssize(preview) == kCopies * paths);
+        REQUIRE(std::ssize(preview) == kCopies * row.paths);
         for (const easel::DrawCommand& each : preview)
-            CHECK((each.kind == Kind::Bezier) == curves);
+            CHECK((each.kind == Kind::Bezier) == row.curves);
     }
 }

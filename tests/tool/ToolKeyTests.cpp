@@ -28,18 +28,18 @@ TEST_CASE("keys held in a drag set the number of axes; of several digits the low
         {"[ at the fewest", {Key::LeftBracket}, 1, 1},
         {"a digit before a bracket", {digit(2), Key::RightBracket}, 3, 2},
     };
-    for (const auto& [what, keys, before, after] : rows) {
-        INFO(what);
+    for (const auto& row : rows) {
+        INFO(row.what);
         ToolInHand session;
-        thePlugin->preferences.count = before;
+        thePlugin->preferences.count = row.before;
         session.press(200, -200);
         {
-            const KeysHeld held(keys);
+            const KeysHeld held(row.keys);
             session.drag(300, -200);
         }
         session.release(300, -200);
-        CHECK(session.axes().axisCount == after);
-        CHECK(thePlugin->preferences.count == after);
+        CHECK(session.axes().axisCount == row.after);
+        CHECK(thePlugin->preferences.count == row.after);
     }
 }
 

@@ -22,19 +22,19 @@ TEST_CASE("press, drag and release make axes; the drag turns them") {
     };
     const Row rows[] = {
         {{300, -200}, 0}, {{200, -100}, 90}, {{100, -300}, 225}, {{300, -300}, 315}};
-    for (const auto& [to, degrees] : rows) {
-        INFO(degrees);
+    for (const auto& row : rows) {
+        INFO(row.degrees);
         ToolInHand session;
         session.press(200, -200);
         session.drag(200, -200); // no movement: no drag yet
         CHECK(session.axes().angle == 0.0);
         session.drag(210, -190);
-        session.drag(to.h, to.v);
-        session.release(to.h, to.v);
+        session.drag(row.to.h, row.to.v);
+        session.release(row.to.h, row.to.v);
         CHECK(session.axes().provisional);
         CHECK_FALSE(session.axes().onLayer);
         CHECK(near(session.origin(), {200, -200}));
-        CHECK(near(session.axes().angle, degrees * kPi / 180));
+        CHECK(near(session.axes().angle, row.degrees * kPi / 180));
         CHECK(thePlugin->preferences.angle == session.axes().angle);
         CHECK(thePlugin->tool.zone == ToolZone::Axis);
     }

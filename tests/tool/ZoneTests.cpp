@@ -82,19 +82,19 @@ TEST_CASE("a double click on the tool's icon applies what is pending, else it as
                         {"with Ctrl", true, {Key::Control}, true},
                         {"with Shift", true, {Key::Shift}, true},
                         {"axes that only follow the cursor", false, {}, true}};
-    for (const auto& [what, pending, keys, asks] : rows) {
-        INFO(what);
+    for (const auto& row : rows) {
+        INFO(row.what);
         Drawing session(/*selected*/ false);
-        if (!pending) session.click(session.onButton(DialogItem::Cancel));
+        if (!row.pending) session.click(session.onButton(DialogItem::Cancel));
         thePlugin->dialogs.preferences = [] {
             ++opened;
             return DialogResult::Ok;
         };
         opened = 0;
-        const KeysHeld held(keys);
+        const KeysHeld held(row.keys);
         session.host.editToolOptions();
-        CHECK(opened == (asks ? 1 : 0));
-        CHECK(session.axes().onLayer == !asks);
+        CHECK(opened == (row.asks ? 1 : 0));
+        CHECK(session.axes().onLayer == !row.asks);
     }
 }
 

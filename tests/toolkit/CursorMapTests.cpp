@@ -35,11 +35,11 @@ TEST_CASE("a hot spot is taken whole or not at all") {
         {"", 15, 15},
         {std::string(CursorMap::kMostBytes, ' ') + inMap("<kHotSpot x=\"3\" y=\"3\"/>"), 15, 15},
     };
-    for (const auto& [document, x, y] : rows) {
-        INFO(document.substr(0, 80));
-        const CursorMap map = readCursorMap(document);
-        CHECK(map.hotX == x);
-        CHECK(map.hotY == y);
+    for (const auto& row : rows) {
+        INFO(row.document.substr(0, 80));
+        const CursorMap map = readCursorMap(row.document);
+        CHECK(map.hotX == row.x);
+        CHECK(map.hotY == row.y);
     }
 }
 

@@ -34,24 +34,24 @@ TEST_CASE("what is locked or hidden, or lies in what is, refuses to be changed")
         {"locked layer", kArtLocked, true, kUntouchableLayerErr},
         {"hidden layer", kArtHidden, true, kUntouchableLayerErr},
     };
-    for (const auto& [what, attribute, onLayer, code] : rows) {
-        INFO(what);
+    for (const auto& row : rows) {
+        INFO(row.what);
         const Drawing drawing;
         const AIArtHandle group = drawing.make(kGroupArt);
         const AIArtHandle child = drawing.makePath({{0, 0}, {1, 1}});
         REQUIRE(art().ReorderArt(child, kPlaceInsideOnTop, group) == kNoErr);
-        const AIArtHandle culprit = onLayer ? drawing.layerGroup().handle() : group;
-        REQUIRE(art().SetArtUserAttr(culprit, attribute, attribute) == kNoErr);
+        const AIArtHandle culprit = row.onLayer ? drawing.layerGroup().handle() : group;
+        REQUIRE(art().SetArtUserAttr(culprit, row.attribute, row.attribute) == kNoErr);
         const std::string before = dump(drawing.document);
 
         AIRealMatrix matrix{2, 0, 0, 2, 0, 0};
         AIArtHandle made = nullptr;
-        CHECK(art().DisposeArt(child) == code);
-        CHECK(transform().TransformArt(child, &matrix, 1, kTransformObjects) == code);
-        CHECK(path().SetPathClosed(child, 1) == code);
-        CHECK(art().NewArt(kPathArt, kPlaceInsideOnTop, group, &made) == code);
-        CHECK(art().SetArtUserAttr(child, kArtSelected, kArtSelected) == code);
-        CHECK(art().SetArtUserAttr(child, kArtLocked, kArtLocked) == code);
+        CHECK(art().DisposeArt(child) == row.code);
+        CHECK(transform().TransformArt(child, &matrix, 1, kTransformObjects) == row.code);
+        CHECK(path().SetPathClosed(child, 1) == row.code);
+        CHECK(art().NewArt(kPathArt, kPlaceInsideOnTop, group, &made) == row.code);
+        CHECK(art().SetArtUserAttr(child, kArtSelected, kArtSelected) == row.code);
+        CHECK(art().SetArtUserAttr(child, kArtLocked, kArtLocked) == row.code);
         CHECK(dump(drawing.document) == before);
 
         session().allowAllChanges = true; // overlooks the parents
@@ -124,11 +124,11 @@ TEST_CASE("time stamps tell edits of art and leave dictionaries and selection ou
          true},
         {"deleting", [](AIArtHandle handle) { art().DisposeArt(handle); }, true},
     };
-    for (const auto& [what, change, counts] : rows) {
-        INFO(what);
+    for (const auto& row : rows) {
+        INFO(row.what);
         const std::size_t before = stampOf(group);
-        change(made);
-        CHECK((stampOf(group) > before) == counts);
+        row.change(made);
+        CHECK((stampOf(group) > before) == row.counts);
     }
 }
 

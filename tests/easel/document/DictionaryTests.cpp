@@ -201,14 +201,14 @@ TEST_CASE("values convert to and from text when asked to") {
         {"2.5", kNoConversionErr, kNoErr, kNoErr},
         {"", kNoConversionErr, kNoConversionErr, kNoConversionErr},
     };
-    for (const auto& [text, booleanCode, integerCode, realCode] : rows) {
-        INFO(text);
+    for (const auto& row : rows) {
+        INFO(row.text);
         AIBoolean flag = 0;
         ai::int32 integer = 0;
         AIReal real = 0;
-        CHECK(entry().AsBoolean(entry().FromString(text), &flag) == booleanCode);
-        CHECK(entry().AsInteger(entry().FromString(text), &integer) == integerCode);
-        CHECK(entry().AsReal(entry().FromString(text), &real) == realCode);
+        CHECK(entry().AsBoolean(entry().FromString(row.text), &flag) == row.booleanCode);
+        CHECK(entry().AsInteger(entry().FromString(row.text), &integer) == row.integerCode);
+        CHECK(entry().AsReal(entry().FromString(row.text), &real) == row.realCode);
     }
     const char* text = nullptr;
     CHECK(entry().AsString(entry().FromInteger(-12), &text) == kNoErr);

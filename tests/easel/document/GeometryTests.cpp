@@ -70,8 +70,8 @@ TEST_CASE("the flags of a transformation say what is transformed") {
         {"gradients too", kTransformChildren | kTransformFillGradients, 1, 1, 10},
         {"patterns are not gradients", kTransformChildren | kTransformFillPatterns, 1, 1, 0},
     };
-    for (const auto& [what, flags, childH, strokeWidth, definitionTx] : rows) {
-        INFO(what);
+    for (const auto& row : rows) {
+        INFO(row.what);
         Drawing drawing;
         const Definition& gradient =
             drawing.document.addDefinition(Definition::Kind::Gradient, "sky");
@@ -80,10 +80,10 @@ TEST_CASE("the flags of a transformation say what is transformed") {
         artOf(child).write().style.write().fillDefinition = &gradient;
         CHECK(art().ReorderArt(child, kPlaceInsideOnTop, group) == kNoErr);
         AIRealMatrix shift{1, 0, 0, 1, 10, 0};
-        CHECK(transform().TransformArt(group, &shift, 3, flags) == kNoErr);
-        CHECK(artOf(child).segments()[0].p.h == childH);
-        CHECK(artOf(child).style().path.stroke.width == strokeWidth);
-        CHECK(artOf(child).style().fillMatrix.tx == definitionTx);
+        CHECK(transform().TransformArt(group, &shift, 3, row.flags) == kNoErr);
+        CHECK(artOf(child).segments()[0].p.h == row.childH);
+        CHECK(artOf(child).style().path.stroke.width == row.strokeWidth);
+        CHECK(artOf(child).style().fillMatrix.tx == row.definitionTx);
     }
 }
 

@@ -81,9 +81,9 @@ TEST_CASE("each request finds what it asks for and nothing else") {
         {"no locked art", 11, {30, -50}, nullptr},
         {"hidden art never", kAllHitRequest, {30, -90}, nullptr},
     };
-    for (const auto& [what, request, point, expected] : rows) {
-        INFO(what);
-        CHECK(test(point, request).art == expected);
+    for (const auto& row : rows) {
+        INFO(row.what);
+        CHECK(test(row.point, row.request).art == row.expected);
     }
     AIHitRef ref = nullptr;
     const AIRealPoint point{0, 0};

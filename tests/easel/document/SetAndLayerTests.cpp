@@ -67,11 +67,11 @@ TEST_CASE("matching finds art by type and attributes, in the order of the tree")
         {"result art when asked for", {kPathArt, kMatchResultArt, 0}, "ablser"},
         {"not into plug-in groups", {kPathArt, kMatchNotIntoPluginGroups, 0}, "abls"},
     };
-    for (const auto& [what, spec, names] : rows) {
-        INFO(what);
-        AIArtSpec one = spec;
+    for (const auto& row : rows) {
+        INFO(row.what);
+        AIArtSpec one = row.spec;
         CHECK(namesIn([&](AIArtSet set) { return artSet().MatchingArtSet(&one, 1, set); }) ==
-              names);
+              row.names);
     }
     CHECK(namesIn([](AIArtSet set) { return artSet().SelectedArtSet(set); }) == "Lga");
     const AILayerHandle layer = layerHandle(&drawing.layerGroup());

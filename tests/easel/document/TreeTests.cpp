@@ -35,8 +35,8 @@ TEST_CASE("a paint order puts new, moved and copied art where it says") {
     };
     enum class Way { New, Moved, Copied };
     for (const Way way : {Way::New, Way::Moved, Way::Copied}) {
-        for (const auto& [what, order, besideB, inGroup, inLayer] : rows) {
-            INFO(what);
+        for (const auto& row : rows) {
+            INFO(row.what);
             const Drawing drawing;
             const AIArtHandle group = drawing.make(kGroupArt);
             drawing.name(group, "g");
@@ -46,23 +46,23 @@ TEST_CASE("a paint order puts new, moved and copied art where it says") {
                 drawing.name(made, name);
                 if (*name == 'b') b = made;
             }
-            const AIArtHandle reference = besideB ? b : group;
+            const AIArtHandle reference = row.besideB ? b : group;
             AIArtHandle x = nullptr;
             if (way == Way::New) {
-                x = drawing.make(kPathArt, order, reference);
+                x = drawing.make(kPathArt, row.order, reference);
             } else {
                 const AIArtHandle source = drawing.make(kPathArt, kPlaceInsideOnTop, group);
                 if (way == Way::Moved) {
-                    CHECK(art().ReorderArt(source, order, reference) == kNoErr);
+                    CHECK(art().ReorderArt(source, row.order, reference) == kNoErr);
                     x = source;
                 } else {
-                    CHECK(art().DuplicateArt(source, order, reference, &x) == kNoErr);
+                    CHECK(art().DuplicateArt(source, row.order, reference, &x) == kNoErr);
                     CHECK(art().DisposeArt(source) == kNoErr);
                 }
             }
             drawing.name(x, "x");
-            CHECK(childrenOf(group) == inGroup);
-            if (*inLayer != 0) CHECK(childrenOf(drawing.layerGroup().handle()) == inLayer);
+            CHECK(childrenOf(group) == row.inGroup);
+            if (*row.inLayer != 0) CHECK(childrenOf(drawing.layerGroup().handle()) == row.inLayer);
         }
     }
 }

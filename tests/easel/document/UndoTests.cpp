@@ -44,8 +44,8 @@ TEST_CASE("each kind of change is undone and redone exactly") {
              d.setRulerOrigin({100, 200});
          }},
     };
-    for (const auto& [what, change] : rows) {
-        INFO(what);
+    for (const auto& row : rows) {
+        INFO(row.what);
         Drawing drawing;
         Document& document = drawing.document;
         const AIArtHandle group = drawing.make(kGroupArt);
@@ -56,7 +56,7 @@ TEST_CASE("each kind of change is undone and redone exactly") {
         const std::string before = dump(document);
         {
             const Record record(document);
-            change(document, artOf(group), artOf(made));
+            row.change(document, artOf(group), artOf(made));
         }
         const std::string after = dump(document);
         CHECK(after != before);
@@ -312,16 +312,16 @@ TEST_CASE("what has happened is told apart for those who announce it") {
          },
          &DocumentChanges::rulerOrigin, true},
     };
-    for (const auto& [what, change, noted, art] : rows) {
-        INFO(what);
+    for (const auto& row : rows) {
+        INFO(row.what);
         Drawing drawing;
         drawing.make(kPathArt);
         static_cast<void>(drawing.document.takeChanges());
         drawing.document.setModified(false);
-        change(drawing);
+        row.change(drawing);
         const DocumentChanges changes = drawing.document.takeChanges();
-        CHECK(changes.*noted);
-        CHECK(changes.art == art);
+        CHECK(changes.*row.noted);
+        CHECK(changes.art == row.art);
         CHECK(drawing.document.isModified());
         CHECK_FALSE(drawing.document.takeChanges().any());
     }

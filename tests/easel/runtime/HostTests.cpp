@@ -304,10 +304,10 @@ TEST_CASE("a tool gets the messages that its options ask for") {
           "AI Tool/AI Mouse Up", "AI Tool/AI Edit Options", "AI Tool/AI Reselect",
           "AI Tool/AI Deselect"}},
     };
-    for (const auto& [what, options, expected] : rows) {
-        INFO(what);
+    for (const auto& row : rows) {
+        INFO(row.what);
         Session session;
-        const AIToolHandle tool = addTool(session.plugin, "Pencil", options);
+        const AIToolHandle tool = addTool(session.plugin, "Pencil", row.options);
         session.host.selectTool(tool);
         session.host.track({{1, 2}});
         session.host.press({{1, 2}});
@@ -319,7 +319,7 @@ TEST_CASE("a tool gets the messages that its options ask for") {
         session.host.editToolOptions();
         session.host.selectTool(tool);
         session.host.selectTool(nullptr);
-        CHECK(session.plugin.received == expected);
+        CHECK(session.plugin.received == row.expected);
         session.host.quit();
     }
 }

@@ -106,11 +106,11 @@ TEST_CASE("a shape is mirrored into every sector about the origin asked for") {
         {"two axes", {.axes = 2}, {{90, 175}, {90, 225}, {310, 175}, {310, 225}}},
         {"elsewhere", {.axes = 1, .origin = easel::DrawingPoint{0, 100}}, {{310, 25}, {310, 175}}},
     };
-    for (const auto& [what, request, expected] : rows) {
-        INFO(what);
-        Opened opened{kSquare, request};
-        opened.session.mirror(request);
-        CHECK(centres() == expected);
+    for (const auto& row : rows) {
+        INFO(row.what);
+        Opened opened{kSquare, row.request};
+        opened.session.mirror(row.request);
+        CHECK(centres() == row.expected);
         CHECK(opened.session.finish() == std::vector<std::string>{});
     }
 }
@@ -206,12 +206,12 @@ TEST_CASE("the command tells what is wrong in one line and leaves no output") {
     rows[5].what = "an origin off the canvas";
     rows[5].command.request.origin = easel::DrawingPoint{1e6, 0};
     rows[5].says = "outside the canvas";
-    for (const auto& [what, command, says] : rows) {
-        INFO(what);
-        const Outcome outcome = run(command);
+    for (const auto& row : rows) {
+        INFO(row.what);
+        const Outcome outcome = run(row.command);
         INFO(outcome.error);
         CHECK(outcome.status == ExitStatus::Fault);
-        CHECK(outcome.error.find(says) != std::string::npos);
+        CHECK(outcome.error.find(row.says) != std::string::npos);
         CHECK(std::count(outcome.error.begin(), outcome.error.end(), '\n') == 1);
         CHECK_FALSE(std::filesystem::exists(output.path));
     }

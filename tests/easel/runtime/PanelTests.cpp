@@ -123,11 +123,11 @@ TEST_CASE("a resizable panel grows by whole steps") {
     };
     const Row rows[] = {
         {{260, 229}, {260, 228}}, {{100, 100}, {240, 188}}, {{900, 900}, {300, 388}}};
-    for (const auto& [wanted, got] : rows) {
-        INFO(wanted.width, " x ", wanted.height);
-        fixture.host.resizePanel(fixture.panel, wanted);
-        CHECK(fixture.size().width == got.width);
-        CHECK(fixture.size().height == got.height);
+    for (const auto& row : rows) {
+        INFO(row.wanted.width, " x ", row.wanted.height);
+        fixture.host.resizePanel(fixture.panel, row.wanted);
+        CHECK(fixture.size().width == row.got.width);
+        CHECK(fixture.size().height == row.got.height);
     }
 }
 

@@ -115,11 +115,11 @@ TEST_CASE("the flyout menu is chosen from by keyboard; disabled lines cannot be 
                         {{VK_DOWN, VK_DOWN, VK_RETURN}, 3},
                         {{VK_DOWN, VK_ESCAPE}, 0},
                         {{VK_UP, VK_RETURN, VK_ESCAPE}, 0}};
-    for (const auto& [keys, chosen] : rows) {
-        INFO(keys.size(), " keys");
-        for (const WPARAM key : keys)
+    for (const auto& row : rows) {
+        INFO(row.keys.size(), " keys");
+        for (const WPARAM key : row.keys)
             PostMessageW(frame, WM_KEYDOWN, key, 0);
-        CHECK(window.popUp(lines) == chosen);
+        CHECK(window.popUp(lines) == row.chosen);
         MSG left{};
         while (PeekMessageW(&left, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE) != 0) {
         }

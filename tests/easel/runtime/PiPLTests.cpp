@@ -76,13 +76,13 @@ TEST_CASE("a damaged property list is refused") {
          kNotAPlugin},
         {"no kind", kHead + kName + kConvention + kEntry + kName, kNotAPlugin},
     };
-    for (const auto& [what, hex, code] : rows) {
-        INFO(what);
+    for (const auto& row : rows) {
+        INFO(row.what);
         try {
-            static_cast<void>(easel::parsePiPL(bytes(hex)));
+            static_cast<void>(easel::parsePiPL(bytes(row.hex)));
             FAIL_CHECK("accepted");
         } catch (const ai::Error& error) {
-            CHECK(error.code == code);
+            CHECK(error.code == row.code);
         }
     }
 }

@@ -71,17 +71,17 @@ TEST_CASE("numbers and booleans convert into each other, texts into neither") {
                         {"boolean", 1, 1, 1},
                         {"text", -9, -9, -9},
                         {"huge", 1, kMost, 1e300}};
-    for (const auto& [name, asBoolean, asInteger, asReal] : rows) {
-        INFO(name);
+    for (const auto& row : rows) {
+        INFO(row.name);
         AIBoolean boolean = -9;
         ai::int32 integer = -9;
         double real = -9;
-        suite.GetBooleanPreference(kPrefix, name.c_str(), &boolean);
-        suite.GetIntegerPreference(kPrefix, name.c_str(), &integer);
-        suite.GetRealPreference(kPrefix, name.c_str(), &real);
-        CHECK(boolean == asBoolean);
-        CHECK(integer == asInteger);
-        CHECK(real == asReal);
+        suite.GetBooleanPreference(kPrefix, row.name.c_str(), &boolean);
+        suite.GetIntegerPreference(kPrefix, row.name.c_str(), &integer);
+        suite.GetRealPreference(kPrefix, row.name.c_str(), &real);
+        CHECK(boolean == row.asBoolean);
+        CHECK(integer == row.asInteger);
+        CHECK(real == row.asReal);
     }
 }
 

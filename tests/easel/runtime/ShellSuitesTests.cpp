@@ -185,12 +185,13 @@ TEST_CASE("snapping searches the sources of the control string in its order") {
         {"sources that only real hosts know", "ATFGPLM v i o", {102, -101}, {100, -100}},
     };
     AIEvent event{};
-    for (const auto& [what, control, point, expected] : rows) {
-        INFO(what);
+    for (const auto& row : rows) {
+        INFO(row.what);
         AIRealPoint result{-1, -1};
-        CHECK(ai::suites.cursorSnap->Track(nullptr, point, &event, control, &result) == kNoErr);
-        CHECK(result.h == expected.h);
-        CHECK(result.v == expected.v);
+        CHECK(ai::suites.cursorSnap->Track(nullptr, row.point, &event, row.control, &result) ==
+              kNoErr);
+        CHECK(result.h == row.expected.h);
+        CHECK(result.v == row.expected.v);
     }
     CHECK(fixture.host.cursorSnap.calls.size() == std::size(rows));
     CHECK(fixture.host.cursorSnap.calls.back().control == "ATFGPLM v i o");
@@ -259,12 +260,12 @@ TEST_CASE("numbers turn into text and back") {
         AIReal value;
     };
     constexpr AIReal kUnknown = 3.402823466e+38F;
-    for (const auto& [written, value] :
+    for (const auto& row :
          {Back{" 12.5", 12.5F}, Back{"+3", 3}, Back{"", kUnknown}, Back{"abc", kUnknown}}) {
-        INFO(written);
+        INFO(row.text);
         AIReal read = 0;
-        suite.StringToAIReal(text(written.c_str()), &read);
-        CHECK(read == value);
+        suite.StringToAIReal(text(row.text.c_str()), &read);
+        CHECK(read == row.value);
     }
     AIReal inches = 0;
     suite.IUStringUnitsToAIReal(text("2 in"), &inches);

@@ -106,12 +106,12 @@ TEST_CASE("malformed text is refused and leaves no string behind") {
                         {"a surrogate", "\xED\xA0\x80"},
                         {"beyond the last", "\xF4\x90\x80\x80"},
                         {"no lead", "\xFF"}};
-    for (const auto& [what, bytes] : rows) {
-        INFO(what);
+    for (const auto& row : rows) {
+        INFO(row.what);
         void* pointer = nullptr;
         auto& string = reinterpret_cast<ai::UnicodeString&>(pointer);
-        CHECK(suite.Initialize(string, bytes, static_cast<ai::int64>(std::strlen(bytes)), 1) ==
-              kStringMalformedErr);
+        CHECK(suite.Initialize(string, row.bytes, static_cast<ai::int64>(std::strlen(row.bytes)),
+                               1) == kStringMalformedErr);
         CHECK(pointer == nullptr);
     }
     CHECK(easel::utf8FromUtf16(u"\xD800x") == "\xEF\xBF\xBDx");

@@ -93,10 +93,10 @@ TEST_CASE("each kind is painted where it lies") {
          dashed,
          {{5, 10, 100}, {7, 10, 100}, {9, 10, 0}, {11, 10, 0}, {13, 10, 100}}},
     };
-    for (const auto& [what, command, probes] : rows) {
-        INFO(what);
-        const Picture picture = painted({command});
-        for (const Probe& probe : probes) {
+    for (const auto& row : rows) {
+        INFO(row.what);
+        const Picture picture = painted({row.command});
+        for (const Probe& probe : row.probes) {
             INFO(probe.x << ',' << probe.y);
             CHECK(std::abs(red(picture, probe.x, probe.y) - probe.red) <= 7);
         }

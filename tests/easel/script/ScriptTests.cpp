@@ -21,12 +21,12 @@ TEST_CASE("a line is words; quotes keep blanks together and a comment ends it") 
         {R"(text "say \"no\" \\ \# " "")", {"text", "say \"no\" \\ # ", ""}},
         {"a#b #c", {"a#b"}},
     };
-    for (const auto& [line, words] : rows) {
-        INFO(line);
+    for (const auto& row : rows) {
+        INFO(row.line);
         std::vector<std::string> found;
-        for (const Word& word : wordsOf(line))
+        for (const Word& word : wordsOf(row.line))
             found.push_back(word.text);
-        CHECK(found == words);
+        CHECK(found == row.words);
     }
 }
 

@@ -30,9 +30,9 @@ struct TextRow {
 };
 
 void check(std::span<const TextRow> rows) {
-    for (const auto& [text, messages] : rows) {
-        INFO(text);
-        CHECK(written(parse(text).messages) == messages);
+    for (const auto& row : rows) {
+        INFO(row.text);
+        CHECK(written(parse(row.text).messages) == row.messages);
     }
 }
 
@@ -83,9 +83,9 @@ TEST_CASE("expressions") {
         {"{a: 1}", "expected a value, found '{'"},
         {"[1][0]", "expected ',' or ')' after the value of \"value\", found '['"},
     };
-    for (const auto& [expression, value] : rows) {
-        INFO(expression);
-        CHECK(evaluated(expression) == value);
+    for (const auto& row : rows) {
+        INFO(row.expression);
+        CHECK(evaluated(row.expression) == row.value);
     }
 }
 
@@ -228,9 +228,9 @@ TEST_CASE("what is passed over is a warning, and the rest stands") {
                                                      "passed over\n"},
     };
     check(rows);
-    for (const auto& [text, messages] : rows) {
-        INFO(text);
-        const Parsed parsed = parse(text);
+    for (const auto& row : rows) {
+        INFO(row.text);
+        const Parsed parsed = parse(row.text);
         REQUIRE(parsed.layout);
         CHECK(parsed.layout->dialog.children.front().kind == Kind::Button);
     }
@@ -295,12 +295,12 @@ TEST_CASE("the limits hold exactly") {
         {blocks(kMaxDepth - 1, "popup_cluster() { row(); }"),
          blocks(kMaxDepth - 1, "popup_cluster() { entry(); }"), "nested more than 64 deep"},
     };
-    for (const auto& [within, beyond, message] : limits) {
-        INFO(message);
-        CHECK(written(parse(within).messages) == "");
-        const Parsed parsed = parse(beyond);
+    for (const auto& limit : limits) {
+        INFO(limit.message);
+        CHECK(written(parse(limit.within).messages) == "");
+        const Parsed parsed = parse(limit.beyond);
         REQUIRE(parsed.messages.size() == 1);
-        CHECK(parsed.messages.front().text == message);
+        CHECK(parsed.messages.front().text == limit.message);
     }
     CHECK(written(parse(dialog("width: " + repeated("+", 60'000) + "1", "")).messages) == "");
 }

@@ -42,10 +42,10 @@ struct Row {
 };
 
 void check(std::span<const Row> rows) {
-    for (const auto& [what, text, rectangles] : rows) {
-        INFO(what);
-        INFO(text);
-        CHECK(placed(text) == rectangles);
+    for (const auto& row : rows) {
+        INFO(row.what);
+        INFO(row.text);
+        CHECK(placed(row.text) == row.rectangles);
     }
 }
 
@@ -291,11 +291,11 @@ TEST_CASE("what is drawn outside its rectangle moves nothing and overhangs the c
          dialog("placement: place_row", button(40, "outset: [1, 2, 3, 4]") + button(40)),
          {2, 1, 0, 3}},
     };
-    for (const auto& [what, text, ofDialog] : rows) {
-        INFO(what);
-        const Layout layout = load(text, "test");
+    for (const auto& row : rows) {
+        INFO(row.what);
+        const Layout layout = load(row.text, "test");
         const Placement placement = place(layout, PlainSizes());
-        CHECK(placement.front().outset == ofDialog);
+        CHECK(placement.front().outset == row.ofDialog);
     }
 }
 

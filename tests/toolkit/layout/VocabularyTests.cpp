@@ -83,10 +83,10 @@ TEST_CASE("elements are created as the types of items they name") {
         {"group(name: \"a\")", "ADM Frame Type"},
         {"cluster(name: \"a\")", "ADM Frame Type"},
     };
-    for (const auto& [element, type] : rows) {
-        INFO(element);
-        const Layout layout = load(dialog("", element + ';'), "test");
-        CHECK(itemTypeOf(layout.dialog.children.front()) == type);
+    for (const auto& row : rows) {
+        INFO(row.element);
+        const Layout layout = load(dialog("", row.element + ';'), "test");
+        CHECK(itemTypeOf(layout.dialog.children.front()) == row.type);
     }
 }
 

@@ -77,11 +77,11 @@ TEST_CASE("a dialog ends with the button that was pressed, and tells each press 
          6,
          {}},
     };
-    for (const auto& [what, act, result, expected] : rows) {
-        INFO(std::string(what));
+    for (const auto& row : rows) {
+        INFO(std::string(row.what));
         Form form;
-        CHECK(form.run([&, &act = act] { act(form); }) == result);
-        CHECK(takeHeard() == expected);
+        CHECK(form.run([&] { row.act(form); }) == row.result);
+        CHECK(takeHeard() == row.heard);
         CHECK_FALSE(form.dialog.isRunning());
     }
 }
@@ -103,16 +103,16 @@ TEST_CASE("a field takes over what is typed, or brings its last number back") {
         {"10", 10, "10", true, {}},       {"10.2", 10, "10", true, typing},
         {"5+6", 11, "11", true, moved},   {"150%", 15, "15", true, moved},
     };
-    for (const auto& [typed, value, text, taken, expected] : rows) {
-        INFO(typed);
+    for (const auto& row : rows) {
+        INFO(row.typed);
         Form form;
         form.dialog.procedures.notify = nullptr;
-        form.field.typed(typed);
-        CHECK(form.field.commit() == taken);
-        CHECK(form.field.value() == value);
-        CHECK(form.field.text() == text);
-        CHECK(takeHeard() == expected);
-        CHECK(form.stage.peers->beeps == (taken ? 0 : 1));
+        form.field.typed(row.typed);
+        CHECK(form.field.commit() == row.taken);
+        CHECK(form.field.value() == row.value);
+        CHECK(form.field.text() == row.text);
+        CHECK(takeHeard() == row.heard);
+        CHECK(form.stage.peers->beeps == (row.taken ? 0 : 1));
     }
 }
 

@@ -129,15 +129,19 @@ TEST_CASE("the toolkit hears of colours and of the host's end under names of its
         return kNoErr;
     });
     host.start();
-    const std::pair<const char*, const char*> expected[] = {
+    struct Name {
+        std::string own;
+        std::string host;
+    };
+    const Name expected[] = {
         {"NRDMUIUpdate", "AI UI Brightness Changed Notifier"},
         {"NRDMAppShutdown", "AI Application Shutdown Notifier"},
         {"NRDMUIUpdate", "AI All Plug-ins Started Notifier"},
     };
-    for (const auto& [name, type] : expected) {
-        INFO(std::string(type));
-        CHECK(host.notifiers.findIf([&, &name = name, &type = type](const easel::Notifier& each) {
-            return each.name == name && each.type == type;
+    for (const Name& name : expected) {
+        INFO(name.host);
+        CHECK(host.notifiers.findIf([&](const easel::Notifier& each) {
+            return each.name == name.own && each.type == name.host;
         }) != nullptr);
     }
     CHECK_FALSE(toolkit->serve(nullptr));
@@ -184,17 +188,17 @@ TEST_CASE("the dialogs of the resources have their items where the layout puts t
           {3, {328, 496, 424, 520}},
           {1, {448, 496, 544, 520}}}},
     };
-    for (const auto& [resource, title, size, items] : rows) {
-        INFO(title);
+    for (const auto& row : rows) {
+        INFO(row.title);
         Hosted hosted;
-        CoADMDialog* const dialog = hosted.create(kADMModalDialogStyle, resource);
+        CoADMDialog* const dialog = hosted.create(kADMModalDialogStyle, row.resource);
         REQUIRE(dialog != nullptr);
-        CHECK(dialog->view().title == title);
-        CHECK(dialog->view().size == size);
-        for (const auto& [id, bounds] : items) {
-            INFO(id);
-            REQUIRE(dialog->item(id) != nullptr);
-            CHECK(dialog->item(id)->view().bounds == bounds);
+        CHECK(dialog->view().title == row.title);
+        CHECK(dialog->view().size == row.size);
+        for (const Placed& placed : row.items) {
+            INFO(placed.id);
+            REQUIRE(dialog->item(placed.id) != nullptr);
+            CHECK(dialog->item(placed.id)->view().bounds == placed.bounds);
         }
         CHECK(dialog->item(1)->view().isDefault);
     }

@@ -28,9 +28,9 @@ TEST_CASE("a number is written with its decimals and unit") {
         {30.25, {.units = kADMPicaUnits, .precision = 2, .showsUnits = true}, "2p6.25"},
         {7, {.precision = kADMIntegerNumeric}, "7"},
     };
-    for (const auto& [value, form, text, separator] : rows) {
-        INFO(text);
-        CHECK(textOf(value, form, {.separator = separator}) == text);
+    for (const auto& row : rows) {
+        INFO(row.text);
+        CHECK(textOf(row.value, row.form, {.separator = row.separator}) == row.text);
     }
 }
 
@@ -74,11 +74,11 @@ TEST_CASE("what is typed is read in the field's unit, with other units, sums and
         {"1p6", {.units = kADMPicaUnits, .allowsUnits = false}, 0, 18},
         {"5 pt", {.units = kADMPointUnits, .showsUnits = true, .allowsUnits = false}, 0, 5},
     };
-    for (const auto& [text, form, current, expected] : rows) {
-        INFO(text);
-        const auto value = numberIn(text, form, {.separator = u','}, current);
+    for (const auto& row : rows) {
+        INFO(row.text);
+        const auto value = numberIn(row.text, row.form, {.separator = u','}, row.current);
         REQUIRE(value.has_value());
-        CHECK(*value == doctest::Approx(expected));
+        CHECK(*value == doctest::Approx(row.value));
     }
     CHECK(numberIn("36", inches, {.plainNumbersArePoints = true}, 0) == 36.0);
 }
@@ -108,9 +108,9 @@ TEST_CASE("what is no number, or not allowed, is not read") {
         {std::string(1000, '('), points},
         {std::string(1000, '-') + "1", points},
     };
-    for (const auto& [text, form] : rows) {
-        INFO(text.substr(0, 20));
-        CHECK_FALSE(numberIn(text, form, {}, 0).has_value());
+    for (const auto& row : rows) {
+        INFO(row.text.substr(0, 20));
+        CHECK_FALSE(numberIn(row.text, row.form, {}, 0).has_value());
     }
 }
 

@@ -15,7 +15,7 @@ using namespace NRDM;
 
 namespace {
 
-int askedOfHost = 0;
+int askedOfHost = 0; // NOLINT(cppcoreguidelines-avoid-non-const-global*)
 
 SPErr hostAcquires(const char*, ai::int32, const void** functions) {
     ++askedOfHost;

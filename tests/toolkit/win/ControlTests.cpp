@@ -344,13 +344,13 @@ TEST_CASE("the pointer over an item takes the cursor that the item is given") {
     stage.peers.screen().cursorOf = [=](int id) { return id == 16021 ? ours : nullptr; };
     StagedItem& item = stage.add(itemView(ControlKind::PushButton, {20, 20, 120, 44}, "Item"));
     stage.open();
-    for (const auto& [number, shown] : rows) {
-        CAPTURE(number);
-        item.view.cursor = number;
+    for (const auto& row : rows) {
+        CAPTURE(row.number);
+        item.view.cursor = row.number;
         item.peer->changed(Aspect::Look);
         stage.move(stage.window(), {200, 200});
         stage.move(item.window(), {10, 10});
-        CHECK(GetCursor() == shown);
+        CHECK(GetCursor() == row.shown);
     }
 }
 

@@ -182,13 +182,17 @@ TEST_CASE("fields and labels beside each other share a baseline") {
 TEST_CASE("a drawer's straight lines are sharp at every scale") {
     const Theme theme = themeOf(0.94F);
     Screen screen(theme, [](int, PictureDensity) { return std::span<const std::byte>(); });
-    for (const auto& [factor, thickness] : {std::pair{1.0, 1}, {1.5, 1}, {2.0, 2}}) {
-        CAPTURE(factor);
+    struct Row {
+        double factor;
+        int thickness;
+    };
+    for (const Row& row : {Row{1.0, 1}, Row{1.5, 1}, Row{2.0, 2}}) {
+        CAPTURE(row.factor);
         Surface surface({64, 64});
-        CoADMDrawer drawer(screen, surface, Scale{factor}, false);
+        CoADMDrawer drawer(screen, surface, Scale{row.factor}, false);
         drawer.setColour(kWhite);
         drawer.drawLine({3, 5}, {12, 5});
         drawer.drawLine({5, 9}, {5, 18}); // ends included
-        CHECK(whiteOn(surface) == 2 * thickness * 10 * factor);
+        CHECK(whiteOn(surface) == 2 * row.thickness * 10 * row.factor);
     }
 }

@@ -10,7 +10,7 @@ namespace NRDM::tests {
 namespace {
 
 /// Of the stage that there is; the host's functions are told nothing else.
-HWND hostWindow = nullptr;
+HWND hostWindow = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global*)
 
 SPErr resourcesInProgram(SPPluginRef, SPPlatformAccessRef* library) {
     *library = nullptr;
