@@ -1,6 +1,8 @@
 #include "host/Error.h"
 #include "tests/easel/document/Plugin.h"
 
+#include <utility>
+
 namespace easel::tests {
 namespace {
 
@@ -142,7 +144,7 @@ TEST_CASE("nesting has an end, in depth and in number") {
             Ref<Dictionary> outer(new Dictionary);
             outer->set(internKey("a"), inner);
             if (twice) outer->set(internKey("b"), inner);
-            inner = outer;
+            inner = std::move(outer);
         } catch (const ai::Error& error) {
             code = error.code;
         }
