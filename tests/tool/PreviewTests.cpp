@@ -8,7 +8,7 @@ using namespace facetta::tests;
 namespace {
 
 std::vector<easel::DrawCommand> previewIn(const easel::DisplayList& list) {
-    const AIRGBColor& colour = colours::kLight.preview;
+    const AIRGBColor colour = colours::kLight.preview;
     std::vector<easel::DrawCommand> outlines = list;
     std::erase_if(outlines, [&](const easel::DrawCommand& each) {
         const AIRGBColor& own = each.style.colour;
