@@ -4,6 +4,7 @@
 #include "toolkit/ImplCommon/Slots.h"
 #include "toolkit/ImplCommon/SuiteTables.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,7 @@ template <typename Unit> std::wstring wide(const Unit* text) { return toWide(tex
 
 std::vector<Place> placesOf(const ADMPoint* points, ADMInt32 count) {
     std::vector<Place> places;
+    places.reserve(static_cast<std::size_t>(std::max<ADMInt32>(count, 0)));
     for (ADMInt32 i = 0; i < count; ++i)
         places.push_back(placeOf(points + i));
     return places;

@@ -1,6 +1,7 @@
 #include "toolkit/ImplWin/EditField.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace NRDM {
@@ -162,7 +163,8 @@ void EditField::paint(const Canvas& canvas, const RECT& area) {
         if (all.empty()) return 0;
         const auto before =
             static_cast<short>(LOWORD(SendMessageW(handle(), EM_POSFROMCHAR, index - 1, 0)));
-        return before + static_cast<int>(textWidth(all.substr(index - 1), style_, scale_) + 0.5);
+        return before +
+               static_cast<int>(std::lround(textWidth(all.substr(index - 1), style_, scale_)));
     };
     const bool selects = state.focused && last > first;
     if (selects)

@@ -3,6 +3,7 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace NRDM {
 namespace {
@@ -15,7 +16,7 @@ constexpr double kEdge = 4;
 NRDMListPopup::NRDMListPopup(NativeDialog& dialog, const ItemView& view, TextStyle style,
                              const RECT& anchor, std::function<void(int)> closed)
     : PopupWindow(dialog,
-                  [this, closed] {
+                  [this, closed = std::move(closed)] {
                       const int entry = *result_;
                       closed(entry);
                   }),

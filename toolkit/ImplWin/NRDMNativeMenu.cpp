@@ -46,9 +46,8 @@ NRDMNativeMenu::NRDMNativeMenu(const std::vector<EntryView>& entries, TextStyle 
 }
 
 int NRDMNativeMenu::track(HWND owner, POINT corner) const {
-    return static_cast<int>(TrackPopupMenu(
-               menu_.get(), TPM_RETURNCMD | TPM_NONOTIFY | TPM_LEFTALIGN | TPM_TOPALIGN, corner.x,
-               corner.y, 0, owner, nullptr)) -
+    return static_cast<int>(TrackPopupMenu(menu_.get(), TPM_RETURNCMD | TPM_NONOTIFY, corner.x,
+                                           corner.y, 0, owner, nullptr)) -
            1;
 }
 

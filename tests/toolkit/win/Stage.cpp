@@ -167,7 +167,7 @@ void Hands::clickMiddle(HWND window) {
 }
 
 void Hands::wheel(int notches) {
-    send(mouseInput(MOUSEEVENTF_WHEEL, static_cast<DWORD>(notches * WHEEL_DELTA)));
+    send(mouseInput(MOUSEEVENTF_WHEEL, static_cast<DWORD>(notches) * WHEEL_DELTA));
     pump();
 }
 

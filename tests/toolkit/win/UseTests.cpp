@@ -58,20 +58,20 @@ TEST_CASE("numbers are typed with units and sums, and refused beyond the limits"
         {L"nonsense", L"100.000 pt", {}},
         {L"100.000", L"100.000 pt", {}},
     };
-    for (const auto& [typed, shown, told] : rows) {
-        INFO(std::string(typed.begin(), typed.end()));
+    for (const auto& row : rows) {
+        INFO(std::string(row.typed.begin(), row.typed.end()));
         kItemSuite.SetFloatValue(field, 100);
         kItemSuite.Activate(field, true);
         stage.pump();
         kItemSuite.SelectAll(field);
         static_cast<void>(stage.takeHeard());
-        stage.type(typed);
+        stage.type(row.typed);
         Log heard = stage.takeHeard();
         CHECK(std::ranges::count(heard, "moving 4 = 100") == std::ssize(heard));
-        CHECK(heard.size() == typed.size());
+        CHECK(heard.size() == row.typed.size());
         stage.key(VK_RETURN);
-        CHECK(stage.takeHeard() == told);
-        CHECK(ModelStage::shown(field) == shown);
+        CHECK(stage.takeHeard() == row.told);
+        CHECK(ModelStage::shown(field) == row.shown);
         // What was refused keeps the focus.
         stage.key(VK_ESCAPE);
     }
@@ -256,15 +256,15 @@ TEST_CASE("a modal dialog answers what ended it, the host disabled meanwhile") {
          2,
          {"user 2 = 0"}},
     };
-    for (const auto& [what, act, result, told] : rows) {
-        INFO(std::string(what));
-        const int answer = stage.run(form.dialog, [&, &doIt = act] {
+    for (const auto& row : rows) {
+        INFO(std::string(row.what));
+        const int answer = stage.run(form.dialog, [&] {
             CHECK(IsWindowEnabled(stage.host.window) == FALSE);
             CHECK(IsWindowEnabled(paletteWindow) == FALSE);
-            doIt();
+            row.act();
         });
-        CHECK(answer == result);
-        CHECK(stage.takeHeard() == told);
+        CHECK(answer == row.result);
+        CHECK(stage.takeHeard() == row.told);
         CHECK(IsWindowEnabled(stage.host.window) != FALSE);
         CHECK(IsWindowEnabled(paletteWindow) != FALSE);
         CHECK(kDialogSuite.IsVisible(form.dialog) == 0);
