@@ -28,6 +28,7 @@ template <typename Function> Function* offered(const char* name) noexcept {
 } // namespace
 
 KeyState readKeys() {
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global*): a function is nothing to change
     static auto* const isDown = offered<bool(unsigned)>("headlessKeyIsDown");
     if (isDown == nullptr) return headless::surroundings().keys;
     KeyState keys;
@@ -37,6 +38,7 @@ KeyState readKeys() {
 }
 
 ai::uint64 ticks() noexcept {
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global*): a function is nothing to change
     static auto* const programTicks = offered<ai::uint64()>("headlessTicks");
     if (programTicks != nullptr) return programTicks();
     if (const auto still = headless::surroundings().ticks) return *still;
