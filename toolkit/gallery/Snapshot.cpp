@@ -2,6 +2,7 @@
 
 #include "toolkit/ImplWin/Surface.h"
 
+#include <algorithm>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -21,6 +22,50 @@ std::optional<CLSID> pngEncoder() {
     return std::nullopt;
 }
 
+SIZE screenSize() { return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)}; }
+
+void redraw(HWND window) {
+    RedrawWindow(window, nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+}
+
+/// Moves `window` so that its client area begins in the corner of the screen.
+void moveToCorner(HWND window) {
+    RECT frame{};
+    GetWindowRect(window, &frame);
+    POINT client{};
+    ClientToScreen(window, &client);
+    SetWindowPos(window, nullptr, frame.left - client.x, frame.top - client.y, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void moveItems(HWND window, int right, int down) {
+    ScrollWindowEx(window, right, down, nullptr, nullptr, nullptr, nullptr, SW_SCROLLCHILDREN);
+    redraw(window);
+}
+
+/// Copies what the client area shows in its corner to `place`.
+void copyShown(HWND window, HDC target, POINT place, SIZE size) {
+    const HDC source = GetDC(window); // children are drawn into it, which printing leaves out
+    BitBlt(target, place.x, place.y, size.cx, size.cy, source, 0, 0, SRCCOPY);
+    ReleaseDC(window, source);
+    GdiFlush();
+}
+
+/// Nothing is drawn off the screen. The items of a window that is larger are moved through its
+/// corner, part by part.
+void copyInParts(HWND window, HDC target, SIZE whole) {
+    const SIZE part = screenSize();
+    moveToCorner(window);
+    for (LONG top = 0; top < whole.cy; top += part.cy)
+        for (LONG left = 0; left < whole.cx; left += part.cx) {
+            moveItems(window, -left, -top);
+            copyShown(window, target, {left, top},
+                      {std::min(part.cx, whole.cx - left), std::min(part.cy, whole.cy - top)});
+            moveItems(window, left, top);
+        }
+}
+
 } // namespace
 
 bool savePicture(HWND window, const std::wstring& file) {
@@ -29,10 +74,12 @@ bool savePicture(HWND window, const std::wstring& file) {
     Surface surface({area.right, area.bottom});
     const std::optional<CLSID> encoder = pngEncoder();
     if (!surface || !encoder) return false;
-    const HDC source = GetDC(window); // children are drawn into it, which printing leaves out
-    BitBlt(surface.dc(), 0, 0, area.right, area.bottom, source, 0, 0, SRCCOPY);
-    ReleaseDC(window, source);
-    GdiFlush();
+    const SIZE whole{area.right, area.bottom};
+    const SIZE screen = screenSize();
+    if (whole.cx <= screen.cx && whole.cy <= screen.cy)
+        copyShown(window, surface.dc(), {0, 0}, whole);
+    else
+        copyInParts(window, surface.dc(), whole);
     Gdiplus::Bitmap picture(area.right, area.bottom, area.right * 4, PixelFormat32bppRGB,
                             reinterpret_cast<BYTE*>(surface.row(0).data()));
     return picture.Save(file.c_str(), &*encoder, nullptr) == Gdiplus::Ok;
