@@ -132,9 +132,11 @@ Cost Sitting::measure(const std::function<void()>& action, Take take) {
 }
 
 /// By the wall clock, the only one quick enough to be read at each host call. Other programs that
-/// interrupt the plug-in only ever add to it.
+/// interrupt the plug-in only ever add to it. A run that took less than its clock is thought to
+/// have cost tells nothing: it counts as endless, so that it is never the least.
 double Sitting::ownSeconds(double clockCost) {
-    return timedEntry().seconds - secondsOf(easel::hostCalls().time()) - clockCost;
+    const double own = timedEntry().seconds - secondsOf(easel::hostCalls().time()) - clockCost;
+    return own > 0 ? own : std::numeric_limits<double>::infinity();
 }
 
 /// Once a sitting, because it leaves the processor's caches without the plug-in: then the next
