@@ -8,8 +8,8 @@
 #include "host/Suites.h"
 #include "host/suites/AIArtSuite.h"
 #include "symmetry/ArtSpace.h"
-#include "symmetry/PerpendicularFeet.h"
-#include "tool/PerpendicularSnap.h"
+#include "symmetry/geometry/PerpendicularFeet.h"
+#include "tool/snapping/PerpendicularSnap.h"
 
 #include <benchmark/benchmark.h>
 

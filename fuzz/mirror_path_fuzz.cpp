@@ -1,8 +1,8 @@
 /// Any bytes as axes and paths: mirroring ends, loses no path, writes only coordinates that the
 /// host can store, and removing points never adds any.
 
-#include "symmetry/MirrorPath.h"
-#include "symmetry/RemovePoints.h"
+#include "symmetry/geometry/MirrorPath.h"
+#include "symmetry/geometry/RemovePoints.h"
 
 #include <algorithm>
 #include <bit>

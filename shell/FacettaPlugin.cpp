@@ -11,9 +11,9 @@
 #include "shell/Alert.h"
 #include "shell/Help.h"
 #include "shell/PreferenceStore.h"
-#include "tool/Annotations.h"
 #include "tool/CurrentAxes.h"
 #include "tool/SymmetryTool.h"
+#include "tool/drawing/Annotations.h"
 
 #include <new>
 #include <string>

@@ -5,11 +5,11 @@
 #include "shell/Plugin.h"
 #include "symmetry/MirrorEngine.h"
 #include "tool/CurrentView.h"
-#include "tool/HintTimer.h"
 #include "tool/Licensing.h"
 #include "tool/ModalDialogs.h"
 #include "tool/Preferences.h"
 #include "tool/ToolState.h"
+#include "tool/drawing/HintTimer.h"
 #include "ui/SymmetryPanel.h"
 
 #include <optional>

@@ -8,7 +8,7 @@
 #include "shell/PreferenceStore.h"
 #include "symmetry/LiveLayers.h"
 #include "tool/CurrentAxes.h"
-#include "tool/Preview.h"
+#include "tool/drawing/Preview.h"
 
 #include <algorithm>
 

@@ -3,8 +3,8 @@
 #include "host/Codes.h"
 #include "host/Suites.h"
 #include "host/suites/AIPreferenceSuite.h"
-#include "symmetry/Geometry.h"
-#include "symmetry/SymmetryAxes.h"
+#include "symmetry/geometry/Geometry.h"
+#include "symmetry/geometry/SymmetryAxes.h"
 
 #include <algorithm>
 #include <variant>

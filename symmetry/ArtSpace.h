@@ -6,8 +6,8 @@
 /// art are SOFT (page), y upwards. An origin is softened before it is compared with art.
 
 #include "host/Types.h"
-#include "symmetry/Geometry.h"
-#include "symmetry/SymmetryAxes.h"
+#include "symmetry/geometry/Geometry.h"
+#include "symmetry/geometry/SymmetryAxes.h"
 
 namespace facetta {
 

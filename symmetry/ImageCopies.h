@@ -5,7 +5,7 @@
 #include "host/Handles.h"
 #include "host/Types.h"
 #include "symmetry/ArtMarks.h"
-#include "symmetry/SymmetryAxes.h"
+#include "symmetry/geometry/SymmetryAxes.h"
 
 #include <span>
 #include <vector>

@@ -3,8 +3,8 @@
 /// Changes to all the art of a layer that keep it symmetric. All functions throw `ai::Error`.
 
 #include "host/References.h"
-#include "symmetry/Geometry.h"
 #include "symmetry/MirrorEngine.h"
+#include "symmetry/geometry/Geometry.h"
 
 namespace facetta {
 

@@ -9,8 +9,8 @@
 #include "symmetry/ArtTree.h"
 #include "symmetry/LayerAxesStore.h"
 #include "symmetry/PathArt.h"
-#include "symmetry/RemovePoints.h"
 #include "symmetry/WorkSet.h"
+#include "symmetry/geometry/RemovePoints.h"
 
 #include <vector>
 

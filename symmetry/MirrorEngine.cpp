@@ -9,11 +9,11 @@
 #include "symmetry/ArtTree.h"
 #include "symmetry/ImageCopies.h"
 #include "symmetry/LayerAxesStore.h"
-#include "symmetry/MirrorPath.h"
 #include "symmetry/PathArt.h"
 #include "symmetry/PathReplacement.h"
-#include "symmetry/RemovePoints.h"
 #include "symmetry/WorkSet.h"
+#include "symmetry/geometry/MirrorPath.h"
+#include "symmetry/geometry/RemovePoints.h"
 
 #include <array>
 #include <utility>

@@ -4,7 +4,7 @@
 
 #include "host/Art.h"
 #include "host/Handles.h"
-#include "symmetry/PathShape.h"
+#include "symmetry/geometry/PathShape.h"
 
 #include <vector>
 

@@ -3,9 +3,9 @@
 /// Putting the mirrored form of a path in the place of its source.
 
 #include "host/Handles.h"
-#include "symmetry/MirrorPath.h"
 #include "symmetry/PathArt.h"
 #include "symmetry/WorkSet.h"
+#include "symmetry/geometry/MirrorPath.h"
 
 #include <vector>
 

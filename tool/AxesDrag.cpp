@@ -5,15 +5,15 @@
 #include "host/UndoText.h"
 #include "host/suites/AIUndoSuite.h"
 #include "symmetry/ArtSpace.h"
-#include "tool/Annotations.h"
-#include "tool/Constraints.h"
 #include "tool/CurrentAxes.h"
-#include "tool/DragTarget.h"
 #include "tool/Gesture.h"
 #include "tool/LayerEdit.h"
-#include "tool/OnCanvasDialog.h"
 #include "tool/Reposition.h"
 #include "tool/Zones.h"
+#include "tool/drawing/Annotations.h"
+#include "tool/drawing/OnCanvasDialog.h"
+#include "tool/snapping/Constraints.h"
+#include "tool/snapping/DragTarget.h"
 
 #include <array>
 

@@ -4,13 +4,13 @@
 #include "host/UndoText.h"
 #include "symmetry/LayerArt.h"
 #include "tool/CurrentAxes.h"
-#include "tool/CursorSnap.h"
 #include "tool/Gesture.h"
 #include "tool/LayerEdit.h"
 #include "tool/NumericEdit.h"
 #include "tool/Reposition.h"
 #include "tool/ToolCursor.h"
 #include "tool/Zones.h"
+#include "tool/snapping/CursorSnap.h"
 
 #include <array>
 #include <utility>

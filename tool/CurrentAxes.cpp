@@ -6,10 +6,10 @@
 #include "symmetry/ArtSpace.h"
 #include "symmetry/LayerAxesStore.h"
 #include "symmetry/LiveLayers.h"
-#include "tool/CursorSnap.h"
 #include "tool/LayerEdit.h"
-#include "tool/Preview.h"
 #include "tool/Reposition.h"
+#include "tool/drawing/Preview.h"
+#include "tool/snapping/CursorSnap.h"
 
 namespace facetta {
 namespace {

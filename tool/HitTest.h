@@ -3,7 +3,7 @@
 /// What of the axes lies under the cursor. All positions are in art space, in points, y up; the
 /// axes' origin is softened.
 
-#include "symmetry/SymmetryAxes.h"
+#include "symmetry/geometry/SymmetryAxes.h"
 #include "tool/ToolState.h"
 
 namespace facetta {

@@ -10,7 +10,7 @@
 #include "symmetry/LayerAxesStore.h"
 #include "symmetry/MirrorTag.h"
 #include "tool/CurrentAxes.h"
-#include "tool/Preview.h"
+#include "tool/drawing/Preview.h"
 
 #include <utility>
 

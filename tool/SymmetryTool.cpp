@@ -5,11 +5,11 @@
 #include "host/suites/AIArtSuite.h"
 #include "host/suites/AIDocumentSuite.h"
 #include "symmetry/ArtSpace.h"
-#include "tool/Annotations.h"
 #include "tool/CurrentAxes.h"
 #include "tool/Gesture.h"
-#include "tool/Preview.h"
 #include "tool/Zones.h"
+#include "tool/drawing/Annotations.h"
+#include "tool/drawing/Preview.h"
 
 #include <algorithm>
 #include <array>

@@ -3,10 +3,10 @@
 #include "host/Handles.h"
 #include "host/References.h"
 #include "host/Types.h"
-#include "symmetry/SymmetryAxes.h"
-#include "tool/DialogPlacement.h"
-#include "tool/Hint.h"
-#include "tool/Preview.h"
+#include "symmetry/geometry/SymmetryAxes.h"
+#include "tool/drawing/DialogPlacement.h"
+#include "tool/drawing/Hint.h"
+#include "tool/drawing/Preview.h"
 
 namespace facetta {
 

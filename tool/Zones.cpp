@@ -2,8 +2,8 @@
 
 #include "symmetry/ArtSpace.h"
 #include "tool/HitTest.h"
-#include "tool/OnCanvasDialog.h"
 #include "tool/ToolCursor.h"
+#include "tool/drawing/OnCanvasDialog.h"
 
 #include <array>
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "symmetry/Bezier.h"
+#include "symmetry/geometry/Bezier.h"
 
 #include "tests/symmetry/RandomPaths.h"
 

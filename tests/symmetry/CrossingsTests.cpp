@@ -1,6 +1,6 @@
-#include "symmetry/Crossings.h"
+#include "symmetry/geometry/Crossings.h"
 
-#include "symmetry/Tolerances.h"
+#include "symmetry/geometry/Tolerances.h"
 #include "tests/symmetry/PathText.h"
 #include "tests/symmetry/RandomPaths.h"
 

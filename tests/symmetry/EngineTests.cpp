@@ -4,8 +4,8 @@
 #include "easel/document/Session.h"
 #include "host/Error.h"
 #include "symmetry/ArtSpace.h"
-#include "symmetry/Geometry.h"
 #include "symmetry/ImageCopies.h"
+#include "symmetry/geometry/Geometry.h"
 #include "tests/Seed.h"
 #include "tests/symmetry/EngineFixture.h"
 

@@ -1,4 +1,4 @@
-#include "symmetry/Geometry.h"
+#include "symmetry/geometry/Geometry.h"
 
 #include "tests/symmetry/RandomPaths.h"
 

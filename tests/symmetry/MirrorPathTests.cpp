@@ -1,6 +1,6 @@
-#include "symmetry/MirrorPath.h"
+#include "symmetry/geometry/MirrorPath.h"
 
-#include "symmetry/Tolerances.h"
+#include "symmetry/geometry/Tolerances.h"
 #include "tests/symmetry/PathText.h"
 #include "tests/symmetry/RandomPaths.h"
 

@@ -2,7 +2,7 @@
 
 /// Paths as text in the manner of SVG, with y upwards, so that tests show what they draw.
 
-#include "symmetry/PathShape.h"
+#include "symmetry/geometry/PathShape.h"
 
 #include <string>
 #include <string_view>

@@ -1,4 +1,4 @@
-#include "symmetry/PerpendicularFeet.h"
+#include "symmetry/geometry/PerpendicularFeet.h"
 
 #include "tests/symmetry/RandomPaths.h"
 

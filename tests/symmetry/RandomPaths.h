@@ -2,8 +2,8 @@
 
 /// Random axes and paths for the laws of the mirror geometry.
 
-#include "symmetry/PathShape.h"
-#include "symmetry/SymmetryAxes.h"
+#include "symmetry/geometry/PathShape.h"
+#include "symmetry/geometry/SymmetryAxes.h"
 #include "tests/Seed.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
-#include "symmetry/RemovePoints.h"
+#include "symmetry/geometry/RemovePoints.h"
 
-#include "symmetry/MirrorPath.h"
-#include "symmetry/Tolerances.h"
+#include "symmetry/geometry/MirrorPath.h"
+#include "symmetry/geometry/Tolerances.h"
 #include "tests/symmetry/PathText.h"
 #include "tests/symmetry/RandomPaths.h"
 

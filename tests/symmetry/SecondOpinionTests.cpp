@@ -1,6 +1,6 @@
 // Crossings compared with those of an independent library.
 
-#include "symmetry/Bezier.h"
+#include "symmetry/geometry/Bezier.h"
 
 #include "tests/symmetry/RandomPaths.h"
 

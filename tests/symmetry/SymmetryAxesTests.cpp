@@ -1,4 +1,4 @@
-#include "symmetry/SymmetryAxes.h"
+#include "symmetry/geometry/SymmetryAxes.h"
 
 #include "tests/symmetry/RandomPaths.h"
 

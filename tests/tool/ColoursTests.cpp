@@ -1,4 +1,4 @@
-#include "tool/Colours.h"
+#include "tool/drawing/Colours.h"
 
 #include <doctest/doctest.h>
 

@@ -1,4 +1,4 @@
-#include "tool/Constraints.h"
+#include "tool/snapping/Constraints.h"
 
 #include <doctest/doctest.h>
 

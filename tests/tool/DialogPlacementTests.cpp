@@ -1,4 +1,4 @@
-#include "tool/DialogPlacement.h"
+#include "tool/drawing/DialogPlacement.h"
 
 #include <doctest/doctest.h>
 

@@ -1,4 +1,4 @@
-#include "tool/DragTarget.h"
+#include "tool/snapping/DragTarget.h"
 
 #include "tests/tool/Drawing.h"
 #include "tool/CurrentAxes.h"

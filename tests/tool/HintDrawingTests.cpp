@@ -1,4 +1,4 @@
-#include "tool/HintDrawing.h"
+#include "tool/drawing/HintDrawing.h"
 
 #include "tests/tool/Annotated.h"
 

@@ -1,5 +1,5 @@
 #include "tests/tool/Annotated.h"
-#include "tool/HintDrawing.h"
+#include "tool/drawing/HintDrawing.h"
 
 using namespace facetta;
 using namespace facetta::tests;

@@ -1,4 +1,4 @@
-#include "tool/Mask.h"
+#include "tool/drawing/Mask.h"
 
 #include "tests/symmetry/RandomPaths.h"
 

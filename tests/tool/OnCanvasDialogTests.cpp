@@ -1,4 +1,4 @@
-#include "tool/OnCanvasDialog.h"
+#include "tool/drawing/OnCanvasDialog.h"
 
 #include "tests/tool/Annotated.h"
 

@@ -1,5 +1,5 @@
 #include "tests/tool/Annotated.h"
-#include "tool/Overlay.h"
+#include "tool/drawing/Overlay.h"
 
 using namespace facetta;
 using namespace facetta::tests;

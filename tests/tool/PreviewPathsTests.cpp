@@ -1,4 +1,4 @@
-#include "tool/PreviewPaths.h"
+#include "tool/drawing/PreviewPaths.h"
 
 #include "tests/symmetry/RandomPaths.h"
 

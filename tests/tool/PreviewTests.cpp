@@ -1,4 +1,4 @@
-#include "tool/Preview.h"
+#include "tool/drawing/Preview.h"
 
 #include "tests/tool/Annotated.h"
 

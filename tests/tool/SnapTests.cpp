@@ -2,8 +2,8 @@
 
 #include "easel/document/Attributes.h"
 #include "easel/document/Layers.h"
-#include "tool/PerpendicularSnap.h"
-#include "tool/SegmentSnap.h"
+#include "tool/snapping/PerpendicularSnap.h"
+#include "tool/snapping/SegmentSnap.h"
 
 #include <functional>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "tool/Hint.h"
+#include "tool/drawing/Hint.h"
 #include "toolkit/ImplCommon/Resources.h"
 
 #include <doctest/doctest.h>

@@ -1,0 +1,300 @@
+#include "symmetry/geometry/Crossings.h"
+
+#include "symmetry/geometry/Tolerances.h"
+
+#include <cmath>
+
+namespace facetta {
+
+namespace {
+
+/// Signed distances of the four control points of a curve from the line of a ray.
+BernsteinCubic distancesFrom(const Wedge& wedge, Ray ray, const Cubic& curve) {
+    const auto distance = [&](Point point) {
+        const Wedge::Distances both = wedge.distances(point);
+        return ray == Ray::First ? both.fromFirst : both.fromLast;
+    };
+    return {distance(curve.p0), distance(curve.p1), distance(curve.p2), distance(curve.p3)};
+}
+
+/// Whether a curve runs along the line of a ray: its control points do.
+bool liesOnLine(const Wedge& wedge, Ray ray, const Cubic& curve) {
+    return std::ranges::all_of(distancesFrom(wedge, ray, curve), [](double distance) {
+        return std::abs(distance) <= kOnAxisDistance;
+    });
+}
+
+// By value, unlike the standard functions, which choose between addresses: no branches arise.
+double lesser(double a, double b) { return a < b ? a : b; }
+double greater(double a, double b) { return a > b ? a : b; }
+
+/// Whether four points are clear of both bounding rays on the same side, so that their curve has
+/// nothing to do with them. This is all that is asked about most curves.
+bool staysClear(const Wedge::Distances& a, const Wedge::Distances& b, const Wedge::Distances& c,
+                const Wedge::Distances& d) {
+    const double lowest = lesser(lesser(a.margin(), b.margin()), lesser(c.margin(), d.margin()));
+    if (lowest > kOnAxisDistance) return true;
+    const double highestFirst =
+        greater(greater(a.fromFirst, b.fromFirst), greater(c.fromFirst, d.fromFirst));
+    const double highestLast =
+        greater(greater(a.fromLast, b.fromLast), greater(c.fromLast, d.fromLast));
+    return lesser(highestFirst, highestLast) < -kOnAxisDistance;
+}
+
+Side sideOf(double margin) { return margin > 0.0 ? Side::Inside : Side::Outside; }
+
+bool leavesEdge(Side side) { return side == Side::Inside || side == Side::Outside; }
+
+} // namespace
+
+Wedge::Wedge(const SymmetryAxes& axes)
+    : origin_(originOf(axes)), first_(direction(rayAngle(axes, 0))),
+      last_(axes.axisCount == 1 ? -first_ : direction(rayAngle(axes, sectorCount(axes) - 1))) {}
+
+bool Wedge::atOrigin(Point point) const { return distance(point, origin_) <= kOnAxisDistance; }
+
+Ray Wedge::rayAt(Point point) const {
+    const Distances both = distances(point);
+    const bool onFirst =
+        std::abs(both.fromFirst) <= kOnAxisDistance && along(Ray::First, point) >= -kOnAxisDistance;
+    const bool onLast =
+        std::abs(both.fromLast) <= kOnAxisDistance && along(Ray::Last, point) >= -kOnAxisDistance;
+    if (onFirst && onLast && atOrigin(point)) return Ray::Origin;
+    if (onFirst && (!onLast || std::abs(both.fromFirst) <= std::abs(both.fromLast)))
+        return Ray::First;
+    return onLast ? Ray::Last : Ray::None;
+}
+
+void ContactFinder::examine(const PathShape& path) {
+    crossings_.clear();
+    sides_.clear();
+    contacts_.clear();
+    whole_ = Side::Nowhere;
+    const bool staysOnOneSide = collectCrossings(path);
+
+    const std::size_t anchors = path.segments.size();
+    if (crossings_.empty()) {
+        whole_ = sideOf(staysOnOneSide ? margins_.front() : farthestMargin(0, anchors));
+        return;
+    }
+    for (std::size_t i = 0; i + 1 < crossings_.size(); ++i)
+        sides_.push_back(sideBetween(path, crossings_[i], crossings_[i + 1]));
+    if (path.closed)
+        groupClosed(path);
+    else
+        groupOpen(path);
+}
+
+bool ContactFinder::collectCrossings(const PathShape& path) {
+    const std::vector<PathSegment>& segments = path.segments;
+    margins_.resize(segments.size());
+    if (segments.empty()) return false;
+    bool allStayClear = true;
+    const std::size_t curves = curveCount(path);
+    const Wedge wedge = wedge_; // nothing that is written below can change this one
+    Wedge::Distances here = wedge.distances(segments.front().anchor);
+    for (std::size_t i = 0; i < curves; ++i) {
+        const PathSegment& next = segments[i + 1 == segments.size() ? 0 : i + 1];
+        const Wedge::Distances there = wedge.distances(next.anchor);
+        margins_[i] = here.margin();
+        const Wedge::Distances out = wedge.distances(segments[i].out);
+        const Wedge::Distances in = wedge.distances(next.in);
+        if (!staysClear(here, out, in, there)) {
+            addCurveCrossings(i, curveAt(path, i), {here, out, in, there});
+            allStayClear = false;
+        }
+        here = there;
+    }
+    if (!path.closed) {
+        margins_.back() = here.margin();
+        const Crossing end = anchorCrossing(segments.size() - 1, segments.back().anchor);
+        if (end.ray != Ray::None) crossings_.push_back(end);
+    }
+    return allStayClear;
+}
+
+Crossing ContactFinder::anchorCrossing(std::size_t index, Point anchor) const {
+    return {static_cast<std::int32_t>(index), 0.0, anchor, wedge_.rayAt(anchor), true};
+}
+
+/// Adds the crossings of one curve: its first anchor and the places up to the second one.
+/// `distances` are those of its control points.
+void ContactFinder::addCurveCrossings(std::size_t index, const Cubic& curve,
+                                      const std::array<Wedge::Distances, 4>& distances) {
+    const Crossing start = anchorCrossing(index, curve.p0);
+    const Crossing end = anchorCrossing(index + 1, curve.p3);
+    if (start.ray != Ray::None) crossings_.push_back(start);
+    const auto first = std::ssize(crossings_);
+    const auto& [a, b, c, d] = distances;
+    const BernsteinCubic fromFirst{a.fromFirst, b.fromFirst, c.fromFirst, d.fromFirst};
+    const BernsteinCubic fromLast{a.fromLast, b.fromLast, c.fromLast, d.fromLast};
+    const Roots onFirst = signChanges(fromFirst);
+    addRayCrossings(index, curve, Ray::First, onFirst);
+    addRayCrossings(index, curve, Ray::Last,
+                    fromLast == fromFirst ? onFirst : signChanges(fromLast));
+    std::ranges::sort(crossings_.begin() + first, crossings_.end(), {}, &Crossing::parameter);
+
+    // Places at which the curve has hardly left an anchor on the axis are that anchor's own.
+    const auto isStart = [&](const Crossing& place) {
+        return start.ray != Ray::None && hardlyLeaves(curve, start, place, place.parameter);
+    };
+    const auto isEnd = [&](const Crossing& place) {
+        return end.ray != Ray::None && hardlyLeaves(curve, place, end, 1.0 - place.parameter);
+    };
+    while (std::ssize(crossings_) > first && isEnd(crossings_.back()))
+        crossings_.pop_back();
+    const auto begin = crossings_.begin() + first;
+    crossings_.erase(begin, std::find_if_not(begin, crossings_.end(), isStart));
+}
+
+/// Whether a curve does not get away from the edge between an anchor on it and another place, which
+/// is `apart` from it in parameter.
+bool ContactFinder::hardlyLeaves(const Cubic& curve, const Crossing& from, const Crossing& to,
+                                 double apart) const {
+    const double limit = apart < kAnchorParameter ? kTouchDepth : kOnAxisDistance;
+    return std::abs(farthestMargin(curve, from, to)) <= limit && !runsAlong(curve, from, to);
+}
+
+void ContactFinder::addRayCrossings(std::size_t index, const Cubic& curve, Ray ray,
+                                    const Roots& roots) {
+    for (const double t : roots.all()) {
+        const Point found = evaluate(curve, t);
+        if (wedge_.along(ray, found) < -kOnAxisDistance) continue; // behind the origin
+        const Point point = rounded(wedge_.onto(ray, found));
+        const Ray place = wedge_.atOrigin(point) ? Ray::Origin : ray;
+        crossings_.push_back({static_cast<std::int32_t>(index), t, point, place, false});
+    }
+}
+
+double ContactFinder::farthestMargin(std::size_t firstAnchor, std::size_t endAnchor) const {
+    double farthest = 0.0;
+    for (std::size_t i = firstAnchor; i < endAnchor; ++i) {
+        const double margin = margins_[i < margins_.size() ? i : i - margins_.size()];
+        if (std::abs(margin) > std::abs(farthest)) farthest = margin;
+    }
+    return farthest;
+}
+
+Side ContactFinder::sideBetween(const PathShape& path, const Crossing& from,
+                                const Crossing& to) const {
+    const auto firstAnchor = static_cast<std::size_t>(from.segment) + 1;
+    const auto endAnchor = static_cast<std::size_t>(to.segment) + (to.onAnchor ? 0 : 1);
+    if (firstAnchor == endAnchor)
+        return sideOnCurve(curveAt(path, static_cast<std::size_t>(from.segment)), from, to);
+    if (endAnchor == firstAnchor + 1 && isTipThroughEdge(path, from, to)) return Side::Touching;
+    return sideOf(farthestMargin(firstAnchor, endAnchor));
+}
+
+/// Whether the path only touches the edge with the one anchor between two crossings: they all but
+/// coincide, and it does not reach far beyond them.
+bool ContactFinder::isTipThroughEdge(const PathShape& path, const Crossing& from,
+                                     const Crossing& to) const {
+    const bool coincide = to.position() - from.position() < kTouchParameter ||
+                          distance(from.point, to.point) < kOnAxisDistance;
+    if (from.onAnchor || to.onAnchor || !coincide) return false;
+    const std::size_t tipIndex = static_cast<std::size_t>(to.segment) % path.segments.size();
+    Crossing tip{to.segment, 0.0, path.segments[tipIndex].anchor, Ray::None, true};
+    const Cubic before = curveAt(path, static_cast<std::size_t>(from.segment));
+    const Cubic after = curveAt(path, tipIndex);
+    return std::abs(wedge_.margin(tip.point)) <= kTouchDepth &&
+           std::abs(farthestMargin(before, from, tip)) <= kTouchDepth &&
+           std::abs(farthestMargin(after, tip, to)) <= kTouchDepth;
+}
+
+double ContactFinder::farthestMargin(const Cubic& curve, const Crossing& from,
+                                     const Crossing& to) const {
+    const double end = to.segment == from.segment ? to.parameter : 1.0;
+    double farthest = 0.0;
+    for (const double part : {0.25, 0.5, 0.75}) {
+        const double t = std::lerp(from.parameter, end, part);
+        const double margin = wedge_.margin(evaluate(curve, t));
+        if (std::abs(margin) > std::abs(farthest)) farthest = margin;
+    }
+    return farthest;
+}
+
+/// Whether a curve that does not leave the edge between two places runs along it there.
+bool ContactFinder::runsAlong(const Cubic& curve, const Crossing& from, const Crossing& to) const {
+    return distance(from.point, to.point) > kOnAxisDistance &&
+           (liesOnLine(wedge_, Ray::First, curve) || liesOnLine(wedge_, Ray::Last, curve));
+}
+
+Side ContactFinder::sideOnCurve(const Cubic& curve, const Crossing& from,
+                                const Crossing& to) const {
+    const double margin = farthestMargin(curve, from, to);
+    // Between anchors half the distance is enough, so that a piece that was once worth cutting out
+    // is found again whatever rounding has done to it since.
+    const bool betweenAnchors = from.onAnchor && to.onAnchor;
+    if (std::abs(margin) > (betweenAnchors ? 0.5 * kOnAxisDistance : kOnAxisDistance))
+        return sideOf(margin);
+    return runsAlong(curve, from, to) ? Side::AlongRay : Side::Touching;
+}
+
+void ContactFinder::groupClosed(const PathShape& path) {
+    Crossing nextLap = crossings_.front();
+    nextLap.segment += static_cast<std::int32_t>(path.segments.size());
+    sides_.push_back(sideBetween(path, crossings_.back(), nextLap));
+    const auto leaving = std::ranges::find_if(sides_, leavesEdge);
+    if (leaving == sides_.end()) {
+        whole_ = Side::AlongRay;
+        return;
+    }
+    const auto turn = leaving + 1 - sides_.begin();
+    std::rotate(sides_.begin(), sides_.begin() + turn, sides_.end());
+    std::rotate(crossings_.begin(), crossings_.begin() + turn, crossings_.end());
+    const Side seam = sides_.back();
+    group(seam, seam);
+}
+
+void ContactFinder::groupOpen(const PathShape& path) {
+    const Crossing& front = crossings_.front();
+    const std::size_t anchors = path.segments.size();
+    const auto anchorsBefore = static_cast<std::size_t>(front.segment) + (front.onAnchor ? 0 : 1);
+    const auto firstAfter = static_cast<std::size_t>(crossings_.back().segment) + 1;
+    const Side before =
+        anchorsBefore > 0 ? sideOf(farthestMargin(0, anchorsBefore)) : Side::Nowhere;
+    const Side after =
+        firstAfter < anchors ? sideOf(farthestMargin(firstAfter, anchors)) : Side::Nowhere;
+    const bool staysOnEdge = before == Side::Nowhere && after == Side::Nowhere &&
+                             std::ranges::none_of(sides_, leavesEdge);
+    if (staysOnEdge)
+        whole_ = Side::AlongRay;
+    else
+        group(before, after);
+}
+
+/// Joins the crossings between which the path does not leave the edge into contacts.
+void ContactFinder::group(Side before, Side after) {
+    std::size_t begin = 0;
+    while (begin < crossings_.size()) {
+        std::size_t last = begin;
+        while (last + 1 < crossings_.size() && !leavesEdge(sides_[last]))
+            ++last;
+        const Side next = last + 1 < crossings_.size() ? sides_[last] : after;
+        addContact(begin, last, before, next);
+        before = next;
+        begin = last + 1;
+    }
+}
+
+/// The contact of the crossings `begin` to `last`. Where the path touches the edge near an anchor
+/// that lies on it, the anchor is the place, so that no second anchor arises beside it.
+void ContactFinder::addContact(std::size_t begin, std::size_t last, Side before, Side after) {
+    const auto touches = [this](std::size_t i) { return sides_[i] == Side::Touching; };
+    std::size_t from = begin;
+    while (from < last && !crossings_[from].onAnchor && touches(from))
+        ++from;
+    std::size_t to = last;
+    while (to > begin && !crossings_[to].onAnchor && touches(to - 1))
+        --to;
+    bool alongRay = false;
+    for (std::size_t i = begin; i < last; ++i)
+        alongRay = alongRay || sides_[i] == Side::AlongRay;
+    if (!alongRay && from > to) { // touches without an anchor
+        from = begin;
+        to = last;
+    }
+    contacts_.push_back({crossings_[from], crossings_[to], before, after, alongRay});
+}
+
+} // namespace facetta

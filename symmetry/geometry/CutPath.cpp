@@ -1,0 +1,108 @@
+#include "symmetry/geometry/CutPath.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace facetta {
+
+void PathCutter::cut(const PathShape& path, double start) {
+    finder_.examine(path);
+    kept_.clear();
+    cuts_.clear();
+    std::ranges::copy_if(finder_.contacts(), std::back_inserter(cuts_), &Contact::cuts);
+
+    const Side whole = finder_.contacts().empty() ? finder_.whole() : finder_.contacts()[0].after;
+    keepsWhole_ = cuts_.empty() && whole != Side::Outside;
+    if (keepsWhole_ || cuts_.empty()) return;
+    if (path.closed)
+        keepClosed(start);
+    else
+        keepOpen(path);
+}
+
+void PathCutter::keepOpen(const PathShape& path) {
+    const auto lastIndex = static_cast<std::int32_t>(path.segments.size()) - 1;
+    Crossing from{0, 0.0, path.segments.front().anchor, Ray::None, true};
+    const Crossing end{lastIndex, 0.0, path.segments.back().anchor, Ray::None, true};
+    for (const Contact& contact : cuts_) {
+        if (contact.before == Side::Inside) kept_.push_back({from, contact.first});
+        if (contact.alongRay) kept_.push_back({contact.first, contact.last, true});
+        from = contact.last;
+    }
+    if (cuts_.back().after == Side::Inside) kept_.push_back({from, end});
+}
+
+void PathCutter::keepClosed(double start) {
+    const auto leaves = [](const Contact& contact) { return contact.last.position(); };
+    std::rotate(cuts_.begin(), std::ranges::min_element(cuts_, {}, leaves), cuts_.end());
+    const auto next = std::ranges::upper_bound(cuts_, start, {}, leaves);
+    std::rotate(cuts_.begin(), next == cuts_.begin() ? cuts_.end() - 1 : next - 1, cuts_.end());
+
+    for (std::size_t i = 0; i < cuts_.size(); ++i)
+        if (cuts_[i].after == Side::Inside)
+            kept_.push_back({cuts_[i].last, cuts_[i + 1 < cuts_.size() ? i + 1 : 0].first});
+    if (kept_.empty())
+        for (const Contact& contact : cuts_)
+            if (contact.alongRay) kept_.push_back({contact.first, contact.last, true});
+}
+
+namespace {
+
+/// The segment at a place of the path: its anchor there, or a new one. A new anchor between two
+/// selected ones is selected, so that a wholly selected path stays so.
+PathSegment segmentAt(const PathShape& path, const Crossing& place) {
+    const std::vector<PathSegment>& segments = path.segments;
+    const auto index = static_cast<std::size_t>(place.segment);
+    if (place.onAnchor) return segments[index];
+    const PathSegment& next = segments[index + 1 < segments.size() ? index + 1 : 0];
+    const bool selected =
+        segments[index].selection == selection::kAnchor && next.selection == selection::kAnchor;
+    return {place.point, place.point, place.point, true,
+            selected ? selection::kAnchor : selection::kNone};
+}
+
+/// Sets the handles of a curve that is cut down to the part from `from` to `to`.
+void shortenHandles(const Cubic& curve, double from, double to, PathSegment& start,
+                    PathSegment& end) {
+    const bool straight = curve.p0 == curve.p1 && curve.p2 == curve.p3;
+    if (straight) { // a part of it would get handles that lie on it, which is no straight line
+        start.out = start.anchor;
+        end.in = end.anchor;
+        return;
+    }
+    const Cubic part = between(curve, from, to);
+    start.out = rounded(part.p1);
+    end.in = rounded(part.p2);
+}
+
+} // namespace
+
+void extract(const PathShape& path, const Stretch& stretch, std::vector<PathSegment>& piece) {
+    const auto& [from, to, alongRay] = stretch;
+    const auto count = static_cast<std::int32_t>(path.segments.size());
+    const bool pastFirst = to.position() <= from.position();
+    const std::int32_t lastCurve = to.segment + (pastFirst ? count : 0);
+    const std::int32_t endAnchor = lastCurve + (to.onAnchor ? 0 : 1);
+
+    piece.clear();
+    piece.reserve(static_cast<std::size_t>(endAnchor - from.segment) + 1);
+    piece.push_back(segmentAt(path, from));
+    const auto anchors = path.segments.begin();
+    const std::int32_t firstAnchor = from.segment + 1;
+    if (firstAnchor < std::min(endAnchor, count))
+        piece.insert(piece.end(), anchors + firstAnchor, anchors + std::min(endAnchor, count));
+    if (endAnchor > count)
+        piece.insert(piece.end(), anchors + std::max(firstAnchor - count, 0),
+                     anchors + (endAnchor - count));
+    piece.push_back(segmentAt(path, to));
+
+    const bool oneCurve = lastCurve == from.segment;
+    if (!from.onAnchor || (oneCurve && !to.onAnchor))
+        shortenHandles(curveAt(path, static_cast<std::size_t>(from.segment)), from.parameter,
+                       oneCurve ? to.parameter : 1.0, piece[0], piece[1]);
+    if (!to.onAnchor && !oneCurve)
+        shortenHandles(curveAt(path, static_cast<std::size_t>(to.segment)), 0.0, to.parameter,
+                       piece[piece.size() - 2], piece.back());
+}
+
+} // namespace facetta
