@@ -23,6 +23,7 @@ void Host::sendTool(const char* selector, AIToolHandle handle, const MousePoint*
     const Tool* const found = tools.tools.find(handle); // the host's own tools get no messages
     if (found == nullptr) return;
     const Tool& tool = *found;
+    if (mouse != nullptr && easel::session().current == nullptr) return; // its window is gone
     AIToolMessage message{};
     AIEvent event{};
     message.tool = handle;

@@ -42,6 +42,22 @@ Action readSave(Arguments& arguments) {
     };
 }
 
+Action readClose(Arguments&) {
+    return [](Player& player) { player.host().close(player.document()); };
+}
+
+Action readSwitch(Arguments& arguments) {
+    constexpr int kMostDrawings = 100;
+    const int number = arguments.whole("number of a drawing", 1, kMostDrawings);
+    return [number](Player& player) {
+        Host& host = player.host();
+        const auto& open = host.documents();
+        if (static_cast<std::size_t>(number) > open.size())
+            throw SessionError("only " + std::to_string(open.size()) + " drawings are open");
+        host.activate(*open[static_cast<std::size_t>(number) - 1]);
+    };
+}
+
 Art& layerNamed(Document& document, const std::string& title) {
     if (Art* const layer = findLayer(document, title)) return *layer;
     throw SessionError("there is no layer \"" + title + '"');
@@ -341,6 +357,11 @@ constexpr CommandRow kCommands[] = {
     {"open", "FILE", "Opens the drawing FILE, which lies where the script does", readOpen},
     {"new", "WIDTH HEIGHT", "Opens an empty drawing of that size, in points", readNew},
     {"save", "FILE", "Saves the drawing among the results", readSave},
+    {"switch", "NUMBER",
+     "Brings an open drawing to the front: 1 is the one that was opened first of those left",
+     readSwitch},
+    {"close", "", "Closes the drawing in front; the first of those left comes to the front",
+     readClose},
     {"layer", "choose|add|delete|lock|unlock|hide|show TITLE",
      "Does that to the layer of that title; a new one lies on top and is current", readLayer},
     {"select", "all|none|ID...",
