@@ -1,6 +1,6 @@
 # What we build with and did not write, each as one target, the same in every preset:
-# facetta::doctest, facetta::cli11, facetta::json, facetta::boost, facetta::tinyxml2, and natively
-# facetta::cairo and facetta::benchmark. All of it comes from the system's packages (see docs/dependencies.md).
+# facetta::doctest, facetta::cli11, facetta::json, facetta::tinyxml2, and natively facetta::cairo and
+# facetta::benchmark. All of it comes from the system's packages (see docs/dependencies.md).
 
 include_guard(GLOBAL)
 
@@ -23,7 +23,6 @@ endfunction()
 facetta_headers(doctest doctest)
 facetta_headers(cli11 CLI)
 facetta_headers(json nlohmann)
-facetta_headers(boost boost)
 
 if(WIN32)
     # Compiled from the system's source package, which scripts/setup lays here.
