@@ -98,17 +98,18 @@ void checkResult(const MirroredPath& result, Tier tier) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     Input input({data, size});
     const Tier tier = static_cast<Tier>(input.take<std::uint8_t>() % 3);
-    SymmetryAxes axes;
+    PageAxes axes;
     axes.axisCount = 1 + input.take<std::uint8_t>() % kMostAxes;
-    axes.angle = tier == Tier::AnyBits ? std::bit_cast<double>(input.take<std::uint64_t>())
-                                       : input.take<std::uint16_t>() * kPi / 180.0;
-    axes.originX = input.coordinate(tier);
-    axes.originY = input.coordinate(tier);
+    axes.angle =
+        normaliseAngle(tier == Tier::AnyBits ? std::bit_cast<double>(input.take<std::uint64_t>())
+                                             : input.take<std::uint16_t>() * kPi / 180.0);
+    axes.origin.x = input.coordinate(tier);
+    axes.origin.y = input.coordinate(tier);
     PathMirror mirror(axes, input.take<std::uint8_t>());
 
     std::vector<PathShape> members;
     while (!input.empty() && members.size() < 4)
-        members.push_back(input.path(tier, originOf(axes)));
+        members.push_back(input.path(tier, axes.origin));
     for (const PathShape& path : members) {
         const MirroredPath& result = mirror.mirror(path);
         require(result.contours.empty() == path.segments.empty(), "no path is lost");

@@ -4,7 +4,7 @@
 #include "host/Suites.h"
 #include "host/suites/AIPreferenceSuite.h"
 #include "symmetry/geometry/Geometry.h"
-#include "symmetry/geometry/SymmetryAxes.h"
+#include "symmetry/geometry/PageAxes.h"
 
 #include <algorithm>
 #include <variant>

@@ -42,12 +42,10 @@ Point harden(Point soft) {
 
 Point clampToCanvas(Point hard) { return {clampToCanvas(hard.x), clampToCanvas(hard.y)}; }
 
-SymmetryAxes inArtSpace(const SymmetryAxes& axes) {
-    const Point origin = soften(clampToCanvas(originOf(axes)));
-    SymmetryAxes result = axes;
-    result.originX = origin.x;
-    result.originY = origin.y;
-    return result;
+PageAxes pageAxes(const SymmetryAxes& axes) {
+    return {.origin = soften(clampToCanvas(hardOriginOf(axes))),
+            .angle = normaliseAngle(axes.angle),
+            .axisCount = axes.axisCount};
 }
 
 } // namespace facetta

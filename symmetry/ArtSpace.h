@@ -6,8 +6,9 @@
 /// art are SOFT (page), y upwards. An origin is softened before it is compared with art.
 
 #include "host/Types.h"
+#include "symmetry/SymmetryAxes.h"
 #include "symmetry/geometry/Geometry.h"
-#include "symmetry/geometry/SymmetryAxes.h"
+#include "symmetry/geometry/PageAxes.h"
 
 namespace facetta {
 
@@ -32,8 +33,8 @@ constexpr double kCanvasSize = 16383.0;
 /// `point` moved onto the canvas: both coordinates in 0 to `kCanvasSize`, 0 for what is no number.
 [[nodiscard]] Point clampToCanvas(Point hard);
 
-/// `axes` with its origin, brought onto the canvas, in page coordinates: what geometry is built
-/// from. Throws `ai::Error`.
-[[nodiscard]] SymmetryAxes inArtSpace(const SymmetryAxes& axes);
+/// `axes` as geometry is built from them: the origin brought onto the canvas and into page
+/// coordinates, the angle into its range. Throws `ai::Error`.
+[[nodiscard]] PageAxes pageAxes(const SymmetryAxes& axes);
 
 } // namespace facetta

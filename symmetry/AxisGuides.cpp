@@ -47,15 +47,14 @@ std::optional<LineSegment> clipped(const LineSegment& line, const AIRealRect& to
     return LineSegment{lerp(line.start, line.end, first), lerp(line.start, line.end, last)};
 }
 
-std::vector<LineSegment> guidesAlong(const SymmetryAxes& axes) {
+std::vector<LineSegment> guidesAlong(const PageAxes& axes) {
     AIRealRect canvas{};
     ai::check(suites.document->GetDocumentMaxArtboardBounds(&canvas));
-    const Point origin = soften(originOf(axes));
     std::vector<LineSegment> guides;
     double angle = axes.angle;
-    for (int i = 0; i < axes.axisCount; ++i, angle += halfStep(axes)) {
+    for (int i = 0; i < axes.axisCount; ++i, angle += sectorAngle(axes)) {
         const Vector along = kReach * direction(angle);
-        const LineSegment axis{rounded(origin - along), rounded(origin + along)};
+        const LineSegment axis{rounded(axes.origin - along), rounded(axes.origin + along)};
         if (const auto guide = clipped(axis, canvas)) guides.push_back(*guide);
     }
     return guides;
@@ -95,7 +94,7 @@ void addAxisGuides(const SymmetryAxes& axes) {
     if (axes.axisCount == 0) return;
     const AIArtHandle group = groupArtOf(topLevelLayer(nullptr));
     if (group == nullptr) return;
-    for (const LineSegment& guide : guidesAlong(axes))
+    for (const LineSegment& guide : guidesAlong(pageAxes(axes)))
         addGuide(group, guide);
 }
 

@@ -4,7 +4,7 @@
 /// is away. They are marked with `GuideTag`. All functions throw `ai::Error`.
 
 #include "host/Handles.h"
-#include "symmetry/geometry/SymmetryAxes.h"
+#include "symmetry/SymmetryAxes.h"
 
 namespace facetta {
 

@@ -95,14 +95,14 @@ void CopyMaker::shedMarks(AIArtHandle copy, const CopySource& source) const {
             ai::check(suites.dictionary->DeleteEntry(entries.get(), key));
 }
 
-std::vector<AIArtHandle> reflectCopies(std::span<const AIArtHandle> set, const SymmetryAxes& axes,
+std::vector<AIArtHandle> reflectCopies(std::span<const AIArtHandle> set, const PageAxes& axes,
                                        int rayIndex, Duplicate duplicate, CopyMode mode) {
     return mapAll(set, rayReflection(axes, rayIndex), duplicate, mode);
 }
 
-std::vector<AIArtHandle> rotateCopies(std::span<const AIArtHandle> set, const SymmetryAxes& axes,
+std::vector<AIArtHandle> rotateCopies(std::span<const AIArtHandle> set, const PageAxes& axes,
                                       double angle, Duplicate duplicate, CopyMode mode) {
-    const Matrix clockwise = rotationAbout(originOf(axes), -angle); // `angle` is counter-clockwise
+    const Matrix clockwise = rotationAbout(axes.origin, -angle); // `angle` is counter-clockwise
     return mapAll(set, clockwise, duplicate, mode);
 }
 

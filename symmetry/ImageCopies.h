@@ -5,7 +5,7 @@
 #include "host/Handles.h"
 #include "host/Types.h"
 #include "symmetry/ArtMarks.h"
-#include "symmetry/geometry/SymmetryAxes.h"
+#include "symmetry/geometry/PageAxes.h"
 
 #include <span>
 #include <vector>
@@ -66,14 +66,14 @@ private:
 };
 
 /// Reflects every object of `set` across the line of ray `rayIndex`: the object itself, or a
-/// duplicate directly behind it. `axes` has its origin in page coordinates. Returns the duplicates,
+/// duplicate directly behind it. Returns the duplicates,
 /// in the order of `set`. Throws `ai::Error`.
-std::vector<AIArtHandle> reflectCopies(std::span<const AIArtHandle> set, const SymmetryAxes& axes,
+std::vector<AIArtHandle> reflectCopies(std::span<const AIArtHandle> set, const PageAxes& axes,
                                        int rayIndex, Duplicate duplicate,
                                        CopyMode mode = CopyMode::Plain);
 
 /// The same for a rotation about the origin by `angle` radians, counter-clockwise.
-std::vector<AIArtHandle> rotateCopies(std::span<const AIArtHandle> set, const SymmetryAxes& axes,
+std::vector<AIArtHandle> rotateCopies(std::span<const AIArtHandle> set, const PageAxes& axes,
                                       double angle, Duplicate duplicate,
                                       CopyMode mode = CopyMode::Plain);
 

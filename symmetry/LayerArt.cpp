@@ -71,7 +71,7 @@ void changeActiveSector(const MirrorEnvironment& environment, int picked) {
     if (layer == nullptr) return;
     LayerAxesStore::write(environment.currentAxes);
     const std::vector<AIArtHandle> art = artOf(unitsOfLayer(layer));
-    const SymmetryAxes axes = inArtSpace(environment.currentAxes);
+    const PageAxes axes = pageAxes(environment.currentAxes);
     int steps = sectorCount(axes) - picked;
     if (steps % 2 != 0) {
         // An image in an odd sector is turned over: across the former first axis it lies in the
@@ -79,7 +79,7 @@ void changeActiveSector(const MirrorEnvironment& environment, int picked) {
         reflectCopies(art, axes, picked, Duplicate::No);
         --steps;
     }
-    if (steps != 0) rotateCopies(art, axes, -steps * halfStep(axes), Duplicate::No);
+    if (steps != 0) rotateCopies(art, axes, -steps * sectorAngle(axes), Duplicate::No);
     regenerateLayer(environment, /*option*/ false, layer);
 }
 

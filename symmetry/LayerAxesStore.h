@@ -9,7 +9,7 @@
 
 #include "host/Handles.h"
 #include "host/Types.h"
-#include "symmetry/geometry/SymmetryAxes.h"
+#include "symmetry/SymmetryAxes.h"
 
 namespace facetta {
 

@@ -36,7 +36,7 @@ bool isDue(AILayerHandle layer) {
            currentStamp(layer) != LayerAxesStore::stampOf(layer);
 }
 
-void removeAxisPoints(AIArtHandle path, ai::int32 selection, const SymmetryAxes& axes) {
+void removeAxisPoints(AIArtHandle path, ai::int32 selection, const PageAxes& axes) {
     const PathShape before = readPath(path, selection);
     const PathShape after = removeRedundantAxisPoints(before, axes);
     if (after.segments.size() == before.segments.size()) return;
@@ -45,7 +45,7 @@ void removeAxisPoints(AIArtHandle path, ai::int32 selection, const SymmetryAxes&
     if ((selection & kArtFullySelected) == 0) selectAnchors(path, after);
 }
 
-void removeAxisPoints(const Unit& unit, const SymmetryAxes& axes) {
+void removeAxisPoints(const Unit& unit, const PageAxes& axes) {
     if (unit.kind == UnitKind::Path) removeAxisPoints(unit.art, unit.selection, axes);
     if (unit.kind != UnitKind::CompoundPath) return;
     for (const AIArtHandle path : pathsInside(unit.art))
@@ -89,9 +89,9 @@ void releaseLayer(const MirrorEnvironment& environment, AILayerHandle layer,
                        LayerAxesStore::read(released, axes);
     LayerAxesStore::remove(released, resolve);
     if (!loses || !environment.removePoints) return;
-    const SymmetryAxes inArt = inArtSpace(axes);
+    const PageAxes onPage = pageAxes(axes);
     for (const Unit& unit : unitsOfLayer(released))
-        removeAxisPoints(unit, inArt);
+        removeAxisPoints(unit, onPage);
 }
 
 } // namespace facetta

@@ -65,7 +65,7 @@ void restartPen(AIToolHandle ownTool) {
 /// The maps that make the copies, as the host takes them, by `Images`.
 class ImageMatrices {
 public:
-    explicit ImageMatrices(const SymmetryAxes& axes) {
+    explicit ImageMatrices(const PageAxes& axes) {
         for (const Images images : {Images::All, Images::Rotations})
             for (const Matrix& map : imageTransforms(axes, images))
                 of(images).push_back(narrow(map));
@@ -79,10 +79,10 @@ private:
     std::array<std::vector<AIRealMatrix>, 3> matrices_;
 };
 
-/// One run over the units of a work set. `axes` has its origin in page coordinates.
+/// One run over the units of a work set.
 class Run {
 public:
-    Run(const SymmetryAxes& axes, CopyMode mode, bool removePoints)
+    Run(const PageAxes& axes, CopyMode mode, bool removePoints)
         : removePoints_(removePoints), copies_(mode), matrices_(axes),
           mirror_(axes, snapDistance()) {}
 
@@ -176,7 +176,7 @@ void MirrorEngine::run(bool selectionMode, bool keepCurrentAxes, bool option, AI
         if (environment_.currentAxes.axisCount < kFewestAxes) return;
         // A live layer keeps the anchors on its axes: its joined paths are cut there again and
         // again, and an anchor in place is a cut that moves nothing.
-        Run mirroring{inArtSpace(environment_.currentAxes),
+        Run mirroring{pageAxes(environment_.currentAxes),
                       selectionMode ? CopyMode::Plain : CopyMode::Live,
                       selectionMode && environment_.removePoints};
         for (const Unit& unit : selectionMode ? unitsOfSelection() : unitsOfLayer(top))

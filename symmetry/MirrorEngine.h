@@ -7,7 +7,7 @@
 /// source art, each copy locked and tagged, so that the next run finds it.
 
 #include "host/Handles.h"
-#include "symmetry/geometry/SymmetryAxes.h"
+#include "symmetry/SymmetryAxes.h"
 
 #include <functional>
 #include <string_view>

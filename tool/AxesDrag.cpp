@@ -81,7 +81,7 @@ void beginDrag(ToolSession& session) {
     state.dragging = true;
     state.secondClick = false;
     state.snapDistance = kSnapPixels / currentZoom();
-    state.originStart = narrow(originOf(inArtSpace(state.axes)));
+    state.originStart = narrow(pageAxes(state.axes).origin);
     if (!isOnAxes(state.zone)) return;
     if (state.reposition)
         beginReposition(state);
@@ -111,7 +111,7 @@ void turnTowardsTarget(ToolSession& session, Point base, double grabIndex) {
         if (target == base) return; // no direction to take
         angle = directionTo(base, target);
     }
-    state.axes.angle = normaliseAngle(angle - grabIndex * halfStep(state.axes));
+    state.axes.angle = normaliseAngle(angle - grabIndex * sectorAngle(state.axes.axisCount));
     session.preferences.angle = state.axes.angle;
 }
 
@@ -124,7 +124,7 @@ void dragNewAxes(ToolSession& session) {
 }
 
 void dragAxis(ToolSession& session) {
-    const Point origin = originOf(inArtSpace(session.state.axes));
+    const Point origin = pageAxes(session.state.axes).origin;
     turnTowardsTarget(session, origin, session.state.grabIndex);
     applyToAxes(session);
 }

@@ -13,10 +13,10 @@ void beginReposition(ToolState& state) {
 }
 
 void carryLayerArt(const ToolState& state) {
-    const SymmetryAxes from = inArtSpace(state.repositionBackup);
-    const SymmetryAxes to = inArtSpace(state.axes);
-    const Vector shift = originOf(to) - originOf(from);
-    const Matrix turn = rotationAbout(originOf(from), from.angle - to.angle); // clockwise
+    const PageAxes from = pageAxes(state.repositionBackup);
+    const PageAxes to = pageAxes(state.axes);
+    const Vector shift = to.origin - from.origin;
+    const Matrix turn = rotationAbout(from.origin, from.angle - to.angle); // clockwise
     moveArt(state.repositionArt, compose(turn, {.tx = shift.x, .ty = shift.y}));
 }
 

@@ -54,10 +54,11 @@ void pressSector(ToolSession& session, const AIToolMessage&) {
     ToolState& state = session.state;
     state.zone = ToolZone::Sector;
     if (!session.keys.isDown(Key::Alt)) return;
-    state.pickedSector = sectorIndexOf(inArtSpace(state.axes), widen(state.cursor));
+    const PageAxes axes = pageAxes(state.axes);
+    state.pickedSector = sectorIndexOf(axes, widen(state.cursor));
     if (state.pickedSector == 0) return;
     state.zone = ToolZone::SectorPicked;
-    state.axes.angle = normaliseAngle(state.axes.angle + state.pickedSector * halfStep(state.axes));
+    state.axes.angle = normaliseAngle(axes.angle + state.pickedSector * sectorAngle(axes));
     session.preferences.angle = state.axes.angle;
     if (!state.axes.onLayer) axesChanged(session);
 }

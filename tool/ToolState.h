@@ -3,7 +3,7 @@
 #include "host/Handles.h"
 #include "host/References.h"
 #include "host/Types.h"
-#include "symmetry/geometry/SymmetryAxes.h"
+#include "symmetry/SymmetryAxes.h"
 #include "tool/drawing/DialogPlacement.h"
 #include "tool/drawing/Hint.h"
 #include "tool/drawing/Preview.h"
@@ -70,7 +70,7 @@ struct ToolState {
 
     ToolZone zone = ToolZone::Canvas;
     DialogItem hoverItem = DialogItem::None;
-    double grabIndex = 0.0;     ///< which ray is grabbed, in half steps from the first axis
+    double grabIndex = 0.0;     ///< which ray is grabbed, in sectors from the first axis
     ai::int32 pickedSector = 0; ///< counter-clockwise from the active one
 
     // Positions on the page, in points, y up.

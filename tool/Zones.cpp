@@ -72,7 +72,7 @@ void updateZone(ToolSession& session) {
     if (state.hoverItem != DialogItem::None) return enterDialog(session);
     if (!hasAxes(state) || state.axes.axisCount == 0) return;
     const ZoneUnder under =
-        zoneUnder(inArtSpace(state.axes), widen(state.cursor), kGrabPixels / currentZoom());
+        zoneUnder(pageAxes(state.axes), widen(state.cursor), kGrabPixels / currentZoom());
     state.zone = under.zone;
     state.grabIndex = under.grabIndex;
     updateAltHint(session);

@@ -47,8 +47,8 @@ bool leavesEdge(Side side) { return side == Side::Inside || side == Side::Outsid
 
 } // namespace
 
-Wedge::Wedge(const SymmetryAxes& axes)
-    : origin_(originOf(axes)), first_(direction(rayAngle(axes, 0))),
+Wedge::Wedge(const PageAxes& axes)
+    : origin_(axes.origin), first_(direction(rayAngle(axes, 0))),
       last_(axes.axisCount == 1 ? -first_ : direction(rayAngle(axes, sectorCount(axes) - 1))) {}
 
 bool Wedge::atOrigin(Point point) const { return distance(point, origin_) <= kOnAxisDistance; }

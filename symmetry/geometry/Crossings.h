@@ -6,8 +6,8 @@
 /// runs between them. A contact is usually one crossing; it is a stretch of the path where that
 /// runs along a ray, or barely leaves it.
 
+#include "symmetry/geometry/PageAxes.h"
 #include "symmetry/geometry/PathShape.h"
-#include "symmetry/geometry/SymmetryAxes.h"
 #include "symmetry/geometry/Tolerances.h"
 
 #include <algorithm>
@@ -30,7 +30,7 @@ enum class Ray : std::uint8_t {
 /// the halves of its edge.
 class Wedge {
 public:
-    explicit Wedge(const SymmetryAxes& axes);
+    explicit Wedge(const PageAxes& axes);
 
     /// Signed distances from the lines of the two rays, positive on the side of sector 0.
     struct Distances {

@@ -9,7 +9,7 @@ namespace facetta {
 
 namespace {
 
-std::vector<Matrix> chainOfImages(const SymmetryAxes& axes, int ray, int clockwise) {
+std::vector<Matrix> chainOfImages(const PageAxes& axes, int ray, int clockwise) {
     std::vector<Matrix> chain;
     const Matrix reflection = rayReflection(axes, ray);
     for (int step = 0; step < axes.axisCount; ++step) {
@@ -46,7 +46,7 @@ void closeJoint(PathSegment& joint) {
 
 } // namespace
 
-PieceJoiner::PieceJoiner(const SymmetryAxes& axes)
+PieceJoiner::PieceJoiner(const PageAxes& axes)
     : chainAcrossFirst_(chainOfImages(axes, 0, 1)),
       chainAcrossLast_(chainOfImages(axes, sectorCount(axes) - 1, -1)) {}
 

@@ -3,8 +3,8 @@
 /// Joining a piece of a path inside sector 0 with its images across the bounding rays.
 
 #include "symmetry/geometry/Crossings.h"
+#include "symmetry/geometry/PageAxes.h"
 #include "symmetry/geometry/PathShape.h"
-#include "symmetry/geometry/SymmetryAxes.h"
 
 #include <array>
 #include <cstddef>
@@ -32,7 +32,7 @@ struct Piece {
 /// Joins pieces with their images for one set of axes.
 class PieceJoiner {
 public:
-    explicit PieceJoiner(const SymmetryAxes& axes);
+    explicit PieceJoiner(const PageAxes& axes);
 
     /// Turns `piece` into one path, as long as its ends lie on rays:
     ///

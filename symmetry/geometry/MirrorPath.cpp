@@ -8,7 +8,7 @@
 
 namespace facetta {
 
-PathMirror::PathMirror(const SymmetryAxes& axes, double snapDistance)
+PathMirror::PathMirror(const PageAxes& axes, double snapDistance)
     : axes_(axes), wedge_(axes), snapDistance_(std::max(snapDistance, kOnAxisDistance)),
       cutter_(wedge_), joiner_(axes) {
     for (int sector = 0; sector < sectorCount(axes); ++sector)

@@ -13,8 +13,8 @@
 
 #include "symmetry/geometry/CutPath.h"
 #include "symmetry/geometry/JoinPieces.h"
+#include "symmetry/geometry/PageAxes.h"
 #include "symmetry/geometry/PathShape.h"
-#include "symmetry/geometry/SymmetryAxes.h"
 
 #include <array>
 #include <cstddef>
@@ -38,7 +38,7 @@ class PathMirror {
 public:
     /// `axes` has its origin in the space of the paths and at least one axis. Open ends closer to a
     /// bounding ray than `snapDistance` (points, not negative) are moved onto it.
-    PathMirror(const SymmetryAxes& axes, double snapDistance);
+    PathMirror(const PageAxes& axes, double snapDistance);
 
     /// The mirrored form of one path. The contours of an open source are separate paths, those of a
     /// closed one are painted together. Coordinates of the result are storable as 32-bit reals. An
@@ -83,7 +83,7 @@ private:
     void addAlongRay(const Stretch& stretch);
     void agreeInImages();
 
-    SymmetryAxes axes_;
+    PageAxes axes_;
     Wedge wedge_;
     double snapDistance_;
     PathCutter cutter_;

@@ -14,8 +14,8 @@ namespace {
 /// one before them, and then two products tell; only a new sector costs the functions of angles.
 class AxisProbe {
 public:
-    explicit AxisProbe(const SymmetryAxes& axes)
-        : origin_(originOf(axes)), angle_(axes.angle), sectorAngle_(halfStep(axes)) {}
+    explicit AxisProbe(const PageAxes& axes)
+        : origin_(axes.origin), angle_(axes.angle), sectorAngle_(sectorAngle(axes)) {}
 
     [[nodiscard]] bool isOnAxis(Point point) {
         const Vector offset = point - origin_;
@@ -162,7 +162,7 @@ private:
 
 } // namespace
 
-PathShape removeRedundantAxisPoints(PathShape shape, const SymmetryAxes& axes) {
+PathShape removeRedundantAxisPoints(PathShape shape, const PageAxes& axes) {
     if (shape.segments.empty()) return shape;
     AxisProbe probe{axes};
     std::vector<double> deviations;

@@ -80,9 +80,9 @@ TEST_CASE(
     Random random;
     int compared = 0;
     for (int i = 0; i < 2000; ++i) {
-        const SymmetryAxes axes = random.axes();
+        const PageAxes axes = random.axes();
         const Wedge wedge(axes);
-        const Point point = random.point(originOf(axes), random.coin() ? 500.0 : 2.0 * kRayLength);
+        const Point point = random.point(axes.origin, random.coin() ? 500.0 : 2.0 * kRayLength);
         for (const Ray ray : {Ray::First, Ray::Last}) {
             if (wedge.along(ray, point) < 0.0) continue;
             const int k = ray == Ray::First ? 0 : sectorCount(axes) - 1;
@@ -99,7 +99,7 @@ TEST_CASE("crossings are sorted, storable, on their ray and on the path") {
     int cutsSeen = 0;
     for (int i = 0; i < 4000; ++i) {
         CAPTURE(i);
-        const SymmetryAxes axes = random.axes();
+        const PageAxes axes = random.axes();
         const Wedge wedge(axes);
         const PathShape path = random.path(axes, random.coin(), random.size());
         ContactFinder finder(wedge);

@@ -13,8 +13,8 @@
 #include "easel/document/Document.h"
 #include "easel/document/Switches.h"
 #include "symmetry/MirrorEngine.h"
+#include "symmetry/SymmetryAxes.h"
 #include "symmetry/geometry/PathShape.h"
-#include "symmetry/geometry/SymmetryAxes.h"
 
 #include <functional>
 #include <memory>

@@ -296,6 +296,26 @@ TEST_CASE("open ends within 12 pixels of an axis are moved onto it") {
     }
 }
 
+TEST_CASE("an angle of any size mirrors as the one in a turn that it stands for") {
+    const auto drawingWith = [](double angle) {
+        EngineFixture fixture;
+        std::mt19937_64 random{1};
+        fixture.step([&] {
+            for (int i = 0; i < 8; ++i)
+                addRandomPath(fixture, random);
+            easel::selectAll(fixture.document());
+        });
+        fixture.setAxes(5, angle, {17.25, -8.5});
+        fixture.removePoints = true;
+        fixture.mirrorSelection();
+        return textOf(fixture);
+    };
+    for (const double angle : {1e15, -7e11, 12'345.0, -0.5}) {
+        const bool same = drawingWith(angle) == drawingWith(normaliseAngle(angle));
+        CHECK_MESSAGE(same, angle);
+    }
+}
+
 TEST_CASE("the pen starts afresh after a run, no other tool does") {
     using Names = std::vector<std::string>;
     const struct {
@@ -388,9 +408,9 @@ TEST_CASE("objects are reflected and rotated in place or as copies that shed the
     for (const Art* art : objectsIn(fixture.layer()))
         set.push_back(art->handle());
     fixture.step([&] {
-        const SymmetryAxes inArt = inArtSpace(fixture.axes);
-        CHECK(reflectCopies(set, inArt, 0, Duplicate::Yes).size() == 2);
-        CHECK(rotateCopies(set, inArt, kPi / 2, Duplicate::No).empty());
+        const PageAxes axes = pageAxes(fixture.axes);
+        CHECK(reflectCopies(set, axes, 0, Duplicate::Yes).size() == 2);
+        CHECK(rotateCopies(set, axes, kPi / 2, Duplicate::No).empty());
     });
     CHECK(fixture.notationOf(fixture.layer()) == "^a a t t");
     const AIRealPoint turned = easel::artOf(set[0]).segments()[0].p;

@@ -54,10 +54,10 @@ bool sameDrawing(const std::vector<Outline>& before, std::vector<Outline> now) {
     return now.empty();
 }
 
-/// A place given by its distance from the origin and its direction in half steps from the first
+/// A place given by its distance from the origin and its direction in sectors from the first
 /// axis: 0 to 1 is the active sector.
 Point placeIn(const SymmetryAxes& axes, double away, double sectors) {
-    return kOrigin + away * direction(axes.angle + sectors * halfStep(axes));
+    return kOrigin + away * direction(axes.angle + sectors * sectorAngle(axes.axisCount));
 }
 
 /// A live layer with a path inside the active sector, one across its first axis and one from side
@@ -96,7 +96,7 @@ TEST_CASE("whichever sector becomes the active one, the drawing stays where it w
             const std::size_t sources = sourcesIn(fixture.layer()).size();
 
             fixture.axes.angle =
-                normaliseAngle(fixture.axes.angle + picked * halfStep(fixture.axes));
+                normaliseAngle(fixture.axes.angle + picked * sectorAngle(axisCount));
             fixture.step([&] { changeActiveSector(fixture.environment(), picked); });
             CHECK(sameDrawing(before, outlinesIn(fixture.layer())));
             CHECK(sourcesIn(fixture.layer()).size() == sources);
@@ -104,7 +104,7 @@ TEST_CASE("whichever sector becomes the active one, the drawing stays where it w
             SymmetryAxes stored;
             REQUIRE(LayerAxesStore::read(nullptr, stored));
             CHECK(std::abs(stored.angle - fixture.axes.angle) < 1e-14); // 15 decimals
-            const SymmetryAxes axes = inArtSpace(stored);
+            const PageAxes axes = pageAxes(stored);
             for (const Art* source : sourcesIn(fixture.layer()))
                 if (!GuideTag::has(source->handle()) && source->segments().size() == 3)
                     CHECK(sectorIndexOf(axes, widen(source->segments()[0].p)) == 0);

@@ -36,7 +36,7 @@ std::vector<PathShape> shapesOf(const MirroredPath& result) {
 }
 
 /// All shapes of the whole rosette; images of reflections run backwards, as in one compound path.
-std::vector<PathShape> rosetteOf(const SymmetryAxes& axes, const MirroredPath& result) {
+std::vector<PathShape> rosetteOf(const PageAxes& axes, const MirroredPath& result) {
     std::vector<PathShape> shapes = shapesOf(result);
     for (const Contour& contour : result.contours)
         for (const Matrix& map : imageTransforms(axes, contour.images)) {
@@ -212,7 +212,7 @@ TEST_CASE("mirroring a result again changes nothing, bit for bit") {
     int changed = 0;
     for (int i = 0; i < kPaths; ++i) {
         CAPTURE(i);
-        const SymmetryAxes axes = random.axes();
+        const PageAxes axes = random.axes();
         const double size = random.size();
         const PathShape source = random.path(axes, random.coin(), size);
         PathMirror mirror(axes, random.real(0.0, size / 5.0));
@@ -232,7 +232,7 @@ TEST_CASE("the rosette winds around every point as the source does around the fo
     int compared = 0;
     for (int i = 0; i < 600; ++i) {
         CAPTURE(i);
-        SymmetryAxes axes = random.axes();
+        PageAxes axes = random.axes();
         axes.axisCount = random.integer(1, 8);
         const double size = random.size();
         const PathShape source = random.path(axes, true, size);
@@ -243,7 +243,7 @@ TEST_CASE("the rosette winds around every point as the source does around the fo
         for (PathSegment& segment : folded.segments)
             segment = transformed(segment, foldMatrix(axes, result.sector));
         for (int sample = 0; sample < 8; ++sample) {
-            const Point point = random.point(originOf(axes), size);
+            const Point point = random.point(axes.origin, size);
             const Winding whole = windingAround(rosette, point);
             const Winding part = windingAround({&folded, 1}, foldIntoSector0(axes, point));
             if (std::min(whole.nearest, part.nearest) < size / 50.0)
@@ -259,7 +259,7 @@ TEST_CASE("a rosette is invariant under every reflection and has no doubled anch
     Random random;
     for (int i = 0; i < 300; ++i) {
         CAPTURE(i);
-        SymmetryAxes axes = random.axes();
+        PageAxes axes = random.axes();
         axes.axisCount = random.integer(1, 12);
         const PathShape source = random.path(axes, random.coin(), random.size());
         PathMirror mirror(axes, kSnapDistance);
@@ -284,17 +284,17 @@ TEST_CASE("no end within the snapping distance stays open") {
     int ends = 0;
     while (ends < 10000) {
         CAPTURE(ends);
-        const SymmetryAxes axes = random.axes();
+        const PageAxes axes = random.axes();
         // From deep in sector 0 to beside one of its rays; near the origin the sector is narrow.
         const double radius = random.real(200.0, 1500.0);
         const bool first = random.coin();
         const double rayDirection = rayAngle(axes, first ? 0 : sectorCount(axes) - 1);
         const double inwards = first ? 1.0 : -1.0;
         const double depth = random.real(-1.0, 1.0) * 0.999 * kSnapDistance;
-        const Point middle = originOf(axes) + 2000.0 * direction(axes.angle + halfStep(axes) / 2.0);
+        const Point middle = axes.origin + 2000.0 * direction(axes.angle + sectorAngle(axes) / 2.0);
         const Vector along = direction(rayDirection);
-        const Point end = rounded(originOf(axes) + radius * along +
-                                  (depth * inwards) * Vector{-along.y, along.x});
+        const Point end =
+            rounded(axes.origin + radius * along + (depth * inwards) * Vector{-along.y, along.x});
         PathShape source{{{rounded(middle), rounded(middle), rounded(middle)}, {end, end, end}}};
         if (random.coin()) std::ranges::reverse(source.segments);
         PathMirror mirror(axes, kSnapDistance);
@@ -307,7 +307,7 @@ TEST_CASE("no end within the snapping distance stays open") {
 }
 
 TEST_CASE("time grows with the number of segments, not its square") {
-    const SymmetryAxes axes{.angle = 0.1, .axisCount = 12};
+    const PageAxes axes{.angle = 0.1, .axisCount = 12};
     const auto secondsFor = [&](int anchors) {
         PathShape star{{}, true}; // crosses every axis many times
         for (int i = 0; i < anchors; ++i) {

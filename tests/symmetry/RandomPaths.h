@@ -2,8 +2,8 @@
 
 /// Random axes and paths for the laws of the mirror geometry.
 
+#include "symmetry/geometry/PageAxes.h"
 #include "symmetry/geometry/PathShape.h"
-#include "symmetry/geometry/SymmetryAxes.h"
 #include "tests/Seed.h"
 
 #include <cmath>
@@ -31,18 +31,16 @@ public:
     }
 
     /// Axes with a storable origin within 2,000 points.
-    [[nodiscard]] SymmetryAxes axes() {
-        const Point origin = point({}, 2000.0);
-        return {.originX = origin.x,
-                .originY = origin.y,
-                .angle = real(-7.0, 14.0),
+    [[nodiscard]] PageAxes axes() {
+        return {.origin = point({}, 2000.0),
+                .angle = normaliseAngle(real(-7.0, 14.0)),
                 .axisCount = kAxisCounts[integer(0, std::size(kAxisCounts) - 1)]};
     }
 
     /// A path of 2 to 12 anchors around a place near the origin, straight or curved.
-    [[nodiscard]] PathShape path(const SymmetryAxes& axes, bool closed, double size) {
+    [[nodiscard]] PathShape path(const PageAxes& axes, bool closed, double size) {
         const bool curved = integer(0, 3) > 0;
-        const Point centre = point(originOf(axes), size / 2.0);
+        const Point centre = point(axes.origin, size / 2.0);
         PathShape shape{{}, closed};
         const int anchors = integer(closed && !curved ? 3 : 2, 12);
         for (int i = 0; i < anchors; ++i) {

@@ -54,12 +54,12 @@ TEST_CASE("removing what a cut put in brings the curve back, wherever it was cut
     int removed = 0;
     for (int i = 0; i < 3000; ++i) {
         CAPTURE(i);
-        const SymmetryAxes axes = random.axes();
+        const PageAxes axes = random.axes();
         const double size = random.size();
-        const Point from = random.point(originOf(axes), size);
-        const Point to = random.point(originOf(axes), size);
-        const Point joint = rounded(
-            projectOntoRay(lerp(from, to, 0.4), originOf(axes), direction(rayAngle(axes, 0))));
+        const Point from = random.point(axes.origin, size);
+        const Point to = random.point(axes.origin, size);
+        const Point joint =
+            rounded(projectOntoRay(lerp(from, to, 0.4), axes.origin, direction(rayAngle(axes, 0))));
         const Cubic whole{from, random.point(from, size), random.point(to, size), to};
         const double t = random.real(0.1, 0.9);
         const Vector shift = joint - evaluate(whole, t); // so that the cut falls on the axis

@@ -49,7 +49,7 @@ TEST_CASE("Escape takes a drag back, from whatever was dragged, and lasts until 
     struct Row {
         const char* what;
         Axes state;
-        double grabbed; ///< half steps; at the origin when negative
+        double grabbed; ///< sectors; at the origin when negative
         bool alt;
     };
     const Row rows[] = {

@@ -8,19 +8,19 @@ namespace {
 
 constexpr double kTolerance = 18.0;
 
-SymmetryAxes axesAt(double x, double y, int count, double angle = 0.0) {
-    return {.originX = x, .originY = y, .angle = angle, .axisCount = count};
+PageAxes axesAt(double x, double y, int count, double angle = 0.0) {
+    return {.origin = {x, y}, .angle = angle, .axisCount = count};
 }
 
-Point polar(const SymmetryAxes& axes, double halfSteps, double radius) {
-    return originOf(axes) + radius * direction(axes.angle + halfSteps * halfStep(axes));
+Point polar(const PageAxes& axes, double sectors, double radius) {
+    return axes.origin + radius * direction(axes.angle + sectors * sectorAngle(axes));
 }
 
 } // namespace
 
 TEST_CASE("a cursor on the drawn line of a ray grabs that ray") {
     for (const int count : {2, 3, 5, 12}) {
-        const SymmetryAxes axes = axesAt(100, -40, count, 0.3);
+        const PageAxes axes = axesAt(100, -40, count, 0.3);
         for (int ray = 0; ray < 2 * count; ++ray) {
             INFO("N = ", count, ", ray ", ray);
             const ZoneUnder under = zoneUnder(axes, polar(axes, ray, 500), kTolerance);
@@ -34,13 +34,13 @@ TEST_CASE("a cursor on the drawn line of a ray grabs that ray") {
 TEST_CASE("what lies under the cursor") {
     struct Row {
         const char* where;
-        SymmetryAxes axes;
+        PageAxes axes;
         Point cursor;
         ToolZone zone;
         double grabIndex;
     };
-    const SymmetryAxes three = axesAt(0, 0, 3);
-    const SymmetryAxes one = axesAt(0, 0, 1);
+    const PageAxes three = axesAt(0, 0, 3);
+    const PageAxes one = axesAt(0, 0, 1);
     const Row rows[] = {
         {"two lines within reach", three, {5, 5}, ToolZone::Origin, 1},
         {"just within reach of the first line", three, {300, 17.9}, ToolZone::Axis, 0},

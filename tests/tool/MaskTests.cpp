@@ -32,17 +32,16 @@ int timesCovered(const Mask& mask, Point point) {
 
 /// The axes turned over, so that the rule of the sectors, which is written for y up, applies.
 int sectorOf(const PixelAxes& axes, Point pixels) {
-    const SymmetryAxes upright{.originX = axes.origin.x,
-                               .originY = -axes.origin.y,
-                               .angle = axes.angle,
-                               .axisCount = axes.axisCount};
+    const PageAxes upright{.origin = {axes.origin.x, -axes.origin.y},
+                           .angle = axes.angle,
+                           .axisCount = axes.axisCount};
     return sectorIndexOf(upright, {pixels.x, -pixels.y});
 }
 
 /// Pixels between `point` and the nearer of the two bounds of the active sector.
 double distanceToBounds(const PixelAxes& axes, Point point) {
     double least = std::numeric_limits<double>::infinity();
-    for (const double angle : {axes.angle, axes.angle + axes.halfStep})
+    for (const double angle : {axes.angle, axes.angle + axes.sectorAngle})
         least = std::min(least, std::abs(cross(pixelDirection(angle), point - axes.origin)));
     return least;
 }
@@ -50,7 +49,7 @@ double distanceToBounds(const PixelAxes& axes, Point point) {
 PixelAxes axesAt(Point origin, double angle, int count) {
     return {.origin = origin,
             .angle = angle,
-            .halfStep = kPi / count,
+            .sectorAngle = kPi / count,
             .axisCount = count,
             .reach = 1e7};
 }

@@ -24,7 +24,7 @@ double distanceToLines(std::span<const Point> points, bool closed, Point point) 
     return least;
 }
 
-PreviewPaths pathsOf(const SymmetryAxes& axes, std::span<const PathShape> shapes) {
+PreviewPaths pathsOf(const PageAxes& axes, std::span<const PathShape> shapes) {
     PreviewPaths paths;
     paths.begin(axes, kTolerance);
     for (const PathShape& shape : shapes)
@@ -37,7 +37,7 @@ PreviewPaths pathsOf(const SymmetryAxes& axes, std::span<const PathShape> shapes
 TEST_CASE("lines stay within the tolerance of their curves") {
     Random random;
     for (int i = 0; i < 500; ++i) {
-        const SymmetryAxes axes = random.axes();
+        const PageAxes axes = random.axes();
         const PathShape shape = random.path(axes, random.coin(), random.size());
         const PreviewPaths paths = pathsOf(axes, {&shape, 1});
         const std::span<const Point> points = paths.pointsOf(paths.paths().front());
@@ -54,7 +54,7 @@ TEST_CASE("lines stay within the tolerance of their curves") {
 }
 
 TEST_CASE("each kind of image has its maps; of art that is there only the copies are drawn") {
-    const SymmetryAxes axes{.axisCount = 5};
+    const PageAxes axes{.axisCount = 5};
     struct Row {
         Images images;
         bool isArt;
@@ -75,7 +75,7 @@ TEST_CASE("each kind of image has its maps; of art that is there only the copies
 
 TEST_CASE("art of any size is brought under the limit, and as much of it stays as may") {
     Random random;
-    const SymmetryAxes axes{.axisCount = 12};
+    const PageAxes axes{.axisCount = 12};
     std::vector<PathShape> shapes;
     for (int i = 0; i < 400; ++i)
         shapes.push_back(random.path(axes, random.coin(), random.size()));

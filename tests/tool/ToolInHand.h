@@ -38,9 +38,9 @@ public:
         release(point.h, point.v);
     }
 
-    /// A place `halfSteps` half steps counter-clockwise of the first axis.
-    [[nodiscard]] AIRealPoint onRay(double halfSteps, double radius) const {
-        const double angle = axes().angle + halfSteps * halfStep(axes());
+    /// A place `sectors` sectors counter-clockwise of the first axis.
+    [[nodiscard]] AIRealPoint onRay(double sectors, double radius) const {
+        const double angle = axes().angle + sectors * sectorAngle(axes().axisCount);
         return narrow(origin() + radius * direction(angle));
     }
     /// A place on the on-canvas dialog, in pixels from its corner.
@@ -56,7 +56,7 @@ public:
 
     [[nodiscard]] ToolState& tool() const { return thePlugin->tool; }
     [[nodiscard]] const SymmetryAxes& axes() const { return thePlugin->tool.axes; }
-    [[nodiscard]] Point origin() const { return soften(originOf(axes())); }
+    [[nodiscard]] Point origin() const { return soften(hardOriginOf(axes())); }
 };
 
 inline bool near(double a, double b) { return std::abs(a - b) < 1e-3; }

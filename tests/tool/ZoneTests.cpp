@@ -8,7 +8,7 @@ using platform::Key;
 TEST_CASE("cursor and Alt hint by what is under the cursor") {
     struct Row {
         const char* where;
-        double halfSteps;
+        double sectors;
         double radius;
         ToolZone zone;
         ai::int32 cursor;
@@ -28,14 +28,14 @@ TEST_CASE("cursor and Alt hint by what is under the cursor") {
         for (const Row& row : rows) {
             INFO(row.where, onLayer ? " of a layer's axes" : " of pending axes");
             session.tool().hint = {};
-            const AIRealPoint place = session.onRay(row.halfSteps, row.radius);
+            const AIRealPoint place = session.onRay(row.sectors, row.radius);
             {
                 const KeysHeld held({Key::Alt});
                 session.host.track({.at = place});
             }
             CHECK(session.tool().zone == row.zone);
             CHECK(session.host.user.cursor == row.cursor);
-            CHECK(session.tool().sectorHandleHighlighted == (row.halfSteps == 0.5));
+            CHECK(session.tool().sectorHandleHighlighted == (row.sectors == 0.5));
             const HintId expected = onLayer ? row.onLayer : row.pending;
             CHECK(session.tool().hint.id == expected);
             CHECK(session.tool().hint.shown == (expected != HintId::None));

@@ -22,7 +22,7 @@ std::span<const AIRealRect> erasedIn(const AIAnnotatorMessage& message) {
 void drawSymmetry(const Surface& surface, ToolSession& session) {
     if (!axesAreShown(session)) return;
     const ToolState& state = session.state;
-    const PixelAxes axes = inPixels(inArtSpace(state.axes), surface.view);
+    const PixelAxes axes = inPixels(pageAxes(state.axes), surface.view);
     if (maskIsShown(session)) drawMask(surface, axes, session.preferences.opacity);
     if (axesArePending(state)) {
         refreshPreview(session); // the art may have changed since the axes did

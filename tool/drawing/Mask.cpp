@@ -94,7 +94,7 @@ bool runsThrough(const Bound& bound, const PixelRect& area, double reach) {
 
 Mask maskOf(const PixelAxes& axes, const PixelRect& area) {
     const Bound first{axes.origin, pixelDirection(axes.angle), -1.0};
-    const Bound last{axes.origin, pixelDirection(axes.angle + axes.halfStep), 1.0};
+    const Bound last{axes.origin, pixelDirection(axes.angle + axes.sectorAngle), 1.0};
     Mask mask;
     const auto add = [&mask](const MaskPolygon& polygon) {
         mask.polygons.at(mask.count++) = polygon;

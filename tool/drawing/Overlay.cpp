@@ -76,19 +76,19 @@ void clipToErased(const Surface& surface) {
 
 void drawLines(const Surface& surface, const PixelAxes& axes) {
     for (int axis = 0; axis < axes.axisCount; ++axis) {
-        const Vector reach = axes.reach * pixelDirection(axes.angle + axis * axes.halfStep);
+        const Vector reach = axes.reach * pixelDirection(axes.angle + axis * axes.sectorAngle);
         drawLine(surface, {axes.origin - reach, axes.origin + reach});
     }
 }
 
 void drawMarkers(const Surface& surface, const PixelAxes& axes, Fill fill) {
     drawPolygon(surface, markerOn(axes, axes.angle, 1.0), fill);
-    drawPolygon(surface, markerOn(axes, axes.angle + axes.halfStep, -1.0), fill);
+    drawPolygon(surface, markerOn(axes, axes.angle + axes.sectorAngle, -1.0), fill);
 }
 
 void drawSectorHandle(const Surface& surface, const PixelAxes& axes) {
     AIFloat dashes[] = {4.0F, 4.0F};
-    const Vector reach = axes.reach * pixelDirection(axes.angle + axes.halfStep / 2);
+    const Vector reach = axes.reach * pixelDirection(axes.angle + axes.sectorAngle / 2);
     ai::check(suites.annotatorDrawer->SetLineDashedEx(surface.drawer, dashes,
                                                       static_cast<ai::int32>(std::size(dashes))));
     drawLine(surface, {axes.origin, axes.origin + reach});

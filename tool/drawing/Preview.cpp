@@ -33,7 +33,7 @@ void addContours(PreviewPaths& paths, const MirroredPath& mirrored) {
         paths.add(contour.shape, contour.images, mirrored.unchanged);
 }
 
-void build(Preview& preview, const SymmetryAxes& axes, double zoom) {
+void build(Preview& preview, const PageAxes& axes, double zoom) {
     preview.paths.begin(axes, kTolerance / zoom);
     PathMirror mirror{axes, kSnapPixels / zoom};
     std::vector<PathShape> shapes(1);
@@ -170,9 +170,9 @@ void clearPreview(ToolState& state) { state.preview = {}; }
 
 void drawPreview(const Surface& surface, ToolSession& session) {
     Preview& preview = session.state.preview;
-    const SymmetryAxes& axes = session.state.axes;
+    const PageAxes axes = pageAxes(session.state.axes);
     if (preview.zoom != surface.view.zoom || preview.axes != axes) {
-        build(preview, inArtSpace(axes), surface.view.zoom);
+        build(preview, axes, surface.view.zoom);
         preview.axes = axes;
         preview.zoom = surface.view.zoom;
     }

@@ -20,7 +20,7 @@ struct Preview {
     PreviewArt art;
     bool captured = false; ///< the art is that of the document
     PreviewPaths paths;
-    SymmetryAxes axes;           ///< for which the paths were made,
+    PageAxes axes;               ///< for which the paths were made,
     double zoom = 0.0;           ///< and at which zoom; 0: none were
     bool asCurves = true;        ///< there are few enough of them
     std::vector<AIPoint> pixels; ///< of the path being drawn

@@ -27,7 +27,7 @@ int piecesOf(const Cubic& curve, double tolerance) {
     return static_cast<int>(std::clamp(pieces, 1.0, kMostPieces));
 }
 
-std::vector<Matrix> withIdentity(const SymmetryAxes& axes, Images images) {
+std::vector<Matrix> withIdentity(const PageAxes& axes, Images images) {
     std::vector<Matrix> maps = imageTransforms(axes, images);
     maps.insert(maps.begin(), Matrix{});
     return maps;
@@ -35,7 +35,7 @@ std::vector<Matrix> withIdentity(const SymmetryAxes& axes, Images images) {
 
 } // namespace
 
-void PreviewPaths::begin(const SymmetryAxes& axes, double tolerance) {
+void PreviewPaths::begin(const PageAxes& axes, double tolerance) {
     tolerance_ = tolerance;
     points_.clear();
     controls_.clear();

@@ -30,9 +30,8 @@ struct PreviewPath {
 
 class PreviewPaths {
 public:
-    /// Starts anew for `axes`, whose origin is in the space of the paths; `tolerance` is how far a
-    /// line may be off its curve, in the unit of the paths.
-    void begin(const SymmetryAxes& axes, double tolerance);
+    /// Starts anew for `axes`; `tolerance` is how far a line may be off its curve, in points.
+    void begin(const PageAxes& axes, double tolerance);
 
     void add(const PathShape& shape, Images images, bool isArt);
 

@@ -43,10 +43,10 @@ ViewMap fetchViewMap(AIDocumentViewHandle view) {
     return map;
 }
 
-PixelAxes inPixels(const SymmetryAxes& axes, const ViewMap& view) {
-    return {.origin = apply(view.toPixels, originOf(axes)),
-            .angle = normaliseAngle(axes.angle),
-            .halfStep = halfStep(axes),
+PixelAxes inPixels(const PageAxes& axes, const ViewMap& view) {
+    return {.origin = apply(view.toPixels, axes.origin),
+            .angle = axes.angle,
+            .sectorAngle = sectorAngle(axes),
             .axisCount = axes.axisCount,
             .reach = kAxisReach * view.zoom};
 }

@@ -3,7 +3,7 @@
 /// The one place where the page becomes pixels: all drawing is computed in pixels of the view.
 
 #include "host/Handles.h"
-#include "symmetry/geometry/SymmetryAxes.h"
+#include "symmetry/geometry/PageAxes.h"
 #include "tool/drawing/PixelRect.h"
 
 namespace facetta {
@@ -21,15 +21,15 @@ struct ViewMap {
 
 /// Axes as they stand in the view.
 struct PixelAxes {
-    Point origin;    ///< pixels
-    double angle;    ///< of the first axis, radians; growing counter-clockwise as seen
-    double halfStep; ///< of one sector
-    int axisCount;   ///< at least 1
-    double reach;    ///< pixels; as far as an axis is drawn from the origin
+    Point origin; ///< pixels
+    double angle; ///< of the first axis, radians; growing counter-clockwise as seen
+    double sectorAngle;
+    int axisCount; ///< at least 1
+    double reach;  ///< pixels; as far as an axis is drawn from the origin
 };
 
-/// `axes` has its origin in page coordinates and at least one axis.
-[[nodiscard]] PixelAxes inPixels(const SymmetryAxes& axes, const ViewMap& view);
+/// `axes` has at least one axis.
+[[nodiscard]] PixelAxes inPixels(const PageAxes& axes, const ViewMap& view);
 
 /// The unit vector at `angle`, radians counter-clockwise as seen: y runs down in the view.
 [[nodiscard]] Vector pixelDirection(double angle);

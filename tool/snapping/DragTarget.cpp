@@ -32,7 +32,7 @@ bool turns(const ToolSession& session) {
 
 /// The point that a dragged line turns about.
 Point pivotOf(const ToolState& state) {
-    return state.zone == ToolZone::Canvas ? widen(state.anchor) : originOf(inArtSpace(state.axes));
+    return state.zone == ToolZone::Canvas ? widen(state.anchor) : pageAxes(state.axes).origin;
 }
 
 /// True for the first message with the key down.
@@ -94,7 +94,7 @@ void snapToPerpendicular(ToolSession& session) {
     if (!wanted || !turns(session) || session.keys.isDown(Key::Shift)) return;
     const Point cursor = widen(state.cursor);
     const PerpendicularSnap snap =
-        findPerpendicular(originOf(inArtSpace(state.axes)), cursor, state.snapDistance);
+        findPerpendicular(pageAxes(state.axes).origin, cursor, state.snapDistance);
     if (!snap.point) return;
     state.perpendicularSnapFound = true;
     state.snapped = narrow(*snap.point);
@@ -125,7 +125,7 @@ void moveWithSpace(ToolSession& session, Vector movement) {
         return;
     }
     // The origin is hardened: there y runs down.
-    const Point moved = originOf(state.axes) + Vector{movement.x, -movement.y};
+    const Point moved = hardOriginOf(state.axes) + Vector{movement.x, -movement.y};
     const Point origin = clampToCanvas(moved);
     state.axes.originX = origin.x;
     state.axes.originY = origin.y;
@@ -182,7 +182,8 @@ void toggleSmartGuides(ToolSession& session, const AIToolMessage& message) {
 
 void setConstrainAngle(ToolSession& session) {
     ToolState& state = session.state;
-    const double line = normaliseAngle(state.axes.angle + state.grabIndex * halfStep(state.axes));
+    const PageAxes axes = pageAxes(state.axes);
+    const double line = normaliseAngle(axes.angle + state.grabIndex * sectorAngle(axes));
     const double degrees = line * kDegreesPerRadian;
     constexpr const char* kOfTheHost = nullptr; // the application's own preferences
     const struct {

@@ -1,4 +1,4 @@
-#include "symmetry/geometry/SymmetryAxes.h"
+#include "symmetry/geometry/PageAxes.h"
 
 #include "tests/symmetry/RandomPaths.h"
 
@@ -15,7 +15,7 @@ using facetta::tests::Random;
 namespace {
 
 /// Every image of `point`, the point itself first.
-std::vector<Point> imagesOf(const SymmetryAxes& axes, Point point) {
+std::vector<Point> imagesOf(const PageAxes& axes, Point point) {
     std::vector<Point> images{point};
     for (const Matrix& map : imageTransforms(axes))
         images.push_back(apply(map, point));
@@ -23,18 +23,18 @@ std::vector<Point> imagesOf(const SymmetryAxes& axes, Point point) {
 }
 
 /// How far a point is from the nearest axis, by the distance from every one of them.
-double distanceFromAxes(const SymmetryAxes& axes, Point point) {
+double distanceFromAxes(const PageAxes& axes, Point point) {
     double nearest = 1e300;
     for (int k = 0; k < axes.axisCount; ++k)
-        nearest = std::min(nearest,
-                           std::abs(cross(direction(rayAngle(axes, k)), point - originOf(axes))));
+        nearest =
+            std::min(nearest, std::abs(cross(direction(rayAngle(axes, k)), point - axes.origin)));
     return nearest;
 }
 
 } // namespace
 
 TEST_CASE("rays are numbered clockwise from the first axis") {
-    const SymmetryAxes axes{.originX = 3.0, .originY = 4.0, .angle = 0.5, .axisCount = 3};
+    const PageAxes axes{.origin = {3.0, 4.0}, .angle = 0.5, .axisCount = 3};
     CHECK(rayAngle(axes, 0) == 0.5);
     CHECK(rayAngle(axes, 1) == doctest::Approx(0.5 - kPi / 3.0 + kTwoPi));
     CHECK(rayAngle(axes, 5) == doctest::Approx(0.5 + kPi / 3.0));
@@ -74,15 +74,15 @@ TEST_CASE("sectors are numbered counter-clockwise from the first axis") {
 
 TEST_CASE("sector s lies between rays 2N - s and 2N - s - 1") {
     for (const int axisCount : kAxisCounts) {
-        const SymmetryAxes axes{.angle = 1.0, .axisCount = axisCount};
+        const PageAxes axes{.angle = 1.0, .axisCount = axisCount};
         for (int s = 0; s < sectorCount(axes); ++s) {
             CAPTURE(axisCount);
             CAPTURE(s);
             const double clockwiseEdge =
                 rayAngle(axes, (sectorCount(axes) - s) % sectorCount(axes));
-            const Point inside = Point{} + direction(clockwiseEdge + halfStep(axes) * 0.001);
+            const Point inside = Point{} + direction(clockwiseEdge + sectorAngle(axes) * 0.001);
             const Point alsoInside = Point{} + direction(rayAngle(axes, sectorCount(axes) - s - 1) -
-                                                         halfStep(axes) * 0.001);
+                                                         sectorAngle(axes) * 0.001);
             REQUIRE(sectorIndexOf(axes, inside) == s);
             REQUIRE(sectorIndexOf(axes, alsoInside) == s);
         }
@@ -92,8 +92,8 @@ TEST_CASE("sector s lies between rays 2N - s and 2N - s - 1") {
 TEST_CASE("folding lands in sector 0, folds once, and agrees with its matrix") {
     Random random;
     for (int i = 0; i < 20000; ++i) {
-        const SymmetryAxes axes = random.axes();
-        const Point p = random.point(originOf(axes), 1000.0);
+        const PageAxes axes = random.axes();
+        const Point p = random.point(axes.origin, 1000.0);
         CAPTURE(i);
         if (distanceFromAxes(axes, p) < 1e-6)
             continue; // the sector of a point on an axis is a matter of rounding
@@ -109,8 +109,8 @@ TEST_CASE("folding lands in sector 0, folds once, and agrees with its matrix") {
 TEST_CASE("the 2N images of a point lie in 2N sectors and fold to one point") {
     Random random;
     for (int i = 0; i < 2000; ++i) {
-        const SymmetryAxes axes = random.axes();
-        const Point p = random.point(originOf(axes), 1000.0);
+        const PageAxes axes = random.axes();
+        const Point p = random.point(axes.origin, 1000.0);
         if (distanceFromAxes(axes, p) < 1e-6) continue;
         CAPTURE(i);
         const Point folded = foldIntoSector0(axes, p);
@@ -124,7 +124,7 @@ TEST_CASE("the 2N images of a point lie in 2N sectors and fold to one point") {
 }
 
 TEST_CASE("art in sector 0 fills the last sector by reflection and the others by rotation") {
-    const SymmetryAxes axes{.angle = 0.3, .axisCount = 3};
+    const PageAxes axes{.angle = 0.3, .axisCount = 3};
     const std::vector<Point> images = imagesOf(axes, Point{} + direction(0.4));
     const int sectors[] = {0, 5, 4, 3, 2, 1};
     for (std::size_t i = 0; i < images.size(); ++i)

@@ -1,6 +1,6 @@
 #pragma once
 
-/// N mirror axes through one origin, and the geometry that follows from them.
+/// N mirror axes through one origin, in page coordinates, and the geometry that follows from them.
 ///
 /// The N axes cut the plane into 2N equal sectors. Rays are numbered CLOCKWISE from the first axis,
 /// sectors COUNTER-CLOCKWISE from it, so sector 0 lies between ray 0 (at `angle`) and ray 2N - 1
@@ -15,8 +15,7 @@
 ///              \   sector 2N-1
 ///               ray 1
 ///
-/// Functions that take a point expect the origin in the same space as the point. They require at
-/// least one axis.
+/// All functions require at least one axis.
 
 #include "symmetry/geometry/Geometry.h"
 
@@ -28,52 +27,48 @@ namespace facetta {
 constexpr std::int32_t kFewestAxes = 1;
 constexpr std::int32_t kMostAxes = 72;
 
-/// A plain value, copied freely.
-struct SymmetryAxes {
-    double originX = 0.0;       ///< document points
-    double originY = 0.0;       ///< document points
-    double angle = 0.0;         ///< direction of the first axis, radians counter-clockwise
+/// Axes as art, cursor and drawing are compared with them. In the product `pageAxes` alone makes
+/// them, from the record that is shown and stored.
+struct PageAxes {
+    Point origin{};             ///< where art lies: y upwards
+    double angle = 0.0;         ///< direction of the first axis, radians, in [0, 2 pi)
     std::int32_t axisCount = 0; ///< N, 1 to 72; 0 means no axes
-    bool provisional = false;   ///< shown for editing, not attached to anything yet
-    bool onLayer = false;       ///< belongs to the current top-level layer
-    bool autoMirror = false;    ///< the layer's art is kept mirrored automatically
 
-    bool operator==(const SymmetryAxes&) const = default;
+    bool operator==(const PageAxes&) const = default;
 };
 
-[[nodiscard]] constexpr Point originOf(const SymmetryAxes& axes) {
-    return {axes.originX, axes.originY};
+/// 2N: the number of sectors and the number of rays.
+[[nodiscard]] constexpr int sectorCount(const PageAxes& axes) { return 2 * axes.axisCount; }
+
+/// The angle of one sector of `axisCount` axes, pi / N.
+[[nodiscard]] constexpr double sectorAngle(int axisCount) { return kPi / axisCount; }
+[[nodiscard]] constexpr double sectorAngle(const PageAxes& axes) {
+    return sectorAngle(axes.axisCount);
 }
 
-/// 2N: the number of sectors and the number of rays.
-[[nodiscard]] constexpr int sectorCount(const SymmetryAxes& axes) { return 2 * axes.axisCount; }
-
-/// The angle of one sector, pi / N.
-[[nodiscard]] double halfStep(const SymmetryAxes& axes);
-
 /// The direction of ray `k` (0 to 2N - 1), in [0, 2 pi).
-[[nodiscard]] double rayAngle(const SymmetryAxes& axes, int k);
+[[nodiscard]] double rayAngle(const PageAxes& axes, int k);
 
 /// Ray `k` as it is drawn and hit: from the origin, 16,000 points long.
-[[nodiscard]] LineSegment raySegment(const SymmetryAxes& axes, int k);
+[[nodiscard]] LineSegment raySegment(const PageAxes& axes, int k);
 
 /// The sector that holds `point`, 0 to 2N - 1. A point on the first axis lies in sector 0; the
 /// origin lies in the sector that contains direction 0.
-[[nodiscard]] int sectorIndexOf(const SymmetryAxes& axes, Point point);
+[[nodiscard]] int sectorIndexOf(const PageAxes& axes, Point point);
 
 /// The map that carries sector `sector` onto sector 0 with the correct handedness: clockwise by
-/// `sector` half steps, then, for an odd sector, across the bisector of sector 0. Exactly the
-/// identity for sector 0.
-[[nodiscard]] Matrix foldMatrix(const SymmetryAxes& axes, int sector);
+/// `sector` sectors, then, for an odd one, across the bisector of sector 0. Exactly the identity
+/// for sector 0.
+[[nodiscard]] Matrix foldMatrix(const PageAxes& axes, int sector);
 
 /// `point` carried into sector 0; bit for bit the same when it lies there already.
-[[nodiscard]] Point foldIntoSector0(const SymmetryAxes& axes, Point point);
+[[nodiscard]] Point foldIntoSector0(const PageAxes& axes, Point point);
 
-/// The rotation by `steps` clockwise full steps, each of 2 pi / N, about the origin.
-[[nodiscard]] Matrix stepRotation(const SymmetryAxes& axes, int steps);
+/// The rotation about the origin by `steps` clockwise steps of two sectors each.
+[[nodiscard]] Matrix stepRotation(const PageAxes& axes, int steps);
 
 /// The reflection across the line of ray `k`.
-[[nodiscard]] Matrix rayReflection(const SymmetryAxes& axes, int k);
+[[nodiscard]] Matrix rayReflection(const PageAxes& axes, int k);
 
 /// Which further copies of a shape complete the symmetric whole.
 enum class Images : std::uint8_t {
@@ -85,7 +80,7 @@ enum class Images : std::uint8_t {
 /// The maps that make the copies `images` asks for, in the order in which they are made: first the
 /// reflection across ray 0 (for `Images::All`), then for each clockwise step k = 1 .. N - 1 the
 /// rotation of the shape and, for `Images::All`, of its reflection.
-[[nodiscard]] std::vector<Matrix> imageTransforms(const SymmetryAxes& axes,
+[[nodiscard]] std::vector<Matrix> imageTransforms(const PageAxes& axes,
                                                   Images images = Images::All);
 
 } // namespace facetta
