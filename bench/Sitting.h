@@ -6,8 +6,9 @@
 /// the host. The host's clock costs time itself, part of which falls to the plug-in: a call to a
 /// host function that does nothing shows how much, and that is taken off for each call.
 
-#include "easel/cli/MirrorSession.h"
-#include "easel/suites/SuiteServer.h"
+#include "easel/core/SuiteServer.h"
+#include "easel/session/MirrorSession.h"
+#include "easel/suites/Suites.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -18,7 +19,7 @@ namespace facetta::bench {
 /// The host's functions, for calls that are not the plug-in's.
 template <typename Suite>
 [[nodiscard]] const Suite& hostSuite(const char* name, ai::int32 version) {
-    return *static_cast<const Suite*>(easel::suiteServer().functions(name, version));
+    return *static_cast<const Suite*>(easel::installedSuites().functions(name, version));
 }
 
 /// What one action of the user cost.

@@ -121,7 +121,7 @@ void run(benchmark::State& state, SnapCase& measured) {
 
     // This program's own copy of the plug-in's search tells what it looked at.
     for (const ai::SuiteRow& row : ai::suiteTable())
-        row.store(easel::suiteServer().functions(row.name, row.version));
+        row.store(easel::installedSuites().functions(row.name, row.version));
     const PerpendicularSnap snap = findPerpendicular(widen(kOrigin), widen(kPlaces[1]), kReach);
     ai::suites = {};
     if (!snap.point) return state.SkipWithError("nothing was snapped to");

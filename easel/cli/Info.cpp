@@ -1,7 +1,7 @@
 #include "easel/cli/Info.h"
 
-#include "easel/cli/Inventory.h"
 #include "easel/document/Layers.h"
+#include "easel/session/Inventory.h"
 #include "easel/svg/Numbers.h"
 #include "easel/svg/SvgFile.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "easel/cli/ExitStatus.h"
-#include "easel/cli/MirrorSession.h"
+#include "easel/session/MirrorSession.h"
 
 #include <filesystem>
 #include <ostream>

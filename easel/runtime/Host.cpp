@@ -1,7 +1,7 @@
 #include "easel/runtime/Host.h"
 
 #include "easel/core/Ledger.h"
-#include "easel/suites/SuiteServer.h"
+#include "easel/core/SuiteServer.h"
 #include "host/MessageNames.h"
 #include "host/suites/SPBasicSuite.h"
 
@@ -44,11 +44,12 @@ std::string codeText(AIErr code) {
     return '\'' + text + '\'';
 }
 
-Host::Host(HostSettings hostSettings) : settings(hostSettings) {
+Host::Host(SuiteServer& server, HostSettings hostSettings)
+    : suites(server), settings(hostSettings) {
     assert(running == nullptr);
     running = this;
     ledger().clear();
-    suiteServer().forgetAcquisitions();
+    suites.forgetAcquisitions();
 }
 
 Host::~Host() {
@@ -172,8 +173,7 @@ void Host::fillMessage(SPPluginRef ref, SPMessageData& message) const {
     message.SPCheck = kMessageCheck;
     message.self = ref;
     message.globals = plugins.at(ref).globals;
-    message.basic =
-        &suiteServer().table<SPBasicSuite>(kSPBasicSuite, kSPBasicSuiteVersion).functions();
+    message.basic = &suites.table<SPBasicSuite>(kSPBasicSuite, kSPBasicSuiteVersion).functions();
 }
 
 SPErr Host::sendData(SPPluginRef ref, const char* caller, const char* selector,
@@ -288,7 +288,7 @@ std::vector<std::string> Host::complaints() const {
     std::vector<std::string> lines = ledger().problems();
     for (const OpenLoan& loan : ledger().outstanding())
         lines.push_back(describe(loan));
-    for (const std::string& suite : suiteServer().outstanding())
+    for (const std::string& suite : suites.outstanding())
         lines.push_back("not released: " + suite);
     return lines;
 }

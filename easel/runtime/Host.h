@@ -62,7 +62,8 @@ struct MousePoint {
 /// released twice) are lines in the ledger's `problems`, and the session goes on.
 class Host {
 public:
-    explicit Host(HostSettings hostSettings = {});
+    /// Offers the suites of `server`, which outlives it.
+    explicit Host(SuiteServer& server, HostSettings hostSettings = {});
     ~Host();
     Host(const Host&) = delete;
     Host& operator=(const Host&) = delete;
@@ -191,6 +192,7 @@ public:
     /// What is still lent, a line each, and what was not released in time.
     [[nodiscard]] std::vector<std::string> complaints() const;
 
+    SuiteServer& suites;
     HostSettings settings;
     Plugins plugins;
     Notifiers notifiers;
@@ -236,9 +238,6 @@ private:
 
 /// The host that is running. There must be one.
 [[nodiscard]] Host& host() noexcept;
-
-/// The suites that hosts of this process offer. Tables are made once and never move.
-[[nodiscard]] SuiteServer& suiteServer();
 
 /// "'S!Fd'" for a code of four characters, else the number.
 [[nodiscard]] std::string codeText(AIErr code);

@@ -1,10 +1,10 @@
-#include "easel/cli/Inventory.h"
 #include "easel/core/Text.h"
 #include "easel/document/Attributes.h"
 #include "easel/document/Dump.h"
 #include "easel/document/Layers.h"
 #include "easel/script/Commands.h"
 #include "easel/script/ShownAxes.h"
+#include "easel/session/Inventory.h"
 #include "easel/svg/Content.h"
 #include "easel/svg/Numbers.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "easel/cli/DrawingSession.h"
 #include "easel/paint/PaintView.h"
 #include "easel/script/Arguments.h"
+#include "easel/session/DrawingSession.h"
 #include "easel/svg/Transform.h"
 
 #include <map>

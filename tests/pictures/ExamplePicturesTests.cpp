@@ -1,8 +1,8 @@
 #include "tests/pictures/PictureSymmetry.h"
 
-#include "easel/cli/MirrorSession.h"
 #include "easel/document/Session.h"
 #include "easel/paint/PaintDocument.h"
+#include "easel/session/MirrorSession.h"
 
 #include <doctest/doctest.h>
 

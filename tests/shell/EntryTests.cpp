@@ -86,7 +86,7 @@ TEST_CASE("whichever suite is refused, start-up fails with the host's code and g
         INFO("acquisition ", refused);
         Session session;
         session.startUpMayFail = true;
-        easel::suiteServer().refuseAcquisition(refused);
+        easel::installedSuites().refuseAcquisition(refused);
         const SPErr result = session.send(kCallerInterface, kSelectorStartup);
         const bool optional =
             (refused <= kToolkitSuites && refused != kNotifiers) || refused == suites;
@@ -119,7 +119,7 @@ TEST_CASE("a host with another version of the same slots is served, and gets tha
     };
     for (const auto& offer : offers) {
         INFO(std::string(offer.suite), ' ', offer.offered);
-        easel::suiteServer().renumber(offer.suite, offer.wanted, offer.offered);
+        easel::installedSuites().renumber(offer.suite, offer.wanted, offer.offered);
         {
             Session session;
             session.startUpMayFail = true;
@@ -129,9 +129,9 @@ TEST_CASE("a host with another version of the same slots is served, and gets tha
                 session.send(kCallerAccess, kSelectorReload);
                 session.send(kCallerInterface, kSelectorShutdown);
             }
-            CHECK(easel::suiteServer().outstanding().empty());
+            CHECK(easel::installedSuites().outstanding().empty());
         }
-        easel::suiteServer().renumber(offer.suite, offer.offered, offer.wanted);
+        easel::installedSuites().renumber(offer.suite, offer.offered, offer.wanted);
     }
 }
 
@@ -204,7 +204,7 @@ TEST_CASE("a host that refuses suites during a reload gets its code, and silence
     session.host.start();
     SPAccessMessage message{};
     session.host.send(session.plugin, kCallerAccess, kSelectorUnload, message);
-    easel::suiteServer().refuseAcquisition(3);
+    easel::installedSuites().refuseAcquisition(3);
     CHECK(session.host.send(session.plugin, kCallerAccess, kSelectorReload, message) ==
           kSPSuiteNotFoundError);
     CHECK(ai::suites.block == nullptr);

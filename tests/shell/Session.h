@@ -3,8 +3,9 @@
 /// Facetta started in a host of this process.
 
 #include "easel/core/HostCalls.h"
+#include "easel/core/SuiteServer.h"
 #include "easel/runtime/Host.h"
-#include "easel/suites/SuiteServer.h"
+#include "easel/suites/Suites.h"
 #include "shell/Entry.h"
 #include "shell/FacettaPlugin.h"
 
@@ -29,14 +30,14 @@ inline SPErr entry(const char* caller, const char* selector, void* message) {
 class Session {
 public:
     explicit Session(const Licensing& licence = {}, easel::HostSettings settings = {})
-        : host(settings) {
+        : host(easel::installedSuites(), settings) {
         licensing() = licence;
         host.user.browserAvailable = false; // tests open no web pages
         plugin = host.addPlugin("Facetta", entry);
     }
     ~Session() {
         easel::hostCalls().disarm();
-        easel::suiteServer().refuseAcquisition(0);
+        easel::installedSuites().refuseAcquisition(0);
         host.quit();
         for (const std::string& complaint : host.complaints()) {
             const bool expected =

@@ -1,12 +1,12 @@
 #include "tests/symmetry/EngineFixture.h"
 
+#include "easel/core/Expose.h"
 #include "easel/core/Ledger.h"
 #include "easel/document/Attributes.h"
 #include "easel/document/Layers.h"
 #include "easel/document/Session.h"
-#include "easel/suites/DocumentSuites.h"
-#include "easel/suites/Expose.h"
-#include "easel/suites/RuntimeSuites.h"
+#include "easel/suites/art/ArtSuites.h"
+#include "easel/suites/runtime/RuntimeSuites.h"
 #include "easel/svg/SvgFile.h"
 #include "host/Error.h"
 #include "host/SuiteTable.h"
@@ -201,7 +201,7 @@ EngineFixture::EngineFixture(easel::Switches switches) {
     shellSide() = {};
     easel::switches() = switches; // before the suites, whose slots depend on them
     easel::SuiteServer& server = suiteServer();
-    easel::installDocumentSuites(server);
+    easel::installArtSuites(server);
     easel::installDocumentSuite(server);
     easel::installUnicodeStringSuite(server);
     exposeShellSide(server);

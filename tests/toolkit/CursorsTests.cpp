@@ -1,3 +1,4 @@
+#include "easel/suites/Suites.h"
 #include "tests/easel/runtime/TestPlugin.h"
 #include "toolkit/ImplCommon/Cursors.h"
 
@@ -15,7 +16,7 @@ constexpr ai::int32 kFinger = 16024;
 
 /// The cursors of a plug-in that a host has started.
 struct CursorsInUse {
-    easel::Host host;
+    easel::Host host{easel::installedSuites()};
     TestPlugin plugin{host};
     std::optional<NRDM::Cursors> cursors;
 

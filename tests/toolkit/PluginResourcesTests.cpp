@@ -2,6 +2,7 @@
 
 #include "easel/core/HostCalls.h"
 #include "easel/runtime/Host.h"
+#include "easel/suites/Suites.h"
 #include "toolkit/ImplCommon/PictureResources.h"
 
 #ifdef _WIN32
@@ -18,7 +19,7 @@ constexpr ai::int32 kArrow = -4;
 constexpr ai::int32 kBase = 16021;
 
 struct PluginInHost {
-    easel::Host host;
+    easel::Host host{easel::installedSuites()};
 
     PluginInHost() {
         host.addPlugins(FACETTA_LIBRARY);

@@ -4,7 +4,7 @@ namespace easel::tests {
 
 SuiteServer& server() {
     static SuiteServer theServer;
-    static const bool installed = (installDocumentSuites(theServer), true);
+    static const bool installed = (installArtSuites(theServer), true);
     static_cast<void>(installed);
     return theServer;
 }

@@ -1,8 +1,9 @@
 #include "easel/core/HostCalls.h"
 #include "easel/core/Ledger.h"
+#include "easel/core/SuiteServer.h"
 #include "easel/document/Attributes.h"
 #include "easel/document/Layers.h"
-#include "easel/suites/SuiteServer.h"
+#include "easel/suites/Suites.h"
 #include "host/MessageNames.h"
 #include "host/References.h"
 #include "host/UnicodeString.h"
@@ -24,6 +25,7 @@ namespace facetta::tests {
 namespace {
 
 using easel::Host;
+using easel::installedSuites;
 using easel::ledger;
 using Names = std::vector<std::string>;
 
@@ -55,14 +57,14 @@ struct Session {
         host.open(std::make_unique<easel::Document>(AISize{600, 400}));
         plugin.received.clear();
     }
-    Host host;
+    Host host{installedSuites()};
     TestPlugin plugin{host};
 };
 
 } // namespace
 
 TEST_CASE("a plug-in is loaded, started, told, stopped and unloaded in that order") {
-    Host host;
+    Host host{installedSuites()};
     TestPlugin plugin{host};
     plugin.on("SP Interface/Startup", [&](SPMessageData&) {
         for (const char* type : {kApplicationStartedNotifier, kAllPluginsStartedNotifier,
@@ -88,7 +90,7 @@ TEST_CASE("a plug-in is loaded, started, told, stopped and unloaded in that orde
 }
 
 TEST_CASE("the globals a message leaves behind are given to the next one") {
-    Host host;
+    Host host{installedSuites()};
     TestPlugin plugin{host};
     int state = 0;
     void* nestedGlobals = &state;
@@ -119,7 +121,7 @@ TEST_CASE("the globals a message leaves behind are given to the next one") {
 }
 
 TEST_CASE("a plug-in whose start-up fails hears nothing more but its unloading") {
-    Host host;
+    Host host{installedSuites()};
     TestPlugin plugin{host};
     plugin.on("SP Interface/Startup", [&](SPMessageData&) {
         listenTo(plugin, kApplicationStartedNotifier);
@@ -137,7 +139,7 @@ TEST_CASE("a plug-in whose start-up fails hears nothing more but its unloading")
 TEST_CASE("a strict host refuses suites while the library loads, a lenient one does not") {
     for (const bool strict : {false, true}) {
         INFO("strict: " << strict);
-        Host host{{.strictAccessMessages = strict}};
+        Host host{installedSuites(), {.strictAccessMessages = strict}};
         TestPlugin plugin{host};
         SPErr menu = kNoErr;
         SPErr blocks = kNoErr;
@@ -469,7 +471,7 @@ TEST_CASE("timers run by the clock while they are active") {
 }
 
 TEST_CASE("without a document there is none to be current") {
-    Host host;
+    Host host{installedSuites()};
     TestPlugin plugin{host};
     host.start();
     ai::int32 count = 7;

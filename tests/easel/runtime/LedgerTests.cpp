@@ -1,4 +1,5 @@
 #include "easel/core/Ledger.h"
+#include "easel/suites/Suites.h"
 #include "host/FilePath.h"
 #include "host/References.h"
 #include "host/UnicodeString.h"
@@ -43,7 +44,7 @@ struct Fixture {
         host.start();
         host.open(std::make_unique<easel::Document>(AISize{600, 400}));
     }
-    easel::Host host;
+    easel::Host host{easel::installedSuites()};
     TestPlugin plugin{host};
 
     AIDictionaryRef dictionary = nullptr;

@@ -1,6 +1,7 @@
 #include "tests/easel/runtime/TestPlugin.h"
 
-#include "easel/suites/SuiteServer.h"
+#include "easel/core/SuiteServer.h"
+#include "easel/suites/Suites.h"
 #include "host/UnicodeString.h"
 #include "host/suites/AIModalParentSuite.h"
 #include "host/suites/AINotifierSuite.h"
@@ -23,12 +24,12 @@ std::vector<std::string>& told() {
 }
 
 template <typename Suite> const Suite& suite(const char* name, ai::int32 version) {
-    return *static_cast<const Suite*>(easel::suiteServer().functions(name, version));
+    return *static_cast<const Suite*>(easel::installedSuites().functions(name, version));
 }
 
 /// A plug-in with one panel of two states and a flyout menu of "One", a separator and "Two".
 struct PanelFixture {
-    easel::Host host;
+    easel::Host host{easel::installedSuites()};
     TestPlugin plugin{host};
     const AIPanelSuite& panels = suite<AIPanelSuite>(kAIPanelSuite, kAIPanelSuiteVersion);
     const AIPanelFlyoutMenuSuite& menus =

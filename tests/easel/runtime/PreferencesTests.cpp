@@ -1,4 +1,5 @@
 #include "easel/runtime/Preferences.h"
+#include "easel/suites/Suites.h"
 
 #include "host/UnicodeString.h"
 #include "host/suites/AIPreferenceSuite.h"
@@ -18,7 +19,7 @@ constexpr const char* kPrefix = "Facetta";
 struct Fixture {
     Fixture() { host.start(); }
     ~Fixture() { host.quit(); }
-    easel::Host host;
+    easel::Host host{easel::installedSuites()};
     TestPlugin plugin{host};
     const AIPreferenceSuite& suite = *ai::suites.preference;
 };

@@ -13,6 +13,7 @@
 
 #include "easel/core/HostPath.h"
 #include "easel/document/ArtTree.h"
+#include "easel/suites/Suites.h"
 
 #include <doctest/doctest.h>
 
@@ -28,7 +29,7 @@ struct Fixture {
         host.open(std::make_unique<easel::Document>(AISize{600, 400}));
     }
     ~Fixture() { host.quit(); }
-    easel::Host host;
+    easel::Host host{easel::installedSuites()};
     TestPlugin plugin{host};
 };
 

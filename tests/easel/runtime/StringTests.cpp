@@ -1,6 +1,7 @@
 #include "easel/core/HostString.h"
 #include "easel/core/Ledger.h"
 #include "easel/core/Text.h"
+#include "easel/suites/Suites.h"
 #include "host/UnicodeString.h"
 #include "host/suites/AIUnicodeStringSuite.h"
 #include "tests/easel/runtime/TestPlugin.h"
@@ -19,7 +20,7 @@ struct Fixture {
         CHECK(easel::ledger().count(easel::Lent::String) == 0);
         host.quit();
     }
-    easel::Host host;
+    easel::Host host{easel::installedSuites()};
     TestPlugin plugin{host};
 };
 

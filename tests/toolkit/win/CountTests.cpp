@@ -5,6 +5,7 @@
 #include "tests/easel/runtime/TestPlugin.h"
 #include "tests/toolkit/win/Stage.h"
 
+#include "easel/suites/Suites.h"
 #include "toolkit/ImplCommon/CoADMDialog.h"
 #include "toolkit/ImplCommon/Dialogs.h"
 #include "toolkit/ImplCommon/Resources.h"
@@ -60,7 +61,7 @@ private:
                                           picturesOf(WindowClass::library()));
     }
 
-    easel::Host host_;
+    easel::Host host_{easel::installedSuites()};
     facetta::tests::TestPlugin plugin_{host_};
     Theme theme_;
     std::optional<Dialogs> dialogs_;

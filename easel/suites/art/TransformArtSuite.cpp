@@ -1,0 +1,37 @@
+#include "host/suites/AITransformArtSuite.h"
+
+#include "easel/core/Arguments.h"
+#include "easel/core/Expose.h"
+#include "easel/document/Attributes.h"
+#include "easel/document/Session.h"
+#include "easel/document/TransformArt.h"
+#include "easel/suites/art/ArtSuites.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace easel {
+namespace {
+
+bool isFinite(const AIRealMatrix& m) {
+    return std::ranges::all_of(std::initializer_list<AIReal>{m.a, m.b, m.c, m.d, m.tx, m.ty},
+                               [](AIReal number) { return std::isfinite(number); });
+}
+
+AIErr transform(AIArtHandle handle, AIRealMatrix* matrix, AIReal lineScale, ai::int32 flags) {
+    Art& art = artOf(handle);
+    if (!isFinite(required(matrix)) || !std::isfinite(lineScale)) return kBadParameterErr;
+    checkEditable(art);
+    transformArt(art, *matrix, lineScale, flags);
+    return kNoErr;
+}
+
+} // namespace
+
+void installTransformArtSuite(SuiteServer& server) {
+    auto table =
+        server.table<AITransformArtSuite>(kAITransformArtSuite, kAITransformArtSuiteVersion);
+    expose<&AITransformArtSuite::TransformArt, transform>(table);
+}
+
+} // namespace easel

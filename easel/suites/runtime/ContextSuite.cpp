@@ -1,0 +1,70 @@
+#include "easel/core/Arguments.h"
+#include "easel/core/Expose.h"
+#include "easel/core/Ledger.h"
+#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RuntimeSuites.h"
+#include "host/suites/AIAppContextSuite.h"
+
+namespace easel {
+namespace {
+
+/// Without a window there is none to own a dialog.
+AIErr getPlatformAppWindow(AIWindowRef* window) {
+    required(window) = nullptr;
+    return kNoErr;
+}
+
+AIErr pushAppContext(SPPluginRef plugin, AIAppContextHandle* context) {
+    AIAppContextHandle& result = required(context);
+    static_cast<void>(host().plugins.at(plugin));
+    result = host().contexts.push(plugin);
+    ledger().lend(Lent::AppContext, result);
+    return kNoErr;
+}
+
+AIErr popAppContext(AIAppContextHandle context) {
+    ledger().require(Lent::AppContext, context);
+    if (host().contexts.top() != context)
+        ledger().report("a context is popped that is not the innermost one");
+    host().contexts.pop(context);
+    ledger().takeBack(Lent::AppContext, context);
+    // A context outside any message is what its plug-in did on its own, in a window or a timer.
+    if (host().contexts.depth() == 0) host().collectChanges();
+    return kNoErr;
+}
+
+AIErr suspendAppContext(AISuspendedAppContext* suspended) {
+    required(suspended) = host().contexts.suspend();
+    return kNoErr;
+}
+
+AIErr resumeAppContext(AISuspendedAppContext suspended, AIDocumentHandle document) {
+    if (document != nullptr) host().contexts.switchTo(&documentOf(document));
+    host().contexts.resume(suspended);
+    return kNoErr;
+}
+
+AIErr allowAllChanges(AIBoolean allow, AIBoolean* previous) {
+    const bool before = host().contexts.allowAllChanges();
+    if (previous != nullptr) *previous = before ? 1 : 0;
+    host().contexts.setAllowAllChanges(allow != 0);
+    return kNoErr;
+}
+
+/// Easel paints after each message anyway.
+AIErr syncAndDraw() { return kNoErr; }
+
+} // namespace
+
+void installContextSuite(SuiteServer& server) {
+    auto table = server.table<AIAppContextSuite>(kAIAppContextSuite, kAIAppContextSuiteVersion);
+    expose<&AIAppContextSuite::GetPlatformAppWindow, getPlatformAppWindow>(table);
+    expose<&AIAppContextSuite::PushAppContext, pushAppContext>(table);
+    exposeEnding<&AIAppContextSuite::PopAppContext, popAppContext>(table);
+    expose<&AIAppContextSuite::SuspendAppContext, suspendAppContext>(table);
+    expose<&AIAppContextSuite::ResumeAppContext, resumeAppContext>(table);
+    expose<&AIAppContextSuite::AllowAllChanges, allowAllChanges>(table);
+    expose<&AIAppContextSuite::SyncAndDraw, syncAndDraw>(table);
+}
+
+} // namespace easel

@@ -1,0 +1,30 @@
+#include "easel/core/Expose.h"
+#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RuntimeSuites.h"
+#include "host/suites/AIModalParentSuite.h"
+
+namespace easel {
+namespace {
+
+/// Easel's alerts are recorded, not shown, so that it matters to none of them who owns it; but a
+/// plug-in that sets an owner and leaves it there is at fault.
+AIErr setParent(const AIWindowRef& window) {
+    host().user.modalParents.push_back(window);
+    return kNoErr;
+}
+
+AIErr removeParent() {
+    if (host().user.modalParents.empty()) throw ai::Error{kBadParameterErr};
+    host().user.modalParents.pop_back();
+    return kNoErr;
+}
+
+} // namespace
+
+void installModalParentSuite(SuiteServer& server) {
+    auto table = server.table<AIModalParentSuite>(kAIModalParentSuite, kAIModalParentSuiteVersion);
+    expose<&AIModalParentSuite::SetParent, setParent>(table);
+    expose<&AIModalParentSuite::RemoveParent, removeParent>(table);
+}
+
+} // namespace easel

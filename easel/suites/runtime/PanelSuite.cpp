@@ -1,0 +1,200 @@
+#include "easel/core/Expose.h"
+#include "easel/core/HostString.h"
+#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RuntimeSuites.h"
+#include "host/suites/AIPanelSuite.h"
+
+namespace easel {
+namespace {
+
+Panel& at(AIPanelRef panel) { return host().panels.at(panel); }
+
+AIErr create(SPPluginRef plugin, const ai::UnicodeString& id, const ai::UnicodeString& title,
+             ai::int16 stateCount, const AISize& least, AIBoolean resizable,
+             AIPanelFlyoutMenuRef flyout, AIPanelUserData data, AIPanelRef& panel) {
+    static_cast<void>(host().plugins.at(plugin));
+    if (flyout != nullptr) static_cast<void>(host().panels.menu(flyout));
+    Panel made;
+    made.plugin = plugin;
+    made.id = readString(id);
+    made.title = readString(title);
+    made.stateCount = stateCount;
+    made.sizes.least = least;
+    made.resizable = resizable != 0;
+    made.flyout = flyout;
+    made.data = data;
+    panel = host().panels.add(std::move(made));
+    return kNoErr;
+}
+
+AIErr destroy(AIPanelRef panel) {
+    host().panels.remove(panel);
+    return kNoErr;
+}
+
+AIErr getPlatformWindow(AIPanelRef panel, AIPanelPlatformWindow& window) {
+    window = at(panel).window->client();
+    return kNoErr;
+}
+
+AIErr show(AIPanelRef panel, AIBoolean shown) {
+    host().panels.show(panel, shown != 0);
+    return kNoErr;
+}
+
+AIErr setTitle(AIPanelRef panel, const ai::UnicodeString& title) {
+    at(panel).title = readString(title);
+    at(panel).window->setTitle(at(panel).title);
+    return kNoErr;
+}
+
+AIErr getTitle(AIPanelRef panel, ai::UnicodeString& title) {
+    writeString(title, at(panel).title);
+    return kNoErr;
+}
+
+template <typename Value, Value Panel::*Member> AIErr get(AIPanelRef panel, Value& value) {
+    value = at(panel).*Member;
+    return kNoErr;
+}
+
+template <auto Member> AIErr getSize(AIPanelRef panel, AISize& size) {
+    size = at(panel).sizes.*Member;
+    return kNoErr;
+}
+
+/// A new limit may make the panel another size.
+template <auto Member> AIErr setLimit(AIPanelRef panel, const AISize& size) {
+    at(panel).sizes.*Member = size;
+    host().panels.resize(panel, at(panel).size);
+    return kNoErr;
+}
+
+AIErr setPreferredSizes(AIPanelRef panel, const AISize& size) {
+    PanelSizes& sizes = at(panel).sizes;
+    sizes.floating = sizes.docked = size;
+    host().panels.resize(panel, size);
+    return kNoErr;
+}
+
+AIErr setSizes(AIPanelRef panel, const AISize& least, const AISize& floating, const AISize& docked,
+               const AISize& greatest) {
+    const AIReal step = at(panel).sizes.step;
+    at(panel).sizes = {least, floating, docked, greatest, step};
+    host().panels.resize(panel, floating);
+    return kNoErr;
+}
+
+AIErr setSize(AIPanelRef panel, const AISize& size) {
+    if (!at(panel).resizable) return setSizes(panel, size, size, size, size);
+    return setPreferredSizes(panel, size);
+}
+
+AIErr setCurrentState(AIPanelRef panel, ai::int16 state) {
+    host().panels.setState(panel, state);
+    return kNoErr;
+}
+
+AIErr setStateCount(AIPanelRef panel, ai::int16 count) {
+    host().panels.setStateCount(panel, count);
+    return kNoErr;
+}
+
+AIErr setVerticalStep(AIPanelRef panel, AIReal step) {
+    if (!(step > 0)) throw ai::Error{kBadParameterErr};
+    at(panel).sizes.step = step;
+    return kNoErr;
+}
+
+AIErr getVerticalStep(AIPanelRef panel, AIReal& step) {
+    step = at(panel).sizes.step;
+    return kNoErr;
+}
+
+AIErr setFlyoutMenu(AIPanelRef panel, AIPanelFlyoutMenuRef menu) {
+    host().panels.setFlyout(panel, menu);
+    return kNoErr;
+}
+
+AIErr minimize(AIPanelRef panel, AIBoolean minimized) {
+    host().panels.minimize(panel, minimized != 0);
+    return kNoErr;
+}
+
+AIErr move(AIPanelRef panel, AIPoint topLeft) {
+    at(panel).position = topLeft;
+    at(panel).window->move(topLeft);
+    return kNoErr;
+}
+
+AIErr setUserData(AIPanelRef panel, AIPanelUserData data) {
+    at(panel).data = data;
+    return kNoErr;
+}
+
+template <typename Callback, Callback PanelCallbacks::*Member>
+AIErr setCallback(AIPanelRef panel, Callback callback) {
+    at(panel).callbacks.*Member = callback;
+    return kNoErr;
+}
+
+using Suite = AIPanelSuite;
+
+void exposeSizes(SuiteTable<Suite>& table) {
+    expose<&Suite::GetSize, get<AISize, &Panel::size>>(table);
+    expose<&Suite::SetMinimumSize, setLimit<&PanelSizes::least>>(table);
+    expose<&Suite::GetMinimumSize, getSize<&PanelSizes::least>>(table);
+    expose<&Suite::SetMaximumSize, setLimit<&PanelSizes::greatest>>(table);
+    expose<&Suite::GetMaximumSize, getSize<&PanelSizes::greatest>>(table);
+    expose<&Suite::SetPreferredSizes, setPreferredSizes>(table);
+    expose<&Suite::SetSizes, setSizes>(table);
+    expose<&Suite::SetSize, setSize>(table);
+    expose<&Suite::GetPreferredConstrainedSize, getSize<&PanelSizes::docked>>(table);
+    expose<&Suite::GetPreferredUnconstrainedSize, getSize<&PanelSizes::floating>>(table);
+    expose<&Suite::SetVerticalStepSize, setVerticalStep>(table);
+    expose<&Suite::GetVerticalStepSize, getVerticalStep>(table);
+}
+
+void exposeCallbacks(SuiteTable<Suite>& table) {
+    using Callbacks = PanelCallbacks;
+    expose<&Suite::SetFlyoutMenuPreVisibilityProc,
+           setCallback<AIPanelFlyoutMenuPreVisibilityProc, &Callbacks::flyoutOpens>>(table);
+    expose<&Suite::SetFlyoutMenuProc, setCallback<AIPanelFlyoutMenuProc, &Callbacks::flyoutChosen>>(
+        table);
+    expose<&Suite::SetVisibilityChangedNotifyProc,
+           setCallback<AIPanelVisibilityChangedNotifyProc, &Callbacks::visibility>>(table);
+    expose<&Suite::SetSizeChangedNotifyProc,
+           setCallback<AIPanelSizeChangedNotifyProc, &Callbacks::size>>(table);
+    expose<&Suite::SetStateChangedNotifyProc,
+           setCallback<AIPanelStateChangedNotifyProc, &Callbacks::state>>(table);
+    expose<&Suite::SetClosedNotifyProc, setCallback<AIPanelClosedNotifyProc, &Callbacks::closed>>(
+        table);
+}
+
+} // namespace
+
+void installPanelSuite(SuiteServer& server) {
+    auto table = server.table<Suite>(kAIPanelSuite, kAIPanelSuiteVersion);
+    expose<&Suite::Create, create>(table);
+    exposeEnding<&Suite::Destroy, destroy>(table);
+    expose<&Suite::GetPlatformWindow, getPlatformWindow>(table);
+    expose<&Suite::Show, show>(table);
+    expose<&Suite::IsShown, get<AIBoolean, &Panel::shown>>(table);
+    expose<&Suite::GetUserData, get<AIPanelUserData, &Panel::data>>(table);
+    expose<&Suite::SetUserData, setUserData>(table);
+    expose<&Suite::SetTitle, setTitle>(table);
+    expose<&Suite::GetTitle, getTitle>(table);
+    expose<&Suite::SetCurrentState, setCurrentState>(table);
+    expose<&Suite::GetCurrentState, get<ai::int16, &Panel::state>>(table);
+    expose<&Suite::SetStateCount, setStateCount>(table);
+    expose<&Suite::GetStateCount, get<ai::int16, &Panel::stateCount>>(table);
+    expose<&Suite::SetFlyoutMenu, setFlyoutMenu>(table);
+    expose<&Suite::GetFlyoutMenu, get<AIPanelFlyoutMenuRef, &Panel::flyout>>(table);
+    expose<&Suite::IsMinimized, get<AIBoolean, &Panel::minimized>>(table);
+    expose<&Suite::ChangeIsMinimized, minimize>(table);
+    expose<&Suite::Move, move>(table);
+    exposeSizes(table);
+    exposeCallbacks(table);
+}
+
+} // namespace easel

@@ -1,0 +1,45 @@
+#include "easel/suites/runtime/RuntimeSuites.h"
+
+namespace easel {
+namespace {
+
+constexpr void (*kInstallers[])(SuiteServer&) = {
+    installSPBasicSuite,
+    installSPAccessSuite,
+    installSPPluginsSuite,
+    installSPBlocksSuite,
+    installSPInterfaceSuite,
+    installAnnotatorDrawerSuite,
+    installAnnotatorSuite,
+    installBlockSuite,
+    installContextSuite,
+    installCursorSnapSuite,
+    installDocumentListSuite,
+    installDocumentSuite,
+    installDocumentViewSuite,
+    installFilePathSuite,
+    installFoldersSuite,
+    installMenuSuite,
+    installModalParentSuite,
+    installNotifierSuite,
+    installPanelFlyoutMenuSuite,
+    installPanelSuite,
+    installPreferenceSuite,
+    installRuntimeSuite,
+    installThemeSuite,
+    installTimerSuite,
+    installToolSuite,
+    installToolboxSuite,
+    installUnicodeStringSuite,
+    installUrlSuite,
+    installUserSuite,
+};
+
+} // namespace
+
+void installRuntimeSuites(SuiteServer& server) {
+    for (const auto install : kInstallers)
+        install(server);
+}
+
+} // namespace easel

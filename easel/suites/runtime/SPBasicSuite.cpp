@@ -1,0 +1,69 @@
+#include "host/suites/SPBasicSuite.h"
+
+#include "easel/core/Arguments.h"
+#include "easel/core/Blocks.h"
+#include "easel/core/Expose.h"
+#include "easel/core/Ledger.h"
+#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RuntimeSuites.h"
+#include "host/suites/SPBlocksSuite.h"
+
+#include <cstring>
+
+namespace easel {
+namespace {
+
+SPErr acquireSuite(const char* name, ai::int32 version, const void** functions) {
+    const bool refused = host().settings.strictAccessMessages && host().inAccessMessage() &&
+                         std::strcmp(&required(name), kSPBlocksSuite) != 0;
+    if (refused) {
+        required(functions) = nullptr;
+        return kSPSuiteNotFoundError;
+    }
+    const SPErr result = host().suites.acquire(name, version, functions);
+    if (result == kNoErr) ledger().lend(Lent::Suite, *functions);
+    return result;
+}
+
+SPErr releaseSuite(const char* name, ai::int32 version) {
+    const void* const functions = host().suites.functions(name, version);
+    const SPErr result = host().suites.release(name, version);
+    if (result == kNoErr) ledger().takeBack(Lent::Suite, functions);
+    return result;
+}
+
+SPBoolean isEqual(const char* first, const char* second) {
+    return std::strcmp(&required(first), &required(second)) == 0 ? 1 : 0;
+}
+
+SPErr allocate(std::size_t size, void** block) {
+    required(block) = allocateBlock(size);
+    return kNoErr;
+}
+
+SPErr release(void* block) {
+    freeBlock(block);
+    return kNoErr;
+}
+
+SPErr reallocate(void* block, std::size_t size, void** moved) {
+    required(moved) = reallocateBlock(block, size);
+    return kNoErr;
+}
+
+SPErr undefined() { return kNotImplementedErr; }
+
+} // namespace
+
+void installSPBasicSuite(SuiteServer& server) {
+    auto table = server.table<SPBasicSuite>(kSPBasicSuite, kSPBasicSuiteVersion);
+    expose<&SPBasicSuite::AcquireSuite, acquireSuite>(table);
+    exposeEnding<&SPBasicSuite::ReleaseSuite, releaseSuite>(table);
+    expose<&SPBasicSuite::IsEqual, isEqual>(table);
+    expose<&SPBasicSuite::AllocateBlock, allocate>(table);
+    exposeEnding<&SPBasicSuite::FreeBlock, release>(table);
+    expose<&SPBasicSuite::ReallocateBlock, reallocate>(table);
+    expose<&SPBasicSuite::Undefined, undefined>(table);
+}
+
+} // namespace easel

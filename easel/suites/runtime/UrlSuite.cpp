@@ -1,0 +1,26 @@
+#include "easel/core/Arguments.h"
+#include "easel/core/Expose.h"
+#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RuntimeSuites.h"
+#include "host/suites/AIURLSuite.h"
+
+namespace easel {
+namespace {
+
+AIBoolean isBrowserAvailable() { return host().user.browserAvailable ? 1 : 0; }
+
+AIBoolean openUrl(const char* url) {
+    if (!host().user.browserAvailable) return 0;
+    host().user.openedUrls.emplace_back(&required(url));
+    return 1;
+}
+
+} // namespace
+
+void installUrlSuite(SuiteServer& server) {
+    auto table = server.table<AIURLSuite>(kAIURLSuite, kAIURLSuiteVersion);
+    expose<&AIURLSuite::IsBrowserAvailable, isBrowserAvailable>(table);
+    expose<&AIURLSuite::OpenURL, openUrl>(table);
+}
+
+} // namespace easel
