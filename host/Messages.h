@@ -20,7 +20,14 @@ struct SPInterfaceMessage {
     SPMessageData d;
 };
 
-/// `when`: 0 start-up, 1 run time, 2 shut-down, 3 terminal.
+enum SPAccessTime : ai::int32 {
+    kAccessAtStartUp = 0,
+    kAccessAtRunTime = 1,
+    kAccessAtUnload = 2,   ///< Nobody holds the library any more.
+    kAccessAtTerminal = 3, ///< The host quits though somebody still holds it.
+};
+
+/// `when` is an `SPAccessTime`.
 struct SPAccessMessage {
     SPMessageData d;
     ai::int32 when;

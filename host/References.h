@@ -11,52 +11,46 @@
 #include "host/suites/AIHitTestSuite.h"
 #include "host/suites/SPAccessSuite.h"
 
+#include <type_traits>
+
 /// One owner for each kind of reference that the host counts or wants disposed of.
 
 namespace ai {
 
-struct DictionaryTraits {
-    using Ref = AIDictionaryRef;
-    static void release(Ref ref) noexcept { suites.dictionary->Release(ref); }
+/// What the table `Table` of `suites` lends and takes back by `Release`. Without the table, as
+/// after a reload that was refused its suites, a reference can only be left to the host.
+template <typename Reference, auto Table, auto Release> struct LentBySuite {
+    using Ref = Reference;
+    static void release(Ref ref) noexcept {
+        const auto* const functions = suites.*Table;
+        if (functions == nullptr) return;
+        if constexpr (std::is_invocable_v<decltype(functions->*Release), Ref*>)
+            (functions->*Release)(&ref);
+        else
+            (functions->*Release)(ref);
+    }
 };
-using Dictionary = Owned<DictionaryTraits>;
 
-struct EntryTraits {
-    using Ref = AIEntryRef;
-    static void release(Ref ref) noexcept { suites.entry->Release(ref); }
-};
+using Dictionary =
+    Owned<LentBySuite<AIDictionaryRef, &Suites::dictionary, &AIDictionarySuite::Release>>;
+
 /// The entry suite's `To...` and `As...` calls and `Dictionary::Set` consume an entry: pass them
 /// `release()`.
-using Entry = Owned<EntryTraits>;
+using Entry = Owned<LentBySuite<AIEntryRef, &Suites::entry, &AIEntrySuite::Release>>;
 
-struct ArrayTraits {
-    using Ref = AIArrayRef;
-    static void release(Ref ref) noexcept { suites.array->Release(ref); }
-};
-using Array = Owned<ArrayTraits>;
+using Array = Owned<LentBySuite<AIArrayRef, &Suites::array, &AIArraySuite::Release>>;
 
-struct ArtSetTraits {
-    using Ref = AIArtSet;
-    static void release(Ref ref) noexcept { suites.artSet->DisposeArtSet(&ref); }
-};
-using ArtSet = Owned<ArtSetTraits>;
+using ArtSet = Owned<LentBySuite<AIArtSet, &Suites::artSet, &AIArtSetSuite::DisposeArtSet>>;
 
-struct HitTraits {
-    using Ref = AIHitRef;
-    static void release(Ref ref) noexcept { suites.hitTest->Release(ref); }
-};
-using Hit = Owned<HitTraits>;
+using Hit = Owned<LentBySuite<AIHitRef, &Suites::hitTest, &AIHitTestSuite::Release>>;
 
-struct PluginAccessTraits {
-    using Ref = SPAccessRef;
-    static void release(Ref ref) noexcept { suites.access->ReleasePlugin(ref); }
-};
 /// Keeps the plug-in's library loaded.
-using PluginAccess = Owned<PluginAccessTraits>;
+using PluginAccess =
+    Owned<LentBySuite<SPAccessRef, &Suites::access, &SPAccessSuite::ReleasePlugin>>;
 
 /// The host's application context for this plug-in, pushed for the life of the object: fixes the
 /// current document and makes what is changed meanwhile one undo step. Contexts nest strictly.
-/// Throws `Error`.
+/// Throws `Error`, also while there are no suites.
 class AppContext {
 public:
     explicit AppContext(SPPluginRef self);

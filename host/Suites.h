@@ -109,7 +109,8 @@ struct Suites {
     std::array<const void*, 87> text{};
 };
 
-/// Written by `SuiteHolder` and `BorrowedSuite` only, for whoever calls the host: all the program.
+/// Written by `SuiteHolder`, `BorrowedSuite` and `alignToolSuite` only, for whoever calls the host:
+/// all the program.
 extern Suites suites; // NOLINT(cppcoreguidelines-avoid-non-const-global*)
 
 /// Through which every suite is acquired. The host passes it with each message; the entry stores it

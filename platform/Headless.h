@@ -19,7 +19,7 @@ struct Surroundings {
     KeyState keys;
     std::optional<ai::uint64> ticks; ///< A clock that stands still.
     std::optional<std::u16string> moduleFileName;
-    std::vector<std::string> openedAddresses;
+    std::vector<std::u16string> opened;
     std::vector<std::u16string> shownMessages;
 };
 

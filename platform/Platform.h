@@ -47,8 +47,9 @@ struct KeyState {
 /// The longest file name that the host's older file records can hold, and one.
 constexpr std::size_t kLongestModuleName = 300;
 
-/// Opens a web address with the desktop's own browser. False when that cannot be done.
-bool openAddress(const std::string& address);
+/// Opens a web address, or a file by its full name, with the program that the desktop has for it.
+/// False when that cannot be done.
+bool open(const std::u16string& what);
 
 /// Shows `text` in a modal box above the window `owner`, which may be null.
 void showMessage(void* owner, const std::u16string& text);

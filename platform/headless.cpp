@@ -56,8 +56,8 @@ std::u16string moduleFileName() {
     return name.size() < kLongestModuleName ? name : std::u16string{};
 }
 
-bool openAddress(const std::string& address) {
-    headless::surroundings().openedAddresses.push_back(address);
+bool open(const std::u16string& what) {
+    headless::surroundings().opened.push_back(what);
     return true;
 }
 

@@ -34,8 +34,8 @@ std::u16string moduleFileName() {
     return {name.begin(), name.begin() + length};
 }
 
-bool openAddress(const std::string& address) {
-    const std::wstring wide(address.begin(), address.end()); // our addresses are ASCII
+bool open(const std::u16string& what) {
+    const std::wstring wide(what.begin(), what.end());
     const auto result =
         ShellExecuteW(nullptr, L"open", wide.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
     constexpr INT_PTR kLastFailure = 32;

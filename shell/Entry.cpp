@@ -71,7 +71,8 @@ SPErr deliver(FacettaPlugin& plugin, const Call& call) {
         refreshIdentity(plugin, call.data().self);
         return plugin.Reload(*static_cast<SPAccessMessage*>(call.message));
     }
-    if (!plugin.hasSuites()) return kNoErr;
+    // Suites are not to be sought while an access message is answered.
+    if (call.caller == kCallerAccess ? !plugin.hasSuites() : !plugin.ensureSuites()) return kNoErr;
     const SPErr err = plugin.Message(call.caller, call.selector, call.message);
     return err == kUnhandledMsgErr ? kNoErr : err;
 }

@@ -2,9 +2,11 @@
 
 #include "host/Error.h"
 #include "host/MessageNames.h"
+#include "host/ToolSuiteLayout.h"
 #include "host/UnicodeString.h"
 #include "host/suites/AIAnnotatorSuite.h"
 #include "host/suites/AIMenuSuite.h"
+#include "host/suites/AIPreferenceSuite.h"
 #include "host/suites/AIToolSuite.h"
 #include "host/suites/AIUserSuite.h"
 #include "platform/Platform.h"
@@ -29,6 +31,7 @@ constexpr char kAnnotatorName[] = "Norvane FT Annotator";
 constexpr char kToolName[] = "Facetta Tool";
 constexpr ai::uint32 kToolIconLight = 2100;
 constexpr ai::uint32 kToolIconDark = 3100;
+constexpr ai::int32 kToolOptions = kToolWantsToTrackCursorOption | kToolWantsBrushControlOption;
 
 /// What the host's info display shows while the tool runs: document X and Y, size X and Y,
 /// distance, angle.
@@ -75,6 +78,7 @@ AIErr FacettaPlugin::Startup(SPInterfaceMessage& message) {
 void FacettaPlugin::startProduct() {
     licenceChanged = false;
     loadPreferences(hostPreferences, preferences);
+    settingsLoaded_ = true;
     tool.dialog = {preferences.dialogX, preferences.dialogY};
 
     addAboutItem(self(), menuItems);
@@ -88,7 +92,7 @@ void FacettaPlugin::startProduct() {
         if (!addWindowGroup(self())) return;
         if (addPanelItem(self(), menuItems)) registerNotifiers(self(), notifiers);
     }
-    if (addAnnotator() && addTool()) panel.emplace(self());
+    if (addAnnotator() && addTool()) openPanel();
 }
 
 bool FacettaPlugin::addAnnotator() {
@@ -105,23 +109,43 @@ bool FacettaPlugin::addTool() {
     data.darkIconResID = kToolIconDark;
     data.sameGroupAs = kNoTool;
     data.sameToolsetAs = kNoTool;
-    constexpr ai::int32 kOptions = kToolWantsToTrackCursorOption | kToolWantsBrushControlOption;
-    return ai::suites.tool->AddTool(self(), kToolName, &data, kOptions, &toolHandle) == kNoErr &&
-           ai::suites.tool->SetToolInfoVars(toolHandle, kToolInfoVariables) == kNoErr;
+    if (ai::suites.tool->AddTool(self(), kToolName, &data, kToolOptions, &toolHandle) != kNoErr)
+        return false;
+    ai::alignToolSuite(toolHandle, kToolOptions);
+    return ai::suites.tool->SetToolInfoVars(toolHandle, kToolInfoVariables) == kNoErr;
+}
+
+void FacettaPlugin::openPanel() {
+    panel.emplace(self());
+    // The panel's windows call into the library, and where the user has docked it may be lost when
+    // it is destroyed. A host that cannot hold the library unloads it all the same, panel and all.
+    holdsLibrary_ = LockPlugin(true) == kNoErr;
+}
+
+void FacettaPlugin::closePanel() noexcept {
+    panel.reset();
+    if (std::exchange(holdsLibrary_, false)) LockPlugin(false);
 }
 
 AIErr FacettaPlugin::Shutdown(SPInterfaceMessage& message) {
-    AIErr saved = kNoErr;
+    if (!hasSuites()) static_cast<void>(acquireSuites()); // refused since a reload, perhaps
+    const AIErr saved = saveSettings();
     if (hasSuites()) {
         hintTimer.stop();
-        preferences.dialogX = tool.dialog.x;
-        preferences.dialogY = tool.dialog.y;
         dropAxes(tool); // what it holds of the host's goes while there are suites
-        saved = savePreferences(preferences);
-        panel.reset();
+        closePanel();
     }
     const AIErr err = Plugin::Shutdown(message);
     return err != kNoErr ? err : saved;
+}
+
+AIErr FacettaPlugin::saveSettings() {
+    if (!settingsLoaded_) return kNoErr; // the defaults must not replace what is stored
+    preferences.dialogX = tool.dialog.x;
+    preferences.dialogY = tool.dialog.y;
+    const ai::BorrowedSuite<&ai::Suites::preference, kAIPreferenceSuite, kAIPreferenceSuiteVersion>
+        store;
+    return store ? savePreferences(preferences) : kSPSuiteNotFoundError;
 }
 
 AIErr FacettaPlugin::Message(std::string_view caller, std::string_view selector, void* message) {
@@ -138,40 +162,77 @@ AIErr FacettaPlugin::SetGlobal(Plugin* plugin) {
 AIErr FacettaPlugin::UnloadHook() {
     if (panel)
         panelAfterReload_ = panel->isVisible() ? PanelAfterReload::Shown : PanelAfterReload::Hidden;
-    panel.reset();
+    closePanel();
     return kNoErr;
 }
 
 AIErr FacettaPlugin::SuitesReadyHook() {
     dialogs = {};
     updatePanel = [] {};
+    if (toolHandle != nullptr) ai::alignToolSuite(toolHandle, kToolOptions);
     const PanelAfterReload wanted = std::exchange(panelAfterReload_, PanelAfterReload::None);
     if (wanted == PanelAfterReload::None) return kNoErr;
-    panel.emplace(self()).show(wanted == PanelAfterReload::Shown);
+    openPanel();
+    panel->show(wanted == PanelAfterReload::Shown);
     return kNoErr;
 }
 
 AIErr FacettaPlugin::Notify(AINotifierMessage& message) {
-    if (message.type != nullptr && message.type == std::string_view(kApplicationStartedNotifier))
-        welcomeOnFirstStart();
-    if (message.type != nullptr && message.type == std::string_view(kUIBrightnessChangedNotifier))
-        redrawOverlay(view);
+    const std::string_view type = message.type != nullptr ? message.type : "";
+    if (type == kApplicationStartedNotifier) welcomeOnFirstStart();
+    if (type == kUIBrightnessChangedNotifier) redrawOverlay(view);
     handleNotification(*this, message.notifier);
     return kNoErr;
 }
 
 AIErr FacettaPlugin::GoMenuItem(AIMenuMessage& message) {
-    if (message.menuItem != nullptr && message.menuItem == menuItems.panel) {
-        if (panel) panel->show(!panel->isVisible());
-    } else {
-        chooseMenuItem(menuItems, message.menuItem);
-    }
+    // The host would put an alert of its own beside a menu command that fails.
+    static_cast<void>(ai::codeOf([&] {
+        if (message.menuItem == nullptr) return kNoErr;
+        if (message.menuItem != menuItems.panel)
+            chooseMenuItem(menuItems, message.menuItem);
+        else if (panel)
+            panel->show(!panel->isVisible());
+        return kNoErr;
+    }));
     return kNoErr;
 }
 
 AIErr FacettaPlugin::UpdateMenuItem(AIMenuMessage& message) {
-    if (message.menuItem == nullptr || message.menuItem != menuItems.panel) return kNoErr;
-    return ai::suites.menu->CheckItem(menuItems.panel, panel && panel->isVisible());
+    if (message.menuItem != nullptr && message.menuItem == menuItems.panel)
+        static_cast<void>(ai::suites.menu->CheckItem(menuItems.panel, panel && panel->isVisible()));
+    return kNoErr;
+}
+
+void FacettaPlugin::fetchView() {
+    // At some notifications, as of a closed document, the host may not be able to tell: then the
+    // next message asks again.
+    view = {};
+    if (!documentIsOpen()) return;
+    static_cast<void>(ai::codeOf([this] {
+        view = fetchCurrentView();
+        return kNoErr;
+    }));
+}
+
+void FacettaPlugin::fetchViewAndPlaceDialog() {
+    fetchView();
+    if (view.handle != nullptr) tool.dialog = placedIn(view.pixels, tool.dialog);
+}
+
+void FacettaPlugin::followDocument() {
+    if (isCurrent(view)) return;
+    const AIDocumentHandle before = view.document;
+    fetchViewAndPlaceDialog();
+    const bool isOpen = documentIsOpen();
+    if (view.document == before || (isOpen && view.document == nullptr)) return;
+    clearPreview(tool);
+    if (isOpen)
+        followCurrentLayer(tool);
+    else
+        dropAxes(tool);
+    redrawOverlay(view);
+    updatePanel();
 }
 
 MirrorEnvironment FacettaPlugin::mirroring() {
@@ -182,11 +243,9 @@ MirrorEnvironment FacettaPlugin::mirroring() {
 }
 
 template <typename Handler> AIErr FacettaPlugin::withSession(Handler handler) {
-    // The view may have come up before the notification that tells of it.
-    if (view.handle == nullptr && documentIsOpen()) {
-        view = fetchCurrentView();
-        tool.dialog = placedIn(view.pixels, tool.dialog);
-    }
+    // The document may have come up before the notification that tells of it. A drag stays in its
+    // document.
+    if (!tool.dragging) followDocument();
     const platform::KeyState keys = platform::readKeys();
     ToolSession session{
         tool,       preferences, hostPreferences,

@@ -53,6 +53,14 @@ public:
     /// What the symmetry room takes from the plug-in for one message.
     [[nodiscard]] MirrorEnvironment mirroring();
 
+    /// Notices that another document or view has become the current one: the view and the axes
+    /// shown become those of the new one. Changes no art, does nothing when both are as they were,
+    /// and so may be called at any time.
+    void followDocument();
+    /// No view while the host cannot tell it.
+    void fetchView();
+    void fetchViewAndPlaceDialog();
+
     Licensing licence;
     bool licenceChanged = false;      ///< since start-up
     Preferences preferences;          ///< changed by the tool, the panel and the dialogs
@@ -61,9 +69,9 @@ public:
     CurrentView view;                 ///< follows the host's notifications
     ToolState tool;
     HintTimer hintTimer;
-    // Functions of the library; a reload puts them in anew.
+    // Functions of the library, set again after a reload.
     ModalDialogs dialogs;
-    /// Called when the axes shown are others, or may be applied or not; the panel puts its own in.
+    /// Called when the axes shown change, or whether they may be applied does; set by the panel.
     void (*updatePanel)() = [] {};
 
     // What the host knows of the plug-in; null where registering failed.
@@ -85,7 +93,12 @@ private:
     void startProduct();
     bool addAnnotator();
     bool addTool();
+    void openPanel();
+    void closePanel() noexcept;
+    AIErr saveSettings();
 
+    bool settingsLoaded_ = false; ///< only what was read is written back
+    bool holdsLibrary_ = false;   ///< on behalf of the panel
     PanelAfterReload panelAfterReload_ = PanelAfterReload::None;
 };
 

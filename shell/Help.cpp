@@ -6,6 +6,7 @@
 #include "host/FilePath.h"
 #include "host/Suites.h"
 #include "host/UnicodeString.h"
+#include "host/UserSuiteLayout.h"
 #include "host/suites/AIFilePathSuite.h"
 #include "host/suites/AIPreferenceSuite.h"
 #include "host/suites/AIRuntimeSuite.h"
@@ -44,13 +45,13 @@ bool findBesideLibrary(std::string_view name, ai::FilePath& path) {
 
 bool webIsReachable() { return ai::suites.url->IsBrowserAvailable() != 0; }
 
-std::string pageAddress(std::string_view topic) {
+std::u16string pageAddress(std::string_view topic) {
     std::string address(kPages);
     address += FACETTA_VERSION;
     address += "&host=" + std::to_string(ai::suites.runtime->GetAppMajorVersion());
     address += "&level=1";
     if (!topic.empty()) address.append("&source=").append(topic);
-    return address;
+    return {address.begin(), address.end()}; // plain ASCII
 }
 
 using VersionNumbers = std::array<int, 3>;
@@ -83,12 +84,20 @@ void openManual() {
     if (ai::suites.filePath == nullptr) return;
     ai::FilePath manual;
     constexpr AIBoolean kWithoutDocument = 0;
-    if (findBesideLibrary(kManual, manual)) ai::suites.user->LaunchApp(manual, kWithoutDocument);
+    if (!findBesideLibrary(kManual, manual)) return;
+    if (ai::liesAsDeclared(*ai::suites.user)) {
+        ai::suites.user->LaunchApp(manual, kWithoutDocument);
+        return;
+    }
+    ai::UnicodeString name;
+    constexpr AIBool8 kAsTheSystemWritesIt = 0;
+    ai::check(ai::suites.filePath->GetFullPath(manual, kAsTheSystemWritesIt, name));
+    platform::open(name.utf16());
 }
 
 void openWebPage(std::string_view topic) {
     if (webIsReachable())
-        platform::openAddress(pageAddress(topic));
+        platform::open(pageAddress(topic));
     else
         showAlert(kNoWebMessage);
 }

@@ -17,56 +17,53 @@ namespace {
 
 constexpr char kRegistrationName[] = "FacettaPlugin";
 
-void followLicence(FacettaPlugin& plugin) { plugin.licenceChanged = true; }
+void followLicence(FacettaPlugin& plugin) {
+    plugin.licenceChanged = true;
+    plugin.updatePanel();
+}
 
 void followConstrainAngle(FacettaPlugin& plugin) {
     plugin.hostPreferences.constrainAngle = readConstrainAngle();
 }
 
-void fetchView(FacettaPlugin& plugin) {
-    plugin.view = documentIsOpen() ? fetchCurrentView() : CurrentView{};
-}
+void fetchView(FacettaPlugin& plugin) { plugin.fetchView(); }
 
-void fetchViewAndPlaceDialog(FacettaPlugin& plugin) {
-    fetchView(plugin);
-    if (plugin.view.handle != nullptr)
-        plugin.tool.dialog = placedIn(plugin.view.pixels, plugin.tool.dialog);
-}
+void fetchViewAndPlaceDialog(FacettaPlugin& plugin) { plugin.fetchViewAndPlaceDialog(); }
 
 void showPanel(FacettaPlugin& plugin) {
     if (plugin.panel) plugin.panel->show(true);
 }
 
-/// Known to the handlers that follow, with no reaction of its own.
+/// No reaction of its own.
 void passOn(FacettaPlugin&) {}
 
-/// May the art of a live layer, or which layer is current, be another than before?
-enum class Document : bool { Same, MayHaveChanged };
+/// May there be other art than before?
+enum class Art : bool { Same, MayHaveChanged };
 
 struct Row {
     const char* type;
     void (*react)(FacettaPlugin&);
-    Document document = Document::Same;
+    Art art = Art::Same;
 };
 
 constexpr Row kRows[] = {
     {kLicenceChangedNotifier, followLicence},
     {kPreferenceChangedNotifier, followConstrainAngle},
     {"AI Document Opened Notifier", fetchViewAndPlaceDialog},
-    {"AI Document Closed Notifier", fetchViewAndPlaceDialog, Document::MayHaveChanged},
-    {"AI Document Changed Notifier", fetchViewAndPlaceDialog, Document::MayHaveChanged},
+    {"AI Document Closed Notifier", fetchViewAndPlaceDialog, Art::MayHaveChanged},
+    {"AI Document Changed Notifier", fetchViewAndPlaceDialog, Art::MayHaveChanged},
     {"AI Document View Changed Notifier", fetchViewAndPlaceDialog},
     {"AI Document View Style Active View Changed Notifier", fetchViewAndPlaceDialog},
     {"AI Document Write Preprocess Notifier", passOn},
-    {kArtSelectionChangedNotifier, passOn, Document::MayHaveChanged},
-    {kArtPropertiesChangedNotifier, passOn, Document::MayHaveChanged},
-    {"AI Current Layer Notifier", passOn, Document::MayHaveChanged},
-    {"AI Layer Set Notifier", passOn, Document::MayHaveChanged},
-    {"AI Layer Options Notifier", passOn, Document::MayHaveChanged},
-    {"AI Command Notifier: After Undo", passOn, Document::MayHaveChanged},
-    {"AI Command Notifier: After Redo", passOn, Document::MayHaveChanged},
-    {"AI Command Notifier: After Lock", passOn, Document::MayHaveChanged},
-    {"AI Command Notifier: After Unlock All", passOn, Document::MayHaveChanged},
+    {kArtSelectionChangedNotifier, passOn, Art::MayHaveChanged},
+    {kArtPropertiesChangedNotifier, passOn, Art::MayHaveChanged},
+    {"AI Current Layer Notifier", passOn, Art::MayHaveChanged},
+    {"AI Layer Set Notifier", passOn, Art::MayHaveChanged},
+    {"AI Layer Options Notifier", passOn, Art::MayHaveChanged},
+    {"AI Command Notifier: After Undo", passOn, Art::MayHaveChanged},
+    {"AI Command Notifier: After Redo", passOn, Art::MayHaveChanged},
+    {"AI Command Notifier: After Lock", passOn, Art::MayHaveChanged},
+    {"AI Command Notifier: After Unlock All", passOn, Art::MayHaveChanged},
     {"AI Document Ruler Unit Changed Notifier", passOn},
     {"AI Tool Suspend Notifier", passOn},
     {"AI Tool Resume Notifier", passOn},
@@ -80,21 +77,19 @@ constexpr Row kRows[] = {
 };
 static_assert(std::size(kRows) == kNotifierCount);
 
-/// Live layers are brought up to date, and the axes shown are those of the current layer.
-void followDocument(FacettaPlugin& plugin) {
-    // What a drag changes meanwhile it takes back.
-    if (!plugin.tool.dragging) clearPreview(plugin.tool);
-    if (!documentIsOpen()) {
-        dropAxes(plugin.tool);
-        plugin.updatePanel();
-        return;
+/// Live layers are brought up to date, and the axes shown are those of the current layer. Done at
+/// every notification: the host may merge several, or send one late or without need.
+void lookAfterDocument(FacettaPlugin& plugin, Art art) {
+    if (documentIsOpen()) {
+        // What a drag changes meanwhile it takes back.
+        if (art == Art::MayHaveChanged && !plugin.tool.dragging) clearPreview(plugin.tool);
+        // While the art of a layer moves with its axes, the layer's own axes are where they were.
+        if (plugin.tool.reposition) return;
+        regenerateChangedLayers(plugin.mirroring());
+        const SymmetryAxes before = plugin.tool.axes;
+        followCurrentLayer(plugin.tool);
+        if (plugin.tool.axes != before) redrawOverlay(plugin.view);
     }
-    // While the art of a layer moves with its axes, the layer's own axes are where they were.
-    if (plugin.tool.reposition) return;
-    regenerateChangedLayers(plugin.mirroring());
-    const SymmetryAxes before = plugin.tool.axes;
-    followCurrentLayer(plugin.tool);
-    if (plugin.tool.axes != before) redrawOverlay(plugin.view);
     plugin.updatePanel();
 }
 
@@ -111,10 +106,11 @@ void registerNotifiers(SPPluginRef self, NotifierHandles& handles) {
 void handleNotification(FacettaPlugin& plugin, AINotifierHandle notifier) {
     const auto& handles = plugin.notifiers;
     const auto found = std::ranges::find(handles, notifier);
-    if (notifier == nullptr || found == handles.end()) return;
-    const Row& row = kRows[found - handles.begin()];
-    row.react(plugin);
-    if (row.document == Document::MayHaveChanged) followDocument(plugin);
+    const Row* const row =
+        notifier != nullptr && found != handles.end() ? &kRows[found - handles.begin()] : nullptr;
+    plugin.followDocument();
+    if (row != nullptr) row->react(plugin);
+    lookAfterDocument(plugin, row != nullptr ? row->art : Art::Same);
 }
 
 } // namespace facetta

@@ -21,8 +21,9 @@ using NotifierHandles = std::array<AINotifierHandle, kNotifierCount>;
 /// Registers for all notifications in order; after a failure the remaining ones are left out.
 void registerNotifiers(SPPluginRef self, NotifierHandles& handles);
 
-/// Reacts to the notification of `notifier`, one of the plug-in's handles; then the document's live
-/// layers are looked after when it says that their art may have changed. Throws `ai::Error`.
+/// Reacts to the notification of `notifier` when that is one of the plug-in's handles. Then,
+/// whoever it was for, the current document and its live layers are looked after. Throws
+/// `ai::Error`.
 void handleNotification(FacettaPlugin& plugin, AINotifierHandle notifier);
 
 } // namespace facetta

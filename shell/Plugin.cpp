@@ -27,9 +27,11 @@ void Plugin::ReportError(AIErr error, std::string_view, std::string_view, void*)
 }
 
 AIErr Plugin::LockPlugin(bool lock) {
-    if (lock && lockCount_ == 0)
-        if (const AIErr err = ai::suites.access->AcquirePlugin(self_, &lock_)) return err;
-    if (!lock && lockCount_ == 1) ai::suites.access->ReleasePlugin(std::exchange(lock_, nullptr));
+    if (lock && lockCount_ == 0) {
+        if (ai::suites.access == nullptr) return kSPSuiteNotFoundError;
+        if (const AIErr err = ai::suites.access->AcquirePlugin(self_, lock_.put())) return err;
+    }
+    if (!lock && lockCount_ == 1) lock_.reset();
     lockCount_ = std::max(0, lockCount_ + (lock ? 1 : -1));
     return kNoErr;
 }
@@ -68,7 +70,8 @@ AIErr Plugin::Shutdown(SPInterfaceMessage&) {
     return err;
 }
 
-AIErr Plugin::Unload(SPAccessMessage&) {
+AIErr Plugin::Unload(SPAccessMessage& message) {
+    if (message.when == kAccessAtTerminal) return kNoErr;
     const AIErr err = UnloadHook();
     ai::check(SetGlobal(nullptr));
     if (toolkit_) toolkit_->unloading();
@@ -76,12 +79,15 @@ AIErr Plugin::Unload(SPAccessMessage&) {
     return err;
 }
 
-AIErr Plugin::Reload(SPAccessMessage&) {
+AIErr Plugin::Reload(SPAccessMessage&) { return resume(); }
+
+AIErr Plugin::resume() {
     ai::check(SetGlobal(this));
     if (toolkit_) toolkit_->reloaded(reportFailure);
     // A holder that survived has its suites, but the library's pointers to them are new and empty.
     const AIErr err = suites_ ? suites_->refresh() : acquireSuites();
-    if (err != kNoErr) {
+    awaitsSuites_ = err != kNoErr;
+    if (awaitsSuites_) {
         suites_.reset();
         return err;
     }
@@ -89,6 +95,8 @@ AIErr Plugin::Reload(SPAccessMessage&) {
     static_cast<void>(ai::codeOf([&] { return SuitesReadyHook(); }));
     return kNoErr;
 }
+
+bool Plugin::ensureSuites() { return hasSuites() || (awaitsSuites_ && resume() == kNoErr); }
 
 AIErr Plugin::GetPluginName(char* buffer, std::size_t size) {
     if (size == 0) return kBadParameterErr;

@@ -35,8 +35,10 @@ public:
     virtual AIErr Startup(SPInterfaceMessage& message);
     virtual AIErr PostStartup();
     virtual AIErr Shutdown(SPInterfaceMessage& message);
-    /// Gives back the suites; the object itself waits for `Reload`.
+    /// Gives back the suites; the object itself waits for `Reload`. Frees nothing when the host
+    /// quits while somebody still holds the library.
     virtual AIErr Unload(SPAccessMessage& message);
+    /// Acquires the suites again. Where the host refuses them, `ensureSuites` goes on trying.
     virtual AIErr Reload(SPAccessMessage& message);
     virtual AIErr AcquireProperty(SPPropertiesMessage& message);
     virtual AIErr ReleaseProperty(SPPropertiesMessage& message);
@@ -98,6 +100,10 @@ public:
     /// Without suites a message can do nothing.
     [[nodiscard]] bool hasSuites() const noexcept { return suites_.has_value(); }
 
+    /// Are the suites there, if need be after one more try at a reload that was refused them?
+    /// Between unloading and loading again they are not tried for.
+    bool ensureSuites();
+
     /// All of "AI Notifier": serves the toolkit first, then the end of start-up, then `Notify`.
     AIErr routeNotification(std::string_view selector, AINotifierMessage& message);
 
@@ -106,19 +112,22 @@ protected:
     [[nodiscard]] const char* name() const noexcept { return name_.data(); }
     [[nodiscard]] NRDM::Toolkit& toolkit() noexcept { return *toolkit_; }
 
+    /// All suites of the table, or none.
+    AIErr acquireSuites();
     void releaseSuites() noexcept { suites_.reset(); }
     void shutToolkitDown() noexcept { toolkit_.reset(); }
 
 private:
-    AIErr acquireSuites();
+    AIErr resume();
     AIErr addStartedNotifier();
 
     SPPluginRef self_;
     std::array<char, 256> name_{};
     std::optional<NRDM::Toolkit> toolkit_; ///< outlives the suites
     std::optional<ai::SuiteHolder> suites_;
+    bool awaitsSuites_ = false; ///< a reload was refused them
     ai::int32 lockCount_ = 0;
-    SPAccessRef lock_ = nullptr; ///< held while `lockCount_` is positive
+    ai::PluginAccess lock_; ///< held while `lockCount_` is positive
     ErrorReporter errors_;
 };
 

@@ -4,6 +4,7 @@
 #include "host/Suites.h"
 #include "host/suites/AIAnnotatorSuite.h"
 #include "host/suites/AIDocumentListSuite.h"
+#include "host/suites/AIDocumentSuite.h"
 #include "host/suites/AIDocumentViewSuite.h"
 
 namespace facetta {
@@ -18,8 +19,19 @@ bool documentIsOpen() {
     return ai::suites.documentList->Count(&count) == kNoErr && count > 0;
 }
 
+bool isCurrent(const CurrentView& view) {
+    AIDocumentHandle document = nullptr;
+    AIDocumentViewHandle handle = nullptr;
+    if (documentIsOpen() &&
+        (ai::suites.document->GetDocument(&document) != kNoErr ||
+         ai::suites.documentView->GetNthDocumentView(kCurrentViewNumber, &handle) != kNoErr))
+        return false;
+    return document == view.document && handle == view.handle;
+}
+
 CurrentView fetchCurrentView() {
     CurrentView view;
+    ai::check(ai::suites.document->GetDocument(&view.document));
     ai::check(ai::suites.documentView->GetNthDocumentView(kCurrentViewNumber, &view.handle));
     AIRealRect page{};
     ai::check(ai::suites.documentView->GetDocumentViewBounds(view.handle, &page));

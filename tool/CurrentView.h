@@ -5,13 +5,17 @@
 
 namespace facetta {
 
-/// The view of the document the user works in; no handle while no document is open.
+/// The view of the document the user works in; no handles while no document is open.
 struct CurrentView {
+    AIDocumentHandle document = nullptr; ///< compared only
     AIDocumentViewHandle handle = nullptr;
     AIRect pixels{}; ///< its visible part in view pixels, y down
 };
 
 [[nodiscard]] bool documentIsOpen();
+
+/// Do the user's document and view still have these handles? Nothing else is compared.
+[[nodiscard]] bool isCurrent(const CurrentView& view);
 
 /// The current view as the host has it now. Throws `ai::Error`, as without a document.
 [[nodiscard]] CurrentView fetchCurrentView();

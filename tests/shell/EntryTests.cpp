@@ -3,6 +3,7 @@
 #include "host/MessageNames.h"
 #include "host/SuiteTable.h"
 #include "host/suites/AIAppContextSuite.h"
+#include "host/suites/AIArtSetSuite.h"
 #include "host/suites/AIPathSuite.h"
 #include "host/suites/SPPluginsSuite.h"
 
@@ -10,6 +11,16 @@
 
 using namespace facetta;
 using namespace facetta::tests;
+
+namespace {
+
+/// The number of axes among the stored settings; 0 while there are none.
+ai::int32 storedCount(const Session& session) {
+    const auto* const stored = session.host.preferences.find("Facetta", "FTCount");
+    return stored != nullptr ? std::get<ai::int32>(*stored) : 0;
+}
+
+} // namespace
 
 TEST_CASE("before start-up and after shut-down messages do nothing and succeed") {
     Session session;
@@ -125,8 +136,8 @@ TEST_CASE("a host with another version of the same slots is served, and gets tha
             session.startUpMayFail = true;
             CHECK((session.send(kCallerInterface, kSelectorStartup) == kNoErr) == offer.starts);
             if (offer.starts) {
-                session.send(kCallerAccess, kSelectorUnload);
-                session.send(kCallerAccess, kSelectorReload);
+                session.send(kCallerAccess, kSelectorUnload, SPAccessMessage{});
+                session.send(kCallerAccess, kSelectorReload, SPAccessMessage{});
                 session.send(kCallerInterface, kSelectorShutdown);
             }
             CHECK(easel::installedSuites().outstanding().empty());
@@ -199,17 +210,85 @@ TEST_CASE("a reload without an unload before it fetches the suites anew and coun
     CHECK(ai::suites.text.back() != nullptr);
 }
 
-TEST_CASE("a host that refuses suites during a reload gets its code, and silence afterwards") {
-    Session session({}, {.strictAccessMessages = true, .recordMessages = false});
-    session.host.start();
-    SPAccessMessage message{};
-    session.host.send(session.plugin, kCallerAccess, kSelectorUnload, message);
-    easel::installedSuites().refuseAcquisition(3);
-    CHECK(session.host.send(session.plugin, kCallerAccess, kSelectorReload, message) ==
-          kSPSuiteNotFoundError);
-    CHECK(ai::suites.block == nullptr);
-    CHECK(session.send(kCallerTool, kSelectorSelect, AIToolMessage{}) == kNoErr);
+namespace {
+
+/// A host that cannot hold a plug-in in memory, and so unloads it at will, has started Facetta. The
+/// panel is shown; the tool holds a reference of the host's; a setting has been changed.
+struct Unheld {
+    Unheld() : session({}, {.strictAccessMessages = true, .recordMessages = false}) {
+        easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::Once,
+                                .call = 1,
+                                .function = "SP Access Suite.AcquirePlugin",
+                                .code = kSPCantAcquirePluginError});
+        session.host.start();
+        easel::hostCalls().disarm();
+        session.openDocument();
+        session.host.chooseMenuItem(thePlugin->menuItems.panel);
+        REQUIRE(ai::suites.artSet->NewArtSet(thePlugin->tool.releasedCopies.put()) == kNoErr);
+        thePlugin->preferences.count = 7;
+        plugin = thePlugin;
+    }
+    Session session;
+    FacettaPlugin* plugin;
+};
+
+} // namespace
+
+TEST_CASE("a reload that is refused its suites is made up for as soon as there are some") {
+    Unheld unheld;
+    Session& session = unheld.session;
+    session.host.reload(session.plugin);
+    CHECK_FALSE(unheld.plugin->hasSuites());
     CHECK(session.host.user.alerts.empty());
+
+    SUBCASE("by the next message") {
+        AIToolMessage message{};
+        message.tool = unheld.plugin->toolHandle;
+        CHECK(session.send(kCallerTool, kSelectorSelect, message) == kNoErr);
+        CHECK(unheld.plugin->tool.toolSelected);
+        CHECK(unheld.plugin->panel.has_value());
+        CHECK(unheld.plugin->panel->isVisible());
+    }
+    SUBCASE("by shutting down") {}
+    CHECK(session.send(kCallerInterface, kSelectorShutdown) == kNoErr);
+    CHECK(storedCount(session) == 7);
+}
+
+TEST_CASE("settings outlive a host that goes on refusing suites") {
+    Unheld unheld;
+    Session& session = unheld.session;
+    const AIArtSet leftBehind = unheld.plugin->tool.releasedCopies.get();
+    session.send(kCallerAccess, kSelectorUnload, SPAccessMessage{});
+    easel::installedSuites().renumber("AI Mesh Suite", 5, 6);
+    CHECK(session.send(kCallerAccess, kSelectorReload, SPAccessMessage{}) == kSPSuiteNotFoundError);
+    CHECK(session.send(kCallerMenu, kSelectorGo, AIMenuMessage{}) == kNoErr);
+    CHECK(session.send(kCallerInterface, kSelectorShutdown) == kNoErr);
+    CHECK(storedCount(session) == 7);
+    easel::installedSuites().renumber("AI Mesh Suite", 6, 5);
+
+    // What no suite could take back the host frees when it ends.
+    const void* const functions =
+        easel::installedSuites().functions(kAIArtSetSuite, kAIArtSetSuiteVersion);
+    AIArtSet set = leftBehind;
+    static_cast<const AIArtSetSuite*>(functions)->DisposeArtSet(&set);
+}
+
+TEST_CASE("the library is held from the panel's making to its end") {
+    Session session;
+    session.host.start();
+    CHECK(session.record().accessCount == 1);
+    CHECK_THROWS_AS(session.host.reload(session.plugin), ai::Error);
+
+    // The host quits, but somebody still calls the library: all stays as it is.
+    SPAccessMessage terminal{};
+    terminal.when = kAccessAtTerminal;
+    CHECK(session.send(kCallerAccess, kSelectorUnload, terminal) == kNoErr);
+    CHECK(thePlugin != nullptr);
+    CHECK(thePlugin->panel.has_value());
+    CHECK(session.record().accessCount == 1);
+
+    session.host.quit();
+    CHECK(session.record().accessCount == 0);
 }
 
 TEST_CASE("locks nest: the library is held from the first to the last") {
@@ -217,11 +296,13 @@ TEST_CASE("locks nest: the library is held from the first to the last") {
     session.host.start();
     const bool locks[] = {true, true, false, true, false, false, false, true, false};
     const ai::int32 held[] = {1, 1, 1, 1, 1, 0, 0, 1, 0};
+    thePlugin->LockPlugin(false); // the panel's own
     for (std::size_t i = 0; i < std::size(locks); ++i) {
         INFO("step ", i);
         CHECK(thePlugin->LockPlugin(locks[i]) == kNoErr);
         CHECK(session.record().accessCount == held[i]);
     }
+    thePlugin->LockPlugin(true);
 }
 
 TEST_CASE("the name is cut to the buffer it is given") {
@@ -237,12 +318,15 @@ TEST_CASE("the name is cut to the buffer it is given") {
 }
 
 TEST_CASE("what the licence refuses is not done") {
-    SUBCASE("start-up: the suites only") {
+    SUBCASE("start-up: the suites only, and stored settings stay as they are") {
         Session session({LicenceState::Licensed, {GuardedAction::StartUp}});
+        session.host.preferences.put("Facetta", "FTCount", ai::int32{9});
         session.host.start();
         REQUIRE(thePlugin != nullptr);
         CHECK(thePlugin->toolHandle == nullptr);
         CHECK(session.host.menus.items.count() == 0);
+        session.host.quit();
+        CHECK(storedCount(session) == 9);
     }
     SUBCASE("expired: help, but no panel, notifiers, annotator or tool") {
         Session session({LicenceState::Expired, {}});

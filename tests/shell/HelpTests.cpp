@@ -1,6 +1,8 @@
 #include "tests/shell/Session.h"
 
+#include "host/suites/AIUserSuite.h"
 #include "platform/Headless.h"
+#include "tests/shell/RearrangedTable.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -40,9 +42,9 @@ public:
         std::filesystem::temp_directory_path() / "facetta-help-tests \u00e9";
 };
 
-std::string page(const char* topic) {
-    return "https://www.norvane.invalid/facetta?platform=w&version=1.1.0&host=16&level=1&source=" +
-           std::string(topic);
+std::u16string page(std::string_view topic) {
+    return u"https://www.norvane.invalid/facetta?platform=w&version=1.1.0&host=16&level=1&source=" +
+           std::u16string(topic.begin(), topic.end());
 }
 
 } // namespace
@@ -76,6 +78,20 @@ TEST_CASE("the help item opens the manual that lies beside the library, and is s
     }
 }
 
+TEST_CASE("where the user suite is laid out otherwise, the desktop opens the manual") {
+    const Desktop desktop;
+    const PluginFolder folder(/*withManual*/ true);
+    desktop->moduleFileName = (folder.path / "facetta.aip").u16string();
+    const RearrangedTable older(
+        kAIUserSuite, kAIUserSuiteVersion, sizeof(AIUserSuite),
+        [](std::span<void*> slots) { std::shift_right(slots.begin() + 11, slots.end(), 2); });
+    Session session;
+    session.host.start();
+    session.host.chooseMenuItem(thePlugin->menuItems.help[0]);
+    CHECK(session.host.user.launched.empty());
+    CHECK(desktop->opened == std::vector{folder.manual().u16string()});
+}
+
 TEST_CASE("web items open their pages; without a web the user learns whom to ask") {
     struct Row {
         std::size_t item;
@@ -90,13 +106,13 @@ TEST_CASE("web items open their pages; without a web the user learns whom to ask
         session.host.start();
         const AIMenuItemHandle handle = thePlugin->menuItems.help[row.item];
         session.host.chooseMenuItem(handle);
-        CHECK(desktop->openedAddresses.empty());
+        CHECK(desktop->opened.empty());
         REQUIRE(session.host.user.alerts.size() == 1);
         CHECK(session.host.user.alerts.front().text.find("contact") != std::string::npos);
 
         session.host.user.browserAvailable = true;
         session.host.chooseMenuItem(handle);
-        CHECK(desktop->openedAddresses == std::vector{page(row.topic)});
+        CHECK(desktop->opened == std::vector{page(row.topic)});
     }
 }
 
@@ -119,8 +135,8 @@ TEST_CASE("a version's first start with a web is welcomed, once") {
             session.host.start();
             session.host.quit();
         }
-        CHECK(desktop->openedAddresses.size() == (row.welcomed ? 1 : 0));
-        if (row.welcomed) CHECK(desktop->openedAddresses.front() == page("welcome"));
+        CHECK(desktop->opened.size() == (row.welcomed ? 1 : 0));
+        if (row.welcomed) CHECK(desktop->opened.front() == page("welcome"));
     }
 }
 

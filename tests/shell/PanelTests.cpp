@@ -55,6 +55,25 @@ TEST_CASE("the panel goes with the library and comes back as it was") {
     }
 }
 
+TEST_CASE("menu commands succeed whatever the host makes of them") {
+    Session session;
+    session.host.start();
+    AIMenuMessage message{};
+    message.menuItem = thePlugin->menuItems.panel;
+    for (const char* function : {"AI Panel Suite.Show", "AI Menu Suite.CheckItem"}) {
+        INFO(function);
+        easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::FromThenOn,
+                                .call = 1,
+                                .function = function,
+                                .code = kBadParameterErr});
+        CHECK(session.send(kCallerMenu, kSelectorGo, message) == kNoErr);
+        CHECK(session.send(kCallerMenu, kSelectorUpdate, message) == kNoErr);
+        CHECK(easel::hostCalls().fired());
+        easel::hostCalls().disarm();
+    }
+    CHECK(session.host.user.alerts.empty());
+}
+
 TEST_CASE("without a panel the tool works, and the user is told") {
     Session session;
     easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::Once,

@@ -1,4 +1,7 @@
+#include "tests/shell/RearrangedTable.h"
 #include "tests/shell/Session.h"
+
+#include "host/suites/AIToolSuite.h"
 
 #include <algorithm>
 
@@ -113,10 +116,58 @@ TEST_CASE("menus, notifiers, annotator and tool are registered under their names
     CHECK(menus.itemNamed("NorvaneShowAllPanels") == own.showAllPanels);
     CHECK(menus.itemNamed("Facetta Panel Menu Item") == own.panel);
 
-    int ours = 0;
+    // The submenus hang on items of their own.
+    struct SubmenuRow {
+        const char* item;
+        const char* label;
+        const char* group;
+    };
+    const SubmenuRow submenus[] = {
+        {"com.norvane.graphics", "Norvane Graphics", "Help Menu"},
+        {"FacettaHelpGroup", "Facetta", "com.norvane.graphics"},
+        {"FacettaWindowGroup", "Facetta", "Tool Palettes"},
+    };
+    for (const auto& [name, label, group] : submenus) {
+        INFO(name);
+        const easel::MenuItem& opener = menus.items.at(menus.itemNamed(name));
+        const std::string_view wanted(label);
+        CHECK(opener.text == std::u32string(wanted.begin(), wanted.end()));
+        CHECK(menus.groups.at(opener.group).name == group);
+    }
+
+    const std::vector<std::string> notifierTypes = {
+        "Facetta Licence Changed Notifier",
+        "AI Preference Changed Notifier",
+        "AI Document Opened Notifier",
+        "AI Document Closed Notifier",
+        "AI Document Changed Notifier",
+        "AI Document View Changed Notifier",
+        "AI Document View Style Active View Changed Notifier",
+        "AI Document Write Preprocess Notifier",
+        "AI Art Selection Changed Notifier",
+        "AI Art Properties Changed Notifier",
+        "AI Current Layer Notifier",
+        "AI Layer Set Notifier",
+        "AI Layer Options Notifier",
+        "AI Command Notifier: After Undo",
+        "AI Command Notifier: After Redo",
+        "AI Command Notifier: After Lock",
+        "AI Command Notifier: After Unlock All",
+        "AI Document Ruler Unit Changed Notifier",
+        "AI Tool Suspend Notifier",
+        "AI Tool Resume Notifier",
+        "AI Tool Suspended by Cmd Key Notifier",
+        "AI Tool Resumed by Cmd Key Notifier",
+        "AI Tool Suspended by Spacebar Notifier",
+        "AI Tool Resumed by Spacebar Notifier",
+        "AI Current Coordinate System Changed Notifier",
+        "AI Document Ruler Origin Changed Notifier",
+        "Norvane Show All Panels Notifier",
+    };
+    std::vector<std::string> registered;
     for (const auto& [handle, notifier] : session.host.notifiers)
-        ours += notifier->name == "FacettaPlugin" ? 1 : 0;
-    CHECK(ours == 27);
+        if (notifier->name == "FacettaPlugin") registered.push_back(notifier->type);
+    CHECK(registered == notifierTypes);
     CHECK(session.host.notifiers.findIf([](const easel::Notifier& each) {
         return each.name == "Facetta App Started Notifier" &&
                each.type == "AI Application Started Notifier";
@@ -129,9 +180,31 @@ TEST_CASE("menus, notifiers, annotator and tool are registered under their names
     CHECK(tool.lightIcon == 2100);
     CHECK(tool.darkIcon == 3100);
     CHECK(tool.options == 33);
+    CHECK(tool.group == tool.number); // a group and a toolset of its own
+    CHECK(tool.toolset == tool.number);
     CHECK(tool.infoVariables == std::vector<ai::int32>{15, 16, 2, 3, 4, 5});
-    CHECK(thePlugin->annotator != nullptr);
+    const easel::Annotator& annotator = session.host.annotators.annotators.at(thePlugin->annotator);
+    CHECK(annotator.name == "Norvane FT Annotator");
+    CHECK(annotator.options == 4);
     CHECK(thePlugin->decimalSeparator == u'.');
+}
+
+TEST_CASE("where the tool suite lacks its second function, the others are found all the same") {
+    const RearrangedTable shorter(
+        kAIToolSuite, kAIToolSuiteVersion, sizeof(AIToolSuite),
+        [](std::span<void*> slots) { std::shift_left(slots.begin() + 1, slots.end(), 1); });
+    Session session;
+    session.host.start();
+    const easel::Tool& tool = session.host.tools.tools.at(thePlugin->toolHandle);
+    CHECK(tool.infoVariables == std::vector<ai::int32>{15, 16, 2, 3, 4, 5});
+    for (int round = 0; round < 2; ++round) {
+        const char* current = nullptr;
+        session.host.selectTool(thePlugin->toolHandle);
+        CHECK(ai::suites.tool->GetCurrentToolName(&current) == kNoErr);
+        CHECK(std::string_view(current) == "Facetta Tool");
+        session.send("SP Access", "Unload", SPAccessMessage{});
+        CHECK(session.send("SP Access", "Reload", SPAccessMessage{}) == kNoErr);
+    }
 }
 
 TEST_CASE("beside another plug-in of the vendor shared menus are not made twice") {
