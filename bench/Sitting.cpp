@@ -135,7 +135,7 @@ Cost Sitting::measure(const std::function<void()>& action, Take take) {
 /// interrupt the plug-in only ever add to it. A run that took less than its clock is thought to
 /// have cost tells nothing: it counts as endless, so that it is never the least.
 double Sitting::ownSeconds(double clockCost) {
-    const double own = timedEntry().seconds - secondsOf(easel::hostCalls().time()) - clockCost;
+    const double own = timedEntry().seconds - easel::hostCalls().seconds() - clockCost;
     return own > 0 ? own : std::numeric_limits<double>::infinity();
 }
 
@@ -156,7 +156,7 @@ void Sitting::measureClock() {
             ai::int16 type = 0;
             suite.GetArtType(art, &type);
         }
-        const double added = (watch.seconds() - secondsOf(calls.time())) / kCalls;
+        const double added = (watch.seconds() - calls.seconds()) / kCalls;
         clockCostPerCall() = std::min(clockCostPerCall(), added);
     }
     calls.setTiming(false);

@@ -1,9 +1,22 @@
 #include "easel/core/HostCalls.h"
 
 #include <cassert>
+#include <chrono>
+#include <thread>
 #include <utility>
 
 namespace easel {
+namespace {
+
+/// The only one that may call.
+const std::thread::id kHostThread = std::this_thread::get_id();
+
+std::int64_t now() noexcept {
+    const auto sinceStart = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::nanoseconds>(sinceStart).count();
+}
+
+} // namespace
 
 void HostCalls::arm(FaultPlan plan) {
     plan_ = std::move(plan);
@@ -15,7 +28,7 @@ void HostCalls::disarm() { plan_ = {}; }
 
 void HostCalls::resetCounts() noexcept {
     total_ = 0;
-    time_ = std::chrono::nanoseconds{0};
+    time_ = 0;
 }
 
 void HostCalls::setRecording(bool on) {
@@ -39,14 +52,14 @@ bool HostCalls::planned(const SlotRecord& slot) {
 }
 
 bool HostCalls::enter(SlotRecord& slot) {
-    assert(thread_ == std::this_thread::get_id());
+    assert(kHostThread == std::this_thread::get_id());
     ++slot.calls;
     ++total_;
     if (total_ % kCallsPerPulse == 0 && pulse_) pulse_();
     if (recording_) recorded_.push_back(&slot);
     const bool fails = planned(slot);
     fired_ = fired_ || fails;
-    if (timing_ && depth_ == 0) entered_ = std::chrono::steady_clock::now();
+    if (timing_ && depth_ == 0) entered_ = now();
     ++depth_;
     current_ = &slot;
     return fails;
@@ -55,7 +68,7 @@ bool HostCalls::enter(SlotRecord& slot) {
 void HostCalls::leave(const SlotRecord* outer) noexcept {
     --depth_;
     current_ = outer;
-    if (timing_ && depth_ == 0) time_ += std::chrono::steady_clock::now() - entered_;
+    if (timing_ && depth_ == 0) time_ += now() - entered_;
 }
 
 HostCalls& hostCalls() noexcept {

@@ -2,11 +2,9 @@
 
 #include "host/Codes.h"
 
-#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <string>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -45,7 +43,7 @@ public:
 
     [[nodiscard]] std::uint64_t total() const noexcept { return total_; }
     /// Time spent inside host functions called by the plug-in; grows only while timing is on.
-    [[nodiscard]] std::chrono::nanoseconds time() const noexcept { return time_; }
+    [[nodiscard]] double seconds() const noexcept { return 1e-9 * static_cast<double>(time_); }
     void setTiming(bool on) noexcept { timing_ = on; }
     void resetCounts() noexcept;
 
@@ -78,9 +76,9 @@ private:
     std::uint64_t total_ = 0;
     std::uint64_t fallibleCalls_ = 0;
     std::function<void()> pulse_;
-    std::thread::id thread_ = std::this_thread::get_id(); ///< The only one that may call.
-    std::chrono::nanoseconds time_{0};
-    std::chrono::steady_clock::time_point entered_;
+    // In nanoseconds, because nearly every source includes this header and <chrono> is a large one.
+    std::int64_t time_ = 0;
+    std::int64_t entered_ = 0;
     std::vector<const SlotRecord*> recorded_;
 };
 
