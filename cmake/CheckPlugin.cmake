@@ -1,11 +1,7 @@
 # Fails unless `library` lets out PluginMain alone and, as a Windows library, imports nothing but
-# what every Windows has and is hardened. Run as: cmake -D library=... -D objdump=... -P this file.
+# what every supported Windows has and is hardened. Run as: cmake -D library=... -D objdump=... -P this file.
 
 cmake_minimum_required(VERSION 3.25)
-
-set(system_libraries GDI32.dll gdiplus.dll KERNEL32.dll msvcrt.dll USER32.dll SHELL32.dll
-    SHLWAPI.dll COMCTL32.dll ole32.dll OLEAUT32.dll)
-list(TRANSFORM system_libraries TOLOWER) # an import may be written either way
 
 function(dump result)
     execute_process(COMMAND ${objdump} ${ARGN} ${library} OUTPUT_VARIABLE text
@@ -34,14 +30,36 @@ string(REGEX MATCHALL "\\] [^\n]*" exports "${CMAKE_MATCH_1}")
 list(TRANSFORM exports REPLACE "^.* " "")
 expect_only_plugin_main("${exports}")
 
-string(REGEX MATCHALL "DLL Name: [^\n]*" imports "${headers}")
-foreach(import IN LISTS imports)
-    string(REGEX REPLACE "DLL Name: *" "" import "${import}")
-    string(TOLOWER "${import}" lower)
-    if(NOT lower IN_LIST system_libraries)
-        message(FATAL_ERROR "${library} imports ${import}, which not every Windows has")
+# "library function" for each that every supported Windows has, as windows-functions.txt lists them.
+file(STRINGS ${CMAKE_CURRENT_LIST_DIR}/windows-functions.txt lines REGEX "^[^#]")
+set(known)
+foreach(line IN LISTS lines)
+    if(line MATCHES "^[^ ]+$")
+        set(from ${line})
+        continue()
+    endif()
+    string(REGEX MATCHALL "[^ ]+" functions "${line}")
+    list(TRANSFORM functions PREPEND "${from} ")
+    list(APPEND known ${functions})
+endforeach()
+
+# An import may be written either way as to capitals; its functions follow, a number before each.
+set(imports 0)
+string(REGEX MATCHALL "DLL Name: [^\n]*|\n\t[0-9a-f]+\t[^\n]*" lines "${headers}")
+foreach(line IN LISTS lines)
+    if(line MATCHES "DLL Name: *([^ ]+)")
+        string(TOLOWER "${CMAKE_MATCH_1}" from)
+    elseif(line MATCHES "^\n\t[0-9a-f]+\t *(<none>|[0-9]+) +([^ ]+)" AND from)
+        math(EXPR imports "${imports} + 1")
+        if(NOT "${from} ${CMAKE_MATCH_2}" IN_LIST known)
+            message(FATAL_ERROR "${library} imports ${CMAKE_MATCH_2} of ${from}, which "
+                "windows-functions.txt does not say that every supported Windows has")
+        endif()
     endif()
 endforeach()
+if(imports EQUAL 0)
+    message(FATAL_ERROR "${library} seems to import nothing: its headers were not understood")
+endif()
 
 foreach(flag IN ITEMS DYNAMIC_BASE HIGH_ENTROPY_VA NX_COMPAT)
     if(NOT headers MATCHES "\n[ \t]+${flag}\n")

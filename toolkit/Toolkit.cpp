@@ -24,8 +24,9 @@ constexpr NotifierRow kNotifiers[] = {
 };
 constexpr std::size_t kShutdown = 1;
 
-/// The host's numbers for the colours of a dialog.
+// The host's numbers for its kinds of windows.
 constexpr ai::int32 kDialogTheme = 0;
+constexpr ai::int32 kPanelTheme = 1;
 struct ColourRow {
     ai::int32 component;
     AIUIThemeColor Theme::*colour;
@@ -39,13 +40,14 @@ constexpr ColourRow kColours[] = {
 
 std::unique_ptr<Peers> Toolkit::makePeers(void* toolkit) {
     const Toolkit& self = *static_cast<Toolkit*>(toolkit);
-    return systemPeers({.theme = self.theme_, .plugin = self.self_, .fail = self.failed_});
+    return systemPeers({.themes = self.themes_, .plugin = self.self_, .fail = self.failed_});
 }
 
 Toolkit::Toolkit(SPPluginRef self, Failed failed)
-    : self_(self), failed_(failed), cursors_(self), dialogs_(theme_, makePeers, this) {
+    : self_(self), failed_(failed), cursors_(self), dialogs_(themes_, makePeers, this) {
     ai::check(notifierSuite_.acquire());
-    if (themeSuite_.acquire() == kNoErr) readTheme();
+    if (themeSuite_.acquire() == kNoErr) readThemes();
+    static_cast<void>(runtimeSuite_.acquire());
     static_assert(std::size(kNotifiers) == kNotifierCount);
     for (std::size_t i = 0; i < kNotifierCount; ++i)
         ai::check(notifierSuite_->AddNotifier(self, kNotifiers[i].name, kNotifiers[i].type,
@@ -62,16 +64,20 @@ bool Toolkit::serve(AINotifierHandle notifier) {
         cursors_.close();
         themeSuite_.release();
     } else if (themeSuite_) {
-        readTheme();
+        readThemes();
         dialogs_.themeChanged();
     }
     return true;
 }
 
-void Toolkit::readTheme() noexcept {
-    theme_.dark = themeSuite_->IsUIThemeDark() != 0;
-    for (const auto& [component, colour] : kColours)
-        themeSuite_->GetUIThemeColor(kDialogTheme, component, theme_.*colour);
+void Toolkit::readThemes() noexcept {
+    const auto read = [this](ai::int32 kind, Theme& theme) {
+        theme.dark = themeSuite_->IsUIThemeDark() != 0;
+        for (const auto& [component, colour] : kColours)
+            themeSuite_->GetUIThemeColor(kind, component, theme.*colour);
+    };
+    read(kDialogTheme, themes_.dialogs);
+    read(kPanelTheme, themes_.panels);
 }
 
 } // namespace NRDM

@@ -4,6 +4,7 @@
 #include "host/Messages.h"
 #include "host/SuiteHolder.h"
 #include "host/suites/AINotifierSuite.h"
+#include "host/suites/AIRuntimeSuite.h"
 #include "host/suites/AIUIThemeSuite.h"
 #include "toolkit/ImplCommon/Cursors.h"
 #include "toolkit/ImplCommon/Dialogs.h"
@@ -39,7 +40,8 @@ public:
     /// False when `notifier` is none of the toolkit's.
     bool serve(AINotifierHandle notifier);
 
-    [[nodiscard]] const Theme& theme() const noexcept { return theme_; }
+    /// Of the host's dialogs, which its whole interface follows.
+    [[nodiscard]] const Theme& theme() const noexcept { return themes_.dialogs; }
 
     [[nodiscard]] Cursors& cursors() noexcept { return cursors_; }
 
@@ -48,7 +50,7 @@ public:
 private:
     static constexpr std::size_t kNotifierCount = 3;
 
-    void readTheme() noexcept;
+    void readThemes() noexcept;
     static std::unique_ptr<Peers> makePeers(void* toolkit);
 
     SPPluginRef self_;
@@ -58,7 +60,9 @@ private:
     /// Without it the controls keep the light colours.
     ai::SuiteLease<AIUIThemeSuite, kAIUIThemeSuite, kAIUIThemeSuiteVersion> themeSuite_;
     std::array<AINotifierHandle, kNotifierCount> notifiers_{};
-    Theme theme_;
+    /// Held as long as the toolkit lives, as are the host's other suites that it stands on.
+    ai::SuiteLease<AIRuntimeSuite, kAIRuntimeSuite, kAIRuntimeSuiteVersion> runtimeSuite_;
+    Themes themes_;
     Cursors cursors_;
     Dialogs dialogs_;
 };

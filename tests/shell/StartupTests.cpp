@@ -70,6 +70,7 @@ TEST_CASE("start-up goes step by step") {
         {"AI Annotator Suite.SetAnnotatorOptions", 1},
         {"AI Tool Suite.AddTool", 1},
         {"AI Tool Suite.SetToolInfoVars", 1},
+        {"AI Panel Suite.SetVisibilityChangedNotifyProc", 1},
         {"AI Panel Suite.SetSizeChangedNotifyProc", 1},
         {"AI Panel Suite.SetStateChangedNotifyProc", 1},
         {"AI Panel Suite.SetFlyoutMenuPreVisibilityProc", 1},

@@ -2,11 +2,11 @@
 #include "platform/Platform.h"
 #include "toolkit/ImplCommon/CoADMDialog.h"
 #include "toolkit/ImplCommon/Dialogs.h"
+#include "toolkit/ImplCommon/Palette.h"
 #include "toolkit/ImplCommon/Resources.h"
 #include "toolkit/ImplCommon/Slots.h"
 #include "toolkit/ImplCommon/SuiteTables.h"
 #include "toolkit/ImplCommon/System.h"
-#include "toolkit/ImplCommon/Theme.h"
 
 namespace NRDM {
 namespace {
@@ -77,9 +77,13 @@ void getDefaultIncrements(ADMUnits units, float* small, float* large) {
 }
 
 ADMBoolean colourToRGB(ADMColor colour, ADMRGBColor* rgb) {
-    const auto found = colourOf(colour, Dialogs::current().theme());
-    if (found) objectOf(rgb) = *found;
-    return found.has_value();
+    const auto found = admColour(colour, Palette(Dialogs::current().themes().dialogs));
+    if (!found) return false;
+    constexpr ADMUInt16 kWhole = 0xFFFF / 0xFF;
+    objectOf(rgb) = {static_cast<ADMUInt16>(found->red * kWhole),
+                     static_cast<ADMUInt16>(found->green * kWhole),
+                     static_cast<ADMUInt16>(found->blue * kWhole)};
+    return true;
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "toolkit/ImplCommon/Notifier.h"
 #include "toolkit/ImplCommon/Slots.h"
 #include "toolkit/ImplCommon/SuiteTables.h"
+#include "toolkit/ImplCommon/System.h"
 
 namespace NRDM {
 namespace {
@@ -26,7 +27,7 @@ ADMModifiers modifiersNow() {
 }
 
 void getPoint(ADMTrackerRef tracker, ADMPoint* point) {
-    const Place place = objectOf(tracker).input().place;
+    const Place place = tracker != nullptr ? tracker->input().place : pointer();
     objectOf(point) = {place.x, place.y};
 }
 

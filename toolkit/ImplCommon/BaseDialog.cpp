@@ -18,6 +18,8 @@ DialogKind kindOf(ADMDialogStyle style) {
 /// Before a layout or the client says otherwise.
 constexpr Extent kEmptySize = {200, 100};
 
+} // namespace
+
 /// What the host shows meanwhile lies above the dialog.
 class ModalParent {
 public:
@@ -37,8 +39,6 @@ private:
     const AIModalParentSuite* suite_ = nullptr;
 };
 
-} // namespace
-
 BaseDialog::BaseDialog(Dialogs& dialogs, const DialogRequest& request)
     : userData(request.userData), dialogs_(dialogs), plugin_(request.plugin), name_(request.name),
       id_(request.resource), style_(request.style) {
@@ -46,15 +46,20 @@ BaseDialog::BaseDialog(Dialogs& dialogs, const DialogRequest& request)
     view_.title = name_;
     view_.size = kEmptySize;
     view_.font = isModal() ? kADMDialogFont : kADMPaletteFont;
+    // A panel fills its host's window, which the host shows and hides as it likes.
+    view_.visible = view_.kind == DialogKind::Panel;
 }
+
+BaseDialog::~BaseDialog() = default;
 
 void BaseDialog::changed() {
     if (peer_) peer_->changed();
 }
 
 void BaseDialog::detach() {
+    modalParent_.reset();
+    if (peer_) peer_->close();
     peer_.reset();
-    panel_.reset();
 }
 
 void BaseDialog::setTitle(std::string title) {
@@ -69,8 +74,8 @@ void BaseDialog::setFont(ADMFont font) {
 }
 
 void BaseDialog::show(bool shown) {
+    if (panel_) return panel_->show(shown);
     view_.visible = shown;
-    if (panel_) panel_->show(shown);
     changed();
 }
 
@@ -117,7 +122,7 @@ void BaseDialog::setPanelState(int state) {
 bool BaseDialog::endModal(int result) {
     if (!running_) return false;
     result_ = result;
-    return peer_->endModal();
+    return peer_ && peer_->endModal();
 }
 
 int BaseDialog::runLoop() {
@@ -131,12 +136,14 @@ int BaseDialog::runLoop() {
         ~Running() {
             dialog.running_ = false;
             dialog.view_.visible = false;
+            dialog.modalParent_.reset();
         }
     };
-    const ModalParent parent(dialogs_, peer_->window());
+    const std::shared_ptr<DialogPeer> peer = peer_;
+    modalParent_ = std::make_unique<ModalParent>(dialogs_, peer->window());
     {
         const Running running(*this);
-        peer_->runModal();
+        peer->runModal();
     }
     changed();
     return result_;

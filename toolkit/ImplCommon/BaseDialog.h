@@ -19,12 +19,14 @@ struct DialogProcedures {
     ADMDialogDestroyProc destroy = nullptr;
 };
 
+class ModalParent;
+
 /// A dialog without regard to what is in it: its identity, its window, its place in a host's panel,
 /// its modal loop.
 class BaseDialog {
 public:
     BaseDialog(Dialogs& dialogs, const DialogRequest& request);
-    virtual ~BaseDialog() = default;
+    virtual ~BaseDialog();
     BaseDialog(const BaseDialog&) = delete;
     BaseDialog& operator=(const BaseDialog&) = delete;
 
@@ -39,8 +41,10 @@ public:
 
     DialogProcedures procedures;
     ADMUserData userData = nullptr;
-    ADMActionMask mask = 0;     ///< of the events that reach the track procedure
-    std::array<int, 2> icons{}; ///< pictures of the folded panel: normal, rolled over
+    ADMActionMask mask = 0; ///< of the events that reach the track procedure
+    /// Pictures of the folded panel: normal, rolled over. They are kept and not shown: the host's
+    /// functions for icons take other arguments in each of its builds, and do not say which.
+    std::array<int, 2> icons{};
 
     void setTitle(std::string title);
     void setFont(ADMFont font);
@@ -71,9 +75,11 @@ public:
     [[nodiscard]] DialogPeer* peer() const noexcept { return peer_.get(); }
 
 protected:
-    /// Runs the loop of a modal dialog whose peer is there.
+    /// Runs the loop of a modal dialog whose peer is there. When the dialog is closed meanwhile,
+    /// all that it was made in may be gone on return.
     int runLoop();
     void attach(std::unique_ptr<DialogPeer> peer) { peer_ = std::move(peer); }
+    /// Takes the window away.
     void detach();
     void changed();
 
@@ -87,7 +93,8 @@ private:
     std::string name_;
     int id_;
     ADMDialogStyle style_;
-    std::unique_ptr<DialogPeer> peer_;
+    std::shared_ptr<DialogPeer> peer_; ///< kept by a loop that runs in it
+    std::unique_ptr<ModalParent> modalParent_;
     bool running_ = false;
     int result_ = 0;
 };

@@ -25,25 +25,54 @@ void CoADMDialog::open() {
         menuItem_ = std::make_shared<CoADMItem>(*this, kADMMenuItemID,
                                                 *findItemType(kADMPopupMenuType), Bounds{});
         panel_ = std::make_unique<HostPanel>(*this);
-        view_.parent = panel_->window();
-    } else {
-        view_.parent = dialogs().ownerWindow();
     }
+    openWindow();
+}
+
+void CoADMDialog::openWindow() {
+    view_.parent = panel_ ? panel_->window() : dialogs().ownerWindow();
+    view_.keyboardOwner = panel_ ? dialogs().hostWindow() : nullptr;
     attach(dialogs().peers().createDialog(view_, *this));
     for (const auto& item : items_)
         attachWindow(*item);
+    for (const auto& timer : timers_)
+        peer()->startTimer(timer->number, timer->milliseconds);
+}
+
+void CoADMDialog::closeWindow() {
+    for (const auto& item : items_) {
+        item->dropTyped();
+        item->attach(nullptr);
+    }
+    active_ = nullptr;
+    detach();
+}
+
+void CoADMDialog::followHost() {
+    if (!panel_ || closed_) return;
+    const bool stands = peer() != nullptr && peer()->isAlive() && panel_->window() == view_.parent;
+    if (stands) return changed();
+    closeWindow();
+    openWindow();
 }
 
 void CoADMDialog::close() {
     if (std::exchange(closed_, true)) return;
+    struct Ending { // whatever the client's procedures throw, the windows go
+        CoADMDialog& dialog;
+        ~Ending() {
+            dialog.closeWindow();
+            dialog.panel_.reset();
+            dialog.panelMenu_.reset();
+        }
+    };
+    const Ending ending{*this};
     if (procedures.destroy != nullptr) procedures.destroy(this);
     while (!timers_.empty())
         abortTimer(*timers_.back(), kADMNoEventAction);
     while (!items_.empty())
         destroyItem(*items_.back());
     if (menuItem_) menuItem_->close();
-    detach();
-    panelMenu_.reset();
 }
 
 int CoADMDialog::run() {
@@ -60,7 +89,8 @@ void CoADMDialog::attachWindow(CoADMItem& item) {
 CoADMItem* CoADMDialog::createItem(int id, std::string_view type, const Bounds& bounds,
                                    ADMItemInitProc init, ADMUserData itemData) {
     const ItemType* const known = findItemType(type);
-    if (known == nullptr || id < 0 || closed_) throw NRDMParameterException();
+    const bool isTaken = id != kADMUniqueItemID && this->item(id) != nullptr;
+    if (known == nullptr || id < 0 || isTaken || closed_) throw NRDMParameterException();
     const auto item =
         std::make_shared<CoADMItem>(*this, id != kADMUniqueItemID ? id : freeId(), *known, bounds);
     item->userData = itemData;
@@ -165,8 +195,8 @@ void CoADMDialog::handle(CoADMNotifier& notifier) {
 CoADMTimer* CoADMDialog::startTimer(int milliseconds, ADMActionMask abortMask,
                                     ADMDialogTimerProc fired, ADMDialogTimerAbortProc aborted) {
     if (fired == nullptr || milliseconds < 0 || peer() == nullptr) throw NRDMParameterException();
-    timers_.push_back(
-        std::make_unique<CoADMTimer>(CoADMTimer{++lastTimer_, abortMask, fired, aborted}));
+    timers_.push_back(std::make_unique<CoADMTimer>(
+        CoADMTimer{++lastTimer_, milliseconds, abortMask, fired, aborted}));
     peer()->startTimer(lastTimer_, milliseconds);
     return timers_.back().get();
 }

@@ -13,6 +13,7 @@ namespace NRDM {
 class CoADMTimer {
 public:
     int number;
+    int milliseconds;
     ADMActionMask abortMask; ///< of the events that cancel it
     ADMDialogTimerProc fired;
     ADMDialogTimerAbortProc aborted;
@@ -32,6 +33,9 @@ public:
     /// Destroy procedure, items, timers, window; the object is of no more use.
     void close();
     [[nodiscard]] bool isClosed() const noexcept { return closed_; }
+    /// From here on items hear of it when their bounds change.
+    void made() noexcept { made_ = true; }
+    [[nodiscard]] bool isMade() const noexcept { return made_ && !closed_; }
 
     /// Shows a modal dialog until it is ended, and answers with what.
     int run();
@@ -85,8 +89,13 @@ public:
     void menuChanged();
 
     // What the host tells of a panel.
+    [[nodiscard]] bool liesIn(AIPanelRef panel) const { return panel_ && panel_->is(panel); }
     void panelStateChanged(int state);
-    [[nodiscard]] NRDMPanelMenu* panelMenu() const noexcept { return panelMenu_.get(); }
+    /// The host may have destroyed the window that the panel lies in and made another, which it
+    /// tells nobody: everything is shown anew in that one. To be asked whenever the host calls.
+    void followHost();
+    /// The keyboard goes back to the document, once an item of a panel is done with it.
+    void returnKeyboard();
 
     // DialogEvents
     bool key(DialogKey key, char32_t letter) override;
@@ -98,6 +107,8 @@ public:
 
 private:
     [[nodiscard]] int freeId() const;
+    void openWindow();
+    void closeWindow();
     void attachWindow(CoADMItem& item);
     void markDefault();
     [[nodiscard]] CoADMItem* pushButton(int id) const;
@@ -120,6 +131,7 @@ private:
     int cancelId_ = 2;
     int lastTimer_ = 0;
     int options_;
+    bool made_ = false; ///< its init procedure has returned
     bool closed_ = false;
 };
 

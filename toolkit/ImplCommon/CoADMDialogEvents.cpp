@@ -84,13 +84,21 @@ bool CoADMDialog::enter() {
     }
     CoADMItem* const button = isModal() ? pushButton(defaultId_) : nullptr;
     if (button != nullptr) button->clicked();
-    return button != nullptr || (active_ != nullptr && isField(active_->kind()));
+    const bool wasActive = active_ != nullptr;
+    returnKeyboard();
+    return button != nullptr || wasActive;
 }
 
 bool CoADMDialog::escape() {
     dropTyped();
     if (isModal()) closeRequested();
-    return isModal() || (active_ != nullptr && isField(active_->kind()));
+    const bool wasActive = active_ != nullptr;
+    returnKeyboard();
+    return isModal() || wasActive;
+}
+
+void CoADMDialog::returnKeyboard() {
+    if (view_.kind == DialogKind::Panel && peer() != nullptr) peer()->returnKeyboard();
 }
 
 bool CoADMDialog::access(char32_t letter) {

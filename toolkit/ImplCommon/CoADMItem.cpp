@@ -91,6 +91,7 @@ void CoADMItem::setBounds(const Bounds& bounds) {
     if (view_.bounds == bounds) return;
     view_.bounds = bounds;
     changed(Aspect::Bounds);
+    if (dialog_.isMade()) notify(kADMBoundsChangedNotifier);
 }
 
 void CoADMItem::markDefault(bool isDefault) {
@@ -172,7 +173,7 @@ void CoADMItem::setForm(const NumberForm& form) {
 }
 
 void CoADMItem::setValue(float value) {
-    value_ = std::min(std::max(requireNumber(value), lowest_), highest_);
+    value_ = within(requireNumber(value));
     const bool shown = view_.known && !typed_ && view_.value == value_;
     const std::string shownText = view_.text;
     view_.known = true;
@@ -183,6 +184,11 @@ void CoADMItem::setValue(float value) {
     refreshText();
     // Panels set all their values whenever one may have changed: most need no painting.
     if (!shown || view_.text != shownText) changed(Aspect::Text | Aspect::Value);
+}
+
+float CoADMItem::within(double value) const {
+    const double highest = std::max(lowest_, highest_);
+    return static_cast<float>(std::clamp<double>(value, lowest_, highest));
 }
 
 void CoADMItem::setLowest(float lowest) {
@@ -273,9 +279,15 @@ void CoADMItem::handle(CoADMNotifier& notifier) {
 
 void CoADMItem::close() {
     if (std::exchange(closed_, true)) return;
+    struct Ending { // whatever the client's procedure throws, the window goes
+        CoADMItem& item;
+        ~Ending() {
+            if (item.isActive()) item.dialog_.setActive(nullptr);
+            item.peer_.reset();
+        }
+    };
+    const Ending ending{*this};
     if (procedures.destroy != nullptr) procedures.destroy(this);
-    if (isActive()) dialog_.setActive(nullptr);
-    peer_.reset();
 }
 
 } // namespace NRDM

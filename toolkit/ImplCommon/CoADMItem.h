@@ -57,6 +57,7 @@ public:
     [[nodiscard]] const std::string& tip() const noexcept { return tip_; }
     void enableTip(bool enabled);
     [[nodiscard]] bool isTipEnabled() const noexcept { return tipEnabled_; }
+    /// Tells the item, unless its dialog is still being made.
     void setBounds(const Bounds& bounds);
     /// Does Enter press it?
     void markDefault(bool isDefault);
@@ -93,8 +94,6 @@ public:
     [[nodiscard]] float smallIncrement() const;
     [[nodiscard]] float largeIncrement() const;
     [[nodiscard]] bool isOn() const noexcept { return value_ != 0; }
-    /// Has it a field whose text is a number?
-    [[nodiscard]] bool isNumeric() const noexcept { return numeric_; }
 
     /// Tells a change the way that Notifier.h describes.
     void notify(const char* type);
@@ -141,6 +140,7 @@ private:
     bool commitText(const std::string& text);
     bool commitNumber(const std::string& text);
     void refuse();
+    [[nodiscard]] float within(double value) const; ///< the limits
     void changeTo(float value, Phase phase);
 
     CoADMDialog& dialog_;

@@ -25,19 +25,24 @@ void CoADMItem::clicked() {
     if (isRefused() || !dialog_.finishTyping(*this) || isRefused()) return;
     switch (kind()) {
     case ControlKind::PushButton:
-        return notify(kADMUserChangedNotifier);
+        notify(kADMUserChangedNotifier);
+        break;
     case ControlKind::CheckBox:
-        return changeTo(isOn() && view_.known ? 0.0F : 1.0F, Phase::Complete);
+        changeTo(isOn() && view_.known ? 0.0F : 1.0F, Phase::Complete);
+        break;
     case ControlKind::RadioButton:
-        if (!isOn() || !view_.known) return changeTo(1, Phase::Complete);
-        if ((view_.style & kADMRadioAllMayBeOffStyle) != 0) changeTo(0, Phase::Complete);
-        return;
+        if (!isOn() || !view_.known)
+            changeTo(1, Phase::Complete);
+        else if ((view_.style & kADMRadioAllMayBeOffStyle) != 0)
+            changeTo(0, Phase::Complete);
+        break;
     case ControlKind::Label:
     case ControlKind::MultiLineLabel:
         return dialog_.activateNeighbour(*this);
     default:
         return;
     }
+    dialog_.returnKeyboard(); // or Space, meant for the document, would press it again
 }
 
 void CoADMItem::typed(const std::string& text) {
@@ -70,11 +75,12 @@ bool CoADMItem::commitText(const std::string& text) {
 
 bool CoADMItem::commitNumber(const std::string& text) {
     const auto number = dialog_.dialogs().numberIn(*this, text);
-    if (!number || *number < lowest_ || *number > highest_) {
+    // As it is shown: a limit itself can always be typed, however few of its decimals that takes.
+    if (!number || *number < rounded(lowest_, form_) || *number > rounded(highest_, form_)) {
         refuse();
         return false;
     }
-    changeTo(static_cast<float>(*number), Phase::Complete);
+    changeTo(within(*number), Phase::Complete);
     changed(Aspect::Text); // the number as it is written, even when it is the same
     return true;
 }
@@ -122,18 +128,14 @@ void CoADMItem::step(int steps, bool large, Phase phase) {
     const double to =
         from + steps * static_cast<double>(large ? largeIncrement() : smallIncrement());
     typed_.reset();
-    const double within = std::clamp(rounded(to, form_), static_cast<double>(lowest_),
-                                     std::max<double>(lowest_, highest_));
-    changeTo(steps == 0 ? value_ : static_cast<float>(within), phase);
+    changeTo(steps == 0 ? value_ : within(rounded(to, form_)), phase);
 }
 
 void CoADMItem::slide(double value, Phase phase) {
     const Keeper keeper(*this);
     if (isRefused()) return;
-    const double within = std::clamp(rounded(value, form_), static_cast<double>(lowest_),
-                                     std::max<double>(lowest_, highest_));
     typed_.reset();
-    changeTo(static_cast<float>(within), phase);
+    changeTo(within(rounded(value, form_)), phase);
 }
 
 void CoADMItem::choose(int position) {

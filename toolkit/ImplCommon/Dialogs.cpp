@@ -19,8 +19,8 @@ constexpr Increments kCustomaryIncrements = {1, 10};
 
 } // namespace
 
-Dialogs::Dialogs(const Theme& theme, MakePeers makePeers, void* owner)
-    : theme_(theme), owner_(owner) {
+Dialogs::Dialogs(const Themes& themes, MakePeers makePeers, void* owner)
+    : themes_(themes), owner_(owner) {
     announce(makePeers);
     if (ai::basicSuite == nullptr) return;
     static_cast<void>(panels.acquire());
@@ -63,7 +63,10 @@ CoADMDialog* Dialogs::create(const DialogRequest& request, const layout::Layout*
     try {
         if (layout != nullptr) fill(*dialog, *layout);
         dialog->open();
-        if (request.init == nullptr || request.init(dialog.get()) == kNoErr) return dialog.get();
+        if (request.init == nullptr || request.init(dialog.get()) == kNoErr) {
+            dialog->made();
+            return dialog.get();
+        }
     } catch (...) {
         destroy(*dialog);
         throw;
@@ -73,15 +76,17 @@ CoADMDialog* Dialogs::create(const DialogRequest& request, const layout::Layout*
 }
 
 int Dialogs::modal(const DialogRequest& request) {
-    CoADMDialog* const dialog = create(request);
-    if (dialog == nullptr) return 0;
+    CoADMDialog* const made = create(request);
+    if (made == nullptr) return 0;
+    const auto dialog = made->shared_from_this();
     int result = 0;
     try {
         result = dialog->run();
     } catch (...) {
-        destroy(*dialog);
+        if (!dialog->isClosed()) destroy(*dialog);
         throw;
     }
+    if (dialog->isClosed()) return 0; // and with it the toolkit, perhaps: nothing of this is left
     destroy(*dialog);
     return result;
 }

@@ -46,9 +46,9 @@ public:
     /// again at another place.
     using MakePeers = std::unique_ptr<Peers> (*)(void* owner);
 
-    /// Windows are made by what `makePeers` gives once the first dialog wants one. `theme` is kept
-    /// up to date by its owner. The host's suites are taken as far as the host has them.
-    Dialogs(const Theme& theme, MakePeers makePeers, void* owner);
+    /// Windows are made by what `makePeers` gives once the first dialog wants one. `themes` are
+    /// kept up to date by their owner. The host's suites are taken as far as the host has them.
+    Dialogs(const Themes& themes, MakePeers makePeers, void* owner);
     /// Destroys what is left.
     ~Dialogs();
     Dialogs(const Dialogs&) = delete;
@@ -69,10 +69,12 @@ public:
     /// procedure refused.
     int modal(const DialogRequest& request);
     void destroy(CoADMDialog& dialog);
+    /// Also those that run: their loops end, and answer 0 without touching anything that may have
+    /// gone meanwhile.
     void closeAll() noexcept;
 
     [[nodiscard]] Peers& peers();
-    [[nodiscard]] const Theme& theme() const noexcept { return theme_; }
+    [[nodiscard]] const Themes& themes() const noexcept { return themes_; }
     /// Tells what is in flight, inside its handler, where no caller can be told.
     void fail() noexcept;
     /// The host's colours have changed.
@@ -113,7 +115,7 @@ public:
 private:
     CoADMDialog* create(const DialogRequest& request, const layout::Layout* layout);
 
-    const Theme& theme_;
+    const Themes& themes_;
     MakePeers makePeers_ = nullptr;
     void* owner_;
     std::unique_ptr<Peers> peers_;

@@ -6,6 +6,7 @@
 #include "toolkit/ImplCommon/Exceptions.h"
 
 #include <cmath>
+#include <memory>
 
 namespace NRDM {
 namespace {
@@ -22,22 +23,52 @@ AISize sizeOf(Extent extent) {
     return {static_cast<AIReal>(extent.width), static_cast<AIReal>(extent.height)};
 }
 
-/// Runs `work` on the dialog in `panel`. The border that no exception crosses.
+/// The host calls outside any message: without a context of ours its functions fail.
+class Context {
+public:
+    Context(const Dialogs& dialogs, SPPluginRef plugin) {
+        if (!dialogs.appContext) return;
+        suite_ = &*dialogs.appContext;
+        ai::check(suite_->PushAppContext(plugin, &context_));
+    }
+    ~Context() {
+        if (context_ != nullptr) suite_->PopAppContext(context_);
+    }
+    Context(const Context&) = delete;
+    Context& operator=(const Context&) = delete;
+
+private:
+    const AIAppContextSuite* suite_ = nullptr;
+    AIAppContextHandle context_ = nullptr;
+};
+
+std::shared_ptr<CoADMDialog> dialogIn(AIPanelRef panel) {
+    for (const auto& dialog : Dialogs::current().open())
+        if (dialog->liesIn(panel)) return dialog;
+    return nullptr;
+}
+
+void nothingElse(CoADMDialog&) {}
+
+/// Runs `work` on the dialog in `panel`, which may close all dialogs. The border that no exception
+/// crosses.
 template <typename Work> void serve(AIPanelRef panel, Work work) noexcept {
     try {
-        Dialogs& dialogs = Dialogs::current();
         try {
-            AIPanelUserData data = nullptr;
-            ai::check(requirePanels(dialogs).GetUserData(panel, data));
-            const auto dialog = static_cast<CoADMDialog*>(data)->shared_from_this();
-            if (!dialog->isClosed()) work(*dialog);
+            const auto dialog = dialogIn(panel);
+            if (!dialog) return;
+            const Context context(dialog->dialogs(), dialog->plugin());
+            dialog->followHost();
+            work(*dialog);
         } catch (...) {
-            dialogs.fail();
+            Dialogs::current().fail();
         }
     } catch (const NRDMResourceException&) {
         return; // the toolkit has ended, and its panels with it
     }
 }
+
+void visibilityChanged(AIPanelRef panel, AIBoolean) { serve(panel, nothingElse); }
 
 void sizeChanged(AIPanelRef panel) {
     serve(panel, [=](CoADMDialog& dialog) {
@@ -60,9 +91,9 @@ void menuOpens(AIPanelRef panel) {
 
 void menuClosed(AIPanelRef panel, ai::uint32 chosen) {
     serve(panel, [=](CoADMDialog& dialog) {
-        CoADMItem& menu = *dialog.item(kADMMenuItemID);
-        menu.choose(NRDMPanelMenu::positionOf(chosen));
-        if (!menu.isClosed()) menu.list()->choose(nullptr); // no entry looks chosen next time
+        const auto menu = dialog.item(kADMMenuItemID)->shared_from_this();
+        menu->choose(NRDMPanelMenu::positionOf(chosen));
+        if (!menu->isClosed()) menu->list()->choose(nullptr); // no entry looks chosen next time
     });
 }
 
@@ -70,10 +101,12 @@ void menuClosed(AIPanelRef panel, ai::uint32 chosen) {
 
 HostPanel::HostPanel(CoADMDialog& dialog) : suite_(requirePanels(dialog.dialogs())) {
     const DialogView& view = dialog.view();
-    const AIErr err = suite_.Create(dialog.plugin(), ai::UnicodeString(dialog.name()),
-                                    ai::UnicodeString(view.title), kStates, sizeOf(view.size),
-                                    /*resizable*/ false, /*menu*/ nullptr, &dialog, panel_);
+    const AIErr err =
+        suite_.Create(dialog.plugin(), ai::UnicodeString(dialog.name()),
+                      ai::UnicodeString(view.title), kStates, sizeOf(view.size),
+                      /*resizable*/ false, /*menu*/ nullptr, /*data*/ nullptr, panel_);
     if (err != kNoErr) throw NRDMResourceException();
+    suite_.SetVisibilityChangedNotifyProc(panel_, visibilityChanged);
     suite_.SetSizeChangedNotifyProc(panel_, sizeChanged);
     suite_.SetStateChangedNotifyProc(panel_, stateChanged);
     suite_.SetFlyoutMenuPreVisibilityProc(panel_, menuOpens);

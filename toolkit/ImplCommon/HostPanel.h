@@ -12,7 +12,8 @@ class CoADMDialog;
 
 /// The host's panel that a dialog lies in: its frame, tab, place on the screen and flyout menu.
 ///
-/// The host tells of its changes outside any message:
+/// The host tells of its changes outside any message. Each time the dialog first makes sure that it
+/// still lies in the panel's window (`CoADMDialog::followHost`). Then:
 /// - another state: the dialog is notified as if its size had been cycled;
 /// - another size: the dialog takes it over, and is notified when it did not ask for it;
 /// - before the menu opens: the menu item's track procedure brings the entries up to date;
@@ -26,7 +27,10 @@ public:
     HostPanel(const HostPanel&) = delete;
     HostPanel& operator=(const HostPanel&) = delete;
 
-    /// What the dialog's window lies in; null where there are no windows.
+    [[nodiscard]] bool is(AIPanelRef panel) const noexcept { return panel == panel_; }
+
+    /// What the dialog's window lies in; null where there are no windows. A host may destroy it and
+    /// make another.
     [[nodiscard]] void* window() const;
 
     void setTitle(const std::string& title);

@@ -212,6 +212,7 @@ struct DialogView {
     bool visible = false;
     bool enabled = true;
     void* parent = nullptr; ///< the window it belongs to: a modal dialog's owner, a panel's host
+    void* keyboardOwner = nullptr; ///< of a panel: gets the keyboard when nobody had it before
 };
 
 /// What a user does to a dialog.
@@ -237,15 +238,25 @@ public:
 
     virtual std::unique_ptr<ItemPeer> createItem(const ItemView& view, ItemEvents& events) = 0;
 
+    /// Takes the window away, after those of the items, and ends a loop that runs. The object may
+    /// be on the stack meanwhile, and does nothing more.
+    virtual void close() noexcept = 0;
+    /// False once somebody else has taken the window away, as a host does with what lies in its
+    /// own.
+    [[nodiscard]] virtual bool isAlive() const = 0;
+
     /// Title, size, visible and enabled are taken from the view anew.
     virtual void changed() = 0;
     virtual void invalidate() = 0;
     virtual void invalidate(const Bounds& area) = 0;
     virtual void update() = 0;
     virtual void activate() = 0;
+    /// A panel that has the keyboard gives it back to whoever had it before, as a rule the
+    /// document.
+    virtual void returnKeyboard() = 0;
 
-    /// Shows the dialog with its owner disabled, and serves events until `endModal`; whatever the
-    /// events of this dialog threw comes out here.
+    /// Shows the dialog with all other windows of the thread disabled, and serves events until
+    /// `endModal`; whatever the events of this dialog threw comes out here.
     virtual void runModal() = 0;
 
     /// Lets `runModal` return once the event in progress has been dealt with. False when no loop
@@ -289,11 +300,11 @@ public:
     virtual void themeChanged() = 0;
 };
 
-struct Theme;
+struct Themes;
 
 /// What the makers of windows take from the toolkit.
 struct Surroundings {
-    const Theme& theme;      ///< kept up to date while the peers live
+    const Themes& themes;    ///< kept up to date while the peers live
     SPPluginRef plugin;      ///< whose resources hold the pictures
     void (*fail)() noexcept; ///< for `Peers::fail`
 };

@@ -27,11 +27,14 @@ public:
     std::unique_ptr<ItemPeer> createItem(const ItemView&, ItemEvents&) override {
         return std::make_unique<HeadlessItem>();
     }
+    void close() noexcept override {}
+    [[nodiscard]] bool isAlive() const override { return true; }
     void changed() override {}
     void invalidate() override {}
     void invalidate(const Bounds&) override {}
     void update() override {}
     void activate() override {}
+    void returnKeyboard() override {}
     void runModal() override { events_.closeRequested(); }
     bool endModal() override { return true; }
     void startTimer(int, int) override {}

@@ -12,4 +12,7 @@ namespace NRDM {
 /// The main screen without what the system keeps of it.
 [[nodiscard]] Bounds workspaceBounds();
 
+/// Where the pointer is.
+[[nodiscard]] Place pointer();
+
 } // namespace NRDM

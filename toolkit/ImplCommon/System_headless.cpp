@@ -6,4 +6,6 @@ Bounds screenAt(Place) { return {}; }
 
 Bounds workspaceBounds() { return {}; }
 
+Place pointer() { return {}; }
+
 } // namespace NRDM

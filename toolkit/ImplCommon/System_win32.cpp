@@ -25,4 +25,10 @@ Bounds workspaceBounds() {
     return boundsOf(area);
 }
 
+Place pointer() {
+    POINT at{};
+    GetCursorPos(&at);
+    return {static_cast<int>(at.x), static_cast<int>(at.y)};
+}
+
 } // namespace NRDM

@@ -1,13 +1,10 @@
 #pragma once
 
 #include "host/suites/AIUIThemeSuite.h"
-#include "toolkit/suites/ADMTypes.h"
-
-#include <optional>
 
 namespace NRDM {
 
-/// The host's interface colours, as the toolkit's controls are drawn in them.
+/// The host's interface colours for one kind of window.
 struct Theme {
     AIUIThemeColor background{1, 0.84F, 0.84F, 0.84F};
     AIUIThemeColor text{1, 0.1F, 0.1F, 0.1F};
@@ -17,7 +14,12 @@ struct Theme {
     bool dark = false; ///< Pictures are taken from their dark variants.
 };
 
-/// One of ADM's numbered colours in `theme`; nothing for numbers without a colour.
-[[nodiscard]] std::optional<ADMRGBColor> colourOf(ADMColor colour, const Theme& theme);
+/// The host gives its panels colours of their own.
+struct Themes {
+    Theme dialogs;
+    Theme panels;
+
+    [[nodiscard]] const Theme& of(bool panel) const noexcept { return panel ? panels : dialogs; }
+};
 
 } // namespace NRDM

@@ -67,7 +67,7 @@ void setColour(ADMDrawerRef drawer, const ADMRGBColor* colour) {
     const auto& [red, green, blue] = objectOf(colour);
     objectOf(drawer).setColour(Colour{part(red), part(green), part(blue)});
 }
-ADMColor admColour(CoADMDrawer& drawer) { return static_cast<ADMColor>(drawer.admColour()); }
+ADMColor colourNumber(CoADMDrawer& drawer) { return static_cast<ADMColor>(drawer.admColour()); }
 void setADMColour(CoADMDrawer& drawer, ADMColor colour) {
     drawer.setColour(static_cast<int>(colour));
 }
@@ -163,7 +163,7 @@ const ADMDrawerSuite kDrawerSuite = {
     .SetOrigin = setOrigin,
     .GetRGBColor = getColour,
     .SetRGBColor = setColour,
-    .GetADMColor = call<&admColour>,
+    .GetADMColor = call<&colourNumber>,
     .SetADMColor = call<&setADMColour>,
     .GetDrawMode = stub<"GetDrawMode">,
     .SetDrawMode = stub<"SetDrawMode">,

@@ -9,36 +9,12 @@ namespace NRDM {
 namespace {
 
 constexpr int kNotGiven = 254;
-constexpr Colour kBlack{0, 0, 0};
-constexpr Colour kWhite{255, 255, 255};
-constexpr Colour kRed{214, 48, 49};
-
-/// ADM's colours in the order of their numbers.
-std::array<Colour, 17> admColours(const Palette& palette) {
-    return {kBlack,
-            kWhite,
-            palette.accent,
-            palette.onAccent,
-            palette.light,
-            palette.background,
-            palette.shadow,
-            palette.dimText,
-            palette.face,
-            palette.facePressed,
-            palette.shadow,
-            palette.tip,
-            palette.text,
-            palette.field,
-            palette.text,
-            palette.text,
-            kRed};
-}
-
 } // namespace
 
 CoADMDrawer::CoADMDrawer(Screen& screen, Surface& surface, Scale scale, bool inPanel)
-    : screen_(screen), surface_(surface), scale_(scale), inPanel_(inPanel),
-      panelBackground_(inPanel), update_(surface.clip()), colour_(screen.palette.text) {}
+    : screen_(screen), palette_(screen.palettes.of(inPanel)), surface_(surface), scale_(scale),
+      inPanel_(inPanel), panelBackground_(inPanel), update_(surface.clip()),
+      colour_(palette_.text) {}
 
 RECT CoADMDrawer::toPixels(const Bounds& bounds) const {
     return scale_.toPixels(RECT{bounds.left + origin_.x, bounds.top + origin_.y,
@@ -84,15 +60,13 @@ void CoADMDrawer::setColour(Colour colour) noexcept {
     admColour_ = kNotGiven;
 }
 
-void CoADMDrawer::setColour(int admColour) {
-    const auto colours = admColours(screen_.palette);
-    const bool known = admColour >= 0 && admColour < static_cast<int>(colours.size());
-    colour_ = known ? colours[static_cast<std::size_t>(admColour)] : kBlack;
-    admColour_ = admColour;
+void CoADMDrawer::setColour(int number) {
+    colour_ = NRDM::admColour(number, palette_).value_or(Colour{});
+    admColour_ = number;
 }
 
 void CoADMDrawer::clear(const Bounds& area) {
-    NRDM::fillRect(surface_, toPixels(area), screen_.palette.background);
+    NRDM::fillRect(surface_, toPixels(area), screen_.palettes.of(panelBackground_).background);
 }
 
 void CoADMDrawer::drawLine(Place from, Place to) {
@@ -125,15 +99,15 @@ void CoADMDrawer::edge(const RECT& area, Colour topLeft, Colour bottomRight) {
     NRDM::fillRect(surface_, {area.left, area.top, area.right - line, area.bottom - line}, topLeft);
     NRDM::fillRect(surface_,
                    {area.left + line, area.top + line, area.right - line, area.bottom - line},
-                   screen_.palette.background);
+                   palette_.background);
 }
 
 void CoADMDrawer::drawSunkenRect(const Bounds& rect) {
-    edge(toPixels(rect), screen_.palette.shadow, screen_.palette.light);
+    edge(toPixels(rect), palette_.shadow, palette_.light);
 }
 
 void CoADMDrawer::drawRaisedRect(const Bounds& rect) {
-    edge(toPixels(rect), screen_.palette.light, screen_.palette.shadow);
+    edge(toPixels(rect), palette_.light, palette_.shadow);
 }
 
 void CoADMDrawer::drawOval(const Bounds& rect) {
@@ -200,9 +174,8 @@ void CoADMDrawer::drawArrow(const Bounds& rect, Arrow arrow) {
 
 void CoADMDrawer::drawPicture(int id, Place corner) {
     const auto [x, y] = toPixels(corner);
-    screen_.pictures.draw(surface_, id, screen_.palette.dark, scale_,
-                          static_cast<int>(std::lround(x)), static_cast<int>(std::lround(y)),
-                          Pictures::Tint::None);
+    screen_.pictures.draw(surface_, id, palette_.dark, scale_, static_cast<int>(std::lround(x)),
+                          static_cast<int>(std::lround(y)), Pictures::Tint::None);
 }
 
 void CoADMDrawer::drawPictureCentred(int id, const Bounds& rect) {
@@ -228,7 +201,7 @@ void CoADMDrawer::drawImage(Surface& image, Place corner) {
 }
 
 Extent CoADMDrawer::pictureSize(int id) const {
-    const SIZE size = screen_.pictures.size(id, screen_.palette.dark);
+    const SIZE size = screen_.pictures.size(id, palette_.dark);
     return {static_cast<int>(size.cx), static_cast<int>(size.cy)};
 }
 

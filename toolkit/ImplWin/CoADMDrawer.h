@@ -48,14 +48,14 @@ public:
     [[nodiscard]] Colour colour() const noexcept { return colour_; }
 
     /// One of ADM's colours, 0..16, as the interface has it now; others are black.
-    void setColour(int admColour);
+    void setColour(int number);
     /// 254, "not given", after a colour of the caller's own.
     [[nodiscard]] int admColour() const noexcept { return admColour_; }
 
     void setFont(int font) noexcept { font_ = font; }
     [[nodiscard]] int font() const noexcept { return font_; }
 
-    /// Dialogs and panels have the same background here; the choice is only kept.
+    /// Which background `clear` leaves: at first that of the window drawn in.
     void usePanelBackground(bool used) noexcept { panelBackground_ = used; }
     [[nodiscard]] bool usesPanelBackground() const noexcept { return panelBackground_; }
 
@@ -96,6 +96,7 @@ private:
     void edge(const RECT& area, Colour topLeft, Colour bottomRight);
 
     Screen& screen_;
+    const Palette& palette_;
     Surface& surface_;
     Scale scale_;
     bool inPanel_;

@@ -142,7 +142,7 @@ LRESULT EditField::serve(UINT message, WPARAM wide, LPARAM lengthy) {
     const LRESULT answer = drawsOutOfTurn(message) ? serveSilently(message, wide, lengthy)
                                                    : HWNDBased::serve(message, wide, lengthy);
     if ((message == WM_SETFOCUS || message == WM_KILLFOCUS) && !alive.expired())
-        owner_.fieldFocus(message == WM_SETFOCUS);
+        owner_.fieldFocus(message == WM_SETFOCUS, reinterpret_cast<HWND>(wide));
     return answer;
 }
 

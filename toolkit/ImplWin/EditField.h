@@ -13,9 +13,11 @@ public:
     /// A key goes to the owner first; true when it had a use for it.
     virtual bool fieldMessage(UINT message, WPARAM wide, LPARAM lengthy) = 0;
     virtual void fieldChanged() = 0;
-    virtual void fieldFocus(bool taken) = 0;
+    /// The focus came from `other`, or went there; null where the system does not tell.
+    virtual void fieldFocus(bool taken, HWND other) = 0;
     virtual void fieldFailed() noexcept = 0;
     [[nodiscard]] virtual FaceState fieldState() const = 0;
+    [[nodiscard]] virtual const Palette& fieldPalette() const = 0;
 
 protected:
     ~EditFieldOwner() = default;
@@ -53,6 +55,7 @@ protected:
     void paint(const Canvas& canvas, const RECT& area) override;
     void failed() noexcept override { owner_.fieldFailed(); }
     [[nodiscard]] Scale scale() const override { return scale_; }
+    [[nodiscard]] const Palette& palette() const override { return owner_.fieldPalette(); }
 
 private:
     /// All that can be seen of the edit.

@@ -1,45 +1,68 @@
 #include "toolkit/ImplWin/HWNDBased.h"
 
 #include "toolkit/ImplCommon/Exceptions.h"
+#include "toolkit/ImplWin/WindowClass.h"
 
 #include <utility>
 
 namespace NRDM {
+
+/// What a window of ours has as its property, from its creation to its end; the object may go
+/// before, and the window still gets its last messages.
+struct HWNDBased::Bond {
+    HWNDBased* object;
+    WNDPROC classProcedure;
+
+    static Bond* of(HWND window) noexcept {
+        return static_cast<Bond*>(GetPropW(window, WindowClass::ofLibrary().property()));
+    }
+};
 
 HWNDBased::~HWNDBased() { destroy(); }
 
 void HWNDBased::destroy() noexcept {
     if (window_ == nullptr) return;
     const HWND window = std::exchange(window_, nullptr);
-    SetWindowLongPtrW(window, GWLP_USERDATA, 0);
-    if (classProcedure_ != nullptr)
-        SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(classProcedure_));
+    if (Bond* const bond = Bond::of(window)) bond->object = nullptr;
     DestroyWindow(window);
 }
 
 void HWNDBased::create(const Plan& plan) {
     const auto& [systemClass, title, style, extendedStyle, place, parent, id] = plan;
-    window_ = CreateWindowExW(extendedStyle, systemClass ? systemClass : screen_.windowClass.name(),
-                              title, style, place.left, place.top, place.right - place.left,
-                              place.bottom - place.top, parent, reinterpret_cast<HMENU>(id),
-                              WindowClass::library(), nullptr);
+    window_ = CreateWindowExW(
+        extendedStyle, systemClass ? systemClass : WindowClass::ofLibrary().name(), title, style,
+        place.left, place.top, place.right - place.left, place.bottom - place.top, parent,
+        reinterpret_cast<HMENU>(id), WindowClass::library(), nullptr);
     if (window_ == nullptr) throw NRDMResourceException();
-    SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     if (systemClass)
-        classProcedure_ = reinterpret_cast<WNDPROC>(
-            SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
+        classProcedure_ = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(window_, GWLP_WNDPROC));
+    auto bond = std::make_unique<Bond>(Bond{this, classProcedure_});
+    if (SetPropW(window_, WindowClass::ofLibrary().property(), bond.get()) == FALSE) {
+        DestroyWindow(std::exchange(window_, nullptr));
+        throw NRDMResourceException();
+    }
+    static_cast<void>(bond.release()); // the window's last message ends it
+    if (systemClass)
+        SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
 }
 
 HWNDBased* HWNDBased::objectOf(HWND window) noexcept {
-    const auto current = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(window, GWLP_WNDPROC));
-    if (current != procedure) return nullptr; // somebody else's window keeps what it likes there
-    return reinterpret_cast<HWNDBased*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    const Bond* const bond = Bond::of(window);
+    return bond != nullptr ? bond->object : nullptr;
 }
 
 LRESULT CALLBACK HWNDBased::procedure(HWND window, UINT message, WPARAM wide, LPARAM lengthy) {
-    auto* const self = reinterpret_cast<HWNDBased*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (self == nullptr || self->window_ == nullptr)
-        return DefWindowProcW(window, message, wide, lengthy);
+    Bond* const bond = Bond::of(window);
+    if (bond == nullptr) return DefWindowProcW(window, message, wide, lengthy);
+    const WNDPROC classProcedure = bond->classProcedure;
+    HWNDBased* const self = bond->object;
+    if (message == WM_NCDESTROY) { // also when its parent takes it along
+        const std::unique_ptr<Bond> ended(bond);
+        RemovePropW(window, WindowClass::ofLibrary().property());
+        if (self != nullptr) self->window_ = nullptr;
+        return CallWindowProcW(classProcedure, window, message, wide, lengthy);
+    }
+    if (self == nullptr) return CallWindowProcW(classProcedure, window, message, wide, lengthy);
     const std::weak_ptr<const char> watch = self->watch();
     try {
         switch (message) {
@@ -47,11 +70,6 @@ LRESULT CALLBACK HWNDBased::procedure(HWND window, UINT message, WPARAM wide, LP
             return TRUE; // painting covers everything
         case WM_PAINT:
             return self->servePaint();
-        case WM_NCDESTROY: // its parent took it along
-            self->window_ = nullptr;
-            return self->classProcedure_ != nullptr
-                       ? CallWindowProcW(self->classProcedure_, window, message, wide, lengthy)
-                       : DefWindowProcW(window, message, wide, lengthy);
         default:
             return self->serve(message, wide, lengthy);
         }
@@ -62,13 +80,11 @@ LRESULT CALLBACK HWNDBased::procedure(HWND window, UINT message, WPARAM wide, LP
 }
 
 LRESULT HWNDBased::serve(UINT message, WPARAM wide, LPARAM lengthy) {
-    return classProcedure_ != nullptr
-               ? CallWindowProcW(classProcedure_, window_, message, wide, lengthy)
-               : DefWindowProcW(window_, message, wide, lengthy);
+    return CallWindowProcW(classProcedure_, window_, message, wide, lengthy);
 }
 
 void HWNDBased::failed() noexcept {
-    if (screen_.failed) screen_.failed();
+    if (screen_->failed) screen_->failed();
 }
 
 RECT HWNDBased::client() const {
@@ -98,7 +114,7 @@ void HWNDBased::paintOn(HDC target, const RECT& marked) {
     if (IsRectEmpty(&area) || IsRectEmpty(&marked)) return;
     Surface surface({area.right, area.bottom});
     surface.setClip(marked);
-    const Canvas canvas{surface, screen_.palette, scale()};
+    const Canvas canvas{surface, palette(), scale()};
     drawBackground(canvas, area);
     paint(canvas, area);
     surface.copyTo(target, marked);

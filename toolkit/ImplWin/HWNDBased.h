@@ -10,6 +10,10 @@ namespace NRDM {
 ///
 /// Messages arrive at `serve`; an exception there ends at `failed`. While a message is served the
 /// model may destroy the window's object: whoever calls out and goes on afterwards asks `watch()`.
+///
+/// Others may hook themselves in before our procedure, as the host and its other plug-ins do. So a
+/// window's object is found through a property of the window, never by comparing procedures; and a
+/// procedure once put in stays until the window ends, or the hooks after it would be cut off.
 class HWNDBased {
 public:
     virtual ~HWNDBased();
@@ -17,7 +21,7 @@ public:
     HWNDBased& operator=(const HWNDBased&) = delete;
 
     [[nodiscard]] HWND handle() const noexcept { return window_; }
-    [[nodiscard]] Screen& screen() const noexcept { return screen_; }
+    [[nodiscard]] Screen& screen() const noexcept { return *screen_; }
     [[nodiscard]] RECT client() const;
 
     /// Marks the whole window for painting, or `area` of it.
@@ -41,7 +45,7 @@ protected:
         INT_PTR id = 0;
     };
 
-    explicit HWNDBased(Screen& screen) : screen_(screen) {}
+    explicit HWNDBased(Screen& screen) : screen_(screen.shared_from_this()) {}
 
     /// Throws `NRDMResourceException`.
     void create(const Plan& plan);
@@ -58,7 +62,8 @@ protected:
     /// Called inside the handler of an exception that `serve` let out.
     virtual void failed() noexcept;
 
-    [[nodiscard]] virtual Scale scale() const { return screen_.scaleFor(window_); }
+    [[nodiscard]] virtual Scale scale() const = 0;
+    [[nodiscard]] virtual const Palette& palette() const = 0;
 
     /// Expired as soon as this object is gone.
     [[nodiscard]] std::weak_ptr<const char> watch() const { return life_; }
@@ -67,11 +72,13 @@ protected:
     void paintOn(HDC target, const RECT& marked);
 
 private:
+    struct Bond;
+
     LRESULT servePaint();
 
-    Screen& screen_;
+    std::shared_ptr<Screen> screen_;
     HWND window_ = nullptr;
-    WNDPROC classProcedure_ = nullptr; ///< of a system class
+    WNDPROC classProcedure_ = DefWindowProcW; ///< what the window's class does
     std::shared_ptr<const char> life_ = std::make_shared<const char>();
 };
 

@@ -4,7 +4,7 @@
 /// whole pixels. Each function draws one part and knows nothing of windows or items. Rectangles are
 /// pixels of the surface.
 
-#include "toolkit/ImplWin/Palette.h"
+#include "toolkit/ImplCommon/Palette.h"
 #include "toolkit/ImplWin/Scale.h"
 #include "toolkit/ImplWin/Shapes.h"
 #include "toolkit/ImplWin/Surface.h"

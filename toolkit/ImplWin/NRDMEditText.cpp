@@ -184,11 +184,8 @@ bool NRDMEditText::fieldMessage(UINT message, WPARAM wide, LPARAM lengthy) {
     case WM_SYSCHAR:
     case WM_CHAR:
         return dialog().dialogKey(message, wide);
-    case WM_MOUSEWHEEL: {
-        const int steps = GET_WHEEL_DELTA_WPARAM(wide) / WHEEL_DELTA;
-        if (steps != 0 && !popup_) step(steps, held(VK_SHIFT));
-        return true;
-    }
+    case WM_MOUSEWHEEL:
+        return serveWheel(wide);
     default:
         return false;
     }
@@ -199,14 +196,18 @@ void NRDMEditText::fieldChanged() {
     events().typed(toUtf8(field_.text()));
 }
 
-void NRDMEditText::fieldFocus(bool taken) {
+void NRDMEditText::fieldFocus(bool taken, HWND other) {
     const std::weak_ptr<const char> alive = watch();
     repaint();
-    if (!taken) {
+    if (taken) {
+        dialog().focusCame(other);
+    } else {
         if (popup_) popup_->close();
-        if (!commit()) {
-            // Windows is in the middle of moving the focus: it comes back once that is done.
-            if (!alive.expired()) PostMessageW(handle(), kFocusAgain, 0, 0);
+        // In a panel the last good value is back and the user has gone on to something else. A
+        // dialog asks once more; Windows is in the middle of moving the focus, which comes back
+        // once that is done.
+        if (!commit() && !alive.expired() && !dialog().inPanel()) {
+            PostMessageW(handle(), kFocusAgain, 0, 0);
             return;
         }
     }
@@ -298,6 +299,7 @@ LRESULT NRDMEditText::serve(UINT message, WPARAM wide, LPARAM lengthy) {
             events().step(pressed_ == Part::Up ? 1 : -1, held(VK_SHIFT), Phase::InProgress);
         return 0;
     case WM_SETFOCUS:
+        dialog().focusCame(reinterpret_cast<HWND>(wide));
         SetFocus(field_.handle());
         return 0;
     case kFocusAgain:

@@ -22,6 +22,8 @@ protected:
     LRESULT serve(UINT message, WPARAM wide, LPARAM lengthy) override;
     void paint(const Canvas& canvas, const RECT& area) override;
     [[nodiscard]] HWND focusWindow() const override { return field_.handle(); }
+    void wheel(int steps) override { step(steps, GetKeyState(VK_SHIFT) < 0); }
+    [[nodiscard]] bool takesWheel() const override { return hasFocus() && !popup_; }
 
 private:
     /// The parts beside the field; `None` is the field and its border.
@@ -29,9 +31,10 @@ private:
 
     bool fieldMessage(UINT message, WPARAM wide, LPARAM lengthy) override;
     void fieldChanged() override;
-    void fieldFocus(bool taken) override;
+    void fieldFocus(bool taken, HWND other) override;
     void fieldFailed() noexcept override { failed(); }
     [[nodiscard]] FaceState fieldState() const override { return state(); }
+    [[nodiscard]] const Palette& fieldPalette() const override { return palette(); }
 
     [[nodiscard]] bool spins() const;
     [[nodiscard]] bool slides() const;

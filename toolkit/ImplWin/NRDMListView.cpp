@@ -226,9 +226,8 @@ bool NRDMListView::key(WPARAM key) {
     return entry || up || key == VK_DOWN;
 }
 
-bool NRDMListView::wheel(int steps) {
+void NRDMListView::wheel(int steps) {
     if (rows_.scrollBy(-steps * scale().toPixels(36), inside(), scale())) repaint();
-    return true;
 }
 
 void NRDMListView::paint(const Canvas& canvas, const RECT& area) {

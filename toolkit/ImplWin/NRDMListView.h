@@ -66,7 +66,8 @@ public:
 protected:
     LRESULT serve(UINT message, WPARAM wide, LPARAM lengthy) override;
     bool key(WPARAM key) override;
-    bool wheel(int steps) override;
+    void wheel(int steps) override;
+    [[nodiscard]] bool takesWheel() const override { return true; } // scrolls, and chooses nothing
     void paint(const Canvas& canvas, const RECT& area) override;
     [[nodiscard]] bool reactsToPointer() const override { return false; }
 

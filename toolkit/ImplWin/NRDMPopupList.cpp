@@ -63,11 +63,7 @@ bool NRDMPopupList::key(WPARAM key) {
     return entry.has_value();
 }
 
-bool NRDMPopupList::wheel(int steps) {
-    if (popup_) return false;
-    chooseBeside(steps > 0 ? -1 : 1);
-    return true;
-}
+void NRDMPopupList::wheel(int steps) { chooseBeside(steps > 0 ? -1 : 1); }
 
 void NRDMPopupList::paint(const Canvas& canvas, const RECT& area) {
     FaceState now = state();

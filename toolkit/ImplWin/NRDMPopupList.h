@@ -12,7 +12,8 @@ public:
 protected:
     LRESULT serve(UINT message, WPARAM wide, LPARAM lengthy) override;
     bool key(WPARAM key) override;
-    bool wheel(int steps) override;
+    void wheel(int steps) override;
+    [[nodiscard]] bool takesWheel() const override { return hasFocus() && !popup_; }
     void paint(const Canvas& canvas, const RECT& area) override;
 
 private:

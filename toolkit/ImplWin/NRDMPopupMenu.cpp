@@ -16,7 +16,7 @@ NRDMPopupMenu::NRDMPopupMenu(NativeDialog& dialog, const ItemView& view, ItemEve
 void NRDMPopupMenu::open() {
     if (menu_ != nullptr || view().entries.empty()) return;
     const std::weak_ptr<const char> alive = watch();
-    const NRDMNativeMenu menu(view().entries, textStyle(), screen().palette.menu);
+    const NRDMNativeMenu menu(view().entries, textStyle(), palette().menu);
     menu_ = &menu;
     repaint();
     RECT place{};
@@ -31,8 +31,7 @@ void NRDMPopupMenu::open() {
 }
 
 LRESULT NRDMPopupMenu::serve(UINT message, WPARAM wide, LPARAM lengthy) {
-    if (menu_ != nullptr && menu_->notified(screen().palette, scale(), message, lengthy))
-        return TRUE;
+    if (menu_ != nullptr && menu_->notified(palette(), scale(), message, lengthy)) return TRUE;
     const std::weak_ptr<const char> alive = watch();
     const LRESULT answer = NativeItem::serve(message, wide, lengthy);
     if (message == WM_LBUTTONDOWN && !alive.expired()) {

@@ -105,9 +105,11 @@ LRESULT NRDMSlider::serve(UINT message, WPARAM wide, LPARAM lengthy) {
         if (alive.expired()) return 0;
     }
     const LRESULT answer = NativeItem::serve(message, wide, lengthy);
-    if (!alive.expired() && drag_.serve(handle(), message, lengthy, client(), scale()) &&
-        !alive.expired() && message != WM_MOUSEMOVE)
-        repaint(); // pressed or no longer
+    if (alive.expired() || !drag_.serve(handle(), message, lengthy, client(), scale()) ||
+        alive.expired() || message == WM_MOUSEMOVE)
+        return answer;
+    repaint(); // pressed or no longer
+    if (!drag_.dragging()) dialog().returnKeyboard();
     return answer;
 }
 
@@ -118,11 +120,10 @@ bool NRDMSlider::key(WPARAM key) {
     return true;
 }
 
-bool NRDMSlider::wheel(int steps) {
+void NRDMSlider::wheel(int steps) {
     const double value =
         std::clamp(view().value + steps * view().smallIncrement, view().lowest, view().highest);
     if (value != view().value) events().slide(value, Phase::Complete);
-    return true;
 }
 
 void NRDMSlider::paint(const Canvas& canvas, const RECT& area) {

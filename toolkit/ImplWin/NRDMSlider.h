@@ -49,7 +49,8 @@ public:
 protected:
     LRESULT serve(UINT message, WPARAM wide, LPARAM lengthy) override;
     bool key(WPARAM key) override;
-    bool wheel(int steps) override;
+    void wheel(int steps) override;
+    [[nodiscard]] bool takesWheel() const override { return hasFocus(); }
     void paint(const Canvas& canvas, const RECT& area) override;
 
 private:

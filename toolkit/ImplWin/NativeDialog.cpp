@@ -19,7 +19,7 @@ struct StyleRow {
 /// In the order of `DialogKind`.
 constexpr StyleRow kStyles[] = {
     {WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN, WS_EX_DLGMODALFRAME},
-    {WS_CHILD | WS_CLIPCHILDREN, 0},
+    {WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, 0},
     {WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN, WS_EX_TOOLWINDOW},
 };
 
@@ -31,21 +31,52 @@ bool alwaysShowsCues() {
     return shown != FALSE;
 }
 
+/// WM_DPICHANGED_AFTERPARENT, which only newer systems send: to the children of a window that has
+/// got another scale.
+constexpr UINT kDpiChangedAfterParent = 0x02E3;
+
 bool held(int key) { return GetKeyState(key) < 0; }
+
+/// What the system keeps free of the display that `window` is on, or of the main one.
+RECT workAreaOf(HWND window) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof(monitor);
+    GetMonitorInfoW(MonitorFromWindow(window, window != nullptr ? MONITOR_DEFAULTTONEAREST
+                                                                : MONITOR_DEFAULTTOPRIMARY),
+                    &monitor);
+    return monitor.rcWork;
+}
+
+bool canHaveKeyboard(HWND window) {
+    return window != nullptr && IsWindowVisible(window) != FALSE &&
+           IsWindowEnabled(window) != FALSE &&
+           IsWindowEnabled(GetAncestor(window, GA_ROOT)) != FALSE;
+}
 
 } // namespace
 
-NativeDialog::NativeDialog(Screen& screen, const DialogView& view, DialogEvents& events)
-    : HWNDBased(screen), view_(view), events_(events),
-      scale_(screen.scaleFor(static_cast<HWND>(view.parent))), tips_(screen),
-      keyboardCues_(alwaysShowsCues()) {
-    createWindow();
-    screen.dialogs.push_back(handle());
+POINT centredWithin(const RECT& around, const RECT& work, SIZE size) {
+    return {std::clamp((around.left + around.right - size.cx) / 2, work.left,
+                       std::max(work.left, work.right - size.cx)),
+            std::clamp((around.top + around.bottom - size.cy) / 2, work.top,
+                       std::max(work.top, work.bottom - size.cy))};
 }
 
-NativeDialog::~NativeDialog() {
-    std::erase(screen().dialogs, handle());
+NativeDialog::NativeDialog(Screen& screen, const DialogView& view, DialogEvents& events)
+    : HWNDBased(screen), view_(view), events_(events),
+      scale_(screen.scaleFor(static_cast<HWND>(view.parent))), tips_(*this),
+      keyboardCues_(alwaysShowsCues()) {
+    createWindow();
+    screen.dialogs.push_back(this);
+}
+
+NativeDialog::~NativeDialog() { close(); }
+
+void NativeDialog::close() noexcept {
+    std::erase(screen().dialogs, this);
     tips_.close();
+    if (std::exchange(running_, false)) // its loop may be waiting for the next message
+        PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0);
     destroy();
 }
 
@@ -64,23 +95,19 @@ void NativeDialog::createWindow() {
 }
 
 /// A panel fills the corner of its host's window; anything else stands in the middle of its owner,
-/// or of the screen.
+/// or of the display, and whole on the display that its owner is on.
 RECT NativeDialog::windowRect() const {
     RECT rect{0, 0, scale_.toPixels(view_.size.width), scale_.toPixels(view_.size.height)};
     if (inPanel()) return rect;
     const auto& [style, extended] = styleOf(view_.kind);
-    AdjustWindowRectEx(&rect, style, FALSE, extended);
-    RECT around{};
     const HWND owner = static_cast<HWND>(view_.parent);
-    SystemParametersInfoW(SPI_GETWORKAREA, 0, &around, 0);
-    const RECT work = around;
+    rect = withFrame(rect, style, extended, handle() != nullptr ? handle() : owner);
+    const RECT work = workAreaOf(owner);
+    RECT around = work;
     if (owner != nullptr && IsWindowVisible(owner)) GetWindowRect(owner, &around);
     const LONG width = rect.right - rect.left;
     const LONG height = rect.bottom - rect.top;
-    const LONG left = std::clamp((around.left + around.right - width) / 2, work.left,
-                                 std::max(work.left, work.right - width));
-    const LONG top = std::clamp((around.top + around.bottom - height) / 2, work.top,
-                                std::max(work.top, work.bottom - height));
+    const auto [left, top] = centredWithin(around, work, {width, height});
     return {left, top, left + width, top + height};
 }
 
@@ -88,21 +115,24 @@ std::unique_ptr<ItemPeer> NativeDialog::createItem(const ItemView& view, ItemEve
     return makeNativeItem(*this, view, events);
 }
 
+void NativeDialog::resizeTo(const RECT& place, UINT flags) {
+    changing_ = true;
+    SetWindowPos(handle(), nullptr, place.left, place.top, place.right - place.left,
+                 place.bottom - place.top, flags | SWP_NOZORDER | SWP_NOACTIVATE);
+    changing_ = false;
+}
+
 void NativeDialog::changed() {
+    followScale();
     const RECT area = client();
     const RECT wanted = windowRect();
     SetWindowTextW(handle(), toWide(view_.title).c_str());
     enableAsItIs();
     if (area.right != scale_.toPixels(view_.size.width) ||
-        area.bottom != scale_.toPixels(view_.size.height)) {
-        changing_ = true;
-        SetWindowPos(handle(), nullptr, wanted.left, wanted.top, wanted.right - wanted.left,
-                     wanted.bottom - wanted.top,
-                     (placed_ ? SWP_NOMOVE : 0U) | SWP_NOZORDER | SWP_NOACTIVATE);
-        changing_ = false;
-    }
-    if (view_.visible != (IsWindowVisible(handle()) != FALSE))
-        ShowWindow(handle(), view_.visible ? SW_SHOWNA : SW_HIDE);
+        area.bottom != scale_.toPixels(view_.size.height))
+        resizeTo(wanted, placed_ ? SWP_NOMOVE : 0U);
+    const bool shown = (GetWindowLongW(handle(), GWL_STYLE) & WS_VISIBLE) != 0;
+    if (view_.visible != shown) ShowWindow(handle(), view_.visible ? SW_SHOWNA : SW_HIDE);
     placed_ = placed_ || view_.visible;
 }
 
@@ -147,39 +177,51 @@ void NativeDialog::moveTo(Place corner) {
     placed_ = true;
 }
 
-/// While a modal dialog runs, the toolkit's other windows and the owner take no input.
+/// While a modal dialog runs, no other window of the thread takes input: the host's own panels and
+/// frames as little as the toolkit's.
 class NativeDialog::OthersDisabled {
 public:
-    explicit OthersDisabled(NativeDialog& running)
-        : screen_(running.screen()), others_(screen_.dialogs) {
-        std::erase(others_, running.handle());
+    explicit OthersDisabled(const NativeDialog& running) : running_(running.handle()) {
+        for (NativeDialog* const other : running.screen().dialogs)
+            if (other != &running) dialogs_.push_back({other, other->watch()});
         count(1);
-        const HWND owner = GetWindow(running.handle(), GW_OWNER);
-        if (owner == nullptr || !IsWindowEnabled(owner)) return;
-        owner_ = owner;
-        EnableWindow(owner_, FALSE);
+        EnumThreadWindows(GetCurrentThreadId(), disable, reinterpret_cast<LPARAM>(this));
     }
-    /// The owner is enabled before the dialog goes, or Windows would activate another program.
     ~OthersDisabled() {
-        if (owner_ != nullptr) EnableWindow(owner_, TRUE);
+        for (const HWND window : windows_)
+            EnableWindow(window, TRUE);
         count(-1);
     }
     OthersDisabled(const OthersDisabled&) = delete;
     OthersDisabled& operator=(const OthersDisabled&) = delete;
 
 private:
+    struct Other {
+        NativeDialog* dialog;
+        std::weak_ptr<const char> alive;
+    };
+
     void count(int change) {
-        for (const HWND window : others_) {
-            if (std::ranges::find(screen_.dialogs, window) == screen_.dialogs.end()) continue;
-            auto& dialog = *dynamic_cast<NativeDialog*>(objectOf(window));
-            dialog.modalsAbove_ += change;
-            dialog.enableAsItIs();
+        for (const auto& [dialog, alive] : dialogs_) {
+            if (alive.expired()) continue;
+            dialog->modalsAbove_ += change;
+            dialog->enableAsItIs();
         }
     }
 
-    Screen& screen_;
-    std::vector<HWND> others_; ///< that there were when it began
-    HWND owner_ = nullptr;
+    /// What was disabled already is somebody else's to enable.
+    static BOOL CALLBACK disable(HWND window, LPARAM parameter) {
+        auto& self = *reinterpret_cast<OthersDisabled*>(parameter);
+        const bool own = window == self.running_ || GetWindow(window, GW_OWNER) == self.running_;
+        if (own || IsWindowEnabled(window) == FALSE) return TRUE;
+        self.windows_.push_back(window);
+        EnableWindow(window, FALSE);
+        return TRUE;
+    }
+
+    HWND running_;
+    std::vector<Other> dialogs_; ///< the toolkit's, which may be enabled and disabled meanwhile
+    std::vector<HWND> windows_;
 };
 
 void NativeDialog::enableAsItIs() { EnableWindow(handle(), view_.enabled && modalsAbove_ == 0); }
@@ -267,14 +309,32 @@ bool NativeDialog::reflect(HWND control, UINT message, WPARAM wide, LPARAM lengt
     return item != nullptr && item->notified(message, wide, lengthy, answer);
 }
 
-void NativeDialog::rescale(const RECT& suggested) {
-    scale_ = screen().scaleFor(handle());
-    SetWindowPos(handle(), nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
-                 suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
+void NativeDialog::followScale() {
+    const Scale now = screen().scaleFor(handle());
+    if (now == scale_) return;
+    scale_ = now;
+    tips_.close();
     for (HWND child = GetWindow(handle(), GW_CHILD); child != nullptr;
          child = GetWindow(child, GW_HWNDNEXT))
         if (auto* const item = dynamic_cast<NativeItem*>(objectOf(child))) item->rescale();
     repaintAll();
+}
+
+bool NativeDialog::holds(HWND window) const {
+    return window == handle() || IsChild(handle(), window) != FALSE;
+}
+
+/// The windows that the panel lies in are its host's frame, not what the user works in.
+void NativeDialog::focusCame(HWND other) {
+    const bool frame = IsChild(other, handle()) != FALSE;
+    if (inPanel() && !frame && !holds(other)) lender_ = other;
+}
+
+/// The host's shortcuts and tools go by the keyboard: it stays in a panel only while it is typed
+/// in.
+void NativeDialog::returnKeyboard() {
+    if (!inPanel() || !holds(GetFocus())) return;
+    SetFocus(canHaveKeyboard(lender_) ? lender_ : static_cast<HWND>(view_.keyboardOwner));
 }
 
 LRESULT NativeDialog::serve(UINT message, WPARAM wide, LPARAM lengthy) {
@@ -320,11 +380,25 @@ LRESULT NativeDialog::serve(UINT message, WPARAM wide, LPARAM lengthy) {
         return DLGC_WANTALLKEYS;
     case WM_MOUSEMOVE:
     case WM_LBUTTONDOWN:
-        tips_.relay(handle(), message, wide, {GET_X_LPARAM(lengthy), GET_Y_LPARAM(lengthy)});
+        tips_.relay(message, wide, {GET_X_LPARAM(lengthy), GET_Y_LPARAM(lengthy)});
+        break;
+    case WM_SETFOCUS:
+        focusCame(reinterpret_cast<HWND>(wide));
+        break;
+    case WM_MOUSEACTIVATE: // from any window in it; the frame is about to take the focus
+        focusCame(GetFocus());
         break;
     case WM_DPICHANGED:
-        rescale(*reinterpret_cast<const RECT*>(lengthy));
+        changing_ = true; // the frame changes as well
+        followScale();
+        resizeTo(*reinterpret_cast<const RECT*>(lengthy), 0);
         return 0;
+    case kDpiChangedAfterParent:
+        changed();
+        return 0;
+    case WM_DESTROY: // by its parent's end: the tips would go without a word
+        tips_.close();
+        break;
     default:
         break;
     }

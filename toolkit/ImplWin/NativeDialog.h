@@ -13,6 +13,10 @@ namespace NRDM {
 
 class NativeItem;
 
+/// The corner of a window of `size` in the middle of `around`, moved so that it is whole in `work`
+/// as far as it fits there.
+[[nodiscard]] POINT centredWithin(const RECT& around, const RECT& work, SIZE size);
+
 /// The window of a dialog or panel: holds the items' windows, gives them what they report to it
 /// instead of to themselves, and turns keys into what they mean to a dialog.
 class NativeDialog final : public HWNDBased, public DialogPeer {
@@ -21,11 +25,14 @@ public:
     ~NativeDialog() override;
 
     std::unique_ptr<ItemPeer> createItem(const ItemView& view, ItemEvents& events) override;
+    void close() noexcept override;
+    [[nodiscard]] bool isAlive() const override { return handle() != nullptr; }
     void changed() override;
     void invalidate() override { repaintAll(); }
     void invalidate(const Bounds& area) override;
     void update() override;
     void activate() override;
+    void returnKeyboard() override;
     void runModal() override;
     bool endModal() override;
     void startTimer(int timer, int milliseconds) override;
@@ -35,6 +42,9 @@ public:
     [[nodiscard]] void* window() const override { return handle(); }
 
     [[nodiscard]] Scale scale() const override { return scale_; }
+    [[nodiscard]] const Palette& palette() const override {
+        return screen().palettes.of(inPanel());
+    }
     [[nodiscard]] const DialogView& view() const noexcept { return view_; }
     [[nodiscard]] bool inPanel() const noexcept { return view_.kind == DialogKind::Panel; }
     [[nodiscard]] ToolTips& tips() noexcept { return tips_; }
@@ -43,6 +53,9 @@ public:
     /// always when the user set Windows so.
     [[nodiscard]] bool keyboardCues() const noexcept { return keyboardCues_; }
     void showKeyboardCues();
+
+    /// An item has got the focus, from `other`; null where the system does not tell.
+    void focusCame(HWND other);
 
     /// A key message that a control has no use for; true when the dialog had.
     bool dialogKey(UINT message, WPARAM wide);
@@ -64,18 +77,21 @@ private:
     void enableAsItIs();
     [[nodiscard]] RECT windowRect() const;
     bool reflect(HWND control, UINT message, WPARAM wide, LPARAM lengthy, LRESULT& answer);
-    void rescale(const RECT& suggested);
+    [[nodiscard]] bool holds(HWND window) const;
+    void followScale();
+    void resizeTo(const RECT& place, UINT flags);
 
     const DialogView& view_;
     DialogEvents& events_;
     Scale scale_;
     ToolTips tips_;
     HWND focused_ = nullptr; ///< the item that gets the focus back with the activation
+    HWND lender_ = nullptr;  ///< who had the keyboard before an item of the panel took it
     bool keyboardCues_;
     bool running_ = false;  ///< `runModal` serves events
     int modalsAbove_ = 0;   ///< other dialogs that run meanwhile
     bool placed_ = false;   ///< where it is counts; until then it keeps to the middle
-    bool changing_ = false; ///< the size is set by the model, which need not be told
+    bool changing_ = false; ///< the size is set from here, and the model need not be told
     std::exception_ptr failure_;
 };
 

@@ -40,7 +40,7 @@ bool isMouseMessage(UINT message) { return message >= WM_MOUSEFIRST && message <
 NativeItem::NativeItem(NativeDialog& dialog, const ItemView& view, ItemEvents& events)
     : HWNDBased(dialog.screen()), dialog_(dialog), view_(view), events_(events) {}
 
-NativeItem::~NativeItem() { dialog_.tips().remove(dialog_.handle(), this); }
+NativeItem::~NativeItem() { dialog_.tips().remove(this); }
 
 void NativeItem::createItem(const wchar_t* systemClass, DWORD style) {
     Plan plan;
@@ -59,7 +59,7 @@ void NativeItem::createItem(const wchar_t* systemClass, DWORD style) {
 void NativeItem::applyTip() {
     const Bounds& bounds = view_.bounds;
     dialog_.tips().set(
-        dialog_.handle(), this, view_.visible ? toWide(view_.tip) : std::wstring(),
+        this, view_.visible ? toWide(view_.tip) : std::wstring(),
         scale().toPixels(RECT{bounds.left, bounds.top, bounds.right, bounds.bottom}));
 }
 
@@ -79,7 +79,7 @@ void NativeItem::changed(Aspect aspects) {
 
 void NativeItem::focus() { SetFocus(focusWindow()); }
 
-void NativeItem::showTip(bool shown) { dialog_.tips().show(dialog_.handle(), this, shown); }
+void NativeItem::showTip(bool shown) { dialog_.tips().show(this, shown); }
 
 bool NativeItem::notified(UINT, WPARAM, LPARAM, LRESULT&) { return false; }
 
@@ -93,7 +93,7 @@ FaceState NativeItem::state() const {
     FaceState state;
     state.enabled = view_.enabled && dialog_.view().enabled;
     state.hot = hot_ && state.enabled;
-    state.focused = GetFocus() == focusWindow();
+    state.focused = hasFocus();
     state.isDefault = view_.isDefault;
     state.keyboardCues = dialog_.keyboardCues();
     return state;
@@ -122,7 +122,16 @@ void NativeItem::relayToTips(HWND source, UINT message, WPARAM wide, LPARAM leng
     if (!isMouseMessage(message) || message == WM_MOUSEWHEEL) return;
     POINT point{GET_X_LPARAM(lengthy), GET_Y_LPARAM(lengthy)};
     MapWindowPoints(source, dialog_.handle(), &point, 1);
-    dialog_.tips().relay(dialog_.handle(), message, wide, point);
+    dialog_.tips().relay(message, wide, point);
+}
+
+bool NativeItem::serveWheel(WPARAM wide) {
+    if (!takesWheel()) return false;
+    wheelRest_ += GET_WHEEL_DELTA_WPARAM(wide);
+    const int steps = wheelRest_ / WHEEL_DELTA;
+    wheelRest_ -= steps * WHEEL_DELTA;
+    if (steps != 0) wheel(steps);
+    return true;
 }
 
 bool NativeItem::serveKey(UINT message, WPARAM wide) {
@@ -148,6 +157,7 @@ LRESULT NativeItem::serve(UINT message, WPARAM wide, LPARAM lengthy) {
         break;
     case WM_SETFOCUS:
     case WM_KILLFOCUS: {
+        if (message == WM_SETFOCUS) dialog_.focusCame(reinterpret_cast<HWND>(wide));
         const std::weak_ptr<const char> alive = watch();
         repaint();
         const LRESULT answer = HWNDBased::serve(message, wide, lengthy);
@@ -160,13 +170,9 @@ LRESULT NativeItem::serve(UINT message, WPARAM wide, LPARAM lengthy) {
     case WM_CHAR:
         if (serveKey(message, wide)) return 0;
         break;
-    case WM_MOUSEWHEEL: {
-        wheelRest_ += GET_WHEEL_DELTA_WPARAM(wide);
-        const int steps = wheelRest_ / WHEEL_DELTA;
-        wheelRest_ -= steps * WHEEL_DELTA;
-        if (steps != 0 && wheel(steps)) return 0;
+    case WM_MOUSEWHEEL:
+        if (serveWheel(wide)) return 0;
         break;
-    }
     case WM_GETDLGCODE:
         return DLGC_WANTALLKEYS; // a host's own dialog loop must not eat them
     case WM_SETCURSOR:

@@ -41,8 +41,12 @@ protected:
     /// A key that the control has a use for itself; true when it had.
     virtual bool key(WPARAM) { return false; }
 
-    /// Steps of the mouse wheel, away from the user positive; true when they had an effect.
-    virtual bool wheel(int) { return false; }
+    /// Steps of the mouse wheel, away from the user positive.
+    virtual void wheel(int) {}
+    /// Has it a use for the wheel now? A value is changed only where the keyboard is: whoever
+    /// scrolls past with the pointer means something else.
+    [[nodiscard]] virtual bool takesWheel() const { return false; }
+    bool serveWheel(WPARAM wide);
 
     /// Whether it looks different below the pointer.
     [[nodiscard]] virtual bool reactsToPointer() const { return true; }
@@ -54,6 +58,8 @@ protected:
     [[nodiscard]] const ItemView& view() const noexcept { return view_; }
     [[nodiscard]] ItemEvents& events() const noexcept { return events_; }
     [[nodiscard]] virtual FaceState state() const;
+    [[nodiscard]] const Palette& palette() const override { return dialog_.palette(); }
+    [[nodiscard]] bool hasFocus() const { return GetFocus() == focusWindow(); }
     [[nodiscard]] TextStyle textStyle() const {
         return textStyleOf(view_.font != 0 ? view_.font : dialog_.view().font, dialog_.inPanel());
     }

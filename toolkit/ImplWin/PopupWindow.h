@@ -27,6 +27,7 @@ protected:
     LRESULT serve(UINT message, WPARAM wide, LPARAM lengthy) override;
     void failed() noexcept override { dialog_.failed(); }
     [[nodiscard]] Scale scale() const override { return dialog_.scale(); }
+    [[nodiscard]] const Palette& palette() const override { return dialog_.palette(); }
     [[nodiscard]] NativeDialog& dialog() const noexcept { return dialog_; }
 
 private:

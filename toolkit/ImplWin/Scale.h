@@ -44,9 +44,10 @@ struct Scale {
 };
 
 /// The scale of the display that `window` is on; that of the system for a null window.
-[[nodiscard]] inline Scale scaleOf(HWND window) {
-    const UINT dpi = window != nullptr ? GetDpiForWindow(window) : GetDpiForSystem();
-    return {dpi == 0 ? 1.0 : dpi / 96.0};
-}
+[[nodiscard]] Scale scaleOf(HWND window);
+
+/// What a window with these styles takes up on the display of `neighbour` when its client area is
+/// `client`.
+[[nodiscard]] RECT withFrame(const RECT& client, DWORD style, DWORD extendedStyle, HWND neighbour);
 
 } // namespace NRDM

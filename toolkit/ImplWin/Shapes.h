@@ -7,7 +7,7 @@
 /// Coordinates are pixels, x to the right, y down, whole numbers between pixels. What lies outside
 /// the surface is left out.
 
-#include "toolkit/ImplWin/Colour.h"
+#include "toolkit/ImplCommon/Colour.h"
 #include "toolkit/ImplWin/Surface.h"
 
 #include <span>

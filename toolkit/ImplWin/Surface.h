@@ -1,8 +1,8 @@
 #pragma once
 
-#include "toolkit/ImplWin/GdiPlus.h"
-
 #include "host/Owned.h"
+#include "toolkit/ImplCommon/Colour.h"
+#include "toolkit/ImplWin/GdiPlus.h"
 
 #include <cstdint>
 #include <memory>
@@ -19,6 +19,10 @@ template <typename Handle> struct GdiObjectTraits {
     using Ref = Handle;
     static void release(Ref object) noexcept { DeleteObject(object); }
 };
+
+[[nodiscard]] constexpr COLORREF toColorRef(Colour colour) {
+    return RGB(colour.red, colour.green, colour.blue);
+}
 
 /// Off-screen pixels, opaque, 32 bits each: what a control is drawn on before it is copied to its
 /// window at once. GDI, GDI+ and our own shapes draw on the same pixels.

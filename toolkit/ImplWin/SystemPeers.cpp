@@ -4,11 +4,9 @@
 #include "toolkit/ImplCommon/SystemCursors.h"
 
 namespace NRDM {
-namespace {} // namespace
-
 std::unique_ptr<Peers> systemPeers(const Surroundings& surroundings) {
     const SPPlatformAccessRef library = resourceLibrary(surroundings.plugin);
-    auto peers = std::make_unique<WinPeers>(surroundings.theme,
+    auto peers = std::make_unique<WinPeers>(surroundings.themes,
                                             picturesOf(reinterpret_cast<HMODULE>(library)));
     peers->screen().cursorOf = [library, cursors = std::make_shared<SystemCursors>()](int id) {
         return static_cast<HCURSOR>(cursors->find(library, id));

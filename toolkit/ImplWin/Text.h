@@ -2,7 +2,7 @@
 
 /// Text as all controls draw it: Tahoma, through GDI+, one line on a common baseline.
 
-#include "toolkit/ImplWin/Colour.h"
+#include "toolkit/ImplCommon/Colour.h"
 #include "toolkit/ImplWin/Scale.h"
 #include "toolkit/ImplWin/Surface.h"
 

@@ -5,8 +5,6 @@
 
 #include "toolkit/ImplCommon/Dialogs.h"
 
-#include "toolkit/Toolkit.h"
-
 #include <algorithm>
 #include <cmath>
 
@@ -48,8 +46,14 @@ constexpr int kPictureMargin = 4; ///< of a picture button, on each side
 
 const SizeRow& rowOf(ControlKind kind) { return kSizes[static_cast<std::size_t>(kind)]; }
 
+/// Letters have whole pixels, so that a text may need a little more at one scale than at another.
+/// It gets what suffices at all of them, or it would be drawn smaller than its neighbours there.
 int widthOf(std::string_view text, TextStyle style) {
-    return static_cast<int>(std::ceil(textWidth(captionOf(toWide(text)).text, style, {1.0})));
+    const std::wstring shown = captionOf(toWide(text)).text;
+    double widest = 0;
+    for (const double factor : {1.0, 1.25, 1.5, 2.0})
+        widest = std::max(widest, textWidth(shown, style, {factor}) / factor);
+    return static_cast<int>(std::ceil(widest));
 }
 
 int widestEntry(const ItemView& view, TextStyle style) {
@@ -61,8 +65,8 @@ int widestEntry(const ItemView& view, TextStyle style) {
 
 } // namespace
 
-WinPeers::WinPeers(const Theme& theme, PictureSource pictures)
-    : theme_(theme), screen_(std::make_unique<Screen>(theme, std::move(pictures))) {}
+WinPeers::WinPeers(const Themes& themes, PictureSource pictures)
+    : themes_(themes), screen_(std::make_shared<Screen>(themes, std::move(pictures))) {}
 
 std::unique_ptr<DialogPeer> WinPeers::createDialog(const DialogView& view, DialogEvents& events) {
     return std::make_unique<NativeDialog>(*screen_, view, events);
@@ -73,7 +77,8 @@ NaturalSize WinPeers::measure(const ItemView& view, DialogKind where) const {
         Extent largest;
         for (const int id : {view.pictures.normal, view.pictures.selected, view.pictures.disabled,
                              view.pictures.rollover}) {
-            const SIZE size = screen_->pictures.size(id, screen_->palette.dark);
+            const SIZE size =
+                screen_->pictures.size(id, screen_->palettes.of(where == DialogKind::Panel).dark);
             largest = {std::max(largest.width, static_cast<int>(size.cx)),
                        std::max(largest.height, static_cast<int>(size.cy))};
         }
@@ -106,9 +111,9 @@ void WinPeers::fail() noexcept {
 void WinPeers::beep() { MessageBeep(MB_OK); }
 
 void WinPeers::themeChanged() {
-    screen_->palette = Palette(theme_);
-    for (const HWND dialog : screen_->dialogs)
-        RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+    screen_->palettes = Screen::Palettes(themes_);
+    for (const NativeDialog* const dialog : screen_->dialogs)
+        dialog->repaintAll();
 }
 
 } // namespace NRDM

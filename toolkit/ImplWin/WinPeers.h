@@ -11,9 +11,9 @@ namespace NRDM {
 /// Windows for dialogs and items.
 class WinPeers final : public Peers {
 public:
-    /// `theme` is read again when it has changed; `pictures` are the plug-in's. Throws
+    /// `themes` are read again when it has changed; `pictures` are the plug-in's. Throws
     /// `NRDMResourceException`.
-    WinPeers(const Theme& theme, PictureSource pictures);
+    WinPeers(const Themes& themes, PictureSource pictures);
 
     std::unique_ptr<DialogPeer> createDialog(const DialogView& view, DialogEvents& events) override;
     [[nodiscard]] NaturalSize measure(const ItemView& view, DialogKind where) const override;
@@ -30,8 +30,8 @@ public:
     [[nodiscard]] static WinPeers& current();
 
 private:
-    const Theme& theme_;
-    std::unique_ptr<Screen> screen_;
+    const Themes& themes_;
+    std::shared_ptr<Screen> screen_;
     Lent<CoADMImage> images_;
     Lent<CoADMWindowDrawer> drawers_;
 };

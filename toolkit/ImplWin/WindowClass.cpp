@@ -1,9 +1,10 @@
 #include "toolkit/ImplWin/WindowClass.h"
 
 #include "toolkit/ImplCommon/Exceptions.h"
+#include "toolkit/ImplWin/HWNDBased.h"
 
+#include <array>
 #include <cwchar>
-#include <iterator>
 
 namespace NRDM {
 namespace {
@@ -21,20 +22,32 @@ HINSTANCE WindowClass::library() noexcept {
     return module;
 }
 
-WindowClass::WindowClass(WNDPROC procedure) {
-    wchar_t name[40];
-    std::swprintf(name, std::size(name), L"NRDMStdClass%p", static_cast<const void*>(&kOwnAddress));
+const WindowClass& WindowClass::ofLibrary() {
+    static const WindowClass one;
+    return one;
+}
+
+WindowClass::WindowClass() {
+    std::array<wchar_t, 40> className{};
+    std::swprintf(className.data(), className.size(), L"NRDMStdClass%p",
+                  static_cast<const void*>(&kOwnAddress));
     WNDCLASSEXW description{};
     description.cbSize = sizeof(description);
     description.style = CS_DBLCLKS;
-    description.lpfnWndProc = procedure;
+    description.lpfnWndProc = HWNDBased::procedure;
     description.hInstance = library();
     description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    description.lpszClassName = name;
-    atom_ = RegisterClassExW(&description);
-    if (atom_ == 0) throw NRDMResourceException();
+    description.lpszClassName = className.data();
+    property_ = GlobalAddAtomW(className.data());
+    class_ = property_ != 0 ? RegisterClassExW(&description) : ATOM{0};
+    if (class_ != 0) return;
+    if (property_ != 0) GlobalDeleteAtom(property_);
+    throw NRDMResourceException();
 }
 
-WindowClass::~WindowClass() { UnregisterClassW(name(), library()); }
+WindowClass::~WindowClass() {
+    UnregisterClassW(name(), library());
+    GlobalDeleteAtom(property_);
+}
 
 } // namespace NRDM

@@ -2,29 +2,35 @@
 
 #include <windows.h>
 
-#include <string>
-
 namespace NRDM {
 
-/// The one window class of the toolkit, registered while this lives.
+/// The one window class of the toolkit, and what its windows are told apart by. There from the
+/// first window on, for as long as the library is loaded.
 ///
-/// Its name holds the address of a variable of this library: each library that carries the toolkit
+/// The names hold the address of a variable of this library: each library that carries the toolkit
 /// in the same process has a class of its own.
 class WindowClass {
 public:
     /// Throws `NRDMResourceException`.
-    explicit WindowClass(WNDPROC procedure);
-    ~WindowClass();
-    WindowClass(const WindowClass&) = delete;
-    WindowClass& operator=(const WindowClass&) = delete;
+    [[nodiscard]] static const WindowClass& ofLibrary();
 
-    [[nodiscard]] const wchar_t* name() const noexcept { return MAKEINTATOM(atom_); }
+    [[nodiscard]] const wchar_t* name() const noexcept { return MAKEINTATOM(class_); }
+
+    /// The property that windows of ours have, those of the system's classes included.
+    [[nodiscard]] const wchar_t* property() const noexcept { return MAKEINTATOM(property_); }
 
     /// The library that the class and its windows belong to.
     [[nodiscard]] static HINSTANCE library() noexcept;
 
+    WindowClass(const WindowClass&) = delete;
+    WindowClass& operator=(const WindowClass&) = delete;
+
 private:
-    ATOM atom_ = 0;
+    WindowClass();
+    ~WindowClass();
+
+    ATOM property_ = 0;
+    ATOM class_ = 0;
 };
 
 } // namespace NRDM

@@ -2,6 +2,7 @@
 
 #include "toolkit/ImplCommon/SuiteTables.h"
 #include "toolkit/ImplWin/WinPeers.h"
+#include "toolkit/ImplWin/WindowClass.h"
 #include "toolkit/gallery/Host.h"
 
 #include <cstdio>
@@ -34,7 +35,8 @@ void tellFailure() noexcept {
 } // namespace
 
 Gallery::Gallery(const Manner& manner)
-    : manner_(manner), theme_(themeOf(manner.dark)), dialogs_(theme_, makePeers, this) {
+    : manner_(manner), themes_{themeOf(manner.dark), themeOf(manner.dark)},
+      dialogs_(themes_, makePeers, this) {
     ai::basicSuite = offeringSuites(&host());
 }
 
@@ -42,7 +44,7 @@ Gallery::~Gallery() { ai::basicSuite = nullptr; }
 
 std::unique_ptr<Peers> Gallery::makePeers(void* gallery) {
     const Gallery& self = *static_cast<Gallery*>(gallery);
-    auto peers = std::make_unique<WinPeers>(self.theme_, picturesOf(WindowClass::library()));
+    auto peers = std::make_unique<WinPeers>(self.themes_, picturesOf(WindowClass::library()));
     peers->screen().failed = tellFailure;
     if (self.manner_.scale > 0) peers->screen().fixedScale = Scale{self.manner_.scale};
     return peers;

@@ -25,7 +25,7 @@ private:
     static std::unique_ptr<Peers> makePeers(void* gallery);
 
     Manner manner_;
-    Theme theme_;
+    Themes themes_;
     Dialogs dialogs_;
 };
 

@@ -2,6 +2,8 @@
 
 #include "toolkit/ImplCommon/Exceptions.h"
 
+#include <optional>
+
 using namespace facetta::tests;
 using namespace NRDM;
 
@@ -113,6 +115,31 @@ TEST_CASE("a field takes over what is typed, or brings its last number back") {
         CHECK(form.field.text() == row.text);
         CHECK(takeHeard() == row.heard);
         CHECK(form.stage.peers->beeps == (row.taken ? 0 : 1));
+    }
+}
+
+TEST_CASE("a limit is compared as it is shown: what can be read can be typed") {
+    struct Row {
+        ADMUnits units;
+        std::string typed;
+        bool taken;
+    };
+    const Row rows[] = {
+        {kADMInchUnits, "227.5417", true}, // a little more than the limit
+        {kADMInchUnits, "227.5417in", true},      {kADMInchUnits, "227.5418", false},
+        {kADMPointUnits, "16383", true},          {kADMPointUnits, "16383.0001", false},
+        {kADMMillimeterUnits, "5779.5583", true}, {kADMMillimeterUnits, "-0.0001", false},
+    };
+    for (const auto& row : rows) {
+        INFO(row.typed);
+        Form form;
+        form.field.setForm({.units = row.units, .precision = 4});
+        form.field.setLowest(0);
+        form.field.setHighest(16383);
+        form.field.setValue(10);
+        form.field.typed(row.typed);
+        CHECK(form.field.commit() == row.taken);
+        CHECK(form.field.value() == (row.taken ? 16383 : 10));
     }
 }
 
@@ -317,6 +344,61 @@ TEST_CASE("what a client's procedure throws as a modal dialog ends reaches the c
     CHECK(stage.dialogs.open().empty());
 }
 
+TEST_CASE("everything may be closed while a modal dialog runs, which then ends") {
+    std::optional<Stage> stage(std::in_place);
+    const auto run = [&] { CHECK(stage->dialogs.modal({.name = "Closed"}) == 0); };
+    const auto close = [&] { stage.reset(); };
+    SUBCASE("by what the user does in it") {
+        stage->peers->user = close;
+        run();
+    }
+    SUBCASE("by what the user does in one above it") {
+        stage->peers->user = [&] {
+            stage->peers->user = close;
+            run();
+        };
+        run();
+    }
+    SUBCASE("by a button's procedure") {
+        CoADMDialog& dialog = stage->dialog();
+        static std::optional<Stage>* closed = nullptr;
+        closed = &stage;
+        CoADMItem& ok = Stage::add(dialog, 1, kADMTextPushButtonType);
+        ok.procedures.notify = [](ADMItemRef item, ADMNotifierRef notifier) {
+            closed->reset();
+            kItemSuite.DefaultNotify(item, notifier);
+        };
+        stage->peers->user = [&] { ok.clicked(); };
+        dialog.run();
+    }
+    SUBCASE("though a client's procedure throws at that") {
+        const auto init = [](ADMDialogRef dialog) -> ADMErr {
+            kDialogSuite.SetDestroyProc(dialog,
+                                        [](ADMDialogRef) { throw NRDMParameterException(); });
+            return 0;
+        };
+        stage->peers->user = [&] {
+            stage->dialogs.closeAll();
+            stage.reset();
+        };
+        CHECK(stage->dialogs.modal({.name = "Closed", .init = init}) == 0);
+    }
+    CHECK_FALSE(stage);
+}
+
+TEST_CASE("an item hears when its place changes, once its dialog is made") {
+    Stage stage;
+    const auto init = [](ADMDialogRef dialog) -> ADMErr {
+        Stage::add(*dialog, 24, kADMTextStaticType).setBounds({22, 17, 212, 67});
+        return 0;
+    };
+    CoADMDialog& dialog = *stage.dialogs.create({.name = "Moves", .init = init});
+    CHECK(takeHeard().empty());
+    dialog.item(24)->setBounds({22, 69, 212, 119});
+    dialog.item(24)->setBounds({22, 69, 212, 119});
+    CHECK(takeHeard() == Heard{"bounds 24"});
+}
+
 TEST_CASE("a dialog that its init procedure refuses is none, and bad calls are told") {
     Stage stage;
     const auto refuse = [](ADMDialogRef) -> ADMErr { return 1; };
@@ -330,6 +412,8 @@ TEST_CASE("a dialog that its init procedure refuses is none, and bad calls are t
     CHECK_THROWS_AS(kItemSuite.GetID(nullptr), NRDMParameterException);
     CHECK_THROWS_AS(kItemSuite.SetUnits(&Stage::add(dialog, 1, kADMTextEditType), 99),
                     NRDMParameterException);
+    CHECK_THROWS_AS(Stage::add(dialog, 1, kADMTextStaticType), NRDMParameterException); // taken
+    CHECK(dialog.items().size() == 1);
     CHECK_THROWS_WITH_AS(
         stage.dialogs.create({.name = "P", .style = kADMTabbedFloatingDialogStyle}),
         "Insuffucient resources", NRDMResourceException);

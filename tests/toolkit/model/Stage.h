@@ -35,14 +35,17 @@ struct StagePeers final : NRDM::Peers {
                                                    NRDM::ItemEvents&) override {
             return std::make_unique<Item>(stage_.changes);
         }
+        void close() noexcept override { isOpen_ = false; }
+        [[nodiscard]] bool isAlive() const override { return isOpen_; }
         void changed() override {}
         void invalidate() override {}
         void invalidate(const NRDM::Bounds&) override {}
         void update() override {}
         void activate() override {}
+        void returnKeyboard() override { ++stage_.keyboardReturned; }
         void runModal() override {
-            if (stage_.user) stage_.user();
-            if (!ended_) events_.closeRequested();
+            if (const auto act = stage_.user) act();
+            if (isOpen_ && !ended_) events_.closeRequested();
         }
         bool endModal() override { return ended_ = true; }
         void startTimer(int timer, int) override { stage_.timers.push_back(timer); }
@@ -53,6 +56,7 @@ struct StagePeers final : NRDM::Peers {
         StagePeers& stage_;
         NRDM::DialogEvents& events_;
         bool ended_ = false;
+        bool isOpen_ = true;
     };
 
     std::unique_ptr<NRDM::DialogPeer> createDialog(const NRDM::DialogView&,
@@ -75,10 +79,11 @@ struct StagePeers final : NRDM::Peers {
     std::vector<int> timers;
     std::map<int, int> changes; ///< how often peers were told of what
     int beeps = 0;
+    int keyboardReturned = 0;
     int failures = 0;
-    NRDM::Theme theme;
+    NRDM::Themes themes;
     std::unique_ptr<NRDM::Peers> metrics =
-        NRDM::systemPeers({.theme = theme, .plugin = nullptr, .fail = nullptr});
+        NRDM::systemPeers({.themes = themes, .plugin = nullptr, .fail = nullptr});
 };
 
 /// Notifications as they reached clients: "user 4", "user 4 in dialog", "cycle in dialog".
@@ -117,8 +122,8 @@ using Heard = std::vector<std::string>;
 /// Dialogs without a host.
 struct Stage {
     StagePeers* peers = nullptr; ///< from the first dialog on
-    NRDM::Theme theme;
-    NRDM::Dialogs dialogs{theme, makePeers, this};
+    NRDM::Themes themes;
+    NRDM::Dialogs dialogs{themes, makePeers, this};
 
     Stage() {
         heard().clear();

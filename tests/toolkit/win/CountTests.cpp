@@ -9,6 +9,7 @@
 #include "toolkit/ImplCommon/CoADMDialog.h"
 #include "toolkit/ImplCommon/Dialogs.h"
 #include "toolkit/ImplCommon/Resources.h"
+#include "toolkit/ImplWin/WindowClass.h"
 
 #include <array>
 #include <chrono>
@@ -30,7 +31,7 @@ public:
     HostedDialogs() {
         plugin_.on("SP Interface/Startup", [this](SPMessageData& message) {
             ai::basicSuite = message.basic;
-            dialogs_.emplace(theme_, makePeers, this);
+            dialogs_.emplace(themes_, makePeers, this);
             return kNoErr;
         });
         plugin_.on("SP Interface/Shutdown", [this](SPMessageData&) {
@@ -57,13 +58,13 @@ public:
 
 private:
     static std::unique_ptr<Peers> makePeers(void* self) {
-        return std::make_unique<WinPeers>(static_cast<HostedDialogs*>(self)->theme_,
+        return std::make_unique<WinPeers>(static_cast<HostedDialogs*>(self)->themes_,
                                           picturesOf(WindowClass::library()));
     }
 
     easel::Host host_{easel::installedSuites()};
     facetta::tests::TestPlugin plugin_{host_};
-    Theme theme_;
+    Themes themes_;
     std::optional<Dialogs> dialogs_;
 };
 

@@ -89,9 +89,9 @@ TEST_CASE("a dialog that is open follows the host's brightness") {
     stage.open();
     const COLORREF before = Stage::pixel(stage.window(), {5, 5});
     const COLORREF fieldBefore = Stage::pixel(field.window(), {3, 10});
-    stage.theme.dark = true;
-    stage.theme.background = {1, 0.2F, 0.2F, 0.2F};
-    stage.theme.editBackground = {1, 0.1F, 0.1F, 0.1F};
+    stage.themes.dialogs.dark = true;
+    stage.themes.dialogs.background = {1, 0.2F, 0.2F, 0.2F};
+    stage.themes.dialogs.editBackground = {1, 0.1F, 0.1F, 0.1F};
     stage.peers.themeChanged();
     stage.pump();
     CHECK(before == RGB(214, 214, 214));

@@ -1,8 +1,8 @@
 /// What can be said of the look of controls without looking.
 
+#include "toolkit/ImplCommon/Palette.h"
 #include "toolkit/ImplWin/CoADMDrawer.h"
 #include "toolkit/ImplWin/NRDMSlider.h"
-#include "toolkit/ImplWin/Palette.h"
 #include "toolkit/ImplWin/Shapes.h"
 #include "toolkit/ImplWin/Text.h"
 #include "toolkit/Toolkit.h"
@@ -180,8 +180,8 @@ TEST_CASE("fields and labels beside each other share a baseline") {
 }
 
 TEST_CASE("a drawer's straight lines are sharp at every scale") {
-    const Theme theme = themeOf(0.94F);
-    Screen screen(theme, [](int, PictureDensity) { return std::span<const std::byte>(); });
+    const auto screen = std::make_shared<Screen>(
+        Themes{}, [](int, PictureDensity) { return std::span<const std::byte>(); });
     struct Row {
         double factor;
         int thickness;
@@ -189,7 +189,7 @@ TEST_CASE("a drawer's straight lines are sharp at every scale") {
     for (const Row& row : {Row{1.0, 1}, Row{1.5, 1}, Row{2.0, 2}}) {
         CAPTURE(row.factor);
         Surface surface({64, 64});
-        CoADMDrawer drawer(screen, surface, Scale{row.factor}, false);
+        CoADMDrawer drawer(*screen, surface, Scale{row.factor}, false);
         drawer.setColour(kWhite);
         drawer.drawLine({3, 5}, {12, 5});
         drawer.drawLine({5, 9}, {5, 18}); // ends included

@@ -1,6 +1,7 @@
 #include "tests/toolkit/win/ModelStage.h"
 
 #include "host/suites/SPAccessSuite.h"
+#include "toolkit/ImplWin/WindowClass.h"
 
 #include <array>
 #include <cstdio>
@@ -53,7 +54,7 @@ constexpr SPBasicSuite kBasic = basicSuite();
 ModelStage::ModelStage() {
     hostWindow = host.window;
     ai::basicSuite = offeringSuites(&kBasic);
-    dialogs.emplace(theme, makePeers, this);
+    dialogs.emplace(themes, makePeers, this);
 }
 
 ModelStage::~ModelStage() {
@@ -64,7 +65,7 @@ ModelStage::~ModelStage() {
 
 std::unique_ptr<Peers> ModelStage::makePeers(void* stage) {
     auto& self = *static_cast<ModelStage*>(stage);
-    auto peers = std::make_unique<WinPeers>(self.theme, picturesOf(WindowClass::library()));
+    auto peers = std::make_unique<WinPeers>(self.themes, picturesOf(WindowClass::library()));
     peers->screen().fixedScale = Scale{1.0};
     peers->screen().failed = [&self] { ++self.failures; };
     return peers;
@@ -147,7 +148,7 @@ int ModelStage::activeId(ADMDialogRef dialog) {
 }
 
 void ModelStage::setTheme(const Theme& changed) {
-    theme = changed;
+    themes = {changed, changed};
     dialogs->themeChanged();
     pump();
 }

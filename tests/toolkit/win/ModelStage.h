@@ -46,7 +46,7 @@ public:
     void setTheme(const Theme& theme);
 
     Owner host;
-    Theme theme;
+    Themes themes;
     std::optional<Dialogs> dialogs;
     int failures = 0; ///< exceptions that reached a window procedure
 

@@ -76,7 +76,7 @@ bool StagedItem::track(const TrackInput& input) {
 }
 
 Stage::Stage(DialogKind kind, Extent size)
-    : peers(theme, [](int, PictureDensity) { return std::span<const std::byte>(); }) {
+    : peers(themes, [](int, PictureDensity) { return std::span<const std::byte>(); }) {
     peers.screen().failed = [this] { ++failures; };
     peers.screen().fixedScale = Scale{1.0};
     view.kind = kind;

@@ -86,7 +86,7 @@ public:
     [[nodiscard]] HWND window() const { return static_cast<HWND>(peer->window()); }
     [[nodiscard]] static COLORREF pixel(HWND window, POINT point);
 
-    Theme theme; ///< of `peers`
+    Themes themes; ///< of `peers`
     WinPeers peers;
     DialogView view;
     std::unique_ptr<DialogPeer> peer;

@@ -1,9 +1,10 @@
-#include "toolkit/ImplWin/Palette.h"
+#include "toolkit/ImplCommon/Palette.h"
 
-#include "toolkit/Toolkit.h"
+#include "toolkit/ImplCommon/Theme.h"
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace NRDM {
 namespace {
@@ -18,6 +19,7 @@ Colour toColour(const AIUIThemeColor& colour) {
 
 constexpr Colour kWhite{255, 255, 255};
 constexpr Colour kBlack{0, 0, 0};
+constexpr Colour kRed{214, 48, 49};
 
 /// Where the host's focus colour is a plain grey, as in its older interfaces, this one says "here".
 constexpr Colour kBlue{38, 128, 235};
@@ -51,6 +53,30 @@ Palette::Palette(const Theme& theme)
       shadow(mix(background, kBlack, dark ? 0.40 : 0.26)),
       rowHot(mix(field, accent, dark ? 0.38 : 0.18)),
       menu(dark ? mix(background, kBlack, 0.16) : mix(background, kWhite, 0.70)),
-      tip(dark ? mix(background, kBlack, 0.30) : Colour{255, 255, 255}) {}
+      tip(dark ? mix(background, kBlack, 0.30) : kWhite) {}
+
+std::optional<Colour> admColour(int number, const Palette& palette) {
+    const Colour colours[] = {
+        kBlack,
+        kWhite,
+        palette.accent,      // highlight
+        palette.onAccent,    // text on it
+        palette.light,       // light edge
+        palette.background,  // of dialogs
+        palette.shadow,      // shadow edge
+        palette.dimText,     // disabled
+        palette.face,        // button up
+        palette.facePressed, // button down
+        palette.shadow,      // its shadow
+        palette.tip,
+        palette.text,  // of tips
+        palette.field, // window interior
+        palette.text,  // foreground
+        palette.text,
+        kRed,
+    };
+    if (number < 0 || number >= std::ssize(colours)) return std::nullopt;
+    return colours[number];
+}
 
 } // namespace NRDM

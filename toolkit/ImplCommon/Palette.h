@@ -1,6 +1,8 @@
 #pragma once
 
-#include "toolkit/ImplWin/Colour.h"
+#include "toolkit/ImplCommon/Colour.h"
+
+#include <optional>
 
 namespace NRDM {
 
@@ -32,5 +34,8 @@ struct Palette {
     Colour menu;
     Colour tip;
 };
+
+/// One of ADM's numbered colours in `palette`; nothing for numbers without a colour.
+[[nodiscard]] std::optional<Colour> admColour(int number, const Palette& palette);
 
 } // namespace NRDM

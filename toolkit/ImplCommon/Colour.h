@@ -1,7 +1,5 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 
 namespace NRDM {
@@ -22,10 +20,6 @@ struct Colour {
     };
     return {blend(under.red, over.red), blend(under.green, over.green),
             blend(under.blue, over.blue)};
-}
-
-[[nodiscard]] constexpr COLORREF toColorRef(Colour colour) {
-    return RGB(colour.red, colour.green, colour.blue);
 }
 
 } // namespace NRDM
