@@ -143,8 +143,9 @@ TEST_CASE("a limit is compared as it is shown: what can be read can be typed") {
     }
 }
 
-TEST_CASE("the focus coming and going leaves a number as it is, bit for bit") {
+TEST_CASE("a number stays as it is, bit for bit, unless another text is typed") {
     Form form;
+    form.dialog.procedures.notify = nullptr;
     const float value = 16.38349F;
     form.field.setValue(value);
     takeHeard();
@@ -152,6 +153,13 @@ TEST_CASE("the focus coming and going leaves a number as it is, bit for bit") {
     form.field.activated(false);
     CHECK(form.field.value() == value);
     CHECK(takeHeard().empty());
+
+    const std::string shown = form.field.text();
+    form.field.typed("12");
+    form.field.typed(shown);
+    CHECK(form.field.commit());
+    CHECK(form.field.value() == value);
+    CHECK(takeHeard() == Heard{"moving 4", "moving 4"});
 }
 
 TEST_CASE("arrows step from what is typed, stop at the limits and end with one notification") {
