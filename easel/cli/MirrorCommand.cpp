@@ -7,6 +7,8 @@
 #include "easel/paint/PaintDocument.h"
 #include "easel/svg/SvgFile.h"
 
+#include <optional>
+
 namespace easel {
 namespace {
 
@@ -35,11 +37,6 @@ void start(MirrorSession& session, const MirrorCommand& command) {
     session.start();
 }
 
-void savePicture(const std::filesystem::path& file) {
-    if (!paint::writePng(paint::paintDocument(currentDocument()), file))
-        throw SessionError(file.string() + ": cannot be written");
-}
-
 /// The command step by step, up to the saved result.
 void mirrorDrawing(MirrorSession& session, const MirrorCommand& command, Report& report) {
     report.begin("start", "Starting");
@@ -51,12 +48,16 @@ void mirrorDrawing(MirrorSession& session, const MirrorCommand& command, Report&
     report.begin("mirror", "Mirroring");
     session.mirror(command.request);
     report.statistics.after = countArt(currentDocument());
-    report.begin("write", "Writing");
-    session.save(command.output);
+    // The picture first: where it cannot be made, no drawing is written either.
+    std::optional<OutputFile> picture;
     if (!command.picture.empty()) {
         report.begin("paint", "Painting");
-        savePicture(command.picture);
+        picture.emplace(command.picture);
+        picture->prepare(paint::pngText(paint::paintDocument(currentDocument())));
     }
+    report.begin("write", "Writing");
+    for (const std::string& warning : session.save(command.output, picture ? &*picture : nullptr))
+        report.error << command.input.string() << ':' << warning << '\n';
 }
 
 ExitStatus runSession(const MirrorCommand& command, Statistics& statistics, std::ostream& error) {

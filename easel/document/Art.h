@@ -62,6 +62,7 @@ struct ArtContent {
     Cow<SegmentSelections> segmentSelection;
     Cow<ArtStyle> style;
     Cow<ArtDetails> details;
+    Cow<std::string> id; ///< In its drawing, UTF-8; copies have none.
 };
 
 /// What writing to an object counts as.

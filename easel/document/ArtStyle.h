@@ -35,6 +35,8 @@ struct ArtStyle {
     AIRealMatrix strokeMatrix = kIdentityMatrix;
     std::vector<AIReal> longDash; ///< A dash pattern of more than six parts, whole; else empty.
     std::shared_ptr<const ForeignContent> foreign;
+    /// What the art with `foreign` has been transformed by since it was read, in soft coordinates.
+    AIRealMatrix foreignMatrix = kIdentityMatrix;
 
     ArtStyle() noexcept;
 };

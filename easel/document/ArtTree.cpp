@@ -68,6 +68,7 @@ private:
             content.attributes &= ~kSelection;
             content.segmentSelection = {};
         }
+        content.id = {};
     }
 };
 

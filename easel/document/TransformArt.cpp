@@ -18,6 +18,10 @@ void transformPaint(Cow<ArtStyle>& style, const AIRealMatrix& matrix, ai::int32 
     if ((flags &
          wanted(style->strokeDefinition, kTransformStrokeGradients, kTransformStrokePatterns)) != 0)
         style.write().strokeMatrix = concatenated(style->strokeMatrix, matrix);
+    // Effects go with the art, and with the paint of art that is drawn anew elsewhere.
+    const bool whole = (flags & kTransformObjects) != 0 && (flags & kTransformSelectionOnly) == 0;
+    if (style->foreign && (whole || (flags & kTransformFillGradients) != 0))
+        style.write().foreignMatrix = concatenated(style->foreignMatrix, matrix);
 }
 
 void scaleStroke(Cow<ArtStyle>& style, AIReal scale) {

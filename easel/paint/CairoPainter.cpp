@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <new>
 
 // NOLINTBEGIN(bugprone-reserved-identifier): the leak checker's name for it
 /// Asked by the leak checker of a sanitized build: the font library keeps what it has found until
@@ -39,10 +40,10 @@ constexpr cairo_extend_t kSpreads[] = {CAIRO_EXTEND_PAD, CAIRO_EXTEND_REFLECT, C
 Pattern gradientPattern(const svg::GradientContent& gradient, const Matrix& back, double alpha) {
     const Point& start = gradient.start;
     const Point& end = gradient.end;
-    Pattern pattern{
-        gradient.kind == svg::GradientContent::Kind::Linear
-            ? cairo_pattern_create_linear(start.x, start.y, end.x, end.y)
-            : cairo_pattern_create_radial(start.x, start.y, 0, end.x, end.y, gradient.radius)};
+    Pattern pattern{gradient.kind == svg::GradientContent::Kind::Linear
+                        ? cairo_pattern_create_linear(start.x, start.y, end.x, end.y)
+                        : cairo_pattern_create_radial(start.x, start.y, gradient.focalRadius, end.x,
+                                                      end.y, gradient.radius)};
     for (const svg::GradientStop& stop : gradient.stops)
         cairo_pattern_add_color_stop_rgba(pattern.get(), stop.offset, stop.colour.red,
                                           stop.colour.green, stop.colour.blue,
@@ -151,9 +152,15 @@ void CairoPainter::stroke(const Outline& outline, const Pen& pen, const Ink& ink
     cairo_stroke(context_);
 }
 
-void CairoPainter::beginGroup() { cairo_push_group(context_); }
+void CairoPainter::beginGroup() {
+    cairo_surface_t* const target = cairo_get_target(context_);
+    checkGroups(++groups_, cairo_image_surface_get_width(target),
+                cairo_image_surface_get_height(target));
+    cairo_push_group(context_);
+}
 
 void CairoPainter::endGroup(double opacity) {
+    --groups_;
     cairo_pop_group_to_source(context_);
     cairo_paint_with_alpha(context_, opacity);
 }
@@ -177,25 +184,21 @@ double CairoPainter::textWidth(const std::string& text, const svg::Font& font) {
 }
 
 void CairoPainter::image(std::span<const std::byte> png, Point corner, Point size) {
-    const Surface surface = decodedPng(png);
-    if (!surface) return;
-    const int width = cairo_image_surface_get_width(surface.get());
-    const int height = cairo_image_surface_get_height(surface.get());
+    if (imageBytes_ != png.data()) {
+        image_ = decodedPng(png);
+        imageBytes_ = png.data();
+    }
+    if (!image_) return;
+    const int width = cairo_image_surface_get_width(image_.get());
+    const int height = cairo_image_surface_get_height(image_.get());
     if (width == 0 || height == 0) return;
     save();
     transform({size.x / width, 0, 0, size.y / height, corner.x, corner.y});
-    cairo_set_source_surface(context_, surface.get(), 0, 0);
+    cairo_set_source_surface(context_, image_.get(), 0, 0);
     cairo_pattern_set_extend(cairo_get_source(context_), CAIRO_EXTEND_PAD); // edges do not fade
     cairo_rectangle(context_, 0, 0, width, height);
     cairo_fill(context_);
     restore();
-}
-
-Point CairoPainter::imageSize(std::span<const std::byte> png) {
-    const Surface surface = decodedPng(png);
-    if (!surface) return {};
-    return {static_cast<double>(cairo_image_surface_get_width(surface.get())),
-            static_cast<double>(cairo_image_surface_get_height(surface.get()))};
 }
 
 void CairoPainter::trace(const Outline& outline) {
@@ -270,12 +273,19 @@ std::optional<Picture> readPng(std::span<const std::byte> png) {
     return picture;
 }
 
-bool writePng(const Picture& picture, const std::filesystem::path& file) {
+std::string pngText(const Picture& picture) {
     const Surface surface{
         cairo_image_surface_create(CAIRO_FORMAT_ARGB32, picture.width, picture.height)};
-    if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS) return false;
+    std::string png;
+    const auto append = [](void* target, const unsigned char* data, unsigned int length) {
+        static_cast<std::string*>(target)->append(reinterpret_cast<const char*>(data), length);
+        return CAIRO_STATUS_SUCCESS;
+    };
+    if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS) throw std::bad_alloc{};
     pack(picture, surface.get());
-    return cairo_surface_write_to_png(surface.get(), file.c_str()) == CAIRO_STATUS_SUCCESS;
+    if (cairo_surface_write_to_png_stream(surface.get(), append, &png) != CAIRO_STATUS_SUCCESS)
+        throw std::bad_alloc{};
+    return png;
 }
 
 } // namespace easel::paint

@@ -25,7 +25,6 @@ public:
     void text(const std::string& text, const svg::Font& font, Point start, const Ink& ink) override;
     [[nodiscard]] double textWidth(const std::string& text, const svg::Font& font) override;
     void image(std::span<const std::byte> png, Point corner, Point size) override;
-    [[nodiscard]] Point imageSize(std::span<const std::byte> png) override;
 
 private:
     void trace(const Outline& outline);
@@ -33,6 +32,10 @@ private:
     void choose(const svg::Font& font);
 
     cairo_t* context_;
+    int groups_ = 0; ///< Open ones, each a picture of its own.
+    /// The image last painted: copies of it tend to follow.
+    std::shared_ptr<cairo_surface_t> image_;
+    const std::byte* imageBytes_ = nullptr;
 };
 
 } // namespace easel::paint

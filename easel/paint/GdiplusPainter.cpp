@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 #include <string>
 
 namespace easel::paint {
@@ -258,7 +259,10 @@ std::unique_ptr<GdiplusPainter::Layer> GdiplusPainter::newLayer() {
     return layer;
 }
 
-void GdiplusPainter::beginGroup() { layers_.push_back(newLayer()); }
+void GdiplusPainter::beginGroup() {
+    checkGroups(static_cast<int>(layers_.size()), width_, height_);
+    layers_.push_back(newLayer());
+}
 
 void GdiplusPainter::endGroup(double opacity) {
     graphics().Flush(Gdiplus::FlushIntentionSync);
@@ -309,21 +313,18 @@ double GdiplusPainter::textWidth(const std::string& text, const svg::Font& font)
 }
 
 void GdiplusPainter::image(std::span<const std::byte> png, Point corner, Point size) {
-    const auto bitmap = decodedPng(png);
-    if (!bitmap) return;
+    if (imageBytes_ != png.data()) {
+        image_ = decodedPng(png);
+        imageBytes_ = png.data();
+    }
+    if (!image_) return;
     const Gdiplus::PointF corners[] = {pointF(matrix_ * corner),
                                        pointF(matrix_ * Point{corner.x + size.x, corner.y}),
                                        pointF(matrix_ * Point{corner.x, corner.y + size.y})};
     Gdiplus::ImageAttributes attributes;
     attributes.SetWrapMode(Gdiplus::WrapModeTileFlipXY); // else the edges would fade away
-    graphics().DrawImage(bitmap.get(), corners, 3, 0, 0, static_cast<float>(bitmap->GetWidth()),
-                         static_cast<float>(bitmap->GetHeight()), Gdiplus::UnitPixel, &attributes);
-}
-
-Point GdiplusPainter::imageSize(std::span<const std::byte> png) {
-    const auto bitmap = decodedPng(png);
-    if (!bitmap) return {};
-    return {static_cast<double>(bitmap->GetWidth()), static_cast<double>(bitmap->GetHeight())};
+    graphics().DrawImage(image_.get(), corners, 3, 0, 0, static_cast<float>(image_->GetWidth()),
+                         static_cast<float>(image_->GetHeight()), Gdiplus::UnitPixel, &attributes);
 }
 
 std::unique_ptr<Gdiplus::GraphicsPath> GdiplusPainter::pathOf(const Outline& outline,
@@ -410,7 +411,7 @@ std::optional<Picture> readPng(std::span<const std::byte> png) {
     return picture;
 }
 
-bool writePng(const Picture& picture, const std::filesystem::path& file) {
+std::string pngText(const Picture& picture) {
     const Running running;
     std::vector<std::uint8_t> swapped = picture.pixels; // GDI+ has blue first
     for (std::size_t i = 0; i + 3 < swapped.size(); i += 4)
@@ -419,7 +420,20 @@ bool writePng(const Picture& picture, const std::filesystem::path& file) {
                            swapped.data()};
     constexpr CLSID kPngEncoder{
         0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
-    return bitmap.Save(file.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
+    IStream* stream = nullptr;
+    if (CreateStreamOnHGlobal(nullptr, TRUE, &stream) != S_OK) throw std::bad_alloc{};
+    std::string png;
+    HGLOBAL memory = nullptr;
+    STATSTG status{};
+    if (bitmap.Save(stream, &kPngEncoder, nullptr) == Gdiplus::Ok &&
+        stream->Stat(&status, STATFLAG_NONAME) == S_OK &&
+        GetHGlobalFromStream(stream, &memory) == S_OK)
+        png.assign(static_cast<const char*>(GlobalLock(memory)),
+                   static_cast<std::size_t>(status.cbSize.QuadPart));
+    if (memory != nullptr) GlobalUnlock(memory);
+    stream->Release();
+    if (png.empty()) throw std::bad_alloc{};
+    return png;
 }
 
 } // namespace easel::paint

@@ -38,7 +38,6 @@ public:
     void text(const std::string& text, const svg::Font& font, Point start, const Ink& ink) override;
     [[nodiscard]] double textWidth(const std::string& text, const svg::Font& font) override;
     void image(std::span<const std::byte> png, Point corner, Point size) override;
-    [[nodiscard]] Point imageSize(std::span<const std::byte> png) override;
 
     /// The rows averaged down: red, green, blue, alpha, not multiplied.
     void readRows(std::uint8_t* target) const;
@@ -68,6 +67,9 @@ private:
     Matrix matrix_;
     std::vector<State> saved_;
     std::vector<std::unique_ptr<Layer>> layers_;
+    /// The image last painted: copies of it tend to follow.
+    std::shared_ptr<Gdiplus::Bitmap> image_;
+    const std::byte* imageBytes_ = nullptr;
 };
 
 } // namespace easel::paint

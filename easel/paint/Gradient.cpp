@@ -14,11 +14,13 @@ double positionAlong(const svg::GradientContent& gradient, Point point) {
     const Point from = point - gradient.start;
     if (gradient.kind == svg::GradientContent::Kind::Linear)
         return dot(from, axis) / dot(axis, axis);
-    // The circle with centre start + t axis and radius t r that passes through the point; the focus
-    // lies inside the outer circle, so that the larger root is the one.
-    const double a = dot(axis, axis) - gradient.radius * gradient.radius;
-    const double b = dot(from, axis);
-    const double c = dot(from, from);
+    // The circle with centre start + t axis and radius r0 + t (r - r0) that passes through the
+    // point; the first circle lies inside the last, so that the larger root is the one.
+    const double first = gradient.focalRadius;
+    const double growth = gradient.radius - first;
+    const double a = dot(axis, axis) - growth * growth;
+    const double b = dot(from, axis) + first * growth;
+    const double c = dot(from, from) - first * first;
     const double discriminant = std::max(0.0, b * b - a * c);
     return (b - std::sqrt(discriminant)) / a;
 }
@@ -43,7 +45,8 @@ Colour between(const Colour& a, const Colour& b, float part) {
 std::optional<Colour> singleColour(const svg::GradientContent& gradient) {
     if (gradient.stops.empty()) return Colour{0, 0, 0, 0};
     const bool linear = gradient.kind == svg::GradientContent::Kind::Linear;
-    const bool pointlike = linear ? gradient.start == gradient.end : gradient.radius <= 0;
+    const bool pointlike =
+        linear ? gradient.start == gradient.end : gradient.radius <= gradient.focalRadius;
     if (pointlike || gradient.stops.size() == 1) return gradient.stops.back().colour;
     return std::nullopt;
 }

@@ -1,5 +1,7 @@
 #include "easel/paint/PaintAnnotations.h"
 
+#include "easel/svg/Png.h"
+
 #include "easel/core/Text.h"
 #include "easel/paint/Picture.h"
 
@@ -203,7 +205,7 @@ private:
 
     void paintImage(const DrawCommand& command) {
         const std::span<const std::byte> png = std::as_bytes(std::span{command.png});
-        const Point size = painter_.imageSize(png);
+        const Point size = svg::pngSize(png);
         const AIPoint first = command.points.front();
         Point corner{static_cast<double>(first.h), static_cast<double>(first.v)};
         if (command.kind == Kind::PngInRect) {

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
-#include <stdexcept>
 
 namespace easel::paint {
 namespace {
@@ -207,7 +206,31 @@ private:
     void stroke(const Outline& outline, const ArtStyle& style, double alpha) {
         const auto ink = inkOf(style.path.stroke.color, style.strokeDefinition, style.strokeMatrix,
                                alpha * style.strokeOpacity);
-        if (ink) painter_.stroke(outline, penOf(style, outline), *ink);
+        if (!ink) return;
+        const auto* const effects = dynamic_cast<const svg::Effects*>(style.foreign.get());
+        const bool squeezed =
+            effects != nullptr && !svg::isConformal(effects->space) && !effects->hasFixedStroke();
+        if (squeezed)
+            return strokeIn(matrixOf(style.foreignMatrix) * effects->space, outline, style, *ink);
+        painter_.stroke(outline, penOf(style, outline), *ink);
+    }
+
+    /// The pen is round in that space.
+    void strokeIn(const Matrix& space, const Outline& outline, const ArtStyle& style, Ink ink) {
+        const auto back = svg::inverse(space);
+        if (!back) return;
+        const double scale = 1.0 / svg::meanScale(space);
+        const Outline there = svg::transformed(outline, *back);
+        Pen pen = penOf(style, outline);
+        pen.width *= scale;
+        pen.dashOffset *= scale;
+        for (double& dash : pen.dashes)
+            dash *= scale;
+        ink.gradientMatrix = *back * ink.gradientMatrix;
+        painter_.save();
+        painter_.transform(space);
+        painter_.stroke(there, pen, ink);
+        painter_.restore();
     }
 
     /// Nothing when the paint is not understood. A pattern along a stroke shows as grey.
@@ -319,7 +342,7 @@ private:
     void paintImage(const svg::ImageContent& image) {
         Point corner = image.corner;
         Point size = image.size;
-        const Point pixels = painter_.imageSize(image.png);
+        const Point pixels = image.pixels;
         if (pixels.x <= 0 || pixels.y <= 0) {
             const Point far = corner + size;
             const Outline frame{{{svg::cornerAt(corner), svg::cornerAt({far.x, corner.y}),
@@ -354,8 +377,7 @@ Picture paintDocument(const Document& document, const PaintOptions& options) {
     const AIRealRect artboard = document.artboard();
     const double width = std::ceil((artboard.right - artboard.left) * options.scale - 1e-6);
     const double height = std::ceil((artboard.top - artboard.bottom) * options.scale - 1e-6);
-    if (!(width <= kLongestSide && height <= kLongestSide))
-        throw std::length_error("the picture would be too large; use a smaller scale");
+    checkPictureSize(std::max(1.0, width), std::max(1.0, height));
     const Matrix toPixels{options.scale,
                           0,
                           0,

@@ -3,6 +3,7 @@
 #include "easel/paint/PaintAnnotations.h"
 #include "easel/paint/PaintDocument.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace easel::paint {
@@ -51,8 +52,7 @@ Picture paintView(const DocumentView& view, const DisplayList& annotations,
                   const ViewPictureOptions& options) {
     const double width = std::ceil(view.width * options.scale - 1e-6);
     const double height = std::ceil(view.height * options.scale - 1e-6);
-    if (!(width <= kLongestSide && height <= kLongestSide))
-        throw std::length_error("the picture would be too large; use a smaller scale");
+    checkPictureSize(std::max(1.0, width), std::max(1.0, height));
     PaintOptions art;
     art.guides = view.showGuides;
     art.scale = static_cast<double>(view.zoom) * options.scale;

@@ -64,8 +64,6 @@ public:
 
     /// A PNG file's picture, stretched over the rectangle; nothing when it is none.
     virtual void image(std::span<const std::byte> png, Point corner, Point size) = 0;
-    /// Width and height in pixels; 0, 0 when it is none.
-    [[nodiscard]] virtual Point imageSize(std::span<const std::byte> png) = 0;
 };
 
 } // namespace easel::paint

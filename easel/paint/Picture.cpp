@@ -1,5 +1,8 @@
 #include "easel/paint/Picture.h"
 
+#include "easel/core/OutputFile.h"
+#include "easel/svg/Numbers.h"
+
 #include <cstdlib>
 #include <stdexcept>
 
@@ -14,10 +17,24 @@ Colour Picture::at(int x, int y) const {
     return {channel(0), channel(1), channel(2), channel(3)};
 }
 
-void checkPictureSize(int width, int height) {
+void checkPictureSize(double width, double height) {
     const bool fits = width > 0 && height > 0 && width <= kLongestSide && height <= kLongestSide &&
-                      static_cast<std::int64_t>(width) * height <= kMostPixels;
-    if (!fits) throw std::length_error("the picture would be too large; use a smaller scale");
+                      width * height <= static_cast<double>(kMostPixels);
+    if (fits) return;
+    throw std::length_error("the picture would have " + svg::formatNumber(width) + " x " +
+                            svg::formatNumber(height) +
+                            " pixels; at most 100 million are painted, and 30,000 to a side");
+}
+
+void checkGroups(int groups, int width, int height) {
+    constexpr std::int64_t kMostBytes = 2'000'000'000;
+    if (std::int64_t{4} * groups * width * height > kMostBytes)
+        throw std::length_error("groups that fade as one are nested too deeply to be painted at "
+                                "this size; use fewer levels or a smaller drawing");
+}
+
+void writePng(const Picture& picture, const std::filesystem::path& file) {
+    writeFile(file, pngText(picture));
 }
 
 double difference(const Picture& a, const Picture& b) {

@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 #include <span>
+#include <string>
 #include <vector>
 
 namespace easel::paint {
@@ -21,9 +22,9 @@ struct Picture {
     [[nodiscard]] Colour at(int x, int y) const;
 };
 
-/// The longest side of a picture, and the most pixels.
+/// The longest side of a picture, and the most pixels: 400 MB.
 constexpr int kLongestSide = 30'000;
-constexpr std::int64_t kMostPixels = 200'000'000;
+constexpr std::int64_t kMostPixels = 100'000'000;
 
 /// A picture that `paint` paints, transparent at first; edges are smoothed. `paint` may be called
 /// several times, each time for a part of the picture, and must then paint the same. Throws
@@ -39,10 +40,14 @@ constexpr std::int64_t kMostPixels = 200'000'000;
 /// Of 255. Two painters' smoothed edges stay below it almost everywhere.
 constexpr int kVisibleDifference = 48;
 
-/// False when the file cannot be written.
-[[nodiscard]] bool writePng(const Picture& picture, const std::filesystem::path& file);
+/// The bytes of a PNG file.
+[[nodiscard]] std::string pngText(const Picture& picture);
+/// Throws FileError.
+void writePng(const Picture& picture, const std::filesystem::path& file);
 
 /// Throws std::length_error.
-void checkPictureSize(int width, int height);
+void checkPictureSize(double width, double height);
+/// Throws std::length_error when that many groups, each a picture of its own, are too much.
+void checkGroups(int groups, int width, int height);
 
 } // namespace easel::paint

@@ -5,7 +5,6 @@
 #include "easel/document/Dump.h"
 #include "easel/document/Layers.h"
 #include "easel/script/System.h"
-#include "easel/svg/Content.h"
 
 #include <algorithm>
 
@@ -108,10 +107,7 @@ Action readLayer(Arguments& arguments) {
 
 /// Art goes by the id of its element or by its name.
 bool goesBy(const Art& art, const std::string& id) {
-    if (art.details().name == id) return true;
-    const svg::DrawingSource* const source = svg::sourceOf(art.document());
-    const svg::ElementSource* const element = source != nullptr ? source->find(art) : nullptr;
-    return element != nullptr && element->attributes.find(" id=\"" + id + '"') != std::string::npos;
+    return art.details().name == id || *art.content().id == id;
 }
 
 std::vector<Art*> artNamed(const Document& document, const std::string& id) {
@@ -346,11 +342,7 @@ Action readPicture(Arguments& arguments) {
     const std::string name = arguments.text("file");
     const double scale = arguments.take("scale") ? arguments.number("scale") : 1.0;
     if (!(scale > 0)) throw Mistake("a scale is more than 0");
-    return [=](Player& player) {
-        const std::filesystem::path file = player.output(name);
-        if (!paint::writePng(player.picture(scale), file))
-            throw SessionError(file.string() + ": cannot be written");
-    };
+    return [=](Player& player) { paint::writePng(player.picture(scale), player.output(name)); };
 }
 
 constexpr CommandRow kCommands[] = {

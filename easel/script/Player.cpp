@@ -180,7 +180,8 @@ std::filesystem::path Player::output(const std::string& name) const {
 std::filesystem::path Player::keepPicture(int line) {
     if (!started_ || easel::session().current == nullptr) return {};
     const std::filesystem::path file = output(settings_.name + '-' + std::to_string(line) + ".png");
-    return paint::writePng(picture(1.0), file) ? file : std::filesystem::path{};
+    paint::writePng(picture(1.0), file);
+    return file;
 }
 
 } // namespace easel::script

@@ -30,10 +30,16 @@ std::vector<std::string> DrawingSession::open(const std::filesystem::path& file)
     return std::move(drawing.warnings);
 }
 
-void DrawingSession::save(const std::filesystem::path& file) {
+std::vector<std::string> DrawingSession::save(const std::filesystem::path& file,
+                                              OutputFile* together) {
     host.beforeSaving();
-    svg::writeSvg(currentDocument(), file);
+    std::vector<std::string> warnings;
+    OutputFile output{file};
+    output.prepare(svg::svgText(currentDocument(), &warnings));
+    output.commit();
+    if (together != nullptr) together->commit();
     host.afterSaving();
+    return warnings;
 }
 
 std::vector<std::string> DrawingSession::finish() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "easel/core/OutputFile.h"
 #include "easel/runtime/Host.h"
 
 #include <filesystem>
@@ -27,7 +28,7 @@ struct DrawingPoint {
 ///   3. Everything else that a user can do is in `host`.
 ///   4. `save` writes the drawing; `finish` quits the plug-ins.
 ///
-/// Failures throw `SessionError`, or what is wrong with a file (`svg::FileError`).
+/// Failures throw `SessionError`, or what is wrong with a file (`FileError`).
 class DrawingSession {
 public:
     explicit DrawingSession(HostSettings settings = {});
@@ -39,7 +40,10 @@ public:
     void start();
     /// Returns warnings of the reader, one line each.
     std::vector<std::string> open(const std::filesystem::path& file);
-    void save(const std::filesystem::path& file);
+    /// Puts `together`, which is prepared, in its place with the drawing. Returns warnings of the
+    /// writer, one line each.
+    std::vector<std::string> save(const std::filesystem::path& file,
+                                  OutputFile* together = nullptr);
     /// Returns what the plug-in did wrong in the session, one line each; empty when all is well.
     [[nodiscard]] std::vector<std::string> finish();
 

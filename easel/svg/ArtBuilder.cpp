@@ -67,44 +67,20 @@ bool ArtBuilder::isArt(const Element& element) {
            (name == "clipPath" && element.isTrue("easel:clip"));
 }
 
-void ArtBuilder::readChildren(NodeIndex node, Art& parent, const Context& context,
-                              std::vector<Interlude>* interludes) {
-    PendingInterludes pending;
-    const auto keepPending = [&](AIArtHandle before) {
-        if (interludes != nullptr) pending.moveTo(*interludes, before);
-    };
-    for (NodeIndex child = state_.tree.at(node).firstChild; child != kNoNode;
-         child = state_.tree.at(child).nextSibling) {
-        Art* art = nullptr;
-        if (state_.tree.at(child).kind == XmlTree::Kind::Element) {
-            const Element element{state_.tree, child};
-            art = readElement(element, parent, context);
-        }
-        if (art != nullptr)
-            keepPending(art->handle());
-        else if (interludes != nullptr)
-            pending.add(state_.tree, child);
-    }
-    keepPending(nullptr);
+void ArtBuilder::readChildren(NodeIndex node, Art& parent, const Context& context) {
+    for (const NodeIndex child : childElements(state_.tree, node))
+        static_cast<void>(readElement(Element{state_.tree, child}, parent, context));
 }
 
 Context ArtBuilder::contextOf(const Element& element, const Context& parent) {
-    Context context{styleOf(element.properties(state_.sheet, state_.path), parent.style,
-                            parent.viewport.diagonal()),
-                    parent.matrix, parent.viewport};
-    if (element.has("transform")) {
-        const auto matrix = parseTransform(element.get("transform"));
-        if (!matrix) {
-            element.fail("the transform of <" + std::string{element.name()} +
-                         "> is not understood; write matrix, translate, scale, rotate, skewX or "
-                         "skewY with numbers");
-        }
-        context.matrix = parent.matrix * *matrix;
+    Context context = svg::contextOf(element, state_.sheet, state_.path, parent);
+    for (const auto& [property, value] : context.style.unknown) {
+        const auto known = parent.style.unknown.find(property);
+        if (known != parent.style.unknown.end() && known->second == value) continue;
+        state_.warn(element, property + " of <" + std::string{element.name()} + "> is '" +
+                                 value.substr(0, 40) +
+                                 "', which is not understood; copies do not have it");
     }
-    for (const double entry : {context.matrix.a, context.matrix.b, context.matrix.c,
-                               context.matrix.d, context.matrix.e, context.matrix.f})
-        if (!(std::abs(entry) <= kLargestCoordinate))
-            element.fail("the transforms here lead beyond 1e9 user units; make them smaller");
     return context;
 }
 
@@ -122,14 +98,17 @@ Art* ArtBuilder::readElement(const Element& element, Art& parent, const Context&
     Art* const clipGroup =
         clipPath.empty() ? nullptr : &createArt(document_, kGroupArt, onTopOf(parent));
     Art& home = clipGroup != nullptr ? *clipGroup : parent;
-    Art* const art = isShape(name) ? readShape(element, home, *context)
-                                   : readOpaque(element, home, parentContext);
+    Art* const art =
+        isShape(name) ? readShape(element, home, *context) : readOpaque(element, home, *context);
     if (clipGroup == nullptr) return art;
-    if (art != nullptr && clip(*clipGroup, clipPath, *context, localBounds(*art, context->matrix)))
+    if (art != nullptr &&
+        clip(*clipGroup, clipPath, *context, localBounds(*art, context->matrix))) {
+        keepSource(element, *clipGroup);
         return clipGroup;
+    }
     if (art != nullptr) {
         moveArt(*art, onTopOf(parent));
-        keepClipAsText(*art, clipPath);
+        keepClipAsText(element, *art, *context);
     }
     disposeArt(*clipGroup);
     return art;
@@ -137,44 +116,46 @@ Art* ArtBuilder::readElement(const Element& element, Art& parent, const Context&
 
 Art* ArtBuilder::readGroup(const Element& element, Art& parent, const Context& context) {
     Art& group = createArt(document_, kGroupArt, onTopOf(parent));
-    auto inner = std::make_unique<Context>(context);
-    if (element.name() == "svg") enterViewBox(element, *inner);
     const bool isLayer = parent.isLayer() && element.get("inkscape:groupmode") == "layer";
     if (isLayer) group.write().isLayerGroup = true;
-    group.write().clipped = element.isTrue("easel:clipped");
-    styleContainer(group, context.style);
-    readState(element, context.style, group);
-    std::vector<Interlude> interludes;
-    readChildren(element.node(), group, *inner, source_ == nullptr ? nullptr : &interludes);
-    keepSource(element, group, std::move(interludes));
-    const std::string& clipPath = context.style.clipPath;
-    if (!clipPath.empty() && !group.content().clipped &&
-        !clip(group, clipPath, context, localBounds(group, context.matrix)))
-        keepClipAsText(group, clipPath);
+    readContainer(element, group, context);
     return &group;
+}
+
+void ArtBuilder::readContainer(const Element& element, Art& group, const Context& context) {
+    const auto inner = std::make_unique<Context>(context);
+    if (element.name() == "svg") enterViewBox(element, *inner);
+    group.write().clipped = element.isTrue("easel:clipped");
+    if (context.style.opacity != 1.0)
+        group.write().style.write().opacity = static_cast<AIReal>(context.style.opacity);
+    if (auto effects = effectsOf(element, context))
+        group.write().style.write().foreign = std::move(effects);
+    readState(element, context.style, group);
+    readChildren(element.node(), group, *inner);
+    keepSource(element, group);
+    if (element.name() == "svg") clipToViewport(element, group, context);
+    const std::string& clipPath = context.style.clipPath;
+    if (group.isLayer()) return; // a layer's clip path stays in the text: its members are art alone
+    if (!clipPath.empty() && !element.isTrue("easel:clipped") &&
+        !clip(group, clipPath, context, localBounds(group, context.matrix)))
+        keepClipAsText(element, group, context);
 }
 
 /// Our own way of keeping a clip mask where it stands among the members of its group.
 Art* ArtBuilder::readClipMembers(const Element& element, Art& parent, const Context& context) {
     Art* const before = parent.firstChild();
     parent.write().clipped = true;
-    readChildren(element.node(), parent, context, nullptr);
+    readChildren(element.node(), parent, context);
     Art* first = nullptr;
     for (Art* art = parent.firstChild(); art != before; art = art->next()) {
         setAttribute(*art, kArtIsClipMask);
+        keepSource(element, *art); // its place is that of the clip path
         first = art;
     }
+    if (source_ != nullptr)
+        for (Art* art = first; art != nullptr && art != before; art = art->previous())
+            source_->art[parent.handle()].parts.push_back(art->handle());
     return first;
-}
-
-void ArtBuilder::styleContainer(Art& group, const Style& style) {
-    if (style.opacity == 1.0 && style.others.empty()) return;
-    ArtStyle& target = group.write().style.write();
-    target.opacity = static_cast<AIReal>(style.opacity);
-    if (style.others.empty()) return;
-    auto extras = std::make_shared<StyleExtras>();
-    extras->properties = style.others;
-    target.foreign = std::move(extras);
 }
 
 Art* ArtBuilder::readShape(const Element& element, Art& parent, const Context& context) {
@@ -190,16 +171,16 @@ Art* ArtBuilder::readShape(const Element& element, Art& parent, const Context& c
     if (std::ranges::any_of(shape->outline, isTooLong)) {
         state_.warn(element, "the path has more than 32,000 segments; it is kept as it is, but "
                              "cannot be edited");
-        return &addOpaque(kForeignArt, element, parent, context, context, boundsOf(shape->outline),
+        return &addOpaque(kForeignArt, element, parent, context, boundsOf(shape->outline),
                           std::make_shared<OpaqueContent>());
     }
-    ArtStyle style = styleFor(context, shape->outline);
+    ArtStyle style = styleFor(element, context, shape->outline);
     readInks(element, style);
     Art& art = addOutline(std::move(shape->outline), parent, context.matrix, style);
     if (art.type() == kPathArt) readEndHandles(element, art, offset_);
     readState(element, context.style, art);
     readMembers(element, art);
-    keepSource(element, art, {});
+    keepSource(element, art);
     return &art;
 }
 
@@ -247,6 +228,7 @@ void ArtBuilder::readState(const Element& element, const Style& style, Art& art)
             member->write().guide = true;
     if (element.has("easel:dictionary"))
         readDictionary(element, element.get("easel:dictionary"), art.dictionary());
+    if (source_ != nullptr && element.has("id")) art.write().id = Cow{element.get("id")};
     if (element.has("easel:note")) art.write().details.write().note = element.get("easel:note");
     const std::string label = element.get("inkscape:label");
     if (art.isLayer())
@@ -308,20 +290,14 @@ void ArtBuilder::readDictionary(const Element& element, std::string_view text,
     }
 }
 
-void ArtBuilder::keepSource(const Element& element, Art& art, std::vector<Interlude> interludes) {
+void ArtBuilder::keepSource(const Element& element, const Art& art) {
     if (source_ == nullptr) return;
-    ElementSource source;
-    KeptAttributes kept = keptAttributes(element);
-    source.attributes = std::move(kept.own);
-    source.shapeAttributes = std::move(kept.shape);
-    source.interludes = std::move(interludes);
-    if (isGroup(element.name()) && element.name() != "g" && element.name() != "svg")
-        source.tag = element.name();
-    if (!source.shapeAttributes.empty()) source.shape = art.content().segments;
-    if (isShape(element.name())) source.inner = trimmed(state_.tree.content(element.node()));
-    const bool plain = source.attributes.empty() && source.shapeAttributes.empty() &&
-                       source.interludes.empty() && source.tag.empty() && source.inner.empty();
-    if (!plain) source_->elements.insert_or_assign(art.handle(), std::move(source));
+    ArtSource& source = source_->art[art.handle()];
+    source.node = element.node();
+    source_->isArt[element.node()] = true;
+    if (art.type() != kCompoundPathArt) return;
+    for (const Art* member = art.lastChild(); member != nullptr; member = member->previous())
+        source.parts.push_back(member->handle());
 }
 
 } // namespace easel::svg

@@ -12,11 +12,11 @@ namespace easel::svg {
 /// Makes art of elements, in one document: that of the file, or that of a drawing within it.
 ///
 /// Transformations end in the geometry of paths and in the matrices of opaque art; styles end in
-/// the leaves. What groups keep is their opacity, their clip and what is not understood.
+/// the leaves. What groups have is their opacity, their clip and what is not understood.
 class ArtBuilder {
 public:
-    /// `source` takes what is not understood; null for a drawing within the drawing, of which the
-    /// text is kept as a whole. `offset` is the document's `rulerOffset`.
+    /// `source` takes what came of which element; null for a drawing within the drawing, which is
+    /// not written back as art. `offset` is the document's `rulerOffset`.
     ArtBuilder(ReadingState& state, Document& document, DrawingSource* source, Point offset)
         : state_(state), document_(document), source_(source), offset_(offset) {}
 
@@ -24,27 +24,26 @@ public:
     [[nodiscard]] static bool isArt(const Element& element);
 
     /// Reads what stands between the tags of `node` into `parent`, front-most last.
-    void readChildren(NodeIndex node, Art& parent, const Context& context,
-                      std::vector<Interlude>* interludes);
+    void readChildren(NodeIndex node, Art& parent, const Context& context);
 
     /// Puts one element on top in `parent`. Null when it is no art.
     Art* readElement(const Element& element, Art& parent, const Context& context);
 
-    /// What the element's own attributes make of what its parent hands down.
-    [[nodiscard]] Context contextOf(const Element& element, const Context& parent);
+    /// Reads an element that holds others, and what it says of itself, into the group made for it.
+    void readContainer(const Element& element, Art& group, const Context& context);
 
-    /// Gives `group` the name, state, entries and layer flags that the element says it has.
-    void readState(const Element& element, const Style& style, Art& art);
-    /// Keeps what of the element is not understood.
-    void keepSource(const Element& element, Art& art, std::vector<Interlude> interludes);
-    /// Opacity and what is not understood of a container's style.
-    void styleContainer(Art& group, const Style& style);
+    /// What the element's own attributes make of what its parent hands down; what of it is not
+    /// understood is told.
+    [[nodiscard]] Context contextOf(const Element& element, const Context& parent);
 
 private:
     enum class Entered { Element, Content }; ///< Is the element itself drawn, or its children?
 
     // ArtBuilder.cpp
     Art* readGroup(const Element& element, Art& parent, const Context& context);
+    void readState(const Element& element, const Style& style, Art& art);
+    /// Remembers that `art` came of the element.
+    void keepSource(const Element& element, const Art& art);
     Art* readClipMembers(const Element& element, Art& parent, const Context& context);
     Art* readShape(const Element& element, Art& parent, const Context& context);
     Art& addOutline(Outline outline, Art& parent, const Matrix& matrix, const ArtStyle& style);
@@ -54,8 +53,12 @@ private:
     void readDictionary(const Element& element, std::string_view text, Dictionary& dictionary);
 
     // Styling.cpp
+    /// What art of the element carries although it is not understood; null: nothing.
+    [[nodiscard]] std::shared_ptr<Effects> effectsOf(const Element& element,
+                                                     const Context& context) const;
     /// The style of a shape with this outline in the element's coordinates.
-    [[nodiscard]] ArtStyle styleFor(const Context& context, const Outline& outline);
+    [[nodiscard]] ArtStyle styleFor(const Element& element, const Context& context,
+                                    const Outline& outline);
     /// Grey and process inks, which stand beside the colours that they look like.
     static void readInks(const Element& element, ArtStyle& style);
     struct ServerUse {
@@ -65,6 +68,7 @@ private:
     /// Nothing when the paint is to be left out.
     [[nodiscard]] std::optional<ServerUse> serverFor(const std::string& id, const Context& context,
                                                      const Outline& outline);
+    /// `derived` is an element of ours for this one use.
     [[nodiscard]] ServerUse derivedUse(const Element& derived, const Context& context,
                                        const Outline& outline);
     /// `derived` is our own element for this use of the pattern; null when there is none.
@@ -81,19 +85,20 @@ private:
     /// Clips `group`, whose content `bounds` (in the element's coordinates) encloses. False when
     /// the clip path is not understood.
     bool clip(Art& group, const std::string& clipPath, const Context& context, const Box& bounds);
-    /// For a clip path that is not understood: it is written back, but does not clip here.
-    void keepClipAsText(Art& art, const std::string& clipPath);
+    /// For a clip path that is not understood: it goes where the art goes, but does not clip here.
+    void keepClipAsText(const Element& element, Art& art, const Context& context);
+    /// A nested <svg> shows nothing beyond its viewport.
+    void clipToViewport(const Element& element, Art& group, const Context& context);
+    void addMask(Art& group, Outline outline, bool evenOdd);
     [[nodiscard]] std::optional<Outline> clipOutline(const Element& clipPath,
                                                      const Context& context, bool& evenOdd);
     [[nodiscard]] Box localBounds(const Art& art, const Matrix& matrix) const;
 
     // OpaqueArt.cpp
-    Art* readOpaque(const Element& element, Art& parent, const Context& parentContext);
+    Art* readOpaque(const Element& element, Art& parent, const Context& context);
     Art& addOpaque(ai::int16 type, const Element& element, Art& parent, const Context& context,
-                   const Context& parentContext, const Box& box,
-                   std::shared_ptr<OpaqueContent> content);
-    Art* readUse(const Element& element, Art& parent, const Context& context,
-                 const Context& parentContext);
+                   const Box& box, std::shared_ptr<OpaqueContent> content);
+    Art* readUse(const Element& element, Art& parent, const Context& context);
     /// What `target` shows, read once for each `variant` of what it inherits. Null when it refers
     /// to itself.
     [[nodiscard]] std::shared_ptr<const DrawingContent>

@@ -1,3 +1,4 @@
+#include "easel/document/ArtTree.h"
 #include "easel/document/Bounds.h"
 #include "easel/svg/ArtBuilder.h"
 
@@ -11,22 +12,29 @@ constexpr std::size_t kMostClips = 16;
 
 } // namespace
 
+/// Clip masks add nothing to what they clip.
 Box ArtBuilder::localBounds(const Art& art, const Matrix& matrix) const {
     Box box;
-    const std::optional<AIDoubleRect> bounds = boundsOf(art, kNoStrokeBounds);
     const std::optional<Matrix> back = inverse(matrix);
-    if (!bounds || !back) return box;
-    for (const double x : {bounds->left, bounds->right})
-        for (const double y : {bounds->top, bounds->bottom})
-            box.add(*back * Point{x + offset_.x, -y + offset_.y});
+    for (const Art* each = &art; back && each != nullptr;) {
+        const bool isWhole = each->type() != kGroupArt || each->has(kArtIsClipMask);
+        const auto bounds = isWhole && !each->has(kArtIsClipMask) ? boundsOf(*each, kNoStrokeBounds)
+                                                                  : std::optional<AIDoubleRect>{};
+        for (const double x :
+             bounds ? std::vector{bounds->left, bounds->right} : std::vector<double>{})
+            for (const double y : {bounds->top, bounds->bottom})
+                box.add(*back * Point{x + offset_.x, -y + offset_.y});
+        each = isWhole ? nextSkippingChildren(*each, art) : nextInPreorder(*each, art);
+    }
     return box;
 }
 
 /// The union of the outlines of what a clip path holds, in the coordinates of the drawing. Nothing
-/// when it holds what has no outline.
+/// when it holds what has no outline, or its shapes cannot be one outline.
 std::optional<Outline> ArtBuilder::clipOutline(const Element& clipPath, const Context& context,
                                                bool& evenOdd) {
     Outline outline;
+    bool first = true;
     for (const NodeIndex node : childElements(state_.tree, clipPath.node())) {
         const Element child{state_.tree, node};
         const Pushed pushed{state_.path, child.selectorName()};
@@ -57,7 +65,11 @@ std::optional<Outline> ArtBuilder::clipOutline(const Element& clipPath, const Co
                 return std::nullopt;
             continue; // a title, an animation
         }
-        evenOdd = evenOdd || inner->style.clipEvenOdd;
+        const bool otherRule = !first && evenOdd != inner->style.clipEvenOdd;
+        // Two shapes that count crossings would cut holes into one another.
+        if (otherRule || (!first && evenOdd)) return std::nullopt;
+        evenOdd = inner->style.clipEvenOdd;
+        first = false;
         for (Subpath& subpath : transformed(part->outline, inner->matrix)) {
             if (subpath.anchors.size() > static_cast<std::size_t>(kMaxPathSegments))
                 return std::nullopt;
@@ -69,13 +81,18 @@ std::optional<Outline> ArtBuilder::clipOutline(const Element& clipPath, const Co
     return outline;
 }
 
-void ArtBuilder::keepClipAsText(Art& art, const std::string& clipPath) {
-    ArtStyle& style = art.write().style.write();
-    const auto* const former = dynamic_cast<const StyleExtras*>(style.foreign.get());
-    auto extras = std::make_shared<StyleExtras>();
-    if (former != nullptr) extras->properties = former->properties;
-    extras->properties["clip-path"] = "url(#" + clipPath + ")";
-    style.foreign = std::move(extras);
+void ArtBuilder::keepClipAsText(const Element& element, Art& art, const Context& context) {
+    const std::string& clipPath = context.style.clipPath;
+    if (state_.tree.find(clipPath) == kNoNode) return; // as if there were none
+    state_.warn(element, "the clip path of <" + std::string{element.name()} +
+                             "> holds more than shapes of one fill rule; it is kept, but Easel's "
+                             "own pictures are not clipped");
+    auto effects = effectsOf(element, context);
+    if (!effects) effects = std::make_shared<Effects>();
+    effects->properties["clip-path"] = "url(#" + clipPath + ")";
+    effects->space = softMatrix(context.matrix, offset_);
+    effects->spatial = true;
+    art.write().style.write().foreign = std::move(effects);
 }
 
 bool ArtBuilder::clip(Art& group, const std::string& clipPath, const Context& context,
@@ -103,14 +120,32 @@ bool ArtBuilder::clip(Art& group, const std::string& clipPath, const Context& co
         masks.emplace_back(std::move(*outline), evenOdd);
         id = own->style.clipPath;
     }
-    group.write().clipped = true;
-    for (auto& [outline, evenOdd] : masks) {
-        ArtStyle style;
-        style.path.evenodd = evenOdd ? 1 : 0;
-        Art& mask = addOutline(std::move(outline), group, Matrix{}, style);
-        mask.write().attributes |= static_cast<std::uint32_t>(kArtIsClipMask);
-    }
+    for (auto& [outline, evenOdd] : masks)
+        addMask(group, std::move(outline), evenOdd);
     return true;
+}
+
+void ArtBuilder::addMask(Art& group, Outline outline, bool evenOdd) {
+    ArtStyle style;
+    style.path.evenodd = evenOdd ? 1 : 0;
+    Art& mask = addOutline(std::move(outline), group, Matrix{}, style);
+    mask.write().attributes |= static_cast<std::uint32_t>(kArtIsClipMask);
+    group.write().clipped = true;
+    if (source_ != nullptr) source_->art[group.handle()].parts.push_back(mask.handle());
+}
+
+void ArtBuilder::clipToViewport(const Element& element, Art& group, const Context& context) {
+    const auto overflow = context.style.others.find("overflow");
+    const bool isClipped = overflow == context.style.others.end() ||
+                           (overflow->second != "visible" && overflow->second != "auto");
+    if (!isClipped || group.firstChild() == nullptr) return;
+    const Viewport& viewport = context.viewport;
+    const auto attribute = [&](std::string_view name) {
+        if ((name == "width" || name == "height") && !element.has(name)) return std::string{"100%"};
+        return name == "rx" || name == "ry" ? std::string{} : element.get(name);
+    };
+    Outline outline = shapeOutline("rect", attribute, viewport, context.style.font.size)->outline;
+    addMask(group, transformed(std::move(outline), context.matrix), false);
 }
 
 } // namespace easel::svg

@@ -1,8 +1,11 @@
 #include "easel/svg/Content.h"
 
 #include "easel/document/Layers.h"
+#include "easel/svg/DictionaryJson.h"
+#include "easel/svg/Numbers.h"
 
 #include <cassert>
+#include <set>
 
 namespace easel::svg {
 namespace {
@@ -12,13 +15,42 @@ AIReal narrowed(double value) { return static_cast<AIReal>(value) + 0.0F; }
 
 } // namespace
 
-const ElementSource* DrawingSource::find(const Art& art) const {
-    const auto found = elements.find(art.handle());
-    return found == elements.end() ? nullptr : &found->second;
+const ArtSource* DrawingSource::find(const Art& one) const {
+    const auto found = art.find(one.handle());
+    return found == art.end() ? nullptr : &found->second;
 }
 
 const DrawingSource* sourceOf(const Document& document) {
     return dynamic_cast<const DrawingSource*>(document.foreign.get());
+}
+
+std::vector<AttributeText> documentAttributes(const Document& document) {
+    const DocumentState& state = document.state();
+    const DrawingSource* const source = sourceOf(document);
+    const Point corner = source != nullptr ? source->viewBoxCorner : Point{};
+    const std::string width = formatNumber(state.setup.width);
+    const std::string height = formatNumber(state.setup.height);
+    const auto unless = [](bool usual, std::string text) { return usual ? std::string{} : text; };
+    const auto entries = [](const Dictionary& dictionary) { return dictionaryJson(dictionary); };
+    const bool usualLayer =
+        state.currentLayer == nullptr || state.currentLayer == &startingLayer(document);
+    return {
+        {"width", width},
+        {"height", height},
+        {"viewBox",
+         formatNumber(corner.x) + ' ' + formatNumber(corner.y) + ' ' + width + ' ' + height},
+        {"easel:ruler-origin",
+         unless(rulerOffset(document) == Point{} || source == nullptr,
+                formatNumber(state.rulerOrigin.h) + ' ' + formatNumber(state.rulerOrigin.v))},
+        {"easel:current-layer",
+         unless(usualLayer, std::to_string(layerNumber(document, state.currentLayer)))},
+        {"easel:ruler-units",
+         unless(document.rulerUnits == kPointsUnits, std::to_string(document.rulerUnits))},
+        {"easel:color-model",
+         unless(document.colorModel == 1, std::to_string(document.colorModel))},
+        {"easel:document", entries(document.recordedDictionary())},
+        {"easel:unrecorded", entries(document.otherDictionary())},
+    };
 }
 
 Art& startingLayer(const Document& document) {
@@ -46,6 +78,17 @@ Art* numberedLayer(const Document& document, int number) {
     return layer;
 }
 
+void fillInTitles(std::vector<std::string>& titles) {
+    const std::set<std::string> given{titles.begin(), titles.end()};
+    int number = 1;
+    for (std::string& title : titles) {
+        if (!title.empty()) continue;
+        do
+            title = "Layer " + std::to_string(number++);
+        while (given.contains(title));
+    }
+}
+
 Point rulerOffset(const Document& document) {
     const DrawingSource* const source = sourceOf(document);
     if (source ==
@@ -62,13 +105,22 @@ AIRealPoint toSoft(Point point, Point offset) {
     return {narrowed(point.x - offset.x), narrowed(-(point.y - offset.y))};
 }
 
-AIRealMatrix toSoft(const Matrix& m, Point offset) {
-    const AIRealPoint origin = toSoft(Point{m.e, m.f}, offset);
-    return {narrowed(m.a), narrowed(-m.b), narrowed(m.c), narrowed(-m.d), origin.h, origin.v};
+AIRealMatrix toSoft(const Matrix& matrix, Point offset) {
+    const Matrix m = softMatrix(matrix, offset);
+    return {narrowed(m.a), narrowed(m.b), narrowed(m.c),
+            narrowed(m.d), narrowed(m.e), narrowed(m.f)};
 }
 
 Matrix fromSoft(const AIRealMatrix& m, Point offset) {
-    return {m.a, -m.b, m.c, -m.d, m.tx + offset.x, -m.ty + offset.y};
+    return drawingMatrix({m.a, m.b, m.c, m.d, m.tx, m.ty}, offset);
+}
+
+Matrix softMatrix(const Matrix& m, Point offset) {
+    return {m.a, -m.b, m.c, -m.d, m.e - offset.x, -(m.f - offset.y)};
+}
+
+Matrix drawingMatrix(const Matrix& m, Point offset) {
+    return {m.a, -m.b, m.c, -m.d, m.e + offset.x, -m.f + offset.y};
 }
 
 } // namespace easel::svg

@@ -3,9 +3,9 @@
 #include "easel/document/Document.h"
 #include "easel/svg/Outline.h"
 #include "easel/svg/Style.h"
+#include "easel/svg/XmlTree.h"
 
 #include <cstddef>
-#include <map>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -15,15 +15,11 @@
 /// the drawing: y downwards.
 namespace easel::svg {
 
-/// An element that is written back as it was read, but for its matrix and state.
-struct RawElement {
-    std::string tag;
-    std::string attributes; ///< As they stood, each with a blank before it.
-    std::string inner;      ///< From the start tag to the end tag; empty: there is neither.
-};
-
+/// Art that is its element, copies as well: what it shows is not taken apart.
 struct OpaqueContent : ForeignContent {
-    RawElement raw;
+    NodeIndex node = kNoNode;
+    /// What the element gives and inherits, as text, of the properties that children take over.
+    std::shared_ptr<const Properties> style;
 };
 
 struct TextRun {
@@ -42,6 +38,7 @@ struct TextContent : OpaqueContent {
 
 struct ImageContent : OpaqueContent {
     std::vector<std::byte> png; ///< Empty: not a PNG held in the drawing; a frame stands for it.
+    Point pixels;               ///< How many the PNG has across and down.
     Point corner;
     Point size;
     bool keepsAspect = true;
@@ -63,6 +60,7 @@ struct GradientContent : ForeignContent {
     Point start; ///< Of a linear gradient; of a radial one the focus.
     Point end;   ///< Of a linear gradient; of a radial one the centre.
     double radius = 0.0;
+    double focalRadius = 0.0; ///< The circle around the focus at which a radial gradient begins.
     Matrix transform;
     std::vector<GradientStop> stops;
 };
@@ -85,54 +83,56 @@ struct PatternContent : ForeignContent {
     Point viewBoxSize;  ///< The tile in the drawing's coordinates; used when `resolved`.
 };
 
-/// Properties that are kept as text: a filter, a mask, markers.
-struct StyleExtras : ForeignContent {
+/// What of an element is not understood and goes where its art goes, copies as well: a filter, a
+/// mask, markers, values beyond us. It has its meaning in the element's user space, which the art's
+/// style takes along (`ArtStyle::foreignMatrix`).
+struct Effects : ForeignContent {
     Properties properties;
+    Matrix space;         ///< From the user space to the soft coordinates when it was read.
+    bool spatial = false; ///< It looks otherwise in another user space.
+    std::string lost;     ///< What copies leave out, "LINE: ..."; empty: nothing.
+
+    /// The stroke has its width on screen, whatever the transforms.
+    [[nodiscard]] bool hasFixedStroke() const {
+        const auto found = properties.find("vector-effect");
+        return found != properties.end() && found->second == "non-scaling-stroke";
+    }
 };
 
-/// Something that is not art, kept between the elements of a container.
-struct Interlude {
-    std::string source;
-    AIArtHandle before = nullptr; ///< The art in front of which it stood in the text.
-    std::size_t number = 0;       ///< Grows along the text.
-    bool isDefinition = false;    ///< Art elsewhere may refer to it.
+/// What one object was read as. It has been left alone while it is the same.
+struct ArtSource {
+    NodeIndex node = kNoNode; ///< The element it came from; none: a part of what another one made.
+    ArtContent content;
+    std::uint64_t stamp = 0;
+    std::vector<AIArtHandle> parts; ///< The members of a compound path, the masks of a clip group.
 };
 
-/// What was read of an element and belongs to this one object, not to copies of it.
-struct ElementSource {
-    std::string tag;        ///< Of a group that was no <g>.
-    std::string attributes; ///< Not understood, as they stood, each with a blank before it.
-    /// Attributes that describe the shape as it was read: not written once it has changed.
-    std::string shapeAttributes;
-    Cow<Segments> shape;
-    std::string inner; ///< What stood inside a shape, such as its title.
-    std::vector<Interlude> interludes;
+/// An attribute that says something of the model; not there when the text is empty.
+struct AttributeText {
+    std::string_view name;
+    std::string text;
 };
 
-/// What was read of the file as a whole.
+/// What was read of the file as a whole: its text, to be written back where nothing has changed,
+/// and what came of it.
 struct DrawingSource : ForeignContent {
-    std::string prologue;
-    std::string epilogue;
-    std::string rootAttributes;
-    std::vector<std::string> rootNames; ///< Of all attributes of the root.
+    std::shared_ptr<const XmlTree> tree;
+    StyleSheet sheet;
     Point viewBoxCorner;
-    AISize size{0, 0};
-    /// The lengths, viewBox included, as they stood; not written once the size has changed.
-    std::string sizeAttributes;
+    Point viewBoxSize;
     AIRealPoint rulerOrigin{0, 0}; ///< At which soft coordinates are the drawing's, y negated.
-    bool hasStyleSheet = false;
-    std::vector<std::string> reservedIds; ///< That begin as ours do; sorted.
-    std::unordered_map<AIArtHandle, ElementSource> elements;
-    std::vector<Interlude> interludes; ///< Of the root.
+    std::unordered_map<AIArtHandle, ArtSource> art;
+    std::vector<bool> isArt; ///< By node: art came of it, which has its own place in the text.
+    std::vector<AttributeText> attributes; ///< Of the root, as `documentAttributes` had them.
 
-    [[nodiscard]] const ElementSource* find(const Art& art) const;
+    [[nodiscard]] const ArtSource* find(const Art& one) const;
 };
 
 /// What the reader kept of the document; null when it was not read from a file.
 [[nodiscard]] const DrawingSource* sourceOf(const Document& document);
 
-/// The name of our own attributes' namespace.
-inline constexpr std::string_view kNamespace = "urn:facetta:easel";
+/// What the root element says of the document, always in the same order.
+[[nodiscard]] std::vector<AttributeText> documentAttributes(const Document& document);
 
 /// The layer that a drawing opens with unless it says otherwise: the top-most top-level one that
 /// can be worked on, or the top-most. The document has a layer.
@@ -142,6 +142,9 @@ inline constexpr std::string_view kNamespace = "urn:facetta:easel";
 /// Null when there is none of that number.
 [[nodiscard]] Art* numberedLayer(const Document& document, int number);
 
+/// Gives the layers that have no title, listed from the bottom, "Layer N".
+void fillInTitles(std::vector<std::string>& titles);
+
 // Between the drawing's coordinates, y downwards, and soft ones, y upwards.
 
 /// Soft coordinates are the drawing's, less this, with y negated: how far the ruler origin lies
@@ -150,5 +153,8 @@ inline constexpr std::string_view kNamespace = "urn:facetta:easel";
 [[nodiscard]] AIRealPoint toSoft(Point point, Point offset);
 [[nodiscard]] AIRealMatrix toSoft(const Matrix& matrix, Point offset);
 [[nodiscard]] Matrix fromSoft(const AIRealMatrix& matrix, Point offset);
+/// The same without rounding, for a matrix from any space.
+[[nodiscard]] Matrix softMatrix(const Matrix& matrix, Point offset);
+[[nodiscard]] Matrix drawingMatrix(const Matrix& soft, Point offset);
 
 } // namespace easel::svg

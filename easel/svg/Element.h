@@ -15,6 +15,7 @@ public:
     Element(const XmlTree& tree, NodeIndex node)
         : tree_(&tree), node_(node), attributes_(tree.attributes(node)) {}
 
+    [[nodiscard]] const XmlTree& tree() const { return *tree_; }
     [[nodiscard]] NodeIndex node() const { return node_; }
     [[nodiscard]] std::string_view name() const { return tree_->at(node_).name; }
     [[nodiscard]] std::size_t line() const { return tree_->at(node_).line; }
@@ -50,18 +51,6 @@ private:
 
 /// The lengths and fractions of one element's children, in document order.
 [[nodiscard]] std::vector<NodeIndex> childElements(const XmlTree& tree, NodeIndex node);
-
-/// The attributes that are kept as they stand: those that belong to the one object, and those that
-/// describe the shape as it was read. Understood ones are in neither.
-struct KeptAttributes {
-    std::string own;
-    std::string shape;
-};
-[[nodiscard]] KeptAttributes keptAttributes(const Element& element);
-
-/// All attributes of an opaque element that copies of it carry, as they stand, with what it
-/// inherits written out, so that it looks the same under other parents.
-[[nodiscard]] std::string carriedAttributes(const Element& element, const Style& parent);
 
 /// What CSS calls a declaration list; empty for no properties.
 [[nodiscard]] std::string declarationText(const Properties& properties);

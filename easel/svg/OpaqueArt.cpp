@@ -2,6 +2,7 @@
 #include "easel/svg/ArtBuilder.h"
 #include "easel/svg/Base64.h"
 #include "easel/svg/Numbers.h"
+#include "easel/svg/Png.h"
 #include "easel/svg/ViewBox.h"
 
 #include <algorithm>
@@ -14,6 +15,9 @@ namespace {
 constexpr double kLetterWidth = 0.55;
 constexpr double kAscent = 0.8;
 constexpr double kDescent = 0.2;
+
+/// A picture of more takes seconds and hundreds of megabytes each time it is painted.
+constexpr double kMostImagePixels = 50e6;
 
 /// Lines and blanks count as one blank, as XML text is shown.
 std::string collapsed(std::string_view text) {
@@ -125,14 +129,22 @@ std::string inheritedText(const Style& style) {
 
 } // namespace
 
-Art* ArtBuilder::readOpaque(const Element& element, Art& parent, const Context& parentContext) {
-    const auto context = std::make_unique<const Context>(contextOf(element, parentContext));
-    if (element.name() == "use") return readUse(element, parent, *context, parentContext);
+Art* ArtBuilder::readOpaque(const Element& element, Art& parent, const Context& context) {
+    if (element.name() == "use") return readUse(element, parent, context);
     Box box;
     if (element.name() == "image") {
         auto content = std::make_shared<ImageContent>();
-        const Viewport& viewport = context->viewport;
+        const Viewport& viewport = context.viewport;
         content->png = pngOf(element);
+        content->pixels = pngSize(content->png);
+        if (content->pixels.x * content->pixels.y > kMostImagePixels) {
+            state_.warn(element,
+                        "the picture has " + formatNumber(content->pixels.x) + " x " +
+                            formatNumber(content->pixels.y) +
+                            " pixels; those of more than 50 million are kept, but shown as "
+                            "a frame");
+            content->pixels = {};
+        }
         content->corner = {element.length("x", viewport.width, 0),
                            element.length("y", viewport.height, 0)};
         content->size = {element.length("width", viewport.width, 0),
@@ -140,20 +152,20 @@ Art* ArtBuilder::readOpaque(const Element& element, Art& parent, const Context& 
         content->keepsAspect = element.get("preserveAspectRatio") != "none";
         box.add(content->corner);
         box.add(content->corner + content->size);
-        return &addOpaque(kRasterArt, element, parent, *context, parentContext, box, content);
+        return &addOpaque(kRasterArt, element, parent, context, box, content);
     }
     auto content = std::make_shared<TextContent>();
-    TextReader{state_, *content}.read(element, *context);
+    TextReader{state_, *content}.read(element, context);
     for (const TextRun& run : content->runs)
         addRun(box, run);
-    return &addOpaque(kTextFrameArt, element, parent, *context, parentContext, box, content);
+    return &addOpaque(kTextFrameArt, element, parent, context, box, content);
 }
 
 Art& ArtBuilder::addOpaque(ai::int16 type, const Element& element, Art& parent,
-                           const Context& context, const Context& parentContext, const Box& box,
+                           const Context& context, const Box& box,
                            std::shared_ptr<OpaqueContent> content) {
-    content->raw = {std::string{element.name()}, carriedAttributes(element, parentContext.style),
-                    std::string{state_.tree.content(element.node())}};
+    content->node = element.node();
+    content->style = context.style.inherited;
     Art& art = createArt(document_, type, onTopOf(parent));
     ArtContent& target = art.write();
     ArtDetails& details = target.details.write();
@@ -164,13 +176,11 @@ Art& ArtBuilder::addOpaque(ai::int16 type, const Element& element, Art& parent,
     if (context.style.opacity != 1.0)
         target.style.write().opacity = static_cast<AIReal>(context.style.opacity);
     readState(element, context.style, art);
-    if (source_ != nullptr && element.has("id"))
-        source_->elements[art.handle()].attributes = " id=\"" + escaped(element.get("id")) + '"';
+    keepSource(element, art);
     return art;
 }
 
-Art* ArtBuilder::readUse(const Element& element, Art& parent, const Context& context,
-                         const Context& parentContext) {
+Art* ArtBuilder::readUse(const Element& element, Art& parent, const Context& context) {
     state_.countReference(element);
     const Viewport& viewport = context.viewport;
     const Point corner{element.length("x", viewport.width, 0),
@@ -198,8 +208,8 @@ Art* ArtBuilder::readUse(const Element& element, Art& parent, const Context& con
             box.add({bounds->left, -bounds->top});
             box.add({bounds->right, -bounds->bottom});
         }
-    Art& art = addOpaque(kSymbolArt, element, parent, context, parentContext, box,
-                         std::make_shared<OpaqueContent>());
+    Art& art =
+        addOpaque(kSymbolArt, element, parent, context, box, std::make_shared<OpaqueContent>());
     Definition& symbol =
         definition(Definition::Kind::Symbol, element.reference(), drawing, variant);
     if (!box.empty) symbol.box = art.details().box;
@@ -232,7 +242,7 @@ ArtBuilder::drawingOf(const Element& referring, NodeIndex target, const Context&
         entered == Entered::Content || element.name() == "symbol" || element.name() == "svg";
     if (hasContentOnly) {
         const Pushed own{state_.path, element.selectorName()};
-        builder.readChildren(target, layer, context, nullptr);
+        builder.readChildren(target, layer, context);
     } else {
         builder.readElement(element, layer, context);
     }

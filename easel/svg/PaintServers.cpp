@@ -90,12 +90,6 @@ bool isDerived(const XmlTree& tree, const Element& element) {
     return source != kNoNode && !Element{tree, source}.isTrue("easel:derived");
 }
 
-bool isMadeAnew(const XmlTree& tree, NodeIndex node) {
-    const NodeIndex parent = tree.at(node).parent;
-    return parent != kNoNode && isGenerated(tree, parent) &&
-           tree.at(node).kind == XmlTree::Kind::Element && isDerived(tree, Element{tree, node});
-}
-
 std::vector<Element> referenceChain(const XmlTree& tree, NodeIndex node) {
     std::vector<Element> chain;
     while (node != kNoNode && chain.size() < kLongestChain) {
@@ -134,6 +128,7 @@ std::shared_ptr<const GradientContent> gradientContent(ReadingState& state, Node
         gradient->kind = GradientContent::Kind::Radial;
         gradient->end = {lengths.across("cx", "50%"), lengths.down("cy", "50%")};
         gradient->radius = std::max(0.0, lengths.slanted("r", "50%"));
+        gradient->focalRadius = std::clamp(lengths.slanted("fr", "0%"), 0.0, gradient->radius);
         const bool hasX = !attributeInChain(chain, "fx").empty();
         const bool hasY = !attributeInChain(chain, "fy").empty();
         gradient->start = {hasX ? lengths.across("fx", "50%") : gradient->end.x,
@@ -179,13 +174,12 @@ std::shared_ptr<PatternContent> patternTile(const std::vector<Element>& chain,
     return pattern;
 }
 
-Matrix derivedTransform(const Definition& definition, const AIRealMatrix& matrix, Point offset) {
-    Matrix own;
+Matrix ownTransform(const Definition& definition) {
     if (const auto* gradient = dynamic_cast<const GradientContent*>(definition.content.get()))
-        own = gradient->transform;
+        return gradient->transform;
     if (const auto* pattern = dynamic_cast<const PatternContent*>(definition.content.get()))
-        own = pattern->transform;
-    return fromSoft(matrix, offset) * own;
+        return pattern->transform;
+    return {};
 }
 
 } // namespace easel::svg

@@ -4,16 +4,12 @@
 
 namespace easel::svg {
 
-/// Is this a <defs> that holds what saving a drawing makes anew?
+/// Is this the <defs> in which saving a drawing puts what it makes?
 [[nodiscard]] bool isGenerated(const XmlTree& tree, NodeIndex node);
 
 /// Is this element, as saving made it, a gradient or pattern put in its place for one shape, which
 /// says where it comes from? Its source is in the drawing and no such element itself.
 [[nodiscard]] bool isDerived(const XmlTree& tree, const Element& element);
-
-/// Is the element made anew whenever the drawing is saved, so that it need not be kept? What others
-/// have put among the generated definitions, or changed past recognition, is not.
-[[nodiscard]] bool isMadeAnew(const XmlTree& tree, NodeIndex node);
 
 /// The element, then those that it refers to for what it does not say itself, in that order.
 [[nodiscard]] std::vector<Element> referenceChain(const XmlTree& tree, NodeIndex node);
@@ -31,9 +27,7 @@ gradientContent(ReadingState& state, NodeIndex node, const Viewport& viewport);
 [[nodiscard]] std::shared_ptr<PatternContent>
 patternTile(const std::vector<Element>& chain, const Viewport& viewport, const Box& bounds);
 
-/// The gradientTransform or patternTransform that takes a definition's coordinates to those of the
-/// drawing for a shape with this matrix from the definition's own space to soft coordinates.
-[[nodiscard]] Matrix derivedTransform(const Definition& definition, const AIRealMatrix& matrix,
-                                      Point offset);
+/// The gradientTransform or patternTransform that the definition's element has.
+[[nodiscard]] Matrix ownTransform(const Definition& definition);
 
 } // namespace easel::svg

@@ -1,9 +1,9 @@
 #include "easel/svg/ReadingState.h"
 
 #include "easel/svg/Numbers.h"
-#include "easel/svg/PaintServers.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace easel::svg {
 namespace {
@@ -14,38 +14,7 @@ constexpr std::size_t kMostRuleChecks = 500'000'000;
 /// More warnings help nobody.
 constexpr std::size_t kMostWarnings = 20;
 
-/// Elements that art elsewhere may refer to, or whose look hangs on them.
-bool isDefinition(std::string_view element) {
-    constexpr std::string_view kDefinitions[] = {"clipPath", "defs",  "filter",  "linearGradient",
-                                                 "marker",   "mask",  "pattern", "radialGradient",
-                                                 "style",    "symbol"};
-    return std::ranges::find(kDefinitions, element) != std::end(kDefinitions);
-}
-
 } // namespace
-
-void PendingInterludes::add(const XmlTree& tree, NodeIndex node) {
-    const bool isElement = tree.at(node).kind == XmlTree::Kind::Element;
-    pending_.push_back({std::string{trimmed(tree.source(node))}, nullptr, node,
-                        isElement && isDefinition(tree.at(node).name)});
-}
-
-void PendingInterludes::addForeign(const XmlTree& tree, NodeIndex generated) {
-    std::string kept;
-    for (NodeIndex node = tree.at(generated).firstChild; node != kNoNode;
-         node = tree.at(node).nextSibling)
-        if (tree.at(node).kind != XmlTree::Kind::Text && !isMadeAnew(tree, node))
-            kept += tree.source(node);
-    if (!kept.empty()) pending_.push_back({"<defs>" + kept + "</defs>", nullptr, generated, true});
-}
-
-void PendingInterludes::moveTo(std::vector<Interlude>& target, AIArtHandle before) {
-    for (Interlude& interlude : pending_) {
-        interlude.before = before;
-        target.push_back(std::move(interlude));
-    }
-    pending_.clear();
-}
 
 void ReadingState::countElement(const Element& element) {
     if (++elements_ > kMostElements + kMostReferencedElements)
@@ -61,8 +30,36 @@ void ReadingState::countReference(const Element& element) {
 }
 
 void ReadingState::warn(const Element& element, const std::string& message) {
-    if (warnings.size() < kMostWarnings)
-        warnings.push_back(std::to_string(element.line()) + ": " + message);
+    std::string warning = std::to_string(element.line()) + ": " + message;
+    if (warnings.size() < kMostWarnings && std::ranges::find(warnings, warning) == warnings.end())
+        warnings.push_back(std::move(warning));
+}
+
+Context contextOf(const Element& element, const StyleSheet& sheet,
+                  const std::vector<ElementName>& path, const Context& parent) {
+    Context context{
+        styleOf(element.properties(sheet, path), parent.style, parent.viewport.diagonal()),
+        parent.matrix, parent.viewport};
+    if (element.has("transform")) {
+        const auto matrix = parseTransform(element.get("transform"));
+        if (!matrix) {
+            element.fail("the transform of <" + std::string{element.name()} +
+                         "> is not understood; write matrix, translate, scale, rotate, skewX or "
+                         "skewY with numbers");
+        }
+        context.matrix = parent.matrix * *matrix;
+    }
+    for (const double entry : {context.matrix.a, context.matrix.b, context.matrix.c,
+                               context.matrix.d, context.matrix.e, context.matrix.f})
+        if (!(std::abs(entry) <= kLargestCoordinate))
+            element.fail("the transforms here lead beyond 1e9 user units; make them smaller");
+    return context;
+}
+
+Context rootContext(const Element& root, const StyleSheet& sheet, Point size) {
+    const Viewport viewport{size.x, size.y};
+    const Properties properties = root.properties(sheet, {root.selectorName()});
+    return {styleOf(properties, Style{}, viewport.diagonal()), Matrix{}, viewport};
 }
 
 Deeper::Deeper(ReadingState& state, const Element& element) : state_(state) {

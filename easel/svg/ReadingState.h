@@ -29,15 +29,18 @@ struct Context {
 /// definitions, and how much more may be read.
 class ReadingState {
 public:
-    explicit ReadingState(std::string text) : tree(std::move(text)) {}
+    explicit ReadingState(std::string drawing)
+        : text(std::make_shared<const XmlTree>(std::move(drawing))), tree(*text) {}
 
     /// Counts one more element; throws SvgError where the limits are passed.
     void countElement(const Element& element);
     /// Counts one more reference.
     void countReference(const Element& element);
+    /// Says each thing about an element once.
     void warn(const Element& element, const std::string& message);
 
-    XmlTree tree;
+    std::shared_ptr<const XmlTree> text;
+    const XmlTree& tree;
     StyleSheet sheet;
     std::vector<ElementName> path; ///< From the root to the element being read.
     std::vector<std::string> warnings;
@@ -57,19 +60,13 @@ private:
     std::size_t ruleChecks_ = 0;
 };
 
-/// What stands between elements that become art, until it is known which art comes next.
-class PendingInterludes {
-public:
-    void add(const XmlTree& tree, NodeIndex node);
-    /// What others have put among the definitions that saving makes anew.
-    void addForeign(const XmlTree& tree, NodeIndex generated);
-    [[nodiscard]] bool empty() const { return pending_.empty(); }
-    /// Moves all to the end of `target`, as what stands before that art; null: before none.
-    void moveTo(std::vector<Interlude>& target, AIArtHandle before);
+/// What the element's own attributes make of what its parent hands down. `path` leads to it. Throws
+/// SvgError for a transform that is none.
+[[nodiscard]] Context contextOf(const Element& element, const StyleSheet& sheet,
+                                const std::vector<ElementName>& path, const Context& parent);
 
-private:
-    std::vector<Interlude> pending_;
-};
+/// What the root hands down; `size` is that of its view box.
+[[nodiscard]] Context rootContext(const Element& root, const StyleSheet& sheet, Point size);
 
 /// Something put back when a scope ends.
 template <typename Container> class Pushed {

@@ -18,74 +18,75 @@ struct PropertyRow {
     bool understood;
     bool inherited;
     bool text; ///< Of text alone.
+    std::string_view initial;
 };
 constexpr PropertyRow kProperties[] = {
-    {"alignment-baseline", false, false, true},
-    {"baseline-shift", false, false, true},
-    {"clip-path", true, false, false},
-    {"clip-rule", true, true, false},
-    {"color", true, true, false},
-    {"color-interpolation", false, true, false},
-    {"color-interpolation-filters", false, true, false},
-    {"color-rendering", false, true, false},
-    {"cursor", false, true, false},
-    {"direction", false, true, true},
-    {"display", true, false, false},
-    {"dominant-baseline", false, true, true},
-    {"enable-background", false, false, false},
-    {"fill", true, true, false},
-    {"fill-opacity", true, true, false},
-    {"fill-rule", true, true, false},
-    {"filter", false, false, false},
-    {"font", false, true, true},
-    {"font-family", false, true, true},
-    {"font-feature-settings", false, true, true},
-    {"font-kerning", false, true, true},
-    {"font-size", false, true, true},
-    {"font-size-adjust", false, true, true},
-    {"font-stretch", false, true, true},
-    {"font-style", false, true, true},
-    {"font-variant", false, true, true},
-    {"font-weight", false, true, true},
-    {"glyph-orientation-vertical", false, true, true},
-    {"image-rendering", false, true, false},
-    {"isolation", false, false, false},
-    {"kerning", false, true, true},
-    {"letter-spacing", false, true, true},
-    {"line-height", false, true, true},
-    {"marker", false, true, false},
-    {"marker-end", false, true, false},
-    {"marker-mid", false, true, false},
-    {"marker-start", false, true, false},
-    {"mask", false, false, false},
-    {"mix-blend-mode", false, false, false},
-    {"opacity", true, false, false},
-    {"overflow", false, false, false},
-    {"paint-order", false, true, false},
-    {"pointer-events", false, true, false},
-    {"shape-rendering", false, true, false},
-    {"stop-color", true, false, false},
-    {"stop-opacity", true, false, false},
-    {"stroke", true, true, false},
-    {"stroke-dasharray", true, true, false},
-    {"stroke-dashoffset", true, true, false},
-    {"stroke-linecap", true, true, false},
-    {"stroke-linejoin", true, true, false},
-    {"stroke-miterlimit", true, true, false},
-    {"stroke-opacity", true, true, false},
-    {"stroke-width", true, true, false},
-    {"text-align", false, true, true},
-    {"text-anchor", false, true, true},
-    {"text-decoration", false, false, true},
-    {"text-indent", false, true, true},
-    {"text-rendering", false, true, true},
-    {"text-transform", false, true, true},
-    {"unicode-bidi", false, false, true},
-    {"vector-effect", false, false, false},
-    {"visibility", true, true, false},
-    {"white-space", false, true, true},
-    {"word-spacing", false, true, true},
-    {"writing-mode", false, true, true},
+    {"alignment-baseline", false, false, true, ""},
+    {"baseline-shift", false, false, true, ""},
+    {"clip-path", true, false, false, "none"},
+    {"clip-rule", true, true, false, "nonzero"},
+    {"color", true, true, false, "black"},
+    {"color-interpolation", false, true, false, "sRGB"},
+    {"color-interpolation-filters", false, true, false, "linearRGB"},
+    {"color-rendering", false, true, false, "auto"},
+    {"cursor", false, true, false, ""},
+    {"direction", false, true, true, "ltr"},
+    {"display", true, false, false, "inline"},
+    {"dominant-baseline", false, true, true, "auto"},
+    {"enable-background", false, false, false, ""},
+    {"fill", true, true, false, "#000000"},
+    {"fill-opacity", true, true, false, "1"},
+    {"fill-rule", true, true, false, "nonzero"},
+    {"filter", false, false, false, "none"},
+    {"font", false, true, true, ""},
+    {"font-family", false, true, true, ""},
+    {"font-feature-settings", false, true, true, ""},
+    {"font-kerning", false, true, true, ""},
+    {"font-size", false, true, true, "medium"},
+    {"font-size-adjust", false, true, true, ""},
+    {"font-stretch", false, true, true, "normal"},
+    {"font-style", false, true, true, "normal"},
+    {"font-variant", false, true, true, "normal"},
+    {"font-weight", false, true, true, "normal"},
+    {"glyph-orientation-vertical", false, true, true, ""},
+    {"image-rendering", false, true, false, "auto"},
+    {"isolation", false, false, false, ""},
+    {"kerning", false, true, true, ""},
+    {"letter-spacing", false, true, true, "normal"},
+    {"line-height", false, true, true, ""},
+    {"marker", false, true, false, "none"},
+    {"marker-end", false, true, false, "none"},
+    {"marker-mid", false, true, false, "none"},
+    {"marker-start", false, true, false, "none"},
+    {"mask", false, false, false, "none"},
+    {"mix-blend-mode", false, false, false, "normal"},
+    {"opacity", true, false, false, "1"},
+    {"overflow", false, false, false, ""},
+    {"paint-order", false, true, false, "normal"},
+    {"pointer-events", false, true, false, ""},
+    {"shape-rendering", false, true, false, "auto"},
+    {"stop-color", true, false, false, "black"},
+    {"stop-opacity", true, false, false, "1"},
+    {"stroke", true, true, false, "none"},
+    {"stroke-dasharray", true, true, false, "none"},
+    {"stroke-dashoffset", true, true, false, "0"},
+    {"stroke-linecap", true, true, false, "butt"},
+    {"stroke-linejoin", true, true, false, "miter"},
+    {"stroke-miterlimit", true, true, false, "4"},
+    {"stroke-opacity", true, true, false, "1"},
+    {"stroke-width", true, true, false, "1"},
+    {"text-align", false, true, true, ""},
+    {"text-anchor", false, true, true, "start"},
+    {"text-decoration", false, false, true, ""},
+    {"text-indent", false, true, true, ""},
+    {"text-rendering", false, true, true, ""},
+    {"text-transform", false, true, true, ""},
+    {"unicode-bidi", false, false, true, ""},
+    {"vector-effect", false, false, false, "none"},
+    {"visibility", true, true, false, "visible"},
+    {"white-space", false, true, true, ""},
+    {"word-spacing", false, true, true, "normal"},
+    {"writing-mode", false, true, true, ""},
 };
 static_assert(std::ranges::is_sorted(kProperties, {}, &PropertyRow::name));
 
@@ -126,8 +127,15 @@ struct Context {
     }
 };
 
-void setFraction(double& target, std::string_view value) {
-    if (const auto fraction = parseFraction(value)) target = *fraction;
+// Setters: false for a value that is not understood, which changes nothing.
+
+template <typename T> bool assign(T& target, const std::optional<T>& value) {
+    if (value) target = *value;
+    return value.has_value();
+}
+
+bool setFraction(double& target, std::string_view value) {
+    return assign(target, parseFraction(value));
 }
 
 template <typename T> struct Word {
@@ -136,15 +144,17 @@ template <typename T> struct Word {
 };
 
 template <typename T, std::size_t N>
-void setWord(T& target, std::string_view value, const Word<T> (&words)[N]) {
-    for (const Word<T>& word : words)
-        if (word.text == value) target = word.value;
+bool setWord(T& target, std::string_view value, const Word<T> (&words)[N]) {
+    const auto* const word = std::ranges::find(words, value, &Word<T>::text);
+    if (word == std::end(words)) return false;
+    target = word->value;
+    return true;
 }
 
-void setDashes(const Context& c) {
+bool setDashes(const Context& c) {
     if (c.value == "none") {
         c.style.dashes.clear();
-        return;
+        return true;
     }
     std::vector<double> dashes;
     double sum = 0.0;
@@ -152,51 +162,61 @@ void setDashes(const Context& c) {
         const std::string_view rest = cursor.rest();
         const std::size_t end = std::min(rest.find_first_of(" ,\t\r\n"), rest.size());
         const auto length = parseLength(rest.substr(0, end), c.viewport, c.style.font.size);
-        if (!length || *length < 0 || dashes.size() >= kMostDashes) return;
+        if (!length || *length < 0 || dashes.size() >= kMostDashes) return false;
         dashes.push_back(*length);
         sum += *length;
         cursor = Cursor{rest.substr(end)};
     }
     if (dashes.size() % 2 == 1) dashes.insert(dashes.end(), dashes.begin(), dashes.end());
     c.style.dashes = sum > 0 ? dashes : std::vector<double>{};
+    return true;
 }
 
-void setFontSize(const Context& c) {
+bool setFontSize(const Context& c) {
     constexpr Word<double> kSizes[] = {{"xx-small", 9}, {"x-small", 10}, {"small", 13},
                                        {"medium", 16},  {"large", 18},   {"x-large", 24},
                                        {"xx-large", 32}};
-    double size = c.style.font.size;
-    setWord(size, c.value, kSizes);
     const double parentSize = c.parent.font.size;
-    if (const auto length = parseLength(c.value, parentSize, parentSize)) size = *length;
-    if (size >= 0 && size <= kLargestCoordinate) c.style.font.size = size;
+    std::optional<double> size = parseLength(c.value, parentSize, parentSize);
+    if (c.value == "larger") size = 1.2 * parentSize;
+    if (c.value == "smaller") size = parentSize / 1.2;
+    double known = 0.0;
+    if (setWord(known, c.value, kSizes)) size = known;
+    if (!size || !(*size >= 0 && *size <= kLargestCoordinate)) return false;
+    c.style.font.size = *size;
+    return true;
 }
 
-void setFontFamily(const Context& c) {
+bool setFontFamily(const Context& c) {
     std::string_view first = trimmed(c.value.substr(0, c.value.find(',')));
     if (first.size() >= 2 && (first.front() == '\'' || first.front() == '"'))
         first = first.substr(1, first.size() - 2);
     if (!first.empty()) c.style.font.family = first;
+    return true;
 }
 
-void setStrokeWidth(const Context& c) {
+bool setStrokeWidth(const Context& c) {
     const auto width = c.length();
-    if (width && *width >= 0 && *width <= kLargestCoordinate) c.style.strokeWidth = *width;
+    if (!width || !(*width >= 0 && *width <= kLargestCoordinate)) return false;
+    c.style.strokeWidth = *width;
+    return true;
 }
 
-void setClipPath(const Context& c) { c.style.clipPath = referenceIn(c.value); }
+bool setClipPath(const Context& c) {
+    c.style.clipPath = referenceIn(c.value);
+    return !c.style.clipPath.empty() || c.value == "none";
+}
 
-void setPaint(Paint& target, const Context& c) {
-    if (const auto paint = parsePaint(c.value, c.style.color)) target = *paint;
+bool setPaint(Paint& target, const Context& c) {
+    return assign(target, parsePaint(c.value, c.style.color));
 }
 
 constexpr Word<bool> kRules[] = {{"nonzero", false}, {"evenodd", true}};
 constexpr Word<Cap> kCaps[] = {{"butt", Cap::Butt}, {"round", Cap::Round}, {"square", Cap::Square}};
 constexpr Word<Join> kJoins[] = {
     {"miter", Join::Miter}, {"round", Join::Round}, {"bevel", Join::Bevel}};
-constexpr Word<bool> kWeights[] = {{"normal", false},  {"bold", true}, {"bolder", true},
-                                   {"lighter", false}, {"600", true},  {"700", true},
-                                   {"800", true},      {"900", true},  {"400", false}};
+constexpr Word<bool> kWeights[] = {
+    {"normal", false}, {"bold", true}, {"bolder", true}, {"lighter", false}};
 constexpr Word<bool> kSlants[] = {{"normal", false}, {"italic", true}, {"oblique", true}};
 constexpr Word<TextAnchor> kAnchors[] = {
     {"start", TextAnchor::Start}, {"middle", TextAnchor::Middle}, {"end", TextAnchor::End}};
@@ -204,46 +224,49 @@ constexpr Word<bool> kVisibility[] = {{"visible", true}, {"hidden", false}, {"co
 
 struct Setter {
     std::string_view property;
-    void (*set)(const Context&);
+    bool (*set)(const Context&);
 };
 constexpr Setter kSetters[] = {
-    {"color",
-     [](const Context& c) {
-         if (const auto colour = parseColour(c.value)) c.style.color = *colour;
-     }},
-    {"fill", [](const Context& c) { setPaint(c.style.fill, c); }},
-    {"stroke", [](const Context& c) { setPaint(c.style.stroke, c); }},
-    {"fill-opacity", [](const Context& c) { setFraction(c.style.fillOpacity, c.value); }},
-    {"stroke-opacity", [](const Context& c) { setFraction(c.style.strokeOpacity, c.value); }},
-    {"opacity", [](const Context& c) { setFraction(c.style.opacity, c.value); }},
+    {"color", [](const Context& c) { return assign(c.style.color, parseColour(c.value)); }},
+    {"fill", [](const Context& c) { return setPaint(c.style.fill, c); }},
+    {"stroke", [](const Context& c) { return setPaint(c.style.stroke, c); }},
+    {"fill-opacity", [](const Context& c) { return setFraction(c.style.fillOpacity, c.value); }},
+    {"stroke-opacity",
+     [](const Context& c) { return setFraction(c.style.strokeOpacity, c.value); }},
+    {"opacity", [](const Context& c) { return setFraction(c.style.opacity, c.value); }},
     {"stroke-width", setStrokeWidth},
     {"stroke-miterlimit",
      [](const Context& c) {
          const auto limit = parseNumber(c.value);
-         if (limit && *limit >= 1) c.style.miterLimit = *limit;
+         return limit && *limit >= 1 && assign(c.style.miterLimit, limit);
      }},
     {"stroke-dasharray", setDashes},
-    {"stroke-dashoffset",
-     [](const Context& c) { c.style.dashOffset = c.length().value_or(c.style.dashOffset); }},
-    {"stroke-linecap", [](const Context& c) { setWord(c.style.cap, c.value, kCaps); }},
-    {"stroke-linejoin", [](const Context& c) { setWord(c.style.join, c.value, kJoins); }},
-    {"fill-rule", [](const Context& c) { setWord(c.style.evenOdd, c.value, kRules); }},
-    {"clip-rule", [](const Context& c) { setWord(c.style.clipEvenOdd, c.value, kRules); }},
-    {"visibility", [](const Context& c) { setWord(c.style.visible, c.value, kVisibility); }},
-    {"display", [](const Context& c) { c.style.displayed = c.value != "none"; }},
+    {"stroke-dashoffset", [](const Context& c) { return assign(c.style.dashOffset, c.length()); }},
+    {"stroke-linecap", [](const Context& c) { return setWord(c.style.cap, c.value, kCaps); }},
+    {"stroke-linejoin", [](const Context& c) { return setWord(c.style.join, c.value, kJoins); }},
+    {"fill-rule", [](const Context& c) { return setWord(c.style.evenOdd, c.value, kRules); }},
+    {"clip-rule", [](const Context& c) { return setWord(c.style.clipEvenOdd, c.value, kRules); }},
+    {"visibility", [](const Context& c) { return setWord(c.style.visible, c.value, kVisibility); }},
+    {"display",
+     [](const Context& c) { return assign(c.style.displayed, std::optional{c.value != "none"}); }},
     {"clip-path", setClipPath},
     {"stop-color",
      [](const Context& c) {
          Paint paint;
-         setPaint(paint, c);
-         if (paint.kind == Paint::Kind::Plain) c.style.stopColour = paint.colour;
+         if (!setPaint(paint, c) || paint.kind != Paint::Kind::Plain) return false;
+         c.style.stopColour = paint.colour;
+         return true;
      }},
-    {"stop-opacity", [](const Context& c) { setFraction(c.style.stopOpacity, c.value); }},
+    {"stop-opacity", [](const Context& c) { return setFraction(c.style.stopOpacity, c.value); }},
     {"font-family", setFontFamily},
     {"font-size", setFontSize},
-    {"font-weight", [](const Context& c) { setWord(c.style.font.bold, c.value, kWeights); }},
-    {"font-style", [](const Context& c) { setWord(c.style.font.italic, c.value, kSlants); }},
-    {"text-anchor", [](const Context& c) { setWord(c.style.anchor, c.value, kAnchors); }},
+    {"font-weight",
+     [](const Context& c) {
+         if (const auto weight = parseNumber(c.value)) c.style.font.bold = *weight >= 600;
+         return setWord(c.style.font.bold, c.value, kWeights);
+     }},
+    {"font-style", [](const Context& c) { return setWord(c.style.font.italic, c.value, kSlants); }},
+    {"text-anchor", [](const Context& c) { return setWord(c.style.anchor, c.value, kAnchors); }},
 };
 
 /// Can the property be written in a declaration list, among others, and be read again? What cannot
@@ -267,14 +290,28 @@ Style handedDown(const Style& parent) {
     style.stopColour = initial.stopColour;
     style.stopOpacity = initial.stopOpacity;
     style.others.clear();
+    std::erase_if(style.unknown, [](const auto& each) { return !isInherited(each.first); });
     return style;
 }
 
-void apply(Style& style, const Style& parent, std::string_view property, std::string_view value,
+/// What style sheets may set of a shape's geometry, where only attributes are read.
+constexpr std::string_view kGeometry[] = {"transform", "translate", "rotate", "scale", "d",
+                                          "cx",        "cy",        "r",      "rx",    "ry",
+                                          "x",         "y",         "width",  "height"};
+
+/// False for a value that is not understood.
+bool apply(Style& style, const Style& parent, std::string_view property, std::string_view value,
            double viewport) {
+    value = trimmed(value);
+    const PropertyRow* const row = rowOf(property);
+    if (row == nullptr) return std::ranges::find(kGeometry, property) == std::end(kGeometry);
+    const bool asParent = value == "inherit" || (value == "unset" && row->inherited);
+    if (asParent) return row->inherited; // what is handed down is there already
+    if (value == "initial" || value == "unset") value = row->initial;
     for (const Setter& setter : kSetters)
         if (setter.property == property)
-            return setter.set({style, parent, trimmed(value), viewport});
+            return setter.set({style, parent, value, viewport}) || row->text;
+    return true;
 }
 
 } // namespace
@@ -296,6 +333,11 @@ bool isTextProperty(std::string_view property) {
     return row != nullptr && row->text;
 }
 
+std::string_view initialValue(std::string_view property) {
+    const PropertyRow* const row = rowOf(property);
+    return row != nullptr ? row->initial : std::string_view{};
+}
+
 Style styleOf(const Properties& properties, const Style& parent, double viewport) {
     Style style = handedDown(parent);
     // Other values refer to these two.
@@ -305,15 +347,20 @@ Style styleOf(const Properties& properties, const Style& parent, double viewport
     }
     std::shared_ptr<Properties> inherited;
     for (const auto& [property, value] : properties) {
-        apply(style, parent, property, value, viewport);
+        if (apply(style, parent, property, value, viewport))
+            style.unknown.erase(property);
+        else
+            style.unknown[property] = value;
         if (!isOneDeclaration(property, value)) continue;
         if (isInherited(property)) {
-            if (value == "inherit") continue;
+            if (value == "inherit" || value == "unset") continue;
             if (!inherited)
                 inherited = style.inherited ? std::make_shared<Properties>(*style.inherited)
                                             : std::make_shared<Properties>();
-            (*inherited)[property] = value;
-        } else if (!isUnderstood(property)) {
+            // A size relative to an ancestor's means something else without the ancestor.
+            (*inherited)[property] =
+                property == "font-size" ? formatNumber(style.font.size) : value;
+        } else if (!isUnderstood(property) && !style.unknown.contains(property)) {
             style.others[property] = value;
         }
     }

@@ -66,6 +66,9 @@ struct Style {
     Colour stopColour;
     double stopOpacity = 1.0;
     Properties others; ///< What is not understood and not handed down, such as a filter.
+    /// Values of understood properties that are beyond us. They change nothing; those that children
+    /// take over are handed down.
+    Properties unknown;
 };
 
 /// Is `name` a presentation attribute, a property that may stand as an attribute of its own?
@@ -75,10 +78,11 @@ struct Style {
 [[nodiscard]] bool isInherited(std::string_view property);
 /// Does it matter to text alone?
 [[nodiscard]] bool isTextProperty(std::string_view property);
+/// What it is where nothing says otherwise; empty where that matters to nobody.
+[[nodiscard]] std::string_view initialValue(std::string_view property);
 
-/// The style of an element with these properties, a child of one with style `parent`. A value that
-/// is not understood changes nothing, as CSS has it. `viewport` is what percentages of lengths
-/// refer to.
+/// The style of an element with these properties, a child of one with style `parent`. `viewport` is
+/// what percentages of lengths refer to.
 [[nodiscard]] Style styleOf(const Properties& properties, const Style& parent, double viewport);
 
 /// "url(#id)", with or without quotes, as "id"; empty when it refers to nothing in this file.

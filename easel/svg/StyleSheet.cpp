@@ -13,6 +13,12 @@ constexpr std::size_t kLongestSelector = 16;
 
 constexpr std::string_view kBlanks = " \t\r\n\f";
 
+/// What elements are only while somebody points at them or types.
+constexpr std::string_view kPassingStates[] = {":hover", ":active", ":focus", ":visited"};
+
+/// @-rules that bring rules for art with them.
+constexpr std::string_view kStylingRules[] = {"@media", "@import", "@supports", "@layer"};
+
 std::string withoutComments(std::string_view text) {
     std::string result;
     while (!text.empty()) {
@@ -119,24 +125,24 @@ bool StyleSheet::Simple::matches(const ElementName& element) const {
 
 bool StyleSheet::Rule::matches(const std::vector<ElementName>& path) const {
     if (path.empty() || !selector.back().matches(path.back())) return false;
-    // From the element outwards: an ancestor that fits is taken at once, which is exact but for
-    // selectors that mix ">" and blanks over several equal ancestors.
-    std::size_t part = selector.size() - 1;
-    std::size_t level = path.size() - 1;
-    while (part > 0) {
-        const bool child = selector[part].child;
-        --part;
-        bool found = false;
-        while (level > 0 && !found) {
-            found = selector[part].matches(path[--level]);
-            if (child && !found) return false;
+    if (selector.size() == 1) return true;
+    // Where on the path the selector's parts so far can end.
+    std::vector<bool> ends(path.size(), false);
+    for (const Simple& part : selector) {
+        std::vector<bool> next(path.size(), false);
+        bool above = false;
+        for (std::size_t level = 0; level < path.size(); ++level) {
+            const bool follows =
+                &part == &selector.front() || (part.child ? level > 0 && ends[level - 1] : above);
+            next[level] = follows && part.matches(path[level]);
+            above = above || ends[level];
         }
-        if (!found) return false;
+        ends = std::move(next);
     }
-    return true;
+    return ends.back();
 }
 
-void StyleSheet::addRule(std::string_view selector, const std::vector<Declaration>& declarations) {
+bool StyleSheet::addRule(std::string_view selector, const std::vector<Declaration>& declarations) {
     Rule rule{{}, 0, declarations};
     bool child = false;
     for (std::string_view rest = trimmed(selector); !rest.empty(); rest = trimmed(rest)) {
@@ -156,36 +162,48 @@ void StyleSheet::addRule(std::string_view selector, const std::vector<Declaratio
             const bool id = rest.front() == '#';
             rest.remove_prefix(1);
             const std::string_view name = takeName(rest);
-            if (name.empty()) return;
+            if (name.empty()) return false;
             (id ? simple.ids : simple.classes).emplace_back(name);
             specificity += id ? 10'000 : 100;
         }
+        for (const std::string_view state : kPassingStates)
+            if (rest.starts_with(state)) return true; // of a drawing at rest nothing matches
         const bool ended = rest.empty() || kBlanks.find(rest.front()) != std::string_view::npos ||
                            rest.front() == '>';
-        if (!ended) return; // an attribute, a state, a sibling: not ours
+        if (!ended) return false; // an attribute, a place among siblings
         rule.specificity += specificity;
         rule.selector.push_back(std::move(simple));
     }
-    if (rule.selector.empty() || rule.selector.size() > kLongestSelector) return;
+    if (rule.selector.empty()) return true;
+    if (rule.selector.size() > kLongestSelector) return false;
     const auto stronger =
         std::ranges::upper_bound(rules_, rule.specificity, {}, &Rule::specificity);
     rules_.insert(stronger, std::move(rule));
+    return true;
 }
 
-void StyleSheet::add(std::string_view text) {
+std::vector<std::string> StyleSheet::add(std::string_view text) {
+    std::vector<std::string> unknown;
     const std::string clean = withoutComments(text);
     std::string_view rest = trimmed(clean);
     while (!rest.empty()) {
         if (rest.front() == '@') {
+            const std::string name{rest.substr(0, rest.find_first_of(" \t\r\n\f{;\""))};
+            const bool stylesArt =
+                std::ranges::find(kStylingRules, name) != std::end(kStylingRules);
+            if (stylesArt) unknown.push_back(name);
             skipAtRule(rest);
         } else {
             std::string_view selectors = takeUntil(rest, '{');
             const std::vector<Declaration> declarations = parseDeclarations(takeUntil(rest, '}'));
-            while (!selectors.empty())
-                addRule(takeUntil(selectors, ','), declarations);
+            while (!selectors.empty()) {
+                const std::string_view selector = trimmed(takeUntil(selectors, ','));
+                if (!addRule(selector, declarations)) unknown.emplace_back(selector);
+            }
         }
         rest = trimmed(rest);
     }
+    return unknown;
 }
 
 std::vector<const Declaration*> StyleSheet::matching(const std::vector<ElementName>& path,

@@ -27,9 +27,9 @@ struct ElementName {
 
 class StyleSheet {
 public:
-    /// Adds the rules of one <style> element. Rules with selectors beyond the part of CSS above,
-    /// and @-rules, have no effect.
-    void add(std::string_view text);
+    /// Adds the rules of one <style> element. Returns the selectors beyond the part of CSS above
+    /// and the @-rules that may style art; neither has an effect.
+    std::vector<std::string> add(std::string_view text);
     [[nodiscard]] bool empty() const { return rules_.empty(); }
     [[nodiscard]] std::size_t size() const { return rules_.size(); }
 
@@ -54,7 +54,8 @@ private:
         [[nodiscard]] bool matches(const std::vector<ElementName>& path) const;
     };
 
-    void addRule(std::string_view selector, const std::vector<Declaration>& declarations);
+    /// False when the selector is not understood.
+    bool addRule(std::string_view selector, const std::vector<Declaration>& declarations);
 
     std::vector<Rule> rules_; ///< In the order in which they win: weakest first.
 };

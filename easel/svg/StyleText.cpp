@@ -15,20 +15,20 @@ constexpr int kHeldDashes = std::size(AIDashStyle{}.array);
 constexpr const char* kJoins[] = {"miter", "round", "bevel"};
 
 std::string paintText(bool paints, const AIColor& color, const Definition* definition,
-                      const AIRealMatrix& matrix, DerivedServers& servers) {
+                      const AIRealMatrix& matrix, const ServerText& server) {
     if (!paints) return "none";
     const bool refers = color.kind == kGradient || color.kind == kPattern;
-    if (refers && definition != nullptr) return servers.reference(*definition, matrix);
+    if (refers && definition != nullptr) return server(*definition, matrix);
     const auto colour = plainColour(color);
     return colour ? formatColour(*colour) : "none";
 }
 
-std::string dashText(const ArtStyle& style) {
+std::string dashText(const ArtStyle& style, const UserSpace& space) {
     const AIDashStyle& dash = style.path.stroke.dash;
     std::string text;
     const auto append = [&](AIReal part) {
         if (!text.empty()) text += ' ';
-        appendNumber(text, part);
+        text += space.length(part);
     };
     if (!style.longDash.empty())
         for (const AIReal part : style.longDash)
@@ -39,16 +39,8 @@ std::string dashText(const ArtStyle& style) {
     return text.empty() ? "none" : text;
 }
 
-void appendAttribute(std::string& text, std::string_view name, std::string_view value) {
-    text += ' ';
-    text += name;
-    text += "=\"";
-    text += escaped(value);
-    text += '"';
-}
-
 void appendNumberAttribute(std::string& text, std::string_view name, double value) {
-    appendAttribute(text, name, formatNumber(value));
+    text += attributeText(name, formatNumber(value));
 }
 
 void appendGradient(std::string& text, const GradientContent& gradient) {
@@ -66,6 +58,7 @@ void appendGradient(std::string& text, const GradientContent& gradient) {
         append("r", gradient.radius);
         append("fx", gradient.start.x);
         append("fy", gradient.start.y);
+        if (gradient.focalRadius > 0) append("fr", gradient.focalRadius);
     }
     text += " gradientUnits=\"userSpaceOnUse\"";
 }
@@ -78,101 +71,84 @@ void appendPattern(std::string& text, const PatternContent& pattern) {
     text += " patternUnits=\"userSpaceOnUse\"";
     if (pattern.viewBoxSize == Point{}) return;
     text += " preserveAspectRatio=\"none\"";
-    appendAttribute(text, "viewBox",
-                    "0 0 " + formatNumber(pattern.viewBoxSize.x) + ' ' +
-                        formatNumber(pattern.viewBoxSize.y));
+    text += attributeText("viewBox", "0 0 " + formatNumber(pattern.viewBoxSize.x) + ' ' +
+                                         formatNumber(pattern.viewBoxSize.y));
 }
 
 } // namespace
 
-DerivedServers::DerivedServers(const Document& document, Point offset) : offset_(offset) {
-    if (const DrawingSource* const source = sourceOf(document))
-        reserved_.insert(source->reservedIds.begin(), source->reservedIds.end());
-    for (const auto& definition : document.definitions())
-        reserved_.insert(definition->id());
+std::string DerivedServers::newId(const std::string& family, int& counter) const {
+    for (;;) {
+        std::string id = family + std::to_string(++counter);
+        const auto bears = [&](const auto& definition) { return definition->id() == id; };
+        if (tree_.find(id) == kNoNode && std::ranges::none_of(document_.definitions(), bears))
+            return id;
+    }
 }
 
-std::string DerivedServers::reference(const Definition& definition, const AIRealMatrix& matrix) {
+/// Others see a gradient or pattern like any other; we see from which element it comes.
+std::string DerivedServers::reference(const Definition& definition, const AIRealMatrix& matrix,
+                                      const UserSpace& space) {
     const auto* const gradient = dynamic_cast<const GradientContent*>(definition.content.get());
     const auto* const pattern = dynamic_cast<const PatternContent*>(definition.content.get());
     const bool dependsOnBounds =
         (gradient != nullptr && gradient->overBounds) || (pattern != nullptr && pattern->resolved);
     const bool understood = gradient != nullptr || pattern != nullptr;
-    if (!understood || (!dependsOnBounds && fromSoft(matrix, offset_) == Matrix{}))
+    const Matrix inSpace =
+        space.transformTo({matrix.a, matrix.b, matrix.c, matrix.d, matrix.tx, matrix.ty});
+    if (!understood || !space.isPlane() || (!dependsOnBounds && inSpace == Matrix{}))
         return "url(#" + definition.id() + ")";
-    const Place place{&definition, matrix.a, matrix.b, matrix.c, matrix.d, matrix.tx, matrix.ty};
-    std::string& id = ids_[place];
+    std::string text = attributeText("xlink:href", '#' + definition.id());
+    if (gradient != nullptr)
+        appendGradient(text, *gradient);
+    else
+        appendPattern(text, *pattern);
+    text += attributeText(pattern != nullptr ? "patternTransform" : "gradientTransform",
+                          formatTransform(inSpace * ownTransform(definition)));
+    text += attributeText("easel:derived", "true");
+    text += attributeText("easel:source", definition.id());
+    std::string& id = ids_[text];
     if (id.empty()) {
         id = newId("easel-paint-", counter_);
-        appendElement(id, definition, matrix);
+        const char* const tag = pattern != nullptr ? "pattern"
+                                : gradient->kind == GradientContent::Kind::Linear
+                                    ? "linearGradient"
+                                    : "radialGradient";
+        elements_ +=
+            "\n    <" + std::string{tree_.prefix()} + tag + attributeText("id", id) + text + "/>";
     }
     return "url(#" + id + ")";
 }
 
-std::string DerivedServers::newId(const char* family, int& counter) const {
-    for (;;) {
-        std::string id = family + std::to_string(++counter);
-        if (!reserved_.contains(id)) return id;
-    }
-}
-
-/// Others see a gradient or pattern like any other; we read the definition that it comes from, and
-/// the matrix with all its digits.
-void DerivedServers::appendElement(const std::string& id, const Definition& definition,
-                                   const AIRealMatrix& matrix) {
-    const auto* const gradient = dynamic_cast<const GradientContent*>(definition.content.get());
-    const auto* const pattern = dynamic_cast<const PatternContent*>(definition.content.get());
-    const char* const tag = pattern != nullptr                                ? "pattern"
-                            : gradient->kind == GradientContent::Kind::Linear ? "linearGradient"
-                                                                              : "radialGradient";
-    elements_ += "\n    <";
-    elements_ += tag;
-    appendAttribute(elements_, "id", id);
-    appendAttribute(elements_, "xlink:href", '#' + definition.id());
-    if (gradient != nullptr)
-        appendGradient(elements_, *gradient);
-    else
-        appendPattern(elements_, *pattern);
-    appendAttribute(elements_, pattern != nullptr ? "patternTransform" : "gradientTransform",
-                    formatTransform(derivedTransform(definition, matrix, offset_)));
-    appendAttribute(elements_, "easel:derived", "true");
-    appendAttribute(elements_, "easel:source", definition.id());
-    std::string numbers;
-    for (const AIReal entry : {matrix.a, matrix.b, matrix.c, matrix.d, matrix.tx, matrix.ty}) {
-        if (!numbers.empty()) numbers += ' ';
-        appendNumber(numbers, entry);
-    }
-    appendAttribute(elements_, "easel:matrix", numbers);
-    elements_ += "/>";
-}
-
-std::vector<PropertyText> styleText(const ArtStyle& style, Explicit all, DerivedServers& servers) {
-    std::vector<PropertyText> properties;
-    const auto add = [&](const char* name, std::string value, std::string_view standard) {
-        if (all == Explicit::Yes || value != standard)
-            properties.push_back({name, std::move(value)});
-    };
+std::vector<PropertyText> styleText(const ArtStyle& style, const UserSpace& space,
+                                    const ServerText& server) {
+    enum Kind { kFill, kFillRule, kStroke, kPen, kDash, kWhole };
     const AIPathStyle& path = style.path;
     const AIStrokeStyle& stroke = path.stroke;
-    add("fill",
-        paintText(path.fillPaint != 0, path.fill.color, style.fillDefinition, style.fillMatrix,
-                  servers),
-        "#000000");
-    add("fill-opacity", formatNumber(style.fillOpacity), "1");
-    add("fill-rule", path.evenodd != 0 ? "evenodd" : "nonzero", "nonzero");
-    add("stroke",
-        paintText(path.strokePaint != 0, stroke.color, style.strokeDefinition, style.strokeMatrix,
-                  servers),
-        "none");
-    add("stroke-opacity", formatNumber(style.strokeOpacity), "1");
-    add("stroke-width", formatNumber(stroke.width), "1");
-    add("stroke-linecap", kCaps[std::clamp<int>(stroke.cap, 0, 2)], "butt");
-    add("stroke-linejoin", kJoins[std::clamp<int>(stroke.join, 0, 2)], "miter");
-    add("stroke-miterlimit", formatNumber(stroke.miterLimit), "4");
-    add("stroke-dasharray", dashText(style), "none");
-    add("stroke-dashoffset", formatNumber(stroke.dash.offset), "0");
-    add("opacity", formatNumber(style.opacity), "1");
-    return properties;
+    const auto* const effects = dynamic_cast<const Effects*>(style.foreign.get());
+    const bool fixed = effects != nullptr && effects->hasFixedStroke();
+    const UserSpace screen{Matrix{}, Point{}};
+    const UserSpace& pen = fixed ? screen : space;
+    return {
+        {"fill",
+         paintText(path.fillPaint != 0, path.fill.color, style.fillDefinition, style.fillMatrix,
+                   server),
+         kFill},
+        {"fill-opacity", formatNumber(style.fillOpacity), kFill},
+        {"fill-rule", path.evenodd != 0 ? "evenodd" : "nonzero", kFillRule},
+        {"stroke",
+         paintText(path.strokePaint != 0, stroke.color, style.strokeDefinition, style.strokeMatrix,
+                   server),
+         kStroke},
+        {"stroke-opacity", formatNumber(style.strokeOpacity), kStroke},
+        {"stroke-width", pen.length(stroke.width), kPen},
+        {"stroke-linecap", kCaps[std::clamp<int>(stroke.cap, 0, 2)], kPen},
+        {"stroke-linejoin", kJoins[std::clamp<int>(stroke.join, 0, 2)], kPen},
+        {"stroke-miterlimit", formatNumber(stroke.miterLimit), kPen},
+        {"stroke-dasharray", dashText(style, pen), kDash},
+        {"stroke-dashoffset", pen.length(stroke.dash.offset), kDash},
+        {"opacity", formatNumber(style.opacity), kWhole},
+    };
 }
 
 } // namespace easel::svg

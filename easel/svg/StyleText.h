@@ -1,53 +1,52 @@
 #pragma once
 
 #include "easel/svg/Content.h"
+#include "easel/svg/PathText.h"
 
 #include <functional>
 #include <map>
-#include <set>
 #include <string>
-#include <tuple>
 #include <vector>
 
 namespace easel::svg {
 
-/// Gives out ids for definitions made anew: gradients and patterns whose matrix differs from what
-/// their element says, because the art that they paint was copied or transformed.
+/// Makes definitions for art that has a gradient or pattern otherwise than the element says,
+/// because it was copied or transformed.
 class DerivedServers {
 public:
-    DerivedServers(const Document& document, Point offset);
+    DerivedServers(const XmlTree& tree, const Document& document, Point offset)
+        : tree_(tree), document_(document), offset_(offset) {}
 
-    /// What a paint property says: "url(#id)".
-    [[nodiscard]] std::string reference(const Definition& definition, const AIRealMatrix& matrix);
+    /// What a paint property says of art in that user space: "url(#id)".
+    [[nodiscard]] std::string reference(const Definition& definition, const AIRealMatrix& matrix,
+                                        const UserSpace& space);
     /// The elements for all references given out so far, one a line.
     [[nodiscard]] const std::string& elements() const { return elements_; }
 
     /// The next id of that family that the drawing neither gives nor refers to.
-    [[nodiscard]] std::string newId(const char* family, int& counter) const;
+    [[nodiscard]] std::string newId(const std::string& family, int& counter) const;
 
 private:
-    void appendElement(const std::string& id, const Definition& definition,
-                       const AIRealMatrix& matrix);
-
-    std::set<std::string, std::less<>> reserved_;
+    const XmlTree& tree_;
+    const Document& document_;
     Point offset_;
     std::string elements_;
     int counter_ = 0;
-    using Place = std::tuple<const Definition*, AIReal, AIReal, AIReal, AIReal, AIReal, AIReal>;
-    std::map<Place, std::string> ids_;
+    std::map<std::string, std::string> ids_; ///< By what the element says.
 };
-
-/// Which properties are written: those that differ from what SVG starts with, or all, where style
-/// sheets may say otherwise.
-enum class Explicit { No, Yes };
 
 struct PropertyText {
     const char* name;
-    std::string value;
+    std::string text;
+    int kind; ///< Those of one kind depend on each other.
 };
 
-/// The fill, stroke and opacity of a shape, without what is kept as text.
-[[nodiscard]] std::vector<PropertyText> styleText(const ArtStyle& style, Explicit all,
-                                                  DerivedServers& servers);
+/// How a reference to a gradient or pattern is written.
+using ServerText = std::function<std::string(const Definition&, const AIRealMatrix&)>;
+
+/// The fill, stroke and opacity of a shape in that user space, without what is kept as text; always
+/// the same properties in the same order.
+[[nodiscard]] std::vector<PropertyText> styleText(const ArtStyle& style, const UserSpace& space,
+                                                  const ServerText& server);
 
 } // namespace easel::svg

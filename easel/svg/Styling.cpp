@@ -5,6 +5,7 @@
 #include "easel/svg/ViewBox.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace easel::svg {
 namespace {
@@ -27,39 +28,9 @@ void setDashes(const Style& style, double scale, ArtStyle& target) {
         target.longDash.push_back(narrowed(part * scale));
 }
 
-/// What painted shapes carry along although it is not understood.
-std::shared_ptr<const StyleExtras> extrasOf(const Style& style) {
-    Properties properties = style.others;
-    if (style.inherited)
-        for (const auto& [property, value] : *style.inherited)
-            if (!isUnderstood(property) && !isTextProperty(property))
-                properties.try_emplace(property, value);
-    if (properties.empty()) return nullptr;
-    auto extras = std::make_shared<StyleExtras>();
-    extras->properties = std::move(properties);
-    return extras;
-}
-
-AIRealMatrix floatMatrix(const std::vector<double>& n) {
-    return {narrowed(n[0]), narrowed(n[1]), narrowed(n[2]),
-            narrowed(n[3]), narrowed(n[4]), narrowed(n[5])};
-}
-
-/// The matrix that we wrote, unless another program has since moved the gradient or the shape: what
-/// others understand has the last word.
-AIRealMatrix derivedMatrix(const Element& derived, const Definition& definition,
-                           const AIRealMatrix& written, const Matrix& shape, Point offset) {
-    const std::string transform =
-        derived.get(derived.name() == "pattern" ? "patternTransform" : "gradientTransform");
-    const bool asWritten =
-        transform == formatTransform(derivedTransform(definition, written, offset));
-    if (asWritten && shape == Matrix{}) return written;
-    Matrix matrix = fromSoft(written, offset);
-    const auto own = inverse(derivedTransform(definition, toSoft(Matrix{}, offset), offset));
-    const auto moved = parseTransform(transform);
-    if (!asWritten && own && moved) matrix = *moved * *own;
-    return toSoft(shape * matrix, offset);
-}
+/// Properties whose values are measured in the user space.
+constexpr std::string_view kSpatial[] = {"filter",     "mask",       "clip-path",   "marker",
+                                         "marker-end", "marker-mid", "marker-start"};
 
 Matrix boundsMatrix(const Box& bounds) {
     return {
@@ -68,12 +39,44 @@ Matrix boundsMatrix(const Box& bounds) {
 
 } // namespace
 
-ArtStyle ArtBuilder::styleFor(const Context& context, const Outline& outline) {
+std::shared_ptr<Effects> ArtBuilder::effectsOf(const Element& element,
+                                               const Context& context) const {
     const Style& style = context.style;
-    const auto scaling = style.others.find("vector-effect");
-    const bool fixedStroke =
-        scaling != style.others.end() && scaling->second == "non-scaling-stroke";
-    const double scale = fixedStroke ? 1.0 : meanScale(context.matrix);
+    auto effects = std::make_shared<Effects>();
+    Properties& properties = effects->properties;
+    const bool isLeaf = shapeOutline(
+                            element.name(), [](auto) { return std::string{}; }, {}, 1)
+                            .has_value();
+    properties = style.others;
+    if (const auto shape = style.unknown.find("clip-path"); shape != style.unknown.end())
+        properties.insert(*shape);
+    if (isLeaf && style.inherited)
+        for (const auto& [property, value] : *style.inherited)
+            if (!isUnderstood(property) && !isTextProperty(property))
+                properties.try_emplace(property, value);
+    effects->spatial = std::ranges::any_of(
+        kSpatial, [&](std::string_view each) { return properties.contains(std::string{each}); });
+    const bool isStroked = isLeaf && style.stroke.kind != Paint::Kind::None;
+    if (isStroked && !isConformal(context.matrix)) effects->spatial = true;
+    for (const NodeIndex child :
+         isLeaf ? childElements(state_.tree, element.node()) : std::vector<NodeIndex>{}) {
+        const std::string name{state_.tree.at(child).name};
+        if (name != "title" && name != "desc" && name != "metadata") effects->lost = name;
+    }
+    if (element.name() == "a" || element.name() == "switch") effects->lost = element.name();
+    if (!effects->lost.empty())
+        effects->lost =
+            std::to_string(element.line()) + ": copies are written without <" + effects->lost + '>';
+    if (properties.empty() && !effects->spatial && effects->lost.empty()) return nullptr;
+    effects->space = softMatrix(context.matrix, offset_);
+    return effects;
+}
+
+ArtStyle ArtBuilder::styleFor(const Element& element, const Context& context,
+                              const Outline& outline) {
+    const Style& style = context.style;
+    auto effects = effectsOf(element, context);
+    const double scale = effects && effects->hasFixedStroke() ? 1.0 : meanScale(context.matrix);
     ArtStyle result;
     result.opacity = narrowed(style.opacity);
     result.fillOpacity = narrowed(style.fillOpacity * style.fill.colour.alpha);
@@ -91,7 +94,7 @@ ArtStyle ArtBuilder::styleFor(const Context& context, const Outline& outline) {
     path.stroke.cap = kCaps[static_cast<std::size_t>(style.cap)];
     path.stroke.join = kJoins[static_cast<std::size_t>(style.join)];
     setDashes(style, scale, result);
-    result.foreign = extrasOf(style);
+    result.foreign = std::move(effects);
     return result;
 }
 
@@ -109,7 +112,8 @@ void ArtBuilder::readInks(const Element& element, ArtStyle& style) {
 /// True when something is painted.
 bool ArtBuilder::setPaint(const Paint& paint, const Context& context, const Outline& outline,
                           AIColor& color, const Definition*& definition, AIRealMatrix& matrix) {
-    if (paint.kind == Paint::Kind::Server) {
+    const bool isThere = state_.tree.find(paint.server) != kNoNode;
+    if (paint.kind == Paint::Kind::Server && isThere) {
         const auto use = serverFor(paint.server, context, outline);
         if (use) {
             definition = use->definition;
@@ -123,9 +127,9 @@ bool ArtBuilder::setPaint(const Paint& paint, const Context& context, const Outl
                 color.c.b.gradient = static_cast<AIGradientHandle>(definition->handle());
             return true;
         }
-        if (!paint.spare) return false;
     }
     if (paint.kind == Paint::Kind::None) return false;
+    if (paint.kind == Paint::Kind::Server && !paint.spare) return false;
     color = rgbColor(paint.colour.red, paint.colour.green, paint.colour.blue);
     return true;
 }
@@ -136,8 +140,6 @@ ArtBuilder::serverFor(const std::string& id, const Context& context, const Outli
     // What is not understood is named by its id alone, so that it has no matrix of its own.
     const AIRealMatrix unplaced = toSoft(Matrix{}, offset_);
     const NodeIndex node = state_.tree.find(id);
-    if (node == kNoNode)
-        return ServerUse{&definition(Definition::Kind::Gradient, id, nullptr, {}), unplaced};
     const Element element{state_.tree, node};
     state_.countReference(element);
     if (isDerived(state_.tree, element)) return derivedUse(element, context, outline);
@@ -152,24 +154,25 @@ ArtBuilder::serverFor(const std::string& id, const Context& context, const Outli
     return ServerUse{&known, toSoft(context.matrix * overBounds, offset_)};
 }
 
-/// Our own element: the matrix stands beside the transform that says the same to others.
+/// Its transform is that of the element that it comes from, after what brings the definition to
+/// where this one art has it.
 ArtBuilder::ServerUse ArtBuilder::derivedUse(const Element& derived, const Context& context,
                                              const Outline& outline) {
     const std::string source = derived.get("easel:source");
     const Element base{state_.tree, state_.tree.find(source)};
-    ServerUse use;
-    if (base.name() == "pattern") {
+    const bool isPattern = base.name() == "pattern";
+    ServerUse use{nullptr, toSoft(Matrix{}, offset_)};
+    if (isPattern) {
         use = patternUse(base, &derived, context, boundsOf(outline));
     } else {
         const auto gradient = gradientContent(state_, base.node(), context.viewport);
         use.definition = &definition(Definition::Kind::Gradient, source, gradient, {});
-        use.matrix = toSoft(Matrix{}, offset_);
         if (!gradient) return use;
     }
-    const NumberList numbers = parseNumbers(derived.get("easel:matrix"));
-    if (numbers.numbers.size() == 6)
-        use.matrix = derivedMatrix(derived, *use.definition, floatMatrix(numbers.numbers),
-                                   context.matrix, offset_);
+    const auto written =
+        parseTransform(derived.get(isPattern ? "patternTransform" : "gradientTransform"));
+    const auto own = inverse(ownTransform(*use.definition));
+    if (written && own) use.matrix = toSoft(context.matrix * *written * *own, offset_);
     return use;
 }
 

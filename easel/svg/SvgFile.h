@@ -1,11 +1,10 @@
 #pragma once
 
+#include "easel/core/OutputFile.h"
 #include "easel/document/Document.h"
 
 #include <filesystem>
 #include <memory>
-#include <ostream>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,14 +15,12 @@
 /// document's upwards, and the ruler origin lies at the drawing's (0, 0), the top left corner of
 /// the artboard unless a viewBox says otherwise: soft = (x, -y).
 ///
-/// What is not understood (definitions, metadata, foreign elements and attributes, comments, what
-/// comes before the drawing) is kept and written back as it stood, where it stood.
+/// The text that a drawing was read from is kept. Saving writes it back: a drawing that nobody has
+/// changed is the same text, byte by byte. What was changed is set in its element, what is new is
+/// written in the coordinates of the place where it lies.
 namespace easel::svg {
 
-/// What is wrong with a file, in one line: "FILE:LINE: what is wrong; what would be right".
-struct FileError : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
+using easel::FileError;
 
 struct OpenedDrawing {
     std::unique_ptr<Document> document;
@@ -36,11 +33,11 @@ struct OpenedDrawing {
 /// The same for a text; `name` is what messages call it.
 [[nodiscard]] OpenedDrawing readSvgText(std::string text, const std::string& name);
 
-/// Writes the file whole or not at all: into a temporary file beside it, which then takes its
-/// place. Throws FileError.
-void writeSvg(const Document& document, const std::filesystem::path& file);
-void writeSvg(const Document& document, std::ostream& out);
-/// The same as a text.
-[[nodiscard]] std::string svgText(const Document& document);
+/// The drawing as a text. `warnings` gets what is left out, one line each: "LINE: ...".
+[[nodiscard]] std::string svgText(const Document& document,
+                                  std::vector<std::string>* warnings = nullptr);
+/// The same as a file, whole or not at all. Returns the warnings. Throws
+/// FileError.
+std::vector<std::string> writeSvg(const Document& document, const std::filesystem::path& file);
 
 } // namespace easel::svg

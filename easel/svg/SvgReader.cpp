@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
-#include <set>
 #include <string_view>
 
 namespace easel::svg {
@@ -21,9 +20,6 @@ constexpr std::uintmax_t kLargestFile = 1'000'000'000;
 /// What a drawing without a size is given: the size of replaced content in CSS.
 constexpr double kStandardWidth = 300.0;
 constexpr double kStandardHeight = 150.0;
-
-/// Ids that begin so are ours to give.
-constexpr std::string_view kOwnIds = "easel-";
 
 bool isLayerElement(const Element& element) {
     return element.name() == "g" && element.get("inkscape:groupmode") == "layer";
@@ -60,7 +56,8 @@ public:
     std::unique_ptr<Document> read() {
         const Element root{state_.tree, state_.tree.root()};
         if (root.name() != "svg")
-            root.fail("the outermost element is <" + std::string{root.name()} +
+            root.fail("the outermost element is <" +
+                      std::string{state_.tree.tagName(state_.tree.root())} +
                       ">; an SVG file holds an <svg>");
         gatherStyleSheets();
         const Artboard artboard = artboardOf(root);
@@ -69,21 +66,23 @@ public:
             FirstLayer::No);
         auto source = std::make_shared<DrawingSource>();
         source_ = source.get();
+        source_->tree = state_.text;
+        source_->viewBoxCorner = artboard.corner;
+        source_->viewBoxSize = artboard.size;
+        source_->isArt.resize(state_.tree.size());
         document_->foreign = source;
-        keepFile(root, artboard);
         placeRuler(root, artboard);
 
         ArtBuilder builder{state_, *document_, source_, rulerOffset(*document_)};
         const Pushed pushed{state_.path, root.selectorName()};
-        Context start{Style{}, Matrix{}, {artboard.size.x, artboard.size.y}};
-        const auto context = std::make_unique<Context>(start);
-        context->style =
-            styleOf(root.properties(state_.sheet, state_.path), Style{}, start.viewport.diagonal());
+        const auto context =
+            std::make_unique<const Context>(rootContext(root, state_.sheet, artboard.size));
         readLayers(builder, root, *context);
         readDocumentState(root);
         static_cast<void>(document_->takeChanges());
         document_->undo().clear();
         document_->setModified(false);
+        keepFingerprints();
         return std::move(document_);
     }
 
@@ -93,51 +92,26 @@ private:
     void gatherStyleSheets() {
         for (NodeIndex node = 0; node < state_.tree.size(); ++node) {
             const XmlTree::Node& candidate = state_.tree.at(node);
-            if (candidate.kind == XmlTree::Kind::Element && candidate.name == "style")
-                state_.sheet.add(state_.tree.textOf(node));
+            if (candidate.kind != XmlTree::Kind::Element || candidate.name != "style") continue;
+            for (const std::string& unknown : state_.sheet.add(state_.tree.textOf(node)))
+                state_.warn(
+                    Element{state_.tree, node},
+                    '\'' + unknown.substr(0, 40) +
+                        "' in the style sheet is not understood; what it styles stays as it "
+                        "is, but is not shown so here");
         }
     }
 
-    void keepFile(const Element& root, const Artboard& artboard) {
-        source_->prologue = state_.tree.prologue();
-        source_->epilogue = state_.tree.epilogue();
-        source_->viewBoxCorner = artboard.corner;
-        source_->size = {static_cast<AIReal>(artboard.size.x),
-                         static_cast<AIReal>(artboard.size.y)};
-        source_->hasStyleSheet = !state_.sheet.empty();
-        for (const XmlAttribute& attribute : root.attributes()) {
-            source_->rootNames.emplace_back(attribute.name);
-            const bool isSize = attribute.name == "width" || attribute.name == "height" ||
-                                attribute.name == "viewBox";
-            const bool isOurs = attribute.name.starts_with("easel:");
-            const bool handedDown = isProperty(attribute.name) && isInherited(attribute.name);
-            if (isOurs || handedDown) continue;
-            std::string& target = isSize ? source_->sizeAttributes : source_->rootAttributes;
-            if (attribute.name == "style")
-                target += rootStyle(root.get("style"), attribute.source);
-            else
-                target += ' ' + std::string{attribute.source};
+    /// All of the art as it is now is the art as it was read.
+    void keepFingerprints() {
+        const Art& root = document_->root();
+        for (const Art* art = &root; art != nullptr; art = nextInPreorder(*art, root)) {
+            ArtSource& source = source_->art[art->handle()];
+            source.content = art->content();
+            source.stamp = art->stamp();
         }
-        for (const std::string& id : state_.tree.idsBeginningWith(kOwnIds)) {
-            const NodeIndex node = state_.tree.find(id);
-            const bool givenByUs =
-                isMadeAnew(state_.tree, node) || Element{state_.tree, node}.isTrue("easel:clip");
-            if (!givenByUs) source_->reservedIds.push_back(id);
-        }
-    }
-
-    /// Inherited properties end in the leaves; of the others the look of the whole depends.
-    static std::string rootStyle(const std::string& style, std::string_view source) {
-        const std::vector<Declaration> given = parseDeclarations(style);
-        const auto handedDown = [](const Declaration& declaration) {
-            return isInherited(declaration.property);
-        };
-        if (std::ranges::none_of(given, handedDown)) return ' ' + std::string{source};
-        Properties others;
-        for (const Declaration& declaration : given)
-            if (!handedDown(declaration)) others[declaration.property] = declaration.value;
-        if (others.empty()) return {};
-        return " style=\"" + escaped(declarationText(others)) + '"';
+        source_->sheet = std::move(state_.sheet);
+        source_->attributes = documentAttributes(*document_);
     }
 
     /// Puts the ruler origin at the drawing's (0, 0), or where the user had put it.
@@ -154,63 +128,41 @@ private:
     /// Layers as they are; runs of art outside of layers become layers of their own.
     void readLayers(ArtBuilder& builder, const Element& root, const Context& context) {
         Art* loose = nullptr;
-        PendingInterludes pending;
-        for (NodeIndex node = state_.tree.at(root.node()).firstChild; node != kNoNode;
-             node = state_.tree.at(node).nextSibling) {
-            const bool isElement = state_.tree.at(node).kind == XmlTree::Kind::Element;
-            const Element element{state_.tree, isElement ? node : root.node()};
-            if (isGenerated(state_.tree, node)) {
-                pending.addForeign(state_.tree, node);
-            } else if (isElement && isLayerElement(element)) {
+        for (const NodeIndex node : childElements(state_.tree, root.node())) {
+            const Element element{state_.tree, node};
+            if (isLayerElement(element)) {
                 loose = nullptr;
-                pending.moveTo(source_->interludes, readLayer(builder, element, context).handle());
-            } else if (isElement && ArtBuilder::isArt(element)) {
-                if (loose == nullptr) {
+                readLayer(builder, element, context);
+            } else if (ArtBuilder::isArt(element)) {
+                if (loose == nullptr)
                     loose = &createLayer(*document_, {}, onTopOf(document_->root()));
-                    pending.moveTo(source_->interludes, loose->handle());
-                }
-                const Art* const art = builder.readElement(element, *loose, context);
-                if (!pending.empty() && art != nullptr)
-                    pending.moveTo(source_->elements[loose->handle()].interludes, art->handle());
-            } else {
-                pending.add(state_.tree, node);
+                static_cast<void>(builder.readElement(element, *loose, context));
             }
         }
-        pending.moveTo(source_->interludes, nullptr);
         nameLayers();
     }
 
-    Art& readLayer(ArtBuilder& builder, const Element& element, const Context& context) {
+    void readLayer(ArtBuilder& builder, const Element& element, const Context& context) {
         const Deeper deeper{state_, element};
         const Pushed pushed{state_.path, element.selectorName()};
         state_.countElement(element);
         Art& layer = createLayer(*document_, {}, onTopOf(document_->root()));
         const auto inner = std::make_unique<const Context>(builder.contextOf(element, context));
-        layer.write().clipped = element.isTrue("easel:clipped");
-        builder.styleContainer(layer, inner->style);
-        builder.readState(element, inner->style, layer);
-        std::vector<Interlude> interludes;
-        builder.readChildren(element.node(), layer, *inner, &interludes);
-        builder.keepSource(element, layer, std::move(interludes));
-        return layer;
+        builder.readContainer(element, layer, *inner);
     }
 
-    /// Layers without a title get "Layer N", counted from the bottom; a document has at least one.
+    /// A document has at least one layer, and every layer a title.
     void nameLayers() {
         Art& root = document_->root();
         if (root.firstChild() == nullptr) createLayer(*document_, {}, onTopOf(root));
-        std::set<std::string> titles;
+        std::vector<std::string> titles;
         for (const Art* layer = root.lastChild(); layer != nullptr; layer = layer->previous())
-            titles.insert(layer->details().layer.title);
-        int number = 1;
-        for (Art* layer = root.lastChild(); layer != nullptr; layer = layer->previous()) {
-            if (!layer->details().layer.title.empty()) continue;
-            std::string title;
-            do
-                title = "Layer " + std::to_string(number++);
-            while (titles.contains(title));
-            layer->write().details.write().layer.title = title;
-        }
+            titles.push_back(layer->details().layer.title);
+        fillInTitles(titles);
+        auto title = titles.begin();
+        for (Art* layer = root.lastChild(); layer != nullptr; layer = layer->previous(), ++title)
+            if (layer->details().layer.title.empty())
+                layer->write().details.write().layer.title = *title;
     }
 
     void readDocumentState(const Element& root) {

@@ -1,292 +1,830 @@
 #include "easel/document/Layers.h"
+#include "easel/svg/ArtAttributes.h"
 #include "easel/svg/DictionaryJson.h"
-#include "easel/svg/Element.h"
-#include "easel/svg/Ink.h"
 #include "easel/svg/Numbers.h"
-#include "easel/svg/PathText.h"
+#include "easel/svg/PaintServers.h"
+#include "easel/svg/ReadingState.h"
 #include "easel/svg/StyleText.h"
 #include "easel/svg/SvgFile.h"
-#include "easel/svg/XmlTree.h"
-
-#include <nlohmann/json.hpp>
+#include "easel/svg/TagText.h"
+#include "easel/svg/ViewBox.h"
 
 #include <algorithm>
-#include <cmath>
-#include <fstream>
 #include <map>
-#include <sstream>
-#include <unordered_map>
-#include <unordered_set>
+#include <set>
 #include <utility>
 
 namespace easel::svg {
 namespace {
 
-/// Text is handed on in pieces of about this size.
-constexpr std::size_t kPieceSize = 1 << 20;
+const ArtContent& presentContent(const Art& art) { return art.content(); }
 
-struct Namespace {
-    std::string_view attribute;
-    std::string_view name;
-};
-constexpr Namespace kNamespaces[] = {
-    {"xmlns", "http://www.w3.org/2000/svg"},
-    {"xmlns:xlink", "http://www.w3.org/1999/xlink"},
-    {"xmlns:inkscape", "http://www.inkscape.org/namespaces/inkscape"},
-    {"xmlns:sodipodi", "http://sodipodi.sourceforge.net/DTD/sodipodi-0.dtd"},
-    {"xmlns:easel", kNamespace},
-};
-
-bool isWrittenAsGroup(const Art& art) {
-    return art.type() == kGroupArt || art.type() == kPluginArt;
+/// What a drawing that was never a file is written into.
+std::shared_ptr<const DrawingSource> blankSource(const Document& document) {
+    auto source = std::make_shared<DrawingSource>();
+    source->attributes = documentAttributes(document);
+    std::string text =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg" + attributeText("xmlns", kSvgNamespace);
+    for (AttributeText& size : std::span{source->attributes}.first(3))
+        text += attributeText(size.name, size.text);
+    for (AttributeText& rest : std::span{source->attributes}.subspan(3))
+        rest.text.clear();
+    source->tree = std::make_shared<const XmlTree>(text + ">\n</svg>\n");
+    source->isArt.resize(source->tree->size());
+    const AIDocumentSetup& setup = document.state().setup;
+    source->viewBoxSize = {setup.width, setup.height};
+    return source;
 }
 
-bool isClipMask(const Art& art) {
-    return art.has(kArtIsClipMask) && art.parent() != nullptr && art.parent()->content().clipped;
+bool sameSegments(const Segments& a, const Segments& b) {
+    const auto same = [](AIRealPoint p, AIRealPoint q) { return p.h == q.h && p.v == q.v; };
+    return std::ranges::equal(a, b, [&](const AIPathSegment& p, const AIPathSegment& q) {
+        return same(p.p, q.p) && same(p.in, q.in) && same(p.out, q.out);
+    });
 }
 
-/// JSON holds many double quotes, so such values stand between single ones.
-std::string singleQuoted(std::string_view text) {
-    std::string result;
-    for (const char c : text) {
-        switch (c) {
-        case '&':
-            result += "&amp;";
-            break;
-        case '<':
-            result += "&lt;";
-            break;
-        case '\'':
-            result += "&apos;";
-            break;
-        default:
-            result += c;
-        }
-    }
-    return result;
+bool sameMatrix(const AIRealMatrix& a, const AIRealMatrix& b) {
+    return a.a == b.a && a.b == b.b && a.c == b.c && a.d == b.d && a.tx == b.tx && a.ty == b.ty;
 }
 
-/// The paths of a compound path, bottom-most first, whatever groups they are in.
-void gatherMembers(const Art& container, std::vector<const Art*>& members) {
-    for (const Art* art = container.lastChild(); art != nullptr; art = art->previous())
-        if (art->type() == kPathArt)
-            members.push_back(art);
-        else
-            gatherMembers(*art, members);
+bool isGroupElement(std::string_view name) {
+    return name == "g" || name == "a" || name == "switch" || name == "svg";
 }
 
-bool isGuide(const Art& art) {
-    if (art.type() == kPathArt) return art.content().guide;
-    if (art.type() != kCompoundPathArt) return false;
-    std::vector<const Art*> members;
-    gatherMembers(art, members);
-    if (members.empty()) return false;
-    for (const Art* member : members)
-        if (!member->content().guide) return false;
-    return true;
+/// Attributes of a shape's element that say where it lies, and those by which drawing programs make
+/// the outline anew.
+bool isGeometry(std::string_view name) {
+    constexpr std::string_view kNames[] = {"x",
+                                           "y",
+                                           "width",
+                                           "height",
+                                           "rx",
+                                           "ry",
+                                           "cx",
+                                           "cy",
+                                           "r",
+                                           "x1",
+                                           "y1",
+                                           "x2",
+                                           "y2",
+                                           "d",
+                                           "points",
+                                           "pathLength",
+                                           "inkscape:original-d",
+                                           "inkscape:path-effect",
+                                           "inkscape:rounded",
+                                           "inkscape:randomized",
+                                           "inkscape:flatsided"};
+    return name.starts_with("sodipodi:") ? name != "sodipodi:insensitive"
+                                         : std::ranges::find(kNames, name) != std::end(kNames);
 }
 
+/// Elements that art elsewhere may refer to, or whose look hangs on them.
+bool isDefinition(std::string_view element) {
+    constexpr std::string_view kDefinitions[] = {"clipPath", "defs",  "filter",  "linearGradient",
+                                                 "marker",   "mask",  "pattern", "radialGradient",
+                                                 "style",    "symbol"};
+    return std::ranges::find(kDefinitions, element) != std::end(kDefinitions);
+}
+
+/// Writes a document into the text that it was read from.
+///
+/// The art is walked from the back to the front, the text beside it. What lies between the elements
+/// of art is copied as it stands. The element of an object that is still in its place is copied,
+/// with what has changed of it set in its tag; what has no element, or not here, is written anew in
+/// the coordinates of the place. Elements whose art is gone are left out, unless others refer to
+/// them.
 class SvgWriter {
 public:
-    SvgWriter(const Document& document, std::ostream& out)
-        : document_(document), out_(out), source_(sourceOf(document)),
-          offset_(rulerOffset(document)), servers_(document, offset_),
-          explicit_(source_ != nullptr && source_->hasStyleSheet ? Explicit::Yes : Explicit::No) {}
+    explicit SvgWriter(const Document& document)
+        : document_(document), kept_(document.foreign),
+          blank_(sourceOf(document) == nullptr ? blankSource(document) : nullptr),
+          source_(blank_ ? *blank_ : *sourceOf(document)), tree_(*source_.tree),
+          offset_(rulerOffset(document)), servers_(tree_, document, offset_),
+          written_(tree_.size(), false) {}
 
-    void write() {
-        text_ =
-            source_ != nullptr ? source_->prologue : "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
-        writeRootTag();
-        open_.push_back({nullptr, document_.root().lastChild(), nullptr, 0, "\n", {}, {}});
-        open_.back().interludes = source_ != nullptr ? &source_->interludes : nullptr;
-        indexInterludes(open_.back());
-        while (!open_.empty())
-            writeNext();
-        text_ += "</svg>";
-        text_ += source_ != nullptr ? source_->epilogue : "\n";
-        flush();
+    std::string write() {
+        chooseTags();
+        const Element root{tree_, tree_.root()};
+        TagText tag{root};
+        const std::vector<AttributeText> now = documentAttributes(document_);
+        for (std::size_t i = 0; i < now.size(); ++i)
+            if (now[i].text != source_.attributes[i].text) tag.set(now[i].name, now[i].text);
+
+        Frame frame;
+        frame.next = document_.root().lastChild();
+        frame.node = root.node();
+        frame.child = tree_.at(root.node()).firstChild;
+        frame.at = tree_.at(root.node()).contentStart;
+        frame.name = root.selectorName();
+        frame.context =
+            std::make_shared<const Context>(rootContext(root, source_.sheet, source_.viewBoxSize));
+        frames_.push_back(std::move(frame));
+        while (!frames_.empty())
+            step();
+
+        const std::string generated = generatedText();
+        if (generatedAt_ == std::string::npos && !generated.empty())
+            generatedAt_ = out_.find_last_not_of(" \t\r\n") + 1;
+        if (!generated.empty()) out_.insert(generatedAt_, generated);
+        const bool empty = out_.empty() && isSelfClosing(root.node());
+        std::string start = tag.text(empty, prefixes_);
+        std::string declared;
+        for (const Namespace& space : kNamespaces) {
+            const std::string attribute = "xmlns:" + std::string{space.prefix};
+            if (prefixes_.contains(space.prefix) && !root.has(attribute))
+                declared += attributeText(attribute, space.name);
+        }
+        start.insert(start.size() - (empty ? 2 : 1), declared);
+        std::string text{tree_.prologue()};
+        text += start;
+        text += out_;
+        if (!empty) text += endTag(root.node());
+        text += tree_.epilogue();
+        return text;
     }
+
+    [[nodiscard]] const std::vector<std::string>& warnings() const { return warnings_; }
 
 private:
     /// A container between its start and its end tag. An explicit stack, because art may be nested
     /// deeper than the stack of calls allows.
-    struct Open {
-        const Art* container;
-        const Art* next;
-        const std::vector<Interlude>* interludes;
-        std::size_t interlude;
+    struct Frame {
+        const Art* next = nullptr; ///< The next member to be written.
+        NodeIndex node = kNoNode;  ///< The element that is copied; none: it is written anew.
+        NodeIndex child = kNoNode; ///< Its next node that is not yet dealt with ...
+        std::size_t at = 0;        ///< ... and up to where its text is.
+        std::size_t start = 0;     ///< Where in the result it begins.
+        bool loose = false;        ///< A layer without a tag: its members are the root's.
+        bool keepsMasks = false;   ///< They stand elsewhere in the text.
+        ElementName name;
         std::string endTag;
-        std::unordered_map<AIArtHandle, std::size_t> lastBefore; ///< Interludes up to that index.
-        std::string clipId;                                      ///< Of the clip mask last written.
+        std::string clipId; ///< Of the clip mask last written.
+        /// What members are written under; made when it is first asked for.
+        std::shared_ptr<const Context> context;
     };
 
-    void flush() {
-        out_.write(text_.data(), static_cast<std::streamsize>(text_.size()));
-        text_.clear();
+    // The text that is copied.
+
+    [[nodiscard]] bool isSelfClosing(NodeIndex node) const {
+        return tree_.startTag(node).ends_with("/>");
+    }
+    [[nodiscard]] std::string endTag(NodeIndex node) const {
+        if (isSelfClosing(node)) return "</" + std::string{tree_.tagName(node)} + '>';
+        return std::string{tree_.text().substr(tree_.at(node).contentEnd,
+                                               tree_.at(node).end - tree_.at(node).contentEnd)};
     }
 
     void newLine() {
-        text_ += '\n';
-        text_.append(2 * open_.size(), ' ');
+        out_ += '\n';
+        out_.append(2 * frames_.size(), ' ');
     }
 
-    void attribute(std::string_view name, std::string_view value) {
-        text_ += ' ';
-        text_ += name;
-        text_ += "=\"";
-        text_ += escaped(value);
-        text_ += '"';
+    /// The frame whose element holds what is written now; none is held by what is written anew.
+    [[nodiscard]] Frame& holder() {
+        return frames_.back().loose ? frames_.front() : frames_.back();
     }
 
-    void entries(std::string_view name, const Dictionary* dictionary) {
-        if (dictionary == nullptr) return;
-        const std::string json = dictionaryJson(*dictionary);
-        if (json.empty()) return;
-        text_ += ' ';
-        text_ += name;
-        text_ += "='";
-        text_ += singleQuoted(json);
-        text_ += '\'';
+    [[nodiscard]] bool standsHere(NodeIndex node) {
+        const Frame& frame = holder();
+        return node != kNoNode && frame.node != kNoNode && tree_.at(node).parent == frame.node &&
+               !written_[node];
     }
 
-    void writeRootTag() {
-        text_ += "<svg";
-        if (source_ != nullptr) text_ += source_->rootAttributes;
-        const std::vector<std::string> given =
-            source_ != nullptr ? source_->rootNames : std::vector<std::string>{};
-        for (const Namespace& space : kNamespaces)
-            if (std::ranges::find(given, space.attribute) == given.end())
-                attribute(space.attribute, space.name);
-        writeSize();
-        const DocumentState& state = document_.state();
-        if (offset_ != Point{} && source_ != nullptr)
-            attribute("easel:ruler-origin",
-                      formatNumber(state.rulerOrigin.h) + ' ' + formatNumber(state.rulerOrigin.v));
-        if (state.currentLayer != nullptr && state.currentLayer != &startingLayer(document_))
-            attribute("easel:current-layer",
-                      std::to_string(layerNumber(document_, state.currentLayer)));
-        if (document_.rulerUnits != kPointsUnits)
-            attribute("easel:ruler-units", std::to_string(document_.rulerUnits));
-        if (document_.colorModel != 1)
-            attribute("easel:color-model", std::to_string(document_.colorModel));
-        entries("easel:document", &document_.recordedDictionary());
-        entries("easel:unrecorded", &document_.otherDictionary());
-        text_ += '>';
+    /// Copies what stands before a member's element, or to the end. Elements of other art are left
+    /// out with the blanks before them: they are gone, or are written where their art is now.
+    void copyUpTo(NodeIndex target) {
+        Frame& frame = holder();
+        if (target != kNoNode && (frame.child == kNoNode || target < frame.child)) return newLine();
+        while (frame.child != target) {
+            const XmlTree::Node& child = tree_.at(frame.child);
+            const std::string_view text = tree_.text().substr(frame.at, child.end - frame.at);
+            if (isGenerated(tree_, frame.child)) {
+                out_ += text.substr(0, child.start - frame.at);
+                generatedAt_ = out_.size();
+            } else if (!source_.isArt[frame.child]) {
+                out_ += text;
+            }
+            frame.at = child.end;
+            frame.child = child.nextSibling;
+        }
+        const std::size_t end =
+            target != kNoNode ? tree_.at(target).start : tree_.at(frame.node).contentEnd;
+        out_ += tree_.text().substr(frame.at, end - frame.at);
+        frame.at = end;
     }
 
-    void writeSize() {
-        const AIDocumentSetup& setup = document_.state().setup;
-        const bool same = source_ != nullptr && source_->size.width == setup.width &&
-                          source_->size.height == setup.height;
-        if (same) {
-            text_ += source_->sizeAttributes;
+    /// The element that began at `start` in the result is complete.
+    void finish(NodeIndex node, std::size_t start) {
+        written_[node] = true;
+        Frame& frame = holder();
+        if (frame.child == node) {
+            frame.at = tree_.at(node).end;
+            frame.child = tree_.at(node).nextSibling;
+        }
+        // What refers to the element means what it was; the changed one goes without its name.
+        const Element element{tree_, node};
+        if (!isReferred(element.get("id"))) return;
+        if (std::string_view{out_}.substr(start) == tree_.source(node)) return;
+        definitions_.insert(node);
+        for (const XmlAttribute& attribute : element.attributes()) {
+            const std::size_t at = out_.find(' ' + std::string{attribute.source}, start);
+            if (attribute.name == "id" && at != std::string::npos)
+                out_.erase(at, attribute.source.size() + 1);
+        }
+    }
+
+    // What members are written under.
+
+    [[nodiscard]] std::vector<ElementName> path(ElementName last) const {
+        std::vector<ElementName> names;
+        for (const Frame& frame : frames_)
+            if (!frame.loose) names.push_back(frame.name);
+        names.push_back(last);
+        return names;
+    }
+
+    const Context& place() {
+        std::size_t known = frames_.size() - 1;
+        while (!frames_[known].context)
+            --known;
+        for (; known + 1 < frames_.size(); ++known) {
+            Frame& frame = frames_[known + 1];
+            if (frame.loose)
+                frame.context = frames_[known].context;
+            else
+                frame.context = std::make_shared<const Context>(
+                    contentContext(Element{tree_, frame.node}, *frames_[known].context, known + 2));
+        }
+        return *frames_.back().context;
+    }
+
+    [[nodiscard]] UserSpace placeSpace() { return {place().matrix, offset_}; }
+
+    /// What the content of an element that is copied is written under; `depth` frames lead to it.
+    Context contentContext(const Element& element, const Context& parent, std::size_t depth) {
+        std::vector<ElementName> names;
+        for (std::size_t i = 0; i < depth; ++i)
+            if (!frames_[i].loose) names.push_back(frames_[i].name);
+        Context context = contextOf(element, source_.sheet, names, parent);
+        if (element.name() == "svg") enterViewBox(element, context);
+        return context;
+    }
+
+    /// What a new element of that name is given here, without attributes of its own.
+    [[nodiscard]] Style given(std::string_view tag) {
+        const Context& context = place();
+        Properties rules;
+        if (!source_.sheet.empty())
+            for (const bool important : {false, true})
+                for (const Declaration* each :
+                     source_.sheet.matching(path({tag, {}, {}}), important))
+                    rules[each->property] = each->value;
+        return styleOf(rules, context.style, context.viewport.diagonal());
+    }
+
+    [[nodiscard]] static std::string valueIn(const Style& style, const std::string& property) {
+        if (property == "opacity") return formatNumber(style.opacity);
+        for (const Properties* known : {style.inherited.get(), &style.others, &style.unknown})
+            if (known != nullptr && known->contains(property)) return known->at(property);
+        return std::string{initialValue(property)};
+    }
+
+    /// Sets the properties that are otherwise here, and puts away those that others would lend.
+    void setProperties(TagText& tag, const Properties& wanted, const Style& here, bool isText) {
+        const bool inStyle = !source_.sheet.empty();
+        for (const auto& [property, value] : wanted)
+            if (valueIn(here, property) != value)
+                tag.setProperty(property, value, inStyle || !isProperty(property));
+        if (!here.inherited) return;
+        for (const auto& [property, value] : *here.inherited) {
+            const std::string initial{initialValue(property)};
+            if (wanted.contains(property) || initial.empty() || value == initial) continue;
+            if (isTextProperty(property) ? isText : !isUnderstood(property) || isText)
+                tag.setProperty(property, initial, inStyle);
+        }
+    }
+
+    // One object after the other.
+
+    void step() {
+        Frame& frame = frames_.back();
+        const Art* const art = frame.next;
+        if (art == nullptr) return close();
+        frame.next = art->previous();
+        const ArtSource* const source = source_.find(*art);
+        const bool isTop = frames_.size() == 1 && art->isLayer();
+        if (frame.keepsMasks && isClipMask(*art) && source != nullptr)
+            return keepMask(source->node);
+        if (source != nullptr && standsHere(source->node) && keep(*art, *source)) return;
+        if (isTop && source != nullptr && source->node == kNoNode && !tagged_.contains(art))
+            return openLoose(*art);
+        if (isTop && source != nullptr && source->node == kNoNode) return openTagged(*art);
+        writeAnew(*art);
+    }
+
+    void close() {
+        Frame frame = std::move(frames_.back());
+        if (frame.loose) {
+            frames_.pop_back();
+            if (!frame.endTag.empty()) newLine();
+            out_ += frame.endTag;
             return;
         }
-        const std::string width = formatNumber(setup.width);
-        const std::string height = formatNumber(setup.height);
-        const Point corner = source_ != nullptr ? source_->viewBoxCorner : Point{};
-        attribute("width", width);
-        attribute("height", height);
-        attribute("viewBox", formatNumber(corner.x) + ' ' + formatNumber(corner.y) + ' ' + width +
-                                 ' ' + height);
+        if (frame.node == kNoNode) {
+            frames_.pop_back();
+            newLine();
+            out_ += frame.endTag;
+            return;
+        }
+        frames_.back() = frame;
+        const bool wasEmpty = isSelfClosing(frame.node);
+        if (!wasEmpty) copyUpTo(kNoNode);
+        frames_.pop_back();
+        if (frames_.empty()) {
+            if (wasEmpty && !out_.empty()) out_ += '\n';
+            return;
+        }
+        if (wasEmpty) newLine();
+        out_ += endTag(frame.node);
+        finish(frame.node, frame.start);
     }
 
-    void indexInterludes(Open& open) {
-        if (open.interludes == nullptr) return;
-        for (std::size_t i = 0; i < open.interludes->size(); ++i)
-            open.lastBefore[(*open.interludes)[i].before] = i + 1;
+    // Layers that the reader made for art outside of layers.
+
+    /// Such a layer needs a tag when it would not be read again as it is.
+    void chooseTags() {
+        const Art& root = document_.root();
+        std::vector<std::string> titles;
+        std::vector<std::string> shown;
+        bool belowIsLoose = false;
+        for (const Art* layer = root.lastChild(); layer != nullptr; layer = layer->previous()) {
+            const ArtSource* const source = source_.find(*layer);
+            const std::string& title = layer->details().layer.title;
+            shown.push_back(title);
+            titles.push_back(title);
+            const bool isLoose = source != nullptr && source->node == kNoNode;
+            if (source == nullptr) {
+                belowIsLoose = false;
+                continue;
+            }
+            const bool sameTitle = title == source->content.details->layer.title;
+            if (!isLoose) {
+                const Element element{tree_, source->node};
+                if (sameTitle && element.get("inkscape:label").empty() && element.get("id").empty())
+                    titles.back().clear();
+                belowIsLoose = false;
+                continue;
+            }
+            const bool isOnlyOne = root.firstChild() == root.lastChild();
+            const bool same = sameState(*layer, *source) && layer->dictionaryIfAny() == nullptr &&
+                              layer->style().opacity == 1 && !layer->content().clipped &&
+                              !belowIsLoose && (layer->firstChild() != nullptr || isOnlyOne);
+            if (same)
+                titles.back().clear();
+            else
+                tagged_.insert(layer);
+            belowIsLoose = same;
+        }
+        fillInTitles(titles);
+        namesLayers_ = titles != shown;
+        for (const Art* layer = root.lastChild(); namesLayers_ && layer != nullptr;
+             layer = layer->previous())
+            tagged_.insert(layer);
     }
 
-    /// All that stood in front of `art`; what stood in front of art that is gone comes along.
-    void writeInterludes(Open& open, AIArtHandle before) {
-        const auto found = open.lastBefore.find(before);
-        if (found == open.lastBefore.end()) return;
-        while (open.interlude < found->second)
-            writeInterlude((*open.interludes)[open.interlude++]);
+    [[nodiscard]] bool sameState(const Art& art, const ArtSource& source) const {
+        const auto texts = [](const std::vector<AttributeText>& attributes) {
+            std::vector<std::string> result;
+            for (const AttributeText& each : attributes)
+                result.push_back(each.text);
+            return result;
+        };
+        return texts(artAttributes(art, presentContent)) ==
+                   texts(artAttributes(
+                       art, [&](const Art&) -> const ArtContent& { return source.content; })) &&
+               !art.has(kArtHidden);
     }
 
-    void writeInterlude(const Interlude& interlude) {
+    void openLoose(const Art& layer) {
+        Frame frame;
+        frame.loose = true;
+        frame.next = layer.lastChild();
+        frames_.push_back(std::move(frame));
+    }
+
+    /// The members keep their places in the text, between the new tags.
+    void openTagged(const Art& layer) {
         newLine();
-        text_ += interlude.source;
+        TagText tag{std::string{tree_.prefix()} + "g"};
+        describe(tag, layer, nullptr);
+        out_ += tag.text(false, prefixes_);
+        openLoose(layer);
+        frames_.back().endTag = "</" + tag.name() + '>';
     }
 
-    void writeNext() {
-        if (text_.size() > kPieceSize) flush();
-        Open& open = open_.back();
-        const Art* const art = open.next;
-        if (art == nullptr) {
-            closeContainer(open);
-            return;
+    // An element that is still there for its art.
+
+    /// False when nothing of the element is of use.
+    bool keep(const Art& art, const ArtSource& source) {
+        const Element element{tree_, source.node};
+        const bool isGroup = isGroupElement(element.name());
+        if (isGroup != (art.type() == kGroupArt)) {
+            const Art* const shown = art.type() == kGroupArt ? onlyShown(art, source) : nullptr;
+            return shown != nullptr && keepLeaf(*shown, *source_.find(*shown), true);
         }
-        open.next = art->previous();
-        writeInterludes(open, art->handle());
-        if (isWrittenAsGroup(*art))
-            openGroup(*art);
+        return isGroup ? keepGroup(art, source) : keepLeaf(art, source, false);
+    }
+
+    /// The object that an element with a clip path was read as a group around; null when the group
+    /// has become something of its own.
+    const Art* onlyShown(const Art& group, const ArtSource& source) {
+        const Art* shown = nullptr;
+        for (const Art* art = group.firstChild(); art != nullptr; art = art->next()) {
+            if (isClipMask(*art)) continue;
+            if (shown != nullptr) return nullptr;
+            shown = art;
+        }
+        const ArtSource* const origin = shown != nullptr ? source_.find(*shown) : nullptr;
+        const bool isOwn = origin != nullptr && origin->node == source.node;
+        const bool same = isOwn && hasMasksAsRead(group, source) && sameState(group, source) &&
+                          group.dictionaryIfAny() == nullptr && group.style().opacity == 1;
+        return same ? shown : nullptr;
+    }
+
+    [[nodiscard]] const ArtContent& readContent(const Art& art) const {
+        const ArtSource* const source = source_.find(art);
+        return source != nullptr ? source->content : art.content();
+    }
+
+    /// Is the object's shape what was read? Moving the ruler's origin is no edit of the art.
+    [[nodiscard]] bool hasShapeAsRead(const Art& art) const {
+        const ArtSource* const source = source_.find(art);
+        if (source == nullptr) return false;
+        if (art.type() == kCompoundPathArt) {
+            std::vector<AIArtHandle> members;
+            for (const Art* member = art.lastChild(); member != nullptr;
+                 member = member->previous()) {
+                members.push_back(member->handle());
+                if (!hasShapeAsRead(*member)) return false;
+            }
+            return members == source->parts;
+        }
+        if (source->stamp == art.stamp()) return true;
+        return art.content().closed == source->content.closed &&
+               sameSegments(*art.content().segments, *source->content.segments) &&
+               sameMatrix(art.details().matrix, source->content.details->matrix);
+    }
+
+    [[nodiscard]] bool hasMasksAsRead(const Art& group, const ArtSource& source) const {
+        if (group.content().clipped != source.content.clipped) return false;
+        std::vector<AIArtHandle> masks;
+        for (const Art* art = group.lastChild(); art != nullptr; art = art->previous()) {
+            if (!isClipMask(*art)) continue;
+            const ArtSource* const origin = source_.find(*art);
+            if (origin == nullptr || !hasShapeAsRead(*art) || !sameState(*art, *origin) ||
+                art->style().path.evenodd != origin->content.style->path.evenodd)
+                return false;
+            masks.push_back(art->handle());
+        }
+        return masks == source.parts;
+    }
+
+    /// One that stands in its group is copied; others are where the clip path is.
+    void keepMask(NodeIndex node) {
+        if (!standsHere(node)) return;
+        copyUpTo(node);
+        const std::size_t start = out_.size();
+        out_ += tree_.source(node);
+        finish(node, start);
+    }
+
+    /// Have the effects of art moved with it since it was read?
+    static const Effects* movedEffects(const Art& art) {
+        const auto* const effects = dynamic_cast<const Effects*>(art.style().foreign.get());
+        const bool moved = effects != nullptr && effects->spatial &&
+                           !sameMatrix(art.style().foreignMatrix, kIdentityMatrix);
+        return moved ? effects : nullptr;
+    }
+
+    /// From the effects' user space to soft coordinates.
+    static Matrix effectSpace(const Art& art, const Effects& effects) {
+        const AIRealMatrix& m = art.style().foreignMatrix;
+        return Matrix{m.a, m.b, m.c, m.d, m.tx, m.ty} * effects.space;
+    }
+
+    /// The user space of art with effects that have their meaning in another one than the place's.
+    UserSpace ownSpace(TagText& tag, const UserSpace& outer, const Matrix& toSoftCoordinates) {
+        const Matrix matrix = outer.transformTo(toSoftCoordinates);
+        tag.set("transform", matrix == Matrix{} ? std::string{} : formatTransform(matrix));
+        return {outer.toDrawing() * matrix, offset_};
+    }
+
+    bool keepLeaf(const Art& art, const ArtSource& source, bool isClipped) {
+        const Element element{tree_, source.node};
+        const bool isShape = art.type() == kPathArt || art.type() == kCompoundPathArt;
+        const bool sameShape = hasShapeAsRead(art);
+        const Effects* const moved = source.stamp == art.stamp() ? nullptr : movedEffects(art);
+        if (isClipped && (moved != nullptr || (!isShape && !sameShape))) return false;
+
+        TagText tag{element};
+        const bool sameStyle =
+            source.stamp == art.stamp() || art.content().style.sharesWith(source.content.style);
+        if (!isShape && !sameShape)
+            static_cast<void>(ownSpace(tag, placeSpace(), asMatrix(art.details().matrix)));
+        if (isShape && !(sameShape && sameStyle)) {
+            const UserSpace outer = placeSpace();
+            const UserSpace space = moved != nullptr
+                                        ? ownSpace(tag, outer, effectSpace(art, *moved))
+                                        : UserSpace{contextOf(element, source_.sheet,
+                                                              path(element.selectorName()), place())
+                                                        .matrix,
+                                                    offset_};
+            if (!sameShape) reshape(tag, element, art, space);
+            restyle(tag, art.style(), *source.content.style, space);
+        }
+        if (!isShape && art.style().opacity != source.content.style->opacity)
+            tag.setProperty("opacity", formatNumber(art.style().opacity), hasSheet());
+        describe(tag, art, &source);
+        if (tag.hasChanged() && isReferred(element.get("id"))) return false;
+        copyUpTo(source.node);
+        const std::size_t start = out_.size();
+        out_ += tag.text(isSelfClosing(source.node), prefixes_);
+        if (!isSelfClosing(source.node)) {
+            out_ += tree_.content(source.node);
+            out_ += tag.hasChanged() ? "</" + tag.name() + '>' : endTag(source.node);
+        }
+        finish(source.node, start);
+        return true;
+    }
+
+    [[nodiscard]] bool hasSheet() const { return !source_.sheet.empty(); }
+    static Matrix asMatrix(const AIRealMatrix& m) { return {m.a, m.b, m.c, m.d, m.tx, m.ty}; }
+
+    void reshape(TagText& tag, const Element& element, const Art& art, const UserSpace& space) {
+        for (const XmlAttribute& attribute : element.attributes())
+            if (isGeometry(attribute.name)) tag.set(attribute.name, {});
+        tag.rename(std::string{tree_.prefix()} + "path");
+        setShape(tag, art, space);
+    }
+
+    void setShape(TagText& tag, const Art& art, const UserSpace& space) {
+        std::string data;
+        for (const Art* member : membersOf(art))
+            data += space.path(member->segments(), member->content().closed);
+        tag.set("d", data.empty() ? " " : data);
+        tag.set("easel:ends", art.type() == kPathArt ? endsText(art, space) : std::string{});
+    }
+
+    /// An open path's outermost handles draw nothing and so have no place in path data.
+    static std::string endsText(const Art& path, const UserSpace& space) {
+        const auto segments = path.segments();
+        if (segments.empty() || path.content().closed) return {};
+        const auto same = [](AIRealPoint a, AIRealPoint b) { return a.h == b.h && a.v == b.v; };
+        const AIPathSegment& first = segments.front();
+        const AIPathSegment& last = segments.back();
+        if (same(first.in, first.p) && same(last.out, last.p)) return {};
+        return space.point(first.in) + ' ' + space.point(last.out);
+    }
+
+    [[nodiscard]] ServerText serverText(const UserSpace& space) {
+        return [this, &space](const Definition& definition, const AIRealMatrix& matrix) {
+            return servers_.reference(definition, matrix, space);
+        };
+    }
+
+    void restyle(TagText& tag, const ArtStyle& now, const ArtStyle& then, const UserSpace& space) {
+        const ServerText compared = [](const Definition& definition, const AIRealMatrix& m) {
+            std::string text = definition.id();
+            for (const AIReal entry : {m.a, m.b, m.c, m.d, m.tx, m.ty})
+                text += ' ' + formatNumber(entry);
+            return text;
+        };
+        const auto before = styleText(then, space, compared);
+        const auto after = styleText(now, space, compared);
+        std::set<int> changed;
+        for (std::size_t i = 0; i < after.size(); ++i)
+            if (after[i].text != before[i].text) changed.insert(after[i].kind);
+        if (changed.empty()) return;
+        for (const PropertyText& each : styleText(now, space, serverText(space)))
+            if (changed.contains(each.kind)) tag.setProperty(each.name, each.text, hasSheet());
+    }
+
+    /// Name, state, entries and all else that attributes say beside geometry and style. Without a
+    /// source the tag says it all, otherwise what differs.
+    void describe(TagText& tag, const Art& art, const ArtSource* source) {
+        if (source != nullptr && isPlainAsRead(art, *source)) return;
+        const std::vector<AttributeText> now = artAttributes(art, presentContent);
+        std::vector<AttributeText> then;
+        if (source != nullptr)
+            then = artAttributes(
+                art, [this](const Art& each) -> const ArtContent& { return readContent(each); });
+        for (std::size_t i = 0; i < now.size(); ++i)
+            if (then.empty() || now[i].text != then[i].text) tag.set(now[i].name, now[i].text);
+        if (namesLayers_ && art.isLayer()) tag.set("inkscape:label", art.details().layer.title);
+        describeEntries(tag, art, source);
+        const bool isHidden = art.has(kArtHidden) || isGuide(art, presentContent);
+        const ContentOf asRead = [this](const Art& each) -> const ArtContent& {
+            return readContent(each);
+        };
+        const bool wasHidden =
+            source != nullptr &&
+            ((source->content.attributes & static_cast<std::uint32_t>(kArtHidden)) != 0 ||
+             isGuide(art, asRead));
+        if (isHidden == wasHidden && source != nullptr) return;
+        tag.setProperty("display", isHidden ? "none" : "", hasSheet() && isHidden);
+        if (!wasHidden || isHidden) return;
+        if (hasSheet()) tag.setProperty("display", "inline", true);
+        if (!isContainer(art)) tag.setProperty("visibility", "visible", hasSheet());
+    }
+
+    /// Quickly, for nearly all art of nearly all drawings.
+    [[nodiscard]] bool isPlainAsRead(const Art& art, const ArtSource& source) const {
+        return source.stamp == art.stamp() && art.type() != kCompoundPathArt && !art.isLayer() &&
+               art.content().attributes == source.content.attributes &&
+               art.content().details.sharesWith(source.content.details) &&
+               art.dictionaryIfAny() == nullptr;
+    }
+
+    void describeEntries(TagText& tag, const Art& art, const ArtSource* source) {
+        const Dictionary* const entries = art.dictionaryIfAny();
+        const std::string now = entries != nullptr ? dictionaryJson(*entries) : std::string{};
+        const std::string members =
+            art.type() == kCompoundPathArt ? membersText(membersOf(art)) : std::string{};
+        std::string then;
+        std::string membersThen;
+        if (source != nullptr && source->node != kNoNode) {
+            const Element element{tree_, source->node};
+            then = element.get("easel:dictionary");
+            membersThen = element.get("easel:members");
+            if (!then.empty() && now != then) then = canonicalJson(then);
+        }
+        if (now != then || source == nullptr) tag.set("easel:dictionary", now);
+        if (members != membersThen) tag.set("easel:members", members);
+    }
+
+    static std::string canonicalJson(const std::string& text) {
+        const Ref<Dictionary> entries{new Dictionary};
+        readDictionaryJson(text, *entries);
+        return dictionaryJson(*entries);
+    }
+
+    bool keepGroup(const Art& group, const ArtSource& source) {
+        const Element element{tree_, source.node};
+        const bool keepsMasks = hasMasksAsRead(group, source);
+        if (!keepsMasks && element.name() == "svg") return false;
+        TagText tag{element};
+        const Effects* const moved = source.stamp == group.stamp() ? nullptr : movedEffects(group);
+        std::shared_ptr<const Context> inner;
+        if (moved != nullptr) {
+            if (element.name() == "svg") return false;
+            auto context = std::make_shared<Context>(
+                contextOf(element, source_.sheet, path(element.selectorName()), place()));
+            context->matrix = ownSpace(tag, placeSpace(), effectSpace(group, *moved)).toDrawing();
+            inner = std::move(context);
+        }
+        if (group.style().opacity != source.content.style->opacity)
+            tag.setProperty("opacity", formatNumber(group.style().opacity), hasSheet());
+        describe(tag, group, &source);
+        if (!keepsMasks) describeMasks(tag, group);
+        copyUpTo(source.node);
+        Frame frame;
+        frame.keepsMasks = keepsMasks;
+        frame.next = group.lastChild();
+        frame.node = source.node;
+        frame.child = tree_.at(source.node).firstChild;
+        frame.at = tree_.at(source.node).contentStart;
+        frame.start = out_.size();
+        frame.name = element.selectorName();
+        frame.context = std::move(inner);
+        const bool hasMembers = std::ranges::any_of(
+            childrenOf(group), [&](const Art* art) { return !(keepsMasks && isClipMask(*art)); });
+        const bool empty = isSelfClosing(source.node) && !hasMembers;
+        out_ += tag.text(empty, prefixes_);
+        if (empty)
+            finish(source.node, frame.start);
         else
-            writeLeaf(*art, open);
+            frames_.push_back(std::move(frame));
+        return true;
     }
 
-    void closeContainer(Open& open) {
-        if (open.interludes != nullptr)
-            while (open.interlude < open.interludes->size())
-                writeInterlude((*open.interludes)[open.interlude++]);
-        const bool isRoot = open_.size() == 1;
-        if (isRoot) writeLostDefinitions();
-        if (isRoot && !servers_.elements().empty()) {
-            newLine();
-            text_ += "<defs easel:generated=\"true\">" + servers_.elements();
-            newLine();
-            text_ += "</defs>";
-        }
-        std::string endTag = std::move(open.endTag);
-        open_.pop_back();
-        if (!isRoot) newLine();
-        text_ += endTag;
+    static std::vector<const Art*> childrenOf(const Art& container) {
+        std::vector<const Art*> children;
+        for (const Art* art = container.lastChild(); art != nullptr; art = art->previous())
+            children.push_back(art);
+        return children;
     }
 
-    /// Definitions that stood in a group that is gone: art elsewhere may refer to them. They are
-    /// kept in the order of the text that they were read from.
-    void writeLostDefinitions() {
-        if (source_ == nullptr) return;
-        std::map<std::size_t, const std::string*> lost;
-        for (const auto& [handle, element] : source_->elements)
-            if (!written_.contains(handle))
-                for (const Interlude& interlude : element.interludes)
-                    if (interlude.isDefinition) lost.emplace(interlude.number, &interlude.source);
-        for (const auto& [number, source] : lost) {
-            newLine();
-            text_ += *source;
-        }
+    /// Masks that are written among the members of their group. Several cut one another: each clip
+    /// path is clipped by the one before, the group by the last.
+    void describeMasks(TagText& tag, const Art& group) {
+        tag.setProperty("clip-path", {}, false);
+        tag.set("easel:clipped", group.content().clipped ? "true" : "");
+        std::string last;
+        for (const Art* art : childrenOf(group))
+            if (isClipMask(*art)) clipIds_[art] = last = servers_.newId("easel-clip-", clipNumber_);
+        if (!last.empty()) tag.setProperty("clip-path", "url(#" + last + ")", hasSheet());
     }
 
-    void openGroup(const Art& group) {
-        const ElementSource* const source = source_ != nullptr ? source_->find(group) : nullptr;
-        const std::string tag = source != nullptr && !source->tag.empty() ? source->tag : "g";
+    // Art without an element in this place.
+
+    void writeAnew(const Art& art) {
+        warnOfLoss(art);
         newLine();
-        text_ += '<' + tag;
-        if (source != nullptr) text_ += source->attributes;
-        if (group.isLayer()) writeLayer(group.details().layer);
-        Open open{&group, groupContent(group), nullptr, 0, "</" + tag + '>', {}, {}};
-        if (group.content().clipped) writeClip(group);
-        writeState(group);
-        const ArtStyle& style = group.style();
-        Properties properties = extras(style);
-        if (group.has(kArtHidden)) properties["display"] = "none";
-        if (style.opacity != 1.0F || explicit_ == Explicit::Yes)
-            properties["opacity"] = formatNumber(style.opacity);
-        if (explicit_ == Explicit::Yes) attribute("easel:styled", "true");
-        if (!properties.empty()) attribute("style", declarationText(properties));
-        if (source != nullptr && !source->interludes.empty()) {
-            open.interludes = &source->interludes;
-            written_.insert(group.handle());
+        if (art.type() == kGroupArt || art.type() == kPluginArt) return openAnew(art);
+        const auto mask = clipIds_.find(&art);
+        if (mask != clipIds_.end()) {
+            Frame& frame = frames_.back();
+            const std::string former = std::exchange(frame.clipId, mask->second);
+            TagText tag{std::string{tree_.prefix()} + "clipPath"};
+            tag.set("id", mask->second);
+            tag.set("easel:clip", "true");
+            if (!former.empty()) tag.set("clip-path", "url(#" + former + ")");
+            out_ += tag.text(false, prefixes_);
         }
-        if (open.next == nullptr && open.interludes == nullptr) {
-            text_ += "/>";
-            return;
+        if (const auto* opaque = dynamic_cast<const OpaqueContent*>(art.details().foreign.get()))
+            writeOpaque(art, *opaque);
+        else if (art.type() == kPathArt || art.type() == kCompoundPathArt)
+            writeShape(art);
+        else
+            writeInstance(art);
+        if (mask != clipIds_.end()) out_ += "</" + std::string{tree_.prefix()} + "clipPath>";
+    }
+
+    void warnOfLoss(const Art& art) {
+        const auto* const effects = dynamic_cast<const Effects*>(art.style().foreign.get());
+        if (effects != nullptr && !effects->lost.empty()) warn(effects->lost);
+    }
+
+    void warn(const std::string& warning) {
+        if (std::ranges::find(warnings_, warning) == warnings_.end()) warnings_.push_back(warning);
+    }
+
+    /// The user space of new art: the place's, unless the art is meant for another.
+    UserSpace spaceFor(TagText& tag, const Art& art) {
+        const UserSpace outer = placeSpace();
+        if (!outer.isPlane()) {
+            warn("art in a group whose transform flattens it cannot be placed there");
+            return outer;
         }
-        text_ += '>';
-        indexInterludes(open);
-        open_.push_back(std::move(open));
+        const auto* const effects = dynamic_cast<const Effects*>(art.style().foreign.get());
+        if (effects != nullptr && effects->spatial) {
+            const Matrix space = effectSpace(art, *effects);
+            if (inverse(space)) return ownSpace(tag, outer, space);
+        }
+        const bool isStroked = !isContainer(art) && art.style().path.strokePaint != 0;
+        if (isStroked && !isConformal(outer.toDrawing()))
+            return ownSpace(tag, outer, softMatrix(Matrix{}, offset_));
+        return outer;
+    }
+
+    [[nodiscard]] static Properties effectsOf(const Art& art) {
+        const auto* const effects = dynamic_cast<const Effects*>(art.style().foreign.get());
+        return effects != nullptr ? effects->properties : Properties{};
+    }
+
+    /// The name in the drawing stays with the object that has its element, or took its place.
+    void setId(TagText& tag, const Art& art) {
+        const std::string& id = *art.content().id;
+        if (id.empty() || isReferred(id)) return;
+        const NodeIndex node = tree_.find(id);
+        const ArtSource* const source = source_.find(art);
+        const bool isOwn = source != nullptr && source->node == node;
+        if (!isOwn && node != kNoNode && livingNodes().contains(node)) return;
+        if (ids_.insert(id).second) tag.set("id", id);
+    }
+
+    const std::set<NodeIndex>& livingNodes() {
+        const Art& root = document_.root();
+        if (living_.empty())
+            for (const Art* art = &root; art != nullptr; art = nextInPreorder(*art, root))
+                if (const ArtSource* source = source_.find(*art)) living_.insert(source->node);
+        return living_;
+    }
+
+    void openAnew(const Art& group) {
+        TagText tag{std::string{tree_.prefix()} + "g"};
+        setId(tag, group);
+        const UserSpace space = spaceFor(tag, group);
+        Frame frame;
+        frame.next = groupContent(group);
+        if (group.content().clipped) describeMasks(tag, group);
+        Properties wanted = effectsOf(group);
+        wanted["opacity"] = formatNumber(group.style().opacity);
+        Style here = given("g");
+        setProperties(tag, wanted, here, false);
+        describe(tag, group, nullptr);
+        out_ += tag.text(frame.next == nullptr, prefixes_);
+        if (frame.next == nullptr) return;
+        frame.endTag = "</" + tag.name() + '>';
+        frame.name = {"g", {}, {}};
+        const Context& outer = place();
+        if (hasSheet() || space.toDrawing() != outer.matrix)
+            frame.context = std::make_shared<const Context>(
+                Context{std::move(here), space.toDrawing(), outer.viewport});
+        else
+            frame.context = frames_.back().context;
+        frames_.push_back(std::move(frame));
     }
 
     /// Of a plug-in group, what it looks like.
@@ -297,242 +835,222 @@ private:
         return editArt(group) != nullptr ? editArt(group)->lastChild() : nullptr;
     }
 
-    /// Several masks cut one another: each clip path is clipped by the one before. The group is
-    /// clipped by the last.
-    void writeClip(const Art& group) {
-        attribute("easel:clipped", "true");
-        std::string last;
-        int number = clipNumber_;
-        for (const Art* art = group.lastChild(); art != nullptr; art = art->previous())
-            if (art->has(kArtIsClipMask)) last = servers_.newId("easel-clip-", number);
-        if (!last.empty()) attribute("clip-path", "url(#" + last + ")");
-        clipNumbers_.emplace(&group, clipNumber_);
-        clipNumber_ = number;
+    void writeShape(const Art& art) {
+        TagText tag{std::string{tree_.prefix()} + "path"};
+        setId(tag, art);
+        const UserSpace space = spaceFor(tag, art);
+        setShape(tag, art, space);
+        Properties wanted = effectsOf(art);
+        for (const PropertyText& each : styleText(art.style(), space, serverText(space)))
+            wanted.try_emplace(each.name, each.text);
+        if (isClipMask(art)) wanted["clip-rule"] = wanted["fill-rule"];
+        wanted["visibility"] = "visible";
+        setProperties(tag, wanted, given("path"), false);
+        describe(tag, art, nullptr);
+        out_ += tag.text(true, prefixes_);
     }
 
-    void writeLayer(const LayerProperties& layer) {
-        attribute("inkscape:groupmode", "layer");
-        attribute("inkscape:label", layer.title);
-        const LayerProperties standard;
-        const AIRGBColor& color = layer.color;
-        if (color.red != standard.color.red || color.green != standard.color.green ||
-            color.blue != standard.color.blue) {
-            const auto channel = [](ai::uint16 value) {
-                return static_cast<float>(value) / 65535.0F;
-            };
-            attribute(
-                "inkscape:highlight-color",
-                formatColour({channel(color.red), channel(color.green), channel(color.blue)}));
-        }
-        if (!layer.preview) attribute("easel:preview", "false");
-        if (!layer.printed) attribute("easel:printed", "false");
-        if (layer.dimPlacedImages) attribute("easel:dim-images", "true");
-        if (layer.isTemplate) attribute("easel:template", "true");
-        if (layer.dimmedPercent != standard.dimmedPercent)
-            attribute("easel:dimmed-percent", std::to_string(layer.dimmedPercent));
-    }
-
-    /// Name, lock, note and dictionary.
-    void writeState(const Art& art) {
-        const ArtDetails& details = art.details();
-        if (!details.name.empty() && !art.isLayer()) attribute("inkscape:label", details.name);
-        if (art.has(kArtLocked)) attribute("sodipodi:insensitive", "true");
-        if (!details.note.empty()) attribute("easel:note", details.note);
-        entries("easel:dictionary", art.dictionaryIfAny());
-    }
-
-    static Properties extras(const ArtStyle& style) {
-        const auto* const kept = dynamic_cast<const StyleExtras*>(style.foreign.get());
-        return kept != nullptr ? kept->properties : Properties{};
-    }
-
-    void writeLeaf(const Art& art, Open& open) {
-        newLine();
-        const bool mask = isClipMask(art);
-        if (mask) {
-            const std::string former = std::exchange(
-                open.clipId, servers_.newId("easel-clip-", clipNumbers_.at(open.container)));
-            text_ += "<clipPath";
-            attribute("id", open.clipId);
-            attribute("easel:clip", "true");
-            if (!former.empty()) attribute("clip-path", "url(#" + former + ")");
-            text_ += '>';
-        }
-        if (const auto* opaque = dynamic_cast<const OpaqueContent*>(art.details().foreign.get()))
-            writeOpaque(art, opaque->raw);
-        else if (art.type() == kPathArt || art.type() == kCompoundPathArt)
-            writeShape(art);
-        else
-            writeInstance(art);
-        if (mask) text_ += "</clipPath>";
-    }
-
-    void writeOpaque(const Art& art, const RawElement& raw) {
-        text_ += '<' + raw.tag;
-        writeOwn(art);
-        text_ += raw.attributes;
-        writePlacement(art);
-        if (raw.inner.empty())
-            text_ += "/>";
-        else
-            text_ += '>' + raw.inner + "</" + raw.tag + '>';
-    }
-
-    void writeOwn(const Art& art) {
-        if (const ElementSource* source = source_ != nullptr ? source_->find(art) : nullptr)
-            text_ += source->attributes;
-    }
-
-    void writePlacement(const Art& art) {
-        const AIRealMatrix& matrix = art.details().matrix;
-        if (fromSoft(matrix, offset_) != Matrix{})
-            attribute("transform", transformText(matrix, offset_));
-        writeState(art);
-        if (art.has(kArtHidden)) attribute("display", "none");
-        if (art.style().opacity != 1.0F) attribute("opacity", formatNumber(art.style().opacity));
-        for (const auto& [property, value] : extras(art.style()))
-            attribute(property, value);
+    /// Its element again, in another place.
+    void writeOpaque(const Art& art, const OpaqueContent& content) {
+        const Element element{tree_, content.node};
+        TagText tag{element};
+        tag.set("id", {});
+        setId(tag, art);
+        static_cast<void>(ownSpace(tag, placeSpace(), asMatrix(art.details().matrix)));
+        const Properties effects = effectsOf(art);
+        for (const char* const own : {"clip-path", "display", "opacity"})
+            tag.setProperty(own, {}, false);
+        for (const auto& [property, value] : effects)
+            if (property == "clip-path") tag.setProperty(property, value, hasSheet());
+        if (art.style().opacity != 1)
+            tag.setProperty("opacity", formatNumber(art.style().opacity), hasSheet());
+        ElementName name = element.selectorName();
+        name.id = {};
+        const Context& outer = place();
+        const Style here = styleOf(element.properties(source_.sheet, path(name)), outer.style,
+                                   outer.viewport.diagonal());
+        Properties wanted = content.style ? *content.style : Properties{};
+        wanted["visibility"] = "visible";
+        setProperties(tag, wanted, here, true);
+        describe(tag, art, nullptr);
+        const std::string inner = source_.find(art) != nullptr
+                                      ? std::string{tree_.content(content.node)}
+                                      : contentWithoutIds(content.node);
+        const bool empty = isSelfClosing(content.node);
+        out_ += tag.text(empty, prefixes_);
+        if (!empty) out_ += inner + "</" + tag.name() + '>';
     }
 
     /// Art that a plug-in made and that no drawing had.
     void writeInstance(const Art& art) {
         const Definition* const symbol = art.details().symbol;
-        text_ += symbol != nullptr ? "<use" : "<g";
-        if (symbol != nullptr) attribute("xlink:href", '#' + symbol->id());
-        writeOwn(art);
-        writePlacement(art);
-        text_ += "/>";
+        TagText tag{std::string{tree_.prefix()} + (symbol != nullptr ? "use" : "g")};
+        if (symbol != nullptr) tag.set("xlink:href", '#' + symbol->id());
+        static_cast<void>(ownSpace(tag, placeSpace(), asMatrix(art.details().matrix)));
+        setProperties(tag, {{"opacity", formatNumber(art.style().opacity)}}, given("use"), true);
+        describe(tag, art, nullptr);
+        out_ += tag.text(true, prefixes_);
     }
 
-    void writeShape(const Art& art) {
-        std::vector<const Art*> members;
-        if (art.type() == kPathArt)
-            members.push_back(&art);
-        else
-            gatherMembers(art, members);
-        const ElementSource* const source = source_ != nullptr ? source_->find(art) : nullptr;
-        text_ += "<path";
-        if (source != nullptr) {
-            text_ += source->attributes;
-            const bool asRead = art.content().segments.sharesWith(source->shape);
-            if (asRead && art.type() == kPathArt) text_ += source->shapeAttributes;
+    // What others refer to.
+
+    [[nodiscard]] bool isReferred(const std::string& id) {
+        if (id.empty()) return false;
+        if (!knowsReferences_) findReferences();
+        return referred_.contains(id);
+    }
+
+    void findReferences() {
+        knowsReferences_ = true;
+        const std::string_view text = tree_.text();
+        for (std::size_t at = text.find('#'); at != std::string_view::npos;
+             at = text.find('#', at + 1)) {
+            std::string_view before = text.substr(0, at);
+            if (before.ends_with("&quot;")) before.remove_suffix(6);
+            if (before.ends_with('"') || before.ends_with('\'')) before.remove_suffix(1);
+            if (!before.ends_with("url(") && !before.ends_with("href=")) continue;
+            const std::string_view id = text.substr(at + 1);
+            referred_.emplace(id.substr(0, id.find_first_of("\"')& \t\r\n")));
         }
-        text_ += " d=\"";
-        for (const Art* member : members)
-            appendPathText(text_, member->segments(), member->content().closed, offset_);
-        text_ += '"';
-        writeStyle(art);
-        writeState(art);
-        if (art.type() == kPathArt)
-            writeEndHandles(art);
-        else
-            writeMembers(members, isGuide(art));
-        if (source != nullptr && !source->inner.empty())
-            text_ += '>' + source->inner + "</path>";
-        else
-            text_ += "/>";
     }
 
-    /// Guides are seen here alone: others would paint them.
-    void writeStyle(const Art& art) {
-        Properties properties = extras(art.style());
-        const bool guide = isGuide(art);
-        if (guide) attribute("easel:guide", "true");
-        if (guide && art.has(kArtHidden)) attribute("easel:hidden", "true");
-        if (guide || art.has(kArtHidden)) properties["display"] = "none";
-        for (const PropertyText& property : styleText(art.style(), explicit_, servers_)) {
-            if (explicit_ == Explicit::Yes)
-                properties[property.name] = property.value;
-            else
-                attribute(property.name, property.value);
+    [[nodiscard]] std::string contentWithoutIds(NodeIndex node) const {
+        return withoutIds(node, tree_.at(node).contentStart, tree_.at(node).contentEnd);
+    }
+
+    /// A part of the element's text without the names of what is inside it.
+    [[nodiscard]] std::string withoutIds(NodeIndex node, std::size_t from, std::size_t to) const {
+        std::string text;
+        for (NodeIndex each = node + 1; each < tree_.size() && tree_.at(each).start < to; ++each) {
+            if (tree_.at(each).kind != XmlTree::Kind::Element) continue;
+            for (const XmlAttribute& attribute : tree_.attributes(each)) {
+                if (attribute.name != "id") continue;
+                const auto at =
+                    static_cast<std::size_t>(attribute.source.data() - tree_.text().data());
+                text += tree_.text().substr(from, at - from);
+                from = at + attribute.source.size();
+            }
         }
-        if (explicit_ == Explicit::Yes) attribute("easel:styled", "true");
-        const AIPathStyle& path = art.style().path;
-        if (isClipMask(art) && path.evenodd != 0) attribute("clip-rule", "evenodd");
-        if (const std::string ink = inkText(path.fill.color); !ink.empty() && path.fillPaint != 0)
-            attribute("easel:fill-ink", ink);
-        if (const std::string ink = inkText(path.stroke.color);
-            !ink.empty() && path.strokePaint != 0)
-            attribute("easel:stroke-ink", ink);
-        if (!properties.empty()) attribute("style", declarationText(properties));
+        return text += tree_.text().substr(from, to - from);
     }
 
-    void writeEndHandles(const Art& path) {
-        const auto segments = path.segments();
-        if (segments.empty() || path.content().closed) return;
-        const auto same = [](AIRealPoint a, AIRealPoint b) { return a.h == b.h && a.v == b.v; };
-        const AIPathSegment& first = segments.front();
-        const AIPathSegment& last = segments.back();
-        if (same(first.in, first.p) && same(last.out, last.p)) return;
-        text_ += " easel:ends=\"";
-        appendPoint(text_, first.in, offset_);
-        text_ += ' ';
-        appendPoint(text_, last.out, offset_);
-        text_ += '"';
-    }
-
-    void writeMembers(const std::vector<const Art*>& members, bool allGuides) {
-        auto list = nlohmann::ordered_json::array();
-        bool any = false;
-        for (const Art* member : members) {
-            auto item = nlohmann::ordered_json::object();
-            if (member->has(kArtLocked)) item["locked"] = true;
-            if (member->has(kArtHidden)) item["hidden"] = true;
-            if (member->content().guide && !allGuides) item["guide"] = true;
-            if (!member->details().name.empty()) item["name"] = member->details().name;
-            if (!member->details().note.empty()) item["note"] = member->details().note;
-            const std::string json = member->dictionaryIfAny() != nullptr
-                                         ? dictionaryJson(*member->dictionaryIfAny())
-                                         : std::string{};
-            if (!json.empty()) item["dictionary"] = json;
-            any = any || !item.empty();
-            list.push_back(std::move(item));
+    /// Gathers what others refer to in an element that is no longer written.
+    void gatherLost(NodeIndex node) {
+        const Element element{tree_, node};
+        if (element.isTrue("easel:clip")) return;
+        if (isReferred(element.get("id"))) {
+            definitions_.insert(node);
+            return;
         }
-        if (!any) return;
-        text_ += " easel:members='";
-        text_ += singleQuoted(list.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
-        text_ += '\'';
+        for (const NodeIndex child : childElements(tree_, node))
+            if (source_.isArt[child])
+                gatherLost(child);
+            else if (isDefinition(tree_.at(child).name))
+                definitions_.insert(child);
+    }
+
+    void gatherLostIn(NodeIndex container) {
+        for (const NodeIndex child : childElements(tree_, container)) {
+            if (!source_.isArt[child]) continue;
+            if (!written_[child])
+                gatherLost(child);
+            else if (isGroupElement(tree_.at(child).name))
+                gatherLostIn(child);
+        }
+    }
+
+    /// The <defs> with what this and former savings have made: without what nothing refers to any
+    /// more, and with what is new.
+    std::string generatedText() {
+        gatherLostIn(tree_.root());
+        NodeIndex node = kNoNode;
+        for (const NodeIndex child : childElements(tree_, tree_.root()))
+            if (isGenerated(tree_, child)) node = child;
+        std::string added = servers_.elements();
+        for (const NodeIndex lost : definitions_) {
+            const XmlTree::Node& at = tree_.at(lost);
+            added += "\n    ";
+            added += source_.isArt[lost] ? withoutIds(lost, at.start, at.end)
+                                         : std::string{tree_.source(lost)};
+        }
+        if (!added.empty()) prefixes_.insert({"xlink", "easel"});
+        const std::string name = std::string{tree_.prefix()} + "defs";
+        if (node == kNoNode && added.empty()) return {};
+        if (node == kNoNode || isSelfClosing(node)) {
+            if (added.empty()) return std::string{tree_.source(node)};
+            return "\n  <" + name + " easel:generated=\"true\">" + added + "\n  </" + name + '>';
+        }
+        const std::set<std::string, std::less<>> used = usedServers();
+        std::string text{tree_.startTag(node)};
+        std::size_t at = tree_.at(node).contentStart;
+        for (NodeIndex child = tree_.at(node).firstChild; child != kNoNode;
+             child = tree_.at(child).nextSibling) {
+            const std::size_t end = tree_.at(child).end;
+            if (isInUse(child, used)) text += tree_.text().substr(at, end - at);
+            at = end;
+        }
+        text += added;
+        return text += tree_.text().substr(at, tree_.at(node).end - at);
+    }
+
+    /// The ids of paint that the result refers to.
+    [[nodiscard]] std::set<std::string, std::less<>> usedServers() const {
+        constexpr std::string_view kMark = "url(#";
+        std::set<std::string, std::less<>> used;
+        const std::string_view text = out_;
+        for (std::size_t at = text.find(kMark); at != std::string_view::npos;
+             at = text.find(kMark, at + 1)) {
+            const std::string_view id = text.substr(at + kMark.size());
+            used.emplace(id.substr(0, id.find(')')));
+        }
+        return used;
+    }
+
+    [[nodiscard]] bool isInUse(NodeIndex generated,
+                               const std::set<std::string, std::less<>>& used) const {
+        if (tree_.at(generated).kind != XmlTree::Kind::Element) return true;
+        const Element element{tree_, generated};
+        return !isDerived(tree_, element) || used.contains(element.get("id"));
     }
 
     const Document& document_;
-    std::ostream& out_;
-    const DrawingSource* source_;
+    std::shared_ptr<const ForeignContent> kept_;
+    std::shared_ptr<const DrawingSource> blank_;
+    const DrawingSource& source_;
+    const XmlTree& tree_;
     Point offset_;
     DerivedServers servers_;
-    Explicit explicit_;
-    std::string text_;
-    std::vector<Open> open_;
-    std::unordered_set<AIArtHandle> written_; ///< Containers whose interludes were written.
+    std::vector<bool> written_; ///< By node: the element is in the result.
+    std::string out_;           ///< What stands between the root's tags.
+    std::vector<Frame> frames_;
+    std::set<std::string, std::less<>> prefixes_; ///< Those that the result needs.
+    std::vector<std::string> warnings_;
+    std::set<const Art*> tagged_; ///< Layers that were read without a tag and need one now.
+    bool namesLayers_ = false;
     int clipNumber_ = 0;
-    std::unordered_map<const Art*, int> clipNumbers_; ///< The next mask's number, by group.
+    std::map<const Art*, std::string> clipIds_; ///< Of masks that are written anew.
+    std::set<std::string> ids_;
+    std::set<NodeIndex> living_;
+    bool knowsReferences_ = false;
+    std::set<std::string> referred_;
+    std::set<NodeIndex>
+        definitions_; ///< Elements that others refer to and that stand nowhere else.
+    std::size_t generatedAt_ = std::string::npos;
 };
 
 } // namespace
 
-void writeSvg(const Document& document, std::ostream& out) { SvgWriter{document, out}.write(); }
-
-std::string svgText(const Document& document) {
-    std::ostringstream out;
-    writeSvg(document, out);
-    return std::move(out).str();
+std::string svgText(const Document& document, std::vector<std::string>* warnings) {
+    SvgWriter writer{document};
+    std::string text = writer.write();
+    if (warnings != nullptr) *warnings = writer.warnings();
+    return text;
 }
 
-void writeSvg(const Document& document, const std::filesystem::path& file) {
-    std::filesystem::path part = file;
-    part += ".part";
-    const auto fail = [&](const std::string& what) {
-        std::error_code ignored;
-        std::filesystem::remove(part, ignored);
-        throw FileError(file.string() + ": " + what);
-    };
-    std::ofstream out{part, std::ios::binary | std::ios::trunc};
-    if (!out) fail("the file cannot be made; check that the folder exists and may be written to");
-    writeSvg(document, out);
-    out.close();
-    if (!out) fail("the file cannot be written whole; check that there is room on the disk");
-    std::error_code error;
-    std::filesystem::rename(part, file, error);
-    if (error) fail("the file cannot be replaced; check that it may be written to");
+std::vector<std::string> writeSvg(const Document& document, const std::filesystem::path& file) {
+    std::vector<std::string> warnings;
+    writeFile(file, svgText(document, &warnings));
+    return warnings;
 }
 
 } // namespace easel::svg

@@ -96,6 +96,13 @@ std::optional<Matrix> inverse(const Matrix& m) {
     return result;
 }
 
+bool isConformal(const Matrix& m) {
+    const double size = m.a * m.a + m.b * m.b + m.c * m.c + m.d * m.d;
+    const double skew = std::abs(m.a * m.c + m.b * m.d);
+    const double stretch = std::abs(m.a * m.a + m.b * m.b - m.c * m.c - m.d * m.d);
+    return skew <= 1e-6 * size && stretch <= 1e-6 * size;
+}
+
 double meanScale(const Matrix& m) { return std::sqrt(std::abs(m.a * m.d - m.b * m.c)); }
 
 std::optional<Matrix> parseTransform(std::string_view text) {

@@ -36,6 +36,9 @@ struct Matrix {
 /// Nothing when the matrix flattens the plane, or nearly so.
 [[nodiscard]] std::optional<Matrix> inverse(const Matrix& matrix);
 
+/// Does it keep circles, nearly?
+[[nodiscard]] bool isConformal(const Matrix& matrix);
+
 /// The factor by which a length grows on the average over all directions; what a stroke that is
 /// flattened together with its path is multiplied by.
 [[nodiscard]] double meanScale(const Matrix& matrix);

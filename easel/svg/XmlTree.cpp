@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <map>
+#include <set>
 #include <utility>
 
 namespace easel::svg {
@@ -11,8 +13,8 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
 
-/// An entity's text longer than this is left out: repeated, it would eat memory.
-constexpr std::size_t kLongestEntity = 4096;
+/// What entities may make of a text in all; a few lines of them can stand for any amount.
+constexpr std::size_t kMostEntityBytes = 16'000'000;
 
 /// A reference's end is looked for no further, so that a text of ampersands takes linear time.
 constexpr std::size_t kLongestReference = 64;
@@ -69,6 +71,42 @@ bool appendCharacter(std::string& text, std::string_view reference) {
     return true;
 }
 
+/// How long the character of UTF-8 is that `text` begins with; 0: it begins with none.
+std::size_t characterLength(std::string_view text) {
+    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+    const unsigned first = byte(0);
+    const std::size_t length = first < 0x80   ? 1
+                               : first < 0xC2 ? 0
+                               : first < 0xE0 ? 2
+                               : first < 0xF0 ? 3
+                               : first < 0xF5 ? 4
+                                              : 0;
+    if (length > text.size()) return 0;
+    for (std::size_t i = 1; i < length; ++i)
+        if ((byte(i) & 0xC0) != 0x80) return 0;
+    // Written longer than need be, half of a pair of UTF-16, beyond the last character.
+    const unsigned second = length > 2 ? byte(1) : 0;
+    const bool odd = (first == 0xE0 && second < 0xA0) || (first == 0xED && second >= 0xA0) ||
+                     (first == 0xF0 && second < 0x90) || (first == 0xF4 && second >= 0x90);
+    return odd ? 0 : length;
+}
+
+void checkUtf8(std::string_view text) {
+    std::size_t line = 1;
+    std::size_t lineStart = 0;
+    for (std::size_t at = 0; at < text.size();) {
+        if (text[at] == '\n') {
+            ++line;
+            lineStart = at + 1;
+        }
+        const std::size_t length = characterLength(text.substr(at));
+        if (length == 0)
+            throw SvgError(line, "byte " + std::to_string(at - lineStart + 1) +
+                                     " of the line is no UTF-8; save the drawing in UTF-8");
+        at += length;
+    }
+}
+
 } // namespace
 
 /// Builds the tree in one walk over the text.
@@ -77,6 +115,7 @@ public:
     explicit XmlScanner(XmlTree& tree) : tree_(tree), text_(tree.text_) {}
 
     void scan() {
+        checkUtf8(text_);
         if (text_.starts_with("\xEF\xBB\xBF")) position_ = 3;
         while (position_ < text_.size()) {
             if (text_[position_] != '<')
@@ -96,7 +135,7 @@ public:
         }
         if (!open_.empty()) {
             const XmlTree::Node& node = tree_.nodes_[open_.back().node];
-            throw SvgError(node.line, "<" + std::string{node.name} +
+            throw SvgError(node.line, "<" + std::string{open_.back().name} +
                                           "> is never closed; the file may have been cut off");
         }
         if (tree_.root_ == kNoNode)
@@ -108,6 +147,8 @@ private:
     struct Open {
         NodeIndex node;
         NodeIndex lastChild;
+        std::string_view name;         ///< As it stands.
+        std::string_view outerDefault; ///< The default namespace around the element.
     };
 
     [[nodiscard]] bool startsWith(std::string_view wanted) const {
@@ -154,6 +195,7 @@ private:
             if (open_.empty())
                 fail("there is text outside the drawing; only comments may stand there");
             add(XmlTree::Kind::Text, end);
+            countEntities(text);
         }
         position_ = end;
     }
@@ -207,9 +249,47 @@ private:
             if (quote != '"' && quote != '\'') continue; // parameter or external: never read
             const std::size_t end = declarations.find(quote, 1);
             if (end == std::string_view::npos) return;
-            if (end <= kLongestEntity)
-                tree_.entities_.try_emplace(name, declarations.substr(1, end - 1));
+            tree_.entities_.try_emplace(name, declarations.substr(1, end - 1));
             declarations.remove_prefix(end);
+        }
+    }
+
+    /// Adds up what the entities in `raw` stand for.
+    void countEntities(std::string_view raw) {
+        if (tree_.entities_.empty() || raw.find('&') == std::string_view::npos) return;
+        for (std::size_t at = raw.find('&'); at != std::string_view::npos;
+             at = raw.find('&', at + 1)) {
+            const std::string_view rest = raw.substr(at + 1, kLongestReference);
+            const auto entity = tree_.entities_.find(rest.substr(0, rest.find(';')));
+            if (entity != tree_.entities_.end()) entityBytes_ += entity->second.size();
+        }
+        if (entityBytes_ > kMostEntityBytes)
+            fail("entities make more than 16 MB of text; write what they stand for once");
+    }
+
+    /// The element's name with its namespace taken into account.
+    [[nodiscard]] std::string_view nameIn(std::string_view name) const {
+        const std::size_t colon = name.find(':');
+        if (colon == std::string_view::npos)
+            return default_.empty() || default_ == kSvgNamespace ? name : "?";
+        return svgPrefixes_.contains(name.substr(0, colon)) ? name.substr(colon + 1) : name;
+    }
+
+    /// An attribute that declares a namespace, or stands in one under a prefix of its own.
+    void readName(std::string_view name, std::string_view value) {
+        if (name == "xmlns") default_ = value;
+        const std::size_t colon = name.find(':');
+        if (colon == std::string_view::npos) return;
+        const std::string_view prefix = name.substr(0, colon);
+        const std::string_view local = name.substr(colon + 1);
+        if (prefix == "xmlns") {
+            if (value == kSvgNamespace) svgPrefixes_.insert(local);
+            const auto* const known = std::ranges::find(kNamespaces, value, &Namespace::name);
+            if (known != std::end(kNamespaces) && known->prefix != local)
+                usualPrefixes_[local] = known->prefix;
+        } else if (const auto usual = usualPrefixes_.find(prefix); usual != usualPrefixes_.end()) {
+            tree_.usualNames_.try_emplace(name,
+                                          std::string{usual->second} + ':' + std::string{local});
         }
     }
 
@@ -219,12 +299,13 @@ private:
         const std::string_view name = trimmed(text_.substr(position_ + 2, end - position_ - 2));
         if (open_.empty()) fail("</" + std::string{name} + "> closes nothing; remove it");
         XmlTree::Node& node = tree_.nodes_[open_.back().node];
-        if (name != node.name)
-            fail("</" + std::string{name} + "> stands where </" + std::string{node.name} +
-                 "> is due, for the <" + std::string{node.name} + "> of line " +
-                 std::to_string(node.line));
+        const std::string due{open_.back().name};
+        if (name != due)
+            fail("</" + std::string{name} + "> stands where </" + due + "> is due, for the <" +
+                 due + "> of line " + std::to_string(node.line));
         node.contentEnd = position_;
         node.end = position_ = end + 1;
+        default_ = open_.back().outerDefault;
         open_.pop_back();
     }
 
@@ -247,13 +328,16 @@ private:
         const NodeIndex index = add(XmlTree::Kind::Element, text_.size());
         tree_.nodes_[index].name = name;
         if (open_.empty()) tree_.root_ = index;
+        const std::string_view outer = default_;
         const bool empty = scanAttributes(index, at);
         XmlTree::Node& node = tree_.nodes_[index];
+        node.name = nameIn(name);
         node.contentStart = position_;
         if (empty) {
             node.contentEnd = node.end = position_;
+            default_ = outer;
         } else {
-            open_.push_back({index, kNoNode});
+            open_.push_back({index, kNoNode, name, outer});
         }
     }
 
@@ -299,6 +383,8 @@ private:
             const std::string_view value = text_.substr(at + 1, end - at - 1);
             if (value.find('<') != std::string_view::npos)
                 fail("the value of " + std::string{name} + " holds a <; write &lt;");
+            countEntities(value);
+            readName(name, value);
             if (name == "id") tree_.ids_.try_emplace(tree_.decode(value), index);
             at = end + 1;
         }
@@ -313,6 +399,10 @@ private:
     std::size_t counted_ = 0;
     std::uint32_t line_ = 1;
     std::vector<Open> open_;
+    std::size_t entityBytes_ = 0;
+    std::string_view default_; ///< The namespace of names without a prefix; empty: none was given.
+    std::set<std::string_view> svgPrefixes_;
+    std::map<std::string_view, std::string_view> usualPrefixes_;
 };
 
 XmlTree::XmlTree(std::string text) : text_(std::move(text)) { XmlScanner{*this}.scan(); }
@@ -338,14 +428,16 @@ std::vector<XmlAttribute> XmlTree::attributes(NodeIndex index) const {
     const Node& node = at(index);
     std::string_view rest =
         std::string_view{text_}.substr(node.start, node.contentStart - node.start);
-    rest.remove_prefix(1 + node.name.size());
+    rest.remove_prefix(1 + tagName(index).size());
     std::vector<XmlAttribute> result;
     for (;;) { // The tag was checked when the tree was built.
         rest = trimmed(rest);
         if (rest.empty() || rest.front() == '>' || rest.front() == '/') return result;
         const std::size_t open = rest.find_first_of("\"'");
         const std::size_t close = rest.find(rest[open], open + 1);
-        const std::string_view name = trimmed(rest.substr(0, rest.find('=')));
+        std::string_view name = trimmed(rest.substr(0, rest.find('=')));
+        if (const auto usual = usualNames_.find(name); usual != usualNames_.end())
+            name = usual->second;
         result.push_back(
             {name, rest.substr(open + 1, close - open - 1), rest.substr(0, close + 1)});
         rest.remove_prefix(close + 1);
@@ -357,12 +449,14 @@ NodeIndex XmlTree::find(std::string_view id) const {
     return found == ids_.end() ? kNoNode : found->second;
 }
 
-std::vector<std::string> XmlTree::idsBeginningWith(std::string_view prefix) const {
-    std::vector<std::string> found;
-    for (const auto& [id, node] : ids_)
-        if (id.starts_with(prefix)) found.push_back(id);
-    std::ranges::sort(found);
-    return found;
+std::string_view XmlTree::tagName(NodeIndex node) const {
+    const std::string_view tag = source(node).substr(1);
+    return tag.substr(0, tag.find_first_of(" \t\r\n/>"));
+}
+
+std::string_view XmlTree::prefix() const {
+    const std::string_view name = tagName(root_);
+    return name.substr(0, name.find(':') + 1); // what is not found ends the name before it begins
 }
 
 std::string XmlTree::decode(std::string_view raw) const {
@@ -407,37 +501,35 @@ std::string XmlTree::textOf(NodeIndex node) const {
     return text;
 }
 
-std::string escaped(std::string_view text) {
-    std::string result;
-    result.reserve(text.size());
-    for (const char c : text) {
+std::string attributeText(std::string_view name, std::string_view value) {
+    const char quote = value.find('"') != std::string_view::npos ? '\'' : '"';
+    std::string text = " " + std::string{name} + '=' + quote;
+    text.reserve(text.size() + value.size() + 1);
+    for (const char c : value) {
         switch (c) {
         case '&':
-            result += "&amp;";
+            text += "&amp;";
             break;
         case '<':
-            result += "&lt;";
+            text += "&lt;";
             break;
-        case '>':
-            result += "&gt;";
-            break;
-        case '"':
-            result += "&quot;";
+        case '\'':
+            text += quote == c ? "&apos;" : "'";
             break;
         case '\n':
-            result += "&#10;";
+            text += "&#10;";
             break;
         case '\r':
-            result += "&#13;";
+            text += "&#13;";
             break;
         case '\t':
-            result += "&#9;";
+            text += "&#9;";
             break;
         default:
-            result += c;
+            text += c;
         }
     }
-    return result;
+    return text += quote;
 }
 
 } // namespace easel::svg

@@ -30,7 +30,7 @@ using NodeIndex = std::uint32_t;
 constexpr NodeIndex kNoNode = UINT32_MAX;
 
 struct XmlAttribute {
-    std::string_view name;
+    std::string_view name;   ///< With the prefix that is usual for its namespace.
     std::string_view raw;    ///< As it stands between the quotes.
     std::string_view source; ///< The whole of it: name, equals sign and quotes.
 };
@@ -45,7 +45,9 @@ public:
     }; ///< Other: comments and the like.
 
     struct Node {
-        std::string_view name; ///< Of an element.
+        /// Of an element: without the prefix that stands for SVG; "?" in a default namespace that
+        /// is another one.
+        std::string_view name;
         std::size_t start = 0; ///< Where the node begins in the source ...
         std::size_t contentStart = 0;
         std::size_t contentEnd = 0;
@@ -57,7 +59,8 @@ public:
         Kind kind = Kind::Element;
     };
 
-    /// Reads all of `text`. Throws SvgError where it is not well-formed or beyond the limits.
+    /// Reads all of `text`. Throws SvgError where it is no UTF-8, not well-formed or beyond the
+    /// limits.
     explicit XmlTree(std::string text);
     XmlTree(const XmlTree&) = delete;
     XmlTree& operator=(const XmlTree&) = delete;
@@ -74,6 +77,9 @@ public:
 
     /// The node's text, from "<" to ">".
     [[nodiscard]] std::string_view source(NodeIndex node) const;
+    [[nodiscard]] std::string_view startTag(NodeIndex node) const {
+        return source(node).substr(0, at(node).contentStart - at(node).start);
+    }
     /// What stands between the start and the end tag.
     [[nodiscard]] std::string_view content(NodeIndex node) const;
     [[nodiscard]] std::vector<XmlAttribute> attributes(NodeIndex node) const;
@@ -81,8 +87,12 @@ public:
     /// The element with this id, the first of several; kNoNode when there is none.
     [[nodiscard]] NodeIndex find(std::string_view id) const;
 
-    /// Sorted.
-    [[nodiscard]] std::vector<std::string> idsBeginningWith(std::string_view prefix) const;
+    /// All of the text that was read.
+    [[nodiscard]] std::string_view text() const { return text_; }
+    /// The element's name as it stands.
+    [[nodiscard]] std::string_view tagName(NodeIndex node) const;
+    /// "svg:" where the root element's own name has a prefix, to be put before new names; or empty.
+    [[nodiscard]] std::string_view prefix() const;
 
     /// All text inside the node, decoded, its elements left out.
     [[nodiscard]] std::string textOf(NodeIndex node) const;
@@ -98,9 +108,24 @@ private:
     std::size_t elementCount_ = 0;
     std::unordered_map<std::string, NodeIndex> ids_;
     std::unordered_map<std::string_view, std::string_view> entities_;
+    /// Names of attributes under the usual prefix, by the name under which they stand.
+    std::unordered_map<std::string_view, std::string> usualNames_;
 };
 
-/// `text` with the characters that an attribute value or text must not hold replaced.
-[[nodiscard]] std::string escaped(std::string_view text);
+/// A namespace that drawings use, under its usual prefix.
+struct Namespace {
+    std::string_view prefix;
+    std::string_view name;
+};
+inline constexpr std::string_view kSvgNamespace = "http://www.w3.org/2000/svg";
+inline constexpr Namespace kNamespaces[] = {
+    {"xlink", "http://www.w3.org/1999/xlink"},
+    {"inkscape", "http://www.inkscape.org/namespaces/inkscape"},
+    {"sodipodi", "http://sodipodi.sourceforge.net/DTD/sodipodi-0.dtd"},
+    {"easel", "urn:facetta:easel"},
+};
+
+/// " name=\"value\"", or in single quotes where the value holds double ones.
+[[nodiscard]] std::string attributeText(std::string_view name, std::string_view value);
 
 } // namespace easel::svg

@@ -189,6 +189,8 @@ TEST_CASE("soft coordinates start at the drawing's origin, y upwards") {
 TEST_CASE("clip paths make clip groups") {
     const std::string defs = "<clipPath id='c'><circle cx='5' cy='5' r='5'/></clipPath>"
                              "<clipPath id='two'><rect width='1' height='1'/>"
+                             "<rect x='3' width='1' height='1'/></clipPath>"
+                             "<clipPath id='mixed'><rect width='1' height='1'/>"
                              "<rect x='3' width='1' height='1' clip-rule='evenodd'/></clipPath>"
                              "<clipPath id='box' clipPathUnits='objectBoundingBox'>"
                              "<rect width='.5' height='.5'/></clipPath>"
@@ -205,6 +207,7 @@ TEST_CASE("clip paths make clip groups") {
         {"<path clip-path='url(#c)' transform='scale(2)' d='M0 0H9'/>", 1, kPathArt,
          "0 0 2000 2000 "},
         {"<g clip-path='url(#two)'><path d='M0 0H9'/></g>", 1, kCompoundPathArt, "0 0 400 100 "},
+        {"<g clip-path='url(#mixed)'><path d='M0 0H9'/></g>", 0, kPathArt, "0 0 900 0 "},
         {"<g clip-path='url(#box)'><path d='M0 0H8V8'/></g>", 1, kPathArt, "0 0 400 400 "},
         {"<g clip-path='url(#both)'><path d='M0 0H9'/></g>", 2, kPathArt, "0 0 1000 1000 "},
         {"<g clip-path='url(#text)'><path d='M0 0H9'/></g>", 0, kPathArt, "0 0 900 0 "},
@@ -293,6 +296,10 @@ TEST_CASE("a broken file is one line that says where, what, and what would be ri
          "a.svg:1: the entries of <g> are broken: an integer entry is no whole number"},
         {"<svg><path d='M0 0H1M2 2H3' easel:members='[{\"locked\":3}]'/></svg>",
          "a.svg:1: easel:members is no list of what the subpaths carry"},
+        {"<svg>\n<g id='\xC3'/></svg>",
+         "a.svg:2: byte 8 of the line is no UTF-8; save the drawing in UTF-8"},
+        {"<svg id='\xED\xA0\x80'/>",
+         "a.svg:1: byte 10 of the line is no UTF-8; save the drawing in UTF-8"},
         {std::string{"<svg\0/>", 7}, "a.svg:1: this is no text; an SVG file is XML in UTF-8"},
     };
     for (const auto& row : rows) {
@@ -315,6 +322,47 @@ TEST_CASE("what is too much is refused, and what is just allowed is read") {
         text += "</g>";
     }
     CHECK(messageFor(text + "</svg>") == "no error");
+}
+
+TEST_CASE("entities that multiply the text are refused") {
+    const auto drawing = [](int references) {
+        std::string text =
+            "<!DOCTYPE svg [<!ENTITY e '" + std::string(4000, 'x') + "'>]><svg><text>";
+        for (int i = 0; i < references; ++i)
+            text += "&e;";
+        return text + "</text></svg>";
+    };
+    CHECK(messageFor(drawing(4000)) == "no error");
+    CHECK(messageFor(drawing(4001)) ==
+          "a.svg:1: entities make more than 16 MB of text; write what they stand for once");
+}
+
+TEST_CASE("what of a style is not understood is told once, where it stands") {
+    struct Row {
+        const char* content;
+        const char* warning; ///< Empty: there is none.
+    };
+    const Row rows[] = {
+        {"<style>path:nth-child(2) {fill:red}</style>",
+         "x:1: 'path:nth-child(2)' in the style sheet is not understood; what it styles stays as "
+         "it "
+         "is, but is not shown so here"},
+        {"<style>a:hover {fill:red} @font-face {src:url(x)}</style>", ""},
+        {"\n<g fill='color-mix(in srgb, red, blue)'><path d='M0 0'/><path d='M0 0'/></g>",
+         "x:2: fill of <g> is 'color-mix(in srgb, red, blue)', which is not understood; copies do "
+         "not have it"},
+        {"<path d='M0 0' stroke-width='1rem'/>",
+         "x:1: stroke-width of <path> is '1rem', which is not understood; copies do not have it"},
+        {"<path d='M0 0' style='transform:none'/>",
+         "x:1: transform of <path> is 'none', which is not understood; copies do not have it"},
+        {"<g fill='red'><path d='M0 0' fill='inherit' style='stroke:initial'/></g>", ""},
+    };
+    for (const auto& row : rows) {
+        INFO(std::string{row.content});
+        const auto opened = open(row.content);
+        CHECK((opened.warnings.empty() ? "" : opened.warnings[0]) == row.warning);
+        CHECK(opened.warnings.size() <= 1);
+    }
 }
 
 TEST_CASE("a path with too many segments is kept as opaque art, with a warning") {

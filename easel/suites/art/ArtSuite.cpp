@@ -274,6 +274,7 @@ void transferStyle(const Art& source, Art& destination) {
 void transferName(const Art& source, Art& destination) {
     if (source.details().name != destination.details().name)
         destination.write(Edit::Quiet).details.write().name = source.details().name;
+    if (!source.content().id->empty()) destination.write(Edit::Quiet).id = source.content().id;
 }
 
 AIErr transferAttributes(AIArtHandle from, AIArtHandle to, ai::uint32 which) {

@@ -187,7 +187,7 @@ TEST_CASE("the command tells what is wrong in one line and leaves no output") {
     good.input = input.path;
     good.output = output.path;
     good.plugin = FACETTA_LIBRARY;
-    std::vector<Row> rows(6, {"", good, ""});
+    std::vector<Row> rows(7, {"", good, ""});
     rows[0].what = "no drawing";
     rows[0].command.input = "no-such.svg";
     rows[0].says = "no-such.svg";
@@ -206,6 +206,9 @@ TEST_CASE("the command tells what is wrong in one line and leaves no output") {
     rows[5].what = "an origin off the canvas";
     rows[5].command.request.origin = easel::DrawingPoint{1e6, 0};
     rows[5].says = "outside the canvas";
+    rows[6].what = "a picture that cannot be made";
+    rows[6].command.picture = input.path / "none" / "out.png";
+    rows[6].says = "the file cannot be made";
     for (const auto& row : rows) {
         INFO(row.what);
         const Outcome outcome = run(row.command);
