@@ -316,6 +316,10 @@ Action readRestart(Arguments&) {
     return [](Player& player) { player.restart(); };
 }
 
+Action readReload(Arguments&) {
+    return [](Player& player) { player.reload(); };
+}
+
 Action readAnswer(Arguments& arguments) {
     constexpr const char* kAnswers[] = {"no", "yes", "cancel"}; // as the host numbers them
     const auto answer = static_cast<AIAnswer>(arguments.choice("answer", kAnswers));
@@ -387,6 +391,9 @@ constexpr CommandRow kCommands[] = {
      readPreference},
     {"restart", "", "Quits host and plug-in and starts them again; settings stay, drawings do not",
      readRestart},
+    {"reload", "",
+     "Unloads the plug-in's library, held or not, and loads it again at another address",
+     readReload},
     {"answer", "yes|no|cancel", "Answers the next question that is asked; otherwise it is yes",
      readAnswer},
     {"wait", "MILLISECONDS", "Lets time pass", readWait},
