@@ -1,6 +1,7 @@
 #include "shell/Alert.h"
 
 #include "host/Error.h"
+#include "host/Lent.h"
 #include "host/SuiteHolder.h"
 #include "host/UnicodeString.h"
 #include "host/UserSuiteLayout.h"
@@ -16,8 +17,9 @@ namespace {
 
 void* hostWindow() {
     AIWindowRef window = nullptr;
-    if (ai::suites.appContext != nullptr) ai::suites.appContext->GetPlatformAppWindow(&window);
-    return window;
+    const bool given = ai::suites.appContext != nullptr &&
+                       ai::isGiven(ai::suites.appContext->GetPlatformAppWindow(&window), window);
+    return given ? window : nullptr;
 }
 
 /// Our own texts are ASCII; a code's four characters may be any bytes.

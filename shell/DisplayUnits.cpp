@@ -36,9 +36,9 @@ DisplayUnit lookUp(std::span<const Row> rows, ai::int32 hostCode) {
 
 DisplayUnit displayUnit() {
     ai::int32 documents = 0;
-    ai::suites.documentList->Count(&documents);
     ai::int16 rulerUnits = 0;
-    if (documents > 0 && ai::suites.document->GetDocumentRulerUnits(&rulerUnits) == kNoErr)
+    if (ai::suites.documentList->Count(&documents) == kNoErr && documents > 0 &&
+        ai::suites.document->GetDocumentRulerUnits(&rulerUnits) == kNoErr)
         return lookUp(kRulerUnits, rulerUnits);
     constexpr ai::int32 kPoints = 2;
     ai::int32 rulerType = kPoints;

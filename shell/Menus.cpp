@@ -1,6 +1,7 @@
 #include "shell/Menus.h"
 
 #include "host/Codes.h"
+#include "host/Lent.h"
 #include "host/Messages.h"
 #include "host/Suites.h"
 #include "host/UnicodeString.h"
@@ -46,13 +47,13 @@ constexpr HelpItem kHelpItems[kHelpItemCount] = {
 bool addItem(SPPluginRef self, const char* key, const char* label, const char* group,
              AIMenuItemHandle& item, AIMenuItemOption options = kMenuItemNoOptions) {
     AIPlatformAddMenuItemDataUS data{group, ai::UnicodeString(std::string_view(label))};
-    return ai::suites.menu->AddMenuItem(self, key, &data, options, &item) == kNoErr;
+    return ai::isGiven(ai::suites.menu->AddMenuItem(self, key, &data, options, &item), item);
 }
 
 /// The host does not tolerate a group made twice, so it is looked for first.
 bool groupExists(std::string_view name) {
     ai::int32 count = 0;
-    ai::suites.menu->CountMenuGroups(&count);
+    if (ai::suites.menu->CountMenuGroups(&count) != kNoErr) return false;
     for (ai::int32 i = 0; i < count; ++i) {
         AIMenuGroup group = nullptr;
         const char* groupName = nullptr;
@@ -76,7 +77,7 @@ bool ensureSubmenu(SPPluginRef self, const char* name, const char* key, const ch
 
 AIMenuItemHandle findItem(std::string_view name) {
     ai::int32 count = 0;
-    ai::suites.menu->CountMenuItems(&count);
+    if (ai::suites.menu->CountMenuItems(&count) != kNoErr) return nullptr;
     for (ai::int32 i = 0; i < count; ++i) {
         AIMenuItemHandle item = nullptr;
         const char* key = nullptr;

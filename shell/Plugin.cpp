@@ -29,7 +29,10 @@ void Plugin::ReportError(AIErr error, std::string_view, std::string_view, void*)
 AIErr Plugin::LockPlugin(bool lock) {
     if (lock && lockCount_ == 0) {
         if (ai::suites.access == nullptr) return kSPSuiteNotFoundError;
-        if (const AIErr err = ai::suites.access->AcquirePlugin(self_, lock_.put())) return err;
+        if (const AIErr err = ai::suites.access->AcquirePlugin(self_, lock_.put())) {
+            static_cast<void>(lock_.release()); // nothing was acquired
+            return err;
+        }
     }
     if (!lock && lockCount_ == 1) lock_.reset();
     lockCount_ = std::max(0, lockCount_ + (lock ? 1 : -1));

@@ -1,6 +1,7 @@
 #include "tool/CurrentAxes.h"
 
 #include "host/Error.h"
+#include "host/Lent.h"
 #include "host/References.h"
 #include "host/UndoText.h"
 #include "symmetry/ArtSpace.h"
@@ -105,7 +106,7 @@ AIRealPoint snapToAnything(ToolSession& session, const AIToolMessage& message) {
 bool selectionIsEmpty() {
     if (!documentIsOpen()) return true;
     ai::ArtSet selection;
-    ai::check(ai::suites.artSet->NewArtSet(selection.put()));
+    ai::checkLent(ai::suites.artSet->NewArtSet(selection.put()), selection);
     ai::check(ai::suites.artSet->SelectedArtSet(selection.get()));
     std::size_t count = 0;
     ai::check(ai::suites.artSet->CountArtSet(selection.get(), &count));

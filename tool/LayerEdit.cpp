@@ -1,6 +1,7 @@
 #include "tool/LayerEdit.h"
 
 #include "host/Error.h"
+#include "host/Lent.h"
 #include "host/References.h"
 #include "host/UndoText.h"
 #include "host/suites/AIArtSuite.h"
@@ -20,7 +21,7 @@ namespace {
 /// A set and not a list: the host keeps it while the user goes on editing.
 ai::ArtSet copiesOn(AILayerHandle layer) {
     ai::ArtSet copies;
-    ai::check(ai::suites.artSet->NewArtSet(copies.put()));
+    ai::checkLent(ai::suites.artSet->NewArtSet(copies.put()), copies);
     if (layer == nullptr) return copies;
     for (const AIArtHandle art : artOnLayer(layer))
         if (MirrorTag::get(art) == MirrorTag::kCopy)

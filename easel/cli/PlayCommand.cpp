@@ -39,6 +39,19 @@ std::string contentOf(const Path& file) {
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
+Switches hostOf(const PlayCommand& command) {
+    Switches host;
+    const std::span<const SwitchName> names = switchNames();
+    for (const std::string& turned : command.turned) {
+        const auto named = std::find_if(names.begin(), names.end(), [&](const SwitchName& each) {
+            return each.name == turned;
+        });
+        if (named == names.end()) throw SessionError("hosts do not differ in \"" + turned + '"');
+        host.*named->value = !(host.*named->value);
+    }
+    return host;
+}
+
 script::Outcome playFile(const PlayCommand& command, const Path& file) {
     const std::string name = file.generic_string();
     script::Script script = script::readScript(contentOf(file), name);
@@ -47,7 +60,8 @@ script::Outcome playFile(const PlayCommand& command, const Path& file) {
                         {.plugin = command.plugin.empty() ? defaultPluginLibrary() : command.plugin,
                          .folder = file.parent_path(),
                          .output = command.output,
-                         .name = file.stem().string()});
+                         .name = file.stem().string(),
+                         .host = hostOf(command)});
 }
 
 } // namespace

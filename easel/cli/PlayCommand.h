@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <ostream>
+#include <string>
 #include <vector>
 
 namespace easel {
@@ -12,6 +13,7 @@ struct PlayCommand {
     std::vector<std::filesystem::path> scripts; ///< A folder stands for all "*.play" in it.
     std::filesystem::path output = ".";         ///< Where results and kept pictures go.
     std::filesystem::path plugin;               ///< Empty: the default.
+    std::vector<std::string> turned;            ///< Switches of the host to turn the other way.
 };
 
 /// `easel play`: a line on `out` for each script that went as it should; on `error` one for all

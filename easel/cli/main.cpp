@@ -109,6 +109,7 @@ struct PlayWords {
     std::vector<std::string> scripts;
     std::string output = ".";
     std::string plugin;
+    std::vector<std::string> turned;
     bool commands = false;
 };
 
@@ -121,6 +122,10 @@ void addPlay(CLI::App& app, PlayWords& words) {
                      "The folder for what scripts save and for pictures of failures")
         ->type_name("DIR");
     play->add_option("--plugin", words.plugin, "The plug-in's library")->type_name("FILE");
+    play->add_option("--host", words.turned,
+                     "What the host does the other way; names as of the script command \"host\"")
+        ->type_name("NAME")
+        ->allow_extra_args(false);
     play->add_flag("--commands", words.commands, "Tell the commands of scripts instead")
         ->excludes(scripts);
     play->callback([&words] {
@@ -138,6 +143,7 @@ ExitStatus play(const PlayWords& words) {
         command.scripts.push_back(easel::pathFromUtf8(each));
     command.output = easel::pathFromUtf8(words.output);
     command.plugin = easel::pathFromUtf8(words.plugin);
+    command.turned = words.turned;
     return easel::runPlay(command, std::cout, std::cerr);
 }
 

@@ -4,12 +4,14 @@
 #include "easel/core/SuiteServer.h"
 #include "host/Error.h"
 
+#include <cstring>
 #include <type_traits>
 
 /// Puts a function of Easel into a slot of a suite: `expose<&AIArtSuite::NewArt, newArt>(table)`.
 ///
 /// What the plug-in then calls is a thunk that counts the call, makes it fail when a fault plan
 /// says so, and turns an exception into the host's error code, so that none crosses the interface.
+/// A call that fails leaves nothing of use in what it would have written.
 /// A function whose result is no error code answers a zero result instead.
 
 namespace easel {
@@ -29,8 +31,26 @@ private:
     bool fails_;
 };
 
+/// Fills a number or handle that a failing call would have written with 0xCD: a host promises
+/// nothing about it, and a caller that reads it is found out.
+template <typename Argument> void spoil(Argument argument) noexcept {
+    if constexpr (std::is_pointer_v<Argument>) {
+        using Output = std::remove_pointer_t<Argument>;
+        constexpr bool isOutput = !std::is_const_v<Output> && !std::is_same_v<Output, char> &&
+                                  (std::is_arithmetic_v<Output> || std::is_pointer_v<Output>);
+        if constexpr (isOutput)
+            if (argument != nullptr) std::memset(argument, 0xCD, sizeof(Output));
+    }
+}
+
 /// What a call that is made to fail does first: nothing.
 struct FailsUntouched {
+    static void fail(auto&&...) {}
+};
+
+/// For calls that are promised to leave alone what the caller has set beforehand.
+struct FailsWithPresets {
+    static constexpr bool kKeepsOutputs = true;
     static void fail(auto&&...) {}
 };
 
@@ -38,6 +58,7 @@ struct FailsUntouched {
 /// code. What a host does is not published. But a plug-in cannot give a reference back twice, and
 /// one left over would count as its leak, so that no other choice lets every call be tried.
 template <auto Function> struct FailsWhenDone {
+    static constexpr bool kKeepsOutputs = true; // they are what was given back
     static void fail(auto&&... arguments) { static_cast<void>(Function(arguments...)); }
 };
 
@@ -50,22 +71,41 @@ struct Exposed<Slot, Function, Failing> {
 
     static Result call(Arguments... arguments) {
         const HostCallScope scope{*record};
+        if constexpr (std::is_same_v<Result, AIErr>) {
+            const AIErr code = codeOf(scope, arguments...);
+            if (!record->returnsError) return code; // a number of another meaning
+            if constexpr (!requires { Failing::kKeepsOutputs; })
+                if (code != kNoErr) (spoil(addressOf(arguments)), ...);
+            return code;
+        } else {
+            try {
+                return Function(arguments...);
+            } catch (...) {
+                if constexpr (!std::is_void_v<Result>) return Result{};
+            }
+        }
+    }
+
+private:
+    static AIErr codeOf(const HostCallScope& scope, Arguments... arguments) {
         try {
-            if constexpr (std::is_same_v<Result, AIErr>) {
-                if (scope.fails()) {
-                    Failing::fail(arguments...);
-                    return hostCalls().faultCode();
-                }
+            if (scope.fails()) {
+                Failing::fail(arguments...);
+                return hostCalls().faultCode();
             }
             return Function(arguments...);
         } catch (...) {
-            if constexpr (std::is_same_v<Result, AIErr>) {
-                const AIErr code = ai::currentErrorCode();
-                return record->returnsError ? code : 0;
-            } else if constexpr (!std::is_void_v<Result>) {
-                return Result{};
-            }
+            const AIErr code = ai::currentErrorCode();
+            return record->returnsError ? code : 0;
         }
+    }
+
+    /// Objects that come by reference are no plain output.
+    template <typename Argument> static auto addressOf(Argument& argument) noexcept {
+        if constexpr (std::is_pointer_v<Argument>)
+            return argument;
+        else
+            return nullptr;
     }
 };
 

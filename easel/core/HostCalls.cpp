@@ -44,7 +44,7 @@ bool HostCalls::planned(const SlotRecord& slot) {
     case FaultPlan::Mode::Never:
         return false;
     case FaultPlan::Mode::Once:
-        return fallibleCalls_ == plan_.call;
+        return fallibleCalls_ == plan_.call || fallibleCalls_ == plan_.second;
     case FaultPlan::Mode::FromThenOn:
         return fallibleCalls_ >= plan_.call;
     }

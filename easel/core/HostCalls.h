@@ -25,6 +25,7 @@ struct FaultPlan {
     std::uint64_t call = 0; ///< The call to fail, counted over functions that return an error code.
     std::string function;   ///< When not empty, only calls of this "Suite.Function" count.
     AIErr code = kBadParameterErr;
+    std::uint64_t second = 0; ///< In mode `Once`, another call to fail; 0: none.
 };
 
 /// Everything that the plug-in asks of the host passes through here: counted, timed, and made to

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <memory>
 #include <utility>
 
 namespace easel {
@@ -12,9 +13,10 @@ namespace easel {
 class ArtTreeAccess {
 public:
     static Art& make(Document& document, ai::int16 type) {
-        Art& art = *new Art(document, type);
-        document.undo().noteMade(art);
-        return art;
+        std::unique_ptr<Art, void (*)(Art*)> art{new Art(document, type),
+                                                 [](Art* made) { delete made; }};
+        document.undo().noteMade(*art);
+        return *art.release();
     }
 
     static void link(Art& art, Position position) {

@@ -136,6 +136,13 @@ void checkEditable(const Art& art) {
     if (art.parent() != nullptr) checkOpen(*art.parent());
 }
 
+void checkContents(const Art& art) {
+    if (switches().lockedMembersGoAlong) return;
+    for (const Art* each = nextInPreorder(art, art); each != nullptr;
+         each = nextInPreorder(*each, art))
+        if (each->has(kArtLocked)) throw ai::Error{kUntouchableArtObjectErr};
+}
+
 void checkOpen(const Art& container) {
     if (session().allowAllChanges) return;
     for (const Art* up = &container; up != nullptr; up = up->parent())

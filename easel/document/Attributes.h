@@ -14,6 +14,9 @@ void setUserAttributes(Art& art, ai::int32 mask, ai::int32 value);
 /// May the plug-in change `art`? Throws 'ELIO' when it or a parent is locked or hidden, 'NESS' when
 /// a layer is. A context that allows all changes overlooks the parents.
 void checkEditable(const Art& art);
+/// May the plug-in change `art` together with all that it contains? Where locked members do not go
+/// along, throws 'ELIO' when there is one.
+void checkContents(const Art& art);
 /// May the plug-in add to `container` or take from it?
 void checkOpen(const Art& container);
 /// Neither it nor anything above it is locked or hidden.

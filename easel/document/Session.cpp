@@ -9,6 +9,11 @@ Session& session() noexcept {
     return theSession;
 }
 
+void startStamps() noexcept {
+    session().lastStamp = 0;
+    session().subtreeStamps = {};
+}
+
 Document& currentDocument() {
     if (session().current == nullptr) throw ai::Error{kNoDocumentErr};
     return *session().current;

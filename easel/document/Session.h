@@ -33,6 +33,11 @@ struct Session {
     std::uint64_t lastEpoch = 0;
     /// Set by the current context: changes under locked or hidden parents are allowed.
     bool allowAllChanges = false;
+    /// Set by the current context: the kind of the undo step cannot be chosen.
+    bool contextIsNested = false;
+    /// Plug-ins may change documents within a context only. Set while a host runs, which makes
+    /// them.
+    bool changesNeedContext = false;
     MessageLoans messageLoans;
     /// The handles of dictionary keys; they live as long as the host.
     std::unordered_map<Key, void*> keyHandles;
@@ -40,6 +45,9 @@ struct Session {
 
 [[nodiscard]] Session& session() noexcept;
 [[nodiscard]] inline Switches& switches() noexcept { return session().switches; }
+
+/// A host has started: time stamps begin anew. There may be no document.
+void startStamps() noexcept;
 
 /// Throws 'DOC?' when there is none.
 [[nodiscard]] Document& currentDocument();

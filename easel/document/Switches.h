@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+
 namespace easel {
 
 /// What the host's interface leaves open, decided here once. Each can be turned the other way, so
@@ -15,6 +17,18 @@ struct Switches {
     bool sublayerGroupHasParent = true;
     /// Undo brings time stamps back with the state they belong to; otherwise it gives new ones.
     bool undoRestoresStamps = true;
+    /// The time stamp of an object is the latest of its own and those of all that it contains;
+    /// otherwise its own.
+    bool stampsCoverDescendants = true;
+    /// A context that a plug-in pushes while it answers a message is nested, so that the kind of
+    /// the undo step cannot be chosen in it; otherwise it counts as the message's own.
+    bool ownContextsNest = true;
+    /// Notifications come as soon as the host is idle; otherwise only when it is idle the next
+    /// time, when the user has done something else.
+    bool notificationsComeSoon = true;
+    /// Transforming and disposing of a container reaches what is locked in it; otherwise that is
+    /// refused as long as anything in it is locked.
+    bool lockedMembersGoAlong = true;
     /// Locked art refuses to be disposed of.
     bool disposeRefusesLocked = true;
     /// Reading a preference that does not exist succeeds and changes nothing; otherwise 'PARM'.
@@ -39,5 +53,12 @@ struct Switches {
     /// dictionary call, which overwrites them.
     bool entryStringsLast = true;
 };
+
+struct SwitchName {
+    const char* name;
+    bool Switches::*value;
+};
+/// All switches, in their order.
+[[nodiscard]] std::span<const SwitchName> switchNames() noexcept;
 
 } // namespace easel

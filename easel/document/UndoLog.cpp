@@ -1,6 +1,8 @@
 #include "easel/document/UndoLog.h"
 
+#include "easel/core/HostCalls.h"
 #include "easel/document/Session.h"
+#include "host/Error.h"
 
 #include <algorithm>
 #include <cassert>
@@ -58,10 +60,10 @@ void UndoLog::close() {
     depth_ = 0;
     Record record = std::exchange(open_, Record{});
     if (record.steps.empty()) return;
-    if (record.kind == kStandardUndoContext)
-        discardFuture();
-    else
+    if (record.kind == kSilentUndoContext)
         record.madeBeforeRedo = !future_.empty();
+    else
+        discardFuture();
     past_.push_back(std::move(record));
     limitHistory();
 }
@@ -84,10 +86,8 @@ void UndoLog::revert() {
     epoch_ = ++session().lastEpoch;
 }
 
-bool UndoLog::setKind(AIUndoContextKind kind) noexcept {
-    if (depth_ != 1) return false;
-    open_.kind = kind;
-    return true;
+void UndoLog::setKind(AIUndoContextKind kind) noexcept {
+    if (depth_ > 0) open_.kind = kind;
 }
 
 void UndoLog::setTexts(std::string undo, std::string redo) {
@@ -181,6 +181,8 @@ void UndoLog::detach() {
 
 bool UndoLog::recording() {
     if (depth_ > 0) return true;
+    if (session().changesNeedContext && hostCalls().current() != nullptr)
+        throw ai::Error{kNoDocumentErr};
     if (!past_.empty() || !future_.empty()) clear();
     return false;
 }

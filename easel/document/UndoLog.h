@@ -30,6 +30,7 @@ public:
 ///   5. `undo` and `redo` exchange states, last to first and first to last.
 ///
 /// Without an open record changes cannot be taken back, and the history before them is forgotten.
+/// A plug-in that changes something then is refused: throws 'DOC?' out of whatever keeps or notes.
 class UndoLog {
 public:
     explicit UndoLog(Document& document) noexcept : document_(&document) {}
@@ -41,8 +42,8 @@ public:
     void close();
     [[nodiscard]] bool isOpen() const noexcept { return depth_ > 0; }
     void revert();
-    /// Only the outermost context has a say. False in a nested one, or when none is open.
-    bool setKind(AIUndoContextKind kind) noexcept;
+    /// Of the record being made; nothing happens when there is none.
+    void setKind(AIUndoContextKind kind) noexcept;
     [[nodiscard]] AIUndoContextKind kind() const noexcept { return open_.kind; }
     /// The full menu texts of the record being made, UTF-8. The last call in a record wins.
     void setTexts(std::string undo, std::string redo);

@@ -10,11 +10,13 @@ namespace easel {
 Contexts::~Contexts() {
     closeRecord();
     session().allowAllChanges = false;
+    session().contextIsNested = false;
 }
 
-AIAppContextHandle Contexts::push(SPPluginRef plugin, AIUndoContextKind kind) {
+AIAppContextHandle Contexts::push(SPPluginRef plugin, AIUndoContextKind kind, Nested nested) {
     const auto handle = reinterpret_cast<AIAppContextHandle>(nextHandleValue());
-    stack_.push_back({handle, plugin, false});
+    const bool isNested = !stack_.empty() && (nested == Nested::Yes || stack_.back().nested);
+    stack_.push_back({handle, plugin, isNested, false});
     applyTop();
     if (stack_.size() == 1) {
         openRecord();
@@ -81,6 +83,7 @@ void Contexts::closeRecord() {
 
 void Contexts::applyTop() const noexcept {
     session().allowAllChanges = !stack_.empty() && stack_.back().allowAllChanges;
+    session().contextIsNested = !stack_.empty() && stack_.back().nested;
 }
 
 } // namespace easel

@@ -4,6 +4,7 @@
 #include "host/Handles.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -18,16 +19,21 @@ class UndoLog;
 ///   1. The host pushes a context before each message, a plug-in before its own work outside one.
 ///   2. The outermost push opens an undo record in the current document.
 ///   3. Contexts nest strictly; the outermost pop closes the record.
+///   4. What is done while a plug-in is executing, for it or by it, is done in a nested context: in
+///      that the kind of the undo step cannot be chosen.
 class Contexts {
 public:
+    enum class Nested : std::uint8_t { No, Yes };
+
     Contexts() = default;
     ~Contexts();
     Contexts(const Contexts&) = delete;
     Contexts& operator=(const Contexts&) = delete;
 
-    /// `kind` matters for the outermost context only.
+    /// `kind` matters for the outermost context only. A context inside a nested one is nested.
     [[nodiscard]] AIAppContextHandle push(SPPluginRef plugin,
-                                          AIUndoContextKind kind = kStandardUndoContext);
+                                          AIUndoContextKind kind = kStandardUndoContext,
+                                          Nested nested = Nested::No);
     /// Throws 'PARM' unless `context` is the innermost one.
     void pop(AIAppContextHandle context);
     [[nodiscard]] std::size_t depth() const noexcept { return stack_.size(); }
@@ -51,6 +57,7 @@ private:
     struct Context {
         AIAppContextHandle handle;
         SPPluginRef plugin;
+        bool nested;
         bool allowAllChanges;
     };
     struct Suspended {

@@ -17,6 +17,12 @@ Host* running = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global*)
 
 constexpr ai::int32 kMessageCheck = fourCharacterCode("SPCk");
 
+/// `when` of access messages.
+constexpr ai::int32 kAtStartUp = 0;
+constexpr ai::int32 kAtRunTime = 1;
+constexpr ai::int32 kAtShutDown = 2;
+constexpr ai::int32 kAtShutDownStillHeld = 3;
+
 std::string commandNotifier(const char* when, const char* command) {
     return std::string("AI Command Notifier: ") + when + ' ' + command;
 }
@@ -42,6 +48,8 @@ Host::Host(SuiteServer& server, HostSettings hostSettings)
     : suites(server), settings(hostSettings) {
     assert(running == nullptr);
     running = this;
+    session().changesNeedContext = true;
+    startStamps();
     ledger().clear();
     suites.forgetAcquisitions();
 }
@@ -49,6 +57,7 @@ Host::Host(SuiteServer& server, HostSettings hostSettings)
 Host::~Host() {
     setCurrentDocument(nullptr);
     documents_.clear();
+    session().changesNeedContext = false;
     running = nullptr;
 }
 
@@ -97,17 +106,10 @@ void Host::unload(SPPluginRef ref, ai::int32 when) {
     plugin.library.reset();
 }
 
-void Host::reload(SPPluginRef ref, bool evenIfHeld) {
-    Plugin& plugin = plugins.at(ref);
-    if (plugin.accessCount != 0 && !evenIfHeld) throw ai::Error{kSPCantReleasePluginError};
-    std::unique_ptr<FormerPlace> place;
-    if (plugin.library != nullptr) place = std::make_unique<FormerPlace>(*plugin.library);
-    unload(ref, kAccessAtRunTime);
-    if (place != nullptr) {
-        place->keep();
-        plugin.formerPlaces.push_back(std::move(place));
-    }
-    load(ref, kAccessAtRunTime);
+void Host::reload(SPPluginRef ref) {
+    if (plugins.at(ref).accessCount != 0) throw ai::Error{kSPCantReleasePluginError};
+    unload(ref, kAtRunTime);
+    load(ref, kAtRunTime);
 }
 
 void Host::sendAccess(SPPluginRef plugin, const char* selector, ai::int32 when) {
@@ -129,7 +131,7 @@ void Host::startUp(SPPluginRef ref) {
 
 void Host::start() {
     for (const SPPluginRef plugin : plugins.handles()) {
-        load(plugin, kAccessAtStartUp);
+        load(plugin, kAtStartUp);
         startUp(plugin);
     }
     notify(kApplicationStartedNotifier);
@@ -147,7 +149,7 @@ void Host::quit() {
         if (plugin.started && !plugin.skipShutdown)
             send(ref, kCallerInterface, kSelectorShutdown, message);
         plugin.started = false;
-        unload(ref, plugin.accessCount == 0 ? kAccessAtUnload : kAccessAtTerminal);
+        unload(ref, plugin.accessCount == 0 ? kAtShutDown : kAtShutDownStillHeld);
         forgetRegistrations(ref);
     }
 }
@@ -186,7 +188,8 @@ SPErr Host::sendData(SPPluginRef ref, const char* caller, const char* selector,
     SentMessage record{plugin.name, caller, selector, std::string(detail), kNoErr};
     fillMessage(ref, message);
     const SPPluginRef outer = std::exchange(currentPlugin_, ref);
-    const AIAppContextHandle context = contexts.push(ref, kind);
+    const AIAppContextHandle context =
+        contexts.push(ref, kind, outer != nullptr ? Contexts::Nested::Yes : Contexts::Nested::No);
     const std::size_t depth = contexts.depth();
     const std::uint64_t mark = ledger().beginMessage();
     record.result = callEntry(plugin, caller, selector, message);
@@ -235,6 +238,9 @@ void Host::idle() {
     inIdle_ = true;
     collectChanges();
     runTimers();
+    for (const std::string& type : std::exchange(late_, {}))
+        notify(type);
+    if (!switches().notificationsComeSoon) late_ = queue_.take();
     int round = 0;
     for (; round < kIdleRounds && !queue_.empty(); ++round)
         for (const std::string& type : queue_.take())

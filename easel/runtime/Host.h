@@ -9,6 +9,7 @@
 #include "easel/runtime/Menus.h"
 #include "easel/runtime/Notifiers.h"
 #include "easel/runtime/Panels.h"
+#include "easel/runtime/Pen.h"
 #include "easel/runtime/Plugin.h"
 #include "easel/runtime/Preferences.h"
 #include "easel/runtime/Timers.h"
@@ -76,9 +77,9 @@ public:
 
     void start();
     void quit();
-    /// Unloads the library and loads it again at another address, as a host short of memory does.
-    /// Throws '!Rel' while its access count is not zero, unless it is to be `evenIfHeld`.
-    void reload(SPPluginRef plugin, bool evenIfHeld = false);
+    /// Unloads the library and loads it again, as a host short of memory does. Throws '!Rel' while
+    /// its access count is not zero.
+    void reload(SPPluginRef plugin);
     /// Loads the library unless it is loaded. Throws `ai::Error` '!Acq'.
     void load(SPPluginRef plugin, ai::int32 when);
 
@@ -150,6 +151,8 @@ public:
     void press(const MousePoint& mouse);
     void drag(const MousePoint& mouse);
     void release(const MousePoint& mouse);
+    /// The user ends the path that the pen is drawing; tools are told to forget what they drew.
+    void endPath();
     /// A double click on the tool's icon.
     void editToolOptions();
     void decreaseDiameter();
@@ -225,11 +228,15 @@ private:
     void runTimers();
     [[nodiscard]] AIMenuMessage menuMessage(AIMenuItemHandle item) const;
 
+    void pressPen(const MousePoint& mouse);
+
     std::vector<std::unique_ptr<Document>> documents_;
     NotificationQueue queue_;
+    std::vector<std::string> late_; ///< To be sent when the host is idle the next time.
+    Pen pen_;
     SPPluginRef currentPlugin_ = nullptr;
     AIAppContextHandle gesture_ = nullptr; ///< The context that spans press to release.
-    AIToolHandle gestureTool_ = nullptr;
+    AIToolHandle gestureTool_ = nullptr;   ///< Null in a gesture of the host's own pen.
     bool inAccessMessage_ = false;
     bool updatingMenus_ = false;
     bool inIdle_ = false;

@@ -44,6 +44,7 @@ void Host::sendTool(const char* selector, AIToolHandle handle, const MousePoint*
 
 void Host::selectTool(AIToolHandle tool, AIToolType builtIn) {
     const AIToolHandle former = tools.current;
+    pen_.forgetPath();
     if (tool != nullptr) static_cast<void>(tools.tools.at(tool));
     if (tool != nullptr && tool == former) {
         sendTool(kSelectorReselect, tool, nullptr);
@@ -69,7 +70,8 @@ void Host::track(const MousePoint& mouse) {
 }
 
 void Host::press(const MousePoint& mouse) {
-    if (tools.current == nullptr || gesture_ != nullptr) return;
+    if (gesture_ != nullptr) return;
+    if (tools.current == nullptr) return pressPen(mouse);
     const Tool& tool = tools.tools.at(tools.current);
     gesture_ = contexts.push(tool.plugin);
     gestureTool_ = tools.current; // keeps the gesture, whatever tool it chooses meanwhile
@@ -77,19 +79,38 @@ void Host::press(const MousePoint& mouse) {
     sendTool(kSelectorMouseDown, gestureTool_, &mouse, kDownEvent);
 }
 
+void Host::pressPen(const MousePoint& mouse) {
+    if (tools.currentBuiltIn != Tools::kPenTool) return;
+    Document& document = currentDocument();
+    gesture_ = contexts.push(nullptr);
+    document.undo().setTexts("Undo Pen", "Redo Pen");
+    pen_.press(document, mouse.at);
+}
+
+void Host::endPath() {
+    pen_.forgetPath();
+    notify("AI Tool Clear State Notifier");
+    idle();
+}
+
 void Host::drag(const MousePoint& mouse) {
-    if (gesture_ != nullptr) sendTool(kSelectorMouseDrag, gestureTool_, &mouse, kDragEvent);
+    if (gesture_ == nullptr) return;
+    if (gestureTool_ == nullptr)
+        pen_.drag(mouse.at);
+    else
+        sendTool(kSelectorMouseDrag, gestureTool_, &mouse, kDragEvent);
 }
 
 void Host::release(const MousePoint& mouse) {
     if (gesture_ == nullptr) return;
-    sendTool(kSelectorMouseUp, gestureTool_, &mouse, kUpEvent);
+    if (gestureTool_ != nullptr) sendTool(kSelectorMouseUp, gestureTool_, &mouse, kUpEvent);
     endGesture();
     idle();
 }
 
 void Host::endGesture() {
     contexts.pop(std::exchange(gesture_, nullptr));
+    gestureTool_ = nullptr;
     endMessageLoans();
     collectChanges();
 }

@@ -39,6 +39,7 @@ struct Tools {
     std::map<ai::int32, double> infoValues; ///< Last numbers given to the information display.
 
     static constexpr AIToolType kSelectTool = 1;
+    static constexpr AIToolType kPenTool = 4;
     /// Plug-in tools have this number and those above.
     static constexpr AIToolType kFirstPluginTool = 1000;
 

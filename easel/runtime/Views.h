@@ -27,7 +27,7 @@ struct DocumentView {
 
 using Views = Registry<AIDocumentViewHandle, DocumentView>;
 
-inline constexpr AIReal kLeastZoom = 0.01F;
+inline constexpr AIReal kLeastZoom = 1.0F / 32;
 inline constexpr AIReal kMostZoom = 64;
 
 [[nodiscard]] AIRealPoint toView(const DocumentView& view, AIRealPoint artwork) noexcept;

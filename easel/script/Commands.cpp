@@ -143,9 +143,11 @@ Action readSelect(Arguments& arguments) {
 
 Action readDelete(Arguments& arguments) {
     return [id = arguments.text("id")](Player& player) {
-        static_cast<void>(player.document());
-        player.host().edit("Clear", [&](Document& document) {
-            for (Art* const art : artNamed(document, id))
+        const std::vector<Art*> named = artNamed(player.document(), id);
+        if (!std::ranges::all_of(named, [](const Art* art) { return isEditable(*art); }))
+            throw SessionError('"' + id + "\" is locked or hidden");
+        player.host().edit("Clear", [&](Document&) {
+            for (Art* const art : named)
                 disposeArt(*art);
         });
     };
@@ -177,6 +179,10 @@ Action readKey(Arguments& arguments) {
         for (int i = 0; i < count; ++i)
             up ? player.host().increaseDiameter() : player.host().decreaseDiameter();
     };
+}
+
+Action readFinish(Arguments&) {
+    return [](Player& player) { player.host().endPath(); };
 }
 
 // The mouse
@@ -264,7 +270,7 @@ Action readWindow(Arguments& arguments) {
 Action readZoom(Arguments& arguments) {
     const double factor = arguments.number("factor");
     if (!(factor >= double{kLeastZoom} && factor <= double{kMostZoom}))
-        throw Mistake("the zoom goes from 0.01 to 64");
+        throw Mistake("the zoom goes from 1/32 to 64");
     return [factor](Player& player) {
         static_cast<void>(player.document());
         player.host().zoom(static_cast<AIReal>(factor));
@@ -316,8 +322,13 @@ Action readRestart(Arguments&) {
     return [](Player& player) { player.restart(); };
 }
 
-Action readReload(Arguments&) {
-    return [](Player& player) { player.reload(); };
+Action readHost(Arguments& arguments) {
+    std::vector<const char*> names;
+    for (const SwitchName& each : switchNames())
+        names.push_back(each.name);
+    const SwitchName& named = switchNames()[arguments.choice("thing that hosts differ in", names)];
+    const bool on = arguments.choice("state", kSwitch) == 1;
+    return [&named, on](Player&) { switches().*named.value = on; };
 }
 
 Action readAnswer(Arguments& arguments) {
@@ -366,6 +377,7 @@ constexpr CommandRow kCommands[] = {
     {"tool", "NAME|options",
      "Takes that tool in hand, or double-clicks the icon of the one in hand", readTool},
     {"key", "[|] [COUNT]", "Taps that key between drags, COUNT times", readKey},
+    {"finish", "", "Ends the path that the pen is drawing", readFinish},
     {"move", "X,Y", "Moves the mouse there, its button up", readMove},
     {"press", "X,Y", "Moves the mouse there and presses the button", readPress},
     {"drag", "X,Y [in COUNT]", "Moves it there with the button down, in COUNT messages, or one",
@@ -379,7 +391,7 @@ constexpr CommandRow kCommands[] = {
      readRemember},
     {"window", "WIDTH HEIGHT", "Makes the view that large, in pixels; at first it is 1280 by 800",
      readWindow},
-    {"zoom", "FACTOR", "Shows a point as that many pixels, 0.01 to 64; the middle stays", readZoom},
+    {"zoom", "FACTOR", "Shows a point as that many pixels, 1/32 to 64; the middle stays", readZoom},
     {"centre", "X,Y", "Scrolls that place into the middle of the view", readCentre},
     {"smart-guides", "on|off", "Turns the host's cursor snapping on or off; at first it is on",
      readSmartGuides},
@@ -391,9 +403,11 @@ constexpr CommandRow kCommands[] = {
      readPreference},
     {"restart", "", "Quits host and plug-in and starts them again; settings stay, drawings do not",
      readRestart},
-    {"reload", "",
-     "Unloads the plug-in's library, held or not, and loads it again at another address",
-     readReload},
+    {"host", "NAME on|off",
+     "Has the host be this way or the other where its interface does not say; the names are those "
+     "in "
+     "`easel/document/Switches.h`",
+     readHost},
     {"answer", "yes|no|cancel", "Answers the next question that is asked; otherwise it is yes",
      readAnswer},
     {"wait", "MILLISECONDS", "Lets time pass", readWait},

@@ -28,19 +28,17 @@ ai::uint16 modifiersOf(const HeldKeys& keys) {
 } // namespace
 
 Player::Player(PlayerSettings settings)
-    : settings_(std::move(settings)), session_(std::make_unique<DrawingSession>()) {}
+    : settings_(std::move(settings)), session_(std::make_unique<DrawingSession>()) {
+    switches() = settings_.host;
+}
 
 void Player::start() {
     addPluginLibrary(session_->host, settings_.plugin);
     session_->host.annotators.textWidth = paint::annotationWidth; // as it will be painted
     session_->start();
-    takeOverClocks();
-    started_ = true;
-}
-
-void Player::takeOverClocks() {
     for (const auto& [handle, plugin] : session_->host.plugins)
         if (plugin->library) takeOverClock(plugin->library->native());
+    started_ = true;
 }
 
 DrawingSession& Player::session() {
@@ -60,12 +58,6 @@ Document& Player::document() {
 DocumentView& Player::view() {
     static_cast<void>(document());
     return host().view(nullptr);
-}
-
-void Player::reload() {
-    for (const SPPluginRef plugin : host().plugins.handles())
-        host().reload(plugin, /*evenIfHeld*/ true);
-    takeOverClocks();
 }
 
 void Player::restart() {

@@ -21,6 +21,7 @@ struct PlayerSettings {
     std::filesystem::path folder; ///< Drawings and pictures that the script names lie here.
     std::filesystem::path output; ///< Where what it writes goes.
     std::string name = "script";  ///< Of the pictures that failures keep.
+    Switches host = {};           ///< What kind of host the script begins with.
 };
 
 /// The user whom a script describes: hands on mouse and keys, eyes on the window. One plays one
@@ -48,8 +49,6 @@ public:
     void endCommand();
     /// Quits the plug-in and starts it again; settings stay.
     void restart();
-    /// Unloads the plug-in's library, held or not, and loads it again at another address.
-    void reload();
     /// Quits. Returns what was wrong in the session, a line each.
     [[nodiscard]] std::vector<std::string> finish();
 
@@ -87,7 +86,6 @@ private:
     using MouseEvent = void (Host::*)(const MousePoint&);
     void send(MouseEvent event, Place place);
     void start();
-    void takeOverClocks();
 
     PlayerSettings settings_;
     std::unique_ptr<DrawingSession> session_;

@@ -13,10 +13,16 @@ constexpr ai::int32 kPeriod = 3; ///< of 60 a second: a fade of five steps
 
 } // namespace
 
+void HintTimer::addTimer(SPPluginRef self) {
+    AITimerHandle added = nullptr;
+    ai::check(suites.timer->AddTimer(self, kTimerName, kPeriod, &added));
+    handle_ = added;
+}
+
 void HintTimer::follow(SPPluginRef self, const Hint& hint, ai::uint64 now) {
     if (runs_ || !isVisible(hint, now)) return;
     if (handle_ == nullptr)
-        ai::check(suites.timer->AddTimer(self, kTimerName, kPeriod, &handle_));
+        addTimer(self);
     else
         ai::check(suites.timer->SetTimerActive(handle_, 1));
     runs_ = true;

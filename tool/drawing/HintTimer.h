@@ -22,6 +22,8 @@ public:
     [[nodiscard]] bool isDue(AITimerHandle timer, const Hint& hint, ai::uint64 now);
 
 private:
+    void addTimer(SPPluginRef self);
+
     AITimerHandle handle_ = nullptr; ///< null until there has been a hint
     bool runs_ = false;
 };

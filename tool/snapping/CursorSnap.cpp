@@ -4,11 +4,16 @@
 #include "host/Suites.h"
 #include "host/suites/AICursorSnapSuite.h"
 
+#include <bit>
+
 namespace facetta {
 namespace {
 
-using TrackByValue = AIErr (*)(AIDocumentViewHandle, AIRealPoint, const AIEvent*, const char*,
+/// The two numbers stand in the register that otherwise holds the point's address. Passed as one
+/// number of their size they do so on every system.
+using TrackByValue = AIErr (*)(AIDocumentViewHandle, ai::uint64, const AIEvent*, const char*,
                                AIRealPoint*);
+static_assert(sizeof(AIRealPoint) == sizeof(ai::uint64));
 
 bool samePoint(AIRealPoint a, AIRealPoint b) { return a.h == b.h && a.v == b.v; }
 
@@ -36,7 +41,7 @@ AIRealPoint snapped(SnapPointForm& form, AIDocumentViewHandle view, AIRealPoint 
     } else {
         const auto slot = reinterpret_cast<ReservedSlot>(track);
         const auto byValue = reinterpret_cast<TrackByValue>(slot);
-        ai::check(byValue(view, point, event, control, &result));
+        ai::check(byValue(view, std::bit_cast<ai::uint64>(point), event, control, &result));
     }
     return result;
 }

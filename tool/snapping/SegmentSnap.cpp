@@ -2,6 +2,7 @@
 
 #include "host/Art.h"
 #include "host/Error.h"
+#include "host/Lent.h"
 #include "host/References.h"
 #include "host/suites/AIPathSuite.h"
 #include "symmetry/ArtSpace.h"
@@ -20,7 +21,7 @@ constexpr double kCloseEnough = 3.0;
 ai::Hit hit(Point point, ai::int32 request) {
     const AIRealPoint at = narrow(point);
     ai::Hit found;
-    ai::check(suites.hitTest->HitTest(nullptr, &at, request, found.put()));
+    ai::checkLent(suites.hitTest->HitTest(nullptr, &at, request, found.put()), found);
     if (!found || !suites.hitTest->IsHit(found.get())) found.reset();
     return found;
 }

@@ -1,6 +1,7 @@
 #include "toolkit/ImplCommon/Cursors.h"
 
 #include "host/Error.h"
+#include "host/Lent.h"
 #include "host/UserSuiteLayout.h"
 #include "toolkit/ImplCommon/Resources.h"
 
@@ -24,8 +25,9 @@ void Cursors::show(ai::int32 id) {
 
 bool Cursors::showByHost(ai::int32 id) {
     if (!user_) return false;
-    if (manager_ == nullptr) user_->CreateCursorResourceMgr(self_, &manager_);
-    return manager_ != nullptr && user_->SetCursor(id, manager_) == kNoErr;
+    const bool made = manager_ != nullptr ||
+                      ai::isGiven(user_->CreateCursorResourceMgr(self_, &manager_), manager_);
+    return made && manager_ != nullptr && user_->SetCursor(id, manager_) == kNoErr;
 }
 
 void Cursors::close() noexcept {

@@ -42,6 +42,7 @@ AIErr disposeChecked(AIArtHandle handle, bool refusesLocked) {
     Art& art = artOf(handle);
     if (isFixed(art)) return kUntouchableArtObjectErr;
     if (refusesLocked) checkEditable(art);
+    checkContents(art);
     disposeArt(art);
     return kNoErr;
 }
@@ -443,7 +444,8 @@ void deleteNote(AIArtHandle handle) {
 }
 
 AIErr getArtTimeStamp(AIArtHandle art, std::size_t* stamp) {
-    required(stamp) = subtreeStamp(artOf(art));
+    const Art& found = artOf(art);
+    required(stamp) = switches().stampsCoverDescendants ? subtreeStamp(found) : found.stamp();
     return kNoErr;
 }
 

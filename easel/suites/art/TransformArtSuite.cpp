@@ -22,6 +22,7 @@ AIErr transform(AIArtHandle handle, AIRealMatrix* matrix, AIReal lineScale, ai::
     Art& art = artOf(handle);
     if (!isFinite(required(matrix)) || !std::isfinite(lineScale)) return kBadParameterErr;
     checkEditable(art);
+    if ((flags & kTransformChildren) != 0) checkContents(art);
     transformArt(art, *matrix, lineScale, flags);
     return kNoErr;
 }

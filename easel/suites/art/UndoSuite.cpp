@@ -25,8 +25,8 @@ AIErr purgeAllUndos() { return kNoErr; }
 
 AIErr setKind(ai::int32 kind) {
     if (kind < kStandardUndoContext || kind > kAppendUndoContext) return kBadParameterErr;
-    // A nested context has no say, which is no error.
-    log().setKind(static_cast<AIUndoContextKind>(kind));
+    // Asked for in a nested context it has no effect, which is no error.
+    if (!session().contextIsNested) log().setKind(static_cast<AIUndoContextKind>(kind));
     return kNoErr;
 }
 

@@ -17,7 +17,9 @@ AIErr getPlatformAppWindow(AIWindowRef* window) {
 AIErr pushAppContext(SPPluginRef plugin, AIAppContextHandle* context) {
     AIAppContextHandle& result = required(context);
     static_cast<void>(host().plugins.at(plugin));
-    result = host().contexts.push(plugin);
+    result = host().contexts.push(plugin, kStandardUndoContext,
+                                  switches().ownContextsNest ? Contexts::Nested::Yes
+                                                             : Contexts::Nested::No);
     ledger().lend(Lent::AppContext, result);
     return kNoErr;
 }

@@ -157,30 +157,30 @@ AIErr removePreference(const char* prefix, const char* suffix) {
 void installPreferenceSuite(SuiteServer& server) {
     using Suite = AIPreferenceSuite;
     auto table = server.table<Suite>(kAIPreferenceSuite, kAIPreferenceSuiteVersion);
-    expose<&Suite::GetBooleanPreference, getBoolean>(table);
+    expose<&Suite::GetBooleanPreference, getBoolean, FailsWithPresets>(table);
     expose<&Suite::PutBooleanPreference, putBoolean>(table);
-    expose<&Suite::GetIntegerPreference, getNumber<ai::int32>>(table);
+    expose<&Suite::GetIntegerPreference, getNumber<ai::int32>, FailsWithPresets>(table);
     expose<&Suite::PutIntegerPreference, putNumber<ai::int32>>(table);
-    expose<&Suite::GetRealPreference, getNumber<double>>(table);
+    expose<&Suite::GetRealPreference, getNumber<double>, FailsWithPresets>(table);
     expose<&Suite::PutRealPreference, putNumber<double>>(table);
-    expose<&Suite::GetStringPreference, getString>(table);
+    expose<&Suite::GetStringPreference, getString, FailsWithPresets>(table);
     expose<&Suite::PutStringPreference, putString>(table);
-    expose<&Suite::GetUnicodeStringPreference, getUnicode>(table);
+    expose<&Suite::GetUnicodeStringPreference, getUnicode, FailsWithPresets>(table);
     expose<&Suite::PutUnicodeStringPreference, putUnicode>(table);
-    expose<&Suite::GetBlockPreference, getBlock>(table);
+    expose<&Suite::GetBlockPreference, getBlock, FailsWithPresets>(table);
     expose<&Suite::PutBlockPreference, putBlock>(table);
-    expose<&Suite::GetFixedPreference, getNumber<AIFixed>>(table);
+    expose<&Suite::GetFixedPreference, getNumber<AIFixed>, FailsWithPresets>(table);
     expose<&Suite::PutFixedPreference, putNumber<AIFixed>>(table);
-    expose<&Suite::GetFractPreference, getNumber<AIFract>>(table);
+    expose<&Suite::GetFractPreference, getNumber<AIFract>, FailsWithPresets>(table);
     expose<&Suite::PutFractPreference, putNumber<AIFract>>(table);
-    expose<&Suite::GetPointPreference, getRecord<AIPoint>>(table);
+    expose<&Suite::GetPointPreference, getRecord<AIPoint>, FailsWithPresets>(table);
     expose<&Suite::PutPointPreference, putRecord<AIPoint>>(table);
-    expose<&Suite::GetRectPreference, getRecord<AIRect>>(table);
+    expose<&Suite::GetRectPreference, getRecord<AIRect>, FailsWithPresets>(table);
     expose<&Suite::PutRectPreference, putRecord<AIRect>>(table);
-    expose<&Suite::GetFilePathSpecificationPreference, getPath>(table);
+    expose<&Suite::GetFilePathSpecificationPreference, getPath, FailsWithPresets>(table);
     expose<&Suite::PutFilePathSpecificationPreference, putPath>(table);
     expose<&Suite::RemovePreference, removePreference>(table);
-    expose<&Suite::GetLargeIntegerPreference, getNumber<ai::int64>>(table);
+    expose<&Suite::GetLargeIntegerPreference, getNumber<ai::int64>, FailsWithPresets>(table);
     expose<&Suite::PutLargeIntegerPreference, putNumber<ai::int64>>(table);
 }
 

@@ -9,6 +9,8 @@
 namespace easel {
 namespace {
 
+constexpr ai::int32 kAtRunTime = 1;
+
 SPPluginRef pluginOf(SPAccessRef access) {
     const SPPluginRef found = host().plugins.findIf(
         [&](const Plugin& plugin) { return access != nullptr && plugin.access == access; });
@@ -20,7 +22,7 @@ Plugin& accessed(SPAccessRef access) { return host().plugins.at(pluginOf(access)
 
 SPErr acquirePlugin(SPPluginRef ref, SPAccessRef* access) {
     SPAccessRef& result = required(access);
-    host().load(ref, kAccessAtRunTime);
+    host().load(ref, kAtRunTime);
     Plugin& plugin = host().plugins.at(ref);
     ++plugin.accessCount;
     ledger().lend(Lent::PluginAccess, plugin.access);

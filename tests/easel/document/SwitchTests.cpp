@@ -66,6 +66,40 @@ TEST_CASE("undo gives stamps back, or fresh ones") {
     }
 }
 
+TEST_CASE("the stamp of a group covers what it contains, or tells of the group alone") {
+    for (const bool covers : {true, false}) {
+        const Drawing drawing;
+        switches().stampsCoverDescendants = covers;
+        const AIArtHandle made = drawing.makePath({{0, 0}});
+        const auto stampOf = [](AIArtHandle handle) {
+            std::size_t stamp = 0;
+            REQUIRE(art().GetArtTimeStamp(handle, &stamp) == kNoErr);
+            return stamp;
+        };
+        const AIArtHandle group = drawing.layerGroup().handle();
+        const std::size_t before = stampOf(group);
+        CHECK(path().SetPathClosed(made, 1) == kNoErr);
+        CHECK((stampOf(group) > before) == covers);
+        CHECK(stampOf(made) > before);
+    }
+}
+
+TEST_CASE("what is locked in a group goes along with it, or holds it") {
+    for (const bool goesAlong : {true, false}) {
+        const Drawing drawing;
+        switches().lockedMembersGoAlong = goesAlong;
+        const AIArtHandle group = drawing.make(kGroupArt);
+        const AIArtHandle member = drawing.make(kPathArt, kPlaceInsideOnTop, group);
+        art().SetArtUserAttr(member, kArtLocked, kArtLocked);
+        const AIErr expected = goesAlong ? kNoErr : kUntouchableArtObjectErr;
+        AIRealMatrix matrix{1, 0, 0, 1, 5, 5};
+        constexpr ai::int32 kAll = kTransformObjects | kTransformChildren;
+        CHECK(transform().TransformArt(group, &matrix, 1, kTransformObjects) == kNoErr);
+        CHECK(transform().TransformArt(group, &matrix, 1, kAll) == expected);
+        CHECK(art().DisposeArt(group) == expected);
+    }
+}
+
 TEST_CASE("disposing of locked art is refused, or happens") {
     for (const bool refuses : {true, false}) {
         const Drawing drawing;

@@ -1,4 +1,5 @@
 #include "host/FilePath.h"
+#include "host/References.h"
 #include "host/UnicodeString.h"
 #include "host/suites/AIAnnotatorDrawerSuite.h"
 #include "host/suites/AIAnnotatorSuite.h"
@@ -148,6 +149,7 @@ TEST_CASE("the canvas stays where it is when the ruler origin moves") {
     AIRealRect before{};
     suite.GetDocumentMaxArtboardBounds(&before);
     AIRealPoint origin{100, 150};
+    const ai::AppContext context{fixture.plugin.self()};
     REQUIRE(suite.SetDocumentRulerOrigin(&origin) == kNoErr);
     AIRealPoint read{};
     suite.GetDocumentRulerOrigin(&read);

@@ -46,7 +46,7 @@ TEST_CASE("every mistake of a script is told, with its line and what would be ri
         {"press 1,2 with", "there are no keys after \"with\""},
         {"drag 1,2 in 0", "0 is no number of steps; it goes from 1 to 100000"},
         {"drag 1,2 in 2.5", "2.5 is no number of steps"},
-        {"zoom 0.001", "the zoom goes from 0.01 to 64"},
+        {"zoom 0.001", "the zoom goes from 1/32 to 64"},
         {"theme pink", "\"pink\" is no theme; choose one of light, dark"},
         {"tool \"Facetta Tool", "a quoted word does not end"},
         {"tool \"Facetta\"Tool", "put a blank between them"},

@@ -1,0 +1,33 @@
+#include "easel/document/Switches.h"
+
+#include <iterator>
+
+namespace easel {
+
+std::span<const SwitchName> switchNames() noexcept {
+    static constexpr SwitchName kNames[] = {
+        {"duplicatesKeepLocks", &Switches::duplicatesKeepLocks},
+        {"duplicatesKeepSelection", &Switches::duplicatesKeepSelection},
+        {"layerSetHasOwnGroup", &Switches::layerSetHasOwnGroup},
+        {"sublayerGroupHasParent", &Switches::sublayerGroupHasParent},
+        {"undoRestoresStamps", &Switches::undoRestoresStamps},
+        {"stampsCoverDescendants", &Switches::stampsCoverDescendants},
+        {"ownContextsNest", &Switches::ownContextsNest},
+        {"notificationsComeSoon", &Switches::notificationsComeSoon},
+        {"lockedMembersGoAlong", &Switches::lockedMembersGoAlong},
+        {"disposeRefusesLocked", &Switches::disposeRefusesLocked},
+        {"absentPreferenceSucceeds", &Switches::absentPreferenceSucceeds},
+        {"missIsHitObject", &Switches::missIsHitObject},
+        {"wrongEntryTypeHasOwnCode", &Switches::wrongEntryTypeHasOwnCode},
+        {"snapPointByReference", &Switches::snapPointByReference},
+        {"silentFollowsStep", &Switches::silentFollowsStep},
+        {"countIs64Bits", &Switches::countIs64Bits},
+        {"selectingLockedFails", &Switches::selectingLockedFails},
+        {"dictionaryHasPointerSlots", &Switches::dictionaryHasPointerSlots},
+        {"entryStringsLast", &Switches::entryStringsLast},
+    };
+    static_assert(sizeof(Switches) == std::size(kNames) * sizeof(bool), "one of them has no name");
+    return kNames;
+}
+
+} // namespace easel
