@@ -10,8 +10,12 @@
 
 namespace facetta::platform {
 
-/// Virtual key codes of the keys the tool reads. Digits are '0' to '9', letters 'A' to 'Z'.
+/// Virtual key codes of the keys and mouse buttons that Facetta reads. Digits are '0' to '9',
+/// letters 'A' to 'Z'.
 enum class Key : unsigned char {
+    LeftButton = 0x01,
+    RightButton = 0x02,
+    MiddleButton = 0x04,
     Shift = 0x10,
     Control = 0x11,
     Alt = 0x12,
@@ -36,6 +40,10 @@ struct KeyState {
 
 /// The keys as they are for the message being handled.
 [[nodiscard]] KeyState readKeys();
+
+/// Whether a button of the mouse is down, or a window of this thread has kept the mouse to itself
+/// after one was pressed.
+[[nodiscard]] bool mouseIsHeld();
 
 /// Milliseconds of the system's tick counter.
 [[nodiscard]] ai::uint64 ticks() noexcept;

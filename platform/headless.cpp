@@ -37,6 +37,12 @@ KeyState readKeys() {
     return keys;
 }
 
+bool mouseIsHeld() {
+    const KeyState keys = readKeys();
+    return keys.isDown(Key::LeftButton) || keys.isDown(Key::RightButton) ||
+           keys.isDown(Key::MiddleButton);
+}
+
 ai::uint64 ticks() noexcept {
     // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global*): a function is nothing to change
     static auto* const programTicks = offered<ai::uint64()>("headlessTicks");

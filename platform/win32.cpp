@@ -20,6 +20,12 @@ KeyState readKeys() {
     return keys;
 }
 
+bool mouseIsHeld() {
+    const auto isDown = [](Key button) { return GetKeyState(static_cast<int>(button)) < 0; };
+    return isDown(Key::LeftButton) || isDown(Key::RightButton) || isDown(Key::MiddleButton) ||
+           GetCapture() != nullptr;
+}
+
 ai::uint64 ticks() noexcept { return GetTickCount64(); }
 
 std::u16string moduleFileName() {

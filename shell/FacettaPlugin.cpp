@@ -1,6 +1,7 @@
 #include "shell/FacettaPlugin.h"
 
 #include "host/Error.h"
+#include "host/Lent.h"
 #include "host/MessageNames.h"
 #include "host/ToolSuiteLayout.h"
 #include "host/UnicodeString.h"
@@ -96,7 +97,8 @@ void FacettaPlugin::startProduct() {
 }
 
 bool FacettaPlugin::addAnnotator() {
-    return ai::suites.annotator->AddAnnotator(self(), kAnnotatorName, &annotator) == kNoErr &&
+    return ai::isGiven(ai::suites.annotator->AddAnnotator(self(), kAnnotatorName, &annotator),
+                       annotator) &&
            ai::suites.annotator->SetAnnotatorOptions(annotator, kAnnotatorSuppressInactiveViews) ==
                kNoErr;
 }
@@ -109,7 +111,8 @@ bool FacettaPlugin::addTool() {
     data.darkIconResID = kToolIconDark;
     data.sameGroupAs = kNoTool;
     data.sameToolsetAs = kNoTool;
-    if (ai::suites.tool->AddTool(self(), kToolName, &data, kToolOptions, &toolHandle) != kNoErr)
+    if (!ai::isGiven(ai::suites.tool->AddTool(self(), kToolName, &data, kToolOptions, &toolHandle),
+                     toolHandle))
         return false;
     ai::alignToolSuite(toolHandle, kToolOptions);
     return ai::suites.tool->SetToolInfoVars(toolHandle, kToolInfoVariables) == kNoErr;
@@ -132,6 +135,7 @@ AIErr FacettaPlugin::Shutdown(SPInterfaceMessage& message) {
     const AIErr saved = saveSettings();
     if (hasSuites()) {
         hintTimer.stop();
+        regenerationWatch.stop();
         dropAxes(tool); // what it holds of the host's goes while there are suites
         closePanel();
     }
@@ -149,9 +153,48 @@ AIErr FacettaPlugin::saveSettings() {
 }
 
 AIErr FacettaPlugin::Message(std::string_view caller, std::string_view selector, void* message) {
-    const AIErr err = Plugin::Message(caller, selector, message);
+    // First, in the context that the host has made for the message: only there can the plug-in say
+    // which undo step its changes belong to.
+    const AIErr followed = ai::codeOf([&] {
+        followChanges(caller, message);
+        return kNoErr;
+    });
+    const AIErr handled = Plugin::Message(caller, selector, message);
+    const AIErr err = followed != kNoErr ? followed : handled;
     if (err != kNoErr && err != kUnhandledMsgErr) ReportError(err, caller, selector, message);
     return err;
+}
+
+void FacettaPlugin::followChanges(std::string_view caller, const void* message) {
+    if (caller == kCallerNotifier) {
+        const auto& sent = *static_cast<const AINotifierMessage*>(message);
+        mirrorChangedLayers(regenerationWatch.penIsDone(sent.notifier) ? Pen::IsDone
+                                                                       : Pen::IsWaitedFor);
+    } else if (caller == kCallerTimer &&
+               regenerationWatch.isIts(static_cast<const AITimerMessage*>(message)->timer)) {
+        mirrorChangedLayers(Pen::IsWaitedFor);
+    }
+}
+
+/// Nothing is regenerated while a mouse button is down: whoever drags has hold of art that would be
+/// replaced. While the art of a layer moves with its axes, the layer's own axes are where they
+/// were.
+void FacettaPlugin::mirrorChangedLayers(Pen pen) {
+    if (mirrorsLayers_ || !documentIsOpen()) return;
+    if (tool.dragging || tool.reposition || platform::mouseIsHeld())
+        return regenerationWatch.start(self());
+    mirrorsLayers_ = true;
+    Regeneration done;
+    const AIErr err = ai::codeOf([&] {
+        done = regenerateChangedLayers(mirroring(), pen);
+        return kNoErr;
+    });
+    mirrorsLayers_ = false;
+    ai::check(err);
+    if (done.waits)
+        regenerationWatch.start(self());
+    else
+        regenerationWatch.stop();
 }
 
 AIErr FacettaPlugin::SetGlobal(Plugin* plugin) {
@@ -237,6 +280,7 @@ void FacettaPlugin::followDocument() {
 
 MirrorEnvironment FacettaPlugin::mirroring() {
     return {.currentAxes = tool.axes,
+            .live = liveLayers,
             .removePoints = preferences.removePoints,
             .ownTool = toolHandle,
             .showMessage = showAlert};

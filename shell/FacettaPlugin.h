@@ -3,7 +3,8 @@
 #include "shell/Menus.h"
 #include "shell/Notifications.h"
 #include "shell/Plugin.h"
-#include "symmetry/MirrorEngine.h"
+#include "shell/RegenerationWatch.h"
+#include "symmetry/LiveLayers.h"
 #include "tool/CurrentView.h"
 #include "tool/Licensing.h"
 #include "tool/ModalDialogs.h"
@@ -13,6 +14,7 @@
 #include "ui/SymmetryPanel.h"
 
 #include <optional>
+#include <string_view>
 
 namespace facetta {
 
@@ -68,6 +70,8 @@ public:
     char16_t decimalSeparator = u'.'; ///< of number fields; as the user's locale has it
     CurrentView view;                 ///< follows the host's notifications
     ToolState tool;
+    LiveLayerMemory liveLayers;
+    RegenerationWatch regenerationWatch;
     HintTimer hintTimer;
     // Functions of the library, set again after a reload.
     ModalDialogs dialogs;
@@ -90,6 +94,10 @@ private:
     /// The same for a message to our tool; messages to others are none of ours.
     template <typename Handler> AIErr withTool(const AIToolMessage& message, Handler handler);
 
+    /// Brings live layers up to date when the message may follow a change of the document.
+    void followChanges(std::string_view caller, const void* message);
+    void mirrorChangedLayers(Pen pen);
+
     void startProduct();
     bool addAnnotator();
     bool addTool();
@@ -99,6 +107,7 @@ private:
 
     bool settingsLoaded_ = false; ///< only what was read is written back
     bool holdsLibrary_ = false;   ///< on behalf of the panel
+    bool mirrorsLayers_ = false;  ///< Messages that regenerating brings about regenerate nothing.
     PanelAfterReload panelAfterReload_ = PanelAfterReload::None;
 };
 

@@ -1,16 +1,17 @@
 #include "shell/Notifications.h"
 
 #include "host/Codes.h"
+#include "host/Lent.h"
 #include "host/MessageNames.h"
 #include "host/Suites.h"
 #include "host/suites/AINotifierSuite.h"
 #include "shell/FacettaPlugin.h"
 #include "shell/PreferenceStore.h"
-#include "symmetry/LiveLayers.h"
 #include "tool/CurrentAxes.h"
 #include "tool/drawing/Preview.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace facetta {
 namespace {
@@ -77,15 +78,15 @@ constexpr Row kRows[] = {
 };
 static_assert(std::size(kRows) == kNotifierCount);
 
-/// Live layers are brought up to date, and the axes shown are those of the current layer. Done at
-/// every notification: the host may merge several, or send one late or without need.
+/// Overlay and panel follow the art and the current layer. Done at every notification: the host may
+/// merge several, or send one late or without need.
 void lookAfterDocument(FacettaPlugin& plugin, Art art) {
     if (documentIsOpen()) {
         // What a drag changes meanwhile it takes back.
         if (art == Art::MayHaveChanged && !plugin.tool.dragging) clearPreview(plugin.tool);
         // While the art of a layer moves with its axes, the layer's own axes are where they were.
         if (plugin.tool.reposition) return;
-        regenerateChangedLayers(plugin.mirroring());
+        if (std::exchange(plugin.liveLayers.mirrored, false)) redrawOverlay(plugin.view);
         const SymmetryAxes before = plugin.tool.axes;
         followCurrentLayer(plugin.tool);
         if (plugin.tool.axes != before) redrawOverlay(plugin.view);
@@ -99,7 +100,7 @@ void registerNotifiers(SPPluginRef self, NotifierHandles& handles) {
     for (std::size_t i = 0; i < kNotifierCount; ++i) {
         const AIErr err =
             ai::suites.notifier->AddNotifier(self, kRegistrationName, kRows[i].type, &handles[i]);
-        if (err != kNoErr) return;
+        if (!ai::isGiven(err, handles[i])) return;
     }
 }
 

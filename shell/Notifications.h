@@ -22,8 +22,7 @@ using NotifierHandles = std::array<AINotifierHandle, kNotifierCount>;
 void registerNotifiers(SPPluginRef self, NotifierHandles& handles);
 
 /// Reacts to the notification of `notifier` when that is one of the plug-in's handles. Then,
-/// whoever it was for, the current document and its live layers are looked after. Throws
-/// `ai::Error`.
+/// whoever it was for, what is shown follows the current document. Throws `ai::Error`.
 void handleNotification(FacettaPlugin& plugin, AINotifierHandle notifier);
 
 } // namespace facetta

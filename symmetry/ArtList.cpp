@@ -2,6 +2,7 @@
 
 #include "host/Art.h"
 #include "host/Error.h"
+#include "host/Lent.h"
 #include "host/References.h"
 
 #include <cstddef>
@@ -11,7 +12,7 @@ namespace {
 
 ai::ArtSet newSet() {
     ai::ArtSet set;
-    ai::check(suites.artSet->NewArtSet(set.put()));
+    ai::checkLent(suites.artSet->NewArtSet(set.put()), set);
     return set;
 }
 

@@ -1,6 +1,7 @@
 #include "symmetry/ArtMarks.h"
 
 #include "host/Error.h"
+#include "host/Lent.h"
 #include "host/suites/AIArtSuite.h"
 #include "symmetry/GuideTag.h"
 #include "symmetry/MirrorTag.h"
@@ -11,7 +12,7 @@ namespace facetta {
 
 ai::Dictionary dictionaryOf(AIArtHandle art) {
     ai::Dictionary entries;
-    if (art != nullptr) ai::check(suites.art->GetDictionary(art, entries.put()));
+    if (art != nullptr) ai::checkLent(suites.art->GetDictionary(art, entries.put()), entries);
     return entries;
 }
 

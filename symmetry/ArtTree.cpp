@@ -48,6 +48,12 @@ ai::int32 attributesOf(AIArtHandle art, ai::int32 mask) {
     return attributes;
 }
 
+std::uint64_t stampOfArt(AIArtHandle art) {
+    std::size_t stamp = 0;
+    ai::check(suites.art->GetArtTimeStamp(art, &stamp));
+    return stamp;
+}
+
 std::vector<AIArtHandle> childrenOf(AIArtHandle art) {
     std::vector<AIArtHandle> children;
     AIArtHandle child = nullptr;

@@ -5,6 +5,7 @@
 #include "host/Handles.h"
 #include "host/Types.h"
 
+#include <cstdint>
 #include <vector>
 
 namespace facetta {
@@ -16,6 +17,10 @@ namespace facetta {
 
 /// Those of the attributes in `mask` that are set on the object itself.
 [[nodiscard]] ai::int32 attributesOf(AIArtHandle art, ai::int32 mask);
+
+/// The host's time stamp of the object: a counter that grows with every edit of any art. Whether
+/// that of a container covers what it contains is the host's choice.
+[[nodiscard]] std::uint64_t stampOfArt(AIArtHandle art);
 
 /// Front-most first; empty for what is no container.
 [[nodiscard]] std::vector<AIArtHandle> childrenOf(AIArtHandle art);

@@ -2,6 +2,7 @@
 
 #include "host/Art.h"
 #include "host/Error.h"
+#include "host/Lent.h"
 #include "host/suites/AIArtSuite.h"
 #include "symmetry/AllChangesAllowed.h"
 #include "symmetry/ArtList.h"
@@ -37,7 +38,7 @@ void moveLocked(AIArtHandle art, AIRealMatrix& matrix, Transform parts) {
 
 ai::ArtSet collectLayerArt() {
     ai::ArtSet set;
-    ai::check(suites.artSet->NewArtSet(set.put()));
+    ai::checkLent(suites.artSet->NewArtSet(set.put()), set);
     const AILayerHandle layer = topLevelLayer(nullptr);
     if (layer == nullptr) return set;
     const auto add = [&](AIArtHandle art) {

@@ -2,11 +2,13 @@
 
 #include "host/Art.h"
 #include "host/Error.h"
+#include "host/Lent.h"
 #include "host/suites/AIArtSuite.h"
 #include "host/suites/AILayerSuite.h"
 #include "symmetry/AllChangesAllowed.h"
 #include "symmetry/ArtList.h"
 #include "symmetry/ArtMarks.h"
+#include "symmetry/LayerStamp.h"
 #include "symmetry/MirrorTag.h"
 #include "symmetry/RealText.h"
 
@@ -123,13 +125,6 @@ AIArtHandle groupArtOf(AILayerHandle layer) {
     return group;
 }
 
-ai::int32 currentStamp(AILayerHandle layer) {
-    const AIArtHandle group = groupArtOf(layer);
-    std::size_t stamp = 0;
-    if (group != nullptr) ai::check(suites.art->GetArtTimeStamp(group, &stamp));
-    return static_cast<ai::int32>(static_cast<ai::uint32>(stamp));
-}
-
 bool LayerAxesStore::read(AILayerHandle layer, SymmetryAxes& out) {
     out.axisCount = 0;
     const ai::Dictionary axes = axesEntryIn(groupArtDictionary(topLevelLayer(layer)));
@@ -148,7 +143,7 @@ void LayerAxesStore::write(const SymmetryAxes& axes) {
     const ai::Dictionary entries = groupArtDictionary(topLevelLayer(nullptr));
     if (!entries) return;
     ai::Dictionary entry;
-    ai::check(suites.dictionary->CreateDictionary(entry.put()));
+    ai::checkLent(suites.dictionary->CreateDictionary(entry.put()), entry);
     writeReal(entry, key::kOriginX, axes.originX);
     writeReal(entry, key::kOriginY, axes.originY);
     writeReal(entry, key::kAngle, axes.angle);
@@ -174,10 +169,15 @@ void LayerAxesStore::remove(AILayerHandle layer, bool resolveTopLevel) {
 
 void LayerAxesStore::stamp(AILayerHandle layer) {
     const AILayerHandle top = topLevelLayer(layer);
+    if (top != nullptr) stamp(top, readLayerStamp(top, StampReach::Unknown).stored());
+}
+
+void LayerAxesStore::stamp(AILayerHandle layer, ai::int32 stamp) {
+    const AILayerHandle top = topLevelLayer(layer);
     const ai::Dictionary entries = groupArtDictionary(top);
     const ai::Dictionary axes = axesEntryIn(entries);
     if (!axes) return;
-    writeInteger(axes, key::kStamp, currentStamp(top));
+    writeInteger(axes, key::kStamp, stamp);
     storeAxesEntry(entries, axes); // whether a host lends the entry itself or a copy is its affair
 }
 

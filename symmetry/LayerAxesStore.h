@@ -22,11 +22,6 @@ namespace facetta {
 /// The group that holds the art of exactly this layer; null when there is none.
 [[nodiscard]] AIArtHandle groupArtOf(AILayerHandle layer);
 
-/// The host's modification stamp of the layer's own group art as a stored entry holds it, cut to 32
-/// bits; 0 without group art. Any change of art on the layer changes it, a dictionary write does
-/// not.
-[[nodiscard]] ai::int32 currentStamp(AILayerHandle layer);
-
 namespace LayerAxesStore {
 
 /// Sets `out.axisCount` to 0; then, when the top-level layer of `layer` has axes, fills `out` from
@@ -46,8 +41,10 @@ void write(const SymmetryAxes& axes);
 /// copies on `layer` into ordinary art: their tags go and they are unlocked.
 void remove(AILayerHandle layer, bool resolveTopLevel);
 
-/// Notes the current stamp of the top-level layer of `layer` beside its axes, if it has any.
+/// Notes beside the axes of the top-level layer of `layer`, if it has any, with which time stamp
+/// its copies are as they should be: the present one, or one that was read before.
 void stamp(AILayerHandle layer);
+void stamp(AILayerHandle layer, ai::int32 stamp);
 
 /// The stamp noted last; 0 when there is none.
 [[nodiscard]] ai::int32 stampOf(AILayerHandle layer);

@@ -9,9 +9,14 @@
 #include "symmetry/ArtTree.h"
 #include "symmetry/LayerAxesStore.h"
 #include "symmetry/PathArt.h"
+#include "symmetry/PenAtWork.h"
 #include "symmetry/WorkSet.h"
 #include "symmetry/geometry/RemovePoints.h"
 
+#include <algorithm>
+#include <optional>
+#include <span>
+#include <utility>
 #include <vector>
 
 namespace facetta {
@@ -29,11 +34,111 @@ std::vector<AILayerHandle> topLevelLayers() {
     return layers;
 }
 
-/// Whether the layer mirrors automatically and has changed since it last did.
-bool isDue(AILayerHandle layer) {
+bool mirrorsAutomatically(AILayerHandle layer) {
     SymmetryAxes axes;
-    return LayerAxesStore::read(layer, axes) && axes.autoMirror && !isLayerBlocked(layer) &&
-           currentStamp(layer) != LayerAxesStore::stampOf(layer);
+    return LayerAxesStore::read(layer, axes) && axes.autoMirror && !isLayerBlocked(layer);
+}
+
+struct UndoSteps {
+    ai::int32 past = 0;
+    ai::int32 future = 0;
+
+    /// A change would join the last step, and lose nothing.
+    [[nodiscard]] bool canBeJoined() const { return past > 0 && future == 0; }
+};
+
+UndoSteps countUndoSteps() {
+    UndoSteps steps;
+    ai::check(suites.undo->CountTransactions(&steps.past, &steps.future));
+    return steps;
+}
+
+/// Whether the layer is as a regeneration or the document's file left it, as far as the steps that
+/// can be undone and redone and the stored stamp tell.
+bool broughtItsCopies(const LiveLayerMemory::Layer& last, ai::int32 stored,
+                      const UndoSteps& steps) {
+    if (last.penDraws) return false;
+    if (!steps.canBeJoined()) return true;
+    // After the last redo there is nothing more to redo; before it there was.
+    return last.storedStamp != stored && last.couldRedo;
+}
+
+bool fits(const LiveLayerMemory::Layer& last, ai::int32 stored, const LayerStamp& now) {
+    return last.storedStamp == stored ? unchanged(last.fit, now) : now.stored() == stored;
+}
+
+enum class Finding : std::uint8_t { NothingToDo, Changed, PenDraws };
+
+Finding examine(LiveLayerMemory& memory, AILayerHandle layer, const UndoSteps& steps, Pen pen) {
+    const ai::int32 stored = LayerAxesStore::stampOf(layer);
+    // Without a stamp the axes were written and nothing was mirrored since.
+    if (stored == 0) return steps.canBeJoined() ? Finding::Changed : Finding::NothingToDo;
+    const LayerStamp now = readLayerStamp(layer, memory.reach);
+    LiveLayerMemory::Layer& last = memory.at(layer);
+    if (fits(last, stored, now) || broughtItsCopies(last, stored, steps)) {
+        last.storedStamp = stored;
+        last.fit = now;
+        last.couldRedo = steps.future > 0;
+        last.penDraws = false;
+        return Finding::NothingToDo;
+    }
+    last.couldRedo = steps.future > 0;
+    if (!steps.canBeJoined()) return Finding::NothingToDo;
+    last.penDraws =
+        pen == Pen::IsWaitedFor && last.storedStamp == stored && penIsDrawing(layer, last.fit);
+    return last.penDraws ? Finding::PenDraws : Finding::Changed;
+}
+
+/// What the stamps on a layer that has just been regenerated show. The last thing done there was to
+/// change a copy, if there is one, after the group had received it.
+StampReach reachShownBy(const LayerStamp& stamp, AILayerHandle layer) {
+    if (stamp.group < stamp.newest) return StampReach::GroupOnly;
+    return contentsOfLayer(layer).copies.empty() ? StampReach::Unknown : StampReach::Descendants;
+}
+
+/// Notes which paths were too long; whether there is one that the user was not told about.
+bool noteTooLong(LiveLayerMemory::Layer& layer, std::span<const AIArtHandle> paths) {
+    const std::vector<PathTooLong> before = std::exchange(layer.told, {});
+    bool hasNew = false;
+    for (const AIArtHandle path : paths) {
+        const PathTooLong found{path, stampOfArt(path)};
+        layer.told.push_back(found);
+        hasNew = hasNew || std::ranges::find(before, found) == before.end();
+    }
+    return hasNew;
+}
+
+/// The copies fit the art as it is now.
+LiveLayerMemory::Layer& stampLayer(LiveLayerMemory& memory, AILayerHandle layer) {
+    const LayerStamp now = readLayerStamp(layer, memory.reach);
+    LayerAxesStore::stamp(layer, now.stored());
+    LiveLayerMemory::Layer& noted = memory.at(layer);
+    noted.storedStamp = now.stored();
+    noted.fit = now;
+    noted.couldRedo = false; // a change of art loses what could be redone
+    noted.penDraws = false;
+    return noted;
+}
+
+/// Makes all copies on the layer anew. Whether the user is to be told of paths that are too long
+/// and were not too long before.
+bool mirrorLayer(const MirrorEnvironment& environment, bool option, AILayerHandle layer) {
+    LiveLayerMemory& memory = environment.live;
+    MirrorEngine engine{environment};
+    engine.run(/*selectionMode*/ false, /*keepCurrentAxes*/ false, option, layer);
+    LiveLayerMemory::Layer& noted = stampLayer(memory, layer);
+    memory.mirrored = true;
+    if (memory.reach == StampReach::Unknown) memory.reach = reachShownBy(noted.fit, layer);
+    return noteTooLong(noted, engine.pathsTooLong());
+}
+
+/// Makes the copies fit again after a change of the art. All are made anew, though some may fit
+/// still: those of art that is no newer than `memory.at(layer).fit.newest`.
+void mirrorAgain(const MirrorEnvironment& environment, AILayerHandle layer) {
+    MirrorEnvironment silent = environment;
+    silent.showMessage = {};
+    if (mirrorLayer(silent, /*option*/ false, layer) && environment.showMessage)
+        environment.showMessage(kPathsTooLong);
 }
 
 void removeAxisPoints(AIArtHandle path, ai::int32 selection, const PageAxes& axes) {
@@ -64,19 +169,29 @@ void attachAxes(const MirrorEnvironment& environment, bool autoMirror) {
 bool regenerateLayer(const MirrorEnvironment& environment, bool option, AILayerHandle layer) {
     const AILayerHandle top = topLevelLayer(layer);
     if (groupArtOf(top) == nullptr || !LayerAxesStore::hasAxes(top)) return false;
-    MirrorEngine{environment}.run(/*selectionMode*/ false, /*keepCurrentAxes*/ false, option, top);
-    LayerAxesStore::stamp(top);
+    mirrorLayer(environment, option, top);
     return true;
 }
 
-int regenerateChangedLayers(const MirrorEnvironment& environment) {
-    int regenerated = 0;
+Regeneration regenerateChangedLayers(const MirrorEnvironment& environment, Pen pen) {
+    Regeneration done;
+    std::vector<AILayerHandle> due;
+    std::optional<UndoSteps> steps;
     for (const AILayerHandle layer : topLevelLayers()) {
-        if (!isDue(layer)) continue;
-        if (regenerated == 0) ai::check(suites.undo->SetKind(kAppendUndoContext));
-        if (regenerateLayer(environment, /*option*/ false, layer)) ++regenerated;
+        if (!mirrorsAutomatically(layer)) continue;
+        if (!steps) steps = countUndoSteps();
+        const Finding finding = examine(environment.live, layer, *steps, pen);
+        if (finding == Finding::Changed) due.push_back(layer);
+        done.waits = done.waits || finding == Finding::PenDraws;
     }
-    return regenerated;
+    if (due.empty()) return done;
+    // In a message that was sent from inside another the host does not listen, and need not: all
+    // that happens there belongs to the step of the outer one.
+    static_cast<void>(suites.undo->SetKind(kAppendUndoContext));
+    for (const AILayerHandle layer : due)
+        mirrorAgain(environment, layer);
+    done.layers = static_cast<int>(due.size());
+    return done;
 }
 
 void releaseLayer(const MirrorEnvironment& environment, AILayerHandle layer,

@@ -11,6 +11,7 @@
 #include "symmetry/LayerAxesStore.h"
 #include "symmetry/PathArt.h"
 #include "symmetry/PathReplacement.h"
+#include "symmetry/PenAtWork.h"
 #include "symmetry/WorkSet.h"
 #include "symmetry/geometry/MirrorPath.h"
 #include "symmetry/geometry/RemovePoints.h"
@@ -24,13 +25,7 @@ namespace {
 constexpr double kSnapPixels = 12.0;
 constexpr double kSmallestZoom = 0.01; ///< Stands for a zoom of 0.
 
-constexpr std::string_view kPathsTooLong =
-    "Some paths could not be mirrored, because doing so would cause them to exceed the maximum "
-    "number of points in path.";
-
 constexpr ai::int32 kSelectionAttributes = kArtSelected | kArtFullySelected;
-
-constexpr const char* kPenTool = "Adobe Pen Tool";
 
 /// Puts a value back when the scope ends.
 template <typename Value> class Restore {
@@ -55,11 +50,9 @@ double snapDistance() {
 /// The pen goes on with the path that it was drawing, which may be gone now: choosing it afresh
 /// makes it let go.
 void restartPen(AIToolHandle ownTool) {
-    const char* current = nullptr;
-    ai::check(suites.tool->GetCurrentToolName(&current));
-    if (current == nullptr || std::string_view{current} != kPenTool || ownTool == nullptr) return;
+    if (!penIsInHand() || ownTool == nullptr) return;
     ai::check(suites.tool->SetSelectedTool(ownTool));
-    ai::check(suites.tool->SetSelectedToolByName(kPenTool));
+    ai::check(suites.tool->SetSelectedToolByName(kPenTool.data()));
 }
 
 /// The maps that make the copies, as the host takes them, by `Images`.
@@ -91,11 +84,12 @@ public:
             mirrorAs(unit);
         } catch (const ai::Error& error) {
             if (error.code != kTooManySegmentsErr) throw;
-            pathsTooLong_ = true; // this path is as it was; the run goes on with the others
+            pathsTooLong_.push_back(
+                unit.art); // this path is as it was; the run goes on with the others
         }
     }
 
-    [[nodiscard]] bool pathsTooLong() const { return pathsTooLong_; }
+    [[nodiscard]] std::vector<AIArtHandle>& pathsTooLong() { return pathsTooLong_; }
 
 private:
     void mirrorAs(const Unit& unit) {
@@ -159,7 +153,7 @@ private:
     PathTransfer transfer_;
     PathShape source_;
     std::vector<PlacedArt> placed_;
-    bool pathsTooLong_ = false;
+    std::vector<AIArtHandle> pathsTooLong_;
 };
 
 } // namespace
@@ -168,8 +162,8 @@ MirrorEngine::MirrorEngine(MirrorEnvironment environment) : environment_(std::mo
 
 void MirrorEngine::run(bool selectionMode, bool keepCurrentAxes, bool option, AILayerHandle layer) {
     const AILayerHandle top = selectionMode ? nullptr : topLevelLayer(layer);
+    pathsTooLong_.clear();
     if (!selectionMode && top == nullptr) return;
-    bool pathsTooLong = option;
     {
         const Restore saved{environment_.currentAxes};
         if (!selectionMode && !keepCurrentAxes) LayerAxesStore::read(top, environment_.currentAxes);
@@ -181,10 +175,11 @@ void MirrorEngine::run(bool selectionMode, bool keepCurrentAxes, bool option, AI
                       selectionMode && environment_.removePoints};
         for (const Unit& unit : selectionMode ? unitsOfSelection() : unitsOfLayer(top))
             mirroring.mirror(unit);
-        pathsTooLong = pathsTooLong || mirroring.pathsTooLong();
+        pathsTooLong_ = std::move(mirroring.pathsTooLong());
     }
     restartPen(environment_.ownTool);
-    if (pathsTooLong && environment_.showMessage) environment_.showMessage(kPathsTooLong);
+    if ((option || !pathsTooLong_.empty()) && environment_.showMessage)
+        environment_.showMessage(kPathsTooLong);
 }
 
 } // namespace facetta

@@ -7,16 +7,24 @@
 /// source art, each copy locked and tagged, so that the next run finds it.
 
 #include "host/Handles.h"
+#include "symmetry/LiveLayerMemory.h"
 #include "symmetry/SymmetryAxes.h"
 
 #include <functional>
 #include <string_view>
+#include <vector>
 
 namespace facetta {
+
+/// What the user is told when a path would become longer than the host allows.
+inline constexpr std::string_view kPathsTooLong =
+    "Some paths could not be mirrored, because doing so would cause them to exceed the maximum "
+    "number of points in path.";
 
 /// What a run takes from the plug-in.
 struct MirrorEnvironment {
     SymmetryAxes& currentAxes;      ///< What the user sees; the same after a run as before.
+    LiveLayerMemory& live;          ///< Of live layers, from one message to the next.
     bool removePoints = false;      ///< The preference "FTRemovePoints".
     AIToolHandle ownTool = nullptr; ///< Selected for a moment to make the pen start afresh.
     std::function<void(std::string_view text)> showMessage; ///< Shows one text to the user.
@@ -37,8 +45,12 @@ public:
     /// `ai::Error` when a host call fails; the host's undo then brings back the art as it was.
     void run(bool selectionMode, bool keepCurrentAxes, bool option, AILayerHandle layer);
 
+    /// The paths that the last run has left as they were, because they would be too long.
+    [[nodiscard]] const std::vector<AIArtHandle>& pathsTooLong() const { return pathsTooLong_; }
+
 private:
     MirrorEnvironment environment_;
+    std::vector<AIArtHandle> pathsTooLong_;
 };
 
 } // namespace facetta

@@ -2,6 +2,7 @@
 
 #include "host/Art.h"
 #include "host/Error.h"
+#include "host/Lent.h"
 #include "host/Owned.h"
 #include "host/Suites.h"
 #include "host/UnicodeString.h"
@@ -30,7 +31,7 @@ constexpr ai::uint32 kTransferStyle = 1U << 1;
 
 Draft newArt(ai::int16 type, ai::int16 order, AIArtHandle place) {
     Draft art;
-    ai::check(suites.art->NewArt(type, order, place, art.put()));
+    ai::checkLent(suites.art->NewArt(type, order, place, art.put()), art);
     return art;
 }
 

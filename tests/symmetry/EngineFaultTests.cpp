@@ -82,16 +82,19 @@ std::vector<std::string_view> fallibleCalls(const Action& action) {
     return names;
 }
 
-/// Runs `action` in a fresh document with its `number`th call failing, which is one of `function`.
-void failAt(const Action& action, std::uint64_t number, std::string_view function) {
-    INFO(action.what, ", call ", number, ": ", std::string(function));
+using easel::FaultPlan;
+using Mode = FaultPlan::Mode;
+
+/// Runs `action` in a fresh document with calls failing as `plan` says, first one of `function`.
+void failAt(const Action& action, const FaultPlan& plan, std::string_view function) {
+    INFO(action.what, ", call ", plan.call, ": ", std::string(function),
+         ", all from then on: ", plan.mode == Mode::FromThenOn, ", and call ", plan.second);
     EngineFixture fixture;
     prepare(fixture);
     const std::string before = easel::dump(fixture.document());
     const SymmetryAxes axesBefore = fixture.axes;
 
-    using Mode = easel::FaultPlan::Mode;
-    easel::hostCalls().arm({.mode = Mode::Once, .call = number, .function = {}, .code = kInjected});
+    easel::hostCalls().arm(plan);
     AIErr code = kNoErr;
     fixture.step([&] {
         try {
@@ -102,7 +105,7 @@ void failAt(const Action& action, std::uint64_t number, std::string_view functio
     });
     CHECK(easel::hostCalls().fired());
     easel::hostCalls().disarm();
-    CHECK((code == kInjected || isOneOf(kUnreported, function)));
+    CHECK((code == plan.code || isOneOf(kUnreported, function)));
     CHECK(fixture.axes.axisCount == axesBefore.axisCount);
     if (easel::dump(fixture.document()) != before) fixture.document().undo().undo();
     CHECK(easel::dump(fixture.document()) == before);
@@ -114,7 +117,16 @@ TEST_CASE("whichever host call fails, its code comes back, nothing is kept, one 
     for (const Action& action : kActions) {
         const std::vector<std::string_view> calls = fallibleCalls(action);
         REQUIRE(calls.size() > 100); // the action does reach the host
-        for (std::size_t i = 0; i < calls.size(); ++i)
-            failAt(action, i + 1, calls[i]);
+        for (std::size_t i = 0; i < calls.size(); ++i) {
+            const std::uint64_t call = i + 1;
+            // Alone; and with all that follow, with the next, or with a code that means something.
+            const FaultPlan further[] = {
+                {Mode::FromThenOn, call, {}, kInjected},
+                {Mode::Once, call, {}, kInjected, call + 1},
+                {Mode::Once, call, {}, kUntouchableArtObjectErr},
+            };
+            failAt(action, {Mode::Once, call, {}, kInjected}, calls[i]);
+            failAt(action, further[i % std::size(further)], calls[i]);
+        }
     }
 }

@@ -266,6 +266,7 @@ void EngineFixture::setAxes(int count, double angle, Point origin) {
 
 MirrorEnvironment EngineFixture::environment() {
     return {.currentAxes = axes,
+            .live = live,
             .removePoints = removePoints,
             .ownTool = ownTool,
             .showMessage = [this](std::string_view text) { messages.emplace_back(text); }};

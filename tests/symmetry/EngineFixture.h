@@ -70,6 +70,7 @@ public:
     void regenerate();
 
     SymmetryAxes axes;
+    LiveLayerMemory live;
     bool removePoints = false;
     AIToolHandle ownTool = nullptr;
     std::vector<std::string> messages; ///< Shown to the user.

@@ -2,11 +2,16 @@
 #include "easel/document/Dump.h"
 #include "easel/document/Layers.h"
 #include "easel/document/Session.h"
+#include "symmetry/ArtSpace.h"
 #include "symmetry/LayerAxesStore.h"
 #include "symmetry/LiveLayers.h"
+#include "symmetry/PenAtWork.h"
 #include "tests/symmetry/EngineFixture.h"
 
 #include <doctest/doctest.h>
+
+#include <array>
+#include <vector>
 
 using namespace facetta;
 using easel::Art;
@@ -15,13 +20,27 @@ using facetta::tests::EngineFixture;
 namespace {
 
 /// What the plug-in does when the host says that the document may have changed.
-int afterChange(EngineFixture& fixture) {
-    int regenerated = 0;
+Regeneration follow(EngineFixture& fixture, Pen pen = Pen::IsWaitedFor) {
+    Regeneration done;
     fixture.step([&] {
         fixture.document().undo().setKind(kSilentUndoContext); // as notifications are sent
-        regenerated = regenerateChangedLayers(fixture.environment());
+        done = regenerateChangedLayers(fixture.environment(), pen);
     });
-    return regenerated;
+    return done;
+}
+
+int afterChange(EngineFixture& fixture) { return follow(fixture).layers; }
+
+using Flipped = bool easel::Switches::*;
+
+/// Every combination of the other sides of these switches.
+template <std::size_t Count>
+std::vector<easel::Switches> combinations(const std::array<Flipped, Count>& switches) {
+    std::vector<easel::Switches> all(std::size_t{1} << Count);
+    for (std::size_t i = 0; i < all.size(); ++i)
+        for (std::size_t bit = 0; bit < Count; ++bit)
+            if ((i >> bit & 1) != 0) all[i].*switches[bit] = !(all[i].*switches[bit]);
+    return all;
 }
 
 } // namespace
@@ -76,33 +95,202 @@ TEST_CASE("a live layer is regenerated after each change of its art, once") {
          },
          "a a' a' a' b b' b' b'", 1},
     };
-    for (const auto& row : rows) {
-        INFO(row.what);
-        EngineFixture fixture;
-        fixture.build(fixture.layer(), "a b");
-        fixture.setAxes(1);
+    for (const bool covers : {true, false})
+        for (const auto& row : rows) {
+            INFO(row.what, "; stamps of groups cover what they contain: ", covers);
+            easel::Switches switches;
+            switches.stampsCoverDescendants = covers;
+            EngineFixture fixture{switches};
+            fixture.build(fixture.layer(), "a b");
+            fixture.setAxes(1);
+            fixture.attach();
+            fixture.step([&] { row.change(fixture); });
+            CHECK(afterChange(fixture) == row.regenerated);
+            CHECK(fixture.notationOf(fixture.layer()) == row.after);
+            CHECK(afterChange(fixture) == 0); // its own changes call for nothing more
+            CHECK(fixture.live.mirrored);
+        }
+}
+
+TEST_CASE("undo takes back an edit with its copies, redo brings both, and neither mirrors anew") {
+    const auto hosts =
+        combinations<3>({&easel::Switches::undoRestoresStamps, &easel::Switches::silentFollowsStep,
+                         &easel::Switches::stampsCoverDescendants});
+    for (std::size_t i = 0; i < hosts.size(); ++i) {
+        INFO("host ", i);
+        EngineFixture fixture{hosts[i]};
+        easel::UndoLog& undo = fixture.document().undo();
+        fixture.build(fixture.layer(), "a");
+        fixture.setAxes(3);
         fixture.attach();
-        fixture.step([&] { row.change(fixture); });
-        CHECK(afterChange(fixture) == row.regenerated);
-        CHECK(fixture.notationOf(fixture.layer()) == row.after);
-        CHECK(afterChange(fixture) == 0); // its own changes call for nothing more
+        const std::string before = easel::dump(fixture.document());
+        for (const char* const added : {"b", "d"}) {
+            fixture.build(fixture.layer(), added);
+            CHECK(afterChange(fixture) == 1);
+        }
+        const std::string after = easel::dump(fixture.document());
+        for (int times = 0; times < 10; ++times) {
+            for (int steps = 0; steps < 2; ++steps) {
+                CHECK(undo.undo());
+                CHECK(afterChange(fixture) == 0);
+            }
+            CHECK(easel::dump(fixture.document()) == before);
+            for (int steps = 0; steps < 2; ++steps) {
+                CHECK(undo.redo());
+                CHECK(afterChange(fixture) == 0);
+            }
+            CHECK(easel::dump(fixture.document()) == after);
+        }
+        CHECK(undo.undo());
+        CHECK(afterChange(fixture) == 0);
+        fixture.build(fixture.layer(), "e"); // now there is nothing to redo any more
+        CHECK(afterChange(fixture) == 1);
+        CHECK(fixture.notationOf(fixture.layer()) ==
+              "a a' a' a' a' a' b b' b' b' b' b' e e' e' e' e' e'");
     }
 }
 
-TEST_CASE("one undo takes back the edit with the regeneration it brought about") {
+TEST_CASE("an edit that follows an undo at once is not taken for the undo") {
+    easel::Switches switches;
+    switches.undoRestoresStamps = false;
+    EngineFixture fixture{switches};
+    fixture.build(fixture.layer(), "a");
+    fixture.setAxes(1);
+    fixture.attach();
+    fixture.build(fixture.layer(), "b");
+    afterChange(fixture);
+    fixture.document().undo().undo(); // the host tells of it late
+    fixture.build(fixture.layer(), "d");
+    CHECK(afterChange(fixture) == 1);
+    CHECK(fixture.notationOf(fixture.layer()) == "a a' d d'");
+}
+
+TEST_CASE("opening a drawing changes nothing; the first edit of it is mirrored") {
+    for (const bool covers : {true, false}) {
+        easel::Switches switches;
+        switches.stampsCoverDescendants = covers;
+        EngineFixture fixture{switches};
+        fixture.build(fixture.layer(), "a");
+        fixture.setAxes(1);
+        fixture.attach();
+        fixture.reopen();
+        fixture.document().setModified(false);
+        CHECK(afterChange(fixture) == 0);
+        CHECK_FALSE(fixture.document().isModified());
+        fixture.build(fixture.layer(), "b");
+        CHECK(afterChange(fixture) == 1);
+        CHECK(fixture.notationOf(fixture.layer()) == "a a' b b'");
+    }
+}
+
+namespace {
+
+/// What the host's pen does with a click: a new anchor of the path, which alone is selected.
+void clickPen(EngineFixture& fixture, Art*& path, Point at) {
+    fixture.step([&] {
+        if (path == nullptr) path = &fixture.addPath(fixture.layer(), {}, false);
+        easel::deselectAll(fixture.document());
+        const AIRealPoint point = narrow(at);
+        path->write().segments.write().push_back({point, point, point, true});
+        easel::select(*path, true);
+    });
+}
+
+} // namespace
+
+TEST_CASE("a path that the pen draws is mirrored when it is done") {
+    const struct {
+        std::string what;
+        void (*happens)(EngineFixture&, Art& path);
+        int regenerated;
+    } rows[] = {
+        {"nothing", [](EngineFixture&, Art&) {}, 0},
+        {"the path is closed", [](EngineFixture&, Art& path) { path.write().closed = true; }, 1},
+        {"another tool is taken",
+         [](EngineFixture& fixture, Art&) {
+             fixture.shellSide().currentTool = "Adobe Select Tool";
+         },
+         1},
+        {"nothing is selected any more",
+         [](EngineFixture& fixture, Art&) { easel::deselectAll(fixture.document()); }, 1},
+        {"something else is selected as well",
+         [](EngineFixture& fixture, Art&) { easel::select(*fixture.layer().firstChild(), true); },
+         1},
+        {"another path is changed",
+         [](EngineFixture& fixture, Art&) { fixture.layer().firstChild()->write().closed = false; },
+         1},
+        {"a step is undone", [](EngineFixture& fixture, Art&) { fixture.document().undo().undo(); },
+         0},
+    };
+    for (const bool covers : {true, false})
+        for (const auto& row : rows) {
+            INFO(row.what, "; stamps of groups cover what they contain: ", covers);
+            easel::Switches switches;
+            switches.stampsCoverDescendants = covers;
+            EngineFixture fixture{switches};
+            fixture.shellSide().currentTool = kPenTool;
+            fixture.build(fixture.layer(), "a");
+            fixture.setAxes(1);
+            fixture.attach();
+            Art* path = nullptr;
+            for (int clicks = 0; clicks < 3; ++clicks) {
+                clickPen(fixture, path, {100.0 + 40 * clicks, 60.0 + 30 * (clicks % 2)});
+                CHECK(afterChange(fixture) == 0);
+                CHECK(follow(fixture).waits);
+            }
+            if (row.what == "a step is undone")
+                row.happens(fixture, *path);
+            else
+                fixture.step([&] { row.happens(fixture, *path); });
+            CHECK(afterChange(fixture) == row.regenerated);
+            CHECK(path->isAlive());
+        }
+}
+
+TEST_CASE("the pen's path waits through an undo, and is mirrored when the host ends it") {
+    EngineFixture fixture;
+    fixture.shellSide().currentTool = kPenTool;
+    fixture.build(fixture.layer(), "a");
+    fixture.setAxes(1);
+    fixture.attach();
+    Art* path = nullptr;
+    for (const double x : {100.0, 140.0, 180.0})
+        clickPen(fixture, path, {x, 60});
+    CHECK(follow(fixture).waits);
+    fixture.document().undo().undo();
+    CHECK_FALSE(
+        follow(fixture).waits); // while the click can be redone there is nothing to wait for
+    clickPen(fixture, path, {180, 90});
+    CHECK(follow(fixture).waits);
+    CHECK(follow(fixture, Pen::IsDone).layers == 1);
+    CHECK(fixture.notationOf(fixture.layer()) == "a a'  '");
+    CHECK_FALSE(follow(fixture).waits);
+}
+
+TEST_CASE("of a path that is too long the user is told once, until it changes") {
     EngineFixture fixture;
     fixture.build(fixture.layer(), "a");
-    fixture.setAxes(3);
+    Art* path = nullptr;
+    fixture.step([&] {
+        std::vector<Point> points;
+        for (int i = 0; i < 16002; ++i)
+            points.push_back({i * 0.1, 0.2 * (i % 7) * (i > 0)});
+        points.front() = {-5, 0};
+        points.back().y = 0.0;
+        path = &fixture.addPath(fixture.layer(), points, false);
+    });
+    fixture.setAxes(1);
     fixture.attach();
-    const std::string before = easel::dump(fixture.document());
-    fixture.build(fixture.layer(), "b");
+    CHECK(fixture.messages.size() == 1);
+    const auto changeAnother = [&] { fixture.layer().firstChild()->write().closed ^= true; };
+    for (int edits = 0; edits < 3; ++edits) {
+        fixture.step(changeAnother);
+        CHECK(afterChange(fixture) == 1);
+        CHECK(fixture.messages.size() == 1);
+    }
+    fixture.step([&] { path->write().segments.write()[5].p.v += 1; });
     CHECK(afterChange(fixture) == 1);
-    const std::string after = easel::dump(fixture.document());
-    CHECK(fixture.document().undo().undo());
-    CHECK(easel::dump(fixture.document()) == before);
-    CHECK(afterChange(fixture) == 0);
-    CHECK(fixture.document().undo().redo());
-    CHECK(easel::dump(fixture.document()) == after);
+    CHECK(fixture.messages.size() == 2);
 }
 
 TEST_CASE("only live layers are touched, each with its own axes") {
@@ -197,6 +385,7 @@ TEST_CASE("what the host's interface leaves open makes no difference") {
         {"disposeRefusesLocked", &easel::Switches::disposeRefusesLocked},
         {"wrongEntryTypeHasOwnCode", &easel::Switches::wrongEntryTypeHasOwnCode},
         {"silentFollowsStep", &easel::Switches::silentFollowsStep},
+        {"stampsCoverDescendants", &easel::Switches::stampsCoverDescendants},
         {"countIs64Bits", &easel::Switches::countIs64Bits},
         {"selectingLockedFails", &easel::Switches::selectingLockedFails},
         {"dictionaryHasPointerSlots", &easel::Switches::dictionaryHasPointerSlots},
