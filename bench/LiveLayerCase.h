@@ -4,20 +4,18 @@
 
 #include "bench/Findings.h"
 
-#include <limits>
-
 namespace facetta::bench {
 
 class LiveLayerCase {
 public:
     void registerAll();
-    void judge(Findings& findings) const;
+    void report(Findings& findings) const;
 
 private:
-    double ownSeconds_ = std::numeric_limits<double>::infinity();
-    double totalSeconds_ = std::numeric_limits<double>::infinity();
-    double bareSeconds_ = std::numeric_limits<double>::infinity();
-    bool measured_ = false;
+    double ownSeconds_ = kNotMeasured;
+    double totalSeconds_ = kNotMeasured;
+    double bareSeconds_ = kNotMeasured;
+    double floorSeconds_ = kNotMeasured; ///< Of a plain loop over the segments of all copies.
 };
 
 } // namespace facetta::bench

@@ -4,24 +4,21 @@
 
 #include "bench/Findings.h"
 
-#include <cstdint>
-#include <limits>
-
 namespace facetta::bench {
 
 class OverlayCases {
 public:
     void registerAll();
-    void judge(Findings& findings) const;
+    void report(Findings& findings) const;
 
 private:
     void registerAxes();
     void registerPreview();
 
-    std::uint64_t allocations_ = 0; ///< The most of one draw but the first.
-    bool axesMeasured_ = false;
-    double previewSeconds_ = std::numeric_limits<double>::infinity();
-    bool previewMeasured_ = false;
+    double allocations_ = kNotMeasured; ///< The most of one draw but the first.
+    double axesSeconds_ = kNotMeasured;
+    double previewSeconds_ = kNotMeasured;
+    double floorSeconds_ = kNotMeasured;
 };
 
 } // namespace facetta::bench

@@ -4,21 +4,19 @@
 
 #include "bench/Findings.h"
 
-#include <limits>
-
 namespace facetta::bench {
 
 class ProgramCases {
 public:
     void registerAll();
-    void judge(Findings& findings) const;
+    void report(Findings& findings) const;
 
 private:
-    double documentBytes_ = 0; ///< Heap that the mirrored drawing holds, its undo steps gone.
-    double mirroringPeak_ = 0; ///< Most memory beyond what there was before the drawing.
-    double programSeconds_ = std::numeric_limits<double>::infinity();
-    double programPeak_ = 0;
-    double plainSeconds_ = std::numeric_limits<double>::infinity();
+    double documentBytes_ = kNotMeasured; ///< Heap of the mirrored drawing, its undo steps gone.
+    double mirroringPeak_ = kNotMeasured; ///< Most memory beyond what there was before the drawing.
+    double programSeconds_ = kNotMeasured;
+    double programPeak_ = kNotMeasured;
+    double plainSeconds_ = kNotMeasured;
 };
 
 } // namespace facetta::bench

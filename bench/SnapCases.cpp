@@ -30,14 +30,6 @@ constexpr double kCellHeight = 190;
 constexpr double kReach = 12; ///< of a snap at a zoom of 1
 
 constexpr int kRuns = 4;
-constexpr double kWantedOverBounds = 2;
-/// Of ten times as many segments, which all but a few paths keep to themselves. The few
-/// microseconds that are compared lie near what the host's clock can tell.
-constexpr double kWantedGrowth = 3;
-/// The same growth beside what asking the host for the bounds costs, which the clock can tell well.
-constexpr double kWantedGrowthOverBounds = 0.05;
-constexpr double kWantedShare = 0.01;
-constexpr double kWantedFootMicroseconds = 1.5;
 
 /// Three waves across a cell of the page, whatever the number of its anchors.
 easel::Segments waveIn(int cell, int anchors) {
@@ -95,9 +87,8 @@ constexpr AIRealPoint kGrab{kOrigin.h + 2000, kOrigin.v};
 /// On a path, here and there in turn, so that each message moves the axis.
 constexpr AIRealPoint kPlaces[] = {{4817, -3499}, {4819, -3498}};
 
-void keepLeast(double& least, double seconds, bool first) {
-    least = first ? seconds : std::min(least, seconds);
-}
+/// Of a time not yet measured, the first.
+void keepLeast(double& least, double seconds) { least = std::fmin(least, seconds); }
 
 void run(benchmark::State& state, SnapCase& measured) {
     Sitting sitting{1, easel::MirrorMode::Layer};
@@ -106,14 +97,15 @@ void run(benchmark::State& state, SnapCase& measured) {
     sitting.press(kGrab);
     static_cast<void>(sitting.drag(kPlaces[0], Take::TotalTime));
     for ([[maybe_unused]] const auto step : state) {
-        const bool first = !measured.measured;
         const Cost own = sitting.drag(kPlaces[0], Take::OwnTime);
-        if (own.hostCalls < kPaths) return state.SkipWithError("no art was looked at");
-        keepLeast(measured.ownSeconds, own.ownSeconds, first);
+        if (own.hostCalls < kPaths) {
+            measured = {.segments = measured.segments};
+            return state.SkipWithError("no art was looked at");
+        }
+        keepLeast(measured.ownSeconds, own.ownSeconds);
         const Cost total = sitting.drag(kPlaces[1], Take::TotalTime);
-        keepLeast(measured.totalSeconds, total.seconds, first);
-        keepLeast(measured.boundsSeconds, askForBounds(paths), first);
-        measured.measured = true;
+        keepLeast(measured.totalSeconds, total.seconds);
+        keepLeast(measured.boundsSeconds, askForBounds(paths));
         state.SetIterationTime(total.seconds);
         state.counters["calls"] = static_cast<double>(own.hostCalls);
     }
@@ -124,7 +116,10 @@ void run(benchmark::State& state, SnapCase& measured) {
         row.store(easel::installedSuites().functions(row.name, row.version));
     const PerpendicularSnap snap = findPerpendicular(widen(kOrigin), widen(kPlaces[1]), kReach);
     ai::suites = {};
-    if (!snap.point) return state.SkipWithError("nothing was snapped to");
+    if (!snap.point) {
+        measured = {.segments = measured.segments};
+        return state.SkipWithError("nothing was snapped to");
+    }
     measured.examinedShare =
         static_cast<double>(snap.examined) / (kPaths * (measured.segments - 1.0));
     state.counters["own_us"] = 1e6 * measured.ownSeconds;
@@ -154,24 +149,29 @@ std::vector<Question> questions() {
     return all;
 }
 
-double timePerQuestion(const std::vector<Question>& all, void (*answer)(const Question&)) {
+/// `answer` tells how many it found.
+double timePerQuestion(const std::vector<Question>& all, int (*answer)(const Question&)) {
+    int found = 0;
     const Stopwatch watch;
     for (const Question& question : all)
-        answer(question);
-    return watch.processorSeconds() / static_cast<double>(all.size());
+        found += answer(question);
+    const double seconds = watch.processorSeconds() / static_cast<double>(all.size());
+    return found > 0 ? seconds : kNotMeasured;
 }
 
-void findFeet(const Question& question) {
+int findFeet(const Question& question) {
     const Feet feet = perpendicularFeet(question.curve, question.from);
     benchmark::DoNotOptimize(feet);
+    return feet.count;
 }
 
-void sample(const Question& question) {
+int sample(const Question& question) {
     constexpr int kSamples = 64;
     for (int i = 0; i < kSamples; ++i) {
         const Point point = evaluate(question.curve, static_cast<double>(i) / kSamples);
         benchmark::DoNotOptimize(point);
     }
+    return kSamples;
 }
 
 } // namespace
@@ -185,42 +185,36 @@ void SnapCases::registerAll() {
             ->Iterations(kRuns)
             ->Unit(benchmark::kMicrosecond);
 
-    benchmark::RegisterBenchmark("snap/feet",
-                                 [this](benchmark::State& state) {
-                                     const std::vector<Question> all = questions();
-                                     double samples = std::numeric_limits<double>::infinity();
-                                     for ([[maybe_unused]] const auto step : state) {
-                                         const double feet = timePerQuestion(all, findFeet);
-                                         footSeconds_ = std::min(footSeconds_, feet);
-                                         samples = std::min(samples, timePerQuestion(all, sample));
-                                         state.SetIterationTime(feet);
-                                     }
-                                     state.counters["over_64_samples"] = footSeconds_ / samples;
-                                 })
+    const auto measureFeet = [this](benchmark::State& state) {
+        const std::vector<Question> all = questions();
+        for ([[maybe_unused]] const auto step : state) {
+            const double feet = timePerQuestion(all, findFeet);
+            if (std::isnan(feet)) return state.SkipWithError("no feet were found");
+            keepLeast(footSeconds_, feet);
+            keepLeast(sampleSeconds_, timePerQuestion(all, sample));
+            state.SetIterationTime(feet);
+        }
+        state.counters["over_64_samples"] = footSeconds_ / sampleSeconds_;
+    };
+    benchmark::RegisterBenchmark("snap/feet", measureFeet)
         ->UseManualTime()
         ->Iterations(kRuns)
         ->Unit(benchmark::kNanosecond);
 }
 
-void SnapCases::judge(Findings& findings) const {
-    if (many_.measured) {
-        findings.push_back(
-            {"drag over 1,000 paths of 100 segments: whole message over their bounds",
-             kWantedOverBounds, many_.totalSeconds / many_.boundsSeconds, "x"});
-        findings.push_back({"drag over them: share of curves whose feet are computed", kWantedShare,
-                            many_.examinedShare, ""});
-    }
-    if (few_.measured && many_.measured) {
-        findings.push_back({"drag over them: own time over that with 10 segments each",
-                            kWantedGrowth, many_.ownSeconds / few_.ownSeconds, "x"});
-        findings.push_back(
-            {"drag over them: own time beyond that with 10 segments each, over their bounds",
-             kWantedGrowthOverBounds, (many_.ownSeconds - few_.ownSeconds) / many_.boundsSeconds,
-             "x"});
-    }
-    if (footSeconds_ < std::numeric_limits<double>::infinity())
-        findings.push_back({"feet of perpendiculars on one curve", kWantedFootMicroseconds,
-                            1e6 * footSeconds_, "us"});
+void SnapCases::report(Findings& findings) const {
+    findings.push_back({"drag over 1,000 paths of 100 segments: whole message over their bounds",
+                        many_.totalSeconds / many_.boundsSeconds});
+    findings.push_back(
+        {"drag over them: share of curves whose feet are computed", many_.examinedShare});
+    findings.push_back({"drag over them: own time over that with 10 segments each",
+                        many_.ownSeconds / few_.ownSeconds});
+    findings.push_back(
+        {"drag over them: own time beyond that with 10 segments each, over their bounds",
+         (many_.ownSeconds - few_.ownSeconds) / many_.boundsSeconds});
+    findings.push_back({"feet of perpendiculars on one curve", 1e6 * footSeconds_});
+    findings.push_back({"feet of perpendiculars on one curve, over 64 samples of it",
+                        footSeconds_ / sampleSeconds_});
 }
 
 } // namespace facetta::bench

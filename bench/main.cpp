@@ -1,5 +1,6 @@
-/// Runs the benchmarks, then says what they show beside what is wanted. Takes the options of Google
-/// Benchmark: --benchmark_filter=REGEX runs some of them.
+/// Runs the benchmarks, then says what they show beside what it may be at most. Takes the options
+/// of Google Benchmark: --benchmark_filter=REGEX runs some of them. With --check, a miss ends it
+/// with status 1. Run in the root of the repository.
 
 #include "bench/LiveLayerCase.h"
 #include "bench/MirrorCases.h"
@@ -10,7 +11,11 @@
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
+#include <cstring>
+#include <exception>
 #include <limits>
 #include <vector>
 
@@ -37,10 +42,21 @@ void runInRounds() {
     benchmark::RunSpecifiedBenchmarks();
 }
 
+/// Takes `option` out of the arguments, and tells whether it was there.
+bool takeOption(int& argumentCount, char** arguments, const char* option) {
+    char** const end = arguments + argumentCount;
+    char** const kept = std::remove_if(
+        arguments, end, [&](const char* each) { return std::strcmp(each, option) == 0; });
+    argumentCount = static_cast<int>(kept - arguments);
+    return kept != end;
+}
+
 } // namespace
 
-int main(int argumentCount, char** arguments) {
+int main(int argumentCount, char** arguments) try {
     using namespace facetta::bench;
+    const std::vector<Limit> limits = readLimits("bench/limits.tsv");
+    const bool check = takeOption(argumentCount, arguments, "--check");
     benchmark::Initialize(&argumentCount, arguments);
     if (benchmark::ReportUnrecognizedArguments(argumentCount, arguments)) return 2;
 
@@ -62,11 +78,19 @@ int main(int argumentCount, char** arguments) {
     runInRounds();
 
     Findings findings;
-    mirroring.judge(findings);
-    liveLayer.judge(findings);
-    program.judge(findings);
-    snapping.judge(findings);
-    overlay.judge(findings);
-    print(findings);
-    write(findings, "build/bench/findings.json");
+    mirroring.report(findings);
+    liveLayer.report(findings);
+    program.report(findings);
+    snapping.report(findings);
+    overlay.report(findings);
+    Verdicts verdicts = judge(findings, limits);
+    const bool some = !benchmark::GetBenchmarkFilter().empty();
+    if (some && !check) // a check is of everything
+        std::erase_if(verdicts, [](const Verdict& v) { return std::isnan(v.measured); });
+    print(verdicts);
+    write(verdicts, "build/bench/findings.json");
+    return check && countMisses(verdicts) > 0 ? 1 : 0;
+} catch (const std::exception& error) {
+    std::fprintf(stderr, "bench: %s\n", error.what());
+    return 1;
 }

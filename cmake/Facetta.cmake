@@ -8,7 +8,7 @@
 #   facetta_program(easel SOURCES main.cpp DEPENDS easel facetta::cli11)
 #       a product of that name
 #   facetta_benchmarks(mirror SOURCES MirrorBenchmarks.cpp DEPENDS symmetry)
-#       the Google Benchmark program mirror_benchmarks, run by the target "bench"; Linux only
+#       the Google Benchmark program mirror_benchmarks, for scripts/bench; Linux only
 #   facetta_fuzzer(layout_fuzz SOURCES layout_fuzz.cpp DEPENDS layout CORPUS fuzz/corpus/layout_fuzz)
 #       a fuzz target and the folders of inputs it starts from; the preset linux-fuzz makes fuzzers
 #       of them, the other Linux presets tests that replay and change those inputs
@@ -155,18 +155,8 @@ function(facetta_benchmarks name)
     if(WIN32)
         return() # no package has Google Benchmark for Windows
     endif()
-    if(NOT TARGET bench)
-        add_custom_target(bench)
-    endif()
     add_executable(${name}_benchmarks ${arg_SOURCES})
     target_link_libraries(${name}_benchmarks PRIVATE facetta_flags facetta::benchmark ${depends})
-    set(results ${CMAKE_SOURCE_DIR}/build/bench)
-    file(MAKE_DIRECTORY ${results})
-    add_custom_target(run_${name}_benchmarks USES_TERMINAL
-        COMMAND ${name}_benchmarks --benchmark_out=${results}/${name}.json
-            --benchmark_out_format=json
-        WORKING_DIRECTORY ${CMAKE_SOURCE_DIR})
-    add_dependencies(bench run_${name}_benchmarks)
 endfunction()
 
 function(facetta_fuzzer name)
