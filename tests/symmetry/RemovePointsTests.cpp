@@ -82,22 +82,43 @@ TEST_CASE("removing what a cut put in brings the curve back, wherever it was cut
 }
 
 TEST_CASE("removing many anchors in a row moves the curve no farther than removing one") {
-    // A chain of short straight steps along a slightly bent line near the x axis.
-    PathShape path;
-    for (int i = 0; i <= 400; ++i) {
-        const Point anchor =
-            rounded({i * 2.5, 0.004 * std::sin(i * 0.02) + (i % 2 == 0 ? 0.0005 : 0.0)});
-        path.segments.push_back({anchor, anchor, anchor});
-    }
-    const PathShape thinned = removeRedundantAxisPoints(path, {.axisCount = 2});
-    CHECK(thinned.segments.size() < 100);
-    for (const PathSegment& segment : path.segments) {
-        double nearest = 1e300;
-        for (std::size_t i = 0; i < curveCount(thinned); ++i)
-            nearest = std::min(
-                nearest, distance(segment.anchor, nearestPoint({thinned.segments[i].anchor,
-                                                                thinned.segments[i + 1].anchor},
-                                                               segment.anchor)));
-        REQUIRE(nearest <= kRemovalDistance);
+    const auto straightSteps = [](int count, auto placeOf) {
+        PathShape path;
+        for (int i = 0; i < count; ++i) {
+            const Point anchor = rounded(placeOf(i));
+            path.segments.push_back({anchor, anchor, anchor});
+        }
+        return path;
+    };
+    const struct {
+        std::string what;
+        int axisCount;
+        PathShape path;
+        std::size_t fewerThan;
+    } rows[] = {
+        {"along a slightly bent line near the x axis", 2,
+         straightSteps(
+             401,
+             [](int i) {
+                 return Point{i * 2.5, 0.004 * std::sin(i * 0.02) + (i % 2 == 0 ? 0.0005 : 0.0)};
+             }),
+         100},
+        // One more of them could go if each were looked at alone.
+        {"round the origin, an anchor on each half-line", 72,
+         straightSteps(144, [](int i) { return Point{} + 0.5 * direction(i * kPi / 72); }), 100},
+    };
+    for (const auto& [what, axisCount, path, fewerThan] : rows) {
+        INFO(what);
+        const PathShape thinned = removeRedundantAxisPoints(path, {.axisCount = axisCount});
+        CHECK(thinned.segments.size() < fewerThan);
+        for (const PathSegment& segment : path.segments) {
+            double nearest = 1e300;
+            for (std::size_t i = 0; i < curveCount(thinned); ++i)
+                nearest = std::min(
+                    nearest, distance(segment.anchor, nearestPoint({thinned.segments[i].anchor,
+                                                                    thinned.segments[i + 1].anchor},
+                                                                   segment.anchor)));
+            REQUIRE(nearest <= kRemovalDistance);
+        }
     }
 }
