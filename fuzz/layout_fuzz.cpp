@@ -68,9 +68,10 @@ void checkReprint(const Layout& layout) {
 void checkPlacement(const Layout& layout) try {
     const Placement placement = place(layout, SomeSizes());
     for (const Placed& placed : placement) {
-        const Rectangle& r = placed.bounds;
-        for (const int length : {r.x, r.y, r.width, r.height})
-            require(std::abs(length) <= kMaxCoordinate, "window coordinates");
+        const auto& [left, top, right, bottom] = placed.bounds;
+        for (const int coordinate : {left, top, right, bottom})
+            require(std::abs(coordinate) <= kMaxCoordinate, "window coordinates");
+        require(left <= right && top <= bottom, "sides in their order");
     }
 } catch (const Error&) {
     // Too large for any window, and said so.

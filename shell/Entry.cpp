@@ -4,7 +4,7 @@
 #include "host/MessageNames.h"
 #include "host/Messages.h"
 #include "shell/FacettaPlugin.h"
-#include "toolkit/ImplCommon/SuiteTables.h"
+#include "toolkit/SuiteTables.h"
 
 #include <cstring>
 #include <string_view>

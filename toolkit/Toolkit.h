@@ -6,7 +6,7 @@
 #include "host/suites/AINotifierSuite.h"
 #include "host/suites/AIRuntimeSuite.h"
 #include "host/suites/AIUIThemeSuite.h"
-#include "toolkit/ImplCommon/Cursors.h"
+#include "toolkit/Cursors.h"
 #include "toolkit/ImplCommon/Dialogs.h"
 #include "toolkit/ImplCommon/Theme.h"
 

@@ -1,6 +1,6 @@
 #include "easel/suites/Suites.h"
 #include "tests/easel/runtime/TestPlugin.h"
-#include "toolkit/ImplCommon/Cursors.h"
+#include "toolkit/Cursors.h"
 
 #include <doctest/doctest.h>
 

@@ -34,7 +34,7 @@ std::vector<EntryView> viewOf(const INRDMList& list) {
 
 CoADMItem::CoADMItem(CoADMDialog& dialog, int id, const ItemType& type, const Bounds& bounds)
     : plugin(dialog.plugin()), dialog_(dialog), id_(id), type_(type),
-      numeric_(isField(type.kind) && type.kind >= ControlKind::SpinEdit) {
+      numeric_(isNumberField(type.kind)) {
     view_.kind = type.kind;
     view_.bounds = bounds;
     view_.hasPicture = type.hasPicture;
@@ -130,12 +130,11 @@ void CoADMItem::setKnown(bool known) {
 }
 
 void CoADMItem::setText(std::string text) {
-    const bool shown = view_.known && !typed_ && view_.text == text;
-    typed_.reset();
+    const bool shown = view_.known && !view_.typed && view_.text == text;
+    view_.typed.reset();
     if (numeric_) {
         // A text that is no number leaves the number as it is.
-        if (const auto value = dialog_.dialogs().numberIn(*this, text))
-            setValue(static_cast<float>(*value));
+        if (const auto value = numberIn(text)) setValue(static_cast<float>(*value));
         return;
     }
     if (shown) return;
@@ -144,7 +143,7 @@ void CoADMItem::setText(std::string text) {
     changed(Aspect::Text);
 }
 
-const std::string& CoADMItem::text() const { return typed_ ? *typed_ : view_.text; }
+const std::string& CoADMItem::text() const { return view_.typed ? *view_.typed : view_.text; }
 
 void CoADMItem::setMaximumLength(int characters) {
     if (characters < 0) throw NRDMParameterException();
@@ -174,10 +173,10 @@ void CoADMItem::setForm(const NumberForm& form) {
 
 void CoADMItem::setValue(float value) {
     value_ = within(requireNumber(value));
-    const bool shown = view_.known && !typed_ && view_.value == value_;
+    const bool shown = view_.known && !view_.typed && view_.value == value_;
     const std::string shownText = view_.text;
     view_.known = true;
-    typed_.reset();
+    view_.typed.reset();
     makeNumeric();
     if (kind() == ControlKind::RadioButton && isOn()) switchOthersOff();
     refreshValue();
@@ -254,9 +253,13 @@ void CoADMItem::listChanged() {
     if (id_ == kADMMenuItemID) dialog_.menuChanged();
 }
 
+std::optional<double> CoADMItem::numberIn(const std::string& text) const {
+    return NRDM::numberIn(text, form_, dialog_.dialogs().customs, value_);
+}
+
 void CoADMItem::dropTyped() {
-    if (!typed_) return;
-    typed_.reset();
+    if (!view_.typed) return;
+    view_.typed.reset();
     changed(Aspect::Text);
 }
 
@@ -288,6 +291,178 @@ void CoADMItem::close() {
     };
     const Ending ending{*this};
     if (procedures.destroy != nullptr) procedures.destroy(this);
+}
+
+// What users do. Each event keeps item and dialog: what is notified may destroy them.
+
+struct CoADMItem::Keeper {
+    explicit Keeper(CoADMItem& item)
+        : self(item.shared_from_this()), dialog(item.dialog_.shared_from_this()) {}
+    std::shared_ptr<CoADMItem> self;
+    std::shared_ptr<CoADMDialog> dialog;
+};
+
+bool CoADMItem::isRefused() const {
+    return closed_ || !view_.enabled || !view_.visible || !dialog_.isEnabled();
+}
+
+void CoADMItem::clicked() {
+    const Keeper keeper(*this);
+    if (isRefused() || !dialog_.finishTyping(*this) || isRefused()) return;
+    switch (kind()) {
+    case ControlKind::PushButton:
+        notify(kADMUserChangedNotifier);
+        break;
+    case ControlKind::CheckBox:
+        changeTo(isOn() && view_.known ? 0.0F : 1.0F, Phase::Complete);
+        break;
+    case ControlKind::RadioButton:
+        if (!isOn() || !view_.known)
+            changeTo(1, Phase::Complete);
+        else if ((view_.style & kADMRadioAllMayBeOffStyle) != 0)
+            changeTo(0, Phase::Complete);
+        break;
+    case ControlKind::Label:
+    case ControlKind::MultiLineLabel:
+        return dialog_.activateNeighbour(*this);
+    default:
+        return;
+    }
+    dialog_.returnKeyboard(); // or Space, meant for the document, would press it again
+}
+
+void CoADMItem::typed(const std::string& text) {
+    const Keeper keeper(*this);
+    if (isRefused() || text == this->text()) return;
+    view_.typed = text;
+    notify(kADMIntermediateChangedNotifier);
+}
+
+bool CoADMItem::commit() {
+    const Keeper keeper(*this);
+    if (closed_ || !view_.typed) return true;
+    const std::string text = *std::exchange(view_.typed, std::nullopt);
+    if (text == view_.text) return true; // typed and taken back
+    if (kind() == ControlKind::EditPopup && view_.style == kADMListedValuesOnlyStyle &&
+        list_->withText(text) == nullptr) {
+        refuse();
+        return false;
+    }
+    return numeric_ ? commitNumber(text) : commitText(text);
+}
+
+bool CoADMItem::commitText(const std::string& text) {
+    view_.text = text;
+    view_.known = true;
+    changed(Aspect::Text);
+    notify(kADMUserChangedNotifier);
+    return true;
+}
+
+bool CoADMItem::commitNumber(const std::string& text) {
+    const auto number = numberIn(text);
+    // As it is shown: a limit itself can always be typed, however few of its decimals that takes.
+    if (!number || *number < rounded(lowest_, form_) || *number > rounded(highest_, form_)) {
+        refuse();
+        return false;
+    }
+    changeTo(within(*number), Phase::Complete);
+    changed(Aspect::Text); // the number as it is written, even when it is the same
+    return true;
+}
+
+void CoADMItem::refuse() {
+    changed(Aspect::Text);
+    dialog_.dialogs().peers().beep();
+}
+
+void CoADMItem::revert() {
+    const Keeper keeper(*this);
+    dropTyped();
+}
+
+/// Takes over what the user has made of the value, and tells it when it is another one: during a
+/// change than before, at its end than at its start.
+void CoADMItem::changeTo(float value, Phase phase) {
+    const float start = valueBefore_.value_or(value_);
+    const bool moved = value != value_ || !view_.known;
+    valueBefore_.reset();
+    if (phase == Phase::InProgress) valueBefore_ = start;
+    if (moved) {
+        value_ = value;
+        view_.known = true;
+        refreshValue();
+        refreshText();
+        changed(Aspect::Text | Aspect::Value);
+    }
+    if (phase == Phase::InProgress && moved) notify(kADMIntermediateChangedNotifier);
+    if (phase == Phase::Complete && (moved || value != start)) notify(kADMUserChangedNotifier);
+}
+
+std::optional<float> CoADMItem::typedValue() const {
+    if (!view_.typed) return std::nullopt;
+    const auto number = numberIn(*view_.typed);
+    return number ? std::optional(static_cast<float>(*number)) : std::nullopt;
+}
+
+void CoADMItem::step(int steps, bool large, Phase phase) {
+    const Keeper keeper(*this);
+    if (isRefused() || !view_.known) return;
+    if (kind() != ControlKind::Slider && !numeric_) return;
+    if (steps == 0 && !valueBefore_) return; // the end of nothing
+    const double from = typedValue().value_or(value_);
+    const double to =
+        from + steps * static_cast<double>(large ? largeIncrement() : smallIncrement());
+    view_.typed.reset();
+    changeTo(steps == 0 ? value_ : within(rounded(to, form_)), phase);
+}
+
+void CoADMItem::slide(double value, Phase phase) {
+    const Keeper keeper(*this);
+    if (isRefused()) return;
+    view_.typed.reset();
+    changeTo(within(rounded(value, form_)), phase);
+}
+
+void CoADMItem::choose(int position) {
+    const Keeper keeper(*this);
+    INRDMEntry* const entry = list_ ? list_->at(position) : nullptr;
+    if (isRefused() || entry == nullptr || !entry->isChoice()) return;
+    if (isField(kind())) { // the entry's text counts, as if typed
+        view_.typed = entry->text();
+        if (commit()) changed(Aspect::Text); // over what was typed before
+        return;
+    }
+    list_->choose(entry);
+    view_.known = true;
+    notify(kADMUserChangedNotifier);
+}
+
+void CoADMItem::activated(bool active) {
+    const Keeper keeper(*this);
+    if (closed_) return;
+    if (active) {
+        dialog_.setActive(this);
+    } else {
+        commit();
+        if (isActive()) dialog_.setActive(nullptr);
+    }
+}
+
+void CoADMItem::draw(CoADMDrawer& drawer) {
+    const Keeper keeper(*this);
+    if (!closed_ && procedures.draw != nullptr) procedures.draw(this, &drawer);
+}
+
+bool CoADMItem::track(const TrackInput& input) {
+    const Keeper keeper(*this);
+    dialog_.noticeInput(input.action);
+    if (isRefused() || procedures.track == nullptr || (mask & maskOf(input.action)) == 0)
+        return false;
+    CoADMTracker tracker(input);
+    const bool used = procedures.track(this, &tracker) != 0;
+    if (used && input.action == kADMButtonUpAction && !closed_) notify(kADMUserChangedNotifier);
+    return used;
 }
 
 } // namespace NRDM

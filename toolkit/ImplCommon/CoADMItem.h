@@ -81,6 +81,8 @@ public:
 
     // Number. Values and limits are 32-bit reals, as the interface has them.
     void setForm(const NumberForm& form);
+    /// What `text` means here; nothing when it cannot be read.
+    [[nodiscard]] std::optional<double> numberIn(const std::string& text) const;
     [[nodiscard]] const NumberForm& form() const noexcept { return form_; }
     /// Within the limits. A plain edit becomes a field with a number.
     void setValue(float value);
@@ -105,7 +107,7 @@ public:
 
     /// Drops what is typed, without a word.
     void dropTyped();
-    [[nodiscard]] bool hasTyped() const noexcept { return typed_.has_value(); }
+    [[nodiscard]] bool hasTyped() const noexcept { return view_.typed.has_value(); }
 
     void attach(std::unique_ptr<ItemPeer> peer) { peer_ = std::move(peer); }
     [[nodiscard]] ItemPeer* peer() const noexcept { return peer_.get(); }
@@ -161,7 +163,6 @@ private:
     std::optional<float> smallIncrement_; ///< else the customary one of its unit
     std::optional<float> largeIncrement_;
 
-    std::optional<std::string> typed_; ///< by the user, not taken over yet
     std::optional<float> valueBefore_; ///< what a change in progress started from
 };
 

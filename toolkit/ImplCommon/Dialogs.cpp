@@ -140,10 +140,6 @@ void Dialogs::enableTips(bool enabled) {
             item->enableTip(item->isTipEnabled());
 }
 
-std::optional<double> Dialogs::numberIn(const CoADMItem& item, const std::string& text) const {
-    return NRDM::numberIn(text, item.form(), customs, item.value());
-}
-
 Increments Dialogs::incrementsOf(ADMUnits units) const {
     const auto found = increments_.find(units);
     if (found != increments_.end()) return found->second;

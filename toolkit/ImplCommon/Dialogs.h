@@ -83,9 +83,6 @@ public:
         return open_;
     }
 
-    /// What `text` means in the field of `item`.
-    [[nodiscard]] std::optional<double> numberIn(const CoADMItem& item,
-                                                 const std::string& text) const;
     [[nodiscard]] Increments incrementsOf(ADMUnits units) const;
     void setIncrements(ADMUnits units, const Increments& increments);
 

@@ -20,6 +20,10 @@ struct ItemType {
 [[nodiscard]] constexpr bool isField(ControlKind kind) {
     return kind >= ControlKind::Edit && kind <= ControlKind::SpinEditSlider;
 }
+/// Is what is typed there a number, whatever else is said of the item?
+[[nodiscard]] constexpr bool isNumberField(ControlKind kind) {
+    return kind >= ControlKind::SpinEdit && kind <= ControlKind::SpinEditSlider;
+}
 /// Does a list belong to it?
 [[nodiscard]] constexpr bool hasList(ControlKind kind) {
     return kind == ControlKind::EditPopup || kind == ControlKind::SpinEditPopup ||

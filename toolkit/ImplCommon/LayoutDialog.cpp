@@ -15,25 +15,6 @@ using layout::Kind;
 
 using ItemsOfElements = std::map<const Element*, CoADMItem*>;
 
-/// A popup cluster is a column with a popup list at its head, which takes the cluster's entries.
-void headPopupClusters(Element& element) {
-    for (Element& child : element.children)
-        headPopupClusters(child);
-    const auto id = integerOf(element, Key::PopupItemId);
-    if (element.kind != Kind::PopupCluster || !id) return;
-    Element popup;
-    popup.kind = Kind::Popup;
-    popup.position = element.position;
-    popup.attributes[Key::ItemId] = static_cast<double>(*id);
-    if (const auto width = integerOf(element, Key::PopupItemWidth))
-        popup.attributes[Key::Width] = static_cast<double>(*width);
-    std::vector<Element> rest;
-    for (Element& child : element.children)
-        (child.kind == Kind::Entry ? popup.children : rest).push_back(std::move(child));
-    rest.insert(rest.begin(), std::move(popup));
-    element.children = std::move(rest);
-}
-
 /// Calls `apply` with the attribute `key` as a whole number, when there is one.
 template <typename Apply> void withInteger(const Element& element, Key key, Apply apply) {
     if (const auto value = integerOf(element, key)) apply(*value);
@@ -102,10 +83,7 @@ public:
     Sizes(CoADMDialog& dialog, const ItemsOfElements& items) : dialog_(dialog), items_(items) {}
 
     [[nodiscard]] layout::ItemSize measure(const Element& element) const override {
-        const NaturalSize natural = naturalSizeOf(element);
-        layout::ItemSize size{natural.extent.width, natural.extent.height, std::nullopt};
-        if (natural.baseline >= 0) size.baseline = natural.baseline;
-        return size;
+        return dialog_.dialogs().peers().measure(items_.at(&element)->view(), dialog_.view().kind);
     }
 
     [[nodiscard]] int heightAt(const Element& element, int width, int natural) const override {
@@ -115,14 +93,10 @@ public:
     }
 
     [[nodiscard]] int titleHeight(const Element& group) const override {
-        return naturalSizeOf(group).extent.height;
+        return measure(group).height;
     }
 
 private:
-    [[nodiscard]] NaturalSize naturalSizeOf(const Element& element) const {
-        return dialog_.dialogs().peers().measure(items_.at(&element)->view(), dialog_.view().kind);
-    }
-
     CoADMDialog& dialog_;
     const ItemsOfElements& items_;
 };
@@ -136,21 +110,16 @@ std::optional<layout::Layout> readLayout(SPPluginRef plugin, int id) {
     return layout::load(text, std::to_string(id));
 }
 
-void fill(CoADMDialog& dialog, const layout::Layout& source) {
-    layout::Layout layout = source;
-    headPopupClusters(layout.dialog);
+void fill(CoADMDialog& dialog, const layout::Layout& layout) {
     dialog.setTitle(std::string(textOf(layout.dialog, Key::Name)));
     withInteger(layout.dialog, Key::Font, [&](int font) { dialog.setFont(font); });
     ItemsOfElements items;
     createItems(dialog, layout.dialog, items);
     const layout::Placement placement = place(layout, Sizes(dialog, items));
-    const layout::Rectangle& whole = placement.front().bounds;
-    dialog.setSize({whole.width, whole.height});
+    dialog.setSize(sizeOf(placement.front().bounds));
     for (const auto& [element, bounds, outset] : placement) {
         const auto found = items.find(element);
-        if (found != items.end())
-            found->second->setBounds(
-                {bounds.x, bounds.y, bounds.x + bounds.width, bounds.y + bounds.height});
+        if (found != items.end()) found->second->setBounds(bounds);
     }
 }
 

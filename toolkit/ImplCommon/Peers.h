@@ -17,29 +17,14 @@
 
 #include "host/Handles.h"
 #include "host/Types.h"
+#include "toolkit/layout/Layout.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace NRDM {
-
-/// From the top left of the dialog's client area; right and bottom exclusive.
-struct Bounds {
-    int left = 0;
-    int top = 0;
-    int right = 0;
-    int bottom = 0;
-
-    bool operator==(const Bounds&) const = default;
-};
-
-struct Extent {
-    int width = 0;
-    int height = 0;
-
-    bool operator==(const Extent&) const = default;
-};
 
 struct Place {
     int x = 0;
@@ -91,11 +76,13 @@ struct ItemView {
     ControlKind kind = ControlKind::Label;
     Bounds bounds;
     std::string text; ///< caption, or contents of a field; "&" marks the access key of a caption
-    std::string tip;  ///< empty for none
-    int font = 0;     ///< ADM's number
-    int justify = 0;  ///< 0 left, 1 centre, 2 right
-    int style = 0;    ///< ADM's bits for the kind
-    int cursor = 0;   ///< ADM's number, 0 for the kind's own
+    /// Into a field by the user, and not taken over yet.
+    std::optional<std::string> typed;
+    std::string tip; ///< empty for none
+    int font = 0;    ///< ADM's number
+    int justify = 0; ///< 0 left, 1 centre, 2 right
+    int style = 0;   ///< ADM's bits for the kind
+    int cursor = 0;  ///< ADM's number, 0 for the kind's own
     bool visible = true;
     bool enabled = true;
     bool known = true;
@@ -274,12 +261,6 @@ public:
     [[nodiscard]] virtual void* window() const = 0;
 };
 
-/// The size an item asks for.
-struct NaturalSize {
-    Extent extent;
-    int baseline = -1; ///< of its first line below its top; -1 without text
-};
-
 /// Makes peers, and answers what only the screen knows.
 class Peers {
 public:
@@ -287,7 +268,9 @@ public:
 
     virtual std::unique_ptr<DialogPeer> createDialog(const DialogView& view,
                                                      DialogEvents& events) = 0;
-    [[nodiscard]] virtual NaturalSize measure(const ItemView& view, DialogKind where) const = 0;
+    /// The size an item asks for.
+    [[nodiscard]] virtual layout::ItemSize measure(const ItemView& view,
+                                                   DialogKind where) const = 0;
 
     /// The height of a wrapped text of `width`.
     [[nodiscard]] virtual int heightAt(const ItemView& view, DialogKind where, int width) const = 0;

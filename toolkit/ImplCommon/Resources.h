@@ -23,8 +23,9 @@ enum class ResourceKind {
 /// program: a plug-in that is part of it. Throws `ai::Error`.
 [[nodiscard]] SPPlatformAccessRef resourceLibrary(SPPluginRef plugin);
 
-/// A resource of `library`, valid while it stays loaded; empty when there is none. A native build
-/// has one set of resources, whatever the library.
+/// A resource of `library`, valid while it stays loaded; empty when there is none. Whatever the
+/// toolkit is linked into brings this function along with its resources: the toolkit has none of
+/// its own. A native build has one set of them, whatever the library.
 [[nodiscard]] Bytes findResource(SPPlatformAccessRef library, ResourceKind kind, int id);
 
 /// String `id` of the string tables; nothing when it is missing or empty, which the tables cannot

@@ -31,10 +31,6 @@ template <typename Object> Object& objectOf(Object* reference) {
 [[nodiscard]] constexpr ADMRect rectOf(const Bounds& bounds) {
     return {bounds.left, bounds.top, bounds.right, bounds.bottom};
 }
-[[nodiscard]] constexpr Extent sizeOf(const Bounds& bounds) {
-    return {bounds.right - bounds.left, bounds.bottom - bounds.top};
-}
-
 namespace slots {
 
 template <typename Result, typename... Arguments> using Function = Result (*)(Arguments...);

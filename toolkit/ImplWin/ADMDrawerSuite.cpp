@@ -2,7 +2,7 @@
 
 #include "toolkit/ImplCommon/CoADMIcon.h"
 #include "toolkit/ImplCommon/Slots.h"
-#include "toolkit/ImplCommon/SuiteTables.h"
+#include "toolkit/ImplCommon/SuiteUnits.h"
 
 #include <algorithm>
 #include <string>

@@ -1,7 +1,7 @@
 #include "toolkit/ImplWin/WinPeers.h"
 
 #include "toolkit/ImplCommon/Slots.h"
-#include "toolkit/ImplCommon/SuiteTables.h"
+#include "toolkit/ImplCommon/SuiteUnits.h"
 
 namespace NRDM {
 namespace {

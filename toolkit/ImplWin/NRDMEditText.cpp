@@ -86,10 +86,7 @@ void NRDMEditText::arrange() {
     field_.place(place);
 }
 
-void NRDMEditText::showText() {
-    field_.setText(toWide(view().text));
-    edited_ = false;
-}
+void NRDMEditText::showText() { field_.setText(toWide(view().text)); }
 
 void NRDMEditText::changed(Aspect aspects) {
     if (has(aspects, Aspect::Text | Aspect::Value)) showText();
@@ -119,7 +116,7 @@ void NRDMEditText::invalidate() {
 }
 
 bool NRDMEditText::commit() {
-    if (!std::exchange(edited_, false)) return true;
+    if (!view().typed) return true;
     const std::weak_ptr<const char> alive = watch();
     const bool accepted = events().commit();
     if (alive.expired() || accepted) return accepted;
@@ -127,10 +124,7 @@ bool NRDMEditText::commit() {
     return false;
 }
 
-void NRDMEditText::step(int steps, bool large) {
-    edited_ = false; // the model takes the pending text over with the step
-    events().step(steps, large, Phase::Complete);
-}
+void NRDMEditText::step(int steps, bool large) { events().step(steps, large, Phase::Complete); }
 
 bool NRDMEditText::fieldKey(WPARAM key) {
     if (popup_ && popup_->key(key)) return true;
@@ -164,7 +158,7 @@ bool NRDMEditText::fieldKey(WPARAM key) {
         }
         return alive.expired() || (dialog().dialogKey(WM_KEYDOWN, key), true);
     case VK_ESCAPE:
-        if (edited_) events().revert();
+        if (view().typed) events().revert();
         if (alive.expired()) return true;
         showText();
         return dialog().dialogKey(WM_KEYDOWN, key) || true;
@@ -191,10 +185,7 @@ bool NRDMEditText::fieldMessage(UINT message, WPARAM wide, LPARAM lengthy) {
     }
 }
 
-void NRDMEditText::fieldChanged() {
-    edited_ = true;
-    events().typed(toUtf8(field_.text()));
-}
+void NRDMEditText::fieldChanged() { events().typed(toUtf8(field_.text())); }
 
 void NRDMEditText::fieldFocus(bool taken, HWND other) {
     const std::weak_ptr<const char> alive = watch();
@@ -234,7 +225,6 @@ void NRDMEditText::press(Part part) {
     SetCapture(handle());
     SetTimer(handle(), kRepeatTimer, kFirstRepeat, nullptr);
     repaint(placeOf(part));
-    edited_ = false;
     events().step(part == Part::Up ? 1 : -1, held(VK_SHIFT), Phase::InProgress);
 }
 

@@ -57,7 +57,6 @@ private:
     Part hotPart_ = Part::None;
     Part pressed_ = Part::None;
     int repeats_ = 0;
-    bool edited_ = false; ///< typed into since it was shown or committed
 };
 
 } // namespace NRDM

@@ -72,7 +72,7 @@ std::unique_ptr<DialogPeer> WinPeers::createDialog(const DialogView& view, Dialo
     return std::make_unique<NativeDialog>(*screen_, view, events);
 }
 
-NaturalSize WinPeers::measure(const ItemView& view, DialogKind where) const {
+layout::ItemSize WinPeers::measure(const ItemView& view, DialogKind where) const {
     if (view.hasPicture) {
         Extent largest;
         for (const int id : {view.pictures.normal, view.pictures.selected, view.pictures.disabled,
@@ -83,7 +83,7 @@ NaturalSize WinPeers::measure(const ItemView& view, DialogKind where) const {
                        std::max(largest.height, static_cast<int>(size.cy))};
         }
         const int margin = view.kind == ControlKind::Label ? 0 : kPictureMargin;
-        return {{largest.width + 2 * margin, largest.height + 2 * margin}, -1};
+        return {largest.width + 2 * margin, largest.height + 2 * margin, std::nullopt};
     }
     const bool inPanel = where == DialogKind::Panel;
     const TextStyle style = textStyleOf(view.font, inPanel);
@@ -94,7 +94,9 @@ NaturalSize WinPeers::measure(const ItemView& view, DialogKind where) const {
     const int line = static_cast<int>(std::ceil(lineMetrics(style, {1.0}).height));
     const int height = hasBaseline ? std::max(inPanel ? panelHeight : dialogHeight, line)
                                    : (inPanel ? panelHeight : dialogHeight);
-    return {{width, height}, hasBaseline ? baselineOf(0, height, style, {1.0}) : -1};
+    layout::ItemSize size{width, height, std::nullopt};
+    if (hasBaseline) size.baseline = baselineOf(0, height, style, {1.0});
+    return size;
 }
 
 int WinPeers::heightAt(const ItemView& view, DialogKind where, int width) const {

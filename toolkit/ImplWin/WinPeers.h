@@ -16,7 +16,7 @@ public:
     WinPeers(const Themes& themes, PictureSource pictures);
 
     std::unique_ptr<DialogPeer> createDialog(const DialogView& view, DialogEvents& events) override;
-    [[nodiscard]] NaturalSize measure(const ItemView& view, DialogKind where) const override;
+    [[nodiscard]] layout::ItemSize measure(const ItemView& view, DialogKind where) const override;
     [[nodiscard]] int heightAt(const ItemView& view, DialogKind where, int width) const override;
     void fail() noexcept override;
     void beep() override;

@@ -1,8 +1,8 @@
 #include "toolkit/gallery/Gallery.h"
 
-#include "toolkit/ImplCommon/SuiteTables.h"
 #include "toolkit/ImplWin/WinPeers.h"
 #include "toolkit/ImplWin/WindowClass.h"
+#include "toolkit/SuiteTables.h"
 #include "toolkit/gallery/Host.h"
 
 #include <cstdio>

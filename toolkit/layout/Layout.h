@@ -9,6 +9,7 @@
 ///
 /// docs/layouts.md tells the language to those who write layouts.
 
+#include "toolkit/layout/Bounds.h"
 #include "toolkit/layout/Messages.h"
 #include "toolkit/layout/Tree.h"
 
@@ -35,16 +36,6 @@ struct Parsed {
 /// `layout` as a text, every value worked out. Its parse is an equal layout, as long as the text
 /// keeps to the limits.
 [[nodiscard]] std::string print(const Layout& layout);
-
-/// In pixels.
-struct Rectangle {
-    int x = 0;
-    int y = 0;
-    int width = 0;
-    int height = 0;
-
-    bool operator==(const Rectangle&) const = default;
-};
 
 /// How far an element draws outside its rectangle, in pixels.
 struct Outset {
@@ -82,7 +73,7 @@ public:
 
 struct Placed {
     const Element* element; ///< of the layout that was placed, which must live on
-    Rectangle bounds;       ///< from the top left corner of the dialog's client area
+    Bounds bounds;          ///< from the top left corner of the dialog's client area
     Outset outset;
 };
 

@@ -22,7 +22,8 @@ Placed placed(const engine::Node& node, const Element& element, const Layout& la
     const engine::NodeOnAxis& x = node.on(Axis::X);
     const engine::NodeOnAxis& y = node.on(Axis::Y);
     return {&element,
-            {inPixels(x.position), inPixels(y.position), inPixels(x.length), inPixels(y.length)},
+            {inPixels(x.position), inPixels(y.position), inPixels(x.position + x.length),
+             inPixels(y.position + y.length)},
             {inPixels(x.outset.near), inPixels(y.outset.near), inPixels(x.outset.far),
              inPixels(y.outset.far)}};
 }

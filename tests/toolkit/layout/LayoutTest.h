@@ -47,17 +47,22 @@ private:
     Baselines baselines_;
 };
 
-inline std::ostream& operator<<(std::ostream& out, const Rectangle& r) {
-    return out << r.x << ',' << r.y << ' ' << r.width << 'x' << r.height;
+inline std::ostream& operator<<(std::ostream& out, const Extent& size) {
+    return out << size.width << 'x' << size.height;
+}
+inline std::string written(const Bounds& bounds) {
+    std::ostringstream out;
+    out << bounds.left << ',' << bounds.top << ' ' << sizeOf(bounds);
+    return out.str();
 }
 
 /// The size of the client area, then the rectangles of all that is in it, in the order of the
 /// tree: `290x20: 0,0 90x20; 100,0 90x20`.
 inline std::string written(const Placement& placement) {
     std::ostringstream out;
-    out << placement.front().bounds.width << 'x' << placement.front().bounds.height;
+    out << sizeOf(placement.front().bounds);
     for (std::size_t i = 1; i < placement.size(); ++i)
-        out << (i == 1 ? ": " : "; ") << placement[i].bounds;
+        out << (i == 1 ? ": " : "; ") << written(placement[i].bounds);
     return out.str();
 }
 

@@ -21,7 +21,7 @@ std::string byId(const Placement& placement) {
     std::ostringstream out;
     for (const Placed& placed : placement) {
         const auto id = integerOf(*placed.element, Key::ItemId);
-        out << (id ? std::to_string(*id) : "-") << ' ' << placed.bounds << '\n';
+        out << (id ? std::to_string(*id) : "-") << ' ' << written(placed.bounds) << '\n';
     }
     return out.str();
 }

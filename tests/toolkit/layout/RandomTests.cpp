@@ -159,8 +159,8 @@ TEST_CASE("right and down are alike: the layout turned over gives the rectangles
         const Placement other = place(turned, PlainSizes());
         REQUIRE(straight.size() == other.size());
         for (std::size_t i = 0; i < straight.size(); ++i) {
-            const Rectangle& r = other[i].bounds;
-            REQUIRE(straight[i].bounds == Rectangle{r.y, r.x, r.height, r.width});
+            const auto& [left, top, right, bottom] = other[i].bounds;
+            REQUIRE(straight[i].bounds == Bounds{top, left, bottom, right});
         }
     });
 }

@@ -3,7 +3,7 @@
 #include "tests/easel/runtime/TestPlugin.h" // shows lists of texts
 #include "toolkit/ImplCommon/CoADMDialog.h"
 #include "toolkit/ImplCommon/Dialogs.h"
-#include "toolkit/ImplCommon/SuiteTables.h"
+#include "toolkit/SuiteTables.h"
 
 #include <doctest/doctest.h>
 
@@ -63,8 +63,8 @@ struct StagePeers final : NRDM::Peers {
                                                    NRDM::DialogEvents& events) override {
         return std::make_unique<Dialog>(*this, events);
     }
-    [[nodiscard]] NRDM::NaturalSize measure(const NRDM::ItemView& view,
-                                            NRDM::DialogKind where) const override {
+    [[nodiscard]] NRDM::layout::ItemSize measure(const NRDM::ItemView& view,
+                                                 NRDM::DialogKind where) const override {
         return metrics->measure(view, where);
     }
     [[nodiscard]] int heightAt(const NRDM::ItemView& view, NRDM::DialogKind where,

@@ -5,7 +5,7 @@
 #include "tests/toolkit/win/Stage.h"
 
 #include "toolkit/ImplCommon/Dialogs.h"
-#include "toolkit/ImplCommon/SuiteTables.h"
+#include "toolkit/SuiteTables.h"
 
 #include <optional>
 

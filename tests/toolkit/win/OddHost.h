@@ -4,7 +4,7 @@
 
 #include "tests/toolkit/win/Stage.h"
 
-#include "toolkit/ImplCommon/SuiteTables.h"
+#include "toolkit/SuiteTables.h"
 #include "toolkit/Toolkit.h"
 
 #include <optional>

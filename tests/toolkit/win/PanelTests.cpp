@@ -3,9 +3,9 @@
 #include "tests/toolkit/win/OddHost.h"
 
 #include "toolkit/ImplCommon/CoADMDialog.h"
-#include "toolkit/ImplCommon/SuiteTables.h"
 #include "toolkit/ImplWin/NativeDialog.h"
 #include "toolkit/ImplWin/WinPeers.h"
+#include "toolkit/SuiteTables.h"
 
 #include <doctest/doctest.h>
 

@@ -44,12 +44,24 @@ void StagedItem::clicked() {
     if (onClick) onClick();
 }
 
+void StagedItem::typed(const std::string& text) {
+    view.typed = text;
+    log_.push_back("typed " + text);
+}
+
+void StagedItem::revert() {
+    view.typed.reset();
+    log_.emplace_back("revert");
+}
+
 bool StagedItem::commit() {
+    view.typed.reset();
     log_.emplace_back("commit");
     return accepts;
 }
 
 void StagedItem::step(int steps, bool large, Phase phase) {
+    view.typed.reset();
     log_.push_back("step " + std::to_string(steps) + (large ? " large" : "") + tail(phase));
 }
 

@@ -28,9 +28,9 @@ public:
     std::function<void()> onClick; ///< done besides writing it down
 
     void clicked() override;
-    void typed(const std::string& text) override { log_.push_back("typed " + text); }
+    void typed(const std::string& text) override;
     bool commit() override;
-    void revert() override { log_.emplace_back("revert"); }
+    void revert() override;
     void step(int steps, bool large, Phase phase) override;
     void slide(double value, Phase phase) override;
     void choose(int entry) override;

@@ -1,7 +1,7 @@
 #include "platform/Platform.h"
 #include "toolkit/ImplCommon/Notifier.h"
 #include "toolkit/ImplCommon/Slots.h"
-#include "toolkit/ImplCommon/SuiteTables.h"
+#include "toolkit/ImplCommon/SuiteUnits.h"
 #include "toolkit/ImplCommon/System.h"
 
 namespace NRDM {

@@ -5,7 +5,7 @@
 #include "toolkit/ImplCommon/Palette.h"
 #include "toolkit/ImplCommon/Resources.h"
 #include "toolkit/ImplCommon/Slots.h"
-#include "toolkit/ImplCommon/SuiteTables.h"
+#include "toolkit/ImplCommon/SuiteUnits.h"
 #include "toolkit/ImplCommon/System.h"
 
 namespace NRDM {
@@ -25,9 +25,11 @@ ADMErr getIndexString(SPPluginRef plugin, ADMInt32 list, ADMInt32 index, Charact
 
 void beep() { Dialogs::current().peers().beep(); }
 
-void alert(const char* text) {
+void showText(const char* text) {
     facetta::platform::showMessage(kWinHostSuite.GetCurrentOwnerWindow(), utf16Of(textFrom(text)));
 }
+void errorAlert(const char* text) { showText(text); }
+void messageAlert(const char* text) { showText(text); }
 
 ADMBoolean getScreenDimensions(const ADMPoint* point, ADMRect* screen) {
     const ADMPoint& place = objectOf(point);
@@ -93,9 +95,9 @@ const ADMBasicSuite kBasicSuite = {
     .GetIndexString = getIndexString<char>,
     .GetIndexStringW = getIndexString<ADMUnicode>,
     .Beep = beep,
-    .ErrorAlert = alert,
+    .ErrorAlert = errorAlert,
     .ErrorAlertW = stub<"ErrorAlertW">,
-    .MessageAlert = alert,
+    .MessageAlert = messageAlert,
     .MessageAlertW = stub<"MessageAlertW">,
     .QuestionAlert = stub<"QuestionAlert">,
     .QuestionAlertW = stub<"QuestionAlertW">,

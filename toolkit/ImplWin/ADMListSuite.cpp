@@ -1,6 +1,6 @@
 #include "toolkit/ImplCommon/INRDMList.h"
 #include "toolkit/ImplCommon/Slots.h"
-#include "toolkit/ImplCommon/SuiteTables.h"
+#include "toolkit/ImplCommon/SuiteUnits.h"
 
 namespace NRDM {
 namespace {

@@ -1,5 +1,5 @@
 #include "toolkit/ImplCommon/Slots.h"
-#include "toolkit/ImplCommon/SuiteTables.h"
+#include "toolkit/ImplCommon/SuiteUnits.h"
 
 namespace NRDM {
 namespace {

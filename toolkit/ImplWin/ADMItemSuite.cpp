@@ -1,7 +1,7 @@
 #include "toolkit/ImplCommon/CoADMDialog.h"
 #include "toolkit/ImplCommon/Dialogs.h"
 #include "toolkit/ImplCommon/Slots.h"
-#include "toolkit/ImplCommon/SuiteTables.h"
+#include "toolkit/ImplCommon/SuiteUnits.h"
 
 #include <algorithm>
 #include <cmath>
@@ -112,9 +112,8 @@ void setLocalBounds(CoADMItem& item, const Bounds& bounds) {
 }
 void getBestSize(CoADMItem& item, ADMPoint* size) {
     const CoADMDialog& dialog = item.dialog();
-    const auto [width, height] =
-        dialog.dialogs().peers().measure(item.view(), dialog.view().kind).extent;
-    objectOf(size) = {width, height};
+    const auto natural = dialog.dialogs().peers().measure(item.view(), dialog.view().kind);
+    objectOf(size) = {natural.width, natural.height};
 }
 
 void invalidate(CoADMItem& item) {
@@ -139,7 +138,7 @@ ADMBoolean floatToText(ADMItemRef item, float value, char* buffer, ADMInt32 size
 }
 ADMBoolean textToFloat(ADMItemRef item, const char* text, float* value) {
     const CoADMItem& self = objectOf(item);
-    const auto number = self.dialog().dialogs().numberIn(self, textFrom(text));
+    const auto number = self.numberIn(textFrom(text));
     if (number) objectOf(value) = static_cast<float>(*number);
     return number.has_value();
 }

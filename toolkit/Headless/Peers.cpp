@@ -86,11 +86,12 @@ public:
         return std::make_unique<HeadlessDialog>(events);
     }
 
-    [[nodiscard]] NaturalSize measure(const ItemView& view, DialogKind) const override {
+    [[nodiscard]] layout::ItemSize measure(const ItemView& view, DialogKind) const override {
         const Metric& metric = *std::ranges::find(kMetrics, view.kind, &Metric::kind);
-        if (view.hasPicture) return {{metric.height, metric.height}, -1};
+        if (view.hasPicture) return {metric.height, metric.height, std::nullopt};
         const int width = kCharacterWidth * lengthOf(withoutMarks(view.text)) + metric.extraWidth;
-        return {{width, metric.height}, metric.baseline};
+        const bool hasText = metric.baseline >= 0;
+        return {width, metric.height, hasText ? std::optional(metric.baseline) : std::nullopt};
     }
 
     [[nodiscard]] int heightAt(const ItemView& view, DialogKind, int width) const override {

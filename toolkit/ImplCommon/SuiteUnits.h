@@ -1,7 +1,5 @@
 #pragma once
 
-#include "host/Types.h"
-#include "host/suites/SPBasicSuite.h"
 #include "toolkit/suites/ADMBasicSuite.h"
 #include "toolkit/suites/ADMDialogSuite.h"
 #include "toolkit/suites/ADMDrawerSuite.h"
@@ -13,8 +11,6 @@
 #include "toolkit/suites/ADMNotifierSuite.h"
 #include "toolkit/suites/ADMTrackerSuite.h"
 #include "toolkit/suites/ADMWinHostSuite.h"
-
-#include <span>
 
 namespace NRDM {
 
@@ -30,18 +26,5 @@ extern const ADMListSuite kListSuite;
 extern const ADMNotifierSuite kNotifierSuite;
 extern const ADMTrackerSuite kTrackerSuite;
 extern const ADMWinHostSuite kWinHostSuite;
-
-struct SuiteTable {
-    const char* name;
-    ai::int32 version;
-    const void* functions;
-    std::size_t slots;
-};
-
-[[nodiscard]] std::span<const SuiteTable> suiteTables();
-
-/// The host's basic suite with the toolkit's suites among those that can be acquired: they are
-/// looked up first, everything else goes to the host. Good until the next call; null for null.
-[[nodiscard]] const SPBasicSuite* offeringSuites(const SPBasicSuite* host);
 
 } // namespace NRDM

@@ -1,7 +1,7 @@
 #include "toolkit/ImplCommon/CoADMIcon.h"
 #include "toolkit/ImplCommon/Dialogs.h"
 #include "toolkit/ImplCommon/Slots.h"
-#include "toolkit/ImplCommon/SuiteTables.h"
+#include "toolkit/ImplCommon/SuiteUnits.h"
 
 namespace NRDM {
 namespace {

@@ -1,4 +1,4 @@
-#include "toolkit/ImplCommon/Cursors.h"
+#include "toolkit/Cursors.h"
 
 #include "host/Error.h"
 #include "host/Lent.h"

@@ -1,4 +1,4 @@
-#include "toolkit/ImplCommon/SuiteTables.h"
+#include "toolkit/SuiteTables.h"
 
 #include "host/Codes.h"
 
