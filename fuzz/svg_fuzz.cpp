@@ -58,6 +58,7 @@ void saveAndReopen(const Document& document) {
 
 /// Does to each object what its place in the walk says; what was saved must still be a drawing.
 void changeArt(Document& document) {
+    document.undo().open(); // what is removed lives on
     std::vector<Art*> all;
     Art& root = document.root();
     for (Art* art = nextInPreorder(root, root); art != nullptr && all.size() < 200;
@@ -86,6 +87,7 @@ void changeArt(Document& document) {
             disposeArt(art);
         }
     }
+    document.undo().close();
 }
 
 } // namespace

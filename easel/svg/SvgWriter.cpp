@@ -393,6 +393,10 @@ private:
             tagged_.insert(layer);
     }
 
+    static bool isHidden(const ArtContent& content) {
+        return (content.attributes & static_cast<std::uint32_t>(kArtHidden)) != 0;
+    }
+
     [[nodiscard]] bool sameState(const Art& art, const ArtSource& source) const {
         const auto texts = [](const std::vector<AttributeText>& attributes) {
             std::vector<std::string> result;
@@ -403,7 +407,7 @@ private:
         return texts(artAttributes(art, presentContent)) ==
                    texts(artAttributes(
                        art, [&](const Art&) -> const ArtContent& { return source.content; })) &&
-               !art.has(kArtHidden);
+               art.has(kArtHidden) == isHidden(source.content);
     }
 
     void openLoose(const Art& layer) {
@@ -623,17 +627,15 @@ private:
             if (then.empty() || now[i].text != then[i].text) tag.set(now[i].name, now[i].text);
         if (namesLayers_ && art.isLayer()) tag.set("inkscape:label", art.details().layer.title);
         describeEntries(tag, art, source);
-        const bool isHidden = art.has(kArtHidden) || isGuide(art, presentContent);
+        const bool hides = art.has(kArtHidden) || isGuide(art, presentContent);
         const ContentOf asRead = [this](const Art& each) -> const ArtContent& {
             return readContent(each);
         };
         const bool wasHidden =
-            source != nullptr &&
-            ((source->content.attributes & static_cast<std::uint32_t>(kArtHidden)) != 0 ||
-             isGuide(art, asRead));
-        if (isHidden == wasHidden && source != nullptr) return;
-        tag.setProperty("display", isHidden ? "none" : "", hasSheet() && isHidden);
-        if (!wasHidden || isHidden) return;
+            source != nullptr && (isHidden(source->content) || isGuide(art, asRead));
+        if (hides == wasHidden && source != nullptr) return;
+        tag.setProperty("display", hides ? "none" : "", hasSheet() && hides);
+        if (!wasHidden || hides) return;
         if (hasSheet()) tag.setProperty("display", "inline", true);
         if (!isContainer(art)) tag.setProperty("visibility", "visible", hasSheet());
     }
@@ -980,6 +982,7 @@ private:
             if (added.empty()) return std::string{tree_.source(node)};
             return "\n  <" + name + " easel:generated=\"true\">" + added + "\n  </" + name + '>';
         }
+        if (added.empty() && isAllAsRead(node)) return std::string{tree_.source(node)};
         const std::set<std::string, std::less<>> used = usedServers();
         std::string text{tree_.startTag(node)};
         std::size_t at = tree_.at(node).contentStart;
@@ -991,6 +994,18 @@ private:
         }
         text += added;
         return text += tree_.text().substr(at, tree_.at(node).end - at);
+    }
+
+    /// Has nothing at all changed beside these definitions?
+    [[nodiscard]] bool isAllAsRead(NodeIndex generated) const {
+        const std::string_view before = std::string_view{out_}.substr(0, generatedAt_);
+        const std::string_view after = std::string_view{out_}.substr(generatedAt_);
+        const std::string_view text = tree_.text();
+        const std::size_t from = tree_.at(tree_.root()).contentStart;
+        const std::size_t to = tree_.at(tree_.root()).contentEnd;
+        const XmlTree::Node& at = tree_.at(generated);
+        return before == text.substr(from, at.start - from) &&
+               after == text.substr(at.end, to - at.end);
     }
 
     /// The ids of paint that the result refers to.
