@@ -14,9 +14,16 @@
 #include "shell/Alert.h"
 #include "shell/Help.h"
 #include "shell/PreferenceStore.h"
-#include "tool/CurrentAxes.h"
-#include "tool/SymmetryTool.h"
+#include "tool/InfoDisplay.h"
+#include "tool/axes/FollowDocument.h"
 #include "tool/drawing/Annotations.h"
+#include "tool/handlers/Drag.h"
+#include "tool/handlers/Press.h"
+#include "tool/handlers/Release.h"
+#include "tool/handlers/ToolOptions.h"
+#include "tool/handlers/ToolSelection.h"
+#include "tool/handlers/TrackCursor.h"
+#include "toolkit/ImplCommon/Resources.h"
 
 #include <new>
 #include <string>
@@ -33,10 +40,6 @@ constexpr char kToolName[] = "Facetta Tool";
 constexpr ai::uint32 kToolIconLight = 2100;
 constexpr ai::uint32 kToolIconDark = 3100;
 constexpr ai::int32 kToolOptions = kToolWantsToTrackCursorOption | kToolWantsBrushControlOption;
-
-/// What the host's info display shows while the tool runs: document X and Y, size X and Y,
-/// distance, angle.
-constexpr ai::int32 kToolInfoVariables[] = {15, 16, 2, 3, 4, 5, -1};
 
 /// What stands between whole and fraction in the user's locale: the host is asked to write a
 /// number that has one.
@@ -115,7 +118,7 @@ bool FacettaPlugin::addTool() {
                      toolHandle))
         return false;
     ai::alignToolSuite(toolHandle, kToolOptions);
-    return ai::suites.tool->SetToolInfoVars(toolHandle, kToolInfoVariables) == kNoErr;
+    return ai::suites.tool->SetToolInfoVars(toolHandle, kInfoVariables.data()) == kNoErr;
 }
 
 void FacettaPlugin::openPanel() {
@@ -136,7 +139,7 @@ AIErr FacettaPlugin::Shutdown(SPInterfaceMessage& message) {
     if (hasSuites()) {
         hintTimer.stop();
         regenerationWatch.stop();
-        dropAxes(tool); // what it holds of the host's goes while there are suites
+        tool = {}; // what it holds of the host's goes while there are suites
         closePanel();
     }
     const AIErr err = Plugin::Shutdown(message);
@@ -181,7 +184,7 @@ void FacettaPlugin::followChanges(std::string_view caller, const void* message) 
 /// were.
 void FacettaPlugin::mirrorChangedLayers(Pen pen) {
     if (mirrorsLayers_ || !documentIsOpen()) return;
-    if (tool.dragging || tool.reposition || platform::mouseIsHeld())
+    if (buttonIsDown(tool) || repositionMode(tool) || platform::mouseIsHeld())
         return regenerationWatch.start(self());
     mirrorsLayers_ = true;
     Regeneration done;
@@ -265,17 +268,11 @@ void FacettaPlugin::fetchViewAndPlaceDialog() {
 
 void FacettaPlugin::followDocument() {
     if (isCurrent(view)) return;
-    const AIDocumentHandle before = view.document;
     fetchViewAndPlaceDialog();
-    const bool isOpen = documentIsOpen();
-    if (view.document == before || (isOpen && view.document == nullptr)) return;
-    clearPreview(tool);
-    if (isOpen)
-        followCurrentLayer(tool);
-    else
-        dropAxes(tool);
-    redrawOverlay(view);
-    updatePanel();
+    if (documentIsOpen() && view.document == nullptr) return; // the host cannot tell yet
+    const platform::KeyState noKeys;
+    ToolSession session = toolSession(noKeys);
+    facetta::followDocument(session);
 }
 
 MirrorEnvironment FacettaPlugin::mirroring() {
@@ -286,16 +283,30 @@ MirrorEnvironment FacettaPlugin::mirroring() {
             .showMessage = showAlert};
 }
 
+ToolSession FacettaPlugin::toolSession(const platform::KeyState& keys) {
+    return {
+        .state = tool,
+        .preferences = preferences,
+        .host = hostPreferences,
+        .view = view,
+        .licence = licence,
+        .dialogs = dialogs,
+        .keys = keys,
+        .mirroring = mirroring(),
+        .setCursor = [this](ai::int32 id) { toolkit().cursors().show(id); },
+        .textOf =
+            [this](ai::int32 id) {
+                return NRDM::readString(NRDM::resourceLibrary(self()), id).value_or(u"");
+            },
+        .updatePanel = updatePanel,
+    };
+}
+
 template <typename Handler> AIErr FacettaPlugin::withSession(Handler handler) {
-    // The document may have come up before the notification that tells of it. A drag stays in its
-    // document.
-    if (!tool.dragging) followDocument();
+    // The document may have come up before the notification that tells of it.
+    followDocument();
     const platform::KeyState keys = platform::readKeys();
-    ToolSession session{
-        tool,       preferences, hostPreferences,
-        view,       licence,     dialogs,
-        keys,       mirroring(), [this](ai::int32 id) { toolkit().cursors().show(id); },
-        updatePanel};
+    ToolSession session = toolSession(keys);
     handler(session);
     hintTimer.follow(self(), tool.hint, platform::ticks());
     return kNoErr;

@@ -9,7 +9,7 @@
 #include "tool/Licensing.h"
 #include "tool/ModalDialogs.h"
 #include "tool/Preferences.h"
-#include "tool/ToolState.h"
+#include "tool/ToolSession.h"
 #include "tool/drawing/HintTimer.h"
 #include "ui/SymmetryPanel.h"
 
@@ -52,6 +52,9 @@ public:
     AIErr AnnotatorInvalidate(AIAnnotatorMessage& message) override;
     AIErr GoTimer(AITimerMessage& message) override;
 
+    /// What the tool's room takes from the plug-in for one message; `keys` must outlive it.
+    [[nodiscard]] ToolSession toolSession(const platform::KeyState& keys);
+
     /// What the symmetry room takes from the plug-in for one message.
     [[nodiscard]] MirrorEnvironment mirroring();
 
@@ -75,7 +78,7 @@ public:
     HintTimer hintTimer;
     // Functions of the library, set again after a reload.
     ModalDialogs dialogs;
-    /// Called when the axes shown change, or whether they may be applied does; set by the panel.
+    /// Called when the axes shown, or what can be done with them, have changed; set by the panel.
     void (*updatePanel)() = [] {};
 
     // What the host knows of the plug-in; null where registering failed.

@@ -7,7 +7,7 @@
 #include "host/suites/AINotifierSuite.h"
 #include "shell/FacettaPlugin.h"
 #include "shell/PreferenceStore.h"
-#include "tool/CurrentAxes.h"
+#include "tool/axes/FollowDocument.h"
 #include "tool/drawing/Preview.h"
 
 #include <algorithm>
@@ -81,16 +81,14 @@ static_assert(std::size(kRows) == kNotifierCount);
 /// Overlay and panel follow the art and the current layer. Done at every notification: the host may
 /// merge several, or send one late or without need.
 void lookAfterDocument(FacettaPlugin& plugin, Art art) {
-    if (documentIsOpen()) {
-        // What a drag changes meanwhile it takes back.
-        if (art == Art::MayHaveChanged && !plugin.tool.dragging) clearPreview(plugin.tool);
-        // While the art of a layer moves with its axes, the layer's own axes are where they were.
-        if (plugin.tool.reposition) return;
-        if (std::exchange(plugin.liveLayers.mirrored, false)) redrawOverlay(plugin.view);
-        const SymmetryAxes before = plugin.tool.axes;
-        followCurrentLayer(plugin.tool);
-        if (plugin.tool.axes != before) redrawOverlay(plugin.view);
-    }
+    const bool isOpen = documentIsOpen();
+    if (isOpen && plugin.view.document == nullptr) return; // the host cannot tell which it is
+    // What a drag changes meanwhile it takes back.
+    if (art == Art::MayHaveChanged && !dragging(plugin.tool)) clearPreview(plugin.tool);
+    if (std::exchange(plugin.liveLayers.mirrored, false)) redrawOverlay(plugin.view);
+    const platform::KeyState noKeys;
+    ToolSession session = plugin.toolSession(noKeys);
+    followDocument(session);
     plugin.updatePanel();
 }
 

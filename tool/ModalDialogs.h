@@ -8,8 +8,8 @@ enum class DialogResult : int {
     Cancel = 2,
 };
 
-/// The tool's way to the dialogs it opens. The rooms below know no windows: who has dialogs puts
-/// its own in; until then every dialog is cancelled.
+/// The tool's way to the dialogs it opens: this room knows no windows. Until somebody provides
+/// dialogs every one of them is cancelled.
 struct ModalDialogs {
     DialogResult (*editAxes)() = [] { return DialogResult::Cancel; };
     DialogResult (*preferences)() = [] { return DialogResult::Cancel; };

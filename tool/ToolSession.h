@@ -23,9 +23,11 @@ struct ToolSession {
     ModalDialogs& dialogs;
     const platform::KeyState& keys; ///< as they were when the message came
     MirrorEnvironment mirroring;
-    /// Shows a cursor of the plug-in's resources; the rooms below know none.
+    // The plug-in's resources, which this room cannot reach by itself.
     std::function<void(ai::int32 id)> setCursor = [](ai::int32) {};
-    /// Tells whoever shows the axes' numbers that they are others, or may be applied or not.
+    std::function<std::u16string(ai::int32 id)> textOf = [](ai::int32) { return u""; };
+    /// Tells whoever shows the axes' numbers that these, or what can be done with them, have
+    /// changed.
     void (*updatePanel)() = [] {};
 };
 

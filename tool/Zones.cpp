@@ -35,7 +35,7 @@ void updateAltHint(ToolSession& session) {
             hideHint(state.hint);
     };
     if (state.zone == ToolZone::Sector) tell(HintId::SpecifySector);
-    if (isOnAxes(state.zone) && state.axes.onLayer) tell(HintId::RepositionLayerAxes);
+    if (isOnAxes(state.zone) && axesOnLayer(state)) tell(HintId::RepositionLayerAxes);
 }
 
 void setSectorHandleHighlight(ToolSession& session, bool highlighted) {
@@ -44,39 +44,47 @@ void setSectorHandleHighlight(ToolSession& session, bool highlighted) {
     redrawOverlay(session.view);
 }
 
-void enterDialog(ToolSession& session) {
-    ToolState& state = session.state;
-    state.zone =
-        state.hoverItem == DialogItem::Title ? ToolZone::DialogTitle : ToolZone::DialogButton;
-    hideHint(state.hint);
-    setSectorHandleHighlight(session, false);
-    showZoneCursor(session);
+/// What a press would do there.
+ZoneUnder zoneAtCursor(const ToolSession& session) {
+    const ToolState& state = session.state;
+    const bool inHand = state.toolSelected && state.place.document != nullptr;
+    if (!inHand) return {hasAxes(state) ? ToolZone::Sector : ToolZone::Canvas};
+    if (!state.place.editable) return {ToolZone::LayerLocked};
+    if (state.hoverItem == DialogItem::Title) return {ToolZone::DialogTitle};
+    if (state.hoverItem != DialogItem::None) return {ToolZone::DialogButton};
+    if (!hasAxes(state)) return {ToolZone::Canvas};
+    return zoneUnder(pageAxes(state.axes), widen(state.cursor), kGrabPixels / currentZoom());
 }
 
 } // namespace
 
 void updateHoverItem(ToolSession& session) {
     ToolState& state = session.state;
+    const bool mayBeOn = state.toolSelected && state.place.editable && axesHaveDialog(session);
     const DialogItem item =
-        axesHaveDialog(session)
-            ? dialogItemAt(state.dialog, viewPixelOf(session.view, state.cursor))
-            : DialogItem::None;
+        mayBeOn ? dialogItemAt(state.dialog, viewPixelOf(session.view, state.cursor))
+                : DialogItem::None;
     if (item == state.hoverItem) return;
     state.hoverItem = item;
     redrawDialog(session);
 }
 
-void updateZone(ToolSession& session) {
+void findZone(ToolSession& session) {
     ToolState& state = session.state;
     updateHoverItem(session);
-    if (state.hoverItem != DialogItem::None) return enterDialog(session);
-    if (!hasAxes(state) || state.axes.axisCount == 0) return;
-    const ZoneUnder under =
-        zoneUnder(pageAxes(state.axes), widen(state.cursor), kGrabPixels / currentZoom());
+    const ZoneUnder under = zoneAtCursor(session);
+    const bool lockChanges =
+        (under.zone == ToolZone::LayerLocked) != (state.zone == ToolZone::LayerLocked);
     state.zone = under.zone;
     state.grabIndex = under.grabIndex;
-    updateAltHint(session);
     setSectorHandleHighlight(session, under.onSectorHandle);
+    if (lockChanges) redrawOverlay(session.view); // new axes come and go, the dialog is dimmed
+}
+
+void updateZone(ToolSession& session) {
+    findZone(session);
+    if (session.state.hoverItem != DialogItem::None) hideHint(session.state.hint);
+    updateAltHint(session);
     showZoneCursor(session);
 }
 

@@ -16,7 +16,10 @@ namespace facetta {
     return zone == ToolZone::Canvas || isOnAxes(zone);
 }
 
-/// Finds out the zone at the state's cursor. Without axes the zone stays as it is.
+/// Finds out the zone at the state's cursor, and lights up what is under it.
+void findZone(ToolSession& session);
+
+/// The same, and shows the zone's cursor and hints: the cursor is over the document.
 void updateZone(ToolSession& session);
 
 /// Finds out which item of the on-canvas dialog the state's cursor is over, if there is one.

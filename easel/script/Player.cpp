@@ -112,10 +112,7 @@ void Player::send(MouseEvent event, Place place) {
 
 void Player::moveTo(Place place) { send(&Host::track, place); }
 
-void Player::pressAt(Place place) {
-    moveTo(place); // no button goes down where the cursor has not come first
-    send(&Host::press, place);
-}
+void Player::pressAt(Place place) { send(&Host::press, place); }
 
 void Player::dragTo(Place place, int steps) {
     const svg::Point from = pixels(mouse_);

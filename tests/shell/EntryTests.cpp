@@ -224,7 +224,7 @@ struct Unheld {
         easel::hostCalls().disarm();
         session.openDocument();
         session.host.chooseMenuItem(thePlugin->menuItems.panel);
-        REQUIRE(ai::suites.artSet->NewArtSet(thePlugin->tool.releasedCopies.put()) == kNoErr);
+        REQUIRE(ai::suites.artSet->NewArtSet(thePlugin->tool.repositionArt.put()) == kNoErr);
         thePlugin->preferences.count = 7;
         plugin = thePlugin;
     }
@@ -257,7 +257,7 @@ TEST_CASE("a reload that is refused its suites is made up for as soon as there a
 TEST_CASE("settings outlive a host that goes on refusing suites") {
     Unheld unheld;
     Session& session = unheld.session;
-    const AIArtSet leftBehind = unheld.plugin->tool.releasedCopies.get();
+    const AIArtSet leftBehind = unheld.plugin->tool.repositionArt.get();
     session.send(kCallerAccess, kSelectorUnload, SPAccessMessage{});
     easel::installedSuites().renumber("AI Mesh Suite", 5, 6);
     CHECK(session.send(kCallerAccess, kSelectorReload, SPAccessMessage{}) == kSPSuiteNotFoundError);

@@ -68,8 +68,7 @@ TEST_CASE("the current document is followed by whatever message tells of it firs
             if (row.toolMessage) session.host.track({.at = {500, -400}});
         };
         const auto showAxesOfLayer = [&] {
-            thePlugin->tool.axes = {.axisCount = 5, .onLayer = true};
-            thePlugin->tool.committed = true;
+            hold(thePlugin->tool, {Activity::ShowingLayerAxes, {.axisCount = 5}});
         };
         showAxesOfLayer();
         session.host.activate(first);

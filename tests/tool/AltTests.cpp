@@ -76,7 +76,7 @@ TEST_CASE("with Alt the art of a layer moves and turns with its axes") {
         checkSame(linesOf(session), moved);
         CHECK(session.host.undoText() == "Undo Reposition Symmetry Axes");
         CHECK(session.axes().onLayer);
-        CHECK_FALSE(session.tool().layerEdit);
+        CHECK_FALSE(layerEditInProgress(session.tool()));
         CHECK_FALSE(session.tool().repositionArt);
         CHECK(countPaths(session.document(), /*lockedOnes*/ true) == 5);
         const std::string calm = session.text();

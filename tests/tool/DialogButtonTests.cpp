@@ -75,7 +75,7 @@ TEST_CASE("what the buttons do") {
         session.click(place);
         CHECK(hasAxes(session.tool()) == row.axesStay);
         CHECK(session.axes().onLayer == row.onLayer);
-        CHECK(session.tool().committed == row.onLayer);
+        CHECK(axesOnLayer(session.tool()) == row.onLayer);
         CHECK(session.host.undoText() == row.undoText);
         if (row.axesStay) continue;
         CHECK(session.tool().zone == ToolZone::Canvas);

@@ -26,7 +26,8 @@ Drawn draw(Session& session) {
 
 TEST_CASE("whichever host call fails, drawing answers its code, and the next picture is whole") {
     Drawing session{/*selected*/ true};
-    thePlugin->tool.sectorHandleHighlighted = true;
+    session.host.track({.at = session.onRay(0.5, 200)});
+    REQUIRE(thePlugin->tool.sectorHandleHighlighted);
     const auto drawAfresh = [&] {
         showHint(thePlugin->tool.hint, HintId::MoveOrigin, platform::ticks());
         clearPreview(thePlugin->tool); // so that the art is read again

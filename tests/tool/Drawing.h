@@ -4,6 +4,7 @@
 
 #include "easel/document/ArtTree.h"
 #include "easel/document/Dump.h"
+#include "easel/document/Layers.h"
 #include "symmetry/AxisGuides.h"
 
 #include <algorithm>
@@ -51,6 +52,19 @@ public:
         for (std::string line; std::getline(lines, line);)
             if (line.find("\"ts\"") == std::string::npos) kept += line + '\n';
         return kept;
+    }
+    easel::Art& newLayer() {
+        easel::Art* made = nullptr;
+        host.edit("New Layer", [&](easel::Document& page) {
+            made = &easel::createLayer(page, "Layer 2", easel::onTopOf(page.root()));
+            easel::setCurrentLayer(page, *made);
+        });
+        return *made;
+    }
+    void chooseLayer(easel::Art& layer) {
+        host.edit(
+            "Choose Layer", [&](easel::Document& page) { easel::setCurrentLayer(page, layer); },
+            kSilentUndoContext);
     }
     /// Attaches the pending axes to the layer, with guides along them if these are wanted.
     void makeLive(bool withGuides = false) {

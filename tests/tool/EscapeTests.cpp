@@ -22,15 +22,15 @@ public:
 /// What a gesture finds and must leave behind.
 struct Found {
     explicit Found(const Drawing& session)
-        : text(session.text()), axes(session.axes()), committed(session.tool().committed),
-          layerEdit(session.tool().layerEdit), defaults(thePlugin->preferences) {}
+        : text(session.text()), axes(session.axes()), committed(axesOnLayer(session.tool())),
+          layerEdit(layerEditInProgress(session.tool())), defaults(thePlugin->preferences) {}
 
     void check(const Drawing& session) const {
         CHECK(session.text() == text);
         CHECK(session.axes() == axes);
-        CHECK(session.tool().committed == committed);
-        CHECK(session.tool().layerEdit == layerEdit);
-        CHECK_FALSE(session.tool().reposition);
+        CHECK(axesOnLayer(session.tool()) == committed);
+        CHECK(layerEditInProgress(session.tool()) == layerEdit);
+        CHECK_FALSE(repositionMode(session.tool()));
         CHECK_FALSE(session.tool().repositionArt);
         CHECK(thePlugin->preferences.angle == defaults.angle);
         CHECK(thePlugin->preferences.count == defaults.count);

@@ -22,7 +22,7 @@ void checkGoesOn(Drawing& session) {
     session.host.selectTool(thePlugin->toolHandle);
     session.dragFrom({520, -300}, {620, -260});
     CHECK(hasAxes(session.tool()));
-    CHECK_FALSE(session.tool().cancelled);
+    CHECK_FALSE(session.tool().gesture);
     CHECK_FALSE(session.tool().repositionArt);
     CHECK_FALSE(session.host.drawAnnotations(nullptr).empty());
     CHECK(session.host.sent.empty());

@@ -14,7 +14,7 @@ easel::DisplayList hintDrawn(const ToolState& state, ai::uint64 now, const Pixel
     ViewMap view;
     view.toPixels = {.d = -1.0}; // pixels are points, y turned over
     view.visible = visible;
-    drawHint({&drawer, view, colours::kLight}, state, now);
+    drawHint({&drawer, view, colours::kLight}, state, u"Constrain Angle", now);
     return drawer.list;
 }
 
@@ -89,7 +89,7 @@ TEST_CASE("no hint is drawn while cancelled new axes wait for the release") {
     const PixelRect view{0, 0, 800, 600};
     ToolState state;
     showHint(state.hint, HintId::ConstrainAngle, kShown);
-    state.cancelled = true;
+    state.gesture.emplace().cancelled = true;
     state.zone = ToolZone::Canvas;
     CHECK(hintDrawn(state, kShown, view).empty());
     state.zone = ToolZone::Axis;

@@ -22,9 +22,8 @@ public:
 
 void checkIsApplied(const EditedLayer& session) {
     CHECK(session.axes() == session.applied);
-    CHECK(session.tool().committed);
-    CHECK_FALSE(session.tool().layerEdit);
-    CHECK_FALSE(session.tool().releasedCopies);
+    CHECK(axesOnLayer(session.tool()));
+    CHECK_FALSE(layerEditInProgress(session.tool()));
     CHECK(session.textButStamp() == session.before);
 }
 
@@ -35,8 +34,8 @@ TEST_CASE("a drag takes the axes off their layer; what was generated becomes ord
     CHECK(near(session.axes().angle, 20 * kPi / 180));
     CHECK(session.axes().provisional);
     CHECK_FALSE(session.axes().onLayer);
-    CHECK_FALSE(session.tool().committed);
-    CHECK(session.tool().layerEdit);
+    CHECK_FALSE(axesOnLayer(session.tool()));
+    CHECK(layerEditInProgress(session.tool()));
     CHECK(session.host.undoText() == "Undo Edit Symmetry Axes");
     CHECK(countPaths(session.document(), /*lockedOnes*/ true) == 0);
     CHECK(session.text().find("FacettaFT") == std::string::npos);
@@ -44,7 +43,7 @@ TEST_CASE("a drag takes the axes off their layer; what was generated becomes ord
 
     // One more drag belongs to the same edit.
     session.dragFrom(session.onRay(0, 200), session.onRay(0.5, 200));
-    CHECK(session.tool().layerBackup == session.applied);
+    CHECK(layerEditOf(session.tool())->layerBackup == session.applied);
 }
 
 TEST_CASE("Cancel gives an edited layer back its axes, its copies and its guides") {
@@ -107,9 +106,8 @@ TEST_CASE("edited axes applied to the layer mirror its art anew") {
     session.click(session.onButton(DialogItem::ApplyToLayer));
     CHECK(session.axes().onLayer);
     CHECK_FALSE(session.axes().provisional);
-    CHECK(session.tool().committed);
-    CHECK_FALSE(session.tool().layerEdit);
-    CHECK_FALSE(session.tool().releasedCopies);
+    CHECK(axesOnLayer(session.tool()));
+    CHECK_FALSE(layerEditInProgress(session.tool()));
     CHECK(near(session.axes().angle, 20 * kPi / 180));
     CHECK(session.host.undoText() == "Undo Apply Symmetry Axes to Layer");
     CHECK(session.host.undo());
@@ -118,44 +116,129 @@ TEST_CASE("edited axes applied to the layer mirror its art anew") {
 }
 
 TEST_CASE("what else ends the edit of a layer's axes") {
-    SUBCASE("another layer is chosen: the axes go on as new ones, which Cancel drops") {
-        EditedLayer session;
-        const std::string edited = session.textButStamp();
-        easel::Art* const first = session.document().state().currentLayer;
-        session.host.edit("New Layer", [](easel::Document& document) {
-            easel::setCurrentLayer(
-                document, easel::createLayer(document, "Layer 2", easel::onTopOf(document.root())));
-        });
-        CHECK(session.axes().provisional);
-        CHECK_FALSE(session.tool().layerEdit);
-        session.click(session.onButton(DialogItem::Cancel));
-        CHECK_FALSE(session.axes().provisional);
-        CHECK(session.tool().zone == ToolZone::Canvas);
-        session.host.edit("Choose Layer", [&](easel::Document& document) {
-            easel::setCurrentLayer(document, *first);
-        });
-        CHECK_FALSE(session.axes().onLayer); // it has lost them
-    }
     SUBCASE("the tool is put away: the axes are dropped") {
         EditedLayer session;
         session.host.selectTool(nullptr);
         CHECK_FALSE(hasAxes(session.tool()));
-        CHECK_FALSE(session.tool().layerEdit);
-        CHECK_FALSE(session.tool().releasedCopies);
+        CHECK_FALSE(layerEditInProgress(session.tool()));
     }
     SUBCASE("the document is closed") {
         EditedLayer session;
         session.host.close(session.document());
-        CHECK_FALSE(session.tool().layerEdit);
-        CHECK_FALSE(session.tool().releasedCopies);
+        CHECK_FALSE(layerEditInProgress(session.tool()));
     }
     SUBCASE("the selection is mirrored instead") {
         EditedLayer session;
         session.click(session.onButton(DialogItem::ApplyToSelection));
         CHECK_FALSE(hasAxes(session.tool()));
-        CHECK_FALSE(session.tool().layerEdit);
+        CHECK_FALSE(layerEditInProgress(session.tool()));
         CHECK(session.host.undoText() == "Undo Apply Symmetry Axes to Selection");
     }
+}
+
+TEST_CASE("an edit waits while another layer or document is looked at") {
+    EditedLayer session;
+    const SymmetryAxes edited = session.axes();
+    easel::Document& document = session.document();
+    const auto checkIsBack = [&] {
+        CHECK(layerEditInProgress(session.tool()));
+        CHECK(session.axes() == edited);
+        session.click(session.onButton(DialogItem::Cancel));
+        checkIsApplied(session);
+    };
+    SUBCASE("another layer, and back") {
+        easel::Art& first = *document.state().currentLayer;
+        session.newLayer();
+        CHECK(session.tool().activity == Activity::FollowingCursor);
+        session.chooseLayer(first);
+        session.before.insert(session.before.find("layer "),
+                              "layer \"Layer 2\" colour 20303 32896 65535\n");
+        checkIsBack();
+    }
+    SUBCASE("another document, where axes are pending") {
+        easel::Document& other = session.openDocument();
+        CHECK(session.tool().activity == Activity::FollowingCursor);
+        session.click({300, -300});
+        const SymmetryAxes pending = session.axes();
+        session.host.activate(document);
+        checkIsBack();
+        session.host.activate(other);
+        CHECK(session.tool().activity == Activity::AxesPending);
+        CHECK(session.axes() == pending);
+    }
+    SUBCASE("undone meanwhile: the layer has its axes, and nothing is pending") {
+        easel::Art& first = *document.state().currentLayer;
+        session.newLayer();
+        while (document.root().firstChild() != &first && session.host.undo()) {
+        }
+        CHECK(session.host.undo());
+        checkIsApplied(session);
+    }
+    SUBCASE("the other document is closed") {
+        easel::Document& other = session.openDocument();
+        session.click({300, -300});
+        session.host.close(other);
+        checkIsBack();
+    }
+}
+
+TEST_CASE("undo and redo bring back what was pending at the step") {
+    Drawing session(/*selected*/ true);
+    const SymmetryAxes pending = session.axes();
+    const auto activity = [&] { return session.tool().activity; };
+    session.makeLive(/*withGuides*/ true);
+    session.dragFrom(session.onRay(1, 200), session.onRay(1.25, 200));
+    const SymmetryAxes once = session.axes();
+    session.dragFrom(session.onRay(0, 200), session.onRay(0.5, 200));
+    const SymmetryAxes twice = session.axes();
+    session.click(session.onButton(DialogItem::Cancel));
+    REQUIRE(activity() == Activity::ShowingLayerAxes);
+    for (int round = 0; round < 3; ++round) {
+        INFO("round ", round);
+        CHECK(session.host.undo()); // Cancel
+        CHECK(activity() == Activity::EditingLayerAxes);
+        CHECK(session.axes() == twice);
+        CHECK(session.host.undo()); // the second drag
+        CHECK(session.axes() == once);
+        CHECK(session.host.undo()); // the first
+        CHECK(activity() == Activity::ShowingLayerAxes);
+        CHECK(session.host.undo()); // the guides
+        CHECK(activity() == Activity::ShowingLayerAxes);
+        CHECK(session.host.undo()); // Apply
+        CHECK(activity() == Activity::AxesPending);
+        CHECK(session.axes() == pending);
+        for (const Activity next :
+             {Activity::ShowingLayerAxes, Activity::ShowingLayerAxes, Activity::EditingLayerAxes,
+              Activity::EditingLayerAxes, Activity::ShowingLayerAxes}) {
+            CHECK(session.host.redo());
+            CHECK(activity() == next);
+        }
+    }
+    CHECK(session.host.undo());
+    session.click(session.onButton(DialogItem::Cancel)); // of the edit that was taken up again
+    CHECK(activity() == Activity::ShowingLayerAxes);
+    CHECK(session.guideAngles() == std::vector{0, 60, 120});
+}
+
+TEST_CASE("axes that the selection was mirrored with are offered again when that is undone") {
+    Drawing session(/*selected*/ true);
+    const SymmetryAxes pending = session.axes();
+    session.click(session.onButton(DialogItem::ApplyToSelection));
+    for (int round = 0; round < 2; ++round) {
+        CHECK(session.host.undo());
+        CHECK(session.tool().activity == Activity::AxesPending);
+        CHECK(session.axes() == pending);
+        CHECK(session.host.redo());
+        CHECK(session.tool().activity == Activity::FollowingCursor);
+    }
+    // What the user has dropped stays so, whatever is undone later.
+    CHECK(session.host.undo());
+    session.click(session.onButton(DialogItem::Cancel));
+    session.host.edit("Draw", [](easel::Document& document) {
+        drawLine(document, {30, -30}, {40, -40}, /*selected*/ false);
+    });
+    CHECK(session.host.undo());
+    CHECK(session.tool().activity == Activity::FollowingCursor);
 }
 
 TEST_CASE("a click on a layer's axes leaves them on it") {
@@ -164,6 +247,6 @@ TEST_CASE("a click on a layer's axes leaves them on it") {
     const std::string before = session.text();
     session.click(session.onRay(0, 200));
     CHECK(session.axes().onLayer);
-    CHECK_FALSE(session.tool().layerEdit);
+    CHECK_FALSE(layerEditInProgress(session.tool()));
     CHECK(session.text() == before);
 }

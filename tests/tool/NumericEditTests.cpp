@@ -2,7 +2,7 @@
 #include "tests/tool/KeysHeld.h"
 
 #include "symmetry/LayerAxesStore.h"
-#include "tool/Reposition.h"
+#include "tool/axes/Reposition.h"
 
 using namespace facetta;
 using namespace facetta::tests;
@@ -17,7 +17,7 @@ template <DialogResult Answer> DialogResult turnAndMove() {
     CHECK(thePlugin->dialogs.open);
     state.axes.angle = kPi / 4;
     state.axes.originX += 30;
-    if (state.reposition) carryLayerArt(state);
+    if (repositionMode(state)) carryLayerArt(state);
     return Answer;
 }
 
@@ -64,10 +64,10 @@ TEST_CASE("the dialog on a layer's axes: an edit apart from the layer, or none a
         const SymmetryAxes before = session.axes();
         const std::string text = session.text();
         doubleClick(session);
-        CHECK(session.tool().layerEdit == ok);
+        CHECK(layerEditInProgress(session.tool()) == ok);
         CHECK(session.axes().provisional == ok);
         CHECK(session.axes().onLayer == !ok);
-        CHECK(session.tool().committed == !ok);
+        CHECK(axesOnLayer(session.tool()) == !ok);
         if (ok) {
             CHECK(session.guideAngles() == std::vector{45, 105, 165});
             session.click(session.onButton(DialogItem::Cancel));
@@ -93,7 +93,7 @@ TEST_CASE("with Alt the dialog takes the art of the layer along") {
         }
         CHECK(session.axes().onLayer);
         CHECK_FALSE(session.axes().provisional);
-        CHECK_FALSE(session.tool().reposition);
+        CHECK_FALSE(repositionMode(session.tool()));
         CHECK_FALSE(session.tool().repositionArt);
         CHECK((session.text() == text) == !ok);
         if (!ok) {

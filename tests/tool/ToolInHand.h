@@ -17,10 +17,7 @@ public:
         host.cursorSnap.enabled = false;
         host.selectTool(thePlugin->toolHandle);
     }
-    void press(AIReal x, AIReal y) {
-        host.track({.at = {x, y}});
-        host.press({.at = {x, y}});
-    }
+    void press(AIReal x, AIReal y) { host.press({.at = {x, y}}); }
     void drag(AIReal x, AIReal y, ai::uint16 modifiers = 0) {
         host.drag({.at = {x, y}, .modifiers = modifiers});
     }

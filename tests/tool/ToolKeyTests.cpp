@@ -88,3 +88,73 @@ TEST_CASE("Shift holds the origin to the same directions from where it was") {
     session.release(300, -220);
     CHECK(near(session.origin(), {300, -200}));
 }
+
+TEST_CASE("U suppresses the host's smart guides once a press, for one drag, where it counts") {
+    ToolInHand session;
+    session.host.cursorSnap.enabled = true;
+    auto& calls = session.host.cursorSnap.calls;
+    const auto dragWith = [&](std::initializer_list<Key> keys, AIReal x) {
+        const KeysHeld held(keys);
+        session.drag(x, -180);
+    };
+    session.press(200, -200);
+    dragWith({Key::U}, 250);
+    CHECK(calls.back().control.empty());
+    CHECK(widen(calls.back().point) == Point{16384, 16384});
+    CHECK(session.tool().hint.id == HintId::SmartGuidesDisabled);
+    const std::size_t before = calls.size();
+    dragWith({Key::U}, 260); // still held
+    dragWith({}, 270);
+    CHECK(calls.size() == before); // not asked meanwhile
+    dragWith({Key::U}, 280);
+    CHECK(session.tool().hint.id == HintId::SmartGuidesEnabled);
+    CHECK(calls.back().control == "ATFGPLM v i o f");
+    dragWith({}, 290);
+    dragWith({Key::U}, 300);
+    session.release(300, -180);
+    session.press(250, -300); // a sector: there is nothing to suppress
+    calls.clear();
+    dragWith({Key::U}, 260);
+    CHECK(calls.empty());
+    session.release(260, -180);
+    session.press(200, -200);
+    dragWith({}, 250);
+    CHECK(calls.back().control == "ATFGPLM v i o f"); // the next drag has them again
+    session.release(250, -180);
+
+    session.host.cursorSnap.enabled = false; // the user has none
+    session.tool().hint = {};
+    session.press(250, -180);
+    dragWith({Key::U}, 260);
+    CHECK(session.tool().hint.id == HintId::None);
+    session.release(260, -180);
+}
+
+TEST_CASE("A makes the grabbed line's direction the host's constrain angle") {
+    const struct {
+        double angle; ///< degrees, of the first of three axes
+        double grabbed;
+        double degrees;
+    } rows[] = {{0, 0, 0}, {20, 1, 80}, {20, 4, 260}, {350, 1, 50}, {20, 0.5, 50}};
+    for (const auto& row : rows) {
+        INFO(row.angle, " and ", row.grabbed);
+        ToolInHand session;
+        thePlugin->preferences.angle = row.angle * kPi / 180;
+        session.click({300, -300});
+        const AIRealPoint at = session.onRay(row.grabbed, 200);
+        session.press(at.h, at.v);
+        {
+            const KeysHeld held({Key::A});
+            session.drag(at.h, at.v);
+        }
+        session.release(at.h, at.v);
+        const auto stored = [&](const char* name) {
+            return session.host.preferences.number("", name).value_or(NAN);
+        };
+        CHECK(near(stored("constrain/angle"), row.degrees));
+        CHECK(near(stored("constrain/cos"), std::cos(row.degrees * kPi / 180)));
+        CHECK(near(stored("constrain/sin"), std::sin(row.degrees * kPi / 180)));
+        CHECK(near(thePlugin->hostPreferences.constrainAngle, row.degrees));
+        CHECK(session.tool().hint.id == HintId::SetConstrainAngle);
+    }
+}

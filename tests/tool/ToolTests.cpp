@@ -67,6 +67,7 @@ TEST_CASE("the host snaps with the stated sources at every step") {
     ToolInHand session;
     session.host.track({.at = {10, -10}});
     session.host.cursorSnap.calls.clear();
+    session.host.track({.at = {10, -10}});
     session.press(10, -10);
     session.drag(50, -10);
     session.release(50, -10);

@@ -111,7 +111,7 @@ TEST_CASE("another number of axes is an edit of the layer's, even without moving
     session.release(axis.h, axis.v);
     CHECK(session.axes().axisCount == 9);
     CHECK(session.axes().provisional);
-    CHECK(session.tool().layerBackup == before);
+    CHECK(layerEditOf(session.tool())->layerBackup == before);
     session.click(session.onButton(DialogItem::Cancel));
     CHECK(session.axes() == before);
 }

@@ -1,4 +1,3 @@
-#include "tool/drawing/Hint.h"
 #include "toolkit/ImplCommon/Resources.h"
 
 #include <doctest/doctest.h>
@@ -30,12 +29,6 @@ std::vector<std::string> menuTexts(int id) {
 Bytes bytesOf(const std::vector<unsigned char>& data) { return std::as_bytes(std::span(data)); }
 
 } // namespace
-
-TEST_CASE("the hints in the string tables are those the tool shows") {
-    for (int hint = 1; hint <= 12; ++hint)
-        CHECK(stringResource(17100 + hint) ==
-              std::string(facetta::hintText(static_cast<facetta::HintId>(hint))));
-}
 
 TEST_CASE("strings that are not there are nothing") {
     CHECK(stringResource(18001) == "%s  v%s");

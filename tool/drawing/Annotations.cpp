@@ -28,7 +28,7 @@ void drawSymmetry(const Surface& surface, ToolSession& session) {
         refreshPreview(session); // the art may have changed since the axes did
         drawPreview(surface, session);
     }
-    const bool canBeGrabbed = state.axes.onLayer || axesArePending(state);
+    const bool canBeGrabbed = axesOnLayer(state) || axesArePending(state);
     drawAxes(surface, axes,
              canBeGrabbed && state.sectorHandleHighlighted ? SectorHandle::Shown
                                                            : SectorHandle::Hidden);
@@ -47,7 +47,9 @@ void drawAnnotations(ToolSession& session, const AIAnnotatorMessage& message, In
     // The host is scrolling under a drag: what stands still in the view would leave traces.
     const bool scrolling = message.updateData != nullptr;
     if (!scrolling) drawDialog(surface, session);
-    drawHint(surface, session.state, now);
+    const Hint& hint = session.state.hint;
+    if (isVisible(hint, now))
+        drawHint(surface, session.state, session.textOf(stringOf(hint.id)), now);
 }
 
 void invalidateBetween(const ToolSession& session, AIRealPoint from, AIRealPoint to) {

@@ -16,8 +16,8 @@ struct DialogPosition {
 constexpr ai::int32 kDialogWidth = 192;
 constexpr ai::int32 kDialogHeight = 102;
 
-/// The dialog in the middle of `view` (view pixels). The view's own left and top are not added:
-/// that is the rule, not an oversight.
+/// The dialog in the middle of `view` (view pixels). The view's own left and top are not added: the
+/// place is remembered as a distance from them, so that it means the same in another window.
 [[nodiscard]] DialogPosition centredIn(const AIRect& view);
 
 /// `dialog` pulled into `view`, or centred when it has never been placed.

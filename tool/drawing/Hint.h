@@ -4,7 +4,7 @@
 
 namespace facetta {
 
-/// What a key held does to the tool, told beside the cursor. Hint n is string 17100 + n.
+/// What a key held does to the tool, told beside the cursor.
 enum class HintId : ai::int32 {
     None = 0,
     SmartGuidesEnabled = 1,
@@ -39,7 +39,10 @@ void hideHint(Hint& hint);
 /// Is there a hint to be drawn at the time `now`?
 [[nodiscard]] bool isVisible(const Hint& hint, ai::uint64 now);
 
-/// The text of `id` as the plug-in has it built in; empty for none.
-[[nodiscard]] const char* hintText(HintId id);
+/// The string of the plug-in's resources that holds the text of `id`.
+[[nodiscard]] constexpr ai::int32 stringOf(HintId id) {
+    constexpr ai::int32 kFirstHint = 17100;
+    return kFirstHint + static_cast<ai::int32>(id);
+}
 
 } // namespace facetta

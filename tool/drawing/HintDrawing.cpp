@@ -58,12 +58,14 @@ double hintOpacity(const Hint& hint, ai::uint64 now) {
     return std::min(1.0, static_cast<double>(left) / static_cast<double>(kFading));
 }
 
-void drawHint(const Surface& surface, const ToolState& state, ai::uint64 now) {
+void drawHint(const Surface& surface, const ToolState& state, const std::u16string& words,
+              ai::uint64 now) {
     const double opacity = hintOpacity(state.hint, now);
-    const bool waitsForRelease = state.cancelled && state.zone == ToolZone::Canvas;
-    if (opacity == 0.0 || waitsForRelease) return;
+    const bool waitsForRelease =
+        state.gesture && state.gesture->cancelled && state.zone == ToolZone::Canvas;
+    if (opacity == 0.0 || waitsForRelease || words.empty()) return;
     const auto& drawer = *suites.annotatorDrawer;
-    const ai::UnicodeString text{std::string_view(hintText(state.hint.id))};
+    const ai::UnicodeString text{words};
     drawer.SetFontSize(surface.drawer, kFontSize);
     AIRect size{};
     ai::check(drawer.GetTextBounds(surface.drawer, text, nullptr, 1, size));

@@ -3,6 +3,8 @@
 #include "tool/ToolSession.h"
 #include "tool/drawing/Surface.h"
 
+#include <string>
+
 namespace facetta {
 
 /// The bottom left of a hint's text beside a cursor at `cursor`, for a text of `width` by `height`:
@@ -17,8 +19,9 @@ namespace facetta {
 /// end of its life.
 [[nodiscard]] double hintOpacity(const Hint& hint, ai::uint64 now);
 
-/// Draws the hint, when there is one at the time `now`, beside the tool's cursor. Throws
-/// `ai::Error`.
-void drawHint(const Surface& surface, const ToolState& state, ai::uint64 now);
+/// Draws the hint, when there is one at the time `now`, beside the tool's cursor; `words` is its
+/// text. Throws `ai::Error`.
+void drawHint(const Surface& surface, const ToolState& state, const std::u16string& words,
+              ai::uint64 now);
 
 } // namespace facetta

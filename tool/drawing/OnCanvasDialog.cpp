@@ -50,7 +50,8 @@ void drawBox(const Surface& surface, const AIRect& box, const AIRGBColor& fill) 
 }
 
 void drawButton(const Surface& surface, const ToolState& state, const DrawnRow& row) {
-    const bool dimmed = row.item == DialogItem::ApplyToSelection && state.selectionEmpty;
+    const bool dead = state.zone == ToolZone::LayerLocked;
+    const bool dimmed = dead || (row.item == DialogItem::ApplyToSelection && selectionEmpty(state));
     const bool hovered = state.hoverItem == row.item && !dimmed;
     drawBox(surface, placed(state.dialog, row.top, row.bottom),
             hovered ? surface.colours.hoveredFill : surface.colours.buttonFill);
@@ -63,8 +64,7 @@ void drawButton(const Surface& surface, const ToolState& state, const DrawnRow& 
 } // namespace
 
 bool axesHaveDialog(const ToolSession& session) {
-    const SymmetryAxes& axes = session.state.axes;
-    return session.preferences.useAnnotationDialog && axes.provisional && !axes.onLayer;
+    return session.preferences.useAnnotationDialog && axesModified(session.state);
 }
 
 bool dialogIsShown(const ToolSession& session) {

@@ -3,7 +3,8 @@
 /// The small dialog on the document by which pending axes are applied or dropped. It is no window:
 /// it is drawn with the axes, and the tool tests what of it the cursor is over.
 ///
-/// Drawn rows and hit rows differ by a pixel or two: that is the rule, not an oversight.
+/// A row is hit from below its upper border to a pixel or two below its lower one: borders belong
+/// to the row above.
 
 #include "tool/ToolSession.h"
 #include "tool/drawing/Surface.h"

@@ -110,18 +110,18 @@ void drawOrigin(const Surface& surface, const PixelAxes& axes) {
 bool axesAreShown(const ToolSession& session) {
     const ToolState& state = session.state;
     if (state.axes.axisCount < kFewestAxes) return false;
-    if (state.axes.onLayer) return currentLayerIsVisible();
-    return state.axes.provisional || (state.toolSelected && state.zone == ToolZone::Canvas);
+    if (axesOnLayer(state)) return currentLayerIsVisible();
+    return axesModified(state) ||
+           (state.activity != Activity::Away && state.zone == ToolZone::Canvas);
 }
 
 bool axesArePending(const ToolState& state) {
-    const bool beingMade = state.zone == ToolZone::Canvas && state.dragging && !state.cancelled;
-    return state.axes.provisional || (beingMade && !state.axes.onLayer);
+    return axesModified(state) || (state.activity == Activity::MakingAxes && dragging(state));
 }
 
 bool maskIsShown(const ToolSession& session) {
     if (session.preferences.opacity <= 0.0) return false; // it would not be seen
-    if (session.state.axes.onLayer) return session.preferences.useOverlay;
+    if (axesOnLayer(session.state)) return session.preferences.useOverlay;
     return axesArePending(session.state);
 }
 

@@ -36,11 +36,6 @@ struct PixelRect {
            point.y <= rect.bottom;
 }
 
-/// Whether the two share more than an edge.
-[[nodiscard]] constexpr bool overlap(const PixelRect& a, const PixelRect& b) {
-    return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
-}
-
 /// The part of `segment` inside `rect`; none when it misses it.
 [[nodiscard]] std::optional<LineSegment> clipped(const LineSegment& segment, const PixelRect& rect);
 

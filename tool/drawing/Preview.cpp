@@ -157,7 +157,7 @@ void drawImage(PathDrawing& drawing, const Preview& preview, const PreviewPath& 
 void refreshPreview(ToolSession& session) {
     ToolState& state = session.state;
     if (state.preview.captured || !documentIsOpen()) return;
-    const bool ofLayer = state.axes.onLayer || state.layerEdit;
+    const bool ofLayer = axesOnLayer(state) || layerEditInProgress(state);
     std::vector<Unit> units = ofLayer ? std::vector<Unit>{} : unitsOfSelection();
     const AILayerHandle layer = units.empty() ? topLevelLayer(nullptr) : nullptr;
     if (layer != nullptr) units = sourcesOnLayer(layer);

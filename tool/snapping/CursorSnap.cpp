@@ -31,9 +31,7 @@ SnapPointForm probe(AIDocumentViewHandle view) {
 
 } // namespace
 
-AIRealPoint snapped(SnapPointForm& form, AIDocumentViewHandle view, AIRealPoint point,
-                    const AIEvent* event, const char* control) {
-    if (form == SnapPointForm::Unknown) form = probe(view);
+AIRealPoint CursorSnap::snapped(AIRealPoint point, const char* control) const {
     AIRealPoint result = point;
     const auto track = ai::suites.cursorSnap->Track;
     if (form == SnapPointForm::Reference) {
@@ -46,14 +44,22 @@ AIRealPoint snapped(SnapPointForm& form, AIDocumentViewHandle view, AIRealPoint 
     return result;
 }
 
-void clearSnapFeedback(SnapPointForm& form, AIDocumentViewHandle view, const AIEvent* event) {
+void CursorSnap::clearFeedback() const {
     constexpr AIRealPoint kFarAway{50000.0F, 50000.0F};
-    static_cast<void>(snapped(form, view, kFarAway, event, kSnapReset));
+    static_cast<void>(snapped(kFarAway, kSnapReset));
 }
 
-void hideSnapFeedback(SnapPointForm& form, AIDocumentViewHandle view, const AIEvent* event) {
+void CursorSnap::hideFeedback() const {
     constexpr AIRealPoint kOffTheCanvas{16384.0F, 16384.0F};
-    static_cast<void>(snapped(form, view, kOffTheCanvas, event, kSnapToNothing));
+    static_cast<void>(snapped(kOffTheCanvas, kSnapToNothing));
+}
+
+bool CursorSnap::isOn() const { return ai::suites.cursorSnap->UseSmartGuides(view) != 0; }
+
+CursorSnap cursorSnap(ToolSession& session, const AIToolMessage& message) {
+    SnapPointForm& form = session.state.snapPointForm;
+    if (form == SnapPointForm::Unknown) form = probe(session.view.handle);
+    return {form, session.view.handle, message.event};
 }
 
 } // namespace facetta

@@ -3,8 +3,7 @@
 /// The host's cursor snapping (its smart guides), as the tool uses it.
 
 #include "host/Messages.h"
-#include "tool/CurrentView.h"
-#include "tool/ToolState.h"
+#include "tool/ToolSession.h"
 
 namespace facetta {
 
@@ -14,16 +13,30 @@ inline constexpr char kSnapWhileDragging[] = "ATFGPLM v i o f"; ///< filled area
 inline constexpr char kSnapReset[] = "AP v i o";                ///< at a release
 inline constexpr char kSnapToNothing[] = "";
 
-/// Where `point` (on the page, y up) snaps to; the point itself when there is nothing near. `event`
-/// carries the keys held and may be null. `form` is found out at the first call and kept. Throws
-/// `ai::Error`.
-[[nodiscard]] AIRealPoint snapped(SnapPointForm& form, AIDocumentViewHandle view, AIRealPoint point,
-                                  const AIEvent* event, const char* control);
+/// Pixels of the view within which something attracts: the cursor of a drag, and open ends near an
+/// axis.
+constexpr double kSnapPixels = 12.0;
 
-/// Takes the host's guide lines off the screen, by snapping far away from everything.
-void clearSnapFeedback(SnapPointForm& form, AIDocumentViewHandle view, const AIEvent* event);
+/// For the length of one message. All members throw `ai::Error`.
+struct CursorSnap {
+    SnapPointForm form;
+    AIDocumentViewHandle view;
+    const AIEvent* event; ///< carries the keys held; may be null
 
-/// The same while snapping is suppressed.
-void hideSnapFeedback(SnapPointForm& form, AIDocumentViewHandle view, const AIEvent* event);
+    /// Where `point` (on the page, y up) snaps to; the point itself when there is nothing near.
+    [[nodiscard]] AIRealPoint snapped(AIRealPoint point, const char* control) const;
+
+    /// Takes the host's guide lines off the screen, by snapping far away from everything.
+    void clearFeedback() const;
+
+    /// The same while snapping is suppressed.
+    void hideFeedback() const;
+
+    /// Has the user smart guides switched on?
+    [[nodiscard]] bool isOn() const;
+};
+
+/// The first call for a host finds out what form it takes points in.
+[[nodiscard]] CursorSnap cursorSnap(ToolSession& session, const AIToolMessage& message);
 
 } // namespace facetta

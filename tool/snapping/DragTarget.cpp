@@ -1,204 +1,116 @@
 #include "tool/snapping/DragTarget.h"
 
-#include "host/Error.h"
-#include "host/MessageNames.h"
-#include "host/Suites.h"
-#include "host/suites/AICursorSnapSuite.h"
-#include "host/suites/AINotifierSuite.h"
-#include "host/suites/AIPreferenceSuite.h"
 #include "symmetry/ArtSpace.h"
-#include "tool/Zones.h"
 #include "tool/snapping/Constraints.h"
-#include "tool/snapping/CursorSnap.h"
 #include "tool/snapping/PerpendicularSnap.h"
 #include "tool/snapping/SegmentSnap.h"
 
-#include <cmath>
 #include <utility>
 
 namespace facetta {
 namespace {
 
 using platform::Key;
+using platform::KeyState;
 
 constexpr double kDegreesPerRadian = 180.0 / kPi;
-
-/// Does the drag turn a line about the origin? Else it moves the origin.
-bool turns(const ToolSession& session) {
-    const ToolZone zone = session.state.zone;
-    return zone == ToolZone::Axis ||
-           (zone == ToolZone::Canvas && !session.preferences.initialDragMovesOrigin);
-}
-
-/// The point that a dragged line turns about.
-Point pivotOf(const ToolState& state) {
-    return state.zone == ToolZone::Canvas ? widen(state.anchor) : pageAxes(state.axes).origin;
-}
 
 /// True for the first message with the key down.
 bool firstOfPress(bool& latch) { return !std::exchange(latch, true); }
 
-void show(ToolSession& session, HintId id) { showHint(session.state.hint, id, platform::ticks()); }
-
 /// A key has come up: the hint is that of another key still held, or goes.
-void fallBack(ToolSession& session, Key other, HintId hint) {
-    if (turns(session) && session.keys.isDown(other))
-        show(session, hint);
-    else
-        hideHint(session.state.hint);
+HintId fallBack(const Drag& drag, bool otherKey, HintId hint) {
+    return drag.turns && otherKey ? hint : HintId::None;
+}
+
+DragTarget snapByHost(const Drag& drag, AIRealPoint cursor, const CursorSnap& host) {
+    DragTarget found;
+    found.snapped = widen(drag.suppressed ? cursor : host.snapped(cursor, kSnapWhileDragging));
+    found.pivot = drag.pivot;
+    found.latches = drag.latches;
+    return found;
+}
+
+DragTarget tellOfOverride(DragTarget found, const Drag& drag, const KeyState& keys) {
+    const bool overrides = drag.turns && keys.isDown(Key::Control) && !keys.isDown(Key::Shift);
+    if (overrides && firstOfPress(found.latches.control)) found.hint = HintId::OverrideSnapping;
+    if (!overrides && std::exchange(found.latches.control, false)) found.hint = HintId::None;
+    return found;
+}
+
+DragTarget snapToPerpendicular(DragTarget found, const Drag& drag, Point cursor,
+                               const KeyState& keys) {
+    const bool wanted = drag.snapToPerpendiculars != keys.isDown(Key::Control);
+    if (!wanted || !drag.turns || keys.isDown(Key::Shift)) return found;
+    const PerpendicularSnap snap = findPerpendicular(drag.pivot, cursor, drag.snapDistance);
+    if (!snap.point) return found;
+    found.perpendicularSnapFound = true;
+    found.snapped = rounded(*snap.point);
+    return found;
+}
+
+DragTarget snapToPath(DragTarget found) {
+    if (found.perpendicularSnapFound) return found;
+    if (const auto place = findPlaceOnPath(found.snapped)) found.snapped = rounded(*place);
+    return found;
+}
+
+/// The construction goes along by as much as the target has moved.
+DragTarget moveWithSpace(DragTarget found, const Drag& drag, const KeyState& keys) {
+    if (!drag.turns) return found;
+    if (!keys.isDown(Key::Space)) {
+        if (std::exchange(found.latches.space, false))
+            found.hint = fallBack(drag, keys.isDown(Key::Shift), HintId::ConstrainAngle);
+        return found;
+    }
+    if (firstOfPress(found.latches.space)) found.hint = HintId::MoveOrigin;
+    found.moves = true;
+    const Point moved = drag.pivot + (found.snapped - drag.previousSnapped);
+    found.pivot = drag.movesPivot ? soften(clampToCanvas(harden(moved))) : rounded(moved);
+    return found;
+}
+
+DragTarget constrainTurning(DragTarget found, const Drag& drag, const KeyState& keys) {
+    if (!drag.turns || !keys.isDown(Key::Shift)) return found;
+    if (firstOfPress(found.latches.shift)) found.hint = HintId::ConstrainAngle;
+    const Constrained held = constrain(found.pivot, found.target, drag.constrainAngle);
+    found.constrainedAngle = held.angle;
+    // The axes take their angle from `constrainedAngle` alone. The target is as far away as the
+    // projection, but in the direction of the free point as counted from the constrain angle, so
+    // that it does not jump from step to step as the line does.
+    const double counted =
+        directionTo(found.pivot, found.target) - drag.constrainAngle / kDegreesPerRadian;
+    const double reach = distance(found.pivot, held.target);
+    found.target = rounded(found.pivot + reach * direction(counted));
+    return found;
+}
+
+DragTarget constrainOrigin(DragTarget found, const Drag& drag, const KeyState& keys) {
+    if (drag.turns || !keys.isDown(Key::Shift)) return found;
+    if (firstOfPress(found.latches.shift)) found.hint = HintId::ConstrainOrigin;
+    found.target = rounded(constrain(drag.originStart, found.target, drag.constrainAngle).target);
+    return found;
+}
+
+DragTarget releaseShift(DragTarget found, const Drag& drag, const KeyState& keys) {
+    if (!keys.isDown(Key::Shift) && std::exchange(found.latches.shift, false))
+        found.hint = fallBack(drag, keys.isDown(Key::Space), HintId::MoveOrigin);
+    return found;
 }
 
 } // namespace
 
-void findDragTarget(ToolSession& session, const AIToolMessage& message) {
-    ToolState& state = session.state;
-    if (!shapesAxes(state.zone)) {
-        state.snapped = state.target = message.cursor;
-        return;
-    }
-    state.previousSnapped = state.snapped;
-    snapByHost(session, message);
-    updateOverrideHint(session);
-    snapToPerpendicular(session);
-    if (!state.perpendicularSnapFound) snapToPath(session);
-    const Vector movement = takeTarget(session);
-    moveWithSpace(session, movement);
-    constrainTurning(session);
-    constrainOrigin(session);
-    releaseShift(session);
-}
-
-void snapByHost(ToolSession& session, const AIToolMessage& message) {
-    ToolState& state = session.state;
-    state.snapped = state.smartGuidesSuppressed
-                        ? message.cursor
-                        : snapped(state.snapPointForm, session.view.handle, message.cursor,
-                                  message.event, kSnapWhileDragging);
-}
-
-void updateOverrideHint(ToolSession& session) {
-    bool& latch = session.state.latches.control;
-    const bool overrides =
-        turns(session) && session.keys.isDown(Key::Control) && !session.keys.isDown(Key::Shift);
-    if (overrides) {
-        if (firstOfPress(latch)) show(session, HintId::OverrideSnapping);
-    } else if (std::exchange(latch, false)) {
-        hideHint(session.state.hint);
-    }
-}
-
-void snapToPerpendicular(ToolSession& session) {
-    ToolState& state = session.state;
-    state.perpendicularSnapFound = false;
-    const bool wanted = session.preferences.snapPerpendicular != session.keys.isDown(Key::Control);
-    if (!wanted || !turns(session) || session.keys.isDown(Key::Shift)) return;
-    const Point cursor = widen(state.cursor);
-    const PerpendicularSnap snap =
-        findPerpendicular(pageAxes(state.axes).origin, cursor, state.snapDistance);
-    if (!snap.point) return;
-    state.perpendicularSnapFound = true;
-    state.snapped = narrow(*snap.point);
-}
-
-void snapToPath(ToolSession& session) {
-    AIRealPoint& snapped = session.state.snapped;
-    if (const auto place = findPlaceOnPath(widen(snapped))) snapped = narrow(*place);
-}
-
-Vector takeTarget(ToolSession& session) {
-    ToolState& state = session.state;
-    state.target = state.snapped;
-    return widen(state.snapped) - widen(state.previousSnapped);
-}
-
-void moveWithSpace(ToolSession& session, Vector movement) {
-    ToolState& state = session.state;
-    if (!turns(session)) return;
-    if (!session.keys.isDown(Key::Space)) {
-        if (std::exchange(state.latches.space, false))
-            fallBack(session, Key::Shift, HintId::ConstrainAngle);
-        return;
-    }
-    if (firstOfPress(state.latches.space)) show(session, HintId::MoveOrigin);
-    if (state.zone == ToolZone::Canvas) {
-        state.anchor = narrow(widen(state.anchor) + movement);
-        return;
-    }
-    // The origin is hardened: there y runs down.
-    const Point moved = hardOriginOf(state.axes) + Vector{movement.x, -movement.y};
-    const Point origin = clampToCanvas(moved);
-    state.axes.originX = origin.x;
-    state.axes.originY = origin.y;
-}
-
-void constrainTurning(ToolSession& session) {
-    ToolState& state = session.state;
-    if (!turns(session) || !session.keys.isDown(Key::Shift)) return;
-    if (firstOfPress(state.latches.shift)) show(session, HintId::ConstrainAngle);
-    const Point pivot = pivotOf(state);
-    const Point free = widen(state.target);
-    const double degrees = session.host.constrainAngle;
-    const Constrained constrained = constrain(pivot, free, degrees);
-    state.constrainedAngle = constrained.angle;
-    // As far as the projection, but in the direction of the free point as counted from the
-    // constrain angle: that is the rule, not an oversight. The axes take their angle from
-    // `constrainedAngle`.
-    const double counted = directionTo(pivot, free) - degrees / kDegreesPerRadian;
-    const double reach = distance(pivot, constrained.target);
-    state.target = narrow(pivot + reach * direction(counted));
-}
-
-void constrainOrigin(ToolSession& session) {
-    ToolState& state = session.state;
-    if (turns(session) || !session.keys.isDown(Key::Shift)) return;
-    if (firstOfPress(state.latches.shift)) show(session, HintId::ConstrainOrigin);
-    const Constrained constrained =
-        constrain(widen(state.originStart), widen(state.target), session.host.constrainAngle);
-    state.constrainedAngle = constrained.angle;
-    state.target = narrow(constrained.target);
-}
-
-void releaseShift(ToolSession& session) {
-    if (session.keys.isDown(Key::Shift)) return;
-    if (std::exchange(session.state.latches.shift, false))
-        fallBack(session, Key::Space, HintId::MoveOrigin);
-}
-
-void toggleSmartGuides(ToolSession& session, const AIToolMessage& message) {
-    ToolState& state = session.state;
-    if (!session.keys.isDown(Key::U)) {
-        state.latches.smartGuides = false;
-        return;
-    }
-    const bool elsewhere = state.zone == ToolZone::Sector || state.zone == ToolZone::DialogTitle ||
-                           state.zone == ToolZone::DialogButton;
-    if (elsewhere || ai::suites.cursorSnap->UseSmartGuides(session.view.handle) == 0) return;
-    if (!firstOfPress(state.latches.smartGuides)) return;
-    state.smartGuidesSuppressed = !state.smartGuidesSuppressed;
-    if (!state.smartGuidesSuppressed) return show(session, HintId::SmartGuidesEnabled);
-    show(session, HintId::SmartGuidesDisabled);
-    hideSnapFeedback(state.snapPointForm, session.view.handle, message.event);
-}
-
-void setConstrainAngle(ToolSession& session) {
-    ToolState& state = session.state;
-    const PageAxes axes = pageAxes(state.axes);
-    const double line = normaliseAngle(axes.angle + state.grabIndex * sectorAngle(axes));
-    const double degrees = line * kDegreesPerRadian;
-    constexpr const char* kOfTheHost = nullptr; // the application's own preferences
-    const struct {
-        const char* key;
-        double value;
-    } rows[] = {
-        {kConstrainAnglePreference, degrees},
-        {"constrain/cos", std::cos(line)},
-        {"constrain/sin", std::sin(line)},
-    };
-    for (const auto& row : rows)
-        ai::check(ai::suites.preference->PutRealPreference(kOfTheHost, row.key, row.value));
-    session.host.constrainAngle = degrees;
-    show(session, HintId::SetConstrainAngle);
-    ai::check(ai::suites.notifier->Notify(kPreferenceChangedNotifier, nullptr));
+DragTarget findDragTarget(const Drag& drag, AIRealPoint cursor, const CursorSnap& host,
+                          const KeyState& keys) {
+    DragTarget found = snapByHost(drag, cursor, host);
+    found = tellOfOverride(found, drag, keys);
+    found = snapToPerpendicular(found, drag, widen(cursor), keys);
+    found = snapToPath(found);
+    found.target = found.snapped;
+    found = moveWithSpace(found, drag, keys);
+    found = constrainTurning(found, drag, keys);
+    found = constrainOrigin(found, drag, keys);
+    return releaseShift(found, drag, keys);
 }
 
 } // namespace facetta

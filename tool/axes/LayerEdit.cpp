@@ -1,4 +1,4 @@
-#include "tool/LayerEdit.h"
+#include "tool/axes/LayerEdit.h"
 
 #include "host/Error.h"
 #include "host/Lent.h"
@@ -10,7 +10,7 @@
 #include "symmetry/AxisGuides.h"
 #include "symmetry/LayerAxesStore.h"
 #include "symmetry/MirrorTag.h"
-#include "tool/CurrentAxes.h"
+#include "tool/axes/CurrentAxes.h"
 #include "tool/drawing/Preview.h"
 
 #include <utility>
@@ -29,45 +29,44 @@ ai::ArtSet copiesOn(AILayerHandle layer) {
     return copies;
 }
 
+void layGuides(const SymmetryAxes& axes) {
+    removeAxisGuides(nullptr, /*untagOnly*/ false);
+    addAxisGuides(axes);
+}
+
 } // namespace
 
 void beginLayerEdit(ToolSession& session, const SymmetryAxes& axes) {
     ToolState& state = session.state;
     const AILayerHandle layer = topLevelLayer(nullptr);
-    ai::ArtSet copies = copiesOn(layer);
-    state.guidesToRestore = layerHasAxisGuides();
-    state.layerBackup = axes;
-    state.editedLayer = layer;
-    state.releasedCopies = std::move(copies);
-    state.layerEdit = true;
+    const EditNumber number = state.memory.add({.document = state.place.document,
+                                                .layer = layer,
+                                                .layerBackup = axes,
+                                                .guidesExisted = layerHasAxisGuides(),
+                                                .releasedCopies = copiesOn(layer)});
+    happen(state, Event::LayerAxesDetached);
+    state.edit = number;
     clearPreview(state);
     refreshPreview(session); // now, while the copies can still be told from what was drawn
 }
 
 void takeAxesOffLayer(ToolSession& session) {
-    ToolState& state = session.state;
-    if (state.guidesToRestore) removeAxisGuides(nullptr, /*untagOnly*/ false);
-    // Only the drag that begins the edit finds the axes on the layer.
-    // They belong to all its sublayers, whichever of these is the current one.
-    if (state.dragBackup.onLayer)
-        LayerAxesStore::remove(topLevelLayer(nullptr), /*resolveTopLevel*/ true);
-    state.committed = false;
-    state.axes.provisional = true;
-    state.axes.onLayer = false;
+    if (guidesExisted(session.state)) removeAxisGuides(nullptr, /*untagOnly*/ false);
+    // Only the drag that begins the edit finds the axes on the layer. They belong to all its
+    // sublayers, whichever of these is the current one.
+    const AILayerHandle layer = topLevelLayer(nullptr);
+    if (LayerAxesStore::hasAxes(layer)) LayerAxesStore::remove(layer, /*resolveTopLevel*/ true);
     session.updatePanel();
 }
 
-void renewGuides(const ToolState& state, const SymmetryAxes& axes) {
-    if (!state.guidesToRestore) return;
-    removeAxisGuides(nullptr, /*untagOnly*/ false);
-    addAxisGuides(axes);
+void renewGuides(const ToolState& state) {
+    if (guidesExisted(state)) layGuides(state.axes);
 }
 
-void reclaimCopies(const ToolState& state) {
-    if (!state.releasedCopies) return;
+void reclaimCopies(const LayerEdit& edit) {
     constexpr AIBoolean kInLayersToo = 1;
     const AllChangesAllowed evenInLockedGroups;
-    for (const AIArtHandle art : membersOf(state.releasedCopies.get())) {
+    for (const AIArtHandle art : membersOf(edit.releasedCopies.get())) {
         if (!ai::suites.art->ValidArt(art, kInLayersToo)) continue;
         MirrorTag::set(art, MirrorTag::kCopy);
         ai::check(ai::suites.art->SetArtUserAttr(art, kArtLocked, kArtLocked));
@@ -76,22 +75,16 @@ void reclaimCopies(const ToolState& state) {
 
 void restoreLayer(ToolSession& session) {
     ToolState& state = session.state;
-    reclaimCopies(state);
-    renewGuides(state, state.layerBackup);
-    LayerAxesStore::write(state.layerBackup);
+    const LayerEdit& edit = *layerEditOf(state);
+    const SymmetryAxes axes = edit.layerBackup;
+    reclaimCopies(edit);
+    if (edit.guidesExisted) layGuides(axes);
+    LayerAxesStore::write(axes);
     LayerAxesStore::stamp(nullptr); // last: all of the above changes art of the layer
     ai::nameUndoStep("Cancel Edit Symmetry Axes");
-    state.axes = state.layerBackup;
-    state.committed = true;
+    happen(state, Event::EditCancelled);
+    hold(state, {state.activity, axes});
     rememberAsDefault(session);
-    endLayerEdit(state);
-}
-
-void endLayerEdit(ToolState& state) noexcept {
-    state.layerEdit = false;
-    state.guidesToRestore = false;
-    state.editedLayer = nullptr;
-    state.releasedCopies.reset();
 }
 
 } // namespace facetta

@@ -1,15 +1,16 @@
-#include "tool/SymmetryTool.h"
+#include "tool/handlers/Release.h"
 
 #include "host/Suites.h"
 #include "host/UndoText.h"
 #include "symmetry/LayerArt.h"
-#include "tool/CurrentAxes.h"
-#include "tool/Gesture.h"
-#include "tool/LayerEdit.h"
-#include "tool/NumericEdit.h"
-#include "tool/Reposition.h"
 #include "tool/ToolCursor.h"
 #include "tool/Zones.h"
+#include "tool/axes/Apply.h"
+#include "tool/axes/CurrentAxes.h"
+#include "tool/axes/LayerEdit.h"
+#include "tool/axes/NumericEdit.h"
+#include "tool/axes/Reposition.h"
+#include "tool/handlers/Gesture.h"
 #include "tool/snapping/CursorSnap.h"
 
 #include <array>
@@ -19,11 +20,8 @@ namespace facetta {
 namespace {
 
 void releaseNewAxes(ToolSession& session) {
-    ToolState& state = session.state;
-    state.axes.provisional = true;
-    state.committed = false;
-    state.secondClick = false;
-    state.zone = ToolZone::Axis;
+    happen(session.state, Event::NewAxesReleased);
+    session.state.secondClick = false;
     axesChanged(session);
     session.updatePanel();
 }
@@ -38,43 +36,37 @@ void clickAxes(ToolSession& session) {
 void releaseAxes(ToolSession& session) {
     ToolState& state = session.state;
     rememberAsDefault(session);
-    if (!state.dragging) return clickAxes(session);
-    if (state.reposition) {
+    if (!state.gesture->dragging && !state.gesture->recounted) return clickAxes(session);
+    if (repositionMode(state)) {
         keepReposition(state);
         ai::nameUndoStep("Reposition Symmetry Axes");
     } else {
-        renewGuides(state, state.axes);
+        renewGuides(state);
         ai::nameUndoStep("Edit Symmetry Axes");
     }
     axesChanged(session);
 }
 
 void releaseSector(ToolSession& session) {
-    if (!session.state.axes.onLayer) return;
-    changeActiveSector(session.mirroring, session.state.pickedSector);
+    if (!axesOnLayer(session.state)) return;
+    changeActiveSector(session.mirroring, session.state.gesture->pickedSector);
     ai::nameUndoStep("Change Symmetry Axes Active Sector");
 }
 
-void pressCancel(ToolSession& session) {
-    if (session.state.layerEdit) return restoreLayer(session);
-    dropAxes(session.state);
-    previewAt(session, session.state.cursor);
-}
-
 void pressApplyToSelection(ToolSession& session) {
-    if (!session.state.selectionEmpty) applyToSelection(session);
+    if (!selectionEmpty(session.state)) applyToSelection(session);
 }
 
 void pressNothing(ToolSession&) {}
 
-using Release = void (*)(ToolSession&);
+using ReleaseStep = void (*)(ToolSession&);
 
-constexpr std::array<Release, 5> kButtons{
+constexpr std::array<ReleaseStep, 5> kButtons{
     pressNothing,          // None
     pressNothing,          // Title
     pressApplyToSelection, // ApplyToSelection
     applyToLayer,          // ApplyToLayer
-    pressCancel,           // Cancel
+    cancelAxes,            // Cancel
 };
 
 void releaseButton(ToolSession& session) {
@@ -86,7 +78,7 @@ void releaseButton(ToolSession& session) {
 
 void releaseNothing(ToolSession&) {}
 
-constexpr std::array<Release, 8> kReleases{
+constexpr std::array<ReleaseStep, 8> kReleases{
     releaseNewAxes, // Canvas
     releaseNothing, // Sector
     releaseSector,  // SectorPicked
@@ -97,47 +89,42 @@ constexpr std::array<Release, 8> kReleases{
     releaseNothing, // LayerLocked
 };
 
-/// After Escape new axes follow the cursor again, and those there are stay as they are.
+/// What was taken back stays so; new axes follow the cursor again.
 void releaseCancelled(ToolSession& session, const AIToolMessage& message) {
-    if (session.state.zone != ToolZone::Canvas) return;
+    if (session.state.activity != Activity::FollowingCursor || !session.state.place.editable)
+        return;
     previewAt(session, snapToAnything(session, message));
-    showZoneCursor(session);
 }
 
 void release(ToolSession& session, const AIToolMessage& message) {
     ToolState& state = session.state;
-    clearSnapFeedback(state.snapPointForm, session.view.handle, message.event);
+    cursorSnap(session, message).clearFeedback();
+    const bool goesOn = gestureGoesOn(session);
     if (!session.licence.allows(GuardedAction::ToolMouseUp)) {
-        if (state.cancelled) return; // already, or the press was refused as well
-        cancelGesture(session);
+        if (goesOn) takeBack(session);
         return axesChanged(session);
     }
-    if (state.cancelled)
-        releaseCancelled(session, message);
-    else
+    if (goesOn)
         kReleases.at(static_cast<std::size_t>(state.zone))(session);
+    else
+        releaseCancelled(session, message);
     updateZone(session);
     redrawOverlay(session.view);
-}
-
-/// Whatever became of it, the gesture is over.
-void endGesture(ToolState& state) noexcept {
-    state.dragging = false;
-    state.cancelled = false;
-    endReposition(state);
 }
 
 } // namespace
 
 void mouseUp(ToolSession& session, const AIToolMessage& message) {
-    storeCursor(session.state, message.cursor);
+    ToolState& state = session.state;
+    if (!state.gesture) return; // it ended before, with the tool or the document
+    storeCursor(state, message.cursor);
     try {
         inGesture(session, [&] { release(session, message); });
     } catch (...) {
-        endGesture(session.state);
+        state.gesture.reset();
         throw;
     }
-    endGesture(session.state);
+    state.gesture.reset();
 }
 
 } // namespace facetta

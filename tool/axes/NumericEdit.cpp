@@ -1,11 +1,11 @@
-#include "tool/NumericEdit.h"
+#include "tool/axes/NumericEdit.h"
 
 #include "host/Error.h"
 #include "host/Suites.h"
 #include "host/suites/AIUndoSuite.h"
-#include "tool/CurrentAxes.h"
-#include "tool/LayerEdit.h"
-#include "tool/Reposition.h"
+#include "tool/axes/CurrentAxes.h"
+#include "tool/axes/LayerEdit.h"
+#include "tool/axes/Reposition.h"
 
 namespace facetta {
 namespace {
@@ -27,31 +27,27 @@ DialogResult askForAxes(ToolSession& session) {
     return session.dialogs.editAxes();
 }
 
+/// What the dialog is about to change, and in what state the tool was before.
 void prepare(ToolSession& session) {
     ToolState& state = session.state;
-    endReposition(state); // Alt counts now, and not when the button went down
-    if (!state.axes.onLayer) return;
+    if (!axesOnLayer(state)) return;
     if (session.keys.isDown(platform::Key::Alt)) return beginReposition(state);
     beginLayerEdit(session, state.axes);
     takeAxesOffLayer(session);
 }
 
 /// The press changed nothing, so what is undone is the dialog's and what was done to open it.
-void takeBack(ToolSession& session, const SymmetryAxes& before) {
-    ToolState& state = session.state;
-    state.axes = before;
-    if (!before.onLayer) return;
-    ai::check(ai::suites.undo->UndoChanges());
-    endReposition(state);
-    endLayerEdit(state);
-    state.committed = true;
-    session.updatePanel();
+void takeBack(ToolSession& session, const Holding& before) {
+    const bool changedLayer = session.state.activity != before.activity;
+    if (changedLayer) ai::check(ai::suites.undo->UndoChanges());
+    hold(session.state, before);
+    if (changedLayer) session.updatePanel();
 }
 
 void keep(ToolSession& session) {
     ToolState& state = session.state;
-    if (state.reposition) return keepReposition(state);
-    renewGuides(state, state.axes);
+    if (repositionMode(state)) return keepReposition(state);
+    renewGuides(state);
     state.zone = ToolZone::Axis;
     session.updatePanel();
 }
@@ -59,7 +55,7 @@ void keep(ToolSession& session) {
 } // namespace
 
 void editAxesByNumbers(ToolSession& session) {
-    const SymmetryAxes before = session.state.axes;
+    const Holding before = holdingOf(session.state);
     prepare(session);
     if (askForAxes(session) == DialogResult::Cancel)
         takeBack(session, before);

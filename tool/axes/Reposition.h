@@ -5,21 +5,17 @@
 ///   1. `beginReposition` notes the axes and collects the layer's art.
 ///   2. `carryLayerArt` moves the art as the axes have moved since. The host takes that back before
 ///      each message of a drag.
-///   3. `keepReposition` stores the axes on the layer; `endReposition` ends it, kept or not.
+///   3. `keepReposition` stores the axes on the layer and ends it. Taken back instead, the tool
+///      shows the layer's axes as it did before.
+///
+/// All functions throw `ai::Error`.
 
 #include "tool/ToolState.h"
 
 namespace facetta {
 
-/// Throws `ai::Error`.
 void beginReposition(ToolState& state);
-
-/// Throws `ai::Error`.
 void carryLayerArt(const ToolState& state);
-
-/// Throws `ai::Error`.
-void keepReposition(const ToolState& state);
-
-void endReposition(ToolState& state) noexcept;
+void keepReposition(ToolState& state);
 
 } // namespace facetta

@@ -1,4 +1,4 @@
-#include "tool/Reposition.h"
+#include "tool/axes/Reposition.h"
 
 #include "symmetry/ArtSpace.h"
 #include "symmetry/LayerArt.h"
@@ -9,7 +9,7 @@ namespace facetta {
 void beginReposition(ToolState& state) {
     state.repositionArt = collectLayerArt();
     state.repositionBackup = state.axes;
-    state.reposition = true;
+    happen(state, Event::LayerArtTaken);
 }
 
 void carryLayerArt(const ToolState& state) {
@@ -20,14 +20,10 @@ void carryLayerArt(const ToolState& state) {
     moveArt(state.repositionArt, compose(turn, {.tx = shift.x, .ty = shift.y}));
 }
 
-void keepReposition(const ToolState& state) {
+void keepReposition(ToolState& state) {
     LayerAxesStore::write(state.axes);
     LayerAxesStore::stamp(nullptr); // the copies have moved with the art: nothing is to be mirrored
-}
-
-void endReposition(ToolState& state) noexcept {
-    state.reposition = false;
-    state.repositionArt.reset();
+    happen(state, Event::LayerArtReleased);
 }
 
 } // namespace facetta
