@@ -105,13 +105,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                                              : input.take<std::uint16_t>() * kPi / 180.0);
     axes.origin.x = input.coordinate(tier);
     axes.origin.y = input.coordinate(tier);
-    PathMirror mirror(axes, input.take<std::uint8_t>());
+    const MirrorFrame frame(axes, input.take<std::uint8_t>());
+    MirrorScratch scratch;
 
     std::vector<PathShape> members;
     while (!input.empty() && members.size() < 4)
         members.push_back(input.path(tier, axes.origin));
     for (const PathShape& path : members) {
-        const MirroredPath& result = mirror.mirror(path);
+        const MirroredPath result = mirror(frame, path, scratch);
         require(result.contours.empty() == path.segments.empty(), "no path is lost");
         checkResult(result, tier);
         require(removeRedundantAxisPoints(path, axes).segments.size() <= path.segments.size(),
@@ -119,7 +120,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const bool nothing = std::ranges::all_of(
         members, [](const PathShape& member) { return member.segments.empty(); });
-    const MirroredPath& compound = mirror.mirrorCompound(members);
+    const MirroredPath compound = mirrorCompound(frame, members, FillRule::NonZero, scratch);
     require(compound.contours.empty() == nothing, "no compound path is lost");
     checkResult(compound, tier);
     return 0;

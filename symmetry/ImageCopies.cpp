@@ -8,6 +8,7 @@
 #include "symmetry/ArtTree.h"
 #include "symmetry/GuideTag.h"
 #include "symmetry/MirrorTag.h"
+#include "symmetry/PathArt.h"
 
 namespace facetta {
 namespace {
@@ -69,10 +70,12 @@ AIArtHandle CopyMaker::make(const CopySource& source, AIRealMatrix& matrix,
     if (source.holdsGuides)
         for (const AIArtHandle guide : GuideTag::marksInside(copy))
             GuideTag::clear(guide);
-    if (mode_ == CopyMode::Live)
+    if (mode_ == CopyMode::Live) {
         markAndLock(copy, source);
-    else
+    } else {
         shedMarks(copy, source);
+        if (source.selected) selectLike(copy, source.art);
+    }
     return copy;
 }
 
@@ -83,8 +86,22 @@ void CopyMaker::markAndLock(AIArtHandle copy, const CopySource& source) const {
     if (source.marks.guide && suites.dictionary->IsKnown(entries.get(), keys_.guide))
         ai::check(suites.dictionary->DeleteEntry(entries.get(), keys_.guide));
     ai::check(suites.dictionary->SetIntegerEntry(entries.get(), keys_.mirror, MirrorTag::kCopy));
-    const ai::int32 toClear = source.selected ? kArtSelected | kArtHidden : kArtHidden;
-    ai::check(suites.art->SetArtUserAttr(copy, kArtLocked | toClear, kArtLocked));
+    // In two calls: in which order a host sets the attributes of one call is its affair.
+    if (source.selected) ai::check(suites.art->SetArtUserAttr(copy, kArtSelected, 0));
+    ai::check(suites.art->SetArtUserAttr(copy, kArtLocked, kArtLocked));
+}
+
+/// Whether a duplicate is selected with its source is the host's affair.
+void CopyMaker::selectLike(AIArtHandle copy, AIArtHandle source) {
+    const bool isPath = typeOf(source) == kPathArt;
+    if (!isPath || attributesOf(source, kArtFullySelected) != 0) {
+        ai::check(suites.art->SetArtUserAttr(copy, kArtSelected, kArtSelected));
+        return;
+    }
+    PathShape shape;
+    PathTransfer{}.read(source, kArtSelected, shape);
+    ai::check(suites.art->SetArtUserAttr(copy, kArtSelected, 0));
+    selectAnchors(copy, shape);
 }
 
 void CopyMaker::shedMarks(AIArtHandle copy, const CopySource& source) const {

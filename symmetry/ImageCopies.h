@@ -51,7 +51,7 @@ public:
     explicit CopyMaker(CopyMode mode) : mode_(mode), keys_(markKeys()) {}
 
     /// A duplicate of `source` under `matrix`, directly behind the object `behind`, without the
-    /// marks of its source. Throws `ai::Error`.
+    /// marks of its source; as ordinary art it is selected as its source is. Throws `ai::Error`.
     [[nodiscard]] AIArtHandle make(const CopySource& source, AIRealMatrix& matrix,
                                    AIArtHandle behind) const;
 
@@ -60,14 +60,14 @@ public:
 private:
     void markAndLock(AIArtHandle copy, const CopySource& source) const;
     void shedMarks(AIArtHandle copy, const CopySource& source) const;
+    static void selectLike(AIArtHandle copy, AIArtHandle source);
 
     CopyMode mode_;
     MarkKeys keys_;
 };
 
 /// Reflects every object of `set` across the line of ray `rayIndex`: the object itself, or a
-/// duplicate directly behind it. Returns the duplicates,
-/// in the order of `set`. Throws `ai::Error`.
+/// duplicate directly behind it. Returns the duplicates, in the order of `set`. Throws `ai::Error`.
 std::vector<AIArtHandle> reflectCopies(std::span<const AIArtHandle> set, const PageAxes& axes,
                                        int rayIndex, Duplicate duplicate,
                                        CopyMode mode = CopyMode::Plain);

@@ -77,7 +77,7 @@ class Run {
 public:
     Run(const PageAxes& axes, CopyMode mode, bool removePoints)
         : removePoints_(removePoints), copies_(mode), matrices_(axes),
-          mirror_(axes, snapDistance()) {}
+          frame_(axes, snapDistance()) {}
 
     void mirror(const Unit& unit) {
         try {
@@ -106,21 +106,23 @@ private:
 
     void mirrorPath(const Unit& unit) {
         transfer_.read(unit.art, unit.selection, source_);
-        MirroredPath& mirrored = mirror_.mirror(std::move(source_));
+        MirroredPath mirrored = facetta::mirror(frame_, source_, scratch_);
         finish(mirrored);
-        replacePath(unit, mirrored, mirror_.fold(mirrored.sector), transfer_, placed_);
+        replacePath(unit, mirrored, frame_.fold(mirrored.sector), transfer_, placed_);
         for (const PlacedArt& placed : placed_)
             makeCopies(unit, placed);
     }
 
     void mirrorCompound(const Unit& unit) {
         std::vector<PathShape> members;
-        for (const AIArtHandle path : pathsInside(unit.art))
+        const std::vector<AIArtHandle> paths = pathsInside(unit.art);
+        for (const AIArtHandle path : paths)
             transfer_.read(path, attributesOf(path, kSelectionAttributes), members.emplace_back());
-        MirroredPath& mirrored = mirror_.mirrorCompound(members);
+        const FillRule rule = paths.empty() ? FillRule::NonZero : fillRuleOf(paths.front());
+        MirroredPath mirrored = facetta::mirrorCompound(frame_, members, rule, scratch_);
         if (mirrored.contours.empty()) return;
         finish(mirrored);
-        makeCopies(unit, replaceMembers(unit, mirrored, mirror_.fold(mirrored.sector), transfer_));
+        makeCopies(unit, replaceMembers(unit, mirrored, frame_.fold(mirrored.sector), transfer_));
     }
 
     /// When the user wants it, takes the anchors made on the axes away again.
@@ -148,7 +150,8 @@ private:
     bool removePoints_;
     CopyMaker copies_;
     ImageMatrices matrices_;
-    PathMirror mirror_;
+    MirrorFrame frame_;
+    MirrorScratch scratch_;
     JointRemover joints_;
     PathTransfer transfer_;
     PathShape source_;

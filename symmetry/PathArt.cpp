@@ -3,6 +3,7 @@
 #include "host/Error.h"
 #include "host/Suites.h"
 #include "host/suites/AIArtSuite.h"
+#include "host/suites/AIPathStyleSuite.h"
 #include "host/suites/AIPathSuite.h"
 #include "symmetry/ArtSpace.h"
 
@@ -87,6 +88,12 @@ void PathTransfer::write(AIArtHandle path, const PathShape& shape) {
     ai::check(suites.path->SetPathSegmentCount(path, count));
     if (count > 0) ai::check(suites.path->SetPathSegments(path, 0, count, segments));
     ai::check(suites.path->SetPathClosed(path, shape.closed));
+}
+
+FillRule fillRuleOf(AIArtHandle path) {
+    AIPathStyle style{};
+    ai::check(suites.pathStyle->GetPathStyle(path, &style));
+    return style.evenodd != 0 ? FillRule::EvenOdd : FillRule::NonZero;
 }
 
 PathShape readPath(AIArtHandle path, ai::int32 selection) {

@@ -4,6 +4,7 @@
 
 #include "host/Art.h"
 #include "host/Handles.h"
+#include "symmetry/geometry/Islands.h"
 #include "symmetry/geometry/PathShape.h"
 
 #include <vector>
@@ -27,6 +28,9 @@ private:
 
     std::vector<AIPathSegment> stored_; ///< As long as the longest path so far.
 };
+
+/// The rule by which the host fills `path`.
+[[nodiscard]] FillRule fillRuleOf(AIArtHandle path);
 
 /// One path, read as by `PathTransfer`.
 [[nodiscard]] PathShape readPath(AIArtHandle path, ai::int32 selection);

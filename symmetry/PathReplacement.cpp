@@ -8,10 +8,10 @@
 #include "host/UnicodeString.h"
 #include "host/suites/AIArtSuite.h"
 #include "host/suites/AIPathSuite.h"
+#include "symmetry/ArtMarks.h"
 #include "symmetry/ArtSpace.h"
 #include "symmetry/ArtTree.h"
 #include "symmetry/ImageCopies.h"
-#include "symmetry/MirrorTag.h"
 
 #include <span>
 
@@ -53,11 +53,18 @@ void carryNote(AIArtHandle from, AIArtHandle to) {
     ai::check(suites.art->SetNote(to, note));
 }
 
+/// What plug-ins, this one among them, have stored with the source. Few objects have anything.
+void carryEntries(AIArtHandle from, AIArtHandle to) {
+    const ai::Dictionary entries = dictionaryOf(from);
+    if (!entries || suites.dictionary->Size(entries.get()) == 0) return;
+    ai::check(suites.dictionary->Copy(dictionaryOf(to).get(), entries.get()));
+}
+
 void carryOver(const Unit& source, AIArtHandle art, const Matrix& fold) {
     ai::check(suites.art->TransferAttributes(source.art, art, kTransferAll));
     carryNote(source.art, art);
+    carryEntries(source.art, art);
     foldPaint(art, fold);
-    if (source.marks.mirror != MirrorTag::kSource) MirrorTag::set(art, source.marks.mirror);
 }
 
 Draft newPath(const Contour& contour, ai::int16 order, AIArtHandle place, PathTransfer& transfer) {

@@ -3,6 +3,7 @@
 #include "symmetry/geometry/Tolerances.h"
 
 #include <cmath>
+#include <utility>
 
 namespace facetta {
 
@@ -45,52 +46,71 @@ Side sideOf(double margin) { return margin > 0.0 ? Side::Inside : Side::Outside;
 
 bool leavesEdge(Side side) { return side == Side::Inside || side == Side::Outside; }
 
-} // namespace
+/// Finds the contacts of one path.
+class ContactFinder {
+public:
+    ContactFinder(const Wedge& wedge, const PathShape& path, ContactScratch& scratch)
+        : wedge_(wedge), path_(path), margins_(scratch.margins), crossings_(scratch.crossings),
+          sides_(scratch.sides) {}
 
-Wedge::Wedge(const PageAxes& axes)
-    : origin_(axes.origin), first_(direction(rayAngle(axes, 0))),
-      last_(axes.axisCount == 1 ? -first_ : direction(rayAngle(axes, sectorCount(axes) - 1))) {}
+    Contacts find();
 
-bool Wedge::atOrigin(Point point) const { return distance(point, origin_) <= kOnAxisDistance; }
+private:
+    /// True when every curve is clear of both rays, so that any anchor tells the side of all.
+    bool collectCrossings();
+    [[nodiscard]] Crossing anchorCrossing(std::size_t index, Point anchor) const;
+    void addCurveCrossings(std::size_t index, const Cubic& curve,
+                           const std::array<Wedge::Distances, 4>& distances);
+    void addRayCrossings(std::size_t index, const Cubic& curve, Ray ray, const Roots& roots);
+    [[nodiscard]] double farthestMargin(std::size_t firstAnchor, std::size_t endAnchor) const;
+    [[nodiscard]] double farthestMargin(const Cubic& curve, const Crossing& from,
+                                        const Crossing& to) const;
+    [[nodiscard]] bool hardlyLeaves(const Cubic& curve, const Crossing& from, const Crossing& to,
+                                    double apart) const;
+    [[nodiscard]] bool runsAlong(const Cubic& curve, const Crossing& from,
+                                 const Crossing& to) const;
+    [[nodiscard]] Side sideBetween(const Crossing& from, const Crossing& to) const;
+    [[nodiscard]] bool isTipThroughEdge(const Crossing& from, const Crossing& to) const;
+    [[nodiscard]] Side sideOnCurve(const Cubic& curve, const Crossing& from,
+                                   const Crossing& to) const;
+    void groupClosed();
+    void groupOpen();
+    void group(Side before, Side after);
+    void addContact(std::size_t begin, std::size_t last, Side before, Side after);
 
-Ray Wedge::rayAt(Point point) const {
-    const Distances both = distances(point);
-    const bool onFirst =
-        std::abs(both.fromFirst) <= kOnAxisDistance && along(Ray::First, point) >= -kOnAxisDistance;
-    const bool onLast =
-        std::abs(both.fromLast) <= kOnAxisDistance && along(Ray::Last, point) >= -kOnAxisDistance;
-    if (onFirst && onLast && atOrigin(point)) return Ray::Origin;
-    if (onFirst && (!onLast || std::abs(both.fromFirst) <= std::abs(both.fromLast)))
-        return Ray::First;
-    return onLast ? Ray::Last : Ray::None;
-}
+    const Wedge& wedge_;
+    const PathShape& path_;
+    std::vector<double>& margins_;
+    std::vector<Crossing>& crossings_;
+    std::vector<Side>& sides_;
+    Contacts found_;
+};
 
-void ContactFinder::examine(const PathShape& path) {
+Contacts ContactFinder::find() {
     crossings_.clear();
     sides_.clear();
-    contacts_.clear();
-    whole_ = Side::Nowhere;
-    const bool staysOnOneSide = collectCrossings(path);
+    const bool staysOnOneSide = collectCrossings();
 
-    const std::size_t anchors = path.segments.size();
+    const std::size_t anchors = path_.segments.size();
     if (crossings_.empty()) {
-        whole_ = sideOf(staysOnOneSide ? margins_.front() : farthestMargin(0, anchors));
-        return;
+        found_.whole = sideOf(staysOnOneSide ? margins_.front() : farthestMargin(0, anchors));
+        return std::move(found_);
     }
     for (std::size_t i = 0; i + 1 < crossings_.size(); ++i)
-        sides_.push_back(sideBetween(path, crossings_[i], crossings_[i + 1]));
-    if (path.closed)
-        groupClosed(path);
+        sides_.push_back(sideBetween(crossings_[i], crossings_[i + 1]));
+    if (path_.closed)
+        groupClosed();
     else
-        groupOpen(path);
+        groupOpen();
+    return std::move(found_);
 }
 
-bool ContactFinder::collectCrossings(const PathShape& path) {
-    const std::vector<PathSegment>& segments = path.segments;
+bool ContactFinder::collectCrossings() {
+    const std::vector<PathSegment>& segments = path_.segments;
     margins_.resize(segments.size());
     if (segments.empty()) return false;
     bool allStayClear = true;
-    const std::size_t curves = curveCount(path);
+    const std::size_t curves = curveCount(path_);
     const Wedge wedge = wedge_; // nothing that is written below can change this one
     Wedge::Distances here = wedge.distances(segments.front().anchor);
     for (std::size_t i = 0; i < curves; ++i) {
@@ -100,12 +120,12 @@ bool ContactFinder::collectCrossings(const PathShape& path) {
         const Wedge::Distances out = wedge.distances(segments[i].out);
         const Wedge::Distances in = wedge.distances(next.in);
         if (!staysClear(here, out, in, there)) {
-            addCurveCrossings(i, curveAt(path, i), {here, out, in, there});
+            addCurveCrossings(i, curveAt(path_, i), {here, out, in, there});
             allStayClear = false;
         }
         here = there;
     }
-    if (!path.closed) {
+    if (!path_.closed) {
         margins_.back() = here.margin();
         const Crossing end = anchorCrossing(segments.size() - 1, segments.back().anchor);
         if (end.ray != Ray::None) crossings_.push_back(end);
@@ -151,8 +171,9 @@ void ContactFinder::addCurveCrossings(std::size_t index, const Cubic& curve,
 /// is `apart` from it in parameter.
 bool ContactFinder::hardlyLeaves(const Cubic& curve, const Crossing& from, const Crossing& to,
                                  double apart) const {
-    const double limit = apart < kAnchorParameter ? kTouchDepth : kOnAxisDistance;
-    return std::abs(farthestMargin(curve, from, to)) <= limit && !runsAlong(curve, from, to);
+    if (apart < kAnchorParameter) return true;
+    return std::abs(farthestMargin(curve, from, to)) <= kOnAxisDistance &&
+           !runsAlong(curve, from, to);
 }
 
 void ContactFinder::addRayCrossings(std::size_t index, const Cubic& curve, Ray ray,
@@ -175,27 +196,26 @@ double ContactFinder::farthestMargin(std::size_t firstAnchor, std::size_t endAnc
     return farthest;
 }
 
-Side ContactFinder::sideBetween(const PathShape& path, const Crossing& from,
-                                const Crossing& to) const {
+Side ContactFinder::sideBetween(const Crossing& from, const Crossing& to) const {
     const auto firstAnchor = static_cast<std::size_t>(from.segment) + 1;
     const auto endAnchor = static_cast<std::size_t>(to.segment) + (to.onAnchor ? 0 : 1);
     if (firstAnchor == endAnchor)
-        return sideOnCurve(curveAt(path, static_cast<std::size_t>(from.segment)), from, to);
-    if (endAnchor == firstAnchor + 1 && isTipThroughEdge(path, from, to)) return Side::Touching;
+        return sideOnCurve(curveAt(path_, static_cast<std::size_t>(from.segment)), from, to);
+    if (endAnchor == firstAnchor + 1 && isTipThroughEdge(from, to)) return Side::Touching;
     return sideOf(farthestMargin(firstAnchor, endAnchor));
 }
 
 /// Whether the path only touches the edge with the one anchor between two crossings: they all but
-/// coincide, and it does not reach far beyond them.
-bool ContactFinder::isTipThroughEdge(const PathShape& path, const Crossing& from,
-                                     const Crossing& to) const {
+/// coincide, and it does not reach far beyond them. The crossings of a line that is drawn there and
+/// back coincide as well, but it runs across.
+bool ContactFinder::isTipThroughEdge(const Crossing& from, const Crossing& to) const {
     const bool coincide = to.position() - from.position() < kTouchParameter ||
                           distance(from.point, to.point) < kOnAxisDistance;
     if (from.onAnchor || to.onAnchor || !coincide) return false;
-    const std::size_t tipIndex = static_cast<std::size_t>(to.segment) % path.segments.size();
-    Crossing tip{to.segment, 0.0, path.segments[tipIndex].anchor, Ray::None, true};
-    const Cubic before = curveAt(path, static_cast<std::size_t>(from.segment));
-    const Cubic after = curveAt(path, tipIndex);
+    const std::size_t tipIndex = static_cast<std::size_t>(to.segment) % path_.segments.size();
+    Crossing tip{to.segment, 0.0, path_.segments[tipIndex].anchor, Ray::None, true};
+    const Cubic before = curveAt(path_, static_cast<std::size_t>(from.segment));
+    const Cubic after = curveAt(path_, tipIndex);
     return std::abs(wedge_.margin(tip.point)) <= kTouchDepth &&
            std::abs(farthestMargin(before, from, tip)) <= kTouchDepth &&
            std::abs(farthestMargin(after, tip, to)) <= kTouchDepth;
@@ -230,13 +250,13 @@ Side ContactFinder::sideOnCurve(const Cubic& curve, const Crossing& from,
     return runsAlong(curve, from, to) ? Side::AlongRay : Side::Touching;
 }
 
-void ContactFinder::groupClosed(const PathShape& path) {
+void ContactFinder::groupClosed() {
     Crossing nextLap = crossings_.front();
-    nextLap.segment += static_cast<std::int32_t>(path.segments.size());
-    sides_.push_back(sideBetween(path, crossings_.back(), nextLap));
+    nextLap.segment += static_cast<std::int32_t>(path_.segments.size());
+    sides_.push_back(sideBetween(crossings_.back(), nextLap));
     const auto leaving = std::ranges::find_if(sides_, leavesEdge);
     if (leaving == sides_.end()) {
-        whole_ = Side::AlongRay;
+        found_.whole = Side::AlongRay;
         return;
     }
     const auto turn = leaving + 1 - sides_.begin();
@@ -246,9 +266,9 @@ void ContactFinder::groupClosed(const PathShape& path) {
     group(seam, seam);
 }
 
-void ContactFinder::groupOpen(const PathShape& path) {
+void ContactFinder::groupOpen() {
     const Crossing& front = crossings_.front();
-    const std::size_t anchors = path.segments.size();
+    const std::size_t anchors = path_.segments.size();
     const auto anchorsBefore = static_cast<std::size_t>(front.segment) + (front.onAnchor ? 0 : 1);
     const auto firstAfter = static_cast<std::size_t>(crossings_.back().segment) + 1;
     const Side before =
@@ -258,7 +278,7 @@ void ContactFinder::groupOpen(const PathShape& path) {
     const bool staysOnEdge = before == Side::Nowhere && after == Side::Nowhere &&
                              std::ranges::none_of(sides_, leavesEdge);
     if (staysOnEdge)
-        whole_ = Side::AlongRay;
+        found_.whole = Side::AlongRay;
     else
         group(before, after);
 }
@@ -294,7 +314,31 @@ void ContactFinder::addContact(std::size_t begin, std::size_t last, Side before,
         from = begin;
         to = last;
     }
-    contacts_.push_back({crossings_[from], crossings_[to], before, after, alongRay});
+    found_.all.push_back({crossings_[from], crossings_[to], before, after, alongRay});
+}
+
+} // namespace
+
+Wedge::Wedge(const PageAxes& axes)
+    : origin_(axes.origin), first_(direction(rayAngle(axes, 0))),
+      last_(axes.axisCount == 1 ? -first_ : direction(rayAngle(axes, sectorCount(axes) - 1))) {}
+
+bool Wedge::atOrigin(Point point) const { return distance(point, origin_) <= kOnAxisDistance; }
+
+Ray Wedge::rayAt(Point point) const {
+    const Distances both = distances(point);
+    const bool onFirst =
+        std::abs(both.fromFirst) <= kOnAxisDistance && along(Ray::First, point) >= -kOnAxisDistance;
+    const bool onLast =
+        std::abs(both.fromLast) <= kOnAxisDistance && along(Ray::Last, point) >= -kOnAxisDistance;
+    if (onFirst && onLast && atOrigin(point)) return Ray::Origin;
+    if (onFirst && (!onLast || std::abs(both.fromFirst) <= std::abs(both.fromLast)))
+        return Ray::First;
+    return onLast ? Ray::Last : Ray::None;
+}
+
+Contacts findContacts(const Wedge& wedge, const PathShape& path, ContactScratch& scratch) {
+    return ContactFinder{wedge, path, scratch}.find();
 }
 
 } // namespace facetta

@@ -113,51 +113,22 @@ struct Contact {
     [[nodiscard]] bool cuts() const { return alongRay || before != after; }
 };
 
-/// Finds the contacts of paths with the edge of one wedge, reusing its storage from path to path.
-class ContactFinder {
-public:
-    explicit ContactFinder(const Wedge& wedge) : wedge_(wedge) {}
-
-    /// Examines `path`, which must stay as it is while the results are used.
-    void examine(const PathShape& path);
-
-    /// In path order. Empty when `whole` tells the side of the whole path.
-    [[nodiscard]] const std::vector<Contact>& contacts() const { return contacts_; }
-
+/// Where a path meets the edge of sector 0.
+struct Contacts {
+    std::vector<Contact>
+        all; ///< in path order; empty when `whole` tells the side of the whole path
     /// The side of a path without contacts; `Side::AlongRay` for one that never leaves the rays.
-    [[nodiscard]] Side whole() const { return whole_; }
-
-private:
-    /// True when every curve is clear of both rays, so that any anchor tells the side of all.
-    bool collectCrossings(const PathShape& path);
-    [[nodiscard]] Crossing anchorCrossing(std::size_t index, Point anchor) const;
-    void addCurveCrossings(std::size_t index, const Cubic& curve,
-                           const std::array<Wedge::Distances, 4>& distances);
-    void addRayCrossings(std::size_t index, const Cubic& curve, Ray ray, const Roots& roots);
-    [[nodiscard]] double farthestMargin(std::size_t firstAnchor, std::size_t endAnchor) const;
-    [[nodiscard]] double farthestMargin(const Cubic& curve, const Crossing& from,
-                                        const Crossing& to) const;
-    [[nodiscard]] bool hardlyLeaves(const Cubic& curve, const Crossing& from, const Crossing& to,
-                                    double apart) const;
-    [[nodiscard]] bool runsAlong(const Cubic& curve, const Crossing& from,
-                                 const Crossing& to) const;
-    [[nodiscard]] Side sideBetween(const PathShape& path, const Crossing& from,
-                                   const Crossing& to) const;
-    [[nodiscard]] bool isTipThroughEdge(const PathShape& path, const Crossing& from,
-                                        const Crossing& to) const;
-    [[nodiscard]] Side sideOnCurve(const Cubic& curve, const Crossing& from,
-                                   const Crossing& to) const;
-    void groupClosed(const PathShape& path);
-    void groupOpen(const PathShape& path);
-    void group(Side before, Side after);
-    void addContact(std::size_t begin, std::size_t last, Side before, Side after);
-
-    Wedge wedge_;
-    std::vector<double> margins_; // of the anchors
-    std::vector<Crossing> crossings_;
-    std::vector<Side> sides_; // after each crossing
-    std::vector<Contact> contacts_;
-    Side whole_ = Side::Nowhere;
+    Side whole = Side::Nowhere;
 };
+
+/// Storage that `findContacts` works in; what it holds between calls means nothing.
+struct ContactScratch {
+    std::vector<double> margins; ///< of the anchors
+    std::vector<Crossing> crossings;
+    std::vector<Side> sides; ///< after each crossing
+};
+
+[[nodiscard]] Contacts findContacts(const Wedge& wedge, const PathShape& path,
+                                    ContactScratch& scratch);
 
 } // namespace facetta

@@ -1,49 +1,53 @@
 #include "symmetry/geometry/CutPath.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace facetta {
 
-void PathCutter::cut(const PathShape& path, double start) {
-    finder_.examine(path);
-    kept_.clear();
-    cuts_.clear();
-    std::ranges::copy_if(finder_.contacts(), std::back_inserter(cuts_), &Contact::cuts);
+namespace {
 
-    const Side whole = finder_.contacts().empty() ? finder_.whole() : finder_.contacts()[0].after;
-    keepsWhole_ = cuts_.empty() && whole != Side::Outside;
-    if (keepsWhole_ || cuts_.empty()) return;
-    if (path.closed)
-        keepClosed(start);
-    else
-        keepOpen(path);
-}
-
-void PathCutter::keepOpen(const PathShape& path) {
+void keepOpen(const PathShape& path, const std::vector<Contact>& cuts, std::vector<Stretch>& kept) {
     const auto lastIndex = static_cast<std::int32_t>(path.segments.size()) - 1;
     Crossing from{0, 0.0, path.segments.front().anchor, Ray::None, true};
     const Crossing end{lastIndex, 0.0, path.segments.back().anchor, Ray::None, true};
-    for (const Contact& contact : cuts_) {
-        if (contact.before == Side::Inside) kept_.push_back({from, contact.first});
-        if (contact.alongRay) kept_.push_back({contact.first, contact.last, true});
+    for (const Contact& contact : cuts) {
+        if (contact.before == Side::Inside) kept.push_back({from, contact.first});
+        if (contact.alongRay) kept.push_back({contact.first, contact.last, true});
         from = contact.last;
     }
-    if (cuts_.back().after == Side::Inside) kept_.push_back({from, end});
+    if (cuts.back().after == Side::Inside) kept.push_back({from, end});
 }
 
-void PathCutter::keepClosed(double start) {
+void keepClosed(std::vector<Contact>& cuts, double start, std::vector<Stretch>& kept) {
     const auto leaves = [](const Contact& contact) { return contact.last.position(); };
-    std::rotate(cuts_.begin(), std::ranges::min_element(cuts_, {}, leaves), cuts_.end());
-    const auto next = std::ranges::upper_bound(cuts_, start, {}, leaves);
-    std::rotate(cuts_.begin(), next == cuts_.begin() ? cuts_.end() - 1 : next - 1, cuts_.end());
+    std::rotate(cuts.begin(), std::ranges::min_element(cuts, {}, leaves), cuts.end());
+    const auto next = std::ranges::upper_bound(cuts, start, {}, leaves);
+    std::rotate(cuts.begin(), next == cuts.begin() ? cuts.end() - 1 : next - 1, cuts.end());
 
-    for (std::size_t i = 0; i < cuts_.size(); ++i)
-        if (cuts_[i].after == Side::Inside)
-            kept_.push_back({cuts_[i].last, cuts_[i + 1 < cuts_.size() ? i + 1 : 0].first});
-    if (kept_.empty())
-        for (const Contact& contact : cuts_)
-            if (contact.alongRay) kept_.push_back({contact.first, contact.last, true});
+    for (std::size_t i = 0; i < cuts.size(); ++i)
+        if (cuts[i].after == Side::Inside)
+            kept.push_back({cuts[i].last, cuts[i + 1 < cuts.size() ? i + 1 : 0].first});
+    if (kept.empty())
+        for (const Contact& contact : cuts)
+            if (contact.alongRay) kept.push_back({contact.first, contact.last, true});
+}
+
+} // namespace
+
+Cut cutAtEdge(const Wedge& wedge, const PathShape& path, double start, ContactScratch& scratch) {
+    Contacts contacts = findContacts(wedge, path, scratch);
+    const Side side = contacts.all.empty() ? contacts.whole : contacts.all.front().after;
+    std::erase_if(contacts.all, [](const Contact& contact) { return !contact.cuts(); });
+    Cut cut;
+    if (contacts.all.empty()) {
+        cut.whole = side != Side::Outside;
+        cut.wholeAlongRay = contacts.whole == Side::AlongRay;
+    } else if (path.closed) {
+        keepClosed(contacts.all, start, cut.kept);
+    } else {
+        keepOpen(path, contacts.all, cut.kept);
+    }
+    return cut;
 }
 
 namespace {
@@ -77,15 +81,15 @@ void shortenHandles(const Cubic& curve, double from, double to, PathSegment& sta
 
 } // namespace
 
-void extract(const PathShape& path, const Stretch& stretch, std::vector<PathSegment>& piece) {
+std::vector<PathSegment> extract(const PathShape& path, const Stretch& stretch, std::size_t room) {
     const auto& [from, to, alongRay] = stretch;
     const auto count = static_cast<std::int32_t>(path.segments.size());
     const bool pastFirst = to.position() <= from.position();
     const std::int32_t lastCurve = to.segment + (pastFirst ? count : 0);
     const std::int32_t endAnchor = lastCurve + (to.onAnchor ? 0 : 1);
 
-    piece.clear();
-    piece.reserve(static_cast<std::size_t>(endAnchor - from.segment) + 1);
+    std::vector<PathSegment> piece;
+    piece.reserve(room * (static_cast<std::size_t>(endAnchor - from.segment) + 1));
     piece.push_back(segmentAt(path, from));
     const auto anchors = path.segments.begin();
     const std::int32_t firstAnchor = from.segment + 1;
@@ -103,6 +107,7 @@ void extract(const PathShape& path, const Stretch& stretch, std::vector<PathSegm
     if (!to.onAnchor && !oneCurve)
         shortenHandles(curveAt(path, static_cast<std::size_t>(to.segment)), 0.0, to.parameter,
                        piece[piece.size() - 2], piece.back());
+    return piece;
 }
 
 } // namespace facetta

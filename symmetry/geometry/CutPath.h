@@ -4,7 +4,7 @@
 
 #include "symmetry/geometry/Crossings.h"
 
-#include <span>
+#include <cstddef>
 #include <vector>
 
 namespace facetta {
@@ -17,39 +17,33 @@ struct Stretch {
     bool alongRay = false; ///< it lies on a ray and is its own reflection
 };
 
-/// Cuts paths at the edge of one wedge, reusing its storage from path to path.
-class PathCutter {
-public:
-    explicit PathCutter(const Wedge& wedge) : finder_(wedge) {}
+/// What is kept of a path.
+struct Cut {
+    bool whole = false;         ///< the path as it is; `kept` is empty then
+    bool wholeAlongRay = false; ///< the same, and every part of it is on a ray
+    std::vector<Stretch> kept;
 
-    /// Finds the stretches of `path` to keep. Those of a closed path begin with the one that holds
-    /// the path position `start`, or follows it.
-    ///
-    /// A closed path drops what lies along a ray, as the outside: a half shape drawn against the
-    /// axis becomes a whole one without a seam there. An open path keeps it; so does a closed one
-    /// of which nothing else would be left.
-    void cut(const PathShape& path, double start);
-
-    /// The path is kept as it is; `kept` is empty.
-    [[nodiscard]] bool keepsWhole() const { return keepsWhole_; }
-
-    /// Every part of the path is on a ray.
-    [[nodiscard]] bool wholeAlongRay() const { return finder_.whole() == Side::AlongRay; }
-
-    [[nodiscard]] std::span<const Stretch> kept() const { return kept_; }
-
-private:
-    void keepOpen(const PathShape& path);
-    void keepClosed(double start);
-
-    ContactFinder finder_;
-    std::vector<Contact> cuts_;
-    std::vector<Stretch> kept_;
-    bool keepsWhole_ = false;
+    /// Whether the ends of an open path are in a part that is kept, and on no ray.
+    [[nodiscard]] bool keepsFreeStart() const {
+        return whole || (!kept.empty() && kept.front().from.ray == Ray::None);
+    }
+    [[nodiscard]] bool keepsFreeEnd() const {
+        return whole || (!kept.empty() && kept.back().to.ray == Ray::None);
+    }
 };
 
-/// Replaces `piece` by the segments of `stretch`, with new anchors at cuts. Coordinates are
-/// storable; the outer handles of the piece are those of `path`, or on new anchors.
-void extract(const PathShape& path, const Stretch& stretch, std::vector<PathSegment>& piece);
+/// Cuts `path`. The stretches of a closed path begin with the one that holds the path position
+/// `start`, or follows it.
+///
+/// A closed path drops what lies along a ray, as the outside: a half shape drawn against the axis
+/// becomes a whole one without a seam there. An open path keeps it; so does a closed one of which
+/// nothing else would be left.
+[[nodiscard]] Cut cutAtEdge(const Wedge& wedge, const PathShape& path, double start,
+                            ContactScratch& scratch);
+
+/// The segments of `stretch`, with new anchors at cuts, in storage for `room` times as many.
+/// Coordinates are storable; the outer handles are those of `path`, or on new anchors.
+[[nodiscard]] std::vector<PathSegment> extract(const PathShape& path, const Stretch& stretch,
+                                               std::size_t room = 1);
 
 } // namespace facetta

@@ -46,58 +46,64 @@ void closeJoint(PathSegment& joint) {
 
 } // namespace
 
-PieceJoiner::PieceJoiner(const PageAxes& axes)
-    : chainAcrossFirst_(chainOfImages(axes, 0, 1)),
-      chainAcrossLast_(chainOfImages(axes, sectorCount(axes) - 1, -1)) {}
+ImageChains::ImageChains(const PageAxes& axes)
+    : acrossFirst(chainOfImages(axes, 0, 1)),
+      acrossLast(chainOfImages(axes, sectorCount(axes) - 1, -1)) {}
 
-void PieceJoiner::join(Piece& piece, Contour& contour) const {
-    std::vector<PathSegment>& run = piece.segments;
-    std::vector<PathSegment>& path = contour.shape.segments;
+std::size_t joinedImages(const ImageChains& chains, Ray start, Ray end) {
+    if (start == Ray::None && end == Ray::None) return 1;
+    const Ray first = resolve(start, end);
+    const bool ring = first != Ray::None && end != Ray::None && first != resolve(end, first);
+    return ring ? chains.acrossFirst.size() : 2;
+}
+
+Contour join(const ImageChains& chains, Piece piece) {
+    std::vector<PathSegment>& path = piece.segments; // grows from the piece into the whole
     Ray start = resolve(piece.start, piece.end);
     Ray end = resolve(piece.end, start);
-    if (start == Ray::None && end == Ray::None) {
-        path.assign(run.begin(), run.end());
-        contour = {std::move(contour.shape), Images::All};
-        contour.shape.closed = false;
-        return;
-    }
+    if (start == Ray::None && end == Ray::None)
+        return {.shape = {std::move(path), false}, .images = Images::All};
     if (end == Ray::None) { // the free end comes first
-        reverseRun(run);
+        reverseRun(path);
         std::swap(start, end);
     }
     const bool closed = start != Ray::None;
     const bool ring = closed && start != end;
-    const std::vector<Matrix>& chain = chainFrom(end);
+    const std::vector<Matrix>& chain = chains.from(end);
 
-    PathSegment& last = run.back();
-    last.out = mirroredHandle(last.in, last.anchor, chain[1]);
-    closeJoint(last);
+    path.back().out = mirroredHandle(path.back().in, path.back().anchor, chain[1]);
+    closeJoint(path.back());
     if (closed) {
-        PathSegment& first = run.front();
-        first.in = mirroredHandle(first.out, first.anchor, chainFrom(start)[1]);
-        closeJoint(first);
+        const Matrix& reflection = chains.from(start)[1];
+        path.front().in = mirroredHandle(path.front().out, path.front().anchor, reflection);
+        closeJoint(path.front());
     }
 
+    const std::size_t anchors = path.size();
     const std::size_t images = ring ? chain.size() : 2;
-    path.clear();
-    path.reserve(images * (run.size() - 1) + 1);
-    path.assign(run.begin(), run.end());
-    path.front().in = rounded(path.front().in);
-    path.back().out = rounded(path.back().out);
-    for (std::size_t image = 1; image < images; ++image) {
+    path.reserve(images * (anchors - 1) + 1);
+    // The images are made of the handles before they are rounded.
+    const PathSegment first = path.front();
+    const PathSegment last = path.back();
+    path.front().in = rounded(first.in);
+    path.back().out = rounded(last.out);
+    for (std::size_t image = 1; image < images && anchors > 1; ++image) {
         const Matrix& map = chain[image];
         const bool closing = closed && image + 1 == images; // its last anchor is the path's first
-        if (image % 2 == 0)
-            for (std::size_t i = 1; i < run.size(); ++i)
-                path.push_back(transformed(run[i], map));
-        else
-            for (std::size_t i = run.size() - 1; i-- > (closing ? 1U : 0U);)
-                path.push_back(transformed(reversed(run[i]), map));
+        if (image % 2 == 0) {
+            for (std::size_t i = 1; i + 1 < anchors; ++i)
+                path.push_back(transformed(path[i], map));
+            path.push_back(transformed(last, map));
+        } else {
+            for (std::size_t i = anchors - 1; i-- > 1;)
+                path.push_back(transformed(reversed(path[i]), map));
+            if (!closing) path.push_back(transformed(reversed(first), map));
+        }
     }
-    contour.shape.closed = closed;
-    contour.images = ring ? Images::None : Images::Rotations;
-    contour.firstJoint = 0;
-    contour.jointSpacing = run.size() - 1;
+    return {.shape = {std::move(path), closed},
+            .images = ring ? Images::None : Images::Rotations,
+            .firstJoint = 0,
+            .jointSpacing = anchors - 1};
 }
 
 void reverseRun(std::span<PathSegment> run) {

@@ -29,35 +29,35 @@ struct Piece {
     Ray end = Ray::None;
 };
 
-/// Joins pieces with their images for one set of axes.
-class PieceJoiner {
-public:
-    explicit PieceJoiner(const PageAxes& axes);
+/// The maps of the 2N images in the order in which they follow each other along a path that leaves
+/// sector 0 across the one ray or the other. Each is one map of the piece, so that errors do not
+/// add up. Odd ones are reflections: their image runs backwards.
+struct ImageChains {
+    explicit ImageChains(const PageAxes& axes);
 
-    /// Turns `piece` into one path, as long as its ends lie on rays:
-    ///
-    /// | ends on rays         | the path                                      | still needed |
-    /// |----------------------|-----------------------------------------------|--------------|
-    /// | none                 | the piece, open                               | All          |
-    /// | one                  | the piece from its free end and its reflection | Rotations    |
-    /// | both, the same ray   | the piece and its reflection, closed          | Rotations    |
-    /// | both, different rays | all 2N images, closed                         | None         |
-    ///
-    /// The anchors of `piece` come first and unaltered but for the outer handles at joins, which
-    /// mirror the inner ones. Free ends count as joints. The piece itself serves as scratch.
-    void join(Piece& piece, Contour& contour) const;
-
-private:
-    [[nodiscard]] const std::vector<Matrix>& chainFrom(Ray end) const {
-        return end == Ray::Last ? chainAcrossLast_ : chainAcrossFirst_;
+    [[nodiscard]] const std::vector<Matrix>& from(Ray ray) const {
+        return ray == Ray::Last ? acrossLast : acrossFirst;
     }
 
-    // The maps of the 2N images in the order in which they follow each other along a path that
-    // leaves sector 0 across the one ray or the other. Each is one map of the piece, so that errors
-    // do not add up. Odd ones are reflections: their image runs backwards.
-    std::vector<Matrix> chainAcrossFirst_;
-    std::vector<Matrix> chainAcrossLast_;
+    std::vector<Matrix> acrossFirst;
+    std::vector<Matrix> acrossLast;
 };
+
+/// How many images of a piece with these ends `join` joins, itself among them.
+[[nodiscard]] std::size_t joinedImages(const ImageChains& chains, Ray start, Ray end);
+
+/// Turns `piece` into one path, as long as its ends lie on rays:
+///
+/// | ends on rays         | the path                                      | still needed |
+/// |----------------------|-----------------------------------------------|--------------|
+/// | none                 | the piece, open                               | All          |
+/// | one                  | the piece from its free end and its reflection | Rotations    |
+/// | both, the same ray   | the piece and its reflection, closed          | Rotations    |
+/// | both, different rays | all 2N images, closed                         | None         |
+///
+/// The anchors of `piece` come first and unaltered but for the outer handles at joins, which mirror
+/// the inner ones. Free ends count as joints.
+[[nodiscard]] Contour join(const ImageChains& chains, Piece piece);
 
 /// Replaces the run by the same run backwards.
 void reverseRun(std::span<PathSegment> run);

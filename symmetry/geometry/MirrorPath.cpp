@@ -1,5 +1,6 @@
 #include "symmetry/geometry/MirrorPath.h"
 
+#include "symmetry/geometry/CutPath.h"
 #include "symmetry/geometry/Tolerances.h"
 
 #include <algorithm>
@@ -7,150 +8,28 @@
 #include <utility>
 
 namespace facetta {
+namespace {
 
-PathMirror::PathMirror(const PageAxes& axes, double snapDistance)
-    : axes_(axes), wedge_(axes), snapDistance_(std::max(snapDistance, kOnAxisDistance)),
-      cutter_(wedge_), joiner_(axes) {
-    for (int sector = 0; sector < sectorCount(axes); ++sector)
-        folds_.push_back(foldMatrix(axes, sector));
-}
-
-MirroredPath& PathMirror::mirror(PathShape&& source) {
-    std::swap(folded_, source);
-    begin();
-    addMirrored(kOnAxisDistance);
-    // Moving an end can take a short path out of the sector in which it was drawn. Then it belongs
-    // to the sector beyond. Asking for ever clearer samples ends any going to and fro.
-    double clear = kOnAxisDistance;
-    for (; contourCount_ == 0 && !folded_.segments.empty() && clear < kRayLength; clear *= 4.0)
-        addMirrored(clear);
-    if (contourCount_ == 0) keepAsDrawn();
-    result_.compound = folded_.closed && contourCount_ > 1;
-    result_.carried = !endsMoved_ && !cut_;
-    const auto joinedAsBefore = [this] {
-        return !endsMoved_ && contourCount_ == 1 &&
-               sameShape(result_.contours.front().shape, folded_);
+/// Whether a path is a mere dot, or so close to the origin that the axes can hardly be told from
+/// each other there.
+bool isTooSmallToCut(const MirrorFrame& frame, const PathShape& path) {
+    if (path.segments.empty()) return true;
+    const Point origin = frame.axes.origin;
+    const Point start = path.segments.front().anchor;
+    const double reach = kSmallestSectorWidth / sectorAngle(frame.axes);
+    const auto areAllWithin = [&](Point centre, double radius) {
+        return std::ranges::all_of(path.segments, [&](const PathSegment& segment) {
+            return distance(segment.anchor, centre) < radius &&
+                   distance(segment.in, centre) < radius && distance(segment.out, centre) < radius;
+        });
     };
-    result_.unchanged = result_.sector == 0 && (result_.carried || joinedAsBefore());
-    if (result_.compound) agreeInImages();
-    result_.contours.resize(contourCount_);
-    return result_;
-}
-
-void PathMirror::addMirrored(double clear) {
-    const Start start = findStart(folded_, clear);
-    // An odd sector was turned over when it was folded: beyond it the sectors count downwards.
-    const int turn = result_.sector % 2 == 0 ? start.sector : sectorCount(axes_) - start.sector;
-    result_.sector = (result_.sector + turn) % sectorCount(axes_);
-    foldSource(start.sector);
-    if (!folded_.closed) snapEnds();
-    addContours(start.position);
-}
-
-MirroredPath& PathMirror::mirrorCompound(std::span<const PathShape> members) {
-    begin();
-    const Start start = members.empty() ? Start{} : findStart(members.front(), kOnAxisDistance);
-    result_.sector = start.sector;
-    for (const PathShape& member : members) {
-        folded_ = member;
-        foldSource(start.sector);
-        if (!folded_.closed) snapEnds();
-        addContours(start.position);
-    }
-    if (contourCount_ == 0)
-        for (const PathShape& member : members) {
-            folded_ = member;
-            foldSource(start.sector);
-            keepAsDrawn();
-        }
-    result_.compound = true;
-    const std::size_t kept = contourCount_;
-    agreeInImages();
-    result_.contours.resize(contourCount_);
-    result_.carried = !endsMoved_ && !cut_ && kept == members.size() && contourCount_ == kept;
-    result_.unchanged = std::ranges::equal(
-        result_.contours, members,
-        [](const PathShape& one, const PathShape& other) { return sameShape(one, other); },
-        &Contour::shape);
-    return result_;
-}
-
-/// Takes the source as the one contour, whose storage it gets in exchange.
-void PathMirror::keepWhole(Images images) {
-    Contour& contour = nextContour();
-    std::swap(contour.shape, folded_);
-    contour = {std::move(contour.shape), images};
-}
-
-/// The last resort when nothing would be left, which takes art that lies within a few hundredths of
-/// a point of the origin or the axes: no path is ever lost.
-void PathMirror::keepAsDrawn() {
-    if (folded_.segments.empty()) return;
-    cut_ = false;
-    keepWhole(Images::All);
-}
-
-/// The sample that tells the sector must be clear of the axes to mean anything: a shape drawn
-/// against an axis may well start with an edge on it. So samples are taken along the path until one
-/// is clear of them by the distance `clear`, or else just clear of them.
-PathMirror::Start PathMirror::findStart(const PathShape& path, double clear) const {
-    constexpr double kSamples[] = {kSampleParameter, 1.0 - kSampleParameter, 0.5};
-    for (const double distance : {clear, 0.5 * kOnAxisDistance})
-        for (std::size_t i = 0; i < curveCount(path); ++i)
-            for (const double t : kSamples) {
-                const Point sample = evaluate(curveAt(path, i), t);
-                const double place = static_cast<double>(i) + t;
-                if (wedge_.margin(sample) > distance) return {0, place};
-                if (wedge_.margin(foldIntoSector0(axes_, sample)) > distance)
-                    return {sectorIndexOf(axes_, sample), place};
-            }
-    if (path.segments.empty()) return {};
-    // The path lies on axes throughout, or is a single anchor. One on a ray of sector 0 is at home.
-    const Point sample = curveCount(path) > 0 ? evaluate(curveAt(path, 0), kSampleParameter)
-                                              : path.segments.front().anchor;
-    const bool atHome = wedge_.margin(sample) >= -kOnAxisDistance;
-    return {atHome ? 0 : sectorIndexOf(axes_, sample), kSampleParameter};
-}
-
-/// Carries the source, or what it has become, from `sector` into sector 0.
-void PathMirror::foldSource(int sector) {
-    if (sector == 0) return;
-    for (PathSegment& segment : folded_.segments)
-        segment = transformed(segment, fold(sector));
-}
-
-void PathMirror::snapEnds() {
-    if (folded_.segments.empty()) return;
-    snapEnd(folded_.segments.front());
-    if (folded_.segments.size() > 1) snapEnd(folded_.segments.back());
-}
-
-/// Moves an end onto the nearer of the two rays when one is near enough. Otherwise the end is free
-/// and loses both handles, so that the path runs straight into it; that is the rule, not an
-/// oversight.
-void PathMirror::snapEnd(PathSegment& end) {
-    Ray nearest = Ray::None;
-    double reach = snapDistance_;
-    for (const Ray ray : {Ray::First, Ray::Last}) {
-        if (wedge_.along(ray, end.anchor) < 0.0) continue;
-        const double away = wedge_.distanceFrom(ray, end.anchor);
-        if (away < reach) {
-            nearest = ray;
-            reach = away;
-        }
-    }
-    const PathSegment drawn = end;
-    if (nearest != Ray::None)
-        moveOnto(nearest, end);
-    else if (wedge_.rayAt(end.anchor) == Ray::None)
-        end.in = end.out = end.anchor;
-    endsMoved_ = endsMoved_ || !sameShape(drawn, end);
+    return (path.closed && areAllWithin(start, kSmallestCut)) || areAllWithin(origin, reach);
 }
 
 /// Moves a segment so that its anchor lies on `ray`. An anchor that is as near to it as stored
 /// coordinates can be stays: moving it again would only shift its rounding along the ray.
-void PathMirror::moveOnto(Ray ray, PathSegment& segment) const {
-    const Point target = wedge_.onto(ray, segment.anchor);
+void moveOnto(const Wedge& wedge, Ray ray, PathSegment& segment) {
+    const Point target = wedge.onto(ray, segment.anchor);
     const Vector offset = target - segment.anchor;
     const double spacing =
         kStorageSpacing * std::max(std::abs(segment.anchor.x), std::abs(segment.anchor.y));
@@ -161,48 +40,29 @@ void PathMirror::moveOnto(Ray ray, PathSegment& segment) const {
     segment.anchor = anchor;
 }
 
-void PathMirror::begin() {
-    result_.sector = 0;
-    endsMoved_ = cut_ = false;
-    contourCount_ = 0;
-}
-
-Contour& PathMirror::nextContour() {
-    if (contourCount_ == result_.contours.size()) result_.contours.emplace_back();
-    return result_.contours[contourCount_++];
-}
-
-/// Adds what is kept of the folded path.
-void PathMirror::addContours(double start) {
-    if (folded_.segments.empty()) return;
-    cutter_.cut(folded_, start);
-    if (cutter_.keepsWhole()) {
-        keepWhole(cutter_.wholeAlongRay() ? Images::Rotations : Images::All);
-        return;
-    }
-    cut_ = true;
-    for (const Stretch& stretch : cutter_.kept()) {
-        if (stretch.alongRay) {
-            addAlongRay(stretch);
-            continue;
+/// The ray onto which an end is to be moved: the nearer of the two within reach.
+Ray rayNear(const MirrorFrame& frame, Point end) {
+    Ray nearest = Ray::None;
+    double reach = frame.snapDistance;
+    for (const Ray ray : {Ray::First, Ray::Last}) {
+        if (frame.wedge.along(ray, end) < 0.0) continue;
+        const double away = frame.wedge.distanceFrom(ray, end);
+        if (away < reach) {
+            nearest = ray;
+            reach = away;
         }
-        extract(folded_, stretch, piece_.segments);
-        piece_.start = stretch.from.ray;
-        piece_.end = stretch.to.ray;
-        Contour& contour = nextContour();
-        joiner_.join(piece_, contour);
-        if (contour.shape.closed) startWithSource(stretch, contour);
     }
+    return nearest;
 }
 
-/// Lets a closed contour begin where its source does, when the curve that starts there is kept, so
-/// that the active sector is found by the same curve again.
-void PathMirror::startWithSource(const Stretch& stretch, Contour& contour) const {
-    const bool runsPastStart = folded_.closed && stretch.to.position() > 0.0 &&
+/// Lets a closed contour of `stretch` begin where its source does, when the curve that starts there
+/// is kept, so that the active sector is found by the same curve again.
+void startWithSource(const PathShape& source, const Stretch& stretch, Contour& contour) {
+    const bool runsPastStart = source.closed && stretch.to.position() > 0.0 &&
                                stretch.to.position() <= stretch.from.position();
-    if (!runsPastStart) return;
+    if (!runsPastStart || !contour.shape.closed) return;
     const std::size_t turn =
-        folded_.segments.size() - static_cast<std::size_t>(stretch.from.segment);
+        source.segments.size() - static_cast<std::size_t>(stretch.from.segment);
     std::vector<PathSegment>& segments = contour.shape.segments;
     std::rotate(segments.begin(), segments.begin() + static_cast<std::ptrdiff_t>(turn),
                 segments.end());
@@ -210,22 +70,17 @@ void PathMirror::startWithSource(const Stretch& stretch, Contour& contour) const
         (contour.jointSpacing - turn % contour.jointSpacing) % contour.jointSpacing;
 }
 
-/// Adds a stretch that lies on a ray as an open path of its own. Handles that led into the curves
-/// beside it go.
-void PathMirror::addAlongRay(const Stretch& stretch) {
-    Contour& contour = nextContour();
-    std::vector<PathSegment>& run = contour.shape.segments;
-    extract(folded_, stretch, run);
-    moveOnto(stretch.from.ray, run.front());
-    moveOnto(stretch.to.ray, run.back());
-    const double lastPosition = static_cast<double>(folded_.segments.size() - 1);
-    if (folded_.closed || stretch.from.position() > 0.0) run.front().in = run.front().anchor;
-    if (folded_.closed || stretch.to.position() < lastPosition) run.back().out = run.back().anchor;
-    contour = {std::move(contour.shape), Images::Rotations};
-    contour.shape.closed = false;
+/// A stretch that lies on a ray as an open path of its own. Handles that led into the curves beside
+/// it go.
+Contour alongRay(const Wedge& wedge, const PathShape& source, const Stretch& stretch) {
+    std::vector<PathSegment> run = extract(source, stretch);
+    moveOnto(wedge, stretch.from.ray, run.front());
+    moveOnto(wedge, stretch.to.ray, run.back());
+    const double lastPosition = static_cast<double>(source.segments.size() - 1);
+    if (source.closed || stretch.from.position() > 0.0) run.front().in = run.front().anchor;
+    if (source.closed || stretch.to.position() < lastPosition) run.back().out = run.back().anchor;
+    return {.shape = {std::move(run), false}, .images = Images::Rotations};
 }
-
-namespace {
 
 /// The image of a contour under `map`, which needs no copies. That of a reflection runs backwards,
 /// so that it winds around its inside as the original does.
@@ -242,23 +97,289 @@ Contour imageOf(const Contour& contour, const Matrix& map) {
     return image;
 }
 
-} // namespace
-
 /// Contours painted as one path can only be copied together. When they need different copies, each
 /// gets its own right here.
-void PathMirror::agreeInImages() {
-    const std::span<Contour> contours = std::span(result_.contours).first(contourCount_);
+void agreeInImages(const PageAxes& axes, std::vector<Contour>& contours) {
     if (std::ranges::adjacent_find(contours, std::ranges::not_equal_to{}, &Contour::images) ==
         contours.end())
         return;
     std::vector<Contour> complete;
     for (const Contour& contour : contours) {
         complete.push_back(imageOf(contour, {}));
-        for (const Matrix& map : imageTransforms(axes_, contour.images))
+        for (const Matrix& map : imageTransforms(axes, contour.images))
             complete.push_back(imageOf(contour, map));
     }
-    result_.contours = std::move(complete);
-    contourCount_ = result_.contours.size();
+    contours = std::move(complete);
+}
+
+/// Anchors beside an axis count as lying on it and are their own images; reflected they are twice
+/// as far off.
+bool coincide(const PathSegment& a, const PathSegment& b) {
+    constexpr double kApart = 3.0 * kOnAxisDistance;
+    return distance(a.anchor, b.anchor) <= kApart && distance(a.in, b.in) <= kApart &&
+           distance(a.out, b.out) <= kApart;
+}
+
+/// Whether `path` is the image of `source` under `map`, wherever and in whichever direction it
+/// begins.
+bool isImage(const PathShape& path, const PathShape& source, const Matrix& map) {
+    const std::size_t count = source.segments.size();
+    if (path.closed != source.closed || path.segments.size() != count) return false;
+    const auto runsAlike = [&](std::size_t begin, bool backwards) {
+        for (std::size_t i = 0; i < count; ++i) {
+            const PathSegment& at =
+                path.segments[(backwards ? begin + count - i : begin + i) % count];
+            if (!coincide(transformed(source.segments[i], map), backwards ? reversed(at) : at))
+                return false;
+        }
+        return true;
+    };
+    if (!path.closed) return count == 0 || runsAlike(0, false) || runsAlike(count - 1, true);
+    for (std::size_t begin = 0; begin < count; ++begin)
+        if (runsAlike(begin, false) || runsAlike(begin, true)) return true;
+    return false;
+}
+
+/// Whether the members together are their own images, as when mirroring has put the images into
+/// the compound path itself.
+bool areOwnImages(const MirrorFrame& frame, std::span<const PathShape> members) {
+    const auto isThere = [&](const PathShape& member, const Matrix& map) {
+        return std::ranges::any_of(
+            members, [&](const PathShape& other) { return isImage(other, member, map); });
+    };
+    return std::ranges::all_of(members, [&](const PathShape& member) {
+        return isThere(member, frame.chains.acrossFirst[1]) &&
+               isThere(member, frame.chains.acrossLast[1]);
+    });
+}
+
+/// The members as they are.
+MirroredPath unchangedCompound(std::span<const PathShape> members, Images images) {
+    MirroredPath result;
+    result.compound = result.unchanged = true;
+    for (const PathShape& member : members)
+        result.contours.push_back({.shape = member, .images = images});
+    return result;
+}
+
+/// The mirroring of one path or compound path.
+class Mirroring {
+public:
+    Mirroring(const MirrorFrame& frame, MirrorScratch& scratch)
+        : frame_(frame), contacts_(scratch.contacts), folded_(scratch.folded) {}
+
+    MirroredPath path(const PathShape& source);
+    MirroredPath compound(std::span<const PathShape> members, FillRule rule);
+
+private:
+    /// Members of a compound path that are mirrored from one sector.
+    struct Island {
+        const PathShape* leader = nullptr; ///< tells the sector
+        ActiveSector start;
+        bool asDrawn = true; ///< none of it is large enough to be cut
+        bool isLost = true;  ///< nothing of it has been kept
+    };
+
+    [[nodiscard]] std::vector<Island> islandsIn(std::span<const PathShape> members,
+                                                std::span<const std::size_t> islandOf) const;
+
+    [[nodiscard]] Contour asDrawn(const PathShape& source) const;
+    void addContours(double start);
+    void addPieces(const Cut& cut);
+    void keepWhole(Images images);
+    Cut cutOpen(double start);
+    bool moveEnds();
+    bool moveEnd(PathSegment& end);
+    bool dropFreeHandles(const Cut& cut);
+    bool dropHandles(PathSegment& end);
+
+    const MirrorFrame& frame_;
+    ContactScratch& contacts_;
+    PathShape& folded_; ///< the source in sector 0, prepared for cutting
+    std::vector<Contour> contours_;
+    bool endsChanged_ = false;
+    bool cut_ = false;     ///< anything was
+    bool changed_ = false; ///< and what came of it is not as it was
+};
+
+MirroredPath Mirroring::path(const PathShape& source) {
+    MirroredPath result;
+    if (source.segments.empty()) return result;
+    folded_ = source;
+    // Moving an end can take a short path out of the sector in which it was drawn. Then it belongs
+    // to the sector beyond. Asking for ever clearer samples ends any going to and fro.
+    double clear = isTooSmallToCut(frame_, source) ? kRayLength : kOnAxisDistance;
+    for (; contours_.empty() && clear < kRayLength; clear *= 4.0) {
+        const ActiveSector start = activeSectorOf(frame_, folded_, clear);
+        foldInto0(frame_, start.sector, folded_);
+        // An odd sector was turned over when it was folded: beyond it the sectors count downwards.
+        const int sectors = sectorCount(frame_.axes);
+        const int turn = result.sector % 2 == 0 ? start.sector : sectors - start.sector;
+        result.sector = (result.sector + turn) % sectors;
+        addContours(start.position);
+    }
+    if (contours_.empty()) return {.contours = {asDrawn(source)}, .unchanged = true};
+    result.compound = source.closed && contours_.size() > 1;
+    if (result.compound) agreeInImages(frame_.axes, contours_);
+    result.carried = !endsChanged_ && !cut_;
+    result.unchanged = result.sector == 0 && !endsChanged_ && !changed_;
+    result.contours = std::move(contours_);
+    return result;
+}
+
+MirroredPath Mirroring::compound(std::span<const PathShape> members, FillRule rule) {
+    const std::vector<std::size_t> islandOf = islandsOf(members, rule);
+    std::vector<Island> islands = islandsIn(members, islandOf);
+    for (std::size_t i = 0; i < members.size(); ++i) {
+        if (members[i].segments.empty()) continue;
+        Island& island = islands[islandOf[i]];
+        const std::size_t before = contours_.size();
+        if (island.asDrawn) {
+            contours_.push_back(asDrawn(members[i]));
+        } else {
+            folded_ = members[i];
+            foldInto0(frame_, island.start.sector, folded_);
+            addContours(&members[i] == island.leader ? island.start.position : kSampleParameter);
+        }
+        island.isLost = island.isLost && contours_.size() == before;
+    }
+    for (std::size_t i = 0; i < members.size(); ++i) {
+        Island& island = islands[islandOf[i]];
+        if (!island.isLost || members[i].segments.empty()) continue;
+        island.asDrawn = true;
+        contours_.push_back(asDrawn(members[i]));
+    }
+
+    MirroredPath result;
+    result.compound = true;
+    if (!islands.empty()) result.sector = islands.front().start.sector;
+    const bool fromOneSector = std::ranges::all_of(islands, [&](const Island& island) {
+        return !island.asDrawn && island.start.sector == result.sector;
+    });
+    result.carried = !endsChanged_ && !cut_ && fromOneSector && contours_.size() == members.size();
+    const std::size_t kept = contours_.size();
+    agreeInImages(frame_.axes, contours_);
+    result.carried = result.carried && contours_.size() == kept;
+    result.unchanged = std::ranges::equal(
+        contours_, members,
+        [](const PathShape& one, const PathShape& other) { return sameShape(one, other); },
+        &Contour::shape);
+    if (!result.unchanged && areOwnImages(frame_, members))
+        return unchangedCompound(members, Images::None);
+    result.contours = std::move(contours_);
+    return result;
+}
+
+std::vector<Mirroring::Island> Mirroring::islandsIn(std::span<const PathShape> members,
+                                                    std::span<const std::size_t> islandOf) const {
+    std::vector<Island> islands;
+    for (std::size_t i = 0; i < members.size(); ++i) {
+        if (islandOf[i] == islands.size()) islands.emplace_back();
+        Island& island = islands[islandOf[i]];
+        island.asDrawn = island.asDrawn && isTooSmallToCut(frame_, members[i]);
+        const bool first = island.leader == nullptr && !members[i].segments.empty();
+        const bool firstWithCurve = curveCount(members[i]) > 0 &&
+                                    (island.leader == nullptr || curveCount(*island.leader) == 0);
+        if (first || firstWithCurve) island.leader = &members[i];
+    }
+    for (Island& island : islands)
+        if (!island.asDrawn && island.leader != nullptr)
+            island.start = activeSectorOf(frame_, *island.leader);
+    return islands;
+}
+
+/// What is not to be cut.
+Contour Mirroring::asDrawn(const PathShape& source) const {
+    return {.shape = source, .images = ownImages(frame_, source)};
+}
+
+/// Adds what is kept of the folded path.
+void Mirroring::addContours(double start) {
+    const Cut cut =
+        folded_.closed ? cutAtEdge(frame_.wedge, folded_, start, contacts_) : cutOpen(start);
+    if (cut.whole) return keepWhole(cut.wholeAlongRay ? Images::Rotations : Images::All);
+    const std::size_t before = contours_.size();
+    addPieces(cut);
+    const bool asItWas =
+        contours_.size() == before + 1 && sameShape(contours_.back().shape, folded_);
+    // What mirroring has made before differs by no more than rounding from what it would make now.
+    const Images own = asItWas ? Images::All : ownImages(frame_, folded_);
+    if (own != Images::All) {
+        contours_.resize(before);
+        return keepWhole(own);
+    }
+    cut_ = true;
+    changed_ = changed_ || !asItWas;
+}
+
+void Mirroring::addPieces(const Cut& cut) {
+    for (const Stretch& stretch : cut.kept) {
+        if (stretch.alongRay) {
+            contours_.push_back(alongRay(frame_.wedge, folded_, stretch));
+            continue;
+        }
+        const Ray start = stretch.from.ray;
+        const Ray end = stretch.to.ray;
+        const std::size_t images = joinedImages(frame_.chains, start, end);
+        contours_.push_back(join(frame_.chains, {extract(folded_, stretch, images), start, end}));
+        startWithSource(folded_, stretch, contours_.back());
+    }
+}
+
+void Mirroring::keepWhole(Images images) {
+    contours_.push_back({.shape = std::move(folded_), .images = images});
+}
+
+/// Prepares an open path and cuts it. Only what is cut or joined is prepared: a curve that meets no
+/// axis stays as it was drawn.
+Cut Mirroring::cutOpen(double start) {
+    const bool joins = moveEnds();
+    Cut cut = cutAtEdge(frame_.wedge, folded_, start, contacts_);
+    if (cut.whole && !joins) return cut;
+    if (dropFreeHandles(cut)) cut = cutAtEdge(frame_.wedge, folded_, start, contacts_);
+    return cut;
+}
+
+/// Moves ends onto rays; whether any lies on one then.
+bool Mirroring::moveEnds() {
+    if (folded_.segments.empty()) return false;
+    const bool startJoins = moveEnd(folded_.segments.front());
+    return (folded_.segments.size() > 1 && moveEnd(folded_.segments.back())) || startJoins;
+}
+
+bool Mirroring::moveEnd(PathSegment& end) {
+    const PathSegment drawn = end;
+    const Ray ray = rayNear(frame_, end.anchor);
+    if (ray != Ray::None) moveOnto(frame_.wedge, ray, end);
+    endsChanged_ = endsChanged_ || !sameShape(drawn, end);
+    return frame_.wedge.rayAt(end.anchor) != Ray::None;
+}
+
+/// A free end loses both handles, so that the path runs straight into it, unless it goes with a
+/// part that is cut away: there its handles still shape where the cut falls.
+bool Mirroring::dropFreeHandles(const Cut& cut) {
+    const bool startChanged = cut.keepsFreeStart() && dropHandles(folded_.segments.front());
+    const bool endChanged = cut.keepsFreeEnd() && dropHandles(folded_.segments.back());
+    endsChanged_ = endsChanged_ || startChanged || endChanged;
+    return startChanged || endChanged;
+}
+
+bool Mirroring::dropHandles(PathSegment& end) {
+    if (frame_.wedge.rayAt(end.anchor) != Ray::None) return false;
+    const bool hadAny = end.in != end.anchor || end.out != end.anchor;
+    end.in = end.out = end.anchor;
+    return hadAny;
+}
+
+} // namespace
+
+MirroredPath mirror(const MirrorFrame& frame, const PathShape& source, MirrorScratch& scratch) {
+    return Mirroring{frame, scratch}.path(source);
+}
+
+MirroredPath mirrorCompound(const MirrorFrame& frame, std::span<const PathShape> members,
+                            FillRule rule, MirrorScratch& scratch) {
+    return Mirroring{frame, scratch}.compound(members, rule);
 }
 
 } // namespace facetta

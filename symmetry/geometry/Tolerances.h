@@ -20,6 +20,13 @@ constexpr double kTouchDepth = 0.05;
 /// because the stored anchor is off the axis by rounding.
 constexpr double kAnchorParameter = 0.001;
 
+/// Points. A closed path that lies within this of its first anchor is a dot, which is not cut: its
+/// parts would be no larger than a few of the distances above.
+constexpr double kSmallestCut = 0.25;
+
+/// Points. Where a sector is narrower than this nothing is cut either.
+constexpr double kSmallestSectorWidth = 0.1;
+
 /// Points. Removing an anchor may move the curve by this much, invisible at any zoom.
 constexpr double kRemovalDistance = 0.01;
 

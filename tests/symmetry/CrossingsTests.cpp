@@ -16,11 +16,9 @@ using facetta::tests::shapeOf;
 namespace {
 
 std::vector<Contact> cutsOf(int axisCount, const PathShape& path) {
-    ContactFinder finder{Wedge({.axisCount = axisCount})};
-    finder.examine(path);
-    std::vector<Contact> cuts;
-    for (const Contact& contact : finder.contacts())
-        if (contact.cuts()) cuts.push_back(contact);
+    ContactScratch scratch;
+    std::vector<Contact> cuts = findContacts(Wedge({.axisCount = axisCount}), path, scratch).all;
+    std::erase_if(cuts, [](const Contact& contact) { return !contact.cuts(); });
     return cuts;
 }
 
@@ -52,6 +50,7 @@ TEST_CASE("a path is cut where it crosses a ray, and only there") {
         {"through an anchor farther off", 1, "M 0 50 L 10 0.1 L 10 -50", {1.026}},
         {"touching with a tip", 1, "M -1 50 L 0 -0.03 L 1 50", {}},
         {"a tip that is drawn across", 1, "M -50 50 L 0 -50 L 50 50", {0.5, 1.5}},
+        {"a line drawn there and back", 1, "M 0 50 L 0 -50 Z", {1.5, 0.5}},
         {"a needle drawn across", 1, "M -0.002 50 L 0 -50 L 0.002 50", {0.5, 1.5}},
         {"a doubled anchor on the ray", 1, "M 0 50 L 10 0 L 10 0 L 20 -50", {1.0}},
     };
@@ -102,10 +101,10 @@ TEST_CASE("crossings are sorted, storable, on their ray and on the path") {
         const PageAxes axes = random.axes();
         const Wedge wedge(axes);
         const PathShape path = random.path(axes, random.coin(), random.size());
-        ContactFinder finder(wedge);
-        finder.examine(path);
-        Side before = finder.contacts().empty() ? Side::Nowhere : finder.contacts()[0].before;
-        for (const Contact& contact : finder.contacts()) {
+        ContactScratch scratch;
+        const std::vector<Contact> contacts = findContacts(wedge, path, scratch).all;
+        Side before = contacts.empty() ? Side::Nowhere : contacts.front().before;
+        for (const Contact& contact : contacts) {
             REQUIRE(contact.before == before);
             before = contact.after;
             for (const Crossing& crossing : {contact.first, contact.last}) {

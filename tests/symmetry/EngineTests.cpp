@@ -110,6 +110,7 @@ TEST_CASE(
         source.write().details.write().name = "source";
         source.write().details.write().note = "Mind the gap";
         source.dictionary().set(easel::internKey("FTMirroredv1"), easel::Value{ai::int32{2}});
+        source.dictionary().set(easel::internKey("another's"), easel::Value{ai::int32{5}});
         source.write().style.write().path.stroke.width = 7;
         source.write().style.write().path.strokePaint = true;
         easel::select(source, true);
@@ -124,6 +125,7 @@ TEST_CASE(
     CHECK(whole.segments().size() == 8);
     CHECK(whole.style().path.stroke.width == 7);
     CHECK(whole.details().note == "Mind the gap");
+    CHECK(whole.dictionaryIfAny()->find(easel::internKey("another's")) != nullptr);
     CHECK(whole.has(kArtFullySelected));
 }
 
@@ -142,6 +144,30 @@ TEST_CASE("what was selected of a path is selected of its mirrored form") {
     for (std::size_t i = 0; i < objects[0]->segments().size(); ++i)
         selected.push_back(easel::segmentSelection(*objects[0], i));
     CHECK(selected == std::vector<int>{0, 1, 0, 1, 0});
+}
+
+TEST_CASE("copies of a mirrored selection are selected as their source, whatever the host does") {
+    for (const bool hostSelects : {true, false}) {
+        INFO("duplicates keep their selection: ", hostSelects);
+        easel::Switches switches;
+        switches.duplicatesKeepSelection = hostSelects;
+        EngineFixture fixture{switches};
+        fixture.build(fixture.layer(), "@a b t");
+        fixture.step([&] {
+            easel::select(*fixture.layer().lastChild(), true);
+            easel::setSegmentSelection(*fixture.layer().firstChild()->next(), 1,
+                                       kSegmentPointSelected);
+        });
+        fixture.setAxes(1);
+        fixture.mirrorSelection();
+        const std::vector<const Art*> objects = objectsIn(fixture.layer());
+        REQUIRE(objects.size() == 6);
+        for (const std::size_t whole : {0, 1, 4, 5})
+            CHECK(objects[whole]->has(kArtFullySelected));
+        for (const std::size_t part : {2, 3})
+            for (const std::size_t anchor : {0, 1, 2})
+                CHECK(easel::segmentSelection(*objects[part], anchor) == (anchor == 1 ? 1 : 0));
+    }
 }
 
 TEST_CASE("a closed path that comes out in several parts is one compound path") {

@@ -75,6 +75,24 @@ Winding windingAround(std::span<const PathShape> shapes, Point point) {
     return winding;
 }
 
+/// Mirrors across one set of axes.
+class Mirror {
+public:
+    Mirror(const PageAxes& axes, double snapDistance) : frame_(axes, snapDistance) {}
+
+    MirroredPath mirror(const PathShape& source) {
+        return facetta::mirror(frame_, source, scratch_);
+    }
+    MirroredPath mirrorCompound(std::span<const PathShape> members,
+                                FillRule rule = FillRule::NonZero) {
+        return facetta::mirrorCompound(frame_, members, rule, scratch_);
+    }
+
+private:
+    MirrorFrame frame_;
+    MirrorScratch scratch_;
+};
+
 } // namespace
 
 TEST_CASE("what becomes of a path") {
@@ -86,7 +104,13 @@ TEST_CASE("what becomes of a path") {
     };
     const Row rows[] = {
         {"inside: copied", 1, "M 0 50 L 100 50", "all M 0 50 L 100 50"},
-        {"free ends lose their handles", 1, "M 0 50 C 10 90 60 90 100 50", "all M 0 50 L 100 50"},
+        {"a curve that meets no axis stays as it was drawn", 1, "M 0 50 C 10 90 60 90 100 50",
+         "all M 0 50 C 10 90 60 90 100 50"},
+        {"the free end of one that is joined loses its handles", 1, "M 0 50 C 10 90 60 90 100 5",
+         "rotations M 0 50 C 0 50 60 85 100 0 C 60 -85 0 -50 0 -50"},
+        {"so does that of one that is cut; the end that goes keeps them, and the cut its place", 1,
+         "M 0 50 C 10 90 60 90 100 -50",
+         "rotations M 0 50 C 0 50 43.94 79.29 81.69 0 C 43.94 -79.29 0 -50 0 -50"},
         {"one end near the axis: joined there", 1, "M 0 50 L 100 5",
          "rotations M 0 50 L 100 0 L 0 -50"},
         {"the free end comes first", 1, "M 100 5 L 0 50", "rotations M 0 50 L 100 0 L 0 -50"},
@@ -142,7 +166,7 @@ TEST_CASE("what becomes of a path") {
     };
     for (const auto& row : rows) {
         INFO(row.what);
-        PathMirror mirror({.axisCount = row.axisCount}, kSnapDistance);
+        Mirror mirror({.axisCount = row.axisCount}, kSnapDistance);
         const MirroredPath result = mirror.mirror(shapeOf(row.source));
         CHECK(outcomeOf(result) == row.expected);
         CHECK(result.unchanged == (textOf(result.contours[0].shape) == row.source));
@@ -152,7 +176,7 @@ TEST_CASE("what becomes of a path") {
 }
 
 TEST_CASE("the active sector is told by the first curve that is clear of the axes") {
-    PathMirror mirror({.axisCount = 3}, kSnapDistance);
+    Mirror mirror({.axisCount = 3}, kSnapDistance);
     CHECK(mirror.mirror(shapeOf("M 100 50 L 100 -500")).sector == 5);
     CHECK(mirror.mirror(shapeOf("M 10 0 L 100 0 L 100 -50 L 10 -10 Z")).sector == 5);
     CHECK(mirror.mirror(shapeOf("M -100 -50 L -120 -30")).sector == 3);
@@ -162,7 +186,7 @@ TEST_CASE("contours that need different copies of one compound path get them at 
     // N = 2: an arc from axis to axis, and a bite that crosses the x axis only.
     const PathShape source = shapeOf("M 200 200 L -200 200 L -200 -200 L 200 -200 L 200 -50 "
                                      "L 100 -50 L 100 50 L 150 50 L 150 -20 L 180 -20 L 180 200 Z");
-    PathMirror mirror({.axisCount = 2}, kSnapDistance);
+    Mirror mirror({.axisCount = 2}, kSnapDistance);
     const MirroredPath result = mirror.mirror(source);
     CHECK(result.compound);
     CHECK(result.contours.size() == 3); // the outer ring, the bite and its rotation
@@ -171,19 +195,62 @@ TEST_CASE("contours that need different copies of one compound path get them at 
     CHECK(mirror.mirrorCompound(shapesOf(result)).unchanged);
 }
 
-TEST_CASE("members of a compound path share the sector of the first one") {
-    PathMirror mirror({.axisCount = 1}, kSnapDistance);
-    const PathShape members[] = {shapeOf("M 0 20 L 50 20 L 50 60 Z"),
-                                 shapeOf("M 10 30 L 20 -30 L 30 30 Z"),
-                                 shapeOf("M 10 -30 L 20 -40 L 30 -30 Z")};
-    const MirroredPath result = mirror.mirrorCompound(members);
-    CHECK(outcomeOf(result) == "compound: none M 0 20 L 50 20 L 50 60 Z, "
-                               "none M 0 -20 L 50 -60 L 50 -20 Z, "
-                               "none M 10 30 L 15 0 L 10 -30 L 30 -30 L 25 0 L 30 30 Z");
+TEST_CASE("each island of a compound path is mirrored from its own sector, and none is lost") {
+    struct Row {
+        std::string what;
+        std::vector<std::string> members;
+        FillRule rule;
+        std::string expected;
+    };
+    // One axis, the x axis.
+    const Row rows[] = {
+        {"squares on both sides",
+         {"M 0 20 L 50 20 L 50 60 Z", "M 10 -30 L 20 -40 L 30 -30 Z"},
+         FillRule::NonZero,
+         "compound: all M 0 20 L 50 20 L 50 60 Z, all M 10 30 L 20 40 L 30 30 Z"},
+        {"one of them across the axis: the others get their images at once",
+         {"M 0 20 L 50 20 L 50 60 Z", "M 110 30 L 120 -30 L 130 30 Z"},
+         FillRule::NonZero,
+         "compound: none M 0 20 L 50 20 L 50 60 Z, none M 0 -20 L 50 -60 L 50 -20 Z, "
+         "none M 110 30 L 115 0 L 110 -30 L 130 -30 L 125 0 L 130 30 Z"},
+        {"a first member without a curve tells nothing",
+         {"M 10 -300", "M 0 -400 L 0 400 L 100 400 L 100 -400 Z", "M 20 30 L 40 30 L 40 60 Z"},
+         FillRule::NonZero,
+         "compound: none M 10 300, none M 10 -300, "
+         "none M 0 400 L 0 0 L 0 -400 L 100 -400 L 100 0 L 100 400 Z"},
+        {"a hole goes with its outline",
+         {"M 0 50 L 0 -50 L 90 -50 L 90 50 Z", "M 10 -20 L 40 -20 L 40 -40 L 10 -40 Z"},
+         FillRule::NonZero,
+         "compound: rotations M 0 50 L 0 0 L 0 -50 L 90 -50 L 90 0 L 90 50 Z"},
+        {"what is filled in a hole is an island",
+         {"M 0 50 L 0 -50 L 90 -50 L 90 50 Z", "M 10 40 L 80 40 L 80 -40 L 10 -40 Z",
+          "M 20 -10 L 20 -20 L 30 -20 L 30 -10 Z"},
+         FillRule::NonZero,
+         "compound: none M 0 50 L 0 0 L 0 -50 L 90 -50 L 90 0 L 90 50 Z, "
+         "none M 10 40 L 80 40 L 80 0 L 80 -40 L 10 -40 L 10 0 Z, "
+         "none M 20 10 L 20 20 L 30 20 L 30 10 Z, none M 20 -10 L 30 -10 L 30 -20 L 20 -20 Z"},
+        {"what overlaps an outline belongs to it by one rule, not by the other",
+         {"M 0 50 L 0 -50 L 90 -50 L 90 50 Z", "M 10 40 L 10 -40 L 80 -40 L 80 40 Z",
+          "M 20 -10 L 20 -20 L 30 -20 L 30 -10 Z"},
+         FillRule::EvenOdd,
+         "compound: none M 0 50 L 0 0 L 0 -50 L 90 -50 L 90 0 L 90 50 Z, "
+         "none M 10 40 L 10 0 L 10 -40 L 80 -40 L 80 0 L 80 40 Z, "
+         "none M 20 10 L 20 20 L 30 20 L 30 10 Z, none M 20 -10 L 30 -10 L 30 -20 L 20 -20 Z"},
+    };
+    for (const auto& row : rows) {
+        INFO(row.what);
+        std::vector<PathShape> members;
+        for (const std::string& member : row.members)
+            members.push_back(shapeOf(member));
+        Mirror mirror({.axisCount = 1}, kSnapDistance);
+        const MirroredPath result = mirror.mirrorCompound(members, row.rule);
+        CHECK(outcomeOf(result) == row.expected);
+        CHECK(mirror.mirrorCompound(shapesOf(result), row.rule).unchanged);
+    }
 }
 
 TEST_CASE("a join is smooth only where the path meets the axis squarely") {
-    PathMirror mirror({.axisCount = 1}, 0.0);
+    Mirror mirror({.axisCount = 1}, 0.0);
     const MirroredPath squarely = mirror.mirror(shapeOf("M 0 50 C 0 50 30 30 30 0"));
     CHECK_FALSE(squarely.contours[0].shape.segments[1].corner);
     const MirroredPath slanting = mirror.mirror(shapeOf("M 0 50 C 0 50 30 30 40 0"));
@@ -194,7 +261,7 @@ TEST_CASE("what is selected stays selected on the images") {
     PathShape source = shapeOf("M 0 50 L 20 60 L 100 0");
     source.segments[0].selection = selection::kAnchor;
     source.segments[1].selection = selection::kOut;
-    PathMirror mirror({.axisCount = 1}, kSnapDistance);
+    Mirror mirror({.axisCount = 1}, kSnapDistance);
     const MirroredPath result = mirror.mirror(source);
     std::vector<int> selections;
     for (const PathSegment& segment : result.contours[0].shape.segments)
@@ -215,7 +282,7 @@ TEST_CASE("mirroring a result again changes nothing, bit for bit") {
         const PageAxes axes = random.axes();
         const double size = random.size();
         const PathShape source = random.path(axes, random.coin(), size);
-        PathMirror mirror(axes, random.real(0.0, size / 5.0));
+        Mirror mirror(axes, random.real(0.0, size / 5.0));
         const MirroredPath result = mirror.mirror(source);
         REQUIRE_FALSE(result.contours.empty());
         if (result.compound)
@@ -236,7 +303,7 @@ TEST_CASE("the rosette winds around every point as the source does around the fo
         axes.axisCount = random.integer(1, 8);
         const double size = random.size();
         const PathShape source = random.path(axes, true, size);
-        PathMirror mirror(axes, kSnapDistance);
+        Mirror mirror(axes, kSnapDistance);
         const MirroredPath result = mirror.mirror(source);
         const std::vector<PathShape> rosette = rosetteOf(axes, result);
         PathShape folded = source;
@@ -262,7 +329,7 @@ TEST_CASE("a rosette is invariant under every reflection and has no doubled anch
         PageAxes axes = random.axes();
         axes.axisCount = random.integer(1, 12);
         const PathShape source = random.path(axes, random.coin(), random.size());
-        PathMirror mirror(axes, kSnapDistance);
+        Mirror mirror(axes, kSnapDistance);
         std::vector<Point> anchors;
         for (const PathShape& shape : rosetteOf(axes, mirror.mirror(source))) {
             for (std::size_t k = 0; k < curveCount(shape); ++k)
@@ -297,7 +364,7 @@ TEST_CASE("no end within the snapping distance stays open") {
             rounded(axes.origin + radius * along + (depth * inwards) * Vector{-along.y, along.x});
         PathShape source{{{rounded(middle), rounded(middle), rounded(middle)}, {end, end, end}}};
         if (random.coin()) std::ranges::reverse(source.segments);
-        PathMirror mirror(axes, kSnapDistance);
+        Mirror mirror(axes, kSnapDistance);
         const MirroredPath result = mirror.mirror(source);
         REQUIRE(result.contours.size() == 1);
         REQUIRE(result.contours[0].images == Images::Rotations);
@@ -315,10 +382,10 @@ TEST_CASE("time grows with the number of segments, not its square") {
                 rounded(Point{} + (i % 2 == 0 ? 300.0 : 100.0) * direction(i * 0.7));
             star.segments.push_back({anchor, anchor, anchor});
         }
-        PathMirror mirror(axes, kSnapDistance);
+        Mirror mirror(axes, kSnapDistance);
         // Of the processor: other programs that run must not count.
         const std::clock_t start = std::clock();
-        const MirroredPath& result = mirror.mirror(star);
+        const MirroredPath result = mirror.mirror(star);
         const std::clock_t end = std::clock();
         REQUIRE(result.contours.size() > 1);
         return static_cast<double>(end - start) / CLOCKS_PER_SEC;

@@ -35,7 +35,8 @@ void addContours(PreviewPaths& paths, const MirroredPath& mirrored) {
 
 void build(Preview& preview, const PageAxes& axes, double zoom) {
     preview.paths.begin(axes, kTolerance / zoom);
-    PathMirror mirror{axes, kSnapPixels / zoom};
+    const MirrorFrame frame{axes, kSnapPixels / zoom};
+    MirrorScratch scratch;
     std::vector<PathShape> shapes(1);
     std::size_t room = kMostMirroredCurves / static_cast<std::size_t>(sectorCount(axes));
     for (const PreviewSource& source : preview.art.sources()) {
@@ -50,9 +51,9 @@ void build(Preview& preview, const PageAxes& axes, double zoom) {
         for (std::size_t i = 0; i < members.size(); ++i)
             preview.art.copyPath(source.firstPath + i, members[i]);
         if (source.kind == UnitKind::Path)
-            addContours(preview.paths, mirror.mirror(std::move(members.front())));
+            addContours(preview.paths, mirror(frame, members.front(), scratch));
         else
-            addContours(preview.paths, mirror.mirrorCompound(members));
+            addContours(preview.paths, mirrorCompound(frame, members, FillRule::NonZero, scratch));
     }
     preview.paths.limit(kMostPreviewLines);
     preview.asCurves = preview.paths.curveCount() <= kMostPreviewCurves;

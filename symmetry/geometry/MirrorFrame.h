@@ -1,0 +1,52 @@
+#pragma once
+
+/// What mirroring takes from a set of axes, computed once for many paths.
+
+#include "symmetry/geometry/Crossings.h"
+#include "symmetry/geometry/JoinPieces.h"
+#include "symmetry/geometry/PageAxes.h"
+#include "symmetry/geometry/PathShape.h"
+#include "symmetry/geometry/Tolerances.h"
+
+#include <vector>
+
+namespace facetta {
+
+struct MirrorFrame {
+    /// Open ends closer to a bounding ray than `snapDistance` (points, not negative) are moved onto
+    /// it.
+    MirrorFrame(const PageAxes& axes, double snapDistance);
+
+    /// The map that carries a sector onto sector 0.
+    [[nodiscard]] const Matrix& fold(int sector) const {
+        return folds[static_cast<std::size_t>(sector)];
+    }
+
+    PageAxes axes;
+    Wedge wedge;
+    double snapDistance;
+    ImageChains chains;
+    std::vector<Matrix> folds; ///< by sector
+};
+
+/// The sector in which a path was drawn and the place of it that tells.
+struct ActiveSector {
+    int sector = 0;
+    double position = kSampleParameter; ///< segment index plus parameter
+};
+
+/// The sample that tells the sector must be clear of the axes to mean anything: a shape drawn
+/// against an axis may well start with an edge on it. So samples are taken along the path until one
+/// is clear of them by the distance `clear`, or else just clear of them.
+[[nodiscard]] ActiveSector activeSectorOf(const MirrorFrame& frame, const PathShape& path,
+                                          double clear = kOnAxisDistance);
+
+/// Carries `path` from `sector` into sector 0.
+void foldInto0(const MirrorFrame& frame, int sector, PathShape& path);
+
+/// Which copies a path inside sector 0 and beyond needs when it is its own image already: by
+/// reflection across one bounding ray or both, on which it has anchors. `Images::All` when it is
+/// not.
+[[nodiscard]] Images ownImages(const MirrorFrame& frame, const PathShape& path);
+
+} // namespace facetta
