@@ -109,6 +109,10 @@ private:
             ArtSource& source = source_->art[art->handle()];
             source.content = art->content();
             source.stamp = art->stamp();
+            if (art->type() != kCompoundPathArt) continue;
+            source.parts.clear();
+            for (const Art* part = art->lastChild(); part != nullptr; part = part->previous())
+                source.parts.push_back(part->handle());
         }
         source_->sheet = std::move(state_.sheet);
         source_->attributes = documentAttributes(*document_);
