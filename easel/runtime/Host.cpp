@@ -17,12 +17,6 @@ Host* running = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global*)
 
 constexpr ai::int32 kMessageCheck = fourCharacterCode("SPCk");
 
-/// `when` of access messages.
-constexpr ai::int32 kAtStartUp = 0;
-constexpr ai::int32 kAtRunTime = 1;
-constexpr ai::int32 kAtShutDown = 2;
-constexpr ai::int32 kAtShutDownStillHeld = 3;
-
 std::string commandNotifier(const char* when, const char* command) {
     return std::string("AI Command Notifier: ") + when + ' ' + command;
 }
@@ -106,10 +100,17 @@ void Host::unload(SPPluginRef ref, ai::int32 when) {
     plugin.library.reset();
 }
 
-void Host::reload(SPPluginRef ref) {
-    if (plugins.at(ref).accessCount != 0) throw ai::Error{kSPCantReleasePluginError};
-    unload(ref, kAtRunTime);
-    load(ref, kAtRunTime);
+void Host::reload(SPPluginRef ref, bool evenIfHeld) {
+    Plugin& plugin = plugins.at(ref);
+    if (plugin.accessCount != 0 && !evenIfHeld) throw ai::Error{kSPCantReleasePluginError};
+    std::unique_ptr<FormerPlace> place;
+    if (plugin.library != nullptr) place = std::make_unique<FormerPlace>(*plugin.library);
+    unload(ref, kAccessAtRunTime);
+    if (place != nullptr) {
+        place->keep();
+        plugin.formerPlaces.push_back(std::move(place));
+    }
+    load(ref, kAccessAtRunTime);
 }
 
 void Host::sendAccess(SPPluginRef plugin, const char* selector, ai::int32 when) {
@@ -131,7 +132,7 @@ void Host::startUp(SPPluginRef ref) {
 
 void Host::start() {
     for (const SPPluginRef plugin : plugins.handles()) {
-        load(plugin, kAtStartUp);
+        load(plugin, kAccessAtStartUp);
         startUp(plugin);
     }
     notify(kApplicationStartedNotifier);
@@ -149,7 +150,7 @@ void Host::quit() {
         if (plugin.started && !plugin.skipShutdown)
             send(ref, kCallerInterface, kSelectorShutdown, message);
         plugin.started = false;
-        unload(ref, plugin.accessCount == 0 ? kAtShutDown : kAtShutDownStillHeld);
+        unload(ref, plugin.accessCount == 0 ? kAccessAtUnload : kAccessAtTerminal);
         forgetRegistrations(ref);
     }
 }

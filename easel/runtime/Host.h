@@ -77,9 +77,9 @@ public:
 
     void start();
     void quit();
-    /// Unloads the library and loads it again, as a host short of memory does. Throws '!Rel' while
-    /// its access count is not zero.
-    void reload(SPPluginRef plugin);
+    /// Unloads the library and loads it again at another address, as a host short of memory does.
+    /// Throws '!Rel' while its access count is not zero, unless it is to be `evenIfHeld`.
+    void reload(SPPluginRef plugin, bool evenIfHeld = false);
     /// Loads the library unless it is loaded. Throws `ai::Error` '!Acq'.
     void load(SPPluginRef plugin, ai::int32 when);
 

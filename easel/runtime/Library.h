@@ -4,6 +4,7 @@
 #include "host/Handles.h"
 #include "host/Messages.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <vector>
 
@@ -30,6 +31,25 @@ public:
 
 private:
     SPPlatformAccessRef library_;
+};
+
+/// The place in memory where a library lay, kept from being used again: the library's next place is
+/// another one, and whoever still points into this one is stopped by the system.
+class FormerPlace {
+public:
+    /// Where `library` lies as yet. Throws '!Acq' when the system cannot tell.
+    explicit FormerPlace(const Library& library);
+    ~FormerPlace();
+    FormerPlace(const FormerPlace&) = delete;
+    FormerPlace& operator=(const FormerPlace&) = delete;
+
+    /// To be called once the library is gone. Throws '!Rel' when the system has kept it.
+    void keep();
+
+private:
+    void* start_ = nullptr;
+    std::size_t size_ = 0;
+    bool kept_ = false;
 };
 
 /// The folder that holds the running program.

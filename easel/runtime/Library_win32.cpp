@@ -80,6 +80,23 @@ SPPluginEntryFunc Library::entry(const std::string& name) const {
     return reinterpret_cast<SPPluginEntryFunc>(reinterpret_cast<void*>(found));
 }
 
+FormerPlace::FormerPlace(const Library& library) : start_(moduleOf(library.native())) {
+    const auto* const start = static_cast<const std::byte*>(start_);
+    const auto* const dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(start);
+    const auto* const headers = reinterpret_cast<const IMAGE_NT_HEADERS64*>(start + dos->e_lfanew);
+    size_ = headers->OptionalHeader.SizeOfImage;
+}
+
+void FormerPlace::keep() {
+    if (VirtualAlloc(start_, size_, MEM_RESERVE, PAGE_NOACCESS) == nullptr)
+        throw ai::Error{kSPCantReleasePluginError};
+    kept_ = true;
+}
+
+FormerPlace::~FormerPlace() {
+    if (kept_) VirtualFree(start_, 0, MEM_RELEASE);
+}
+
 std::filesystem::path programFolder() {
     std::array<wchar_t, 32768> path{}; // the longest path that Windows has
     GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));

@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace easel {
 
@@ -12,11 +13,12 @@ namespace easel {
 struct Plugin {
     std::string name;
     PluginDescription description;
-    std::filesystem::path file;        ///< Empty for one that lives in this process.
-    std::unique_ptr<Library> library;  ///< Null while it is not loaded, or lives in this process.
-    SPPluginEntryFunc entry = nullptr; ///< Null while it is not loaded.
-    void* globals = nullptr;           ///< Kept for the plug-in between messages.
-    SPAccessRef access = nullptr;      ///< Null while it is not loaded.
+    std::filesystem::path file;       ///< Empty for one that lives in this process.
+    std::unique_ptr<Library> library; ///< Null while it is not loaded, or lives in this process.
+    std::vector<std::unique_ptr<FormerPlace>> formerPlaces; ///< Of its library.
+    SPPluginEntryFunc entry = nullptr;                      ///< Null while it is not loaded.
+    void* globals = nullptr;                 ///< Kept for the plug-in between messages.
+    SPAccessRef access = nullptr;            ///< Null while it is not loaded.
     SPPlatformAccessRef resources = nullptr; ///< Where its resources are sought; null: its library.
     ai::int32 accessCount = 0;               ///< By other than the host itself.
     ai::uint32 lastAccessTicks = 0;          ///< In 1/60 s.

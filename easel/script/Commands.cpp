@@ -322,6 +322,10 @@ Action readRestart(Arguments&) {
     return [](Player& player) { player.restart(); };
 }
 
+Action readReload(Arguments&) {
+    return [](Player& player) { player.reload(); };
+}
+
 Action readHost(Arguments& arguments) {
     std::vector<const char*> names;
     for (const SwitchName& each : switchNames())
@@ -403,6 +407,9 @@ constexpr CommandRow kCommands[] = {
      readPreference},
     {"restart", "", "Quits host and plug-in and starts them again; settings stay, drawings do not",
      readRestart},
+    {"reload", "",
+     "Unloads the plug-in's library, held or not, and loads it again at another address",
+     readReload},
     {"host", "NAME on|off",
      "Has the host be this way or the other where its interface does not say; the names are those "
      "in "

@@ -36,9 +36,13 @@ void Player::start() {
     addPluginLibrary(session_->host, settings_.plugin);
     session_->host.annotators.textWidth = paint::annotationWidth; // as it will be painted
     session_->start();
+    takeOverClocks();
+    started_ = true;
+}
+
+void Player::takeOverClocks() {
     for (const auto& [handle, plugin] : session_->host.plugins)
         if (plugin->library) takeOverClock(plugin->library->native());
-    started_ = true;
 }
 
 DrawingSession& Player::session() {
@@ -58,6 +62,12 @@ Document& Player::document() {
 DocumentView& Player::view() {
     static_cast<void>(document());
     return host().view(nullptr);
+}
+
+void Player::reload() {
+    for (const SPPluginRef plugin : host().plugins.handles())
+        host().reload(plugin, /*evenIfHeld*/ true);
+    takeOverClocks();
 }
 
 void Player::restart() {

@@ -49,6 +49,8 @@ public:
     void endCommand();
     /// Quits the plug-in and starts it again; settings stay.
     void restart();
+    /// Unloads the plug-in's library, held or not, and loads it again at another address.
+    void reload();
     /// Quits. Returns what was wrong in the session, a line each.
     [[nodiscard]] std::vector<std::string> finish();
 
@@ -86,6 +88,7 @@ private:
     using MouseEvent = void (Host::*)(const MousePoint&);
     void send(MouseEvent event, Place place);
     void start();
+    void takeOverClocks();
 
     PlayerSettings settings_;
     std::unique_ptr<DrawingSession> session_;

@@ -9,8 +9,6 @@
 namespace easel {
 namespace {
 
-constexpr ai::int32 kAtRunTime = 1;
-
 SPPluginRef pluginOf(SPAccessRef access) {
     const SPPluginRef found = host().plugins.findIf(
         [&](const Plugin& plugin) { return access != nullptr && plugin.access == access; });
@@ -22,7 +20,7 @@ Plugin& accessed(SPAccessRef access) { return host().plugins.at(pluginOf(access)
 
 SPErr acquirePlugin(SPPluginRef ref, SPAccessRef* access) {
     SPAccessRef& result = required(access);
-    host().load(ref, kAtRunTime);
+    host().load(ref, kAccessAtRunTime);
     Plugin& plugin = host().plugins.at(ref);
     ++plugin.accessCount;
     ledger().lend(Lent::PluginAccess, plugin.access);

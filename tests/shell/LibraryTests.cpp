@@ -1,0 +1,101 @@
+/// The plug-in as built, in a host that loads it as any library.
+
+#include "easel/runtime/Host.h"
+#include "easel/suites/Suites.h"
+
+#include <doctest/doctest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace {
+
+using easel::Host;
+
+/// A copy of the library in a folder of its own, with a manual beside it.
+class Installed {
+public:
+    Installed() {
+        std::filesystem::create_directories(folder);
+        std::filesystem::copy_file(FACETTA_LIBRARY, library(),
+                                   std::filesystem::copy_options::overwrite_existing);
+        std::ofstream(manual()) << "manual";
+    }
+    ~Installed() {
+        std::error_code ignored; // a system may still hold the library
+        std::filesystem::remove_all(folder, ignored);
+    }
+    Installed(const Installed&) = delete;
+    Installed& operator=(const Installed&) = delete;
+
+    [[nodiscard]] std::filesystem::path library() const {
+        return folder / std::filesystem::path(FACETTA_LIBRARY).filename();
+    }
+    [[nodiscard]] std::filesystem::path manual() const { return folder / "Facetta User Manual.pdf"; }
+
+    const std::filesystem::path folder =
+        std::filesystem::temp_directory_path() / "facetta-library-tests";
+};
+
+/// A session in which the host unloads the library at will, though its panel holds it.
+struct Session {
+    Session() : host(easel::installedSuites()) {
+        host.user.browserAvailable = false;
+        host.addPlugins(installed.library());
+        host.start();
+        plugin = host.plugins.handles().front();
+    }
+    void reload() { host.reload(plugin, /*evenIfHeld*/ true); }
+    void quit() {
+        host.quit();
+        for (const std::string& complaint : host.complaints())
+            FAIL_CHECK(complaint);
+    }
+
+    Installed installed;
+    Host host;
+    SPPluginRef plugin;
+};
+
+} // namespace
+
+TEST_CASE("the library is loaded at another address, and what was there before is gone") {
+    Session session;
+    const auto placeOf = [&] { return session.host.plugins.at(session.plugin).entry; };
+    const auto before = placeOf();
+    session.reload();
+    CHECK((placeOf() != before));
+    session.quit();
+}
+
+TEST_CASE("axes on screen outlive the library's place in memory") {
+    Session session;
+    Host& host = session.host;
+    host.open(std::make_unique<easel::Document>(AISize{400, 400}));
+    const AIToolType tool = host.tools.numberOf("Facetta Tool");
+    host.selectTool(host.tools.handleOf(tool), tool);
+    const auto drag = [&](AIRealPoint from, AIRealPoint to) {
+        host.press({.at = from});
+        host.drag({.at = to});
+        host.release({.at = to});
+    };
+    const auto shown = [&] { return host.drawAnnotations(host.currentView()).size(); };
+    for (int round = 0; round < 3; ++round) {
+        drag({200, -200}, {300, -200.0F + 10.0F * static_cast<AIReal>(round)});
+        const std::size_t before = shown();
+        CHECK(before > 0);
+        session.reload();
+        CHECK(shown() == before);
+    }
+    session.quit();
+}
+
+TEST_CASE("the manual is found beside the library") {
+    Session session;
+    const AIMenuItemHandle help = session.host.menus.itemNamed("Facetta Help");
+    REQUIRE(help != nullptr);
+    session.host.chooseMenuItem(help);
+    REQUIRE(session.host.user.launched.size() == 1);
+    CHECK(session.host.user.launched.front() == session.installed.manual());
+    session.quit();
+}
