@@ -255,6 +255,11 @@ TEST_CASE("a join is smooth only where the path meets the axis squarely") {
     CHECK_FALSE(squarely.contours[0].shape.segments[1].corner);
     const MirroredPath slanting = mirror.mirror(shapeOf("M 0 50 C 0 50 30 30 40 0"));
     CHECK(slanting.contours[0].shape.segments[1].corner);
+    const MirroredPath along = mirror.mirror(shapeOf("M 0 50 C 0 50 60 0 30 0"));
+    CHECK(along.contours[0].shape.segments[1].corner); // a tip, though its handles lie on one line
+    const MirroredPath both = mirror.mirror(shapeOf("M 60 0 C 60 30 30 30 20 0"));
+    CHECK_FALSE(both.contours[0].shape.segments[0].corner);
+    CHECK(both.contours[0].shape.segments[1].corner);
 }
 
 TEST_CASE("what is selected stays selected on the images") {
