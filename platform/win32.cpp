@@ -4,19 +4,21 @@
 
 #include <shellapi.h>
 
-#include <algorithm>
-
 namespace facetta::platform {
 
 KeyState readKeys() {
-    // One call for all keys: the same state that GetKeyState tells key by key, as of the message
-    // being handled, for the price of one.
-    std::array<BYTE, 256> bytes{};
+    // Key by key: the table of all keys may be out of date in a thread that waits for messages
+    // elsewhere, as the host's does.
+    constexpr Key kRead[] = {Key::Shift,  Key::Control,     Key::Alt,
+                             Key::Escape, Key::Space,       Key::A,
+                             Key::U,      Key::LeftBracket, Key::RightBracket};
     KeyState keys;
-    if (GetKeyboardState(bytes.data()) == 0) return keys;
-    constexpr BYTE kDown = 0x80;
-    std::transform(bytes.begin(), bytes.end(), keys.down.begin(),
-                   [](BYTE byte) { return (byte & kDown) != 0; });
+    const auto read = [&keys](unsigned char key) { keys.down.at(key) = GetKeyState(key) < 0; };
+    for (const Key key : kRead)
+        read(static_cast<unsigned char>(key));
+    for (auto digit = static_cast<unsigned char>(Key::Digit1);
+         digit <= static_cast<unsigned char>(Key::Digit9); ++digit)
+        read(digit);
     return keys;
 }
 
