@@ -92,6 +92,7 @@ struct StreamObject;
 using AIStream = StreamObject*;
 struct WindowObject;
 using AIWindowRef = WindowObject*;
+using AIPlatformWindow = AIWindowRef; ///< The same by another of the host's names.
 struct SPPlugin;
 using SPPluginRef = SPPlugin*;
 struct SPAccess;

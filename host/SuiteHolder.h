@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "host/Suites.h"
 #include "host/suites/SPBasicSuite.h"
 
@@ -20,9 +21,6 @@ struct AcquiredSuite {
 /// has none, the error is the one for `version`.
 [[nodiscard]] AcquiredSuite acquireSuite(const char* name, ai::int32 version,
                                          std::span<const ai::int32> fallbacks) noexcept;
-
-/// For a suite that is good in one version only.
-inline constexpr std::array<ai::int32, 0> kNoFallbacks{};
 
 /// Acquires the suites of `suiteTable()` into `ai::suites` and gives them back.
 ///
@@ -56,7 +54,9 @@ private:
 };
 
 /// One suite held apart from the table, by whoever starts before the table is acquired.
-template <typename Suite, const char* Name, ai::int32 Version, const auto& Fallbacks = kNoFallbacks>
+template <typename Suite, const char* Name = SuiteId<Suite>::name,
+          ai::int32 Version = SuiteId<Suite>::version,
+          const auto& Fallbacks = SuiteId<Suite>::fallbacks>
 class SuiteLease {
 public:
     SuiteLease() noexcept = default;
@@ -86,13 +86,15 @@ private:
 
 /// Sees to it that one pointer of `ai::suites` is filled for a while: borrows the suite when nobody
 /// holds it, as before start-up and after a failed one.
-template <auto Member, const char* Name, ai::int32 Version, const auto& Fallbacks = kNoFallbacks>
+template <auto Member, const char* Name = SuiteId<SuiteAt<Member>>::name,
+          ai::int32 Version = SuiteId<SuiteAt<Member>>::version,
+          const auto& Fallbacks = SuiteId<SuiteAt<Member>>::fallbacks>
 class BorrowedSuite {
 public:
     BorrowedSuite() noexcept {
         if (suites.*Member != nullptr) return;
         const AcquiredSuite acquired = acquireSuite(Name, Version, Fallbacks);
-        suites.*Member = static_cast<decltype(+(suites.*Member))>(acquired.functions);
+        suites.*Member = static_cast<const SuiteAt<Member>*>(acquired.functions);
         borrowedVersion_ = acquired.version;
     }
     ~BorrowedSuite() {

@@ -52,21 +52,18 @@ const SPBasicSuite* basicSuite = nullptr; // NOLINT(cppcoreguidelines-avoid-non-
 
 namespace {
 
-template <auto Member>
-constexpr SuiteRow row(const char* name, ai::int32 version, Need need = Need::Required) {
-    return {name,
-            version,
-            need,
-            [](const void* table) {
-                using Pointer = std::remove_reference_t<decltype(suites.*Member)>;
-                suites.*Member = static_cast<Pointer>(table);
-            },
-            {}};
+template <auto Member> void store(const void* table) {
+    suites.*Member = static_cast<const SuiteAt<Member>*>(table);
 }
 
-constexpr SuiteRow withFallbacks(SuiteRow row, std::span<const ai::int32> fallbacks) {
-    row.fallbacks = fallbacks;
-    return row;
+template <auto Member> constexpr SuiteRow row(Need need = Need::Required) {
+    using Id = SuiteId<SuiteAt<Member>>;
+    return {Id::name, Id::version, need, store<Member>, Id::fallbacks};
+}
+
+/// A suite that is acquired and never called.
+template <auto Member> constexpr SuiteRow unused(const char* name, ai::int32 version) {
+    return {name, version, Need::Required, store<Member>, {}};
 }
 
 template <std::size_t Index> constexpr SuiteRow text(const char* name, ai::int32 version) {
@@ -78,54 +75,54 @@ template <std::size_t Index> constexpr SuiteRow text(const char* name, ai::int32
 }
 
 constexpr SuiteRow kRows[] = {
-    row<&Suites::block>(kAIBlockSuite, kAIBlockSuiteVersion),
-    row<&Suites::art>(kAIArtSuite, kAIArtSuiteVersion),
-    row<&Suites::group>(kAIGroupSuite, kAIGroupSuiteVersion),
-    row<&Suites::document>(kAIDocumentSuite, kAIDocumentSuiteVersion),
-    row<&Suites::documentView>(kAIDocumentViewSuite, kAIDocumentViewSuiteVersion),
-    row<&Suites::documentList>(kAIDocumentListSuite, kAIDocumentListSuiteVersion),
-    row<&Suites::preference>(kAIPreferenceSuite, kAIPreferenceSuiteVersion),
-    row<&Suites::menu>(kAIMenuSuite, kAIMenuSuiteVersion),
-    row<&Suites::dictionary>(kAIDictionarySuite, kAIDictionarySuiteVersion),
-    row<&Suites::array>(kAIArraySuite, kAIArraySuiteVersion),
-    row<&Suites::unicodeString>(kAIUnicodeStringSuite, kAIUnicodeStringSuiteVersion),
-    row<&Suites::realMath>(kAIRealMathSuite, kAIRealMathSuiteVersion),
-    row<&Suites::user>(kAIUserSuite, kAIUserSuiteVersion),
-    row<&Suites::realBezier>(kAIRealBezierSuite, kAIRealBezierSuiteVersion),
-    row<&Suites::artSet>(kAIArtSetSuite, kAIArtSetSuiteVersion),
-    row<&Suites::layer>(kAILayerSuite, kAILayerSuiteVersion),
-    row<&Suites::path>(kAIPathSuite, kAIPathSuiteVersion),
-    row<&Suites::pathStyle>(kAIPathStyleSuite, kAIPathStyleSuiteVersion),
-    row<&Suites::annotator>(kAIAnnotatorSuite, kAIAnnotatorSuiteVersion),
-    row<&Suites::hitTest>(kAIHitTestSuite, kAIHitTestSuiteVersion),
-    row<&Suites::cursorSnap>(kAICursorSnapSuite, kAICursorSnapSuiteVersion),
-    row<&Suites::undo>(kAIUndoSuite, kAIUndoSuiteVersion),
-    row<&Suites::tool>(kAIToolSuite, kAIToolSuiteVersion),
-    row<&Suites::toolbox>(kAIToolboxSuite, kAIToolboxSuiteVersion),
-    row<&Suites::commandManager>("AI Command Manager Suite", 4),
-    row<&Suites::timer>(kAITimerSuite, kAITimerSuiteVersion),
-    row<&Suites::textFrame>("AI Text Frame Suite", 3),
-    row<&Suites::pluginGroup>(kAIPluginGroupSuite, kAIPluginGroupSuiteVersion),
-    row<&Suites::symbol>(kAISymbolSuite, kAISymbolSuiteVersion),
-    row<&Suites::artStyle>("AI Art Style Suite", 6),
-    row<&Suites::artStyleParser>("AI Art Style Parser Suite", 7),
-    row<&Suites::liveEffect>("AI Live Effect Suite", 5),
-    row<&Suites::countedObject>(kAICountedObjectSuite, kAICountedObjectSuiteVersion),
-    row<&Suites::entry>(kAIEntrySuite, kAIEntrySuiteVersion),
-    row<&Suites::transformArt>(kAITransformArtSuite, kAITransformArtSuiteVersion),
-    row<&Suites::hardSoft>(kAIHardSoftSuite, kAIHardSoftSuiteVersion),
-    row<&Suites::placed>("AI Placed Suite", 7),
-    row<&Suites::raster>("AI Raster Suite", 9),
-    row<&Suites::font>("AI Font Suite", 5),
-    row<&Suites::runtime>(kAIRuntimeSuite, kAIRuntimeSuiteVersion),
-    row<&Suites::folders>(kAIFoldersSuite, kAIFoldersSuiteVersion),
-    row<&Suites::filePath>(kAIFilePathSuite, kAIFilePathSuiteVersion),
-    row<&Suites::dataFilter>("AI Data Filter Suite", 7),
-    row<&Suites::actionManager>("AI Action Manager Suite", 4),
-    row<&Suites::url>(kAIURLSuite, kAIURLSuiteVersion),
-    row<&Suites::characterEncoding>("AI Character Encoding Suite", 4),
-    row<&Suites::mesh>("AI Mesh Suite", 5),
-    row<&Suites::meshSegment>("AI Mesh Segment Suite", 2),
+    row<&Suites::block>(),
+    row<&Suites::art>(),
+    row<&Suites::group>(),
+    row<&Suites::document>(),
+    row<&Suites::documentView>(),
+    row<&Suites::documentList>(),
+    row<&Suites::preference>(),
+    row<&Suites::menu>(),
+    row<&Suites::dictionary>(),
+    row<&Suites::array>(),
+    row<&Suites::unicodeString>(),
+    row<&Suites::realMath>(),
+    row<&Suites::user>(),
+    row<&Suites::realBezier>(),
+    row<&Suites::artSet>(),
+    row<&Suites::layer>(),
+    row<&Suites::path>(),
+    row<&Suites::pathStyle>(),
+    row<&Suites::annotator>(),
+    row<&Suites::hitTest>(),
+    row<&Suites::cursorSnap>(),
+    row<&Suites::undo>(),
+    row<&Suites::tool>(),
+    row<&Suites::toolbox>(),
+    unused<&Suites::commandManager>("AI Command Manager Suite", 4),
+    row<&Suites::timer>(),
+    unused<&Suites::textFrame>("AI Text Frame Suite", 3),
+    row<&Suites::pluginGroup>(),
+    row<&Suites::symbol>(),
+    unused<&Suites::artStyle>("AI Art Style Suite", 6),
+    unused<&Suites::artStyleParser>("AI Art Style Parser Suite", 7),
+    unused<&Suites::liveEffect>("AI Live Effect Suite", 5),
+    row<&Suites::countedObject>(),
+    row<&Suites::entry>(),
+    row<&Suites::transformArt>(),
+    row<&Suites::hardSoft>(),
+    unused<&Suites::placed>("AI Placed Suite", 7),
+    unused<&Suites::raster>("AI Raster Suite", 9),
+    unused<&Suites::font>("AI Font Suite", 5),
+    row<&Suites::runtime>(),
+    row<&Suites::folders>(),
+    row<&Suites::filePath>(),
+    unused<&Suites::dataFilter>("AI Data Filter Suite", 7),
+    unused<&Suites::actionManager>("AI Action Manager Suite", 4),
+    row<&Suites::url>(),
+    unused<&Suites::characterEncoding>("AI Character Encoding Suite", 4),
+    unused<&Suites::mesh>("AI Mesh Suite", 5),
+    unused<&Suites::meshSegment>("AI Mesh Segment Suite", 2),
 
     // The host's text engine, acquired as one with the standard interface.
     text<0>("ATE ApplicationPaint Suite", 1),
@@ -217,15 +214,12 @@ constexpr SuiteRow kRows[] = {
     text<86>("ATE ArrayDiacVPos Suite", 1),
 
     // What the shell needs besides.
-    row<&Suites::notifier>(kAINotifierSuite, kAINotifierSuiteVersion),
-    withFallbacks(row<&Suites::appContext>(kAIAppContextSuite, kAIAppContextSuiteVersion),
-                  kAIAppContextSuiteFallbacks),
-    withFallbacks(row<&Suites::plugins>(kSPPluginsSuite, kSPPluginsSuiteVersion),
-                  kSPPluginsSuiteFallbacks),
-    row<&Suites::access>(kSPAccessSuite, kSPAccessSuiteVersion),
-    row<&Suites::blocks>(kSPBlocksSuite, kSPBlocksSuiteVersion),
-    row<&Suites::annotatorDrawer>(kAIAnnotatorDrawerSuite, kAIAnnotatorDrawerSuiteVersion,
-                                  Need::Optional),
+    row<&Suites::notifier>(),
+    row<&Suites::appContext>(),
+    row<&Suites::plugins>(),
+    row<&Suites::access>(),
+    row<&Suites::blocks>(),
+    row<&Suites::annotatorDrawer>(Need::Optional),
 };
 
 } // namespace

@@ -3,6 +3,8 @@
 #include "host/Types.h"
 
 #include <array>
+#include <type_traits>
+#include <utility>
 
 struct AIAnnotatorDrawerSuite;
 struct AIAnnotatorSuite;
@@ -108,6 +110,11 @@ struct Suites {
     const AIAnnotatorDrawerSuite* annotatorDrawer = nullptr;
     std::array<const void*, 87> text{};
 };
+
+/// The suite whose functions the pointer `Member` of `Suites` leads to.
+template <auto Member>
+using SuiteAt = std::remove_const_t<
+    std::remove_pointer_t<std::remove_reference_t<decltype(std::declval<Suites&>().*Member)>>>;
 
 /// Written by `SuiteHolder`, `BorrowedSuite` and `alignToolSuite` only, for whoever calls the host:
 /// all the program.

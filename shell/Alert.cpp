@@ -34,13 +34,9 @@ std::u16string widened(std::string_view text) {
 } // namespace
 
 void showAlert(std::string_view text) {
-    const ai::BorrowedSuite<&ai::Suites::unicodeString, kAIUnicodeStringSuite,
-                            kAIUnicodeStringSuiteVersion>
-        strings;
-    const ai::BorrowedSuite<&ai::Suites::user, kAIUserSuite, kAIUserSuiteVersion> user;
-    const ai::BorrowedSuite<&ai::Suites::appContext, kAIAppContextSuite, kAIAppContextSuiteVersion,
-                            kAIAppContextSuiteFallbacks>
-        context;
+    const ai::BorrowedSuite<&ai::Suites::unicodeString> strings;
+    const ai::BorrowedSuite<&ai::Suites::user> user;
+    const ai::BorrowedSuite<&ai::Suites::appContext> context;
     if (strings && user && ai::liesAsDeclared(*ai::suites.user))
         ai::suites.user->WarningAlert(ai::UnicodeString(widened(text)), nullptr);
     else

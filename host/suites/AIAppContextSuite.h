@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/Handles.h"
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 #include <array>
@@ -11,16 +12,24 @@ inline constexpr ai::int32 kAIAppContextSuiteVersion = 6;
 inline constexpr std::array<ai::int32, 2> kAIAppContextSuiteFallbacks{5, 4};
 
 struct AIAppContextSuite {
-    AIErr (*GetPlatformAppWindow)(AIWindowRef*);
-    AIErr (*PushAppContext)(SPPluginRef, AIAppContextHandle*);
-    AIErr (*PopAppContext)(AIAppContextHandle);
-    AIErr (*MacGetAppQDGlobal)(void**);
+    /// The host's main window, the owner of modal ones.
+    AIErr (*GetPlatformAppWindow)(AIWindowRef* window);
+    /// Fixes the current document; what changes until the context is popped is one undo step.
+    AIErr (*PushAppContext)(SPPluginRef self, AIAppContextHandle* context);
+    /// Only the one pushed last.
+    AIErr (*PopAppContext)(AIAppContextHandle context);
+    ReservedSlot MacGetAppQDGlobal;
     AIErr (*SuspendAppContext)(AISuspendedAppContext*);
     AIErr (*ResumeAppContext)(AISuspendedAppContext, AIDocumentHandle);
-    AIErr (*AllowAllChanges)(AIBoolean, AIBoolean*);
-    AIErr (*AllowProgress)(bool);
-    ReservedSlot GetPlatformAppMenu;
-    ReservedSlot SetAppContextKind;
+    /// Whether art under locked or hidden parents may be changed in the current context; `previous`
+    /// gets what held before.
+    AIErr (*AllowAllChanges)(AIBoolean allow, AIBoolean* previous);
+    ReservedSlot AllowProgress, GetPlatformAppMenu, SetAppContextKind;
     AIErr (*SyncAndDraw)();
-    AIErr (*GetRulerWidthOffsetOnActiveDocument)(AIRect*, AIRect*, AIRect*);
+    ReservedSlot GetRulerWidthOffsetOnActiveDocument;
 };
+
+template <>
+struct ai::SuiteId<AIAppContextSuite>
+    : ai::SuiteIdentity<kAIAppContextSuite, kAIAppContextSuiteVersion,
+                        kAIAppContextSuiteFallbacks> {};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/Handles.h"
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAIArraySuite[] = "AI Array Suite";
@@ -19,14 +20,8 @@ struct AIArraySuite {
     AIErr (*CopyEntry)(AIArrayRef, AIArrayRef, ai::int32, ai::int32);
     AIErr (*MoveEntry)(AIArrayRef, AIArrayRef, ai::int32, ai::int32, ai::int32*);
     AIErr (*SwapEntries)(AIArrayRef, AIArrayRef, ai::int32, ai::int32);
-    AIErr (*GetArtEntry)(AIArrayRef, ai::int32, AIArtHandle*);
-    AIErr (*NewArtEntry)(AIArrayRef, ai::int32, ai::int16);
-    AIErr (*MoveArtToEntry)(AIArrayRef, ai::int32, AIArtHandle);
-    AIErr (*MoveEntryToArt)(AIArrayRef, ai::int32, ai::int16, AIArtHandle, AIArtHandle*);
-    AIErr (*CopyArtToEntry)(AIArrayRef, ai::int32, AIArtHandle);
-    AIErr (*CopyEntryToArt)(AIArrayRef, ai::int32, ai::int16, AIArtHandle, AIArtHandle*);
-    AIErr (*SetEntryToLayer)(AIArrayRef, ai::int32, AILayerHandle);
-    AIErr (*SetLayerToEntry)(AIArrayRef, ai::int32, ai::int16, AILayerHandle, AILayerHandle*);
+    ReservedSlot GetArtEntry, NewArtEntry, MoveArtToEntry, MoveEntryToArt, CopyArtToEntry,
+        CopyEntryToArt, SetEntryToLayer, SetLayerToEntry;
     AIEntryRef (*Get)(AIArrayRef, ai::int32);
     AIErr (*Set)(AIArrayRef, ai::int32, AIEntryRef);
     AIErr (*GetBooleanEntry)(AIArrayRef, ai::int32, AIBoolean*);
@@ -48,3 +43,6 @@ struct AIArraySuite {
     AIErr (*AppendEntry)(AIArrayRef, AIEntryRef);
     AIErr (*Reserve)(AIArrayRef, ai::int32);
 };
+
+template <>
+struct ai::SuiteId<AIArraySuite> : ai::SuiteIdentity<kAIArraySuite, kAIArraySuiteVersion> {};

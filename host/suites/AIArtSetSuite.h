@@ -2,6 +2,7 @@
 
 #include "host/Art.h"
 #include "host/Handles.h"
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAIArtSetSuite[] = "AI Art Set Suite";
@@ -9,19 +10,31 @@ inline constexpr ai::int32 kAIArtSetSuiteVersion = 7;
 
 /// Ordered lists of art that are not part of the document.
 struct AIArtSetSuite {
-    AIErr (*NewArtSet)(AIArtSet*);
-    AIErr (*DisposeArtSet)(AIArtSet*);
-    AIErr (*CountArtSet)(AIArtSet, std::size_t*);
-    AIErr (*IndexArtSet)(AIArtSet, std::size_t, AIArtHandle*);
+    /// An empty set, to be given back with `DisposeArtSet`.
+    AIErr (*NewArtSet)(AIArtSet* set);
+    /// Takes the address of the handle and nulls it; the art stays.
+    AIErr (*DisposeArtSet)(AIArtSet* set);
+    /// Some hosts write the low 32 bits only: preset `count` with 0.
+    AIErr (*CountArtSet)(AIArtSet set, std::size_t* count);
+    /// From 0; null entries are possible.
+    AIErr (*IndexArtSet)(AIArtSet set, std::size_t index, AIArtHandle* art);
     AIErr (*ArrayArtSet)(AIArtSet, AIArtHandle*, std::size_t);
-    AIErr (*SelectedArtSet)(AIArtSet);
-    AIErr (*MatchingArtSet)(AIArtSpec*, ai::int16, AIArtSet);
-    AIErr (*LayerArtSet)(AILayerHandle, AIArtSet);
-    AIErr (*NotArtSet)(AIArtSet, AIArtSet);
+    /// Replaces the content by all selected art: groups that are selected in part, and their
+    /// members.
+    AIErr (*SelectedArtSet)(AIArtSet set);
+    /// Replaces the content by the art that matches any of the specs, in the order of painting.
+    AIErr (*MatchingArtSet)(AIArtSpec* specs, ai::int16 count, AIArtSet set);
+    /// Replaces the content by the layer's art, sublayers' too; its own group may be among it.
+    AIErr (*LayerArtSet)(AILayerHandle layer, AIArtSet set);
+    ReservedSlot NotArtSet;
     AIErr (*UnionArtSet)(AIArtSet, AIArtSet, AIArtSet);
     AIErr (*IntersectArtSet)(AIArtSet, AIArtSet, AIArtSet);
     AIErr (*NextInArtSet)(AIArtSet, AIArtHandle, AIArtHandle*);
-    AIErr (*AddArtToArtSet)(AIArtSet, AIArtHandle);
+    /// Once only.
+    AIErr (*AddArtToArtSet)(AIArtSet set, AIArtHandle art);
     AIErr (*RemoveArtFromArtSet)(AIArtSet, AIArtHandle);
     AIErr (*ReplaceArtInArtSet)(AIArtSet, AIArtHandle, AIArtHandle);
 };
+
+template <>
+struct ai::SuiteId<AIArtSetSuite> : ai::SuiteIdentity<kAIArtSetSuite, kAIArtSetSuiteVersion> {};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAIBlockSuite[] = "AI Block Suite";
@@ -11,3 +12,6 @@ struct AIBlockSuite {
     AIErr (*ReallocateBlock)(void*, std::size_t, void**);
     AIErr (*SizeOfMemoryBlock)(void*, std::size_t*);
 };
+
+template <>
+struct ai::SuiteId<AIBlockSuite> : ai::SuiteIdentity<kAIBlockSuite, kAIBlockSuiteVersion> {};

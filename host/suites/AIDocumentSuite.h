@@ -2,6 +2,7 @@
 
 #include "host/Art.h"
 #include "host/Handles.h"
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAIDocumentSuite[] = "AI Document Suite";
@@ -10,74 +11,53 @@ inline constexpr ai::int32 kAIDocumentSuiteVersion = 13;
 struct AIDocumentSuite {
     AIErr (*GetDocumentFileSpecification)(ai::FilePath&);
     AIErr (*GetDocumentPageOrigin)(AIRealPoint*);
-    AIErr (*SetDocumentPageOrigin)(AIRealPoint*);
+    ReservedSlot SetDocumentPageOrigin;
     AIErr (*SetDocumentRulerOrigin)(AIRealPoint*);
-    AIErr (*GetDocumentRulerUnits)(ai::int16*);
+    /// 0 unknown, 1 inches, 2 cm, 3 points, 4 picas, 5 mm, 6 pixels, 7 Q.
+    AIErr (*GetDocumentRulerUnits)(ai::int16* units);
     AIErr (*SetDocumentRulerUnits)(ai::int16);
-    ReservedSlot GetDocumentCropStyle;
-    ReservedSlot SetDocumentCropStyle;
-    ReservedSlot GetDocumentPrintRecord;
-    ReservedSlot SetDocumentPrintRecord;
+    ReservedSlot GetDocumentCropStyle, SetDocumentCropStyle, GetDocumentPrintRecord,
+        SetDocumentPrintRecord;
     AIErr (*GetDocumentSetup)(AIDocumentSetup*);
     AIErr (*SetDocumentSetup)(AIDocumentSetup*);
     AIErr (*GetDocumentModified)(AIBoolean*);
     AIErr (*SetDocumentModified)(AIBoolean);
-    AIErr (*GetDocumentFileFormat)(AIFileFormatHandle*);
-    AIErr (*SetDocumentFileFormat)(AIFileFormatHandle);
-    ReservedSlot GetDocumentFileFormatParameters;
-    ReservedSlot SetDocumentFileFormatParameters;
+    ReservedSlot GetDocumentFileFormat, SetDocumentFileFormat, GetDocumentFileFormatParameters,
+        SetDocumentFileFormatParameters;
+    /// At once, not when the message returns.
     AIErr (*RedrawDocument)();
-    AIErr (*GetDocument)(AIDocumentHandle*);
-    AIErr (*WriteDocument)(const ai::FilePath&, const char*, AIBoolean);
-    ReservedSlot GetDocumentMiPrintRecord;
-    ReservedSlot SetDocumentMiPrintRecord;
+    /// Fails when none is open.
+    AIErr (*GetDocument)(AIDocumentHandle* document);
+    ReservedSlot WriteDocument, GetDocumentMiPrintRecord, SetDocumentMiPrintRecord;
     AIErr (*GetDocumentRulerOrigin)(AIRealPoint*);
-    AIErr (*UpdateLinks)(AIBoolean*);
+    ReservedSlot UpdateLinks;
     AIErr (*GetDocumentZoomLimit)(AIReal*, AIReal*);
-    AIErr (*GetDocumentMaxArtboardBounds)(AIRealRect*);
+    /// The canvas, in soft coordinates.
+    AIErr (*GetDocumentMaxArtboardBounds)(AIRealRect* bounds);
     AIErr (*DocumentExists)(AIDocumentHandle, AIBoolean*);
     AIErr (*GetDictionary)(AIDictionaryRef*);
     AIErr (*GetDocumentColorModel)(ai::int16*);
-    AIErr (*SetDocumentColorModel)(ai::int16);
-    ReservedSlot GetDocumentProfiles;
-    ReservedSlot SetDocumentProfiles;
+    ReservedSlot SetDocumentColorModel, GetDocumentProfiles, SetDocumentProfiles;
     AIErr (*Copy)();
-    AIErr (*Cut)();
-    AIErr (*Paste)();
+    ReservedSlot Cut, Paste;
     AIErr (*SyncDocument)();
-    AIErr (*GetDocumentTargeting)(ai::int16*, ai::int16*, ai::int16*);
-    AIErr (*SetDocumentTargeting)(ai::int16, ai::int16, ai::int16);
+    ReservedSlot GetDocumentTargeting, SetDocumentTargeting;
     AIErr (*GetNonRecordedDictionary)(AIDictionaryRef*);
     ai::int32 (*GetAIVersion)();
-    AIErr (*DocumentHasTransparency)(AIBoolean*, AIBoolean);
-    AIErr (*DocumentHasSpotColorArt)(AIBoolean*);
-    AIErr (*GetDocumentAssetMgmtInfo)(AIBoolean*, ai::int32*, AIBoolean*, const char**, AIBoolean*,
-                                      char*);
-    AIErr (*SetDocumentAssetMgmtInfo)(AIBoolean*, AIBoolean*, const char*, AIBoolean*);
-    AIErr (*GetDocumentURL)(AIDocumentHandle, const char**);
-    AIErr (*GetDocumentXAP)(const char**);
-    AIErr (*SetDocumentXAP)(const char*);
-    AIErr (*SuspendTextReflow)();
-    AIErr (*ResumeTextReflow)();
-    ReservedSlot GetTextSelection;
+    ReservedSlot DocumentHasTransparency, DocumentHasSpotColorArt, GetDocumentAssetMgmtInfo,
+        SetDocumentAssetMgmtInfo, GetDocumentURL, GetDocumentXAP, SetDocumentXAP, SuspendTextReflow,
+        ResumeTextReflow, GetTextSelection;
     AIErr (*HasTextFocus)(AIBoolean*);
     AIErr (*HasTextCaret)(AIBoolean*);
-    ReservedSlot GetTextFocus;
-    ReservedSlot SetTextFocus;
-    AIErr (*LoseTextFocus)();
-    ReservedSlot GetDocumentTextResources;
-    AIErr (*WriteDocumentMacInformationResource)(const ai::FilePath&);
-    AIErr (*WriteDocumentWithOptions)(const ai::FilePath&, const char*, ai::int32, AIBoolean);
-    AIErr (*DocumentHasOverprint)(AIBoolean*);
-    AIErr (*DocumentHasManagedLinks)(AIDocumentHandle, AIBoolean*);
-    ReservedSlot GetDocumentSpotColorMode;
-    ReservedSlot SetDocumentSpotColorMode;
+    ReservedSlot GetTextFocus, SetTextFocus, LoseTextFocus, GetDocumentTextResources,
+        WriteDocumentMacInformationResource, WriteDocumentWithOptions, DocumentHasOverprint,
+        DocumentHasManagedLinks, GetDocumentSpotColorMode, SetDocumentSpotColorMode;
     AIErr (*Undo)();
     AIErr (*Redo)();
-    AIErr (*DocumentRasterAttributes)(AIBoolean*, AIBoolean*);
-    ReservedSlot GetDocumentStartupProfile;
-    AIErr (*GetDocumentBleeds)(AIRealRect*);
-    AIErr (*SetDocumentBleeds)(const AIRealRect&);
-    AIErr (*SetDocumentPixelPerfectStatus)(AIBoolean);
-    AIBoolean (*GetDocumentPixelPerfectStatus)();
+    ReservedSlot DocumentRasterAttributes, GetDocumentStartupProfile, GetDocumentBleeds,
+        SetDocumentBleeds, SetDocumentPixelPerfectStatus, GetDocumentPixelPerfectStatus;
+};
+
+template <>
+struct ai::SuiteId<AIDocumentSuite> : ai::SuiteIdentity<kAIDocumentSuite, kAIDocumentSuiteVersion> {
 };

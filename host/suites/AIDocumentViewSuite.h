@@ -1,22 +1,30 @@
 #pragma once
 
 #include "host/Handles.h"
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAIDocumentViewSuite[] = "AI Document View Suite";
 inline constexpr ai::int32 kAIDocumentViewSuiteVersion = 11;
 
 struct AIDocumentViewSuite {
-    AIErr (*GetDocumentViewBounds)(AIDocumentViewHandle, AIRealRect*);
+    /// What is seen of the canvas, in soft coordinates; null view: the current one.
+    AIErr (*GetDocumentViewBounds)(AIDocumentViewHandle view, AIRealRect* bounds);
     AIErr (*GetDocumentViewCenter)(AIDocumentViewHandle, AIRealPoint*);
     AIErr (*SetDocumentViewCenter)(AIDocumentViewHandle, const AIRealPoint*);
-    AIErr (*GetDocumentViewZoom)(AIDocumentViewHandle, AIReal*);
+    /// Pixels to a point; null view: the current one.
+    AIErr (*GetDocumentViewZoom)(AIDocumentViewHandle view, AIReal* zoom);
     AIErr (*SetDocumentViewZoom)(AIDocumentViewHandle, AIReal);
-    AIErr (*ArtworkPointToViewPoint)(AIDocumentViewHandle, const AIRealPoint*, AIPoint*);
+    /// Rounded to the nearest pixel; y downwards.
+    AIErr (*ArtworkPointToViewPoint)(AIDocumentViewHandle view, const AIRealPoint* artwork,
+                                     AIPoint* pixel);
     AIErr (*ViewPointToArtworkPoint)(AIDocumentViewHandle, const AIPoint*, AIRealPoint*);
     AIErr (*CountDocumentViews)(ai::int32*);
-    AIErr (*GetNthDocumentView)(ai::int32, AIDocumentViewHandle*);
-    AIErr (*FixedArtworkPointToViewPoint)(AIDocumentViewHandle, const AIRealPoint*, AIRealPoint*);
+    /// 0 is the current view; from 1 those of the current document.
+    AIErr (*GetNthDocumentView)(ai::int32 index, AIDocumentViewHandle* view);
+    /// The same without rounding.
+    AIErr (*FixedArtworkPointToViewPoint)(AIDocumentViewHandle view, const AIRealPoint* artwork,
+                                          AIRealPoint* pixel);
     AIErr (*FixedViewPointToArtworkPoint)(AIDocumentViewHandle, const AIRealPoint*, AIRealPoint*);
     AIErr (*SetScreenMode)(AIDocumentViewHandle, AIScreenMode);
     AIErr (*GetScreenMode)(AIDocumentViewHandle, AIScreenMode*);
@@ -27,26 +35,26 @@ struct AIDocumentViewSuite {
     AIErr (*SetDocumentViewInvalidRect)(AIDocumentViewHandle, const AIRealRect*);
     AIErr (*GetDocumentViewStyle)(AIDocumentViewHandle, ai::int16*);
     AIErr (*SetDocumentViewInvalidDocumentRect)(AIDocumentViewHandle, const AIRealRect*);
-    AIErr (*GetShowPageTiling)(AIBoolean*);
-    AIErr (*SetShowPageTiling)(AIBoolean);
+    ReservedSlot GetShowPageTiling, SetShowPageTiling;
     AIErr (*GetGridOptions)(AIDocumentViewHandle, AIBoolean*, AIBoolean*);
     AIErr (*SetGridOptions)(AIDocumentViewHandle, AIBoolean, AIBoolean);
     AIErr (*GetShowTransparencyGrid)(AIDocumentViewHandle, AIBoolean*);
     AIErr (*SetShowTransparencyGrid)(AIDocumentViewHandle, AIBoolean);
     AIErr (*GetDocumentViewDocument)(AIDocumentViewHandle, AIDocumentHandle*);
-    AIErr (*ForceDocumentViewsOnScreen)();
+    ReservedSlot ForceDocumentViewsOnScreen;
     AIErr (*GetShowGuides)(AIDocumentViewHandle, AIBoolean*);
     AIErr (*SetShowGuides)(AIDocumentViewHandle, AIBoolean);
     AIErr (*GetShowEdges)(AIDocumentViewHandle, AIBoolean*);
     AIErr (*SetShowEdges)(AIDocumentViewHandle, AIBoolean);
-    AIErr (*SaveImage)(AIDocumentViewHandle, const ai::UnicodeString&, const AIPoint&);
+    ReservedSlot SaveImage;
     AIErr (*IsArtboardRulerVisible)(AIDocumentViewHandle, AIBoolean*);
     AIErr (*SetArtboardRulerVisible)(AIDocumentViewHandle, AIBoolean);
-    AIErr (*CountOPPPlates)(AIDocumentViewHandle, ai::int32&);
-    ReservedSlot GetNthOPPPlate;
-    ReservedSlot GetOPPPlateState;
-    ReservedSlot SetOPPPlateState;
+    ReservedSlot CountOPPPlates, GetNthOPPPlate, GetOPPPlateState, SetOPPPlateState;
     AIErr (*SetDocumentViewStyle)(AIDocumentViewHandle, ai::int16, ai::int16);
     AIErr (*IsRulerInArtboardCoordinates)(AIDocumentViewHandle, AIBoolean*);
     AIErr (*UseArtboardCoordinatesInRuler)(AIDocumentViewHandle, AIBoolean);
 };
+
+template <>
+struct ai::SuiteId<AIDocumentViewSuite>
+    : ai::SuiteIdentity<kAIDocumentViewSuite, kAIDocumentViewSuiteVersion> {};

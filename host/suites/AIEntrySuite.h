@@ -2,6 +2,7 @@
 
 #include "host/Handles.h"
 #include "host/PathStyle.h"
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAIEntrySuite[] = "AI Entry Suite";
@@ -11,8 +12,10 @@ inline constexpr ai::int32 kAIEntrySuiteVersion = 6;
 /// passed to it.
 struct AIEntrySuite {
     ai::int32 (*AddRef)(AIEntryRef);
-    ai::int32 (*Release)(AIEntryRef);
-    AIEntryType (*GetType)(AIEntryRef);
+    /// Answers the new count.
+    ai::int32 (*Release)(AIEntryRef entry);
+    /// Does not consume the entry.
+    AIEntryType (*GetType)(AIEntryRef entry);
     AIErr (*ToBoolean)(AIEntryRef, AIBoolean*);
     AIEntryRef (*FromBoolean)(AIBoolean);
     AIErr (*ToInteger)(AIEntryRef, ai::int32*);
@@ -23,48 +26,34 @@ struct AIEntrySuite {
     AIEntryRef (*FromRealPoint)(const AIRealPoint*);
     AIErr (*ToRealMatrix)(AIEntryRef, AIRealMatrix*);
     AIEntryRef (*FromRealMatrix)(const AIRealMatrix*);
-    AIErr (*ToString)(AIEntryRef, const char**);
-    AIEntryRef (*FromString)(const char*);
-    AIErr (*ToDict)(AIEntryRef, AIDictionaryRef*);
-    AIEntryRef (*FromDict)(AIDictionaryRef);
-    AIErr (*ToArt)(AIEntryRef, AIArtHandle*);
+    /// Consumes the entry; `text` is to be copied before the next call.
+    AIErr (*ToString)(AIEntryRef entry, const char** text);
+    /// To be released, or consumed by a call. Copies `text`.
+    AIEntryRef (*FromString)(const char* text);
+    /// Consumes the entry; the dictionary is to be released.
+    AIErr (*ToDict)(AIEntryRef entry, AIDictionaryRef* dictionary);
+    /// Shares the dictionary; the caller's own reference stays the caller's.
+    AIEntryRef (*FromDict)(AIDictionaryRef dictionary);
+    ReservedSlot ToArt;
     AIErr (*ToArray)(AIEntryRef, AIArrayRef*);
     AIEntryRef (*FromArray)(AIArrayRef);
     AIErr (*ToBinary)(AIEntryRef, void*, std::size_t*);
     AIEntryRef (*FromBinary)(void*, std::size_t);
-    AIErr (*ToPattern)(AIEntryRef, AIPatternHandle*);
-    AIEntryRef (*FromPattern)(AIPatternHandle);
-    AIErr (*ToBrushPattern)(AIEntryRef, AIPatternHandle*);
-    AIEntryRef (*FromBrushPattern)(AIPatternHandle);
-    AIErr (*ToGradient)(AIEntryRef, AIGradientHandle*);
-    AIEntryRef (*FromGradient)(AIGradientHandle);
-    AIErr (*ToCustomColor)(AIEntryRef, AICustomColorHandle*);
-    AIEntryRef (*FromCustomColor)(AICustomColorHandle);
-    AIErr (*ToPluginObject)(AIEntryRef, AIObjectHandle*);
-    AIEntryRef (*FromPluginObject)(AIObjectHandle);
-    AIErr (*ToFillStyle)(AIEntryRef, AIFillStyle*);
-    AIEntryRef (*FromFillStyle)(const AIFillStyle*);
-    AIErr (*ToStrokeStyle)(AIEntryRef, AIStrokeStyle*);
-    AIEntryRef (*FromStrokeStyle)(const AIStrokeStyle*);
-    AIErr (*ToUID)(AIEntryRef, AIUIDRef*);
-    AIEntryRef (*FromUID)(AIUIDRef);
-    AIErr (*ToUIDREF)(AIEntryRef, AIUIDREFRef*);
-    AIEntryRef (*FromUIDREF)(AIUIDREFRef);
-    AIErr (*ToXMLNode)(AIEntryRef, AIXMLNodeRef*);
-    AIEntryRef (*FromXMLNode)(AIXMLNodeRef);
-    AIErr (*ToSVGFilterHandle)(AIEntryRef, AISVGFilterHandle*);
-    AIEntryRef (*FromSVGFilterHandle)(AISVGFilterHandle);
-    AIErr (*ToSymbolPattern)(AIEntryRef, AIPatternHandle*);
-    AIEntryRef (*FromSymbolPattern)(AIPatternHandle);
+    ReservedSlot ToPattern, FromPattern, ToBrushPattern, FromBrushPattern, ToGradient, FromGradient,
+        ToCustomColor, FromCustomColor, ToPluginObject, FromPluginObject, ToFillStyle,
+        FromFillStyle, ToStrokeStyle, FromStrokeStyle, ToUID, FromUID, ToUIDREF, FromUIDREF,
+        ToXMLNode, FromXMLNode, ToSVGFilterHandle, FromSVGFilterHandle, ToSymbolPattern,
+        FromSymbolPattern;
     AIErr (*AsBoolean)(AIEntryRef, AIBoolean*);
     AIErr (*AsInteger)(AIEntryRef, ai::int32*);
     AIErr (*AsReal)(AIEntryRef, AIReal*);
     AIErr (*AsString)(AIEntryRef, const char**);
-    AIErr (*AsUIDREF)(AIEntryRef, AIUIDREFRef*);
-    AIErr (*ToArtStyle)(AIEntryRef, AIArtStyleHandle*);
-    AIEntryRef (*FromArtStyle)(AIArtStyleHandle);
+    ReservedSlot AsUIDREF, ToArtStyle, FromArtStyle;
     AIErr (*ToUnicodeString)(AIEntryRef, ai::UnicodeString&);
     AIEntryRef (*FromUnicodeString)(const ai::UnicodeString&);
     AIErr (*AsUnicodeString)(AIEntryRef, ai::UnicodeString&);
     AIBoolean (*Equiv)(AIEntryRef, AIEntryRef);
 };
+
+template <>
+struct ai::SuiteId<AIEntrySuite> : ai::SuiteIdentity<kAIEntrySuite, kAIEntrySuiteVersion> {};

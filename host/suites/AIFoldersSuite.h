@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAIFoldersSuite[] = "AI Folders Suite";
@@ -10,3 +11,6 @@ struct AIFoldersSuite {
     AIErr (*GetFolderName)(AIFolderType, ai::UnicodeString&);
     ReservedSlot GetFileName;
 };
+
+template <>
+struct ai::SuiteId<AIFoldersSuite> : ai::SuiteIdentity<kAIFoldersSuite, kAIFoldersSuiteVersion> {};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAIHardSoftSuite[] = "AI Hard Soft Suite";
@@ -7,8 +8,10 @@ inline constexpr ai::int32 kAIHardSoftSuiteVersion = 4;
 
 /// Soft (page, y up) and hard (canvas, y down) coordinates.
 struct AIHardSoftSuite {
-    AIErr (*AIRealPointHarden)(AIRealPoint*, AIRealPoint*);
-    AIErr (*AIRealPointSoften)(AIRealPoint*, AIRealPoint*);
+    /// From the page, y upwards, to the canvas, y downwards.
+    AIErr (*AIRealPointHarden)(AIRealPoint* soft, AIRealPoint* hard);
+    /// Back.
+    AIErr (*AIRealPointSoften)(AIRealPoint* hard, AIRealPoint* soft);
     AIErr (*AIRealMatrixHarden)(AIRealMatrix*);
     AIErr (*AIRealMatrixSoften)(AIRealMatrix*);
     AIErr (*AIRealMatrixRealHard)(AIRealMatrix*);
@@ -16,4 +19,8 @@ struct AIHardSoftSuite {
     AIErr (*GetCoordinateSystem)(ai::int32&);
     AIErr (*SetCoordinateSystem)(ai::int32);
     AIErr (*ConvertCoordinates)(AIRealPoint&, ai::int32, ai::int32, AIBoolean);
+};
+
+template <>
+struct ai::SuiteId<AIHardSoftSuite> : ai::SuiteIdentity<kAIHardSoftSuite, kAIHardSoftSuiteVersion> {
 };

@@ -2,26 +2,33 @@
 
 #include "host/Art.h"
 #include "host/Handles.h"
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAIHitTestSuite[] = "AI Hit Test Suite";
 inline constexpr ai::int32 kAIHitTestSuiteVersion = 5;
 
 struct AIHitTestSuite {
-    AIErr (*HitTest)(AIArtHandle, const AIRealPoint*, ai::int32, AIHitRef*);
+    /// The closest match to `point` (soft); null root: all of the document. The hit may be null, or
+    /// one whose `IsHit` is 0; else it is to be released.
+    AIErr (*HitTest)(AIArtHandle root, const AIRealPoint* point, ai::int32 request, AIHitRef* hit);
     AIErr (*HitTestEx)(AIArtHandle, const AIRealPoint*, AIReal, ai::int32, AIHitRef*);
     ai::int32 (*AddRef)(AIHitRef);
-    ai::int32 (*Release)(AIHitRef);
+    /// Null is accepted.
+    ai::int32 (*Release)(AIHitRef hit);
     AIErr (*GetHitData)(AIHitRef, AIToolHitData*);
-    AIBoolean (*IsHit)(AIHitRef);
-    ai::int32 (*GetType)(AIHitRef);
-    AIArtHandle (*GetArt)(AIHitRef);
+    /// The calls below mean something only if so.
+    AIBoolean (*IsHit)(AIHitRef hit);
+    ai::int32 (*GetType)(AIHitRef hit);
+    AIArtHandle (*GetArt)(AIHitRef hit);
     AIArtHandle (*GetGroup)(AIHitRef);
-    AIRealPoint (*GetPoint)(AIHitRef);
-    ai::int16 (*GetPathSegment)(AIHitRef);
-    AIReal (*GetPathParameter)(AIHitRef);
-    AIErr (*CustomHitTest)(AIArtHandle, const AIRealPoint*, AIReal, ai::int32, AIPluginGroupHandle,
-                           void*, AIHitRef*);
-    AIErr (*GetCustomHitData)(AIHitRef, void**, AIArtHandle*);
-    AIReal (*GetSignedHitDistance)(AIHitRef);
+    AIRealPoint (*GetPoint)(AIHitRef hit);
+    /// Of a curve the anchor at its end.
+    ai::int16 (*GetPathSegment)(AIHitRef hit);
+    /// 0 to 1 along the curve, from its start.
+    AIReal (*GetPathParameter)(AIHitRef hit);
+    ReservedSlot CustomHitTest, GetCustomHitData, GetSignedHitDistance;
 };
+
+template <>
+struct ai::SuiteId<AIHitTestSuite> : ai::SuiteIdentity<kAIHitTestSuite, kAIHitTestSuiteVersion> {};

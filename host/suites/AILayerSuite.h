@@ -1,15 +1,19 @@
 #pragma once
 
 #include "host/Handles.h"
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAILayerSuite[] = "AI Layer Suite";
 inline constexpr ai::int32 kAILayerSuiteVersion = 12;
 
 struct AILayerSuite {
-    AIErr (*CountLayers)(ai::int32*);
-    AIErr (*GetNthLayer)(ai::int32, AILayerHandle*);
-    AIErr (*GetCurrentLayer)(AILayerHandle*);
+    /// Of top-level layers.
+    AIErr (*CountLayers)(ai::int32* count);
+    /// Of top-level layers; 0 is on top.
+    AIErr (*GetNthLayer)(ai::int32 index, AILayerHandle* layer);
+    /// May be a sublayer.
+    AIErr (*GetCurrentLayer)(AILayerHandle* layer);
     AIErr (*SetCurrentLayer)(AILayerHandle);
     AIErr (*GetFirstLayer)(AILayerHandle*);
     AIErr (*GetNextLayer)(AILayerHandle, AILayerHandle*);
@@ -19,18 +23,19 @@ struct AILayerSuite {
     AIErr (*SetLayerTitle)(AILayerHandle, const ai::UnicodeString&);
     AIErr (*GetLayerColor)(AILayerHandle, AIRGBColor*);
     AIErr (*SetLayerColor)(AILayerHandle, AIRGBColor);
-    AIErr (*GetLayerVisible)(AILayerHandle, AIBoolean*);
+    /// The layer's own: a hidden parent hides it as well.
+    AIErr (*GetLayerVisible)(AILayerHandle layer, AIBoolean* visible);
     AIErr (*SetLayerVisible)(AILayerHandle, AIBoolean);
     AIErr (*GetLayerPreview)(AILayerHandle, AIBoolean*);
     AIErr (*SetLayerPreview)(AILayerHandle, AIBoolean);
-    AIErr (*GetLayerEditable)(AILayerHandle, AIBoolean*);
+    /// The layer's own: a locked parent locks it as well.
+    AIErr (*GetLayerEditable)(AILayerHandle layer, AIBoolean* editable);
     AIErr (*SetLayerEditable)(AILayerHandle, AIBoolean);
     AIErr (*GetLayerPrinted)(AILayerHandle, AIBoolean*);
     AIErr (*SetLayerPrinted)(AILayerHandle, AIBoolean);
     AIErr (*GetLayerDimPlacedImages)(AILayerHandle, AIBoolean*);
     AIErr (*SetLayerDimPlacedImages)(AILayerHandle, AIBoolean);
-    AIErr (*GetLayerSelected)(AILayerHandle, AIBoolean*);
-    AIErr (*SetLayerSelected)(AILayerHandle, AIBoolean);
+    ReservedSlot GetLayerSelected, SetLayerSelected;
     AIErr (*GetLayerByTitle)(AILayerHandle*, const ai::UnicodeString&);
     AIErr (*LayerHasArt)(AILayerHandle, AIBoolean*);
     AIErr (*LayerHasSelectedArt)(AILayerHandle, AIBoolean*);
@@ -42,9 +47,13 @@ struct AILayerSuite {
     AIErr (*GetLayerDimmedPercent)(AILayerHandle, ai::int32*);
     AIErr (*SetLayerDimmedPercent)(AILayerHandle, ai::int32);
     AIErr (*GetLayerFirstChild)(AILayerHandle, AILayerHandle*);
-    AIErr (*GetLayerParent)(AILayerHandle, AILayerHandle*);
+    /// Null for a top-level layer.
+    AIErr (*GetLayerParent)(AILayerHandle layer, AILayerHandle* parent);
     AIErr (*InsertLayerAtArt)(AIArtHandle, AIPaintOrder, AILayerHandle*);
     AIErr (*ChangeLayerToGroup)(AILayerHandle, AIArtHandle);
     AIErr (*GetNextPreorderLayer)(AILayerHandle, AILayerHandle*);
     AIErr (*GetNextNonChildPreorderLayer)(AILayerHandle, AILayerHandle*);
 };
+
+template <>
+struct ai::SuiteId<AILayerSuite> : ai::SuiteIdentity<kAILayerSuite, kAILayerSuiteVersion> {};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/Handles.h"
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 #include <array>
@@ -12,6 +13,12 @@ inline constexpr std::array<ai::int32, 1> kAIModalParentSuiteFallbacks{2};
 
 /// The window that owns what the host shows above a modal window of the plug-in's.
 struct AIModalParentSuite {
-    AIErr (*SetParent)(const AIWindowRef&);
+    /// The host shows its own boxes above `window` until `RemoveParent`.
+    AIErr (*SetParent)(const AIPlatformWindow& window);
     AIErr (*RemoveParent)();
 };
+
+template <>
+struct ai::SuiteId<AIModalParentSuite>
+    : ai::SuiteIdentity<kAIModalParentSuite, kAIModalParentSuiteVersion,
+                        kAIModalParentSuiteFallbacks> {};

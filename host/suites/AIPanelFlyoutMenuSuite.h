@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/Handles.h"
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 #include <array>
@@ -21,20 +22,24 @@ enum class AIPanelFlyoutMenuItemMark : ai::int32 {
 /// Items have an id of their own, never 0, separators too. Where nothing else is said, the number
 /// after the menu is the item's index, from 0.
 struct AIPanelFlyoutMenuSuite {
-    AIErr (*Create)(AIPanelFlyoutMenuRef&);
-    AIErr (*Destroy)(AIPanelFlyoutMenuRef);
-    AIErr (*Size)(AIPanelFlyoutMenuRef, ai::uint32&);
-    AIErr (*AppendItem)(AIPanelFlyoutMenuRef, ai::uint32 id, const ai::UnicodeString&);
-    AIErr (*AppendSeparator)(AIPanelFlyoutMenuRef, ai::uint32 id);
+    /// To be given back with `Destroy`.
+    AIErr (*Create)(AIPanelFlyoutMenuRef& menu);
+    AIErr (*Destroy)(AIPanelFlyoutMenuRef menu);
+    AIErr (*Size)(AIPanelFlyoutMenuRef menu, ai::uint32& count);
+    /// Ids are unique and not 0.
+    AIErr (*AppendItem)(AIPanelFlyoutMenuRef menu, ai::uint32 id, const ai::UnicodeString& text);
+    /// Separators have ids, too.
+    AIErr (*AppendSeparator)(AIPanelFlyoutMenuRef menu, ai::uint32 id);
     AIErr (*InsertItem)(AIPanelFlyoutMenuRef, ai::uint32 beforeId, ai::uint32 id,
                         const ai::UnicodeString&);
     AIErr (*InsertSeparator)(AIPanelFlyoutMenuRef, ai::uint32 beforeId, ai::uint32 id);
-    AIErr (*RemoveItem)(AIPanelFlyoutMenuRef, ai::uint32);
-    AIErr (*SetItemEnabled)(AIPanelFlyoutMenuRef, ai::uint32, AIBoolean);
+    AIErr (*RemoveItem)(AIPanelFlyoutMenuRef menu, ai::uint32 id);
+    AIErr (*SetItemEnabled)(AIPanelFlyoutMenuRef menu, ai::uint32 id, AIBoolean enabled);
     AIErr (*GetItemEnabled)(AIPanelFlyoutMenuRef, ai::uint32, AIBoolean&);
-    AIErr (*SetItemMark)(AIPanelFlyoutMenuRef, ai::uint32, AIPanelFlyoutMenuItemMark);
+    /// 0 none, 1 check, 2 bullet, 3 dash.
+    AIErr (*SetItemMark)(AIPanelFlyoutMenuRef menu, ai::uint32 id, AIPanelFlyoutMenuItemMark mark);
     AIErr (*GetItemMark)(AIPanelFlyoutMenuRef, ai::uint32, AIPanelFlyoutMenuItemMark&);
-    AIErr (*SetItemText)(AIPanelFlyoutMenuRef, ai::uint32, const ai::UnicodeString&);
+    AIErr (*SetItemText)(AIPanelFlyoutMenuRef menu, ai::uint32 id, const ai::UnicodeString& text);
     AIErr (*GetItemText)(AIPanelFlyoutMenuRef, ai::uint32, ai::UnicodeString&);
     AIErr (*IsItemSeparator)(AIPanelFlyoutMenuRef, ai::uint32, AIBoolean&);
     AIErr (*SetItemSubMenu)(AIPanelFlyoutMenuRef, ai::uint32, AIPanelFlyoutMenuRef);
@@ -43,3 +48,8 @@ struct AIPanelFlyoutMenuSuite {
     AIErr (*SetItemID)(AIPanelFlyoutMenuRef, ai::uint32, ai::uint32 id);
     AIErr (*GetItemID)(AIPanelFlyoutMenuRef, ai::uint32, ai::uint32& id);
 };
+
+template <>
+struct ai::SuiteId<AIPanelFlyoutMenuSuite>
+    : ai::SuiteIdentity<kAIPanelFlyoutMenuSuite, kAIPanelFlyoutMenuSuiteVersion,
+                        kAIPanelFlyoutMenuSuiteFallbacks> {};

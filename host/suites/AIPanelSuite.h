@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/Handles.h"
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAIPanelSuite[] = "AI Panel Suite";
@@ -24,46 +25,62 @@ using AIPanelClosedNotifyProc = void (*)(AIPanelRef);
 
 /// Sizes are those of the client area in pixels, unscaled. States count from 1.
 struct AIPanelSuite {
-    /// Id, title, number of states, least size, resizable, flyout menu or null.
-    AIErr (*Create)(SPPluginRef, const ai::UnicodeString&, const ai::UnicodeString&, ai::int16,
-                    const AISize&, AIBoolean, AIPanelFlyoutMenuRef, AIPanelUserData, AIPanelRef&);
-    AIErr (*Destroy)(AIPanelRef);
-    AIErr (*GetPlatformWindow)(AIPanelRef, AIPanelPlatformWindow&);
-    AIErr (*Show)(AIPanelRef, AIBoolean);
-    AIErr (*IsShown)(AIPanelRef, AIBoolean&);
-    AIErr (*GetUserData)(AIPanelRef, AIPanelUserData&);
-    AIErr (*SetUserData)(AIPanelRef, AIPanelUserData);
-    AIErr (*SetTitle)(AIPanelRef, const ai::UnicodeString&);
+    /// Hidden until the host or `Show` shows it. The host keeps place and docking by `id`; `flyout`
+    /// may be null. To be given back with `Destroy` when the application shuts down.
+    AIErr (*Create)(SPPluginRef self, const ai::UnicodeString& id, const ai::UnicodeString& title,
+                    ai::int16 stateCount, const AISize& minimum, AIBoolean resizable,
+                    AIPanelFlyoutMenuRef flyout, AIPanelUserData userData, AIPanelRef& panel);
+    AIErr (*Destroy)(AIPanelRef panel);
+    /// The area for our own child window; may be another one after docking.
+    AIErr (*GetPlatformWindow)(AIPanelRef panel, AIPanelPlatformWindow& window);
+    /// Acts on all panels of its tab group.
+    AIErr (*Show)(AIPanelRef panel, AIBoolean shown);
+    /// False behind another panel's tab.
+    AIErr (*IsShown)(AIPanelRef panel, AIBoolean& shown);
+    AIErr (*GetUserData)(AIPanelRef panel, AIPanelUserData& data);
+    AIErr (*SetUserData)(AIPanelRef panel, AIPanelUserData data);
+    AIErr (*SetTitle)(AIPanelRef panel, const ai::UnicodeString& title);
     AIErr (*GetTitle)(AIPanelRef, ai::UnicodeString&);
     ReservedSlot SetIcon; // their arguments differ between builds of the host
     ReservedSlot SetIconResourceID;
-    AIErr (*GetSize)(AIPanelRef, AISize&);
+    /// Of the inner area, in pixels, as all sizes here.
+    AIErr (*GetSize)(AIPanelRef panel, AISize& size);
     AIErr (*SetMinimumSize)(AIPanelRef, const AISize&);
     AIErr (*GetMinimumSize)(AIPanelRef, AISize&);
     AIErr (*SetMaximumSize)(AIPanelRef, const AISize&);
     AIErr (*GetMaximumSize)(AIPanelRef, AISize&);
-    AIErr (*SetPreferredSizes)(AIPanelRef, const AISize&);
+    AIErr (*SetPreferredSizes)(AIPanelRef panel, const AISize& size);
     /// Least, floating, docked, greatest.
     AIErr (*SetSizes)(AIPanelRef, const AISize&, const AISize&, const AISize&, const AISize&);
     /// All four of a panel that cannot be resized, the preferred ones of another.
-    AIErr (*SetSize)(AIPanelRef, const AISize&);
+    AIErr (*SetSize)(AIPanelRef panel, const AISize& size);
     AIErr (*GetPreferredConstrainedSize)(AIPanelRef, AISize&);
     AIErr (*GetPreferredUnconstrainedSize)(AIPanelRef, AISize&);
-    AIErr (*SetCurrentState)(AIPanelRef, ai::int16);
-    AIErr (*GetCurrentState)(AIPanelRef, ai::int16&);
+    AIErr (*SetCurrentState)(AIPanelRef panel, ai::int16 state);
+    /// From 1.
+    AIErr (*GetCurrentState)(AIPanelRef panel, ai::int16& state);
     AIErr (*SetStateCount)(AIPanelRef, ai::int16);
     AIErr (*GetStateCount)(AIPanelRef, ai::int16&);
     AIErr (*SetVerticalStepSize)(AIPanelRef, AIReal);
     AIErr (*GetVerticalStepSize)(AIPanelRef, AIReal&);
-    AIErr (*SetFlyoutMenu)(AIPanelRef, AIPanelFlyoutMenuRef);
+    AIErr (*SetFlyoutMenu)(AIPanelRef panel, AIPanelFlyoutMenuRef menu);
     AIErr (*GetFlyoutMenu)(AIPanelRef, AIPanelFlyoutMenuRef&);
     AIErr (*IsMinimized)(AIPanelRef, AIBoolean&);
     AIErr (*ChangeIsMinimized)(AIPanelRef, AIBoolean);
-    AIErr (*Move)(AIPanelRef, AIPoint);
-    AIErr (*SetFlyoutMenuPreVisibilityProc)(AIPanelRef, AIPanelFlyoutMenuPreVisibilityProc);
-    AIErr (*SetFlyoutMenuProc)(AIPanelRef, AIPanelFlyoutMenuProc);
-    AIErr (*SetVisibilityChangedNotifyProc)(AIPanelRef, AIPanelVisibilityChangedNotifyProc);
-    AIErr (*SetSizeChangedNotifyProc)(AIPanelRef, AIPanelSizeChangedNotifyProc);
-    AIErr (*SetStateChangedNotifyProc)(AIPanelRef, AIPanelStateChangedNotifyProc);
-    AIErr (*SetClosedNotifyProc)(AIPanelRef, AIPanelClosedNotifyProc);
+    /// In screen coordinates; does nothing to a docked panel.
+    AIErr (*Move)(AIPanelRef panel, AIPoint place);
+    /// Called outside messages, as all of these, before the menu shows.
+    AIErr (*SetFlyoutMenuPreVisibilityProc)(AIPanelRef panel,
+                                            AIPanelFlyoutMenuPreVisibilityProc proc);
+    /// Called with the id that was chosen, or 0, after the menu has closed.
+    AIErr (*SetFlyoutMenuProc)(AIPanelRef panel, AIPanelFlyoutMenuProc proc);
+    AIErr (*SetVisibilityChangedNotifyProc)(AIPanelRef panel,
+                                            AIPanelVisibilityChangedNotifyProc proc);
+    AIErr (*SetSizeChangedNotifyProc)(AIPanelRef panel, AIPanelSizeChangedNotifyProc proc);
+    AIErr (*SetStateChangedNotifyProc)(AIPanelRef panel, AIPanelStateChangedNotifyProc proc);
+    /// By the panel's close button only.
+    AIErr (*SetClosedNotifyProc)(AIPanelRef panel, AIPanelClosedNotifyProc proc);
 };
+
+template <>
+struct ai::SuiteId<AIPanelSuite> : ai::SuiteIdentity<kAIPanelSuite, kAIPanelSuiteVersion> {};

@@ -2,6 +2,7 @@
 
 #include "host/Handles.h"
 #include "host/PathStyle.h"
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAIPathStyleSuite[] = "AI Path Style Suite";
@@ -10,30 +11,17 @@ inline constexpr ai::int32 kAIPathStyleSuiteVersion = 12;
 struct AIPathStyleSuite {
     AIErr (*GetPathStyle)(AIArtHandle, AIPathStyle*);
     AIErr (*SetPathStyle)(AIArtHandle, const AIPathStyle*);
-    AIErr (*GetCurrentPathStyle)(AIPathStyle*, AIPathStyleMap*, AIDictionaryRef*);
-    AIErr (*SetCurrentPathStyle)(AIPathStyle*, AIPathStyleMap*, ConstAIDictionaryRef);
-    AIErr (*ImportStyles)(const ai::FilePath&, AIDocumentHandle*);
-    AIErr (*ImportStylesMixedColorSpace)(const ai::FilePath&, AIDocumentHandle*);
-    AIErr (*SetObjectAIColor)(AIArtHandle, const AIColor*, AIBoolean);
-    ReservedSlot PathStyleUsesAIColor;
-    ReservedSlot ApplyAIColorToPathStyle;
-    ReservedSlot ObjectUsesAIColor;
-    AIErr (*ReplaceObjectAIColor)(AIArtHandle, const AIColor*, const AIColor*, AIBoolean,
-                                  AIBoolean*);
+    ReservedSlot GetCurrentPathStyle, SetCurrentPathStyle, ImportStyles,
+        ImportStylesMixedColorSpace, SetObjectAIColor, PathStyleUsesAIColor,
+        ApplyAIColorToPathStyle, ObjectUsesAIColor, ReplaceObjectAIColor;
     AIErr (*GetInitialPathStyle)(AIPathStyle*);
     AIErr (*SetInitialPathStyle)(const AIPathStyle*);
-    AIErr (*GetInitialTextStyle)(AIPathStyle*);
-    AIErr (*SetInitialTextStyle)(const AIPathStyle*);
-    AIErr (*RetargetForCurrentDoc)(AIColor*);
-    AIErr (*SetCurrentPathStyleForceSimple)(AIPathStyle*, AIPathStyleMap*);
-    AIErr (*SetPathStyleForceSimple)(AIArtHandle, const AIPathStyle*);
-    AIErr (*InterpolatePathStyle)(const AIPathStyle*, const AIPathStyle*, AIPathStyle*, AIReal);
-    AIErr (*InterpolateAIColor)(const AIColor*, const AIColor*, AIColor*, AIReal);
-    AIErr (*SetSyncInitialPathStyle)(AIBoolean);
-    AIBoolean (*GetSyncInitialPathStyle)();
-    ReservedSlot AdjustObjectAIColors;
-    AIErr (*GetPathStyleEx)(AIArtHandle, AIPathStyle*, AIBoolean*, AIBoolean*);
-    AIErr (*SetPathStyleEx)(AIArtHandle, const AIPathStyle*, AIBoolean, AIBoolean);
-    AIErr (*GetCurrentPathStyleEx)(AIPathStyle*, AIPathStyleMap*, AIBoolean*, AIBoolean*);
-    AIErr (*SetCurrentPathStyleEx)(AIPathStyle*, AIPathStyleMap*, AIBoolean, AIBoolean);
+    ReservedSlot GetInitialTextStyle, SetInitialTextStyle, RetargetForCurrentDoc,
+        SetCurrentPathStyleForceSimple, SetPathStyleForceSimple, InterpolatePathStyle,
+        InterpolateAIColor, SetSyncInitialPathStyle, GetSyncInitialPathStyle, AdjustObjectAIColors,
+        GetPathStyleEx, SetPathStyleEx, GetCurrentPathStyleEx, SetCurrentPathStyleEx;
 };
+
+template <>
+struct ai::SuiteId<AIPathStyleSuite>
+    : ai::SuiteIdentity<kAIPathStyleSuite, kAIPathStyleSuiteVersion> {};

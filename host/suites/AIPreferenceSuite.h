@@ -1,20 +1,25 @@
 #pragma once
 
 #include "host/Handles.h"
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAIPreferenceSuite[] = "AI Preference Suite";
 inline constexpr ai::int32 kAIPreferenceSuiteVersion = 5;
 
 struct AIPreferenceSuite {
-    AIErr (*GetBooleanPreference)(const char*, const char*, AIBoolean*);
-    AIErr (*PutBooleanPreference)(const char*, const char*, AIBoolean);
-    AIErr (*GetIntegerPreference)(const char*, const char*, ai::int32*);
-    AIErr (*PutIntegerPreference)(const char*, const char*, ai::int32);
-    AIErr (*GetRealPreference)(const char*, const char*, double*);
-    AIErr (*PutRealPreference)(const char*, const char*, double);
-    AIErr (*GetStringPreference)(const char*, const char*, char*);
-    AIErr (*PutStringPreference)(const char*, const char*, const char*);
+    /// Leaves `value` alone when there is none. A null prefix means the application's own.
+    AIErr (*GetBooleanPreference)(const char* prefix, const char* suffix, AIBoolean* value);
+    AIErr (*PutBooleanPreference)(const char* prefix, const char* suffix, AIBoolean value);
+    /// As `GetBooleanPreference`, like all getters.
+    AIErr (*GetIntegerPreference)(const char* prefix, const char* suffix, ai::int32* value);
+    AIErr (*PutIntegerPreference)(const char* prefix, const char* suffix, ai::int32 value);
+    /// 64 bits in every generation.
+    AIErr (*GetRealPreference)(const char* prefix, const char* suffix, double* value);
+    AIErr (*PutRealPreference)(const char* prefix, const char* suffix, double value);
+    /// `value` is a buffer of 1024 characters at least.
+    AIErr (*GetStringPreference)(const char* prefix, const char* suffix, char* value);
+    AIErr (*PutStringPreference)(const char* prefix, const char* suffix, const char* value);
     AIErr (*GetUnicodeStringPreference)(const char*, const char*, ai::UnicodeString&);
     AIErr (*PutUnicodeStringPreference)(const char*, const char*, const ai::UnicodeString&);
     AIErr (*GetBlockPreference)(const char*, const char*, void*, ai::int32);
@@ -23,10 +28,8 @@ struct AIPreferenceSuite {
     AIErr (*PutFixedPreference)(const char*, const char*, AIFixed);
     AIErr (*GetFractPreference)(const char*, const char*, AIFract*);
     AIErr (*PutFractPreference)(const char*, const char*, AIFract);
-    AIErr (*GetPascalPreference)(const char*, const char*, ai::uint8*);
-    AIErr (*PutPascalPreference)(const char*, const char*, const ai::uint8*);
-    ReservedSlot GetDateTimePreference;
-    ReservedSlot PutDateTimePreference;
+    ReservedSlot GetPascalPreference, PutPascalPreference, GetDateTimePreference,
+        PutDateTimePreference;
     AIErr (*GetPointPreference)(const char*, const char*, AIPoint*);
     AIErr (*PutPointPreference)(const char*, const char*, AIPoint*);
     AIErr (*GetRectPreference)(const char*, const char*, AIRect*);
@@ -34,9 +37,11 @@ struct AIPreferenceSuite {
     AIErr (*GetFilePathSpecificationPreference)(const char*, const char*, ai::FilePath&);
     AIErr (*PutFilePathSpecificationPreference)(const char*, const char*, const ai::FilePath&);
     AIErr (*RemovePreference)(const char*, const char*);
-    ReservedSlot AddPreferencePanel;
-    ReservedSlot GetPreferencePanelBaseItemIndex;
-    ReservedSlot ShowPreferencePanel;
+    ReservedSlot AddPreferencePanel, GetPreferencePanelBaseItemIndex, ShowPreferencePanel;
     AIErr (*GetLargeIntegerPreference)(const char*, const char*, ai::int64*);
     AIErr (*PutLargeIntegerPreference)(const char*, const char*, ai::int64);
 };
+
+template <>
+struct ai::SuiteId<AIPreferenceSuite>
+    : ai::SuiteIdentity<kAIPreferenceSuite, kAIPreferenceSuiteVersion> {};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAIRealBezierSuite[] = "AI Real Bezier Suite";
@@ -13,9 +14,13 @@ struct AIRealBezierSuite {
     void (*Tangent)(AIRealBezier*, AIReal, AIRealPoint*);
     void (*Normal)(AIRealBezier*, AIReal, AIRealPoint*);
     void (*Divide)(AIRealBezier*, AIReal, AIRealBezier*, AIRealBezier*);
-    AIBoolean (*IntersectsRect)(AIRealBezier*, AIRealRect*, AIReal);
+    ReservedSlot IntersectsRect;
     AIReal (*Length)(AIRealBezier*, AIReal);
     void (*PointAndTangent)(AIRealBezier*, AIReal, AIRealPoint*, AIRealPoint*);
-    ai::uint16 (*AdjustThroughPoint)(AIRealBezier*, AIRealPoint*, AIReal);
+    ReservedSlot AdjustThroughPoint;
     AIErr (*TAtLength)(AIRealBezier*, AIReal, AIReal, AIReal, AIReal*);
 };
+
+template <>
+struct ai::SuiteId<AIRealBezierSuite>
+    : ai::SuiteIdentity<kAIRealBezierSuite, kAIRealBezierSuiteVersion> {};

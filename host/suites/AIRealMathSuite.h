@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAIRealMathSuite[] = "AI Real Math Suite";
@@ -58,18 +59,17 @@ struct AIRealMathSuite {
     void (*AIRealMatrixConcat)(const AIRealMatrix*, const AIRealMatrix*, AIRealMatrix*);
     ai::int16 (*AIRealMatrixInvert)(AIRealMatrix*);
     void (*AIRealMatrixXformPoint)(const AIRealMatrix*, const AIRealPoint*, AIRealPoint*);
-    AIFixed (*AIRealToAIFixed)(AIReal);
-    AIReal (*AIFixedToAIReal)(AIFixed);
-    void (*AIRealPointToAIFixedPoint)(const AIRealPoint*, AIFixedPoint*);
-    void (*AIFixedPointToAIRealPoint)(const AIFixedPoint*, AIRealPoint*);
-    void (*AIRealRectToAIFixedRect)(const AIRealRect*, AIFixedRect*);
-    void (*AIFixedRectToAIRealRect)(const AIFixedRect*, AIRealRect*);
-    void (*AIRealMatrixToAIFixedMatrix)(const AIRealMatrix*, AIFixedMatrix*);
-    void (*AIFixedMatrixToAIRealMatrix)(const AIFixedMatrix*, AIRealMatrix*);
+    ReservedSlot AIRealToAIFixed, AIFixedToAIReal, AIRealPointToAIFixedPoint,
+        AIFixedPointToAIRealPoint, AIRealRectToAIFixedRect, AIFixedRectToAIRealRect,
+        AIRealMatrixToAIFixedMatrix, AIFixedMatrixToAIRealMatrix;
     AIBoolean (*AlmostEqual)(AIReal, AIReal, AIReal);
     AIBoolean (*EqualWithinTol)(AIReal, AIReal, AIReal);
     void (*AIRealMatrixGetTranslate)(const AIRealMatrix*, AIReal*, AIReal*);
     void (*AIRealMatrixGetScale)(const AIRealMatrix*, AIReal*, AIReal*);
     void (*AIRealMatrixGetRotate)(const AIRealMatrix*, AIReal*);
     void (*AIDoubleRectUnion)(const AIDoubleRect*, const AIDoubleRect*, AIDoubleRect*);
+};
+
+template <>
+struct ai::SuiteId<AIRealMathSuite> : ai::SuiteIdentity<kAIRealMathSuite, kAIRealMathSuiteVersion> {
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 // A macro of the Windows headers has this name.
@@ -11,14 +12,8 @@ inline constexpr ai::int32 kAIRuntimeSuiteVersion = 11;
 struct AIRuntimeSuite {
     ReservedSlot GetAppName;
     AIErr (*GetAppFileSpecification)(ai::FilePath&);
-    ReservedSlot GetUserName;
-    ReservedSlot GetUserOrganization;
-    ReservedSlot GetUserSerialNumber;
-    ReservedSlot GetAppNameSpace;
-    ReservedSlot GetAppStringPool;
-    std::size_t (*GetAppFreeMem)();
-    AIErr (*ShowAppAboutBox)();
-    ai::int32 (*GetSystemVersion)();
+    ReservedSlot GetUserName, GetUserOrganization, GetUserSerialNumber, GetAppNameSpace,
+        GetAppStringPool, GetAppFreeMem, ShowAppAboutBox, GetSystemVersion;
     AIBoolean (*GetIsSystemMacOSX)();
     ai::int32 (*GetAppMajorVersion)();
     ai::int32 (*GetAppMinorVersion)();
@@ -26,11 +21,10 @@ struct AIRuntimeSuite {
     AIErr (*GetAppNameUS)(ai::UnicodeString&);
     AIErr (*GetUserNameUS)(ai::UnicodeString&);
     AIErr (*GetUserOrganizationUS)(ai::UnicodeString&);
-    ReservedSlot GetDefaultScript;
-    AIBoolean (*GetIsHonestyBuild)();
+    ReservedSlot GetDefaultScript, GetIsHonestyBuild;
     AIBoolean (*GetIsProductTryAndDie)();
-    AIBoolean (*GetIsExeBuild)();
-    AIErr (*ShowAdobeHelp)(const char*);
-    ai::int32 (*GetAppBuildNumber)(AIBoolean*);
-    ai::int32 (*GetUserAdobeID)(const char**, const char**);
+    ReservedSlot GetIsExeBuild, ShowAdobeHelp, GetAppBuildNumber, GetUserAdobeID;
 };
+
+template <>
+struct ai::SuiteId<AIRuntimeSuite> : ai::SuiteIdentity<kAIRuntimeSuite, kAIRuntimeSuiteVersion> {};

@@ -1,17 +1,21 @@
 #pragma once
 
 #include "host/Handles.h"
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAIToolboxSuite[] = "AI Toolbox Suite";
 inline constexpr ai::int32 kAIToolboxSuiteVersion = 5;
 
 struct AIToolboxSuite {
-    AIErr (*AddToolbox)(SPPluginRef, const char*, AIToolboxHandle*);
+    ReservedSlot AddToolbox;
     AIErr (*SetTool)(AIToolboxHandle, AIToolType);
-    AIErr (*AlternateAction)(AIToolboxHandle, AIToolType);
-    AIErr (*CycleTool)(AIToolboxHandle, AIToolType);
+    ReservedSlot AlternateAction, CycleTool;
     AIErr (*CountToolboxes)(ai::int32*);
-    AIErr (*GetNthToolbox)(ai::int32, AIToolboxHandle*);
-    AIErr (*GetCurrentToolType)(AIToolType*);
+    ReservedSlot GetNthToolbox;
+    /// The number of the tool in hand, the host's own included.
+    AIErr (*GetCurrentToolType)(AIToolType* type);
 };
+
+template <>
+struct ai::SuiteId<AIToolboxSuite> : ai::SuiteIdentity<kAIToolboxSuite, kAIToolboxSuiteVersion> {};

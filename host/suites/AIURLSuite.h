@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAIURLSuite[] = "AI URL Suite";
@@ -9,3 +10,5 @@ struct AIURLSuite {
     AIBoolean (*IsBrowserAvailable)();
     AIBoolean (*OpenURL)(const char*);
 };
+
+template <> struct ai::SuiteId<AIURLSuite> : ai::SuiteIdentity<kAIURLSuite, kAIURLSuiteVersion> {};

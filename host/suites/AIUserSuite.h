@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/Handles.h"
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 inline constexpr char kAIUserSuite[] = "AI User Suite";
@@ -13,51 +14,41 @@ struct AIUserSuite {
     void (*CloseProgress)();
     void (*AIRealToString)(AIReal, ai::int16, ai::UnicodeString&);
     void (*StringToAIReal)(const ai::UnicodeString&, AIReal*);
-    void (*IUAIRealToString)(AIReal, ai::int16, ai::UnicodeString&);
+    /// With the separator of the user's locale.
+    void (*IUAIRealToString)(AIReal value, ai::int16 decimals, ai::UnicodeString& text);
     void (*IUStringToAIReal)(const ai::UnicodeString&, AIReal*);
     AIErr (*IUAIRealToStringUnits)(AIReal, ai::int32, ai::UnicodeString&);
     void (*IUStringUnitsToAIReal)(const ai::UnicodeString&, AIReal*);
     AIErr (*GetUnitsString)(ai::int16, ai::UnicodeString&);
-    AIErr (*GetGlobalObjectDisplayName)(ai::UnicodeString&);
-    AIErr (*EditInOriginalApp)(AIArtHandle);
+    ReservedSlot GetGlobalObjectDisplayName, EditInOriginalApp;
     AIErr (*AppIdle)();
-    AIErr (*BuildDirectoryMenu)(AIPlatformMenuHandle, const ai::FilePath&);
-    AIErr (*GetIndexedDirectorySpec)(ai::FilePath&, ai::int32);
-    AIErr (*RevealTheFile)(const ai::FilePath&);
-    void (*DisableProgressCancel)();
+    ReservedSlot BuildDirectoryMenu, GetIndexedDirectorySpec, RevealTheFile, DisableProgressCancel;
     AIBoolean (*OKToAllocateMemory)();
-    AIErr (*GetDateAndTime)(AIUserDateTime*);
-    AIErr (*GetDateString)(const AIUserDateTime*, ai::int32, ai::UnicodeString&);
-    AIErr (*GetTimeString)(const AIUserDateTime*, ai::int32, ai::UnicodeString&);
-    AIErr (*GetYear)(const AIUserDateTime*, ai::int32*);
-    AIErr (*GetMonth)(const AIUserDateTime*, ai::int32*);
-    AIErr (*GetDay)(const AIUserDateTime*, ai::int32*);
-    AIErr (*GetHour)(const AIUserDateTime*, ai::int32*);
-    AIErr (*GetMinute)(const AIUserDateTime*, ai::int32*);
-    AIErr (*GetSecond)(const AIUserDateTime*, ai::int32*);
-    AIErr (*GetDayOfWeek)(const AIUserDateTime*, ai::int32*);
-    AIErr (*LaunchApp)(const ai::FilePath&, AIBoolean);
-    ReservedSlot NextName;
-    ReservedSlot CopyOfName;
+    AIErr (*GetDateAndTime)(AIUserDateTime* clock);
+    ReservedSlot GetDateString, GetTimeString, GetYear, GetMonth, GetDay, GetHour, GetMinute,
+        GetSecond, GetDayOfWeek;
+    /// Declared for applications; `openDocument` hands them the current document as well.
+    AIErr (*LaunchApp)(const ai::FilePath& file, AIBoolean openDocument);
+    ReservedSlot NextName, CopyOfName;
     AIErr (*SameName)(const ai::UnicodeString&, const ai::UnicodeString&, AIBoolean&);
-    ReservedSlot PushCustomProgress;
-    AIErr (*PopCustomProgress)();
-    ReservedSlot PutFileDialog;
-    ReservedSlot GetFileDialog;
-    AIErr (*GetDirectoryDialog)(const ai::UnicodeString&, ai::FilePath&);
+    ReservedSlot PushCustomProgress, PopCustomProgress, PutFileDialog, GetFileDialog,
+        GetDirectoryDialog;
     AIBoolean (*OKCancelAlert)(const ai::UnicodeString&, AIBoolean, const char*);
-    void (*WarningAlert)(const ai::UnicodeString&, const char*);
+    /// A box with one button; `dontShowKey` may be null.
+    void (*WarningAlert)(const ai::UnicodeString& text, const char* dontShowKey);
     void (*MessageAlertEx)(const ai::UnicodeString&, const char*);
     AIAnswer (*QuestionAlert)(const ai::UnicodeString&);
     AIAnswer (*YesNoAlert)(const ai::UnicodeString&);
     void (*ErrorAlert)(const ai::UnicodeString&);
     void (*MessageAlert)(const ai::UnicodeString&);
-    AIBoolean (*ChooseFromOSColorPicker)(const AIPoint&, const AIRGBColor&, AIRGBColor*);
-    ReservedSlot EvaluateExpression;
-    ReservedSlot GetInputFromUser;
-    AIErr (*CreateCursorResourceMgr)(SPPluginRef, AIResourceManagerHandle*);
-    AIErr (*SetCursor)(ai::int32, AIResourceManagerHandle);
-    AIErr (*DisposeCursorResourceMgr)(AIResourceManagerHandle);
+    ReservedSlot ChooseFromOSColorPicker, EvaluateExpression, GetInputFromUser;
+    /// To be given back with `DisposeCursorResourceMgr`.
+    AIErr (*CreateCursorResourceMgr)(SPPluginRef self, AIResourceManagerHandle* manager);
+    AIErr (*SetCursor)(ai::int32 id, AIResourceManagerHandle manager);
+    AIErr (*DisposeCursorResourceMgr)(AIResourceManagerHandle manager);
     AIErr (*GetAILanguageCode)(ai::UnicodeString&);
     AIReal (*GetMaximumScaleFactorOnSystem)();
 };
+
+template <>
+struct ai::SuiteId<AIUserSuite> : ai::SuiteIdentity<kAIUserSuite, kAIUserSuiteVersion> {};

@@ -2,6 +2,7 @@
 
 #include "host/Handles.h"
 #include "host/Messages.h"
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 // A macro of the Windows headers has this name.
@@ -14,5 +15,9 @@ struct SPInterfaceSuite {
     SPErr (*SendMessage)(SPPluginRef, const char*, const char*, void*, SPErr*);
     SPErr (*SetupMessageData)(SPPluginRef, SPMessageData*);
     SPErr (*EmptyMessageData)(SPPluginRef, SPMessageData*);
-    SPErr (*StartupExport)(SPPluginListRef, const char*, ai::int32, ai::int32*);
+    ReservedSlot StartupExport;
 };
+
+template <>
+struct ai::SuiteId<SPInterfaceSuite>
+    : ai::SuiteIdentity<kSPInterfaceSuite, kSPInterfaceSuiteVersion> {};

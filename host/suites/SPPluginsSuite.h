@@ -2,6 +2,7 @@
 
 #include "host/Handles.h"
 #include "host/Messages.h"
+#include "host/SuiteId.h"
 #include "host/Types.h"
 
 #include <array>
@@ -12,16 +13,10 @@ inline constexpr ai::int32 kSPPluginsSuiteVersion = 4;
 inline constexpr std::array<ai::int32, 2> kSPPluginsSuiteFallbacks{6, 5};
 
 struct SPPluginsSuite {
-    SPErr (*AllocatePluginList)(SPStringPoolRef, SPPluginListRef*);
-    SPErr (*FreePluginList)(SPPluginListRef);
-    ReservedSlot AddPlugin;
-    SPErr (*NewPluginListIterator)(SPPluginListRef, SPPluginListIteratorRef*);
-    SPErr (*NextPlugin)(SPPluginListIteratorRef, SPPluginRef*);
-    SPErr (*DeletePluginListIterator)(SPPluginListIteratorRef);
-    SPErr (*GetPluginListNeededSuiteAvailable)(SPPluginListRef, SPBoolean*);
+    ReservedSlot AllocatePluginList, FreePluginList, AddPlugin, NewPluginListIterator, NextPlugin,
+        DeletePluginListIterator, GetPluginListNeededSuiteAvailable;
     SPErr (*GetPluginHostEntry)(SPPluginRef, SPPluginEntryFunc*);
-    ReservedSlot GetPluginFileReference;
-    SPErr (*GetPluginPropertyList)(SPPluginRef, SPPropertyListRef*);
+    ReservedSlot GetPluginFileReference, GetPluginPropertyList;
     SPErr (*GetPluginGlobals)(SPPluginRef, void**);
     SPErr (*SetPluginGlobals)(SPPluginRef, void*);
     SPErr (*GetPluginStarted)(SPPluginRef, ai::int32*);
@@ -30,12 +25,14 @@ struct SPPluginsSuite {
     SPErr (*SetPluginSkipShutdown)(SPPluginRef, ai::int32);
     SPErr (*GetPluginBroken)(SPPluginRef, ai::int32*);
     SPErr (*SetPluginBroken)(SPPluginRef, ai::int32);
-    SPErr (*GetPluginAdapter)(SPPluginRef, SPAdapterRef*);
-    SPErr (*GetPluginAdapterInfo)(SPPluginRef, void**);
-    SPErr (*SetPluginAdapterInfo)(SPPluginRef, void*);
-    ReservedSlot FindPluginProperty;
-    SPErr (*GetPluginName)(SPPluginRef, const char**);
+    ReservedSlot GetPluginAdapter, GetPluginAdapterInfo, SetPluginAdapterInfo, FindPluginProperty;
+    /// The text is the host's.
+    SPErr (*GetPluginName)(SPPluginRef plugin, const char** name);
     SPErr (*SetPluginName)(SPPluginRef, const char*);
     SPErr (*GetNamedPlugin)(const char*, SPPluginRef*);
     ReservedSlot SetPluginPropertyList;
 };
+
+template <>
+struct ai::SuiteId<SPPluginsSuite>
+    : ai::SuiteIdentity<kSPPluginsSuite, kSPPluginsSuiteVersion, kSPPluginsSuiteFallbacks> {};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "toolkit/suites/ADMTypes.h"
 
 // Include it behind the system's headers, whose macro of that name would rename a slot.
@@ -88,3 +89,6 @@ struct ADMBasicSuite {
     ADMBoolean (*LookUpZString)(SPPluginRef, const char*, char*, ADMUInt32*);
     ADMBoolean (*LookUpZStringW)(SPPluginRef, const char*, ADMUnicode*, ADMUInt32*);
 };
+
+template <>
+struct ai::SuiteId<ADMBasicSuite> : ai::SuiteIdentity<kADMBasicSuite, kADMBasicSuiteVersion> {};

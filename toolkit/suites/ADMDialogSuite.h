@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "toolkit/suites/ADMTypes.h"
 
 inline constexpr char kADMDialogSuite[] = "ADM Dialog Suite";
@@ -126,3 +127,6 @@ struct ADMDialogSuite {
     ADMErr (*SetToolbarMode)(ADMDialogRef, ADMToolbarMode);
     ADMErr (*GetToolbarMode)(ADMDialogRef, ADMToolbarMode&);
 };
+
+template <>
+struct ai::SuiteId<ADMDialogSuite> : ai::SuiteIdentity<kADMDialogSuite, kADMDialogSuiteVersion> {};

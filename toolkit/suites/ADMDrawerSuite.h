@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "toolkit/suites/ADMTypes.h"
 
 // Include it behind the system's headers, whose macro of that name would rename a slot.
@@ -88,3 +89,6 @@ struct ADMDrawerSuite {
     ADMInt16 (*GetTextRectHeight)(ADMDrawerRef, ADMInt16, const char*);
     ADMInt16 (*GetTextRectHeightW)(ADMDrawerRef, ADMInt16, const ADMUnicode*);
 };
+
+template <>
+struct ai::SuiteId<ADMDrawerSuite> : ai::SuiteIdentity<kADMDrawerSuite, kADMDrawerSuiteVersion> {};

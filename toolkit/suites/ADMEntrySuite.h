@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "toolkit/suites/ADMTypes.h"
 
 inline constexpr char kADMEntrySuite[] = "ADM Entry Suite";
@@ -69,3 +70,6 @@ struct ADMEntrySuite {
     void (*SetScript)(ADMEntryRef, ADMInt16);
     ADMInt16 (*GetScript)(ADMEntryRef);
 };
+
+template <>
+struct ai::SuiteId<ADMEntrySuite> : ai::SuiteIdentity<kADMEntrySuite, kADMEntrySuiteVersion> {};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "toolkit/suites/ADMTypes.h"
 
 inline constexpr char kADMIconSuite[] = "ADM Icon Suite";
@@ -17,3 +18,6 @@ struct ADMIconSuite {
     ADMBoolean (*IsFromResource)(ADMIconRef);
     ADMIconRef (*CreateFromImage)(ADMImageRef);
 };
+
+template <>
+struct ai::SuiteId<ADMIconSuite> : ai::SuiteIdentity<kADMIconSuite, kADMIconSuiteVersion> {};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "toolkit/suites/ADMTypes.h"
 
 inline constexpr char kADMImageSuite[] = "ADM Image Suite";
@@ -24,3 +25,6 @@ struct ADMImageSuite {
     ADMImageRef (*CreateBitmap)(ADMInt32, ADMInt32, ADMInt32);
     ADMImageRef (*CreateOffscreen)(ADMInt32, ADMInt32, ADMInt32);
 };
+
+template <>
+struct ai::SuiteId<ADMImageSuite> : ai::SuiteIdentity<kADMImageSuite, kADMImageSuiteVersion> {};

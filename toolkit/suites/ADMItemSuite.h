@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "toolkit/suites/ADMTypes.h"
 
 inline constexpr char kADMItemSuite[] = "ADM Item Suite";
@@ -171,3 +172,6 @@ struct ADMItemSuite {
     ADMErr (*SetFirstFocus)(ADMItemRef);
     ADMErr (*MoveFocusItem)(ADMItemRef, ADMItemRef);
 };
+
+template <>
+struct ai::SuiteId<ADMItemSuite> : ai::SuiteIdentity<kADMItemSuite, kADMItemSuiteVersion> {};

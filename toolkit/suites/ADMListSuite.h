@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "toolkit/suites/ADMTypes.h"
 
 inline constexpr char kADMListSuite[] = "ADM List Suite";
@@ -47,3 +48,6 @@ struct ADMListSuite {
     void (*SelectByTextW)(ADMListRef, const ADMUnicode*);
     ADMEntryRef (*FindEntryW)(ADMListRef, const ADMUnicode*);
 };
+
+template <>
+struct ai::SuiteId<ADMListSuite> : ai::SuiteIdentity<kADMListSuite, kADMListSuiteVersion> {};

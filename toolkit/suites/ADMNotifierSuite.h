@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "toolkit/suites/ADMTypes.h"
 
 inline constexpr char kADMNotifierSuite[] = "ADM Notifier Suite";
@@ -13,3 +14,7 @@ struct ADMNotifierSuite {
     void (*GetNotifierType)(ADMNotifierRef, char*, ADMUInt32);
     void (*SkipNextClipboardOperation)(ADMNotifierRef, ADMBoolean);
 };
+
+template <>
+struct ai::SuiteId<ADMNotifierSuite>
+    : ai::SuiteIdentity<kADMNotifierSuite, kADMNotifierSuiteVersion> {};

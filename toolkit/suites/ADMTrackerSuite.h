@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "toolkit/suites/ADMTypes.h"
 
 inline constexpr char kADMTrackerSuite[] = "ADM Tracker Suite";
@@ -19,4 +20,8 @@ struct ADMTrackerSuite {
     ADMChar (*GetVirtualKey)(ADMTrackerRef);
     ADMChar (*GetCharacter)(ADMTrackerRef);
     ADMBoolean (*GetKeysState)(ADMVirtualKeyArray*);
+};
+
+template <>
+struct ai::SuiteId<ADMTrackerSuite> : ai::SuiteIdentity<kADMTrackerSuite, kADMTrackerSuiteVersion> {
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SuiteId.h"
 #include "toolkit/suites/ADMTypes.h"
 
 inline constexpr char kADMWinHostSuite[] = "ADM Win Host Suite";
@@ -18,4 +19,8 @@ struct ADMWinHostSuite {
     void (*SetTextFocusChangedProc)(ADMTextFocusChangedProc);
     void (*SetHWNDOptimizationMode)(ADMHWNDOptimizationMode);
     void (*AllowHWNDOptimizationForDialog)(ADMDialogRef, ADMBoolean);
+};
+
+template <>
+struct ai::SuiteId<ADMWinHostSuite> : ai::SuiteIdentity<kADMWinHostSuite, kADMWinHostSuiteVersion> {
 };
