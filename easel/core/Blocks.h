@@ -11,8 +11,5 @@ namespace easel {
 [[nodiscard]] void* allocateBlock(std::size_t size);
 /// Null is accepted. Throws 'PARM' for what is no block.
 void freeBlock(void* block);
-/// May move; a null block is allocated. On failure `block` stays as it is.
-[[nodiscard]] void* reallocateBlock(void* block, std::size_t size);
-[[nodiscard]] std::size_t blockSize(const void* block);
 
 } // namespace easel

@@ -35,7 +35,7 @@ void writeString(ai::UnicodeString& string, std::u32string text) {
         object->text = std::move(text);
         return;
     }
-    auto object = std::make_unique<StringObject>(StringObject{std::move(text), {}});
+    auto object = std::make_unique<StringObject>(StringObject{std::move(text)});
     ledger().lend(Lent::String, object.get());
     pointerIn(string) = object.release();
 }

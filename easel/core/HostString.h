@@ -11,7 +11,6 @@ namespace easel {
 /// is a string that was never set: empty.
 struct StringObject {
     std::u32string text;
-    std::u16string units; ///< `text` as handed out by `UTF_16`, kept while the string lives.
 };
 
 /// The characters of `string`. Throws 'PARM' when it is not one of ours or was destroyed.

@@ -26,12 +26,16 @@ std::array<std::unique_ptr<SlotRecord>, kMostSlots>& records() {
 
 /// What an unimplemented slot does: tells its name, answers '!IMP', or nothing where a value is
 /// wanted.
-template <std::size_t Index> AIErr notImplemented() {
-    SlotRecord& record = *records()[Index];
+AIErr answerNotImplemented(std::size_t index) {
+    SlotRecord& record = *records()[index];
     const HostCallScope scope{record};
     std::fprintf(stderr, "easel: %s is not implemented\n", record.name.c_str());
     return record.returnsError ? kNotImplementedErr : kNoErr;
 }
+
+/// A function for each slot: only the address tells which slot was called. There are many, so that
+/// each does nothing but pass its number on.
+template <std::size_t Index> AIErr notImplemented() { return answerNotImplemented(Index); }
 
 template <std::size_t... Index>
 constexpr auto notImplementedThunks(std::index_sequence<Index...> /*indexes*/) {
@@ -76,12 +80,14 @@ ai::int32 number(std::string_view text) {
 void AnySuiteTable::addSlot(std::string_view function, bool returnsError) {
     const std::size_t index = addRecord(name_ + '.' + std::string(function), returnsError);
     slots_.push_back(reinterpret_cast<void (*)()>(kThunks[index]));
+    empty_.push_back(slots_.back());
     records_.push_back(records()[index].get());
 }
 
 void AnySuiteTable::addUnknownSlots() {
     addSlot("?", true);
     slots_.assign(kUnknownSuiteSlots, slots_.front());
+    empty_ = slots_;
     records_.assign(kUnknownSuiteSlots, records_.front());
 }
 

@@ -2,7 +2,7 @@
 
 #include "easel/core/HostCalls.h"
 
-#include <cstring>
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <string>
@@ -21,6 +21,8 @@ public:
     void addSlot(std::string_view function, bool returnsError);
     /// For a suite whose functions are not known: many slots that tell the suite's name only.
     void addUnknownSlots();
+    /// Takes every function out again.
+    void clear() noexcept { std::copy(empty_.begin(), empty_.end(), slots_.begin()); }
 
     [[nodiscard]] const std::string& name() const noexcept { return name_; }
     [[nodiscard]] ai::int32 version() const noexcept { return version_; }
@@ -34,6 +36,7 @@ private:
     std::string name_;
     ai::int32 version_;
     std::vector<void (*)()> slots_;
+    std::vector<void (*)()> empty_; ///< As long as no function is exposed.
     std::vector<SlotRecord*> records_;
 };
 
@@ -41,6 +44,7 @@ private:
 template <typename Suite> class SuiteTable {
 public:
     explicit SuiteTable(AnySuiteTable& table) : table_(table) {}
+    void clear() noexcept { table_.clear(); }
     [[nodiscard]] Suite& functions() { return *static_cast<Suite*>(table_.slots()); }
 
     template <typename Function> [[nodiscard]] SlotRecord& record(Function Suite::*slot) {

@@ -58,26 +58,6 @@ void appendUtf8(std::string& text, char32_t character) {
         text.push_back(static_cast<char>(0x80 | (character >> (6 * tail) & 0x3F)));
 }
 
-/// Letters `first` to `last` in upper case; the lower ones lie `distance` behind. With `paired`
-/// upper and lower case alternate instead, upper case on even numbers.
-struct CaseRange {
-    char32_t first;
-    char32_t last;
-    char32_t distance;
-    bool paired;
-};
-constexpr std::array<CaseRange, 9> kCaseRanges = {{
-    {U'A', U'Z', 32, false},
-    {0xC0, 0xD6, 32, false}, // up to the multiplication sign, which is no letter
-    {0xD8, 0xDE, 32, false},
-    {0x100, 0x12E, 1, true},
-    {0x14A, 0x176, 1, true},
-    {0x391, 0x3A1, 32, false},
-    {0x3A3, 0x3AB, 32, false},
-    {0x410, 0x42F, 32, false},
-    {0x400, 0x40F, 80, false},
-}};
-
 } // namespace
 
 std::u32string utf32FromUtf8(std::string_view text) {
@@ -122,23 +102,6 @@ std::u16string utf16FromUtf32(std::u32string_view text) {
         units.push_back(static_cast<char16_t>(0xDC00 + (offset & 0x3FF)));
     }
     return units;
-}
-
-char32_t toLower(char32_t character) noexcept {
-    for (const CaseRange& range : kCaseRanges) {
-        if (character < range.first || character > range.last) continue;
-        return range.paired && character % 2 != 0 ? character : character + range.distance;
-    }
-    return character;
-}
-
-char32_t toUpper(char32_t character) noexcept {
-    for (const CaseRange& range : kCaseRanges) {
-        const char32_t upper = character - range.distance;
-        if (character < range.distance || upper < range.first || upper > range.last) continue;
-        if (!range.paired || upper % 2 == 0) return upper;
-    }
-    return character;
 }
 
 } // namespace easel

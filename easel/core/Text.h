@@ -16,15 +16,8 @@ namespace easel {
 [[nodiscard]] std::string utf8FromUtf32(std::u32string_view text);
 [[nodiscard]] std::u16string utf16FromUtf32(std::u32string_view text);
 
-[[nodiscard]] inline std::u16string utf16FromUtf8(std::string_view text) {
-    return utf16FromUtf32(utf32FromUtf8(text));
-}
 [[nodiscard]] inline std::string utf8FromUtf16(std::u16string_view text) {
     return utf8FromUtf32(utf32FromUtf16(text));
 }
-
-/// Case of the Latin, Greek and Cyrillic letters; others are their own.
-[[nodiscard]] char32_t toLower(char32_t character) noexcept;
-[[nodiscard]] char32_t toUpper(char32_t character) noexcept;
 
 } // namespace easel

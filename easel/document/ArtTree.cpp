@@ -153,29 +153,6 @@ bool isInside(const Art& art, const Art& ancestor) noexcept {
     return up != nullptr;
 }
 
-bool isInFrontOf(const Art& a, const Art& b) noexcept {
-    const auto depth = [](const Art* art) {
-        int levels = 0;
-        while ((art = art->parent()) != nullptr)
-            ++levels;
-        return levels;
-    };
-    const Art* first = &a;
-    const Art* second = &b;
-    int surplus = depth(first) - depth(second);
-    for (; surplus > 0; --surplus)
-        first = first->parent();
-    for (; surplus < 0; ++surplus)
-        second = second->parent();
-    while (first->parent() != second->parent()) {
-        first = first->parent();
-        second = second->parent();
-    }
-    while (first != nullptr && first != second)
-        first = first->next();
-    return first == second;
-}
-
 const Art& styleCarrier(const Art& art) noexcept {
     const Art* carrier = &art;
     for (const Art* up = art.parent(); up != nullptr; up = up->parent())

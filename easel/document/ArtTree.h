@@ -43,9 +43,6 @@ void freeTree(Art& root);
 [[nodiscard]] Art* nextSkippingChildren(const Art& art, const Art& root) noexcept;
 [[nodiscard]] bool isInside(const Art& art, const Art& ancestor) noexcept;
 
-/// Of two objects of one document, neither inside the other: is `a` painted over `b`?
-[[nodiscard]] bool isInFrontOf(const Art& a, const Art& b) noexcept;
-
 /// Holds children of its own: groups, compound paths and plug-in groups.
 [[nodiscard]] bool isContainer(const Art& art) noexcept;
 /// Both null unless `art` is a plug-in group.

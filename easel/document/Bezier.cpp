@@ -55,15 +55,6 @@ int extremes(double p0, double p1, double p2, double p3, std::span<double, 2> ro
 
 } // namespace
 
-Curve curveOf(const AIRealBezier& bezier) noexcept {
-    return {curvePoint(bezier.p0), curvePoint(bezier.p1), curvePoint(bezier.p2),
-            curvePoint(bezier.p3)};
-}
-
-AIRealBezier bezierOf(const Curve& curve) noexcept {
-    return {realPoint(curve[0]), realPoint(curve[1]), realPoint(curve[2]), realPoint(curve[3])};
-}
-
 CurvePoint pointAt(const Curve& curve, double t) noexcept { return splitAt(curve, t)[0][3]; }
 
 CurvePoint tangentAt(const Curve& curve, double t) noexcept {
@@ -90,27 +81,6 @@ double lengthOf(const Curve& curve) noexcept {
     for (int i = 0; i < kLengthPieces; ++i)
         length += lengthBetween(curve, double(i) / kLengthPieces, double(i + 1) / kLengthPieces);
     return length;
-}
-
-double parameterAtLength(const Curve& curve, double length) noexcept {
-    double before = 0;
-    for (int i = 0; i < kLengthPieces; ++i) {
-        double low = double(i) / kLengthPieces;
-        double high = double(i + 1) / kLengthPieces;
-        const double piece = lengthBetween(curve, low, high);
-        if (before + piece < length) {
-            before += piece;
-            continue;
-        }
-        const double start = low;
-        while (high - low > 1e-12) { // halves, so it ends
-            const double middle = (low + high) / 2;
-            const bool isShort = before + lengthBetween(curve, start, middle) < length;
-            (isShort ? low : high) = middle;
-        }
-        return low;
-    }
-    return 1;
 }
 
 NearestPoint nearestPoint(const Curve& curve, CurvePoint point) noexcept {

@@ -24,9 +24,6 @@ struct CurvePoint {
 /// Four control points; the curve runs from the first to the last as t goes from 0 to 1.
 using Curve = std::array<CurvePoint, 4>;
 
-[[nodiscard]] Curve curveOf(const AIRealBezier& bezier) noexcept;
-[[nodiscard]] AIRealBezier bezierOf(const Curve& curve) noexcept;
-
 [[nodiscard]] CurvePoint pointAt(const Curve& curve, double t) noexcept;
 /// The derivative B'(t), not normalised.
 [[nodiscard]] CurvePoint tangentAt(const Curve& curve, double t) noexcept;
@@ -34,8 +31,6 @@ using Curve = std::array<CurvePoint, 4>;
 [[nodiscard]] std::array<Curve, 2> splitAt(const Curve& curve, double t) noexcept;
 /// Within about a ten-thousandth of a point for curves of ordinary size.
 [[nodiscard]] double lengthOf(const Curve& curve) noexcept;
-/// The t at which the part from 0 to t has that length; 0 and 1 beyond the ends.
-[[nodiscard]] double parameterAtLength(const Curve& curve, double length) noexcept;
 
 struct NearestPoint {
     double t;

@@ -90,8 +90,6 @@ const Value* Dictionary::find(Key key) const noexcept {
 }
 
 void Dictionary::set(Key key, Value value) {
-    if (std::holds_alternative<Pointer>(value) && !isTemporary(key))
-        throw ai::Error{kBadParameterErr};
     NestingCheck(*this).descend(value);
     keepFormerState();
     attachValue(value, log_);
@@ -142,7 +140,6 @@ const Value& Array::at(ai::int32 index) const {
 
 void Array::set(ai::int32 index, Value value) {
     static_cast<void>(at(index));
-    if (std::holds_alternative<Pointer>(value)) throw ai::Error{kBadParameterErr};
     NestingCheck(*this).descend(value);
     keepFormerState();
     attachValue(value, log_);

@@ -35,7 +35,7 @@ public:
     /// Null when absent.
     [[nodiscard]] const Value* find(Key key) const noexcept;
     /// Replaces what is there, of whatever type. Throws 'PARM' when `value` contains this
-    /// dictionary, 'NEST' when it is nested too deeply, 'PARM' for a pointer under a lasting key.
+    /// dictionary, 'NEST' when it is nested too deeply.
     void set(Key key, Value value);
     /// False when absent.
     bool erase(Key key);

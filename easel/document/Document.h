@@ -41,8 +41,7 @@ struct DocumentState {
     /// Where soft (0, 0) lies on the canvas: hard coordinates, y down from the top left corner.
     AIRealPoint rulerOrigin;
     Art* currentLayer = nullptr;
-    AIArtHandle insertionPoint = nullptr; ///< Null or dead: the current layer, on top.
-    Cow<ArtStyle> initialStyle;           ///< Of new paths.
+    Cow<ArtStyle> initialStyle; ///< Of new paths.
 };
 
 /// What has happened to a document; the host tells plug-ins about it when it is idle.

@@ -255,7 +255,6 @@ void Dumper::value(const Value& value, int depth) {
         word("binary");
         hex((*binary)->data(), (*binary)->size());
     }
-    if (const auto* pointer = std::get_if<Pointer>(&value)) numbers("pointer", pointer->value);
     if (std::holds_alternative<std::monostate>(value)) word("unknown");
     text += '\n';
 }

@@ -31,8 +31,7 @@ public:
           art(found.art != nullptr ? found.art->handle() : nullptr) {}
 
     const HitResult result;
-    const AIArtHandle art;   ///< The art may be gone when it is asked for.
-    std::uint32_t added = 0; ///< References that the plug-in has asked for itself.
+    const AIArtHandle art; ///< The art may be gone when it is asked for.
 };
 
 } // namespace easel

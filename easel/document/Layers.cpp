@@ -41,12 +41,8 @@ Art* parentLayer(const Art& layer) noexcept {
 
 Art* nextLayerInPreorder(const Art& layer) noexcept {
     if (Art* child = firstSublayer(layer)) return child;
-    return nextLayerSkippingSublayers(layer);
-}
-
-Art* nextLayerSkippingSublayers(const Art& layer) noexcept {
-    for (const Art* up = &layer; up != nullptr; up = parentLayer(*up))
-        if (Art* following = layerFrom(up->next())) return following;
+    for (const Art* each = &layer; each != nullptr; each = parentLayer(*each))
+        if (Art* next = layerFrom(each->next())) return next;
     return nullptr;
 }
 
@@ -72,9 +68,7 @@ void deleteLayer(Art& layer) {
 
 void setCurrentLayer(Document& document, Art& layer) {
     if (document.state().currentLayer == &layer) return;
-    DocumentState& state = document.writeState();
-    state.currentLayer = &layer;
-    state.insertionPoint = nullptr;
+    document.writeState().currentLayer = &layer;
     document.note(&DocumentChanges::currentLayer);
 }
 

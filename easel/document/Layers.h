@@ -23,7 +23,6 @@ Art& createLayer(Document& document, std::string title, Position position);
 [[nodiscard]] Art* parentLayer(const Art& layer) noexcept;
 /// Layers in pre-order over the whole document; null at the end.
 [[nodiscard]] Art* nextLayerInPreorder(const Art& layer) noexcept;
-[[nodiscard]] Art* nextLayerSkippingSublayers(const Art& layer) noexcept;
 /// Null when there is none of that title.
 [[nodiscard]] Art* findLayer(const Document& document, std::string_view title);
 

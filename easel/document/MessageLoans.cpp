@@ -26,7 +26,7 @@ void MessageLoans::clear() {
     texts_.clear();
     fleeting_.clear();
     for (const Ref<Hit>& hit : hits_)
-        while (hit->lent() > hit->added)
+        while (hit->lent() > 0)
             hit->takeBack();
     hits_.clear();
 }

@@ -10,8 +10,6 @@ namespace easel {
 [[nodiscard]] std::size_t curveCount(const Art& path) noexcept;
 /// The curve that starts at anchor `index`; at the last anchor of an open path four equal points.
 [[nodiscard]] Curve curveFrom(const Art& path, std::size_t index) noexcept;
-/// What the path encloses, its ends joined by a straight line: positive counter-clockwise, y up.
-[[nodiscard]] double signedArea(const Art& path) noexcept;
 [[nodiscard]] double pathLength(const Art& path) noexcept;
 
 } // namespace easel

@@ -37,11 +37,6 @@ Art& outermostLayer(Art* layer) {
     return *layer;
 }
 
-Position defaultPlace(const Document& document) {
-    const auto [art, order] = insertionPoint(document);
-    return order == kPlaceInsideOnTop ? onTopOf(*art) : inFrontOf(*art);
-}
-
 bool isInCompound(const Art& art) {
     const Art* up = &art;
     while (up != nullptr && up->type() != kCompoundPathArt)
@@ -58,7 +53,7 @@ bool mayBeInCompound(ai::int16 type) {
 Position placeFor(ai::int16 order, Art* reference) {
     switch (order) {
     case kPlaceDefault:
-        return defaultPlace(currentDocument());
+        return onTopOf(insertionGroup(currentDocument()));
     case kPlaceAbove:
         return inFrontOf(neighbour(reference));
     case kPlaceBelow:
@@ -89,20 +84,10 @@ void checkPlace(const Position& place, const Art& art) {
     checkOpen(*place.parent);
 }
 
-InsertionPoint insertionPoint(const Document& document) {
-    Art* chosen = findArt(document.state().insertionPoint);
-    if (chosen == nullptr) chosen = document.state().currentLayer;
-    if (chosen == nullptr) throw ai::Error{kNoDocumentErr};
-    return {chosen, chosen->type() == kGroupArt ? kPlaceInsideOnTop : kPlaceAbove};
-}
-
-void setInsertionPoint(Art& art) {
-    Art* chosen = &art;
-    for (Art* up = &art; up != nullptr; up = up->parent())
-        if (up->type() == kPluginArt || up->type() == kCompoundPathArt) chosen = up;
-    Document& document = art.document();
-    if (Art* layer = layerOf(*chosen)) setCurrentLayer(document, *layer);
-    document.writeState().insertionPoint = chosen->handle();
+Art& insertionGroup(const Document& document) {
+    Art* const layer = document.state().currentLayer;
+    if (layer == nullptr) throw ai::Error{kNoDocumentErr};
+    return *layer;
 }
 
 } // namespace easel

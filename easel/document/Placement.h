@@ -15,13 +15,7 @@ void checkPlace(const Position& place, ai::int16 type);
 /// The same for `art` with all it contains.
 void checkPlace(const Position& place, const Art& art);
 
-/// Where drawing tools put new art: above `art`, or inside it on top.
-struct InsertionPoint {
-    Art* art;
-    ai::int16 order;
-};
-[[nodiscard]] InsertionPoint insertionPoint(const Document& document);
-/// Inside a group, above anything else; where that cannot be, the nearest parent that can hold art.
-void setInsertionPoint(Art& art);
+/// What drawing tools put new art into, on top: the current layer. Throws 'DOC?' without one.
+[[nodiscard]] Art& insertionGroup(const Document& document);
 
 } // namespace easel

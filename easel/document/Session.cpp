@@ -41,12 +41,6 @@ Art& layerOf(AILayerHandle handle) {
     return *art;
 }
 
-Document& documentOf(AIDocumentHandle handle) {
-    void* document = session().handles.find(HandleKind::Document, handle);
-    if (document == nullptr) throw ai::Error{kBadParameterErr};
-    return *static_cast<Document*>(document);
-}
-
 void endMessageLoans() { session().messageLoans.clear(); }
 
 } // namespace easel

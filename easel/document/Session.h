@@ -60,8 +60,6 @@ void setCurrentDocument(Document* document) noexcept;
 [[nodiscard]] Art* findArt(AIArtHandle handle) noexcept;
 /// The layer's group; throws 'PARM'.
 [[nodiscard]] Art& layerOf(AILayerHandle handle);
-/// Throws 'PARM'.
-[[nodiscard]] Document& documentOf(AIDocumentHandle handle);
 
 /// Drops what lives for one message only: leftover hits, strings handed out of entries. To be
 /// called when the outermost message has ended.

@@ -95,11 +95,6 @@ void UndoLog::setTexts(std::string undo, std::string redo) {
     open_.redoText = std::move(redo);
 }
 
-void UndoLog::setTag(std::string tag, ai::int32 number) {
-    open_.tag = std::move(tag);
-    open_.tagNumber = number;
-}
-
 bool UndoLog::isOwnStep(const Record& record) noexcept {
     return record.kind == kStandardUndoContext ||
            (record.kind == kSilentUndoContext && !switches().silentFollowsStep);
@@ -156,12 +151,6 @@ std::string UndoLog::undoText() const {
 std::string UndoLog::redoText() const {
     const Record* next = step(future_, 0);
     return next != nullptr ? next->redoText : std::string();
-}
-
-std::pair<std::string, ai::int32> UndoLog::tagOfStep(ai::int32 stepsBack) const {
-    const Record* found = step(past_, stepsBack);
-    if (found == nullptr) return {};
-    return {found->tag, found->tagNumber};
 }
 
 void UndoLog::clear() {

@@ -40,14 +40,12 @@ public:
 
     void open();
     void close();
-    [[nodiscard]] bool isOpen() const noexcept { return depth_ > 0; }
     void revert();
     /// Of the record being made; nothing happens when there is none.
     void setKind(AIUndoContextKind kind) noexcept;
     [[nodiscard]] AIUndoContextKind kind() const noexcept { return open_.kind; }
     /// The full menu texts of the record being made, UTF-8. The last call in a record wins.
     void setTexts(std::string undo, std::string redo);
-    void setTag(std::string tag, ai::int32 number);
 
     /// False when there is nothing to undo or redo. No record may be open.
     bool undo();
@@ -58,8 +56,6 @@ public:
     /// Menu texts of the steps that would be undone and redone next; empty: none, or not set.
     [[nodiscard]] std::string undoText() const;
     [[nodiscard]] std::string redoText() const;
-    /// Tag of a step counted back from the latest one, which is 0; empty when there is none.
-    [[nodiscard]] std::pair<std::string, ai::int32> tagOfStep(ai::int32 stepsBack) const;
     /// Forgets all records, and frees what only they kept.
     void clear();
     /// The document goes away; dictionaries that outlive it record nothing any more.
@@ -91,8 +87,6 @@ private:
         AIUndoContextKind kind = kStandardUndoContext;
         std::string undoText;
         std::string redoText;
-        std::string tag;
-        ai::int32 tagNumber = 0;
         bool madeBeforeRedo = false; ///< Silent, and made while steps waited to be redone.
     };
     struct ContentState;

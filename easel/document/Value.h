@@ -22,19 +22,11 @@ struct Boolean {
 using SharedText = std::shared_ptr<const std::string>;
 using UnicodeText = std::shared_ptr<const std::u16string>;
 using Binary = std::shared_ptr<const std::vector<std::byte>>;
-/// An address kept for a plug-in in the running session; never saved.
-struct Pointer {
-    ai::intptr value = 0;
-    bool operator==(const Pointer&) const = default;
-};
 
 /// What a dictionary or array holds under one key or index. Empty: of no known type.
 using Value = std::variant<std::monostate, ai::int32, Boolean, AIReal, SharedText, Ref<Dictionary>,
-                           Ref<Array>, Binary, AIRealPoint, AIRealMatrix, UnicodeText, Pointer>;
+                           Ref<Array>, Binary, AIRealPoint, AIRealMatrix, UnicodeText>;
 
-[[nodiscard]] AIEntryType typeOf(const Value& value) noexcept;
-/// Equal in type and content; dictionaries and arrays all the way down.
-[[nodiscard]] bool equivalent(const Value& a, const Value& b);
 /// A copy that shares nothing that can change.
 [[nodiscard]] Value deepCopy(const Value& value);
 

@@ -6,7 +6,6 @@
 #include "easel/paint/Picture.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -16,11 +15,6 @@ namespace {
 using Kind = DrawCommand::Kind;
 
 constexpr double kPixelMiddle = 0.5;
-
-// Of a font's size, for the common sans-serif faces.
-constexpr double kCapitalHeight = 0.72;
-constexpr double kAscent = 0.95;
-constexpr double kDescent = 0.23;
 
 /// The handle length that makes four cubics a circle of radius 1: 4/3 (sqrt(2) - 1).
 constexpr double kCircleHandle = 4.0 / 3.0 * (std::numbers::sqrt2 - 1.0);
@@ -141,11 +135,6 @@ public:
             return endClip();
         case Kind::Text:
             return paintText(command, middleOf(command.points[0]));
-        case Kind::TextInRect:
-            return paintText(command, startInRect(command));
-        case Kind::Png:
-        case Kind::PngInRect:
-            return paintImage(command);
         default:
             return paintShape(command);
         }
@@ -186,34 +175,6 @@ private:
     void paintText(const DrawCommand& command, Point start) {
         painter_.text(utf8FromUtf32(command.text), fontOf(command.style),
                       {start.x, std::round(start.y)}, inkOf(command.style));
-    }
-
-    Point startInRect(const DrawCommand& command) {
-        const Point from = middleOf(command.points[0]);
-        const Point to = middleOf(command.points[1]);
-        const svg::Font font = fontOf(command.style);
-        const double width = painter_.textWidth(utf8FromUtf32(command.text), font);
-        const std::array<double, 3> lefts = {from.x, (from.x + to.x - width) / 2, to.x - width};
-        const std::array<double, 3> baselines = {from.y + kAscent * font.size,
-                                                 (from.y + to.y + kCapitalHeight * font.size) / 2,
-                                                 to.y - kDescent * font.size};
-        const auto row = [](auto alignment) {
-            return static_cast<std::size_t>(std::clamp<int>(alignment, 0, 2));
-        };
-        return {lefts.at(row(command.horizontal)), baselines.at(row(command.vertical))};
-    }
-
-    void paintImage(const DrawCommand& command) {
-        const std::span<const std::byte> png = std::as_bytes(std::span{command.png});
-        const Point size = svg::pngSize(png);
-        const AIPoint first = command.points.front();
-        Point corner{static_cast<double>(first.h), static_cast<double>(first.v)};
-        if (command.kind == Kind::PngInRect) {
-            const AIPoint last = command.points.back();
-            corner = {std::round((first.h + last.h - size.x) / 2),
-                      std::round((first.v + last.v - size.y) / 2)};
-        }
-        painter_.image(png, corner, size);
     }
 
     Painter& painter_;

@@ -15,8 +15,6 @@ struct Annotator {
     SPPluginRef plugin;
     std::string name;
     bool active = true;
-    AIAnnotatorOptionsFlags options = 0;
-    SPPluginRef alternate = nullptr;
 };
 
 struct Annotators {

@@ -47,23 +47,6 @@ void Contexts::setAllowAllChanges(bool allow) {
     applyTop();
 }
 
-AISuspendedAppContext Contexts::suspend() {
-    const auto handle = reinterpret_cast<AISuspendedAppContext>(nextHandleValue());
-    closeRecord();
-    suspended_.push_back({handle, std::exchange(stack_, {})});
-    applyTop();
-    return handle;
-}
-
-void Contexts::resume(AISuspendedAppContext suspended) {
-    const bool isLast = !suspended_.empty() && suspended_.back().handle == suspended;
-    if (!isLast || !stack_.empty()) throw ai::Error{kBadParameterErr};
-    stack_ = std::move(suspended_.back().stack);
-    suspended_.pop_back();
-    applyTop();
-    if (!stack_.empty()) openRecord();
-}
-
 void Contexts::switchTo(Document* document) {
     closeRecord();
     setCurrentDocument(document);

@@ -45,11 +45,6 @@ public:
     [[nodiscard]] bool allowAllChanges() const;
     void setAllowAllChanges(bool allow);
 
-    /// Puts the whole stack aside, for a change of documents, and brings it back.
-    [[nodiscard]] AISuspendedAppContext suspend();
-    /// Throws 'PARM' for a stack that is not the one put aside last.
-    void resume(AISuspendedAppContext suspended);
-
     /// Makes `document` current; what was done so far in the former one becomes a step of its own.
     void switchTo(Document* document);
 

@@ -18,7 +18,6 @@ struct SnapCall {
 struct CursorSnap {
     bool enabled = true; ///< Off: every point is answered as it was given.
     std::vector<SnapCall> calls;
-    std::vector<AICursorConstraint> custom;
 };
 
 /// How far the cursor may lie from what it snaps to, in pixels of the view.

@@ -11,9 +11,8 @@
 namespace easel {
 namespace {
 
-constexpr const char* kKindNames[] = {"line",   "rect",   "polygon", "ellipse",
-                                      "bezier", "text",   "text in", "png",
-                                      "png in", "clip {", "clip }",  "clip off"};
+constexpr const char* kKindNames[] = {"line", "rect",   "polygon", "ellipse", "bezier",
+                                      "text", "clip {", "clip }",  "clip off"};
 
 constexpr AIReal kCharacterWidth = 0.5F; ///< Of the font size.
 constexpr AIReal kLineHeight = 1.2F;     ///< Of the font size.

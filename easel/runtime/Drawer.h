@@ -17,7 +17,6 @@ struct DrawStyle {
     bool dashed = false;
     std::vector<AIFloat> dashes{4, 4}; ///< On and off in turn.
     AIReal opacity = 1;
-    bool highlight = false;
     bool smooth = false; ///< Anti-aliased.
     AIReal fontSize = 11;
     std::u32string fontName = U"Tahoma";
@@ -25,31 +24,14 @@ struct DrawStyle {
 
 /// One call of an annotator, with all that is needed to paint it. Points are pixels of the view.
 struct DrawCommand {
-    enum class Kind {
-        Line,
-        Rect,
-        Polygon,
-        Ellipse,
-        Bezier,
-        Text,
-        TextInRect,
-        Png,
-        PngInRect,
-        ClipStart,
-        ClipEnd,
-        ClipClear
-    };
+    enum class Kind { Line, Rect, Polygon, Ellipse, Bezier, Text, ClipStart, ClipEnd, ClipClear };
     Kind kind;
     DrawStyle style;
-    /// Line: both ends. Bezier: an anchor, then handle, handle and anchor in turns. Rect, Ellipse
-    /// and what lies in a rectangle: top left and bottom right. Text: its bottom left. Png: its top
-    /// left.
+    /// Line: both ends. Bezier: an anchor, then handle, handle and anchor in turns. Rect, Ellipse:
+    /// top left and bottom right. Text: its bottom left.
     std::vector<AIPoint> points = {};
     bool fill = false;
     std::u32string text = {};
-    AIHorizAlignment horizontal = 0; ///< 0 left, 1 centre, 2 right.
-    AIVertAlignment vertical = 0;    ///< 0 top, 1 middle, 2 bottom.
-    std::vector<ai::uint8> png = {};
 };
 
 using DisplayList = std::vector<DrawCommand>;

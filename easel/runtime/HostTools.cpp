@@ -137,7 +137,7 @@ void Host::increaseDiameter() {
 }
 
 DisplayList Host::drawAnnotations(AIDocumentViewHandle handle) {
-    const DocumentView& window = view(handle);
+    static_cast<void>(view(handle)); // refuses a dead one
     DisplayList all;
     for (const AIAnnotatorHandle each : annotators.annotators.handles()) {
         const Annotator* const annotator = annotators.annotators.find(each);
@@ -148,7 +148,7 @@ DisplayList Host::drawAnnotations(AIDocumentViewHandle handle) {
         message.view = handle == nullptr ? currentView() : handle;
         message.updateType = kAnnotateArtObject;
         message.portType = kWindowPort;
-        message.showEdges = window.showEdges ? 1 : 0;
+        message.showEdges = 1;
         message.drawer = &drawer;
         send(annotator->plugin, kCallerAnnotation, kSelectorDraw, message, annotator->name,
              kSilentUndoContext);
@@ -162,14 +162,14 @@ DisplayList Host::drawAnnotations(AIDocumentViewHandle handle) {
 }
 
 void Host::invalidateAnnotations(AIDocumentViewHandle handle) {
-    const DocumentView& window = view(handle);
+    static_cast<void>(view(handle)); // refuses a dead one
     for (const AIAnnotatorHandle each : annotators.annotators.handles()) {
         const Annotator* const annotator = annotators.annotators.find(each);
         if (annotator == nullptr || !annotator->active) continue;
         AIAnnotatorMessage message{};
         message.annotator = each;
         message.view = handle == nullptr ? currentView() : handle;
-        message.showEdges = window.showEdges ? 1 : 0;
+        message.showEdges = 1;
         send(annotator->plugin, kCallerAnnotation, kSelectorInvalidate, message, annotator->name,
              kSilentUndoContext);
     }

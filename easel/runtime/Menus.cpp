@@ -62,7 +62,7 @@ constexpr const char* kHostGroups[] = {
 
 Menus::Menus() {
     for (const char* name : kHostGroups)
-        groups.add({.name = name, .near = {}});
+        groups.add({.name = name});
 }
 
 AIMenuGroup Menus::groupNamed(const std::string& name) const {

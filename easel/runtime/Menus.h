@@ -12,9 +12,7 @@ namespace easel {
 struct MenuGroup {
     std::string name;
     AIMenuGroupOption options = 0;
-    std::string near;                  ///< The group it lies next to; may be empty.
     AIMenuItemHandle opener = nullptr; ///< The item whose submenu it is, or null.
-    std::u32string header = {};
 };
 
 struct MenuItem {
@@ -25,10 +23,6 @@ struct MenuItem {
     AIMenuItemOption options = 0;
     bool enabled = true;
     bool checked = false;
-    char command = 0; ///< Its keyboard shortcut: character and modifiers, or a function key.
-    ai::int16 commandModifiers = 0;
-    ai::int16 functionKey = 0;
-    ai::int16 functionKeyModifiers = 0;
 };
 
 /// Options of items and groups that the host itself acts on.

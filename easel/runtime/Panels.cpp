@@ -37,12 +37,6 @@ void tell(Callback callback, Arguments... arguments) {
 
 } // namespace
 
-std::vector<FlyoutItem>::iterator FlyoutMenu::withId(ai::uint32 id) {
-    const auto found = std::ranges::find(items, id, &FlyoutItem::id);
-    if (found == items.end()) throw ai::Error{kBadParameterErr};
-    return found;
-}
-
 AIPanelRef Panels::add(Panel panel) {
     const AISize least = panel.sizes.least;
     const bool makesSense = panel.stateCount >= 1 && least.width >= 0 && least.height >= 0;

@@ -24,9 +24,6 @@ struct FlyoutItem {
 struct FlyoutMenu {
     SPPluginRef plugin = nullptr; ///< That was answering when it was made; null: none was.
     std::vector<FlyoutItem> items;
-
-    /// The item with that id. Throws 'PARM' when there is none.
-    [[nodiscard]] std::vector<FlyoutItem>::iterator withId(ai::uint32 id);
 };
 
 /// What a plug-in wants to be told of its panel; null: nothing.

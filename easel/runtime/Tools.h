@@ -26,8 +26,6 @@ struct Tool {
     AIToolType toolset;
     ai::int32 options;
     AIToolType number;
-    AIToolTime nullEventInterval = 0;
-    std::string alternateSelectionTool = {};
     std::vector<ai::int32> infoVariables = {}; ///< What it shows in the information display.
 };
 

@@ -22,12 +22,7 @@ struct UserRecord {
     std::vector<Alert> alerts;
     std::deque<AIAnswer> answers; ///< For the coming questions; when empty the answer is yes.
     std::vector<std::filesystem::path> launched;
-    std::vector<std::string> openedUrls;
     bool browserAvailable = true;
-    bool cancelRequested = false;
-    std::string progressText;
-    ai::int32 progress = 0;
-    ai::int32 progressMaximum = 0;
     ai::int32 cursor = -4; ///< The last one shown; -4 is the arrow.
     Registry<AIResourceManagerHandle, SPPluginRef> cursorManagers;
     std::vector<AIWindowRef>

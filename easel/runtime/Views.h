@@ -13,16 +13,7 @@ struct DocumentView {
     AIReal zoom = 1;    ///< Pixels per point.
     ai::int32 width = 1280;
     ai::int32 height = 800;
-    AIRealRect invalid{0, 0, 0, 0}; ///< Soft coordinates; empty: nothing to be redrawn.
-    AIScreenMode screenMode = 1;
-    ai::int16 style = 2; ///< Preview.
     bool showGuides = true;
-    bool showEdges = true;
-    bool showGrid = false;
-    bool snapToGrid = false;
-    bool showTransparencyGrid = false;
-    bool artboardRuler = false;
-    bool artboardCoordinates = false;
 };
 
 using Views = Registry<AIDocumentViewHandle, DocumentView>;

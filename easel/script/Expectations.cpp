@@ -146,8 +146,7 @@ std::string listOf(const std::vector<std::string>& texts) {
 std::vector<std::string> shownTexts(const DisplayList& list) {
     std::vector<std::string> texts;
     for (const DrawCommand& command : list)
-        if (command.kind == Kind::Text || command.kind == Kind::TextInRect)
-            texts.push_back(utf8FromUtf32(command.text));
+        if (command.kind == Kind::Text) texts.push_back(utf8FromUtf32(command.text));
     return texts;
 }
 
@@ -192,14 +191,7 @@ constexpr DrawnKind kDrawnKinds[] = {
     {"polygons", isKind<Kind::Polygon>},
     {"ellipses", isKind<Kind::Ellipse>},
     {"curves", isKind<Kind::Bezier>},
-    {"texts",
-     [](const DrawCommand& each) {
-         return each.kind == Kind::Text || each.kind == Kind::TextInRect;
-     }},
-    {"images",
-     [](const DrawCommand& each) {
-         return each.kind == Kind::Png || each.kind == Kind::PngInRect;
-     }},
+    {"texts", isKind<Kind::Text>},
     {"things", [](const DrawCommand& each) {
          return each.kind != Kind::ClipStart && each.kind != Kind::ClipEnd &&
                 each.kind != Kind::ClipClear;
@@ -468,7 +460,7 @@ constexpr ExpectationRow kExpectations[] = {
     {"cursor", "ID", "the number of the cursor shown", readCursor},
     {"hint", "none|TEXT", "a text beside the mouse", readHint},
     {"text", "TEXT", "a text anywhere in the annotations", readTextShown},
-    {"drawn", "COUNT lines|dashed-lines|rects|polygons|ellipses|curves|texts|images|things",
+    {"drawn", "COUNT lines|dashed-lines|rects|polygons|ellipses|curves|texts|things",
      "how many of these the annotations hold", readDrawn},
     {"line", "X,Y", "a line of the annotations through that place", readLineThrough},
     {"covered", "yes|no X,Y", "whether a filled polygon of the annotations covers that place",

@@ -90,7 +90,6 @@ struct Writer {
             units.push_back(static_cast<unsigned>(unit));
         return {{"type", "unicode"}, {"value", std::move(units)}};
     }
-    Json operator()(Pointer) const { return {{"type", "unknown"}}; }
 };
 
 Json valueJson(const Value& value) { return std::visit(Writer{}, value); }

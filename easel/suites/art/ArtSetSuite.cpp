@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <unordered_set>
 
 namespace easel {
 namespace {
@@ -68,13 +67,6 @@ AIErr indexArtSet(AIArtSet set, std::size_t index, AIArtHandle* art) {
     return kNoErr;
 }
 
-AIErr arrayArtSet(AIArtSet set, AIArtHandle* art, std::size_t count) {
-    Handles& handles = handlesOf(set);
-    if (art == nullptr && count != 0) return kBadParameterErr;
-    handles.assign(art, art + count);
-    return kNoErr;
-}
-
 AIErr matchingArtSet(AIArtSpec* specs, ai::int16 count, AIArtSet set) {
     Handles& handles = handlesOf(set);
     if (count < 0 || (specs == nullptr && count != 0)) return kBadParameterErr;
@@ -92,64 +84,9 @@ AIErr layerArtSet(AILayerHandle layer, AIArtSet set) {
     return kNoErr;
 }
 
-/// Appends each of `handles` that was not seen before.
-void appendOnce(Handles& result, std::unordered_set<AIArtHandle>& seen, const Handles& handles) {
-    for (const AIArtHandle art : handles)
-        if (seen.insert(art).second) result.push_back(art);
-}
-
-AIErr unionArtSet(AIArtSet first, AIArtSet second, AIArtSet target) {
-    Handles all;
-    std::unordered_set<AIArtHandle> seen;
-    appendOnce(all, seen, handlesOf(first));
-    appendOnce(all, seen, handlesOf(second));
-    handlesOf(target) = std::move(all);
-    return kNoErr;
-}
-
-AIErr intersectArtSet(AIArtSet first, AIArtSet second, AIArtSet target) {
-    const Handles& others = handlesOf(second);
-    const std::unordered_set<AIArtHandle> inSecond(others.begin(), others.end());
-    Handles common = handlesOf(first);
-    std::erase_if(common, [&](AIArtHandle art) { return !inSecond.contains(art); });
-    Handles once;
-    std::unordered_set<AIArtHandle> seen;
-    appendOnce(once, seen, common);
-    handlesOf(target) = std::move(once);
-    return kNoErr;
-}
-
-AIErr nextInArtSet(AIArtSet set, AIArtHandle previous, AIArtHandle* next) {
-    required(next) = nullptr;
-    const Handles& handles = handlesOf(set);
-    auto place = handles.begin();
-    if (previous != nullptr) {
-        place = std::ranges::find(handles, previous);
-        if (place != handles.end()) ++place;
-    }
-    place = std::find_if(place, handles.end(), [](AIArtHandle art) { return art != nullptr; });
-    if (place != handles.end()) *next = *place;
-    return kNoErr;
-}
-
 AIErr addArtToArtSet(AIArtSet set, AIArtHandle art) {
     Handles& handles = handlesOf(set);
     if (std::ranges::find(handles, art) == handles.end()) handles.push_back(art);
-    return kNoErr;
-}
-
-AIErr removeArtFromArtSet(AIArtSet set, AIArtHandle art) {
-    std::erase(handlesOf(set), art);
-    return kNoErr;
-}
-
-AIErr replaceArtInArtSet(AIArtSet set, AIArtHandle former, AIArtHandle art) {
-    Handles& handles = handlesOf(set);
-    const auto place = std::ranges::find(handles, former);
-    if (place != handles.end())
-        *place = art;
-    else
-        handles.push_back(art);
     return kNoErr;
 }
 
@@ -162,16 +99,10 @@ void installArtSetSuite(SuiteServer& server) {
     exposeEnding<&S::DisposeArtSet, disposeArtSet>(table);
     expose<&S::CountArtSet, countArtSet>(table);
     expose<&S::IndexArtSet, indexArtSet>(table);
-    expose<&S::ArrayArtSet, arrayArtSet>(table);
     expose<&S::SelectedArtSet, selectedArtSet>(table);
     expose<&S::MatchingArtSet, matchingArtSet>(table);
     expose<&S::LayerArtSet, layerArtSet>(table);
-    expose<&S::UnionArtSet, unionArtSet>(table);
-    expose<&S::IntersectArtSet, intersectArtSet>(table);
-    expose<&S::NextInArtSet, nextInArtSet>(table);
     expose<&S::AddArtToArtSet, addArtToArtSet>(table);
-    expose<&S::RemoveArtFromArtSet, removeArtFromArtSet>(table);
-    expose<&S::ReplaceArtInArtSet, replaceArtInArtSet>(table);
 }
 
 } // namespace easel

@@ -10,9 +10,6 @@
 #include "easel/document/Session.h"
 #include "easel/suites/art/ArtSuites.h"
 
-#include <algorithm>
-#include <cmath>
-
 namespace easel {
 namespace {
 
@@ -25,7 +22,7 @@ bool isFixed(const Art& art) {
     return art.isLayer() || art.parent() == nullptr || art.parent()->type() == kPluginArt;
 }
 
-// Making, removing, moving.
+// Making and removing.
 
 AIErr newArt(ai::int16 type, ai::int16 order, AIArtHandle reference, AIArtHandle* made) {
     required(made) = nullptr;
@@ -38,29 +35,12 @@ AIErr newArt(ai::int16 type, ai::int16 order, AIArtHandle reference, AIArtHandle
     return kNoErr;
 }
 
-AIErr disposeChecked(AIArtHandle handle, bool refusesLocked) {
+AIErr disposeArtObject(AIArtHandle handle) {
     Art& art = artOf(handle);
     if (isFixed(art)) return kUntouchableArtObjectErr;
-    if (refusesLocked) checkEditable(art);
+    if (switches().disposeRefusesLocked) checkEditable(art);
     checkContents(art);
     disposeArt(art);
-    return kNoErr;
-}
-
-AIErr disposeArtObject(AIArtHandle handle) {
-    return disposeChecked(handle, switches().disposeRefusesLocked);
-}
-
-AIErr uncheckedDisposeArt(AIArtHandle handle) { return disposeChecked(handle, false); }
-
-AIErr reorderArt(AIArtHandle handle, ai::int16 order, AIArtHandle reference) {
-    Art& art = artOf(handle);
-    if (isFixed(art)) return kUntouchableArtObjectErr;
-    const Position place = placeFor(order, artOrNull(reference));
-    if (isInside(*place.parent, art)) return kBadParameterErr;
-    checkEditable(art);
-    checkPlace(place, art);
-    moveArt(art, place);
     return kNoErr;
 }
 
@@ -72,16 +52,6 @@ AIErr duplicateArtObject(AIArtHandle handle, ai::int16 order, AIArtHandle refere
     const Position place = placeFor(order, artOrNull(reference));
     checkPlace(place, art);
     *made = duplicateArt(art, place).handle();
-    return kNoErr;
-}
-
-AIErr insertionPointBadForArtType(ai::int16 order, AIArtHandle reference, ai::int16 type) {
-    checkPlace(placeFor(order, artOrNull(reference)), type);
-    return kNoErr;
-}
-
-AIErr preinsertionFlightCheck(AIArtHandle candidate, ai::int16 order, AIArtHandle reference) {
-    checkPlace(placeFor(order, artOrNull(reference)), artOf(candidate));
     return kNoErr;
 }
 
@@ -126,12 +96,6 @@ AIErr getArtFirstChild(AIArtHandle art, AIArtHandle* child) {
     return kNoErr;
 }
 
-AIErr getArtLastChild(AIArtHandle art, AIArtHandle* child) {
-    required(child) = nullptr;
-    *child = handleOf(tellChild(artOf(art), artOf(art).lastChild()));
-    return kNoErr;
-}
-
 bool hasSiblings(const Art& art) {
     return art.parent() != &art.document().root() && art.parent()->type() != kPluginArt;
 }
@@ -143,62 +107,16 @@ AIErr getArtSibling(AIArtHandle handle, AIArtHandle* sibling) {
     return kNoErr;
 }
 
-AIErr getArtPriorSibling(AIArtHandle handle, AIArtHandle* sibling) {
-    required(sibling) = nullptr;
-    const Art& art = artOf(handle);
-    *sibling = hasSiblings(art) ? handleOf(art.previous()) : nullptr;
-    return kNoErr;
-}
-
 AIBoolean validArt(AIArtHandle art, AIBoolean /*allLists*/) {
     return findArt(art) != nullptr ? 1 : 0;
 }
 
-enum ArtOrder : ai::int16 {
-    kUnknownOrder = 0,
-    kFirstBeforeSecond = 1,
-    kSecondBeforeFirst = 2,
-    kFirstInsideSecond = 3,
-    kSecondInsideFirst = 4,
-};
-
-AIErr getArtOrder(AIArtHandle first, AIArtHandle second, ai::int16* order) {
-    const Art& a = artOf(first);
-    const Art& b = artOf(second);
-    required(order) = kUnknownOrder;
-    if (&a == &b || &a.document() != &b.document()) return kNoErr;
-    if (isInside(a, b))
-        *order = kFirstInsideSecond;
-    else if (isInside(b, a))
-        *order = kSecondInsideFirst;
-    else
-        *order = isInFrontOf(a, b) ? kFirstBeforeSecond : kSecondBeforeFirst;
-    return kNoErr;
-}
-
 AIErr getInsertionPoint(AIArtHandle* art, ai::int16* order, AIBoolean* editable) {
-    const InsertionPoint point = insertionPoint(currentDocument());
-    required(art) = handleOf(point.art);
-    required(order) = point.order;
-    if (editable != nullptr) *editable = isEditable(*point.art) ? 1 : 0;
+    Art& group = insertionGroup(currentDocument());
+    required(art) = group.handle();
+    required(order) = kPlaceInsideOnTop;
+    if (editable != nullptr) *editable = isEditable(group) ? 1 : 0;
     return kNoErr;
-}
-
-AIErr setInsertionPointAt(AIArtHandle art) {
-    setInsertionPoint(artOf(art));
-    return kNoErr;
-}
-
-constexpr ai::int32 kNormalDrawing = 0;
-
-AIErr getDrawingMode(ai::int32* mode) {
-    required(mode) = kNormalDrawing;
-    return kNoErr;
-}
-
-AIErr getInsertionPointForMode(ai::int32 mode, AIArtHandle* art, ai::int16* order,
-                               AIBoolean* editable) {
-    return mode == kNormalDrawing ? getInsertionPoint(art, order, editable) : kNotImplementedErr;
 }
 
 // Attributes.
@@ -213,48 +131,10 @@ AIErr setArtUserAttr(AIArtHandle art, ai::int32 mask, ai::int32 attributes) {
     return kNoErr;
 }
 
-AIErr getCenterVisible(AIArtHandle art, AIBoolean* visible) {
-    required(visible) = artOf(art).content().centerVisible ? 1 : 0;
-    return kNoErr;
-}
-
-AIErr setCenterVisible(AIArtHandle handle, AIBoolean visible) {
-    Art& art = artOf(handle);
-    checkEditable(art);
-    art.write(Edit::Quiet).centerVisible = visible != 0;
-    return kNoErr;
-}
-
-template <typename Painted> AIBoolean anyPath(AIArtHandle handle, Painted painted) {
-    const Art& art = artOf(handle);
-    for (const Art* each = &art; each != nullptr; each = nextInPreorder(*each, art))
-        if (each->type() == kPathArt && painted(styleCarrier(*each).style().path)) return 1;
-    return 0;
-}
-
-AIBoolean artHasFill(AIArtHandle art) {
-    return anyPath(art, [](const AIPathStyle& style) { return style.fillPaint != 0; });
-}
-
-AIBoolean artHasStroke(AIArtHandle art) {
-    return anyPath(art, [](const AIPathStyle& style) { return style.strokePaint != 0; });
-}
-
-AIBoolean isArtStyledArt(AIArtHandle art) {
-    static_cast<void>(artOf(art));
-    return 0;
-}
-
 AIBoolean isArtClipping(AIArtHandle art) { return artOf(art).has(kArtIsClipMask) ? 1 : 0; }
 
 AIErr isArtLayerGroup(AIArtHandle art, AIBoolean* isLayer) {
     required(isLayer) = artOf(art).isLayer() ? 1 : 0;
-    return kNoErr;
-}
-
-AIErr artIsGraph(AIArtHandle art, AIBoolean* isGraph) {
-    static_cast<void>(artOf(art));
-    required(isGraph) = 0;
     return kNoErr;
 }
 
@@ -293,22 +173,6 @@ AIErr transferAttributes(AIArtHandle from, AIArtHandle to, ai::uint32 which) {
     return kNoErr;
 }
 
-enum TargetAction : ai::int32 { kReplaceTargets = 1, kAppendTargets = 2, kRemoveTargets = 3 };
-
-AIErr modifyTargetedArtSet(AIArtHandle* list, ai::int32 count, ai::int32 action) {
-    if (action < kReplaceTargets || action > kRemoveTargets) return kNotImplementedErr;
-    if (count < 0) return kBadParameterErr;
-    if (action == kReplaceTargets) {
-        Art& root = currentDocument().root();
-        for (Art* each = &root; each != nullptr; each = nextInPreorder(*each, root))
-            if (each->has(kArtTargeted)) setUserAttributes(*each, kArtTargeted, 0);
-    }
-    const ai::int32 targeted = action == kRemoveTargets ? 0 : kArtTargeted;
-    for (ai::int32 i = 0; i < count; ++i)
-        setUserAttributes(artOf(required(list + i)), kArtTargeted, targeted);
-    return kNoErr;
-}
-
 // Geometry.
 
 AIDoubleRect checkedBounds(AIArtHandle art, const AIRealMatrix* matrix, ai::int32 flags) {
@@ -334,92 +198,11 @@ AIErr getArtBounds(AIArtHandle art, AIRealRect* bounds) {
     return getArtTransformBounds(art, nullptr, kExcludeGuideBounds, bounds);
 }
 
-AIErr getPreciseBounds(AIArtHandle art, AIRealMatrix* matrix, ai::int32 flags,
-                       AIDoubleRect* bounds) {
-    required(bounds) = checkedBounds(art, matrix, flags);
-    return kNoErr;
-}
-
-AIErr getArtRotatedBounds(AIArtHandle art, AIReal angle, ai::int32 flags, AIRealRect* bounds) {
-    const AIReal cosine = std::cos(angle);
-    const AIReal sine = std::sin(angle);
-    AIRealMatrix rotation{cosine, sine, -sine, cosine, 0, 0};
-    return getArtTransformBounds(art, &rotation, flags, bounds);
-}
-
-/// Bounds are never out of date here.
-AIErr setArtBounds(AIArtHandle art) {
-    static_cast<void>(artOf(art));
-    return kNoErr;
-}
-
-bool haveEqualPaths(const Art& a, const Art& b) {
-    const bool comparable =
-        a.type() == b.type() &&
-        (a.type() == kPathArt || a.type() == kGroupArt || a.type() == kCompoundPathArt);
-    if (!comparable || a.content().closed != b.content().closed) return false;
-    const auto samePoint = [](AIRealPoint p, AIRealPoint q) { return p.h == q.h && p.v == q.v; };
-    const auto sameSegment = [&](const AIPathSegment& s, const AIPathSegment& t) {
-        return samePoint(s.p, t.p) && samePoint(s.in, t.in) && samePoint(s.out, t.out);
-    };
-    return std::ranges::equal(a.segments(), b.segments(), sameSegment);
-}
-
-AIBoolean artsHaveEqualPaths(AIArtHandle first, AIArtHandle second) {
-    const Art& a = artOf(first);
-    const Art& b = artOf(second);
-    const Art* inA = &a;
-    const Art* inB = &b;
-    while (inA != nullptr && inB != nullptr && haveEqualPaths(*inA, *inB)) {
-        inA = nextInPreorder(*inA, a);
-        inB = nextInPreorder(*inB, b);
-    }
-    return inA == nullptr && inB == nullptr ? 1 : 0;
-}
-
-// Names, notes, dictionary, time stamp.
+// Notes, dictionary, time stamp.
 
 AIErr getDictionary(AIArtHandle art, AIDictionaryRef* dictionary) {
     required(dictionary) = nullptr;
     *dictionary = static_cast<AIDictionaryRef>(artOf(art).dictionary().lend());
-    return kNoErr;
-}
-
-AIErr setArtName(AIArtHandle handle, const ai::UnicodeString& name) {
-    Art& art = artOf(handle);
-    std::string text = readUtf8(name);
-    if (art.isLayer()) {
-        changeLayer(art, [&](LayerProperties& layer) { layer.title = std::move(text); });
-        return kNoErr;
-    }
-    checkEditable(art);
-    art.write(Edit::Quiet).details.write().name = std::move(text);
-    return kNoErr;
-}
-
-const char* defaultName(const Art& art) {
-    switch (art.type()) {
-    case kGroupArt:
-        return "<Group>";
-    case kPathArt:
-        return art.content().guide ? "<Guide>" : "<Path>";
-    case kCompoundPathArt:
-        return "<Compound Path>";
-    case kTextFrameArt:
-        return "<Text>";
-    case kRasterArt:
-        return "<Image>";
-    default:
-        return "<Object>";
-    }
-}
-
-AIErr getArtName(AIArtHandle handle, ai::UnicodeString& name, AIBoolean* isDefault) {
-    const Art& art = artOf(handle);
-    const std::string& own = art.isLayer() ? art.details().layer.title : art.details().name;
-    const bool unnamed = own.empty() && !art.isLayer();
-    writeUtf8(name, unnamed ? defaultName(art) : std::string_view(own));
-    if (isDefault != nullptr) *isDefault = unnamed ? 1 : 0;
     return kNoErr;
 }
 
@@ -437,33 +220,9 @@ AIErr getNote(AIArtHandle art, ai::UnicodeString& note) {
 
 AIBoolean hasNote(AIArtHandle art) { return artOf(art).details().note.empty() ? 0 : 1; }
 
-void deleteNote(AIArtHandle handle) {
-    Art& art = artOf(handle);
-    checkEditable(art);
-    art.write(Edit::Quiet).details.write().note.clear();
-}
-
 AIErr getArtTimeStamp(AIArtHandle art, std::size_t* stamp) {
     const Art& found = artOf(art);
     required(stamp) = switches().stampsCoverDescendants ? subtreeStamp(found) : found.stamp();
-    return kNoErr;
-}
-
-AIErr noKeyArt(AIArtHandle* art) {
-    required(art) = nullptr;
-    return kNoErr;
-}
-
-AIErr cancelKeyArt() { return kNoErr; }
-
-AIBoolean isPixelPerfect(AIArtHandle art) {
-    static_cast<void>(artOf(art));
-    return 0;
-}
-
-AIErr isArtALayerInSymbol(AIArtHandle art, AIBoolean* isLayer) {
-    static_cast<void>(artOf(art));
-    required(isLayer) = 0;
     return kNoErr;
 }
 
@@ -474,7 +233,6 @@ void installArtSuite(SuiteServer& server) {
     auto table = server.table<S>(kAIArtSuite, kAIArtSuiteVersion);
     expose<&S::NewArt, newArt>(table);
     expose<&S::DisposeArt, disposeArtObject>(table);
-    expose<&S::ReorderArt, reorderArt>(table);
     expose<&S::DuplicateArt, duplicateArtObject>(table);
     expose<&S::GetFirstArtOfLayer, getFirstArtOfLayer>(table);
     expose<&S::GetLayerOfArt, getLayerOfArt>(table);
@@ -484,45 +242,17 @@ void installArtSuite(SuiteServer& server) {
     expose<&S::GetArtParent, getArtParent>(table);
     expose<&S::GetArtFirstChild, getArtFirstChild>(table);
     expose<&S::GetArtSibling, getArtSibling>(table);
-    expose<&S::GetArtPriorSibling, getArtPriorSibling>(table);
     expose<&S::GetArtBounds, getArtBounds>(table);
-    expose<&S::SetArtBounds, setArtBounds>(table);
-    expose<&S::GetArtCenterPointVisible, getCenterVisible>(table);
-    expose<&S::SetArtCenterPointVisible, setCenterVisible>(table);
     expose<&S::GetArtTransformBounds, getArtTransformBounds>(table);
     expose<&S::ValidArt, validArt>(table);
-    expose<&S::GetArtOrder, getArtOrder>(table);
-    expose<&S::GetArtRotatedBounds, getArtRotatedBounds>(table);
-    expose<&S::ArtHasFill, artHasFill>(table);
-    expose<&S::ArtHasStroke, artHasStroke>(table);
-    expose<&S::ArtsHaveEqualPaths, artsHaveEqualPaths>(table);
     expose<&S::GetInsertionPoint, getInsertionPoint>(table);
-    expose<&S::SetInsertionPoint, setInsertionPointAt>(table);
-    expose<&S::GetKeyArt, noKeyArt>(table);
-    expose<&S::CancelKeyArt, cancelKeyArt>(table);
     expose<&S::GetDictionary, getDictionary>(table);
-    expose<&S::SetArtName, setArtName>(table);
-    expose<&S::GetArtName, getArtName>(table);
     expose<&S::IsArtLayerGroup, isArtLayerGroup>(table);
-    expose<&S::ModifyTargetedArtSet, modifyTargetedArtSet>(table);
-    expose<&S::IsArtStyledArt, isArtStyledArt>(table);
     expose<&S::IsArtClipping, isArtClipping>(table);
     expose<&S::TransferAttributes, transferAttributes>(table);
-    expose<&S::GetArtLastChild, getArtLastChild>(table);
-    expose<&S::InsertionPointBadForArtType, insertionPointBadForArtType>(table);
-    expose<&S::PreinsertionFlightCheck, preinsertionFlightCheck>(table);
     expose<&S::SetNote, setNote>(table);
     expose<&S::GetNote, getNote>(table);
     expose<&S::HasNote, hasNote>(table);
-    expose<&S::DeleteNote, deleteNote>(table);
-    expose<&S::GetPreciseArtTransformBounds, getPreciseBounds>(table);
-    expose<&S::UncheckedDisposeArt, uncheckedDisposeArt>(table);
-    expose<&S::ArtIsGraph, artIsGraph>(table);
-    expose<&S::GetDrawingMode, getDrawingMode>(table);
-    expose<&S::GetInsertionPointForDrawingMode, getInsertionPointForMode>(table);
-    expose<&S::GetInsertionPointForCurrentDrawingMode, getInsertionPoint>(table);
-    expose<&S::IsPixelPerfect, isPixelPerfect>(table);
-    expose<&S::IsArtALayerInSymbol, isArtALayerInSymbol>(table);
     expose<&S::GetArtTimeStamp, getArtTimeStamp>(table);
 }
 

@@ -7,9 +7,8 @@ namespace easel {
 void installArtSuites(SuiteServer& server) {
     for (const auto install :
          {installArtSuite, installArtSetSuite, installDictionarySuite, installEntrySuite,
-          installArraySuite, installCountedObjectSuite, installLayerSuite, installPathSuite,
-          installPathStyleSuite, installGroupSuite, installPluginGroupSuite, installSymbolSuite,
-          installRealMathSuite, installRealBezierSuite, installHitTestSuite,
+          installArraySuite, installLayerSuite, installPathSuite, installGroupSuite,
+          installPluginGroupSuite, installSymbolSuite, installRealMathSuite, installHitTestSuite,
           installTransformArtSuite, installHardSoftSuite, installUndoSuite})
         install(server);
 }

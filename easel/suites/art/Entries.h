@@ -35,7 +35,6 @@ private:
 [[nodiscard]] Dictionary& dictionaryOf(ConstAIDictionaryRef dictionary);
 [[nodiscard]] Array& arrayOf(AIArrayRef array);
 [[nodiscard]] AIDictionaryRef lend(const Ref<Dictionary>& dictionary);
-[[nodiscard]] AIArrayRef lend(const Ref<Array>& array);
 
 [[noreturn]] void throwWrongEntryType();
 
@@ -45,10 +44,5 @@ template <typename T> [[nodiscard]] const T& valueAs(const Value& value) {
     if (content == nullptr) throwWrongEntryType();
     return *content;
 }
-
-/// Copies bytes out: `size` is the room in `buffer` and becomes what there is. A null buffer only
-/// asks for the size. Throws 'PARM' when there is too little room.
-void copyBinary(const Binary& binary, void* buffer, std::size_t& size);
-[[nodiscard]] Value binaryValue(const void* bytes, std::size_t size);
 
 } // namespace easel

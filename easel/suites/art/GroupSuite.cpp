@@ -31,18 +31,6 @@ AIErr setGroupClipped(AIArtHandle handle, AIBoolean clipped) {
     return kNoErr;
 }
 
-/// A mask and what it clips always move together.
-AIErr getGroupMaskLock(AIArtHandle group, AIBoolean* locked) {
-    static_cast<void>(groupOf(group));
-    required(locked) = 1;
-    return kNoErr;
-}
-
-AIErr setGroupMaskLock(AIArtHandle group, AIBoolean /*locked*/) {
-    static_cast<void>(groupOf(group));
-    return kNoErr;
-}
-
 } // namespace
 
 void installGroupSuite(SuiteServer& server) {
@@ -50,8 +38,6 @@ void installGroupSuite(SuiteServer& server) {
     auto table = server.table<S>(kAIGroupSuite, kAIGroupSuiteVersion);
     expose<&S::GetGroupClipped, getGroupClipped>(table);
     expose<&S::SetGroupClipped, setGroupClipped>(table);
-    expose<&S::GetGroupMaskLock, getGroupMaskLock>(table);
-    expose<&S::SetGroupMaskLock, setGroupMaskLock>(table);
 }
 
 } // namespace easel

@@ -9,8 +9,8 @@
 namespace easel {
 namespace {
 
-/// How far from the point things are hit when the plug-in does not say, in pixels.
-constexpr AIReal kUsualTolerance = 2;
+/// How far from the point things are hit, in pixels.
+constexpr AIReal kTolerance = 2;
 
 Hit& hitOf(AIHitRef hit) { return static_cast<Hit&>(counted(HandleKind::Hit, Lent::Hit, hit)); }
 
@@ -19,11 +19,10 @@ HitResult resultOf(AIHitRef hit) { return hit != nullptr ? hitOf(hit).result : H
 
 AIArtHandle artIn(AIHitRef hit) { return hit != nullptr ? hitOf(hit).art : nullptr; }
 
-AIErr hitTestEx(AIArtHandle root, const AIRealPoint* point, AIReal tolerance, ai::int32 request,
-                AIHitRef* hit) {
+AIErr hitTestAt(AIArtHandle root, const AIRealPoint* point, ai::int32 request, AIHitRef* hit) {
     required(hit) = nullptr;
     Art& searched = root != nullptr ? artOf(root) : currentDocument().root();
-    const double reach = double{tolerance} / searched.document().viewZoom;
+    const double reach = double{kTolerance} / searched.document().viewZoom;
     const HitResult found = hitTest(searched, required(point), reach, request);
     if (found.art == nullptr && !switches().missIsHitObject) return kNoErr;
     // What the plug-in leaves is dropped when the message ends, so that no term runs out before.
@@ -32,18 +31,6 @@ AIErr hitTestEx(AIArtHandle root, const AIRealPoint* point, AIReal tolerance, ai
     *hit = static_cast<AIHitRef>(object->lend());
     session().messageLoans.keep(std::move(object));
     return kNoErr;
-}
-
-AIErr hitTestUsual(AIArtHandle root, const AIRealPoint* point, ai::int32 request, AIHitRef* hit) {
-    return hitTestEx(root, point, kUsualTolerance, request, hit);
-}
-
-ai::int32 addRef(AIHitRef handle) {
-    if (handle == nullptr) return 0;
-    Hit& hit = hitOf(handle);
-    static_cast<void>(hit.lend());
-    ++hit.added;
-    return static_cast<ai::int32>(hit.lent());
 }
 
 ai::int32 release(AIHitRef handle) {
@@ -57,46 +44,19 @@ ai::int32 release(AIHitRef handle) {
 AIBoolean isHit(AIHitRef hit) { return artIn(hit) != nullptr ? 1 : 0; }
 ai::int32 getType(AIHitRef hit) { return resultOf(hit).type; }
 AIArtHandle getArt(AIHitRef hit) { return artIn(hit); }
-AIRealPoint getPoint(AIHitRef hit) { return realPoint(resultOf(hit).point); }
 ai::int16 getPathSegment(AIHitRef hit) { return resultOf(hit).segment; }
 AIReal getPathParameter(AIHitRef hit) { return static_cast<AIReal>(resultOf(hit).t); }
-
-/// The outermost group that holds what was hit, below its layer; null when there is none.
-AIArtHandle getGroup(AIHitRef hit) {
-    const Art* art = findArt(artIn(hit));
-    AIArtHandle group = nullptr;
-    for (const Art* up = art; up != nullptr && !up->isLayer(); up = up->parent())
-        if (up != art && up->parent() != nullptr) group = up->handle();
-    return group;
-}
-
-AIErr getHitData(AIHitRef hit, AIToolHitData* data) {
-    const HitResult result = resultOf(hit);
-    required(data) = {isHit(hit),
-                      static_cast<ai::int16>(result.type),
-                      result.segment,
-                      artIn(hit),
-                      getGroup(hit),
-                      realPoint(result.point),
-                      static_cast<AIReal>(result.t)};
-    return kNoErr;
-}
 
 } // namespace
 
 void installHitTestSuite(SuiteServer& server) {
     using S = AIHitTestSuite;
     auto table = server.table<S>(kAIHitTestSuite, kAIHitTestSuiteVersion);
-    expose<&S::HitTest, hitTestUsual>(table);
-    expose<&S::HitTestEx, hitTestEx>(table);
-    expose<&S::AddRef, addRef>(table);
+    expose<&S::HitTest, hitTestAt>(table);
     expose<&S::Release, release>(table);
-    expose<&S::GetHitData, getHitData>(table);
     expose<&S::IsHit, isHit>(table);
     expose<&S::GetType, getType>(table);
     expose<&S::GetArt, getArt>(table);
-    expose<&S::GetGroup, getGroup>(table);
-    expose<&S::GetPoint, getPoint>(table);
     expose<&S::GetPathSegment, getPathSegment>(table);
     expose<&S::GetPathParameter, getPathParameter>(table);
 }

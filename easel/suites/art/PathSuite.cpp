@@ -3,7 +3,6 @@
 #include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/document/Attributes.h"
-#include "easel/document/PathMeasure.h"
 #include "easel/document/Session.h"
 #include "easel/suites/art/ArtSuites.h"
 
@@ -104,54 +103,6 @@ AIErr setPathSegments(AIArtHandle handle, ai::int16 first, ai::int16 count,
     return kNoErr;
 }
 
-AIErr insertPathSegments(AIArtHandle handle, ai::int16 after, ai::int16 count,
-                         const AIPathSegment* segments) {
-    Art& path = editablePath(handle);
-    const auto fresh = given(segments, count);
-    if (after < -1 || after >= static_cast<ai::int32>(std::max<std::size_t>(countOf(path), 1)))
-        return kBadParameterErr;
-    checkLength(countOf(path) + fresh.size());
-    const auto place = countOf(path) == 0 ? 0 : after + 1;
-    ArtContent& content = path.write();
-    Segments& all = content.segments.write();
-    all.insert(all.begin() + place, fresh.begin(), fresh.end());
-    if (!content.segmentSelection->empty()) {
-        SegmentSelections& each = content.segmentSelection.write();
-        each.insert(each.begin() + place, fresh.size(), std::uint8_t{kSegmentNotSelected});
-        settleSelection(content);
-    }
-    return kNoErr;
-}
-
-AIErr deletePathSegments(AIArtHandle handle, ai::int16 first, ai::int16 count) {
-    Art& path = editablePath(handle);
-    static_cast<void>(part(path, first, count));
-    ArtContent& content = path.write();
-    const auto erase = [&](auto& list) {
-        list.erase(list.begin() + first, list.begin() + first + count);
-    };
-    erase(content.segments.write());
-    if (!content.segmentSelection->empty()) erase(content.segmentSelection.write());
-    settleSelection(content);
-    return kNoErr;
-}
-
-AIErr reversePathSegments(AIArtHandle handle) {
-    ArtContent& content = editablePath(handle).write();
-    Segments& all = content.segments.write();
-    std::ranges::reverse(all);
-    for (AIPathSegment& segment : all)
-        std::swap(segment.in, segment.out);
-    if (!content.segmentSelection->empty()) std::ranges::reverse(content.segmentSelection.write());
-    return kNoErr;
-}
-
-AIErr getPathBezier(AIArtHandle handle, ai::int16 index, AIRealBezier* bezier) {
-    const Art& path = pathOf(handle);
-    required(bezier) = bezierOf(curveFrom(path, anchorIndex(path, index)));
-    return kNoErr;
-}
-
 // Flags.
 
 AIErr getPathClosed(AIArtHandle path, AIBoolean* closed) {
@@ -201,42 +152,6 @@ AIErr setPathSegmentSelected(AIArtHandle handle, ai::int16 index, ai::int16 sele
     return kNoErr;
 }
 
-AIErr getPathAllSegmentsSelected(AIArtHandle path, AIBoolean* all) {
-    required(all) = pathOf(path).has(kArtFullySelected) ? 1 : 0;
-    return kNoErr;
-}
-
-AIErr getKeySegment(AIArtHandle* path, ai::int16* segment) {
-    required(path) = nullptr;
-    required(segment) = 0;
-    return kNoErr;
-}
-
-AIErr cancelKeySegment() { return kNoErr; }
-
-// Measures.
-
-AIErr getPathArea(AIArtHandle path, AIReal* area) {
-    // The host counts areas enclosed counter-clockwise as negative.
-    required(area) = static_cast<AIReal>(-signedArea(pathOf(path)));
-    return kNoErr;
-}
-
-AIErr getPathLength(AIArtHandle path, AIReal* length, AIReal /*flatness*/) {
-    required(length) = static_cast<AIReal>(pathLength(pathOf(path)));
-    return kNoErr;
-}
-
-AIErr pathHasLength(AIArtHandle path, AIBoolean* hasLength) {
-    required(hasLength) = pathLength(pathOf(path)) > 0 ? 1 : 0;
-    return kNoErr;
-}
-
-AIBoolean isPath9SliceSplitter(AIArtHandle path) {
-    static_cast<void>(pathOf(path));
-    return 0;
-}
-
 } // namespace
 
 void installPathSuite(SuiteServer& server) {
@@ -246,24 +161,13 @@ void installPathSuite(SuiteServer& server) {
     expose<&S::SetPathSegmentCount, setPathSegmentCount>(table);
     expose<&S::GetPathSegments, getPathSegments>(table);
     expose<&S::SetPathSegments, setPathSegments>(table);
-    expose<&S::InsertPathSegments, insertPathSegments>(table);
-    expose<&S::DeletePathSegments, deletePathSegments>(table);
     expose<&S::GetPathClosed, getPathClosed>(table);
     expose<&S::SetPathClosed, setPathClosed>(table);
     expose<&S::GetPathGuide, getPathGuide>(table);
     expose<&S::SetPathGuide, setPathGuide>(table);
     expose<&S::GetPathSegmentSelected, getPathSegmentSelected>(table);
     expose<&S::SetPathSegmentSelected, setPathSegmentSelected>(table);
-    expose<&S::ReversePathSegments, reversePathSegments>(table);
-    expose<&S::GetPathArea, getPathArea>(table);
-    expose<&S::GetPathLength, getPathLength>(table);
-    expose<&S::GetPathBezier, getPathBezier>(table);
-    expose<&S::PathHasLength, pathHasLength>(table);
     expose<&S::GetPathIsClip, getPathIsClip>(table);
-    expose<&S::GetPathAllSegmentsSelected, getPathAllSegmentsSelected>(table);
-    expose<&S::GetKeySegment, getKeySegment>(table);
-    expose<&S::CancelKeySegment, cancelKeySegment>(table);
-    expose<&S::IsPath9SliceSplitter, isPath9SliceSplitter>(table);
 }
 
 } // namespace easel

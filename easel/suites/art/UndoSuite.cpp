@@ -21,8 +21,6 @@ AIErr undoChanges() {
     return kNoErr;
 }
 
-AIErr purgeAllUndos() { return kNoErr; }
-
 AIErr setKind(ai::int32 kind) {
     if (kind < kStandardUndoContext || kind > kAppendUndoContext) return kBadParameterErr;
     // Asked for in a nested context it has no effect, which is no error.
@@ -34,39 +32,9 @@ AIErr setSilent(AIBoolean silent) {
     return setKind(silent != 0 ? kSilentUndoContext : kStandardUndoContext);
 }
 
-AIErr isSilent(AIBoolean* silent) {
-    required(silent) = log().kind() == kSilentUndoContext ? 1 : 0;
-    return kNoErr;
-}
-
 AIErr countTransactions(ai::int32* past, ai::int32* future) {
     if (past != nullptr) *past = log().pastSteps();
     if (future != nullptr) *future = log().futureSteps();
-    return kNoErr;
-}
-
-AIErr setTag(char* tag, ai::int32 number) {
-    log().setTag(&required(tag), number);
-    return kNoErr;
-}
-
-AIErr setTagUnicode(const ai::UnicodeString& tag, ai::int32 number) {
-    log().setTag(readUtf8(tag), number);
-    return kNoErr;
-}
-
-AIErr getNthTag(ai::int32 stepsBack, char** tag, ai::int32* number) {
-    auto [text, found] = log().tagOfStep(stepsBack);
-    auto kept = std::make_shared<const std::string>(std::move(text));
-    required(tag) = const_cast<char*>(session().messageLoans.characters(std::move(kept)));
-    required(number) = found;
-    return kNoErr;
-}
-
-AIErr getNthTagUnicode(ai::int32 stepsBack, ai::UnicodeString& tag, ai::int32* number) {
-    const auto [text, found] = log().tagOfStep(stepsBack);
-    required(number) = found;
-    writeUtf8(tag, text);
     return kNoErr;
 }
 
@@ -77,15 +45,9 @@ void installUndoSuite(SuiteServer& server) {
     auto table = server.table<S>(kAIUndoSuite, kAIUndoSuiteVersion);
     expose<&S::SetUndoTextUS, setUndoText>(table);
     expose<&S::UndoChanges, undoChanges>(table);
-    expose<&S::PurgeAllUndos, purgeAllUndos>(table);
     expose<&S::SetSilent, setSilent>(table);
     expose<&S::SetKind, setKind>(table);
-    expose<&S::SetTag, setTag>(table);
     expose<&S::CountTransactions, countTransactions>(table);
-    expose<&S::GetNthTransactionTag, getNthTag>(table);
-    expose<&S::IsSilent, isSilent>(table);
-    expose<&S::SetTagUS, setTagUnicode>(table);
-    expose<&S::GetNthTransactionTagUS, getNthTagUnicode>(table);
 }
 
 } // namespace easel

@@ -7,7 +7,6 @@
 #include "easel/suites/runtime/RuntimeSuites.h"
 
 #include <algorithm>
-#include <array>
 
 namespace easel {
 namespace {
@@ -16,31 +15,18 @@ using Kind = DrawCommand::Kind;
 
 constexpr ai::int32 kMostDashes = 12;
 constexpr AIErr kDashTooBig = fourCharacterCode("DBIG");
-constexpr AIErr kDashBufferTooShort = fourCharacterCode("SHRT");
 constexpr ai::uint32 kSmoothOption = 1;
-/// Points of the presets small, medium and large.
-constexpr std::array<AIReal, 3> kPresetSizes = {9, 11, 13};
 
 template <AIReal DrawStyle::*Member> void setReal(AIAnnotatorDrawer* drawer, AIReal value) {
     required(drawer).style.*Member = value;
-}
-template <AIReal DrawStyle::*Member> AIReal getReal(AIAnnotatorDrawer* drawer) {
-    return required(drawer).style.*Member;
 }
 AIErr setOpacity(AIAnnotatorDrawer* drawer, AIReal opacity) {
     required(drawer).style.opacity = std::clamp(opacity, AIReal{0}, AIReal{1});
     return kNoErr;
 }
-template <bool DrawStyle::*Member> AIBoolean getFlag(AIAnnotatorDrawer* drawer) {
-    return required(drawer).style.*Member ? 1 : 0;
-}
 
 void setColour(AIAnnotatorDrawer* drawer, const AIRGBColor& colour) {
     required(drawer).style.colour = colour;
-}
-
-void getColour(AIAnnotatorDrawer* drawer, AIRGBColor& colour) {
-    colour = required(drawer).style.colour;
 }
 
 void setDashed(AIAnnotatorDrawer* drawer, AIBoolean dashed) {
@@ -96,28 +82,10 @@ AIErr setDashes(AIAnnotatorDrawer* drawer, AIFloat* dashes, ai::int32 count) {
     return kNoErr;
 }
 
-AIErr getDashes(AIAnnotatorDrawer* drawer, AIFloat* dashes, ai::int32& count) {
-    const std::vector<AIFloat>& pattern = required(drawer).style.dashes;
-    const auto room = std::exchange(count, static_cast<ai::int32>(pattern.size()));
-    if (room < count) throw ai::Error{kDashBufferTooShort};
-    std::copy(pattern.begin(), pattern.end(), &required(dashes));
-    return kNoErr;
-}
-
 AIErr drawText(AIAnnotatorDrawer* drawer, const ai::UnicodeString& text,
                const AIPoint& bottomLeft) {
     return add(drawer,
                {.kind = Kind::Text, .style = {}, .points = {bottomLeft}, .text = readString(text)});
-}
-
-AIErr drawTextAligned(AIAnnotatorDrawer* drawer, const ai::UnicodeString& text,
-                      AIHorizAlignment horizontal, AIVertAlignment vertical, const AIRect& rect) {
-    return add(drawer, {.kind = Kind::TextInRect,
-                        .style = {},
-                        .points = cornersOf(rect),
-                        .text = readString(text),
-                        .horizontal = horizontal,
-                        .vertical = vertical});
 }
 
 AIErr getTextBounds(AIAnnotatorDrawer* drawer, const ai::UnicodeString& text, AIPoint* location,
@@ -135,49 +103,8 @@ AIErr getTextBounds(AIAnnotatorDrawer* drawer, const ai::UnicodeString& text, AI
     return kNoErr;
 }
 
-AIErr setFontPreset(AIAnnotatorDrawer* drawer, AIAnnotatorFont preset) {
-    if (preset < 0 || preset >= std::ssize(kPresetSizes)) throw ai::Error{kBadParameterErr};
-    required(drawer).style.fontSize = kPresetSizes[static_cast<std::size_t>(preset)];
-    return kNoErr;
-}
-
-AIErr setFontByName(AIAnnotatorDrawer* drawer, const ai::UnicodeString& name) {
-    required(drawer).style.fontName = readString(name);
-    return kNoErr;
-}
-
-void getFontName(AIAnnotatorDrawer* drawer, ai::UnicodeString& name) {
-    writeString(name, required(drawer).style.fontName);
-}
-
 template <Kind Which> void addMark(AIAnnotatorDrawer* drawer) {
     static_cast<void>(add(drawer, {.kind = Which, .style = {}}));
-}
-
-AIErr setHighlight(AIAnnotatorDrawer* drawer, AIBoolean highlight) {
-    required(drawer).style.highlight = highlight != 0;
-    return kNoErr;
-}
-
-AIErr drawPng(AIAnnotatorDrawer* drawer, const ai::uint8* data, ai::uint32 size,
-              const AIPoint& location) {
-    return add(drawer, {.kind = Kind::Png,
-                        .style = {},
-                        .points = {location},
-                        .png = {&required(data), data + size}});
-}
-
-AIErr drawPngCentred(AIAnnotatorDrawer* drawer, const ai::uint8* data, ai::uint32 size,
-                     const AIRect& rect) {
-    return add(drawer, {.kind = Kind::PngInRect,
-                        .style = {},
-                        .points = cornersOf(rect),
-                        .png = {&required(data), data + size}});
-}
-
-AIErr getPortOptions(AIAnnotatorDrawer* drawer, ai::uint32 mask, ai::uint32& options) {
-    options = mask & (required(drawer).style.smooth ? kSmoothOption : 0);
-    return kNoErr;
 }
 
 AIErr setPortOptions(AIAnnotatorDrawer* drawer, ai::uint32 mask, ai::uint32 options) {
@@ -191,37 +118,22 @@ void installAnnotatorDrawerSuite(SuiteServer& server) {
     using Suite = AIAnnotatorDrawerSuite;
     auto table = server.table<Suite>(kAIAnnotatorDrawerSuite, kAIAnnotatorDrawerSuiteVersion);
     expose<&Suite::SetColor, setColour>(table);
-    expose<&Suite::GetColor, getColour>(table);
     expose<&Suite::SetLineWidth, setReal<&DrawStyle::lineWidth>>(table);
-    expose<&Suite::GetLineWidth, getReal<&DrawStyle::lineWidth>>(table);
     expose<&Suite::SetLineDashed, setDashed>(table);
-    expose<&Suite::GetLineDashed, getFlag<&DrawStyle::dashed>>(table);
     expose<&Suite::DrawLine, drawLine>(table);
     expose<&Suite::DrawRect, drawRect>(table);
     expose<&Suite::DrawPolygon, drawPolygon>(table);
     expose<&Suite::DrawEllipse, drawEllipse>(table);
     expose<&Suite::DrawBezier, drawBezier>(table);
     expose<&Suite::SetLineDashedEx, setDashes>(table);
-    expose<&Suite::GetLineDashedEx, getDashes>(table);
     expose<&Suite::DrawText, drawText>(table);
-    expose<&Suite::DrawTextAligned, drawTextAligned>(table);
     expose<&Suite::GetTextBounds, getTextBounds>(table);
     expose<&Suite::SetFontSize, setReal<&DrawStyle::fontSize>>(table);
-    expose<&Suite::GetFontSize, getReal<&DrawStyle::fontSize>>(table);
-    expose<&Suite::SetFontPreset, setFontPreset>(table);
-    expose<&Suite::SetFontByName, setFontByName>(table);
-    expose<&Suite::GetFontName, getFontName>(table);
     expose<&Suite::DefineClipStart, addMark<Kind::ClipStart>>(table);
     expose<&Suite::DefineClipEnd, addMark<Kind::ClipEnd>>(table);
     expose<&Suite::ClearClip, addMark<Kind::ClipClear>>(table);
-    expose<&Suite::SetHighlightMode, setHighlight>(table);
-    expose<&Suite::GetHighlightMode, getFlag<&DrawStyle::highlight>>(table);
-    expose<&Suite::DrawPNGImage, drawPng>(table);
-    expose<&Suite::DrawPNGImageCentered, drawPngCentred>(table);
-    expose<&Suite::GetPortOptions, getPortOptions>(table);
     expose<&Suite::SetPortOptions, setPortOptions>(table);
     expose<&Suite::SetOpacity, setOpacity>(table);
-    expose<&Suite::GetOpacity, getReal<&DrawStyle::opacity>>(table);
 }
 
 } // namespace easel

@@ -35,26 +35,12 @@ AIErr popAppContext(AIAppContextHandle context) {
     return kNoErr;
 }
 
-AIErr suspendAppContext(AISuspendedAppContext* suspended) {
-    required(suspended) = host().contexts.suspend();
-    return kNoErr;
-}
-
-AIErr resumeAppContext(AISuspendedAppContext suspended, AIDocumentHandle document) {
-    if (document != nullptr) host().contexts.switchTo(&documentOf(document));
-    host().contexts.resume(suspended);
-    return kNoErr;
-}
-
 AIErr allowAllChanges(AIBoolean allow, AIBoolean* previous) {
     const bool before = host().contexts.allowAllChanges();
     if (previous != nullptr) *previous = before ? 1 : 0;
     host().contexts.setAllowAllChanges(allow != 0);
     return kNoErr;
 }
-
-/// Easel paints after each message anyway.
-AIErr syncAndDraw() { return kNoErr; }
 
 } // namespace
 
@@ -63,10 +49,7 @@ void installContextSuite(SuiteServer& server) {
     expose<&AIAppContextSuite::GetPlatformAppWindow, getPlatformAppWindow>(table);
     expose<&AIAppContextSuite::PushAppContext, pushAppContext>(table);
     exposeEnding<&AIAppContextSuite::PopAppContext, popAppContext>(table);
-    expose<&AIAppContextSuite::SuspendAppContext, suspendAppContext>(table);
-    expose<&AIAppContextSuite::ResumeAppContext, resumeAppContext>(table);
     expose<&AIAppContextSuite::AllowAllChanges, allowAllChanges>(table);
-    expose<&AIAppContextSuite::SyncAndDraw, syncAndDraw>(table);
 }
 
 } // namespace easel

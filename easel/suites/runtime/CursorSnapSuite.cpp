@@ -12,19 +12,8 @@ namespace {
 CursorSnap& snapping() { return host().cursorSnap; }
 
 AIBoolean useSmartGuides(AIDocumentViewHandle view) {
-    return snapping().enabled && !host().view(view).showGrid ? 1 : 0;
-}
-
-AIErr clearCustom() {
-    snapping().custom.clear();
-    return kNoErr;
-}
-
-AIErr setCustom(ai::int32 count, const AICursorConstraint* constraints) {
-    if (count < 0) throw ai::Error{kBadParameterErr};
-    if (count == 0) return clearCustom();
-    snapping().custom.assign(&required(constraints), constraints + count);
-    return kNoErr;
+    static_cast<void>(host().view(view));
+    return snapping().enabled ? 1 : 0;
 }
 
 /// Where hosts take the point by value, its two floats stand in the register that otherwise holds
@@ -43,21 +32,12 @@ AIErr track(AIDocumentViewHandle view, const AIRealPoint& argument, const AIEven
     return kNoErr;
 }
 
-AIErr hitTrack(AIDocumentViewHandle view, const AIRealPoint& point, const AIEvent* event,
-               const char* control, AIRealPoint* result, AIBoolean /*magnify*/) {
-    return track(view, point, event, control, result);
-}
-
 } // namespace
 
 void installCursorSnapSuite(SuiteServer& server) {
     auto table = server.table<AICursorSnapSuite>(kAICursorSnapSuite, kAICursorSnapSuiteVersion);
     expose<&AICursorSnapSuite::UseSmartGuides, useSmartGuides>(table);
-    expose<&AICursorSnapSuite::Reset, clearCustom>(table);
-    expose<&AICursorSnapSuite::ClearCustom, clearCustom>(table);
-    expose<&AICursorSnapSuite::SetCustom, setCustom>(table);
     expose<&AICursorSnapSuite::Track, track>(table);
-    expose<&AICursorSnapSuite::HitTrack, hitTrack>(table);
 }
 
 } // namespace easel

@@ -6,7 +6,6 @@
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIFilePathSuite.h"
 
-#include <algorithm>
 #include <system_error>
 
 /// Paths in the notation of the system that Easel runs on.
@@ -36,38 +35,10 @@ AIErr copy(const ai::FilePath& source, ai::FilePath& destination) {
     return kNoErr;
 }
 
-AIBool8 isEmpty(const ai::FilePath& path) { return readPath(path).empty() ? 1 : 0; }
-
-void makeEmpty(ai::FilePath& path) { writePath(path, {}); }
-
 Path resolved(const Path& path, bool resolveLinks) {
     std::error_code ignored; // what does not exist resolves to itself
     const Path target = resolveLinks ? std::filesystem::weakly_canonical(path, ignored) : path;
     return target.empty() ? path : target;
-}
-
-AIBool8 equal(const ai::FilePath& first, const ai::FilePath& second, AIBool8 resolveLinks) {
-    return resolved(readPath(first), resolveLinks != 0) ==
-           resolved(readPath(second), resolveLinks != 0);
-}
-
-AIBool8 lessThan(const ai::FilePath& first, const ai::FilePath& second) {
-    return readPath(first) < readPath(second);
-}
-
-/// On some systems one and the same.
-constexpr char32_t kDelimiters[] = {U'/', static_cast<char32_t>(Path::preferred_separator)};
-
-bool isDelimiter(char32_t character) { return std::ranges::count(kDelimiters, character) != 0; }
-
-AIBool8 startsWithDelimiter(const ai::FilePath& path) {
-    const std::u32string text = textOf(readPath(path));
-    return !text.empty() && isDelimiter(text.front());
-}
-
-AIBool8 endsWithDelimiter(const ai::FilePath& path) {
-    const std::u32string text = textOf(readPath(path));
-    return !text.empty() && isDelimiter(text.back());
 }
 
 /// An empty addend leaves a delimiter at the end.
@@ -75,16 +46,6 @@ AIErr addComponent(const ai::UnicodeString& addend, ai::FilePath& path) {
     writePath(path, (readPath(path) / pathOf(addend)).make_preferred());
     return kNoErr;
 }
-
-void removeComponent(ai::FilePath& path) { writePath(path, readPath(path).parent_path()); }
-
-void addExtension(const ai::UnicodeString& extension, ai::FilePath& path) {
-    Path extended = readPath(path);
-    if (!readString(extension).starts_with(U'.')) extended += '.';
-    writePath(path, extended += pathOf(extension));
-}
-
-void removeExtension(ai::FilePath& path) { writePath(path, readPath(path).replace_extension()); }
 
 AIBool8 exists(const ai::FilePath& object, AIBool8 resolveLinks, ai::UnicodeString* longPath,
                AIBool8* isFile) {
@@ -97,41 +58,13 @@ AIBool8 exists(const ai::FilePath& object, AIBool8 resolveLinks, ai::UnicodeStri
     return 1;
 }
 
-AIErr resolve(ai::FilePath& path) {
-    writePath(path, resolved(readPath(path), true));
-    return kNoErr;
-}
-
 AIErr set(const ai::UnicodeString& text, AIBool8 /*expandName*/, ai::FilePath& path) {
     writePath(path, pathOf(text).make_preferred());
     return kNoErr;
 }
 
-AIErr getFileName(const ai::FilePath& path, AIBool8 /*displayName*/, ai::UnicodeString& name) {
-    writeString(name, textOf(readPath(path).filename()));
-    return kNoErr;
-}
-
-AIErr getFileNameNoExtension(const ai::FilePath& path, ai::UnicodeString& name) {
-    writeString(name, textOf(readPath(path).stem()));
-    return kNoErr;
-}
-
-/// Without the dot.
-AIErr getExtension(const ai::FilePath& path, ai::UnicodeString& extension) {
-    const std::u32string text = textOf(readPath(path).extension());
-    writeString(extension, text.empty() ? text : text.substr(1));
-    return kNoErr;
-}
-
 AIErr getFullPath(const ai::FilePath& path, AIBool8 /*displayName*/, ai::UnicodeString& text) {
     writeString(text, textOf(readPath(path)));
-    return kNoErr;
-}
-
-/// Ends with the delimiter.
-AIErr getDirectory(const ai::FilePath& path, AIBool8 /*displayName*/, ai::UnicodeString& text) {
-    writeString(text, textOf((readPath(path).parent_path() / Path{}).make_preferred()));
     return kNoErr;
 }
 
@@ -143,8 +76,6 @@ AIErr getParent(const ai::FilePath& path, ai::FilePath& parent) {
     return kNoErr;
 }
 
-char getDelimiter() { return static_cast<char>(Path::preferred_separator); }
-
 } // namespace
 
 void installFilePathSuite(SuiteServer& server) {
@@ -152,26 +83,11 @@ void installFilePathSuite(SuiteServer& server) {
     expose<&AIFilePathSuite::NewFilePath, newPath>(table);
     expose<&AIFilePathSuite::DeleteFilePath, deleteFilePath>(table);
     expose<&AIFilePathSuite::Copy, copy>(table);
-    expose<&AIFilePathSuite::IsEmpty, isEmpty>(table);
-    expose<&AIFilePathSuite::MakeEmpty, makeEmpty>(table);
-    expose<&AIFilePathSuite::Equal, equal>(table);
-    expose<&AIFilePathSuite::LessThan, lessThan>(table);
-    expose<&AIFilePathSuite::StartsWithDelimiter, startsWithDelimiter>(table);
-    expose<&AIFilePathSuite::EndsWithDelimiter, endsWithDelimiter>(table);
     expose<&AIFilePathSuite::AddComponent, addComponent>(table);
-    expose<&AIFilePathSuite::RemoveComponent, removeComponent>(table);
-    expose<&AIFilePathSuite::AddExtension, addExtension>(table);
-    expose<&AIFilePathSuite::RemoveExtension, removeExtension>(table);
     expose<&AIFilePathSuite::Exists, exists>(table);
-    expose<&AIFilePathSuite::Resolve, resolve>(table);
     expose<&AIFilePathSuite::Set, set>(table);
-    expose<&AIFilePathSuite::GetFileName, getFileName>(table);
-    expose<&AIFilePathSuite::GetFileNameNoExt, getFileNameNoExtension>(table);
-    expose<&AIFilePathSuite::GetFileExtension, getExtension>(table);
     expose<&AIFilePathSuite::GetFullPath, getFullPath>(table);
-    expose<&AIFilePathSuite::GetDirectory, getDirectory>(table);
     expose<&AIFilePathSuite::GetParent, getParent>(table);
-    expose<&AIFilePathSuite::GetDelimiter, getDelimiter>(table);
 }
 
 } // namespace easel

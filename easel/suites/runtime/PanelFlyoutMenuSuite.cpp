@@ -26,16 +26,10 @@ void requireNewId(MenuRef menu, ai::uint32 id) {
         throw ai::Error{kBadParameterErr};
 }
 
-void insert(MenuRef menu, std::vector<FlyoutItem>::iterator before, FlyoutItem item) {
+void append(MenuRef menu, FlyoutItem item) {
     requireNewId(menu, item.id);
-    at(menu).items.insert(before, std::move(item));
+    at(menu).items.push_back(std::move(item));
 }
-
-FlyoutItem named(ai::uint32 id, const ai::UnicodeString& text) {
-    return {.id = id, .text = readString(text)};
-}
-
-FlyoutItem separator(ai::uint32 id) { return {.id = id, .text = {}, .isSeparator = true}; }
 
 AIErr create(MenuRef& menu) {
     menu = host().panels.addMenu(host().currentPlugin());
@@ -47,28 +41,13 @@ AIErr destroy(MenuRef menu) {
     return kNoErr;
 }
 
-AIErr size(MenuRef menu, ai::uint32& count) {
-    count = static_cast<ai::uint32>(at(menu).items.size());
-    return kNoErr;
-}
-
 AIErr appendItem(MenuRef menu, ai::uint32 id, const ai::UnicodeString& text) {
-    insert(menu, at(menu).items.end(), named(id, text));
+    append(menu, {.id = id, .text = readString(text)});
     return kNoErr;
 }
 
 AIErr appendSeparator(MenuRef menu, ai::uint32 id) {
-    insert(menu, at(menu).items.end(), separator(id));
-    return kNoErr;
-}
-
-AIErr insertItem(MenuRef menu, ai::uint32 before, ai::uint32 id, const ai::UnicodeString& text) {
-    insert(menu, at(menu).withId(before), named(id, text));
-    return kNoErr;
-}
-
-AIErr insertSeparator(MenuRef menu, ai::uint32 before, ai::uint32 id) {
-    insert(menu, at(menu).withId(before), separator(id));
+    append(menu, {.id = id, .text = {}, .isSeparator = true});
     return kNoErr;
 }
 
@@ -76,12 +55,6 @@ AIErr removeItem(MenuRef menu, ai::uint32 index) {
     static_cast<void>(itemAt(menu, index));
     auto& items = at(menu).items;
     items.erase(items.begin() + static_cast<std::ptrdiff_t>(index));
-    return kNoErr;
-}
-
-template <typename Value, Value FlyoutItem::*Member>
-AIErr get(MenuRef menu, ai::uint32 index, Value& value) {
-    value = itemAt(menu, index).*Member;
     return kNoErr;
 }
 
@@ -96,33 +69,10 @@ AIErr setText(MenuRef menu, ai::uint32 index, const ai::UnicodeString& text) {
     return kNoErr;
 }
 
-AIErr getText(MenuRef menu, ai::uint32 index, ai::UnicodeString& text) {
-    writeString(text, itemAt(menu, index).text);
-    return kNoErr;
-}
-
-AIErr isSeparator(MenuRef menu, ai::uint32 index, AIBoolean& answer) {
-    answer = itemAt(menu, index).isSeparator ? 1 : 0;
-    return kNoErr;
-}
-
 AIErr setSubMenu(MenuRef menu, ai::uint32 index, MenuRef submenu) {
     static_cast<void>(at(submenu));
     if (submenu == menu) throw ai::Error{kBadParameterErr};
     itemAt(menu, index).submenu = submenu;
-    return kNoErr;
-}
-
-AIErr detachSubMenu(MenuRef menu, ai::uint32 index) {
-    itemAt(menu, index).submenu = nullptr;
-    return kNoErr;
-}
-
-AIErr setId(MenuRef menu, ai::uint32 index, ai::uint32 id) {
-    FlyoutItem& item = itemAt(menu, index);
-    if (item.id == id) return kNoErr;
-    requireNewId(menu, id);
-    item.id = id;
     return kNoErr;
 }
 
@@ -134,24 +84,13 @@ void installPanelFlyoutMenuSuite(SuiteServer& server) {
     auto table = server.table<Suite>(kAIPanelFlyoutMenuSuite, kAIPanelFlyoutMenuSuiteVersion);
     expose<&Suite::Create, create>(table);
     exposeEnding<&Suite::Destroy, destroy>(table);
-    expose<&Suite::Size, size>(table);
     expose<&Suite::AppendItem, appendItem>(table);
     expose<&Suite::AppendSeparator, appendSeparator>(table);
-    expose<&Suite::InsertItem, insertItem>(table);
-    expose<&Suite::InsertSeparator, insertSeparator>(table);
     expose<&Suite::RemoveItem, removeItem>(table);
     expose<&Suite::SetItemEnabled, set<AIBoolean, &FlyoutItem::enabled>>(table);
-    expose<&Suite::GetItemEnabled, get<AIBoolean, &FlyoutItem::enabled>>(table);
     expose<&Suite::SetItemMark, set<Mark, &FlyoutItem::mark>>(table);
-    expose<&Suite::GetItemMark, get<Mark, &FlyoutItem::mark>>(table);
     expose<&Suite::SetItemText, setText>(table);
-    expose<&Suite::GetItemText, getText>(table);
-    expose<&Suite::IsItemSeparator, isSeparator>(table);
     expose<&Suite::SetItemSubMenu, setSubMenu>(table);
-    expose<&Suite::GetItemSubMenu, get<MenuRef, &FlyoutItem::submenu>>(table);
-    expose<&Suite::DetachItemSubMenu, detachSubMenu>(table);
-    expose<&Suite::SetItemID, setId>(table);
-    expose<&Suite::GetItemID, get<ai::uint32, &FlyoutItem::id>>(table);
 }
 
 } // namespace easel

@@ -48,25 +48,8 @@ AIErr setTitle(AIPanelRef panel, const ai::UnicodeString& title) {
     return kNoErr;
 }
 
-AIErr getTitle(AIPanelRef panel, ai::UnicodeString& title) {
-    writeString(title, at(panel).title);
-    return kNoErr;
-}
-
 template <typename Value, Value Panel::*Member> AIErr get(AIPanelRef panel, Value& value) {
     value = at(panel).*Member;
-    return kNoErr;
-}
-
-template <auto Member> AIErr getSize(AIPanelRef panel, AISize& size) {
-    size = at(panel).sizes.*Member;
-    return kNoErr;
-}
-
-/// A new limit may make the panel another size.
-template <auto Member> AIErr setLimit(AIPanelRef panel, const AISize& size) {
-    at(panel).sizes.*Member = size;
-    host().panels.resize(panel, at(panel).size);
     return kNoErr;
 }
 
@@ -100,17 +83,6 @@ AIErr setStateCount(AIPanelRef panel, ai::int16 count) {
     return kNoErr;
 }
 
-AIErr setVerticalStep(AIPanelRef panel, AIReal step) {
-    if (!(step > 0)) throw ai::Error{kBadParameterErr};
-    at(panel).sizes.step = step;
-    return kNoErr;
-}
-
-AIErr getVerticalStep(AIPanelRef panel, AIReal& step) {
-    step = at(panel).sizes.step;
-    return kNoErr;
-}
-
 AIErr setFlyoutMenu(AIPanelRef panel, AIPanelFlyoutMenuRef menu) {
     host().panels.setFlyout(panel, menu);
     return kNoErr;
@@ -118,12 +90,6 @@ AIErr setFlyoutMenu(AIPanelRef panel, AIPanelFlyoutMenuRef menu) {
 
 AIErr minimize(AIPanelRef panel, AIBoolean minimized) {
     host().panels.minimize(panel, minimized != 0);
-    return kNoErr;
-}
-
-AIErr move(AIPanelRef panel, AIPoint topLeft) {
-    at(panel).position = topLeft;
-    at(panel).window->move(topLeft);
     return kNoErr;
 }
 
@@ -142,17 +108,8 @@ using Suite = AIPanelSuite;
 
 void exposeSizes(SuiteTable<Suite>& table) {
     expose<&Suite::GetSize, get<AISize, &Panel::size>>(table);
-    expose<&Suite::SetMinimumSize, setLimit<&PanelSizes::least>>(table);
-    expose<&Suite::GetMinimumSize, getSize<&PanelSizes::least>>(table);
-    expose<&Suite::SetMaximumSize, setLimit<&PanelSizes::greatest>>(table);
-    expose<&Suite::GetMaximumSize, getSize<&PanelSizes::greatest>>(table);
-    expose<&Suite::SetPreferredSizes, setPreferredSizes>(table);
     expose<&Suite::SetSizes, setSizes>(table);
     expose<&Suite::SetSize, setSize>(table);
-    expose<&Suite::GetPreferredConstrainedSize, getSize<&PanelSizes::docked>>(table);
-    expose<&Suite::GetPreferredUnconstrainedSize, getSize<&PanelSizes::floating>>(table);
-    expose<&Suite::SetVerticalStepSize, setVerticalStep>(table);
-    expose<&Suite::GetVerticalStepSize, getVerticalStep>(table);
 }
 
 void exposeCallbacks(SuiteTable<Suite>& table) {
@@ -183,16 +140,12 @@ void installPanelSuite(SuiteServer& server) {
     expose<&Suite::GetUserData, get<AIPanelUserData, &Panel::data>>(table);
     expose<&Suite::SetUserData, setUserData>(table);
     expose<&Suite::SetTitle, setTitle>(table);
-    expose<&Suite::GetTitle, getTitle>(table);
     expose<&Suite::SetCurrentState, setCurrentState>(table);
     expose<&Suite::GetCurrentState, get<ai::int16, &Panel::state>>(table);
     expose<&Suite::SetStateCount, setStateCount>(table);
-    expose<&Suite::GetStateCount, get<ai::int16, &Panel::stateCount>>(table);
     expose<&Suite::SetFlyoutMenu, setFlyoutMenu>(table);
-    expose<&Suite::GetFlyoutMenu, get<AIPanelFlyoutMenuRef, &Panel::flyout>>(table);
     expose<&Suite::IsMinimized, get<AIBoolean, &Panel::minimized>>(table);
     expose<&Suite::ChangeIsMinimized, minimize>(table);
-    expose<&Suite::Move, move>(table);
     exposeSizes(table);
     exposeCallbacks(table);
 }

@@ -1,6 +1,5 @@
 #include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
-#include "easel/core/HostPath.h"
 #include "easel/core/HostString.h"
 #include "easel/runtime/Host.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
@@ -93,65 +92,6 @@ AIErr putString(const char* prefix, const char* suffix, const char* value) {
     return put(prefix, suffix, std::string(&required(value)));
 }
 
-AIErr getUnicode(const char* prefix, const char* suffix, ai::UnicodeString& value) {
-    const Name name = nameOf(prefix, suffix);
-    if (const auto text = host().preferences.text(name.prefix, name.suffix))
-        writeUtf8(value, *text);
-    return answer(name);
-}
-
-AIErr putUnicode(const char* prefix, const char* suffix, const ai::UnicodeString& value) {
-    return put(prefix, suffix, readUtf8(value));
-}
-
-AIErr getPath(const char* prefix, const char* suffix, ai::FilePath& value) {
-    const Name name = nameOf(prefix, suffix);
-    if (const auto text = host().preferences.text(name.prefix, name.suffix))
-        writePath(value, std::filesystem::path(std::u8string(text->begin(), text->end())));
-    return answer(name);
-}
-
-AIErr putPath(const char* prefix, const char* suffix, const ai::FilePath& value) {
-    const std::u8string text = readPath(value).u8string();
-    return put(prefix, suffix, std::string(text.begin(), text.end()));
-}
-
-AIErr getBlock(const char* prefix, const char* suffix, void* block, ai::int32 size) {
-    const Name name = nameOf(prefix, suffix);
-    const auto* const value = find(name);
-    const auto* const bytes = value == nullptr ? nullptr : std::get_if<Preferences::Bytes>(value);
-    if (bytes != nullptr && size > 0)
-        std::copy_n(bytes->begin(),
-                    std::min<std::size_t>(bytes->size(), static_cast<std::size_t>(size)),
-                    &required(static_cast<ai::uint8*>(block)));
-    return answer(name);
-}
-
-AIErr putBlock(const char* prefix, const char* suffix, void* block, ai::int32 size) {
-    if (size < 0) throw ai::Error{kBadParameterErr};
-    const auto* const bytes = &required(static_cast<const ai::uint8*>(block));
-    return put(prefix, suffix, Preferences::Bytes(bytes, bytes + size));
-}
-
-template <typename Record> AIErr getRecord(const char* prefix, const char* suffix, Record* value) {
-    const Name name = nameOf(prefix, suffix);
-    Record& result = required(value);
-    const auto* const stored = find(name);
-    if (const auto* const record = stored == nullptr ? nullptr : std::get_if<Record>(stored))
-        result = *record;
-    return answer(name);
-}
-
-template <typename Record> AIErr putRecord(const char* prefix, const char* suffix, Record* value) {
-    return put(prefix, suffix, required(value));
-}
-
-AIErr removePreference(const char* prefix, const char* suffix) {
-    const Name name = nameOf(&required(prefix), suffix); // never the application's own
-    host().preferences.remove(name.prefix, name.suffix);
-    return kNoErr;
-}
-
 } // namespace
 
 void installPreferenceSuite(SuiteServer& server) {
@@ -165,23 +105,6 @@ void installPreferenceSuite(SuiteServer& server) {
     expose<&Suite::PutRealPreference, putNumber<double>>(table);
     expose<&Suite::GetStringPreference, getString, FailsWithPresets>(table);
     expose<&Suite::PutStringPreference, putString>(table);
-    expose<&Suite::GetUnicodeStringPreference, getUnicode, FailsWithPresets>(table);
-    expose<&Suite::PutUnicodeStringPreference, putUnicode>(table);
-    expose<&Suite::GetBlockPreference, getBlock, FailsWithPresets>(table);
-    expose<&Suite::PutBlockPreference, putBlock>(table);
-    expose<&Suite::GetFixedPreference, getNumber<AIFixed>, FailsWithPresets>(table);
-    expose<&Suite::PutFixedPreference, putNumber<AIFixed>>(table);
-    expose<&Suite::GetFractPreference, getNumber<AIFract>, FailsWithPresets>(table);
-    expose<&Suite::PutFractPreference, putNumber<AIFract>>(table);
-    expose<&Suite::GetPointPreference, getRecord<AIPoint>, FailsWithPresets>(table);
-    expose<&Suite::PutPointPreference, putRecord<AIPoint>>(table);
-    expose<&Suite::GetRectPreference, getRecord<AIRect>, FailsWithPresets>(table);
-    expose<&Suite::PutRectPreference, putRecord<AIRect>>(table);
-    expose<&Suite::GetFilePathSpecificationPreference, getPath, FailsWithPresets>(table);
-    expose<&Suite::PutFilePathSpecificationPreference, putPath>(table);
-    expose<&Suite::RemovePreference, removePreference>(table);
-    expose<&Suite::GetLargeIntegerPreference, getNumber<ai::int64>, FailsWithPresets>(table);
-    expose<&Suite::PutLargeIntegerPreference, putNumber<ai::int64>>(table);
 }
 
 } // namespace easel

@@ -32,10 +32,6 @@ SPErr releaseSuite(const char* name, ai::int32 version) {
     return result;
 }
 
-SPBoolean isEqual(const char* first, const char* second) {
-    return std::strcmp(&required(first), &required(second)) == 0 ? 1 : 0;
-}
-
 SPErr allocate(std::size_t size, void** block) {
     required(block) = allocateBlock(size);
     return kNoErr;
@@ -46,24 +42,14 @@ SPErr release(void* block) {
     return kNoErr;
 }
 
-SPErr reallocate(void* block, std::size_t size, void** moved) {
-    required(moved) = reallocateBlock(block, size);
-    return kNoErr;
-}
-
-SPErr undefined() { return kNotImplementedErr; }
-
 } // namespace
 
 void installSPBasicSuite(SuiteServer& server) {
     auto table = server.table<SPBasicSuite>(kSPBasicSuite, kSPBasicSuiteVersion);
     expose<&SPBasicSuite::AcquireSuite, acquireSuite>(table);
     exposeEnding<&SPBasicSuite::ReleaseSuite, releaseSuite>(table);
-    expose<&SPBasicSuite::IsEqual, isEqual>(table);
     expose<&SPBasicSuite::AllocateBlock, allocate>(table);
     exposeEnding<&SPBasicSuite::FreeBlock, release>(table);
-    expose<&SPBasicSuite::ReallocateBlock, reallocate>(table);
-    expose<&SPBasicSuite::Undefined, undefined>(table);
 }
 
 } // namespace easel

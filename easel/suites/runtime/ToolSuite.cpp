@@ -47,60 +47,19 @@ AIErr addTool(SPPluginRef plugin, const char* name, AIAddToolData* data, ai::int
 }
 
 /// The suite hands texts out as `char*`, but they are the host's and not to be changed.
-template <std::string Tool::*Text> AIErr getText(AIToolHandle tool, char** text) {
-    required(text) = (at(tool).*Text).data();
+AIErr getName(AIToolHandle tool, char** name) {
+    required(name) = at(tool).name.data();
     return kNoErr;
 }
 
-template <std::string Tool::*Text> AIErr setText(AIToolHandle tool, const char* text) {
-    at(tool).*Text = &required(text);
-    return kNoErr;
-}
-
-template <typename Value, Value Tool::*Member> AIErr getValue(AIToolHandle tool, Value* value) {
-    required(value) = at(tool).*Member;
-    return kNoErr;
-}
-
-template <typename Value, Value Tool::*Member> AIErr setValue(AIToolHandle tool, Value value) {
-    at(tool).*Member = value;
-    return kNoErr;
-}
-
-AIErr getSelected(AIToolHandle* tool) {
-    required(tool) = box().current;
+AIErr getOptions(AIToolHandle tool, ai::int32* options) {
+    required(options) = at(tool).options;
     return kNoErr;
 }
 
 AIErr setSelected(AIToolHandle tool) {
     static_cast<void>(at(tool));
     host().selectTool(tool);
-    return kNoErr;
-}
-
-AIErr count(ai::int32* number) {
-    required(number) = box().tools.count();
-    return kNoErr;
-}
-
-AIErr nth(ai::int32 index, AIToolHandle* tool) {
-    required(tool) = box().tools.nth(index);
-    return kNoErr;
-}
-
-AIErr handleFromNumber(AIToolType number, AIToolHandle* tool) {
-    required(tool) = box().handleOf(number);
-    return kNoErr;
-}
-
-AIErr numberFromName(const char* name, AIToolType* number) {
-    required(number) = box().numberOf(&required(name));
-    return kNoErr;
-}
-
-AIErr nameFromNumber(AIToolType number, char** name) {
-    // The slot's type promises more than the host means: the text may not be changed.
-    required(name) = const_cast<char*>(box().nameOf(number));
     return kNoErr;
 }
 
@@ -126,11 +85,6 @@ AIErr setInfoValues(const ai::int32* variables, void** values) {
     return kNoErr;
 }
 
-AIErr systemHasPressure(AIBoolean* pressure) {
-    required(pressure) = 0;
-    return kNoErr;
-}
-
 AIErr getCurrentName(const char** name) {
     required(name) = box().nameOf(box().currentNumber());
     return kNoErr;
@@ -148,35 +102,11 @@ AIErr setSelectedByName(const char* name) {
 void installToolSuite(SuiteServer& server) {
     auto table = server.table<AIToolSuite>(kAIToolSuite, kAIToolSuiteVersion);
     expose<&AIToolSuite::AddTool, addTool>(table);
-    expose<&AIToolSuite::GetToolName, getText<&Tool::name>>(table);
-    expose<&AIToolSuite::GetToolOptions, getValue<ai::int32, &Tool::options>>(table);
-    expose<&AIToolSuite::SetToolOptions, setValue<ai::int32, &Tool::options>>(table);
-    expose<&AIToolSuite::GetToolPlugin, getValue<SPPluginRef, &Tool::plugin>>(table);
-    expose<&AIToolSuite::GetSelectedTool, getSelected>(table);
+    expose<&AIToolSuite::GetToolName, getName>(table);
+    expose<&AIToolSuite::GetToolOptions, getOptions>(table);
     expose<&AIToolSuite::SetSelectedTool, setSelected>(table);
-    expose<&AIToolSuite::CountTools, count>(table);
-    expose<&AIToolSuite::GetNthTool, nth>(table);
-    expose<&AIToolSuite::GetToolHandleFromNumber, handleFromNumber>(table);
-    expose<&AIToolSuite::GetToolNumberFromName, numberFromName>(table);
-    expose<&AIToolSuite::GetToolNumberFromHandle, getValue<AIToolType, &Tool::number>>(table);
-    expose<&AIToolSuite::GetToolNameFromNumber, nameFromNumber>(table);
-    expose<&AIToolSuite::GetToolTitle, getText<&Tool::title>>(table);
-    expose<&AIToolSuite::SetToolTitle, setText<&Tool::title>>(table);
-    expose<&AIToolSuite::GetTooltip, getText<&Tool::tooltip>>(table);
-    expose<&AIToolSuite::SetTooltip, setText<&Tool::tooltip>>(table);
-    expose<&AIToolSuite::GetToolHelpID, getValue<ASHelpID, &Tool::helpID>>(table);
-    expose<&AIToolSuite::SetToolHelpID, setValue<ASHelpID, &Tool::helpID>>(table);
     expose<&AIToolSuite::SetToolInfoVars, setInfoVariables>(table);
     expose<&AIToolSuite::SetToolInfoVarValues, setInfoValues>(table);
-    expose<&AIToolSuite::SystemHasPressure, systemHasPressure>(table);
-    expose<&AIToolSuite::GetToolNullEventInterval, getValue<AIToolTime, &Tool::nullEventInterval>>(
-        table);
-    expose<&AIToolSuite::SetToolNullEventInterval, setValue<AIToolTime, &Tool::nullEventInterval>>(
-        table);
-    expose<&AIToolSuite::GetAlternateSelectionToolName, getText<&Tool::alternateSelectionTool>>(
-        table);
-    expose<&AIToolSuite::SetAlternateSelectionToolName, setText<&Tool::alternateSelectionTool>>(
-        table);
     expose<&AIToolSuite::GetCurrentToolName, getCurrentName>(table);
     expose<&AIToolSuite::SetSelectedToolByName, setSelectedByName>(table);
 }

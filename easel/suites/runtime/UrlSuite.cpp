@@ -9,18 +9,11 @@ namespace {
 
 AIBoolean isBrowserAvailable() { return host().user.browserAvailable ? 1 : 0; }
 
-AIBoolean openUrl(const char* url) {
-    if (!host().user.browserAvailable) return 0;
-    host().user.openedUrls.emplace_back(&required(url));
-    return 1;
-}
-
 } // namespace
 
 void installUrlSuite(SuiteServer& server) {
     auto table = server.table<AIURLSuite>(kAIURLSuite, kAIURLSuiteVersion);
     expose<&AIURLSuite::IsBrowserAvailable, isBrowserAvailable>(table);
-    expose<&AIURLSuite::OpenURL, openUrl>(table);
 }
 
 } // namespace easel

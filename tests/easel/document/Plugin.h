@@ -5,27 +5,22 @@
 #include "easel/core/HostString.h"
 #include "easel/core/Ledger.h"
 #include "easel/core/SuiteServer.h"
+#include "easel/document/ArtTree.h"
 #include "easel/document/Attributes.h"
 #include "easel/document/Dump.h"
 #include "easel/document/Layers.h"
 #include "easel/document/Session.h"
 #include "easel/suites/art/ArtSuites.h"
-#include "host/suites/AIArraySuite.h"
 #include "host/suites/AIArtSetSuite.h"
 #include "host/suites/AIArtSuite.h"
-#include "host/suites/AICountedObjectSuite.h"
 #include "host/suites/AIDictionarySuite.h"
 #include "host/suites/AIEntrySuite.h"
 #include "host/suites/AIGroupSuite.h"
 #include "host/suites/AIHardSoftSuite.h"
 #include "host/suites/AIHitTestSuite.h"
 #include "host/suites/AILayerSuite.h"
-#include "host/suites/AIPathStyleSuite.h"
 #include "host/suites/AIPathSuite.h"
 #include "host/suites/AIPluginGroupSuite.h"
-#include "host/suites/AIRealBezierSuite.h"
-#include "host/suites/AIRealMathSuite.h"
-#include "host/suites/AISymbolSuite.h"
 #include "host/suites/AITransformArtSuite.h"
 #include "host/suites/AIUndoSuite.h"
 
@@ -57,13 +52,7 @@ inline const AIDictionarySuite& dictionary() {
 inline const AIEntrySuite& entry() {
     return suite<AIEntrySuite>(kAIEntrySuite, kAIEntrySuiteVersion);
 }
-inline const AIArraySuite& array() {
-    return suite<AIArraySuite>(kAIArraySuite, kAIArraySuiteVersion);
-}
 inline const AIUndoSuite& undo() { return suite<AIUndoSuite>(kAIUndoSuite, kAIUndoSuiteVersion); }
-inline const AIRealMathSuite& math() {
-    return suite<AIRealMathSuite>(kAIRealMathSuite, kAIRealMathSuiteVersion);
-}
 inline const AIHitTestSuite& hit() {
     return suite<AIHitTestSuite>(kAIHitTestSuite, kAIHitTestSuiteVersion);
 }
@@ -121,6 +110,10 @@ public:
         const auto count = static_cast<ai::int16>(segments.size());
         REQUIRE(path().SetPathSegments(made, 0, count, segments.data()) == kNoErr);
         return made;
+    }
+    /// Puts `handle` into `group`, in front.
+    void moveInto(AIArtHandle group, AIArtHandle handle) const {
+        moveArt(artOf(handle), onTopOf(artOf(group)));
     }
     void name(AIArtHandle handle, std::string text) const {
         artOf(handle).write(Edit::Quiet).details.write().name = std::move(text);

@@ -1,6 +1,5 @@
+#include "host/Error.h"
 #include "tests/easel/document/Plugin.h"
-
-#include <cstring>
 
 namespace easel::tests {
 namespace {
@@ -78,101 +77,46 @@ TEST_CASE("matching finds art by type and attributes, in the order of the tree")
     CHECK(namesIn([&](AIArtSet set) { return artSet().LayerArtSet(layer, set); }) == "LgablSsP?e");
 }
 
-TEST_CASE("sets are joined and cut without doubles, and keep what has died") {
+TEST_CASE("a set takes each object once, and keeps what has died") {
     const Drawing drawing;
-    AIArtHandle handles[] = {drawing.make(kPathArt), drawing.make(kPathArt),
-                             drawing.make(kPathArt)};
-    AIArtSet sets[3] = {};
-    for (AIArtSet& set : sets)
-        REQUIRE(artSet().NewArtSet(&set) == kNoErr);
-    auto& [one, two, result] = sets;
-    CHECK(artSet().ArrayArtSet(one, handles, 2) == kNoErr);
-    CHECK(artSet().ArrayArtSet(two, handles + 1, 2) == kNoErr);
-    const auto countOf = [](AIArtSet set) {
-        std::size_t count = 99;
-        CHECK(artSet().CountArtSet(set, &count) == kNoErr);
-        return count;
-    };
-    CHECK(artSet().UnionArtSet(one, two, result) == kNoErr);
-    CHECK(countOf(result) == 3);
-    CHECK(artSet().IntersectArtSet(one, two, one) == kNoErr); // a source may be the target
-    CHECK(countOf(one) == 1);
-    CHECK(artSet().AddArtToArtSet(one, handles[1]) == kNoErr);
-    CHECK(countOf(one) == 1);
-    CHECK(art().DisposeArt(handles[1]) == kNoErr);
+    const AIArtHandle made = drawing.make(kPathArt);
+    AIArtSet set = nullptr;
+    REQUIRE(artSet().NewArtSet(&set) == kNoErr);
+    CHECK(artSet().AddArtToArtSet(set, made) == kNoErr);
+    CHECK(artSet().AddArtToArtSet(set, made) == kNoErr);
+    std::size_t count = 0;
+    CHECK(artSet().CountArtSet(set, &count) == kNoErr);
+    CHECK(count == 1);
+    CHECK(art().DisposeArt(made) == kNoErr);
     AIArtHandle first = nullptr;
-    CHECK(artSet().NextInArtSet(one, nullptr, &first) == kNoErr);
+    CHECK(artSet().IndexArtSet(set, 0, &first) == kNoErr);
+    CHECK(first == made);
     CHECK(art().ValidArt(first, 1) == 0);
-    CHECK(artSet().ReplaceArtInArtSet(one, handles[1], nullptr) == kNoErr);
-    CHECK(artSet().NextInArtSet(one, nullptr, &first) == kNoErr);
-    CHECK(first == nullptr);
-    for (AIArtSet& set : sets)
-        CHECK(artSet().DisposeArtSet(&set) == kNoErr);
-    CHECK(artSet().DisposeArtSet(&one) == kBadParameterErr);
+    CHECK(artSet().DisposeArtSet(&set) == kNoErr);
+    CHECK(artSet().DisposeArtSet(&set) == kBadParameterErr);
 }
 
-TEST_CASE("layers are listed from the top, sublayers under their parent") {
+TEST_CASE("layers are counted from the top, sublayers left out; the last one stays") {
     Drawing drawing;
-    AILayerHandle top = nullptr;
-    AILayerHandle bottom = nullptr;
-    AILayerHandle inner = nullptr;
-    CHECK(layer().InsertLayer(nullptr, kPlaceAboveAll, &top) == kNoErr);
-    CHECK(layer().InsertLayer(nullptr, kPlaceBelowAll, &bottom) == kNoErr);
-    AIArtHandle group = nullptr;
-    CHECK(art().GetFirstArtOfLayer(top, &group) == kNoErr);
-    CHECK(layer().InsertLayerAtArt(group, kPlaceInsideOnTop, &inner) == kNoErr);
-    const char* titles[] = {"top", "middle", "bottom", "inner"};
-    AILayerHandle handles[] = {top, layerHandle(drawing.layerGroup().next()), bottom, inner};
-    for (std::size_t i = 0; i < 4; ++i) {
-        const HostText title(titles[i]);
-        CHECK(layer().SetLayerTitle(handles[i], title.string) == kNoErr);
-    }
-    const auto titleOf = [](AILayerHandle handle) {
-        return handle == nullptr ? std::string("none") : layerOf(handle).details().layer.title;
-    };
+    Document& document = drawing.document;
+    Art& first = drawing.layerGroup();
+    Art& top = createLayer(document, "top", onTopOf(document.root()));
+    Art& inner = createLayer(document, "inner", onTopOf(top));
+    setCurrentLayer(document, top);
     ai::int32 count = 0;
     CHECK(layer().CountLayers(&count) == kNoErr);
-    CHECK(count == 3);
-    std::string walked;
+    CHECK(count == 2);
     AILayerHandle each = nullptr;
-    for (layer().GetFirstLayer(&each); each != nullptr; layer().GetNextPreorderLayer(each, &each))
-        walked += titleOf(each) + ' ';
-    CHECK(walked == "top inner middle bottom ");
-    CHECK(layer().GetNextNonChildPreorderLayer(top, &each) == kNoErr);
-    CHECK(titleOf(each) == "middle");
-    CHECK(layer().GetPrevLayer(bottom, &each) == kNoErr);
-    CHECK(titleOf(each) == "middle");
-    CHECK(layer().GetPrevLayer(inner, &each) == kNotImplementedErr);
-    CHECK(layer().GetLayerParent(inner, &each) == kNoErr);
-    CHECK(each == top);
-    CHECK(layer().GetNthLayer(3, &each) == kBadParameterErr);
-    const HostText wanted("inner");
-    CHECK(layer().GetLayerByTitle(&each, wanted.string) == kNoErr);
-    CHECK(each == inner);
-    const HostText unknown("nobody");
-    CHECK(layer().GetLayerByTitle(&each, unknown.string) == kNoErr);
-    CHECK(each == nullptr);
-    AIBoolean hasArt = 1;
-    CHECK(layer().LayerHasArt(top, &hasArt) == kNoErr);
-    CHECK(hasArt == 0); // a sublayer is no art
-}
-
-TEST_CASE("the last layer stays, and the current one is replaced when it goes") {
-    const Drawing drawing;
-    AILayerHandle first = nullptr;
-    AILayerHandle current = nullptr;
-    AILayerHandle second = nullptr;
-    CHECK(layer().GetFirstLayer(&first) == kNoErr);
-    CHECK(layer().DeleteLayer(first) == kCantDeleteLastLayerErr);
-    CHECK(layer().InsertLayer(nullptr, kPlaceAboveAll, &second) == kNoErr);
-    CHECK(layer().GetCurrentLayer(&current) == kNoErr);
-    CHECK(current == second);
-    CHECK(layer().DeleteLayer(second) == kNoErr);
-    CHECK(layer().GetCurrentLayer(&current) == kNoErr);
-    CHECK(current == first);
-    CHECK(layer().SetCurrentLayer(second) == kBadParameterErr);
-    AIBoolean visible = 0;
-    CHECK(layer().GetLayerVisible(nullptr, &visible) == kBadParameterErr);
+    CHECK(layer().GetNthLayer(1, &each) == kNoErr);
+    CHECK(each == layerHandle(&first));
+    CHECK(layer().GetNthLayer(2, &each) == kBadParameterErr);
+    CHECK(layer().GetLayerParent(layerHandle(&inner), &each) == kNoErr);
+    CHECK(each == layerHandle(&top));
+    CHECK(findLayer(document, "inner") == &inner);
+    deleteLayer(top);
+    CHECK(layer().GetCurrentLayer(&each) == kNoErr);
+    CHECK(each == layerHandle(&first));
+    CHECK_THROWS_AS(deleteLayer(first), ai::Error);
 }
 
 TEST_CASE("without a document calls that need one say so") {

@@ -128,8 +128,8 @@ TEST_CASE("reading the wrong type has a code of its own, or that of a bad parame
     for (const bool own : {true, false}) {
         const Drawing drawing;
         switches().wrongEntryTypeHasOwnCode = own;
-        ai::int32 integer = 0;
-        CHECK(entry().ToInteger(entry().FromBoolean(1), &integer) ==
+        AIDictionaryRef none = nullptr;
+        CHECK(entry().ToDict(entry().FromString("text"), &none) ==
               (own ? kWrongEntryType : kBadParameterErr));
     }
 }
@@ -202,7 +202,7 @@ TEST_CASE("strings of entries last until the message ends, or until the next cal
         AIDictionaryRef own = nullptr;
         REQUIRE(dictionary().CreateDictionary(&own) == kNoErr);
         const AIDictKey key = dictionary().Key("k");
-        dictionary().SetStringEntry(own, key, "text");
+        CHECK(dictionary().Set(own, key, entry().FromString("text")) == kNoErr);
         const char* text = nullptr;
         CHECK(entry().ToString(dictionary().Get(own, key), &text) == kNoErr);
         CHECK(std::string(text) == "text");

@@ -10,14 +10,13 @@ std::string childrenOf(AIArtHandle parent) {
     AIArtHandle each = nullptr;
     for (art().GetArtFirstChild(parent, &each); each != nullptr; art().GetArtSibling(each, &each))
         forwards += artOf(each).details().name;
-    for (art().GetArtLastChild(parent, &each); each != nullptr;
-         art().GetArtPriorSibling(each, &each))
-        backwards = artOf(each).details().name + backwards;
+    for (const Art* last = artOf(parent).lastChild(); last != nullptr; last = last->previous())
+        backwards = last->details().name + backwards;
     CHECK(forwards == backwards);
     return forwards;
 }
 
-TEST_CASE("a paint order puts new, moved and copied art where it says") {
+TEST_CASE("a paint order puts new art and copies where it says") {
     struct Row {
         const char* what;
         ai::int16 order;
@@ -33,8 +32,7 @@ TEST_CASE("a paint order puts new, moved and copied art where it says") {
         {"above all", kPlaceAboveAll, false, "abc", "xg"},
         {"below all", kPlaceBelowAll, false, "abc", "gx"},
     };
-    enum class Way { New, Moved, Copied };
-    for (const Way way : {Way::New, Way::Moved, Way::Copied}) {
+    for (const bool copied : {false, true}) {
         for (const auto& row : rows) {
             INFO(row.what);
             const Drawing drawing;
@@ -48,17 +46,12 @@ TEST_CASE("a paint order puts new, moved and copied art where it says") {
             }
             const AIArtHandle reference = row.besideB ? b : group;
             AIArtHandle x = nullptr;
-            if (way == Way::New) {
-                x = drawing.make(kPathArt, row.order, reference);
-            } else {
+            if (copied) {
                 const AIArtHandle source = drawing.make(kPathArt, kPlaceInsideOnTop, group);
-                if (way == Way::Moved) {
-                    CHECK(art().ReorderArt(source, row.order, reference) == kNoErr);
-                    x = source;
-                } else {
-                    CHECK(art().DuplicateArt(source, row.order, reference, &x) == kNoErr);
-                    CHECK(art().DisposeArt(source) == kNoErr);
-                }
+                CHECK(art().DuplicateArt(source, row.order, reference, &x) == kNoErr);
+                CHECK(art().DisposeArt(source) == kNoErr);
+            } else {
+                x = drawing.make(kPathArt, row.order, reference);
             }
             drawing.name(x, "x");
             CHECK(childrenOf(group) == row.inGroup);
@@ -70,7 +63,6 @@ TEST_CASE("a paint order puts new, moved and copied art where it says") {
 TEST_CASE("places where art cannot go are refused and nothing changes") {
     const Drawing drawing;
     const AIArtHandle group = drawing.make(kGroupArt);
-    const AIArtHandle inner = drawing.make(kGroupArt, kPlaceInsideOnTop, group);
     const AIArtHandle path = drawing.make(kPathArt);
     const AIArtHandle compound = drawing.make(kCompoundPathArt);
     const AIArtHandle plugin = drawing.make(kPluginArt);
@@ -90,8 +82,7 @@ TEST_CASE("places where art cannot go are refused and nothing changes") {
     CHECK(create(kPluginArt, kPlaceInsideOnTop, compound) == kInvalidArtTypeForDestErr);
     CHECK(create(kMeshArt, kPlaceInsideOnTop, group) == kUnknownArtTypeErr);
     CHECK(create(kPathArt, kPlaceInsideOnTop, foreign) == kBadParameterErr);
-    CHECK(art().ReorderArt(group, kPlaceInsideOnTop, inner) == kBadParameterErr);
-    CHECK(art().ReorderArt(layer, kPlaceInsideOnTop, group) == kUntouchableArtObjectErr);
+    CHECK(art().DuplicateArt(layer, kPlaceInsideOnTop, group, &made) == kUntouchableArtObjectErr);
     CHECK(art().DisposeArt(layer) == kUntouchableArtObjectErr);
     CHECK(made == nullptr);
     CHECK(dump(drawing.document) == before);
@@ -119,7 +110,7 @@ TEST_CASE("a copy carries what the original has, all the way down") {
     const Drawing drawing;
     const AIArtHandle group = drawing.make(kGroupArt);
     const AIArtHandle child = drawing.makePath({{1, 2}, {3, 4}});
-    CHECK(art().ReorderArt(child, kPlaceInsideOnTop, group) == kNoErr);
+    drawing.moveInto(group, child);
     CHECK(path().SetPathGuide(child, 1) == kNoErr);
     artOf(child).dictionary().set(internKey("tag"), 7);
     drawing.name(child, "named");
@@ -161,35 +152,17 @@ TEST_CASE("edit and result art hang on their plug-in group without being its chi
     CHECK(resultArt(artOf(copy))->firstChild() != nullptr);
 }
 
-TEST_CASE("the order of art says what is in front, and what is inside") {
-    const Drawing drawing;
-    const AIArtHandle front = drawing.make(kGroupArt);
-    const AIArtHandle inside = drawing.make(kPathArt, kPlaceInsideOnTop, front);
-    const AIArtHandle back = drawing.make(kPathArt);
-    const auto orderOf = [](AIArtHandle a, AIArtHandle b) {
-        ai::int16 order = -1;
-        CHECK(art().GetArtOrder(a, b, &order) == kNoErr);
-        return order;
-    };
-    CHECK(orderOf(inside, back) == 1);
-    CHECK(orderOf(back, inside) == 2);
-    CHECK(orderOf(inside, front) == 3);
-    CHECK(orderOf(front, inside) == 4);
-    CHECK(orderOf(back, back) == 0);
-}
-
-TEST_CASE("new art goes to the insertion point when no place is named") {
-    const Drawing drawing;
-    const AIArtHandle group = drawing.make(kGroupArt);
-    CHECK(art().SetInsertionPoint(group) == kNoErr);
-    const AIArtHandle inGroup = drawing.make(kPathArt, kPlaceDefault, nullptr);
-    CHECK(artOf(inGroup).parent() == &artOf(group));
-    CHECK(art().DisposeArt(group) == kNoErr);
+TEST_CASE("new art goes to the top of the current layer when no place is named") {
+    Drawing drawing;
+    Art& top = createLayer(drawing.document, "Top", onTopOf(drawing.document.root()));
+    setCurrentLayer(drawing.document, top);
+    const AIArtHandle made = drawing.make(kPathArt, kPlaceDefault, nullptr);
+    CHECK(artOf(made).parent() == &top);
     AIArtHandle where = nullptr;
     ai::int16 order = 0;
     AIBoolean editable = 0;
     CHECK(art().GetInsertionPoint(&where, &order, &editable) == kNoErr);
-    CHECK(where == drawing.layerGroup().handle());
+    CHECK(where == top.handle());
     CHECK(order == kPlaceInsideOnTop);
     CHECK(editable == 1);
 }

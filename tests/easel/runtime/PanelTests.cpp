@@ -109,15 +109,14 @@ TEST_CASE("sizes stay within their limits") {
     fixed.host.resizePanel(fixed.panel, {500, 500}); // the user cannot
     CHECK(fixed.size().height == 188);
     fixed.panels.SetSize(fixed.panel, {240, 83});
-    AISize least{};
-    fixed.panels.GetMinimumSize(fixed.panel, least);
-    CHECK(least.height == 83);
+    CHECK(fixed.host.panels.at(fixed.panel).sizes.least.height == 83);
 }
 
 TEST_CASE("a resizable panel grows by whole steps") {
     PanelFixture fixture(/*resizable*/ true);
-    fixture.panels.SetMaximumSize(fixture.panel, {300, 400});
-    fixture.panels.SetVerticalStepSize(fixture.panel, 20);
+    easel::PanelSizes& sizes = fixture.host.panels.at(fixture.panel).sizes;
+    sizes.greatest = {300, 400};
+    sizes.step = 20;
     struct Row {
         AISize wanted;
         AISize got;
@@ -136,11 +135,9 @@ TEST_CASE("the flyout menu is brought up to date before it opens") {
     PanelFixture fixture;
     auto& [host, plugin, panels, menus, panel, menu] = fixture;
     panels.SetFlyoutMenuPreVisibilityProc(panel, [](AIPanelRef opened) {
-        const auto& panelSuite = suite<AIPanelSuite>(kAIPanelSuite, kAIPanelSuiteVersion);
         const auto& menuSuite =
             suite<AIPanelFlyoutMenuSuite>(kAIPanelFlyoutMenuSuite, kAIPanelFlyoutMenuSuiteVersion);
-        AIPanelFlyoutMenuRef itsMenu = nullptr;
-        panelSuite.GetFlyoutMenu(opened, itsMenu);
+        AIPanelFlyoutMenuRef itsMenu = easel::host().panels.at(opened).flyout;
         menuSuite.SetItemEnabled(itsMenu, 2, 0);
         menuSuite.SetItemText(itsMenu, 0, ai::UnicodeString("Eins"));
         menuSuite.SetItemMark(itsMenu, 0, AIPanelFlyoutMenuItemMark::Check);
@@ -174,27 +171,18 @@ TEST_CASE("items of submenus are chosen by their ids; a menu that leads to itsel
     CHECK(told() == std::vector<std::string>{"item 11", "item 0", "item 0", "item 3"});
 }
 
-TEST_CASE("flyout items are found by index, put before an id, and never share an id") {
+TEST_CASE("flyout items are found by index and never share an id") {
     PanelFixture fixture;
     const AIPanelFlyoutMenuSuite& menus = fixture.menus;
     const AIPanelFlyoutMenuRef menu = fixture.menu;
     const ai::UnicodeString text("New");
     CHECK(menus.AppendItem(menu, 3, text) == kBadParameterErr);
     CHECK(menus.AppendItem(menu, 0, text) == kBadParameterErr);
-    CHECK(menus.InsertItem(menu, 77, 4, text) == kBadParameterErr);
-    CHECK(menus.InsertItem(menu, 3, 4, text) == kNoErr);
-    ai::uint32 id = 0;
-    AIBoolean separator = 0;
-    CHECK(menus.GetItemID(menu, 2, id) == kNoErr);
-    CHECK(id == 4);
-    CHECK(menus.IsItemSeparator(menu, 1, separator) == kNoErr);
-    CHECK(separator == 1);
-    CHECK(menus.SetItemID(menu, 2, 3) == kBadParameterErr);
     CHECK(menus.RemoveItem(menu, 1) == kNoErr);
-    ai::uint32 count = 0;
-    CHECK(menus.Size(menu, count) == kNoErr);
-    CHECK(count == 3);
-    CHECK(menus.GetItemID(menu, 3, id) == kBadParameterErr);
+    const auto& items = fixture.host.panels.menu(menu).items;
+    CHECK(items.size() == 2);
+    CHECK(items[1].id == 3);
+    CHECK(menus.RemoveItem(menu, 2) == kBadParameterErr);
 }
 
 TEST_CASE("references that lead nowhere are refused, left ones are told of") {
@@ -208,10 +196,9 @@ TEST_CASE("references that lead nowhere are refused, left ones are told of") {
         const AIPanelFlyoutMenuRef menu = fixture.menu;
         fixture.giveBack();
         fixture.panel = nullptr;
-        ai::uint32 count = 0;
         CHECK(fixture.panels.Show(panel, 1) == kInvalidPanelErr);
         CHECK(fixture.panels.Show(nullptr, 1) == kInvalidPanelErr);
-        CHECK(fixture.menus.Size(menu, count) == kInvalidPanelErr);
+        CHECK(fixture.menus.RemoveItem(menu, 0) == kInvalidPanelErr);
         fixture.host.quit();
         CHECK(fixture.host.complaints() == std::vector<std::string>{});
     }

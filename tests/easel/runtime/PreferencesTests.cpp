@@ -7,7 +7,6 @@
 
 #include <doctest/doctest.h>
 
-#include <fstream>
 #include <limits>
 #include <numbers>
 
@@ -98,54 +97,7 @@ TEST_CASE("a null prefix means the application's own values") {
     CHECK(cosine == 1);
     CHECK(fourth == 1);
     CHECK(units == 2);
-    CHECK(suite.RemovePreference(nullptr, "rulerType") == kBadParameterErr);
     CHECK(suite.PutIntegerPreference(kPrefix, nullptr, 1) == kBadParameterErr);
-}
-
-TEST_CASE("a restart brings every value back, reals bit for bit") {
-    const std::filesystem::path file =
-        std::filesystem::temp_directory_path() / "easel-preferences-test.json";
-    const double angle = std::numbers::pi / 7;
-    const std::string text = "Größe \xF0\x9D\x84\x9E \"quoted\"\n";
-    {
-        easel::Preferences written;
-        written.put(kPrefix, "FTAngle", angle);
-        written.put(kPrefix, "FTCount", ai::int32{72});
-        written.put(kPrefix, "FTAutoMirror", true);
-        written.put(kPrefix, "large", ai::int64{1} << 60);
-        written.put(kPrefix, "text", text);
-        written.put(kPrefix, "place", AIPoint{-3, 4});
-        written.put(kPrefix, "frame", AIRect{1, 2, 3, 4});
-        written.put(kPrefix, "block", easel::Preferences::Bytes{0, 255, 7});
-        written.put(kPrefix, "not a number", std::numeric_limits<double>::quiet_NaN());
-        written.save(file);
-    }
-    easel::Preferences read;
-    read.load(file);
-    std::filesystem::remove(file);
-    CHECK(std::get<double>(*read.find(kPrefix, "FTAngle")) == angle);
-    CHECK(std::get<ai::int32>(*read.find(kPrefix, "FTCount")) == 72);
-    CHECK(std::get<bool>(*read.find(kPrefix, "FTAutoMirror")));
-    CHECK(std::get<ai::int64>(*read.find(kPrefix, "large")) == ai::int64{1} << 60);
-    CHECK(read.text(kPrefix, "text") == text);
-    CHECK(std::get<AIPoint>(*read.find(kPrefix, "place")).h == -3);
-    CHECK(std::get<AIRect>(*read.find(kPrefix, "frame")).bottom == 4);
-    CHECK(std::get<easel::Preferences::Bytes>(*read.find(kPrefix, "block"))[1] == 255);
-    CHECK(read.find(kPrefix, "not a number") == nullptr);
-}
-
-TEST_CASE("a preferences file that is none says so, a missing one is empty") {
-    const std::filesystem::path file =
-        std::filesystem::temp_directory_path() / "easel-preferences-broken.json";
-    easel::Preferences preferences;
-    CHECK_NOTHROW(preferences.load(file));
-    for (const std::string content : {"{", "[1]", R"({"Facetta": {"a": {"colour": 1}}})",
-                                      R"({"Facetta": {"a": {"integer": "x"}}})"}) {
-        INFO(content);
-        std::ofstream(file) << content;
-        CHECK_THROWS_AS(preferences.load(file), std::runtime_error);
-    }
-    std::filesystem::remove(file);
 }
 
 } // namespace facetta::tests

