@@ -11,6 +11,8 @@
 
 namespace easel {
 
+class Sender;
+
 struct Annotator {
     SPPluginRef plugin;
     std::string name;
@@ -23,6 +25,9 @@ struct Annotators {
     std::function<double(const std::u32string& text, const DrawStyle& style)> textWidth;
     /// Areas of the current view, in its pixels, to be painted anew by the next draw pass.
     std::vector<AIRect> invalid;
+
+    /// Asks all active ones to draw into `view`; then no area is invalid.
+    [[nodiscard]] DisplayList draw(Sender& sender, AIDocumentViewHandle view);
 };
 
 } // namespace easel

@@ -1,6 +1,8 @@
 #include "easel/runtime/Menus.h"
 
 #include "easel/core/Text.h"
+#include "easel/runtime/Sender.h"
+#include "host/MessageNames.h"
 
 namespace easel {
 namespace {
@@ -71,6 +73,24 @@ AIMenuGroup Menus::groupNamed(const std::string& name) const {
 
 AIMenuItemHandle Menus::itemNamed(const std::string& key) const {
     return items.findIf([&](const MenuItem& item) { return item.key == key; });
+}
+
+void Menus::open(Sender& sender) const {
+    for (const AIMenuItemHandle handle : items.handles()) {
+        const MenuItem* const item = items.find(handle); // one may remove another
+        if (item == nullptr || (item->options & kItemWantsUpdate) == 0) continue;
+        AIMenuMessage message{};
+        message.menuItem = handle;
+        sender.send(item->plugin, kCallerMenu, kSelectorUpdate, message, item->key.value_or(""));
+    }
+}
+
+void Menus::choose(Sender& sender, AIMenuItemHandle handle) const {
+    const MenuItem& item = items.at(handle);
+    if (!item.enabled) return;
+    AIMenuMessage message{};
+    message.menuItem = handle;
+    sender.send(item.plugin, kCallerMenu, kSelectorGo, message, item.key.value_or(""));
 }
 
 std::string Menus::dump() const {

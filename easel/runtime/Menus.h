@@ -9,6 +9,8 @@
 
 namespace easel {
 
+class Sender;
+
 struct MenuGroup {
     std::string name;
     AIMenuGroupOption options = 0;
@@ -38,6 +40,10 @@ struct Menus {
     [[nodiscard]] AIMenuGroup groupNamed(const std::string& name) const;
     /// The item with the unique name `key`; null when there is none.
     [[nodiscard]] AIMenuItemHandle itemNamed(const std::string& key) const;
+    /// The user opens the menu bar: items that want to are asked to bring themselves up to date.
+    void open(Sender& sender) const;
+    /// Nothing happens to a disabled item.
+    void choose(Sender& sender, AIMenuItemHandle item) const;
     /// A line for each item: group, key, text, state. For tests.
     [[nodiscard]] std::string dump() const;
 

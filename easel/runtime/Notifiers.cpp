@@ -1,9 +1,13 @@
 #include "easel/runtime/Notifiers.h"
 
+#include "easel/core/Ledger.h"
+#include "easel/document/Session.h"
+#include "easel/runtime/Sender.h"
 #include "host/MessageNames.h"
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace easel {
 namespace {
@@ -22,13 +26,42 @@ std::ptrdiff_t rank(const std::string& type) {
 
 } // namespace
 
-void NotificationQueue::add(std::string_view type) {
-    if (std::find(types_.begin(), types_.end(), type) == types_.end()) types_.emplace_back(type);
+void Notifiers::notify(std::string_view type, void* data) {
+    const std::string name(type);
+    for (const AINotifierHandle handle : handles()) {
+        const Notifier* const notifier = find(handle); // one may remove another
+        if (notifier == nullptr || !notifier->active || notifier->type != name) continue;
+        AINotifierMessage message{};
+        message.notifier = handle;
+        message.type = notifier->type.c_str();
+        message.notifyData = data;
+        sender_.send(notifier->plugin, kCallerNotifier, kSelectorNotify, message, name,
+                     kSilentUndoContext);
+    }
 }
 
-std::vector<std::string> NotificationQueue::take() {
+void Notifiers::queue(std::string_view type) {
+    if (std::find(waiting_.begin(), waiting_.end(), type) == waiting_.end())
+        waiting_.emplace_back(type);
+}
+
+void Notifiers::sendQueued() {
+    for (const std::string& type : std::exchange(late_, {}))
+        notify(type);
+    if (!switches().notificationsComeSoon) late_ = take();
+    for (int round = 0; round < kRounds && !waiting_.empty(); ++round)
+        for (const std::string& type : take())
+            notify(type);
+    if (waiting_.empty()) return;
+    std::string endless = "notifications raise each other without end:";
+    for (const std::string& type : take())
+        endless += " \"" + type + '"';
+    ledger().report(std::move(endless));
+}
+
+std::vector<std::string> Notifiers::take() {
     std::vector<std::string> taken;
-    taken.swap(types_);
+    taken.swap(waiting_);
     std::stable_sort(taken.begin(), taken.end(),
                      [](const std::string& a, const std::string& b) { return rank(a) < rank(b); });
     return taken;

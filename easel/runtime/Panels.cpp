@@ -1,7 +1,6 @@
 #include "easel/runtime/Panels.h"
 
 #include "easel/core/Text.h"
-#include "easel/runtime/Host.h"
 
 #include <algorithm>
 #include <cmath>
@@ -48,9 +47,10 @@ AIPanelRef Panels::add(Panel panel) {
     Panel& added = panels_.at(ref);
     added.window = std::make_unique<PanelWindow>(
         added.title, added.size, added.resizable,
-        PanelWindowEvents{[ref](AISize size) { host().resizePanel(ref, size); },
-                          [ref] { host().closePanel(ref); }, [ref] { host().cyclePanel(ref); },
-                          [ref] { host().pressFlyout(ref); }});
+        PanelWindowEvents{[this, ref](AISize size) { act([&] { resize(ref, size); }); },
+                          [this, ref] { act([&] { close(ref); }); },
+                          [this, ref] { act([&] { cycle(ref); }); },
+                          [this, ref] { act([&] { chooseFromFlyout(ref, popUpFlyout(ref)); }); }});
     showButtons(added);
     added.window->move(added.position);
     return ref;
@@ -110,6 +110,11 @@ void Panels::setState(AIPanelRef ref, ai::int16 state) {
     if (state == panel.state) return;
     panel.state = state;
     tell(panel.callbacks.state, ref, state);
+}
+
+void Panels::cycle(AIPanelRef ref) {
+    const Panel& panel = at(ref);
+    setState(ref, static_cast<ai::int16>(panel.state % panel.stateCount + 1));
 }
 
 void Panels::minimize(AIPanelRef ref, bool minimized) {

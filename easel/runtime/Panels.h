@@ -6,8 +6,10 @@
 #include "host/suites/AIPanelFlyoutMenuSuite.h"
 #include "host/suites/AIPanelSuite.h"
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace easel {
@@ -69,6 +71,9 @@ struct Panel {
 /// told, of each one that changes something: whoever can stand that can stand the other as well.
 class Panels {
 public:
+    /// `userHasActed` is called after whatever the user does to a panel's window.
+    explicit Panels(std::function<void()> userHasActed) : userHasActed_(std::move(userHasActed)) {}
+
     /// Hidden, in state 1, as large as `panel.sizes.least`. Throws 'PARM' when its numbers make no
     /// sense or a panel of that id exists.
     AIPanelRef add(Panel panel);
@@ -91,6 +96,8 @@ public:
     void resize(AIPanelRef panel, AISize size);
     /// Throws 'PARM' unless it is one of the panel's states.
     void setState(AIPanelRef panel, ai::int16 state);
+    /// The arrow in the panel's title: from state to state and round.
+    void cycle(AIPanelRef panel);
     void minimize(AIPanelRef panel, bool minimized);
     /// The user closes it: it is hidden, and the plug-in is told both.
     void close(AIPanelRef panel);
@@ -109,9 +116,14 @@ public:
     std::vector<std::string> removeAllOf(SPPluginRef plugin);
 
 private:
+    template <typename Act> void act(Act act) {
+        act();
+        userHasActed_();
+    }
     [[nodiscard]] std::vector<PopupLine> popupLines(const FlyoutMenu& menu, int depth) const;
     [[nodiscard]] bool canChoose(const FlyoutMenu& menu, ai::uint32 id, int depth) const;
 
+    std::function<void()> userHasActed_;
     Registry<AIPanelRef, Panel> panels_;
     Registry<AIPanelFlyoutMenuRef, FlyoutMenu> menus_;
 };

@@ -16,8 +16,6 @@ struct Timer {
     bool active = true;
 };
 
-using Timers = Registry<AITimerHandle, Timer>;
-
 inline constexpr std::int64_t kTicksPerSecond = 60;
 
 /// The host's clock. It stands still until it is moved, so that what happens in a session depends
@@ -32,6 +30,14 @@ public:
 
 private:
     std::int64_t milliseconds_ = 0;
+};
+
+class Sender;
+
+class Timers : public Registry<AITimerHandle, Timer> {
+public:
+    /// Sends a message for each active one that is due.
+    void run(Sender& sender, const Clock& clock);
 };
 
 } // namespace easel

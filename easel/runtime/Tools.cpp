@@ -1,7 +1,15 @@
 #include "easel/runtime/Tools.h"
 
+#include "easel/document/Session.h"
+#include "easel/runtime/Notifiers.h"
+#include "easel/runtime/Sender.h"
+#include "easel/runtime/Timers.h"
+#include "easel/runtime/Views.h"
+#include "host/MessageNames.h"
+
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace easel {
 namespace {
@@ -11,6 +19,12 @@ constexpr const char* kBuiltInTools[] = {
     "Adobe Select Tool", "Adobe Direct Select Tool", "Adobe Reflect Tool",
     "Adobe Pen Tool",    "Adobe Zoom Tool",          "Adobe Scroll Tool",
 };
+
+/// `AIEvent::what`.
+constexpr ai::uint16 kTrackEvent = 0;
+constexpr ai::uint16 kDownEvent = 1;
+constexpr ai::uint16 kUpEvent = 2;
+constexpr ai::uint16 kDragEvent = 6;
 
 } // namespace
 
@@ -40,6 +54,104 @@ AIToolHandle Tools::named(const std::string& name) const {
 
 AIToolType Tools::currentNumber() const {
     return current == nullptr ? currentBuiltIn : tools.at(current).number;
+}
+
+void Tools::send(const char* selector, AIToolHandle handle, const MousePoint* mouse,
+                 ai::uint16 what) {
+    const Tool* const found = tools.find(handle); // the host's own tools get no messages
+    if (found == nullptr) return;
+    const Tool& tool = *found;
+    if (mouse != nullptr && session().current == nullptr) return; // its window is gone
+    AIToolMessage message{};
+    AIEvent event{};
+    message.tool = handle;
+    if (mouse != nullptr) {
+        const bool isDown = what == kDownEvent || what == kDragEvent;
+        event.what = what;
+        event.when = static_cast<ai::uint32>(clock_.milliseconds());
+        event.where = toViewPixel(views_.shown(nullptr), mouse->at);
+        event.modifiers =
+            static_cast<ai::uint16>(mouse->modifiers | (isDown ? aiEventModifiers_buttonDown : 0));
+        message.cursor = mouse->at;
+        message.pressure = mouse->pressure;
+        message.event = &event;
+    }
+    sender_.send(tool.plugin, kCallerTool, selector, message, tool.name);
+}
+
+void Tools::select(AIToolHandle tool, AIToolType builtIn) {
+    const AIToolHandle former = current;
+    pen_.forgetPath();
+    if (tool != nullptr) static_cast<void>(tools.at(tool));
+    if (tool != nullptr && tool == former) {
+        send(kSelectorReselect, tool);
+        notifiers_.notify("AI Tool Deselected Notifier", former);
+    } else {
+        if (former != nullptr) {
+            send(kSelectorDeselect, former);
+            notifiers_.notify("AI Tool Deselected Notifier", former);
+        }
+        current = tool;
+        currentBuiltIn = builtIn;
+        send(kSelectorSelect, tool);
+    }
+    notifiers_.notify("AI Tool Selected Notifier", tool);
+}
+
+void Tools::track(const MousePoint& mouse) {
+    if (current == nullptr || (tools.at(current).options & kToolWantsTrackCursor) == 0) return;
+    send(kSelectorTrackCursor, current, &mouse, kTrackEvent);
+}
+
+void Tools::press(const MousePoint& mouse) {
+    if (gesture_ != nullptr) return;
+    if (current == nullptr) return pressPen(mouse);
+    const Tool& tool = tools.at(current);
+    gesture_ = sender_.begin(tool.plugin);
+    gestureTool_ = current; // keeps the gesture, whatever tool it chooses meanwhile
+    currentDocument().undo().setTexts("Undo " + tool.title, "Redo " + tool.title);
+    send(kSelectorMouseDown, gestureTool_, &mouse, kDownEvent);
+}
+
+void Tools::pressPen(const MousePoint& mouse) {
+    if (currentBuiltIn != kPenTool) return;
+    Document& document = currentDocument();
+    gesture_ = sender_.begin(nullptr);
+    document.undo().setTexts("Undo Pen", "Redo Pen");
+    pen_.press(document, mouse.at);
+}
+
+void Tools::endPath() {
+    pen_.forgetPath();
+    notifiers_.notify("AI Tool Clear State Notifier");
+}
+
+void Tools::drag(const MousePoint& mouse) {
+    if (gesture_ == nullptr) return;
+    if (gestureTool_ == nullptr)
+        pen_.drag(mouse.at);
+    else
+        send(kSelectorMouseDrag, gestureTool_, &mouse, kDragEvent);
+}
+
+void Tools::release(const MousePoint& mouse) {
+    if (gesture_ == nullptr) return;
+    if (gestureTool_ != nullptr) send(kSelectorMouseUp, gestureTool_, &mouse, kUpEvent);
+    gestureTool_ = nullptr;
+    sender_.end(std::exchange(gesture_, nullptr));
+}
+
+void Tools::editOptions() { send(kSelectorEditOptions, current); }
+
+void Tools::changeDiameter(bool larger) {
+    if (gesture_ != nullptr || current == nullptr) return;
+    if ((tools.at(current).options & kToolWantsDiameterKeys) == 0) return;
+    send(larger ? kSelectorIncreaseDiameter : kSelectorDecreaseDiameter, current);
+}
+
+void Tools::removeAllOf(SPPluginRef plugin) {
+    if (current != nullptr && tools.at(current).plugin == plugin) current = nullptr;
+    tools.removeIf([plugin](const Tool& tool) { return tool.plugin == plugin; });
 }
 
 } // namespace easel

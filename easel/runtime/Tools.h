@@ -1,6 +1,7 @@
 #pragma once
 
 #include "easel/core/Registry.h"
+#include "easel/runtime/Pen.h"
 #include "host/Handles.h"
 #include "host/Types.h"
 
@@ -29,8 +30,41 @@ struct Tool {
     std::vector<ai::int32> infoVariables = {}; ///< What it shows in the information display.
 };
 
-/// The tool box: the host's own tools by number and name, the plug-ins' behind them.
-struct Tools {
+class Clock;
+class Notifiers;
+class Sender;
+class Views;
+
+/// What the user does with the mouse.
+struct MousePoint {
+    AIRealPoint at;                ///< Soft coordinates.
+    ai::uint16 modifiers = 0;      ///< `AIEventModifiers`, the mouse button left out.
+    AIToolPressure pressure = 127; ///< Of a pen, 0..255; this is a mouse.
+};
+
+/// The tool box, the host's own tools by number and name and the plug-ins' behind them, and the
+/// hand that holds one of them.
+class Tools {
+public:
+    Tools(Sender& sender, Notifiers& notifiers, const Views& views, const Clock& clock)
+        : sender_(sender), notifiers_(notifiers), views_(views), clock_(clock) {}
+
+    /// Null chooses the built-in tool `builtIn`.
+    void select(AIToolHandle tool, AIToolType builtIn);
+    /// The button is up.
+    void track(const MousePoint& mouse);
+    /// From `press` to `release` is one gesture and one undo step.
+    void press(const MousePoint& mouse);
+    void drag(const MousePoint& mouse);
+    void release(const MousePoint& mouse);
+    /// The user ends the path that the pen is drawing; tools are told to forget what they drew.
+    void endPath();
+    /// A double click on the tool's icon.
+    void editOptions();
+    void decreaseDiameter() { changeDiameter(false); }
+    void increaseDiameter() { changeDiameter(true); }
+    void removeAllOf(SPPluginRef plugin);
+
     Registry<AIToolHandle, Tool> tools;
     AIToolHandle current = nullptr; ///< Null: the built-in tool `currentBuiltIn`.
     AIToolType currentBuiltIn = kSelectTool;
@@ -49,6 +83,21 @@ struct Tools {
     [[nodiscard]] AIToolHandle handleOf(AIToolType number) const;
     [[nodiscard]] AIToolHandle named(const std::string& name) const;
     [[nodiscard]] AIToolType currentNumber() const;
+
+private:
+    /// Nothing happens when the tool is null or gone, or the mouse is over no window.
+    void send(const char* selector, AIToolHandle tool, const MousePoint* mouse = nullptr,
+              ai::uint16 what = 0);
+    void changeDiameter(bool larger);
+    void pressPen(const MousePoint& mouse);
+
+    Sender& sender_;
+    Notifiers& notifiers_;
+    const Views& views_;
+    const Clock& clock_;
+    AIAppContextHandle gesture_ = nullptr; ///< The context that spans press to release.
+    AIToolHandle gestureTool_ = nullptr;   ///< Null in a gesture of the host's own pen.
+    Pen pen_;
 };
 
 } // namespace easel

@@ -1,5 +1,7 @@
 #include "easel/runtime/Views.h"
 
+#include "easel/document/Session.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -9,6 +11,24 @@ namespace {
 AIReal halfOf(ai::int32 pixels) { return static_cast<AIReal>(pixels) / 2; }
 
 } // namespace
+
+void Views::open(Document& document) {
+    const AIRealRect board = document.artboard();
+    DocumentView window{};
+    window.document = &document;
+    window.centre = {(board.left + board.right) / 2, (board.top + board.bottom) / 2};
+    add(window);
+}
+
+AIDocumentViewHandle Views::current() const {
+    return findIf([](const DocumentView& each) { return each.document == session().current; });
+}
+
+DocumentView& Views::shown(AIDocumentViewHandle handle) const {
+    if (handle != nullptr) return at(handle);
+    static_cast<void>(currentDocument());
+    return at(current());
+}
 
 AIRealPoint toView(const DocumentView& view, AIRealPoint artwork) noexcept {
     return {(artwork.h - view.centre.h) * view.zoom + halfOf(view.width),

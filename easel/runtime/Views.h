@@ -16,7 +16,16 @@ struct DocumentView {
     bool showGuides = true;
 };
 
-using Views = Registry<AIDocumentViewHandle, DocumentView>;
+/// The windows, one a document.
+class Views : public Registry<AIDocumentViewHandle, DocumentView> {
+public:
+    /// Shows the document's artboard in the middle of a new window.
+    void open(Document& document);
+    /// That of the current document; null when there is none.
+    [[nodiscard]] AIDocumentViewHandle current() const;
+    /// Null means the current one. Throws 'DOC?' when there is none, 'PARM' for a dead one.
+    [[nodiscard]] DocumentView& shown(AIDocumentViewHandle view) const;
+};
 
 inline constexpr AIReal kLeastZoom = 1.0F / 32;
 inline constexpr AIReal kMostZoom = 64;

@@ -32,7 +32,7 @@ void append(MenuRef menu, FlyoutItem item) {
 }
 
 AIErr create(MenuRef& menu) {
-    menu = host().panels.addMenu(host().currentPlugin());
+    menu = host().panels.addMenu(host().sender.receiver());
     return kNoErr;
 }
 

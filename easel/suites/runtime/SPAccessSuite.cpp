@@ -19,7 +19,7 @@ Plugin& accessed(SPAccessRef access) {
 
 SPErr acquirePlugin(SPPluginRef ref, SPAccessRef* access) {
     SPAccessRef& result = required(access);
-    host().load(ref, kAccessAtRunTime);
+    host().plugins.load(host().sender, ref, kAccessAtRunTime);
     Plugin& plugin = host().plugins.at(ref);
     ++plugin.accessCount;
     ledger().lend(Lent::PluginAccess, plugin.access);

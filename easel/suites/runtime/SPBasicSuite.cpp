@@ -14,7 +14,7 @@ namespace easel {
 namespace {
 
 SPErr acquireSuite(const char* name, ai::int32 version, const void** functions) {
-    const bool refused = host().settings.strictAccessMessages && host().inAccessMessage() &&
+    const bool refused = host().settings.strictAccessMessages && host().plugins.inAccessMessage() &&
                          std::strcmp(&required(name), kSPBlocksSuite) != 0;
     if (refused) {
         required(functions) = nullptr;

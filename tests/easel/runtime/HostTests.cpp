@@ -369,7 +369,7 @@ TEST_CASE("notifications that raise each other without end are stopped and repor
     session.host.edit("Draw", [](easel::Document& document) {
         easel::createArt(document, kPathArt, easel::onTopOf(*document.state().currentLayer));
     });
-    CHECK(session.plugin.received.size() == Host::kIdleRounds);
+    CHECK(session.plugin.received.size() == easel::Notifiers::kRounds);
     REQUIRE(ledger().problems().size() == 1);
     CHECK(ledger().problems()[0].find("without end") != std::string::npos);
     session.host.quit();

@@ -220,7 +220,7 @@ TEST_CASE("the interface turns dark and says so; dialogs have an owner while the
     });
     fixture.plugin.received.clear();
     for (int i = 0; i < 2; ++i) // the second time is no change
-        fixture.host.setInterfaceDark(true);
+        fixture.host.setDarkTheme(true);
     CHECK(fixture.plugin.received == std::vector<std::string>{"AI UI Brightness Changed Notifier"});
     CHECK(themes.IsUIThemeDark() == 1);
 
