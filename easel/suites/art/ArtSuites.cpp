@@ -7,9 +7,9 @@ namespace easel {
 void installArtSuites(SuiteServer& server) {
     for (const auto install :
          {installArtSuite, installArtSetSuite, installDictionarySuite, installEntrySuite,
-          installArraySuite, installLayerSuite, installPathSuite, installGroupSuite,
-          installPluginGroupSuite, installSymbolSuite, installRealMathSuite, installHitTestSuite,
-          installTransformArtSuite, installHardSoftSuite, installUndoSuite})
+          installArraySuite, installLayerSuite, installPathSuite, installPathStyleSuite,
+          installGroupSuite, installPluginGroupSuite, installSymbolSuite, installRealMathSuite,
+          installHitTestSuite, installTransformArtSuite, installHardSoftSuite, installUndoSuite})
         install(server);
 }
 

@@ -14,6 +14,7 @@ void installEntrySuite(SuiteServer& server);
 void installArraySuite(SuiteServer& server);
 void installLayerSuite(SuiteServer& server);
 void installPathSuite(SuiteServer& server);
+void installPathStyleSuite(SuiteServer& server);
 void installGroupSuite(SuiteServer& server);
 void installPluginGroupSuite(SuiteServer& server);
 void installSymbolSuite(SuiteServer& server);

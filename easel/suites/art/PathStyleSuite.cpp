@@ -1,0 +1,64 @@
+#include "host/suites/AIPathStyleSuite.h"
+
+#include "easel/core/Arguments.h"
+#include "easel/core/Expose.h"
+#include "easel/document/Session.h"
+#include "easel/suites/art/ArtSuites.h"
+
+namespace easel {
+namespace {
+
+bool hasStyle(const Art& art) {
+    switch (art.type()) {
+    case kPathArt:
+    case kCompoundPathArt:
+    case kRasterArt:
+    case kMeshArt:
+    case kPlacedArt:
+    case kTextFrameArt:
+        return true;
+    default:
+        return false;
+    }
+}
+
+Art& styledArt(AIArtHandle handle) {
+    Art& art = styleCarrier(artOf(handle));
+    if (!hasStyle(art)) throw ai::Error{kBadParameterErr};
+    return art;
+}
+
+/// A colour that refers to a definition tells its handle and matrix.
+void tellDefinition(AIColor& color, const Definition* definition, const AIRealMatrix& matrix) {
+    if (definition == nullptr) return;
+    if (definition->kind() == Definition::Kind::Gradient) {
+        color.kind = kGradient;
+        color.c.b = {};
+        color.c.b.gradient = static_cast<AIGradientHandle>(definition->handle());
+        color.c.b.matrix = matrix;
+    } else {
+        color.kind = kPattern;
+        color.c.p = {};
+        color.c.p.pattern = static_cast<AIPatternHandle>(definition->handle());
+        color.c.p.transform = matrix;
+    }
+}
+
+AIErr getPathStyle(AIArtHandle art, AIPathStyle* style) {
+    const ArtStyle& own = styledArt(art).style();
+    AIPathStyle told = own.path;
+    tellDefinition(told.fill.color, own.fillDefinition, own.fillMatrix);
+    tellDefinition(told.stroke.color, own.strokeDefinition, own.strokeMatrix);
+    required(style) = told;
+    return kNoErr;
+}
+
+} // namespace
+
+void installPathStyleSuite(SuiteServer& server) {
+    using S = AIPathStyleSuite;
+    auto table = server.table<S>(kAIPathStyleSuite, kAIPathStyleSuiteVersion);
+    expose<&S::GetPathStyle, getPathStyle>(table);
+}
+
+} // namespace easel
