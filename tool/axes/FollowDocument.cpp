@@ -112,7 +112,7 @@ void followSelection(ToolSession& session) {
 
 void followFrom(ToolSession& session, const Place& now) {
     ToolState& state = session.state;
-    if (session.dialogs.open || repositionMode(state)) return; // the dialog is at work on the axes
+    if (session.dialogs.open) return; // it is at work on the axes
     const Place then = state.place;
     if (buttonIsDown(state)) {
         if (now.document == state.gesture->place.document) return;

@@ -36,6 +36,7 @@ bool gestureGoesOn(ToolSession& session) {
     // The host undoes in the document in front.
     if (now.document == state.gesture->place.document) takeBack(session);
     followDocument(session);
+    if (buttonIsDown(state)) takeBack(session); // the host could not tell just now
     return false;
 }
 
