@@ -17,6 +17,7 @@ struct Annotator {
     SPPluginRef plugin;
     std::string name;
     bool active = true;
+    AIAnnotatorOptionsFlags options = 0; ///< Hints for hosts that draw with the graphics card.
 };
 
 struct Annotators {

@@ -211,7 +211,7 @@ TEST_CASE("where the tool suite lacks its second function, the others are found 
 TEST_CASE("beside another plug-in of the vendor shared menus are not made twice") {
     Session session;
     auto& menus = session.host.menus;
-    menus.groups.add({.name = "com.norvane.graphics", .near = {}});
+    menus.groups.add({.name = "com.norvane.graphics"});
     const AIMenuItemHandle shared = menus.items.add({.plugin = session.plugin,
                                                      .key = "NorvaneShowAllPanels",
                                                      .text = U"Show",

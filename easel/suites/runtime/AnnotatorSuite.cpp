@@ -11,7 +11,8 @@ namespace {
 
 AIErr addAnnotator(SPPluginRef plugin, const char* name, AIAnnotatorHandle* annotator) {
     static_cast<void>(host().plugins.at(plugin));
-    const AIAnnotatorHandle added = host().annotators.annotators.add({plugin, &required(name)});
+    const AIAnnotatorHandle added =
+        host().annotators.annotators.add({.plugin = plugin, .name = &required(name)});
     if (annotator != nullptr) *annotator = added;
     return kNoErr;
 }
@@ -25,9 +26,8 @@ AIErr invalidate(AIDocumentViewHandle handle, const AIRect* rect) {
     return kNoErr;
 }
 
-/// Options are hints for hosts that draw with the graphics card.
-AIErr setOptions(AIAnnotatorHandle annotator, AIAnnotatorOptionsFlags /*options*/) {
-    static_cast<void>(host().annotators.annotators.at(annotator));
+AIErr setOptions(AIAnnotatorHandle annotator, AIAnnotatorOptionsFlags options) {
+    host().annotators.annotators.at(annotator).options = options;
     return kNoErr;
 }
 
