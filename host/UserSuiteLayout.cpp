@@ -1,5 +1,6 @@
 #include "host/UserSuiteLayout.h"
 
+#include "host/Codes.h"
 #include "host/suites/AIUserSuite.h"
 
 #include <algorithm>
@@ -10,8 +11,9 @@ namespace ai {
 bool liesAsDeclared(const AIUserSuite& suite) {
     // Where this slot is not the clock, it is a function that does nothing.
     std::array<AIUserDateTime, 16> clock{}; // roomy: the record is opaque
-    suite.GetDateAndTime(clock.data());
-    return std::ranges::any_of(clock, [](AIUserDateTime part) { return part != 0; });
+    // A call that fails promises nothing of what it was to fill.
+    return suite.GetDateAndTime(clock.data()) == kNoErr &&
+           std::ranges::any_of(clock, [](AIUserDateTime part) { return part != 0; });
 }
 
 } // namespace ai
