@@ -46,6 +46,15 @@ AIErr createDictionary(AIDictionaryRef* dictionary) {
 
 ai::int32 release(AIDictionaryRef dictionary) { return dictionaryOf(dictionary).takeBack(); }
 
+AIErr copy(AIDictionaryRef target, ConstAIDictionaryRef source) {
+    called(target).copyFrom(dictionaryOf(source));
+    return kNoErr;
+}
+
+ai::uint32 size(ConstAIDictionaryRef dictionary) {
+    return static_cast<ai::uint32>(called(dictionary).items().size());
+}
+
 AIDictKey key(const char* text) {
     const Key interned = internKey(&required(text));
     auto& handle = session().keyHandles[interned];
@@ -105,6 +114,8 @@ void installDictionarySuite(SuiteServer& server) {
     table.clear(); // the switch may have moved what is there
     expose<&S::CreateDictionary, createDictionary>(table);
     expose<&S::Release, release>(table);
+    expose<&S::Copy, copy>(table);
+    expose<&S::Size, size>(table);
     expose<&S::Key, key>(table);
     expose<&S::IsKnown, isKnown>(table);
     expose<&S::DeleteEntry, deleteEntry>(table);
