@@ -153,12 +153,13 @@ bool areOwnImages(const MirrorFrame& frame, std::span<const PathShape> members) 
     });
 }
 
-/// The members as they are.
+/// The members as they are, but for those without an anchor.
 MirroredPath unchangedCompound(std::span<const PathShape> members, Images images) {
     MirroredPath result;
     result.compound = result.unchanged = true;
     for (const PathShape& member : members)
-        result.contours.push_back({.shape = member, .images = images});
+        if (!member.segments.empty())
+            result.contours.push_back({.shape = member, .images = images});
     return result;
 }
 

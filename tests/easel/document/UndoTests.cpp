@@ -231,7 +231,9 @@ TEST_CASE("nested contexts are one step, and only the outermost has a say in its
         {
             const Record inner(drawing.document);
             drawing.make(kPathArt);
+            session().contextIsNested = true; // as the host's contexts have it
             CHECK(undo().SetSilent(1) == kNoErr);
+            session().contextIsNested = false;
         }
         drawing.make(kPathArt);
     }
