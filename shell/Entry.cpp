@@ -60,24 +60,30 @@ SPErr beginOrEnd(const Licensing& licensing, const Call& call) {
 
 /// After a reload the object's table of virtual operations lies where the library was before. The
 /// table pointer comes first in an object; a new object of the same class has the right one.
-void refreshIdentity(FacettaPlugin& plugin, SPPluginRef self) {
-    const FacettaPlugin model{self, Licensing{}};
+void refreshIdentity(FacettaPlugin& plugin, SPPluginRef self, const Licensing& licensing) {
+    const FacettaPlugin model{self, licensing};
     // NOLINTNEXTLINE(bugprone-undefined-memory-manipulation): nothing but that pointer is copied
     std::memcpy(static_cast<void*>(&plugin), &model, sizeof(void*));
 }
 
 SPErr deliver(FacettaPlugin& plugin, const Call& call) {
-    if (call.is(kCallerAccess, kSelectorReload)) {
-        refreshIdentity(plugin, call.data().self);
+    if (call.is(kCallerAccess, kSelectorReload))
         return plugin.Reload(*static_cast<SPAccessMessage*>(call.message));
-    }
     // Suites are not to be sought while an access message is answered.
     if (call.caller == kCallerAccess ? !plugin.hasSuites() : !plugin.ensureSuites()) return kNoErr;
     const SPErr err = plugin.Message(call.caller, call.selector, call.message);
     return err == kUnhandledMsgErr ? kNoErr : err;
 }
 
+/// What the object holds of the library's lies where the library is now.
+void bringUpToDate(FacettaPlugin& plugin, const Licensing& licensing, const Call& call) {
+    if (call.is(kCallerAccess, kSelectorReload))
+        refreshIdentity(plugin, call.data().self, licensing);
+    plugin.licence = &licensing;
+}
+
 SPErr handle(const Licensing& licensing, const Call& call) {
+    if (FacettaPlugin* const plugin = pluginOf(call)) bringUpToDate(*plugin, licensing, call);
     const SPErr err = beginOrEnd(licensing, call);
     FacettaPlugin* const plugin = pluginOf(call);
     return plugin != nullptr ? deliver(*plugin, call) : err;

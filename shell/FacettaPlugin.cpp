@@ -68,7 +68,7 @@ void FacettaPlugin::operator delete(void* object) noexcept { ai::basicSuite->Fre
 
 AIErr FacettaPlugin::Startup(SPInterfaceMessage& message) {
     ai::check(Plugin::Startup(message));
-    if (!licence.allows(GuardedAction::StartUp)) return kNoErr;
+    if (!licence->allows(GuardedAction::StartUp)) return kNoErr;
     // Once the base has started the plug-in stays, with whatever could be registered; a failure
     // here is told to the user and no more.
     const AIErr err = ai::codeOf([&] {
@@ -90,7 +90,7 @@ void FacettaPlugin::startProduct() {
     const bool canShowAllPanels = addShowAllPanelsItem(self(), menuItems);
     decimalSeparator = findDecimalSeparator();
     toolkit().dialogs().customs.separator = decimalSeparator;
-    if (licence.state() == LicenceState::Expired) return;
+    if (licence->state() == LicenceState::Expired) return;
 
     if (canShowAllPanels) {
         if (!addWindowGroup(self())) return;
@@ -225,9 +225,12 @@ AIErr FacettaPlugin::SuitesReadyHook() {
 
 AIErr FacettaPlugin::Notify(AINotifierMessage& message) {
     const std::string_view type = message.type != nullptr ? message.type : "";
-    if (type == kApplicationStartedNotifier) welcomeOnFirstStart();
+    if (type == kApplicationStartedNotifier) {
+        licence->applicationStarted(self());
+        welcomeOnFirstStart(*licence);
+    }
     if (type == kUIBrightnessChangedNotifier) redrawOverlay(view);
-    handleNotification(*this, message.notifier);
+    handleNotification(*this, message);
     return kNoErr;
 }
 
@@ -236,7 +239,7 @@ AIErr FacettaPlugin::GoMenuItem(AIMenuMessage& message) {
     static_cast<void>(ai::codeOf([&] {
         if (message.menuItem == nullptr) return kNoErr;
         if (message.menuItem != menuItems.panel)
-            chooseMenuItem(menuItems, message.menuItem);
+            chooseMenuItem(*this, message.menuItem);
         else if (panel)
             panel->show(!panel->isVisible());
         return kNoErr;
@@ -248,6 +251,11 @@ AIErr FacettaPlugin::UpdateMenuItem(AIMenuMessage& message) {
     if (message.menuItem != nullptr && message.menuItem == menuItems.panel)
         static_cast<void>(ai::suites.menu->CheckItem(menuItems.panel, panel && panel->isVisible()));
     return kNoErr;
+}
+
+void FacettaPlugin::licenceHasChanged() {
+    licenceChanged = true;
+    updatePanel();
 }
 
 void FacettaPlugin::fetchView() {
@@ -289,7 +297,7 @@ ToolSession FacettaPlugin::toolSession(const platform::KeyState& keys) {
         .preferences = preferences,
         .host = hostPreferences,
         .view = view,
-        .licence = licence,
+        .licence = *licence,
         .dialogs = dialogs,
         .keys = keys,
         .mirroring = mirroring(),
@@ -368,6 +376,7 @@ AIErr FacettaPlugin::AnnotatorInvalidate(AIAnnotatorMessage& message) {
 
 AIErr FacettaPlugin::GoTimer(AITimerMessage& message) {
     if (hintTimer.isDue(message.timer, tool.hint, platform::ticks())) redrawHint(view, tool);
+    licence->timerWentOff(message, [this] { licenceHasChanged(); });
     return kNoErr;
 }
 

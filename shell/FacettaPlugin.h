@@ -23,7 +23,7 @@ namespace facetta {
 class FacettaPlugin final : public Plugin {
 public:
     FacettaPlugin(SPPluginRef self, const Licensing& licensing) noexcept
-        : Plugin(self), licence(licensing) {}
+        : Plugin(self), licence(&licensing) {}
     ~FacettaPlugin() override;
 
     /// Throws `std::bad_alloc` when the host has no memory.
@@ -62,11 +62,13 @@ public:
     /// shown become those of the new one. Changes no art, does nothing when both are as they were,
     /// and so may be called at any time.
     void followDocument();
+    /// What the licence allows may be something else now.
+    void licenceHasChanged();
     /// No view while the host cannot tell it.
     void fetchView();
     void fetchViewAndPlaceDialog();
 
-    Licensing licence;
+    const Licensing* licence;         ///< never null; an object of the library, set by the entry
     bool licenceChanged = false;      ///< since start-up
     Preferences preferences;          ///< changed by the tool, the panel and the dialogs
     HostPreferences hostPreferences;  ///< follows the host's notifications

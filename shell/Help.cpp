@@ -45,10 +45,11 @@ bool findBesideLibrary(std::string_view name, ai::FilePath& path) {
 
 bool webIsReachable() { return ai::suites.url->IsBrowserAvailable() != 0; }
 
-std::u16string pageAddress(std::string_view topic) {
+std::u16string pageAddress(const Licensing& licence, std::string_view topic) {
     std::string address(kPages);
     address += FACETTA_VERSION;
     address += "&host=" + std::to_string(ai::suites.runtime->GetAppMajorVersion());
+    address += licence.pageFragment();
     address += "&level=1";
     if (!topic.empty()) address.append("&source=").append(topic);
     return {address.begin(), address.end()}; // plain ASCII
@@ -95,17 +96,17 @@ void openManual() {
     platform::open(name.utf16());
 }
 
-void openWebPage(std::string_view topic) {
+void openWebPage(const Licensing& licence, std::string_view topic) {
     if (webIsReachable())
-        platform::open(pageAddress(topic));
+        platform::open(pageAddress(licence, topic));
     else
         showAlert(kNoWebMessage);
 }
 
-void welcomeOnFirstStart() {
+void welcomeOnFirstStart(const Licensing& licence) {
     // Without a web nobody is bothered; the next start tries again.
     if (!isFirstStartOfVersion() || !webIsReachable()) return;
-    openWebPage("welcome");
+    openWebPage(licence, "welcome");
     ai::check(
         ai::suites.preference->PutStringPreference(kLicencePrefix, kLastVersion, FACETTA_VERSION));
 }

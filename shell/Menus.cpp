@@ -7,6 +7,7 @@
 #include "host/UnicodeString.h"
 #include "host/suites/AIMenuSuite.h"
 #include "host/suites/AINotifierSuite.h"
+#include "shell/FacettaPlugin.h"
 #include "shell/Help.h"
 #include "shell/Notifications.h"
 
@@ -29,19 +30,28 @@ constexpr char kPanelList[] = "Tool Palettes";
 struct HelpItem {
     const char* key;
     const char* label;
-    void (*chosen)();
+    void (*chosen)(FacettaPlugin& plugin, std::string_view topic);
+    const char* topic = ""; ///< of the vendor's page
 };
 
-/// The licensing dialog belongs to the licensing module; without one there is nothing to show.
-void openLicensingDialog() {}
+void openHelp(FacettaPlugin&, std::string_view) { openManual(); }
+
+void openPage(FacettaPlugin& plugin, std::string_view topic) {
+    openWebPage(*plugin.licence, topic);
+}
+
+void openLicensing(FacettaPlugin& plugin, std::string_view) {
+    plugin.licence->openDialog();
+    plugin.updatePanel();
+}
 
 constexpr HelpItem kHelpItems[kHelpItemCount] = {
-    {"Facetta Help", "Help...", openManual},
-    {"Facetta Tutorial Movies", "Tutorial Movies...", [] { openWebPage("tutorialmovies"); }},
-    {"Facetta Check for Updates", "Check for Updates...", [] { openWebPage("checkforupdates"); }},
-    {"Facetta Licensing", "Licensing...", openLicensingDialog},
-    {"Facetta Buy License", "Buy/Upgrade License...", [] { openWebPage("buyupgrade"); }},
-    {"Facetta Licensing Help", "Licensing Help...", [] { openWebPage("licensinghelp"); }},
+    {"Facetta Help", "Help...", openHelp},
+    {"Facetta Tutorial Movies", "Tutorial Movies...", openPage, "tutorialmovies"},
+    {"Facetta Check for Updates", "Check for Updates...", openPage, "checkforupdates"},
+    {"Facetta Licensing", "Licensing...", openLicensing},
+    {"Facetta Buy License", "Buy/Upgrade License...", openPage, "buyupgrade"},
+    {"Facetta Licensing Help", "Licensing Help...", openPage, "licensinghelp"},
 };
 
 bool addItem(SPPluginRef self, const char* key, const char* label, const char* group,
@@ -101,8 +111,8 @@ bool addHelpItems(SPPluginRef self, MenuItems& items) {
         return false;
     bool added = true;
     for (std::size_t i = 0; i < kHelpItemCount; ++i) {
-        const auto& [key, label, chosen] = kHelpItems[i];
-        added = addItem(self, key, label, kHelpGroup, items.help[i]) && added;
+        const HelpItem& item = kHelpItems[i];
+        added = addItem(self, item.key, item.label, kHelpGroup, items.help[i]) && added;
     }
     return added;
 }
@@ -124,11 +134,12 @@ bool addPanelItem(SPPluginRef self, MenuItems& items) {
                    kMenuItemWantsUpdateOption);
 }
 
-void chooseMenuItem(const MenuItems& items, AIMenuItemHandle item) {
+void chooseMenuItem(FacettaPlugin& plugin, AIMenuItemHandle item) {
+    const MenuItems& items = plugin.menuItems;
     if (item == nullptr) return;
     if (item == items.showAllPanels) ai::suites.notifier->Notify(kShowAllPanelsNotifier, nullptr);
     for (std::size_t i = 0; i < kHelpItemCount; ++i)
-        if (item == items.help[i]) kHelpItems[i].chosen();
+        if (item == items.help[i]) kHelpItems[i].chosen(plugin, kHelpItems[i].topic);
 }
 
 } // namespace facetta

@@ -7,6 +7,8 @@
 
 namespace facetta {
 
+class FacettaPlugin;
+
 constexpr std::size_t kHelpItemCount = 6;
 
 /// The items that this plug-in added, or shares with the vendor's other plug-ins; null until then.
@@ -32,7 +34,8 @@ bool addShowAllPanelsItem(SPPluginRef self, MenuItems& items);
 bool addWindowGroup(SPPluginRef self);
 bool addPanelItem(SPPluginRef self, MenuItems& items);
 
-/// Does what choosing `item` asks for; nothing when it is none of ours, or the panel's.
-void chooseMenuItem(const MenuItems& items, AIMenuItemHandle item);
+/// Does what choosing `item` asks for; nothing when it is none of ours, or the panel's. Throws
+/// `ai::Error`.
+void chooseMenuItem(FacettaPlugin& plugin, AIMenuItemHandle item);
 
 } // namespace facetta

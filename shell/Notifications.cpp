@@ -18,10 +18,7 @@ namespace {
 
 constexpr char kRegistrationName[] = "FacettaPlugin";
 
-void followLicence(FacettaPlugin& plugin) {
-    plugin.licenceChanged = true;
-    plugin.updatePanel();
-}
+void followLicence(FacettaPlugin& plugin) { plugin.licenceHasChanged(); }
 
 void followConstrainAngle(FacettaPlugin& plugin) {
     plugin.hostPreferences.constrainAngle = readConstrainAngle();
@@ -102,13 +99,15 @@ void registerNotifiers(SPPluginRef self, NotifierHandles& handles) {
     }
 }
 
-void handleNotification(FacettaPlugin& plugin, AINotifierHandle notifier) {
+void handleNotification(FacettaPlugin& plugin, const AINotifierMessage& message) {
     const auto& handles = plugin.notifiers;
+    const AINotifierHandle notifier = message.notifier;
     const auto found = std::ranges::find(handles, notifier);
     const Row* const row =
         notifier != nullptr && found != handles.end() ? &kRows[found - handles.begin()] : nullptr;
     plugin.followDocument();
     if (row != nullptr) row->react(plugin);
+    plugin.licence->notified(message);
     lookAfterDocument(plugin, row != nullptr ? row->art : Art::Same);
 }
 

@@ -58,9 +58,12 @@ TEST_CASE("the object lives from start-up to shut-down, and again") {
 
 TEST_CASE("nulls instead of a message are refused") {
     SPInterfaceMessage message{};
-    CHECK(handleMessage({}, nullptr, kSelectorStartup, &message) == kSPBadParameterError);
-    CHECK(handleMessage({}, kCallerInterface, nullptr, &message) == kSPBadParameterError);
-    CHECK(handleMessage({}, kCallerInterface, kSelectorStartup, nullptr) == kSPBadParameterError);
+    CHECK(handleMessage(TestLicence{}, nullptr, kSelectorStartup, &message) ==
+          kSPBadParameterError);
+    CHECK(handleMessage(TestLicence{}, kCallerInterface, nullptr, &message) ==
+          kSPBadParameterError);
+    CHECK(handleMessage(TestLicence{}, kCallerInterface, kSelectorStartup, nullptr) ==
+          kSPBadParameterError);
 }
 
 TEST_CASE("pairs that nobody handles succeed and show nothing") {

@@ -116,6 +116,17 @@ TEST_CASE("web items open their pages; without a web the user learns whom to ask
     }
 }
 
+TEST_CASE("a page learns of the licence what that tells") {
+    const Desktop desktop;
+    Session session;
+    session.licence.fragment = "&licence=loan";
+    session.host.start();
+    session.host.user.browserAvailable = true;
+    session.host.chooseMenuItem(thePlugin->menuItems.help[4]);
+    REQUIRE(desktop->opened.size() == 1);
+    CHECK(desktop->opened.front().find(u"&licence=loan&level=1") != std::u16string::npos);
+}
+
 TEST_CASE("a version's first start with a web is welcomed, once") {
     struct Row {
         const char* lastVersion; ///< in the store; null: never run

@@ -5,6 +5,7 @@
 
 #include <doctest/doctest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -100,5 +101,15 @@ TEST_CASE("the manual is found beside the library") {
     REQUIRE(session.host.user.launched.size() == 1);
     CHECK(std::filesystem::equivalent(session.host.user.launched.front(),
                                       session.installed.manual()));
+    session.quit();
+}
+
+TEST_CASE("the library as it ships is licensed to all, and says so") {
+    Session session;
+    session.host.chooseMenuItem(session.host.menus.itemNamed("Facetta Licensing"));
+    REQUIRE(session.host.user.alerts.size() == 1);
+    const std::string text = session.host.user.alerts.front().text;
+    CHECK(text.find("licensed to all") != std::string::npos);
+    CHECK(std::ranges::count(text, '.') == 1);
     session.quit();
 }

@@ -8,6 +8,7 @@
 #include "easel/suites/Suites.h"
 #include "shell/Entry.h"
 #include "shell/FacettaPlugin.h"
+#include "tests/shell/TestLicence.h"
 
 #include <doctest/doctest.h>
 
@@ -16,22 +17,22 @@
 
 namespace facetta::tests {
 
-/// What the entry of this program's plug-in is licensed to; set before a host is made.
-inline Licensing& licensing() {
-    static Licensing current;
+/// What the entry of this program's plug-in is licensed to: the licence of the session.
+inline const Licensing*& currentLicence() {
+    static const Licensing* current = nullptr;
     return current;
 }
 
 inline SPErr entry(const char* caller, const char* selector, void* message) {
-    return handleMessage(licensing(), caller, selector, message);
+    return handleMessage(*currentLicence(), caller, selector, message);
 }
 
 /// A host with Facetta in it, not started yet. What is still lent at the end fails the test.
 class Session {
 public:
-    explicit Session(const Licensing& licence = {}, easel::HostSettings settings = {})
-        : host(easel::installedSuites(), settings) {
-        licensing() = licence;
+    explicit Session(TestLicence terms = {}, easel::HostSettings settings = {})
+        : licence(std::move(terms)), host(easel::installedSuites(), settings) {
+        currentLicence() = &licence;
         host.user.browserAvailable = false; // tests open no web pages
         plugin = host.addPlugin("Facetta", entry);
     }
@@ -58,6 +59,7 @@ public:
         return host.send(plugin, caller, selector, message);
     }
 
+    TestLicence licence;
     easel::Host host;
     SPPluginRef plugin;
     bool startUpMayFail = false;

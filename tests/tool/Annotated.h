@@ -17,7 +17,7 @@ using Kind = easel::DrawCommand::Kind;
 inline ToolSession toolSession() {
     static const platform::KeyState kNoKeys;
     return {thePlugin->tool, thePlugin->preferences, thePlugin->hostPreferences,
-            thePlugin->view, thePlugin->licence,     thePlugin->dialogs,
+            thePlugin->view, *thePlugin->licence,    thePlugin->dialogs,
             kNoKeys,         thePlugin->mirroring()};
 }
 

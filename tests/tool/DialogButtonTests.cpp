@@ -145,9 +145,9 @@ TEST_CASE("the panel is told whenever what it shows may be another") {
 }
 
 TEST_CASE("the licence may refuse what the buttons apply") {
-    const Licensing refusing{LicenceState::Licensed,
-                             {GuardedAction::ApplyToSelection, GuardedAction::ApplyToLayer}};
-    Drawing session(/*selected*/ true, refusing);
+    Drawing session(
+        /*selected*/ true,
+        {LicenceState::Licensed, {GuardedAction::ApplyToSelection, GuardedAction::ApplyToLayer}});
     const std::string before = session.text();
     for (const DialogItem button : {DialogItem::ApplyToSelection, DialogItem::ApplyToLayer}) {
         session.click(session.onButton(button));

@@ -34,7 +34,7 @@ inline int countPaths(const easel::Document& document, bool lockedOnes) {
 /// A drawing of one line inside one sector of three axes, with pending axes above it.
 class Drawing : public ToolInHand {
 public:
-    explicit Drawing(bool selected, const Licensing& licence = {}) : ToolInHand(licence) {
+    explicit Drawing(bool selected, TestLicence terms = {}) : ToolInHand(std::move(terms)) {
         host.edit("Draw", [&](easel::Document& document) {
             drawLine(document, {300, -170}, {340, -160}, selected);
         });

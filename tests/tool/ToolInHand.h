@@ -11,7 +11,7 @@ namespace facetta::tests {
 /// The tool in hand over an open document, with snapping off.
 class ToolInHand : public Session {
 public:
-    explicit ToolInHand(const Licensing& licence = {}) : Session(licence) {
+    explicit ToolInHand(TestLicence terms = {}) : Session(std::move(terms)) {
         host.start();
         openDocument();
         host.cursorSnap.enabled = false;

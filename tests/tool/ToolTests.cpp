@@ -148,8 +148,7 @@ TEST_CASE("a refused press changes nothing; a refused release leaves no axes beh
     {
         ToolInHand session;
         session.dragFrom({100, -100}, {200, -100});
-        thePlugin->licence = {LicenceState::Expired,
-                              {GuardedAction::ToolMouseDown, GuardedAction::ToolMouseUp}};
+        session.licence.refuse({GuardedAction::ToolMouseDown, GuardedAction::ToolMouseUp});
         session.host.increaseDiameter();
         const SymmetryAxes pending = session.axes();
         session.dragFrom({150, -100}, {150, -150});
