@@ -293,6 +293,7 @@ MirrorEnvironment FacettaPlugin::mirroring() {
 
 ToolSession FacettaPlugin::toolSession(const platform::KeyState& keys) {
     return {
+        .self = self(),
         .state = tool,
         .preferences = preferences,
         .host = hostPreferences,

@@ -2,6 +2,8 @@
 
 namespace facetta {
 
+struct ToolSession;
+
 /// How a modal dialog was left.
 enum class DialogResult : int {
     Ok = 1,
@@ -11,9 +13,9 @@ enum class DialogResult : int {
 /// The tool's way to the dialogs it opens: this room knows no windows. Until somebody provides
 /// dialogs every one of them is cancelled.
 struct ModalDialogs {
-    DialogResult (*editAxes)() = [] { return DialogResult::Cancel; };
-    DialogResult (*preferences)() = [] { return DialogResult::Cancel; };
-    bool open = false; ///< one of them is on screen: the on-canvas dialog stays away meanwhile
+    DialogResult (*editAxes)(ToolSession&) = [](ToolSession&) { return DialogResult::Cancel; };
+    DialogResult (*preferences)(ToolSession&) = [](ToolSession&) { return DialogResult::Cancel; };
+    bool open = false; ///< that of the axes is on screen: the on-canvas dialog stays away meanwhile
 };
 
 } // namespace facetta

@@ -15,6 +15,7 @@ namespace facetta {
 /// What the tool's handlers work on for the length of one message: the state they own and what the
 /// plug-in lends them.
 struct ToolSession {
+    SPPluginRef self;
     ToolState& state;
     Preferences& preferences; ///< angle and count of the next new axes follow the tool
     HostPreferences& host;    ///< the tool may set the host's constrain angle

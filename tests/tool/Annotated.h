@@ -16,9 +16,7 @@ using Kind = easel::DrawCommand::Kind;
 /// The tool's functions called without a message: no key is held.
 inline ToolSession toolSession() {
     static const platform::KeyState kNoKeys;
-    return {thePlugin->tool, thePlugin->preferences, thePlugin->hostPreferences,
-            thePlugin->view, *thePlugin->licence,    thePlugin->dialogs,
-            kNoKeys,         thePlugin->mirroring()};
+    return thePlugin->toolSession(kNoKeys);
 }
 
 /// All that is drawn at this moment.

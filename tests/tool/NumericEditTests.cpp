@@ -2,7 +2,7 @@
 #include "tests/tool/KeysHeld.h"
 
 #include "symmetry/LayerAxesStore.h"
-#include "tool/axes/Reposition.h"
+#include "tool/axes/NumericEdit.h"
 
 using namespace facetta;
 using namespace facetta::tests;
@@ -12,12 +12,13 @@ namespace {
 
 /// What the user does in the dialog: turns the axes and moves their origin, as the dialog does at
 /// once on the screen, then answers.
-template <DialogResult Answer> DialogResult turnAndMove() {
-    ToolState& state = thePlugin->tool;
-    CHECK(thePlugin->dialogs.open);
-    state.axes.angle = kPi / 4;
-    state.axes.originX += 30;
-    if (repositionMode(state)) carryLayerArt(state);
+template <DialogResult Answer> DialogResult turnAndMove(ToolSession& session) {
+    CHECK(session.dialogs.open);
+    editAngle(session, kPi / 4 + 2 * kPi);
+    for (const double by : {50.0, -20.0}) {
+        const SymmetryAxes& axes = session.state.axes;
+        editOrigin(session, {axes.originX + by, axes.originY});
+    }
     return Answer;
 }
 
@@ -43,6 +44,7 @@ TEST_CASE("two clicks on pending axes open the dialog; OK keeps what it did, Can
         CHECK(session.axes().provisional);
         CHECK((session.axes() == before) == !ok);
         if (ok) CHECK(near(session.axes().angle, kPi / 4));
+        CHECK(near(thePlugin->preferences.angle, kPi / 4)); // even so
     }
 }
 
@@ -69,6 +71,7 @@ TEST_CASE("the dialog on a layer's axes: an edit apart from the layer, or none a
         CHECK(session.axes().onLayer == !ok);
         CHECK(axesOnLayer(session.tool()) == !ok);
         if (ok) {
+            CHECK(session.host.undoText() == "Undo Edit Symmetry Axes");
             CHECK(session.guideAngles() == std::vector{45, 105, 165});
             session.click(session.onButton(DialogItem::Cancel));
             CHECK(session.guideAngles() == std::vector{0, 60, 120});
@@ -105,6 +108,7 @@ TEST_CASE("with Alt the dialog takes the art of the layer along") {
                           [&](easel::Document&) { CHECK(LayerAxesStore::read(nullptr, stored)); });
         CHECK(near(stored.angle, kPi / 4));
         CHECK(near(stored.originX, before.originX + 30));
+        CHECK(session.host.undoText() == "Undo Reposition Symmetry Axes");
     }
 }
 

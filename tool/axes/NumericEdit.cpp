@@ -2,6 +2,8 @@
 
 #include "host/Error.h"
 #include "host/Suites.h"
+#include "host/UndoText.h"
+#include "host/suites/AIDocumentSuite.h"
 #include "host/suites/AIUndoSuite.h"
 #include "tool/axes/CurrentAxes.h"
 #include "tool/axes/LayerEdit.h"
@@ -24,7 +26,7 @@ private:
 
 DialogResult askForAxes(ToolSession& session) {
     const DialogOpen open(session.dialogs);
-    return session.dialogs.editAxes();
+    return session.dialogs.editAxes(session);
 }
 
 /// What the dialog is about to change, and in what state the tool was before.
@@ -41,15 +43,17 @@ void takeBack(ToolSession& session, const Holding& before) {
     const bool changedLayer = session.state.activity != before.activity;
     if (changedLayer) ai::check(ai::suites.undo->UndoChanges());
     hold(session.state, before);
-    if (changedLayer) session.updatePanel();
 }
 
 void keep(ToolSession& session) {
     ToolState& state = session.state;
-    if (repositionMode(state)) return keepReposition(state);
+    if (repositionMode(state)) {
+        keepReposition(state);
+        return ai::nameUndoStep("Reposition Symmetry Axes");
+    }
     renewGuides(state);
     state.zone = ToolZone::Axis;
-    session.updatePanel();
+    ai::nameUndoStep("Edit Symmetry Axes");
 }
 
 } // namespace
@@ -62,6 +66,36 @@ void editAxesByNumbers(ToolSession& session) {
     else
         keep(session);
     axesChanged(session);
+    session.updatePanel();
+}
+
+void showEditedAxes(ToolSession& session) {
+    if (repositionMode(session.state)) {
+        // The art is moved from where it lay when the dialog opened, each time.
+        ai::check(ai::suites.undo->UndoChanges());
+        carryLayerArt(session.state);
+    }
+    axesChanged(session);
+    ai::check(ai::suites.document->RedrawDocument());
+    session.updatePanel();
+}
+
+void editOrigin(ToolSession& session, Point hard) {
+    session.state.axes.originX = hard.x;
+    session.state.axes.originY = hard.y;
+    showEditedAxes(session);
+}
+
+void editAngle(ToolSession& session, double radians) {
+    session.state.axes.angle = normaliseAngle(radians);
+    session.preferences.angle = session.state.axes.angle;
+    showEditedAxes(session);
+}
+
+void editCount(ToolSession& session, int count) {
+    session.state.axes.axisCount = count;
+    session.preferences.count = count;
+    showEditedAxes(session);
 }
 
 } // namespace facetta

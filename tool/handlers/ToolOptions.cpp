@@ -14,7 +14,7 @@ void editOptions(ToolSession& session) {
     followDocument(session);
     const bool asksToApply = !session.keys.isDown(Key::Control) && !session.keys.isDown(Key::Shift);
     if (!axesModified(session.state) || !asksToApply) {
-        session.dialogs.preferences();
+        session.dialogs.preferences(session);
         return;
     }
     if (session.preferences.applyToSelection)
