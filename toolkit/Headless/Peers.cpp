@@ -1,51 +1,14 @@
-/// Builds without a screen: dialogs are all model. Nobody is there to answer a modal dialog, which
-/// therefore ends as if it had been closed.
+/// Builds without a screen: dialogs are all model, and sizes are made up.
 
 #include "toolkit/ImplCommon/Peers.h"
+
+#include "toolkit/Headless/HeadlessDialog.h"
 #include "toolkit/ImplCommon/Text.h"
 
 #include <algorithm>
 
 namespace NRDM {
 namespace {
-
-class HeadlessItem final : public ItemPeer {
-public:
-    void changed(Aspect) override {}
-    void focus() override {}
-    void selectAll() override {}
-    void invalidate() override {}
-    void update() override {}
-    void showTip(bool) override {}
-    [[nodiscard]] void* window() const override { return nullptr; }
-};
-
-class HeadlessDialog final : public DialogPeer {
-public:
-    explicit HeadlessDialog(DialogEvents& events) : events_(events) {}
-
-    std::unique_ptr<ItemPeer> createItem(const ItemView&, ItemEvents&) override {
-        return std::make_unique<HeadlessItem>();
-    }
-    void close() noexcept override {}
-    [[nodiscard]] bool isAlive() const override { return true; }
-    void changed() override {}
-    void invalidate() override {}
-    void invalidate(const Bounds&) override {}
-    void update() override {}
-    void activate() override {}
-    void returnKeyboard() override {}
-    void runModal() override { events_.closeRequested(); }
-    bool endModal() override { return true; }
-    void startTimer(int, int) override {}
-    void stopTimer(int) override {}
-    [[nodiscard]] Place screenCorner() const override { return {}; }
-    void moveTo(Place) override {}
-    [[nodiscard]] void* window() const override { return nullptr; }
-
-private:
-    DialogEvents& events_;
-};
 
 constexpr int kCharacterWidth = 6;
 constexpr int kLineHeight = 16;
@@ -82,8 +45,9 @@ class HeadlessPeers final : public Peers {
 public:
     explicit HeadlessPeers(const Surroundings& surroundings) : fail_(surroundings.fail) {}
 
-    std::unique_ptr<DialogPeer> createDialog(const DialogView&, DialogEvents& events) override {
-        return std::make_unique<HeadlessDialog>(events);
+    std::unique_ptr<DialogPeer> createDialog(const DialogView& view,
+                                             DialogEvents& events) override {
+        return std::make_unique<HeadlessDialog>(view, events, keyboard_, fail_);
     }
 
     [[nodiscard]] layout::ItemSize measure(const ItemView& view, DialogKind) const override {
@@ -106,6 +70,7 @@ public:
     void themeChanged() override {}
 
 private:
+    std::shared_ptr<Keyboard> keyboard_ = std::make_shared<Keyboard>(); ///< dialogs outlive this
     void (*fail_)() noexcept;
 };
 

@@ -36,6 +36,7 @@ CoADMItem::CoADMItem(CoADMDialog& dialog, int id, const ItemType& type, const Bo
     : plugin(dialog.plugin()), dialog_(dialog), id_(id), type_(type),
       numeric_(isNumberField(type.kind)) {
     view_.kind = type.kind;
+    view_.id = id;
     view_.bounds = bounds;
     view_.hasPicture = type.hasPicture;
     if (hasList(type.kind)) list_ = std::make_unique<INRDMList>(*this);

@@ -74,6 +74,7 @@ struct EntryView {
 /// What a control shows.
 struct ItemView {
     ControlKind kind = ControlKind::Label;
+    int id = 0; ///< the client's number of it
     Bounds bounds;
     std::string text; ///< caption, or contents of a field; "&" marks the access key of a caption
     /// Into a field by the user, and not taken over yet.

@@ -65,12 +65,7 @@ void EditField::setMaximumLength(int characters) const {
     SendMessageW(handle(), EM_LIMITTEXT, static_cast<WPARAM>(characters), 0);
 }
 
-std::wstring EditField::text() const {
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(handle())) + 1, L'\0');
-    const int length = GetWindowTextW(handle(), text.data(), static_cast<int>(text.size()));
-    text.resize(static_cast<std::size_t>(length));
-    return text;
-}
+std::wstring EditField::text() const { return windowTextOf(handle()); }
 
 void EditField::setText(const std::wstring& text) {
     if (text == this->text()) return;

@@ -7,6 +7,13 @@
 
 namespace NRDM {
 
+std::wstring windowTextOf(HWND window) {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    const int length = GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
+    text.resize(static_cast<std::size_t>(length));
+    return text;
+}
+
 /// What a window of ours has as its property, from its creation to its end; the object may go
 /// before, and the window still gets its last messages.
 struct HWNDBased::Bond {

@@ -3,8 +3,11 @@
 #include "toolkit/ImplWin/Screen.h"
 
 #include <memory>
+#include <string>
 
 namespace NRDM {
+
+[[nodiscard]] std::wstring windowTextOf(HWND window);
 
 /// A window and what it does. The window goes when this does.
 ///

@@ -1,5 +1,6 @@
 #include "toolkit/ImplWin/Look.h"
 
+#include "toolkit/ImplCommon/SliderScale.h"
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -206,7 +207,7 @@ RECT drawPopup(const Canvas& canvas, const RECT& area, Arrow arrow, const FaceSt
     return {area.left + canvas.scale.toPixels(7), area.top, part.left, area.bottom};
 }
 
-int thumbRadius(Scale scale) { return scale.toPixels(5); }
+int thumbRadius(Scale scale) { return scale.toPixels(kThumbRadius); }
 
 void drawSlider(const Canvas& canvas, const RECT& area, int thumb, const FaceState& state) {
     const Palette& palette = canvas.palette;

@@ -22,6 +22,7 @@ protected:
     LRESULT serve(UINT message, WPARAM wide, LPARAM lengthy) override;
     void paint(const Canvas& canvas, const RECT& area) override;
     [[nodiscard]] HWND focusWindow() const override { return field_.handle(); }
+    [[nodiscard]] std::wstring windowText() const override { return {}; } // the edit has it
     void wheel(int steps) override { step(steps, GetKeyState(VK_SHIFT) < 0); }
     [[nodiscard]] bool takesWheel() const override { return hasFocus() && !popup_; }
 

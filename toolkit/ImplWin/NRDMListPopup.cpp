@@ -93,6 +93,7 @@ bool NRDMListPopup::key(WPARAM key) {
 }
 
 LRESULT NRDMListPopup::serve(UINT message, WPARAM wide, LPARAM lengthy) {
+    if (const auto told = rows_.tell(message, wide, lengthy, inside(), scale())) return *told;
     const POINT point{GET_X_LPARAM(lengthy), GET_Y_LPARAM(lengthy)};
     switch (message) {
     case WM_MOUSEMOVE:

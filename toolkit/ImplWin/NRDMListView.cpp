@@ -160,6 +160,21 @@ void ListRows::draw(const Canvas& canvas, const RECT& area, int hot, int chosen,
     canvas.surface.setClip(outer);
 }
 
+std::optional<LRESULT> ListRows::tell(UINT message, WPARAM wide, LPARAM lengthy, const RECT& area,
+                                      Scale scale) const {
+    if (message == LB_GETCOUNT) return count();
+    if (message == LB_GETCURSEL) return view_.chosen >= 0 ? view_.chosen : LB_ERR;
+    if (message != LB_GETTEXTLEN && message != LB_GETTEXT && message != LB_GETITEMRECT)
+        return std::nullopt;
+    if (wide >= view_.entries.size()) return LB_ERR;
+    const std::wstring text = toWide(view_.entries[wide].text);
+    if (message == LB_GETITEMRECT)
+        *reinterpret_cast<RECT*>(lengthy) = rowOf(static_cast<int>(wide), area, scale);
+    else if (message == LB_GETTEXT)
+        *std::copy(text.begin(), text.end(), reinterpret_cast<wchar_t*>(lengthy)) = L'\0';
+    return message == LB_GETITEMRECT ? LRESULT{0} : static_cast<LRESULT>(text.size());
+}
+
 NRDMListView::NRDMListView(NativeDialog& dialog, const ItemView& view, ItemEvents& events)
     : NativeItem(dialog, view, events), rows_(view, textStyle()) {
     createItem(nullptr, WS_TABSTOP);
@@ -193,6 +208,7 @@ void NRDMListView::choose(int entry) {
 }
 
 LRESULT NRDMListView::serve(UINT message, WPARAM wide, LPARAM lengthy) {
+    if (const auto told = rows_.tell(message, wide, lengthy, inside(), scale())) return *told;
     const std::weak_ptr<const char> alive = watch();
     const LRESULT answer = NativeItem::serve(message, wide, lengthy);
     if (alive.expired()) return answer;

@@ -46,6 +46,11 @@ public:
     void draw(const Canvas& canvas, const RECT& area, int hot, int chosen, Colour plain,
               bool enabled = true) const;
 
+    /// What other programs, such as screen readers, ask of lists: entries and where they lie, as of
+    /// Windows' own. Nothing for any other message.
+    [[nodiscard]] std::optional<LRESULT> tell(UINT message, WPARAM wide, LPARAM lengthy,
+                                              const RECT& area, Scale scale) const;
+
 private:
     [[nodiscard]] int count() const { return static_cast<int>(view_.entries.size()); }
     [[nodiscard]] int topOf(int entry, Scale scale) const;

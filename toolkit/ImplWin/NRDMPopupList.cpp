@@ -65,15 +65,24 @@ bool NRDMPopupList::key(WPARAM key) {
 
 void NRDMPopupList::wheel(int steps) { chooseBeside(steps > 0 ? -1 : 1); }
 
+std::wstring NRDMPopupList::windowText() const {
+    const auto chosen = static_cast<std::size_t>(view().chosen);
+    if (view().chosen < 0 || chosen >= view().entries.size() || !view().known) return {};
+    return captionOf(toWide(view().entries[chosen].text)).text;
+}
+
 void NRDMPopupList::paint(const Canvas& canvas, const RECT& area) {
     FaceState now = state();
     now.pressed = popup_ != nullptr;
     const RECT text = drawPopup(canvas, area, Arrow::Down, now);
-    const auto chosen = static_cast<std::size_t>(view().chosen);
-    if (view().chosen < 0 || chosen >= view().entries.size() || !view().known) return;
     drawLine(canvas.surface, text,
-             {captionOf(toWide(view().entries[chosen].text)), textStyle(), canvas.scale,
-              textColour(canvas.palette, now), Justify::Left, Overflow::EndEllipsis, false});
+             {{windowText(), -1},
+              textStyle(),
+              canvas.scale,
+              textColour(canvas.palette, now),
+              Justify::Left,
+              Overflow::EndEllipsis,
+              false});
 }
 
 } // namespace NRDM

@@ -15,6 +15,7 @@ protected:
     void wheel(int steps) override;
     [[nodiscard]] bool takesWheel() const override { return hasFocus() && !popup_; }
     void paint(const Canvas& canvas, const RECT& area) override;
+    [[nodiscard]] std::wstring windowText() const override;
 
 private:
     void open();

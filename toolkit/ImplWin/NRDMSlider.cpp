@@ -2,23 +2,13 @@
 
 #include <windowsx.h>
 
+#include <commctrl.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
 namespace NRDM {
-
-int SliderScale::pixelOf(double value) const {
-    if (!(highest > lowest)) return left;
-    const double part = std::clamp((value - lowest) / (highest - lowest), 0.0, 1.0);
-    return left + static_cast<int>(std::lround(part * (right - left)));
-}
-
-double SliderScale::valueAt(int pixel) const {
-    if (right <= left) return lowest;
-    const double part = std::clamp(static_cast<double>(pixel - left) / (right - left), 0.0, 1.0);
-    return lowest + part * (highest - lowest);
-}
 
 SliderScale sliderScale(const ItemView& view, const RECT& area, Scale scale) {
     const int radius = thumbRadius(scale);
@@ -98,7 +88,35 @@ NRDMSlider::NRDMSlider(NativeDialog& dialog, const ItemView& view, ItemEvents& e
     createItem(nullptr, WS_TABSTOP);
 }
 
+/// What other programs, such as screen readers, ask of sliders, as of Windows' own. Those know
+/// whole numbers only.
+std::optional<LRESULT> NRDMSlider::tell(UINT message, LPARAM lengthy) const {
+    const RECT area = client();
+    const SliderScale bar = sliderScale(view(), area, scale());
+    const auto answer = [&](LONG left, LONG right) {
+        *reinterpret_cast<RECT*>(lengthy) = {left, area.top, right, area.bottom};
+        return LRESULT{0};
+    };
+    switch (message) {
+    case TBM_GETPOS:
+        return std::lround(view().value);
+    case TBM_GETRANGEMIN:
+        return std::lround(view().lowest);
+    case TBM_GETRANGEMAX:
+        return std::lround(view().highest);
+    case TBM_GETCHANNELRECT:
+        return answer(bar.left, bar.right);
+    case TBM_GETTHUMBRECT: {
+        const int middle = bar.pixelOf(view().value);
+        return answer(middle - thumbRadius(scale()), middle + thumbRadius(scale()));
+    }
+    default:
+        return std::nullopt;
+    }
+}
+
 LRESULT NRDMSlider::serve(UINT message, WPARAM wide, LPARAM lengthy) {
+    if (const auto told = tell(message, lengthy)) return *told;
     const std::weak_ptr<const char> alive = watch();
     if (message == WM_LBUTTONDOWN) {
         SetFocus(handle());

@@ -2,22 +2,13 @@
 
 #include "toolkit/ImplWin/NativeItem.h"
 
+#include "toolkit/ImplCommon/SliderScale.h"
+
 #include <optional>
 
 namespace NRDM {
 
-/// A slider's values on a bar of pixels: the middle of the thumb keeps its radius away from both
-/// ends.
-struct SliderScale {
-    double lowest = 0;
-    double highest = 1;
-    int left = 0;
-    int right = 0;
-
-    [[nodiscard]] int pixelOf(double value) const;
-    [[nodiscard]] double valueAt(int pixel) const;
-};
-
+/// Of a slider that takes up `area`.
 [[nodiscard]] SliderScale sliderScale(const ItemView& view, const RECT& area, Scale scale);
 
 /// Slides in a window: press on the thumb, drag, release; or click beside it for a large step.
@@ -54,6 +45,8 @@ protected:
     void paint(const Canvas& canvas, const RECT& area) override;
 
 private:
+    [[nodiscard]] std::optional<LRESULT> tell(UINT message, LPARAM lengthy) const;
+
     SliderDrag drag_;
 };
 

@@ -2,6 +2,13 @@
 
 namespace NRDM {
 
+/// Windows asks nobody whether a button that others draw is checked; programs ask the button.
+LRESULT NRDMToggleButton::serve(UINT message, WPARAM wide, LPARAM lengthy) {
+    if (message != BM_GETCHECK) return NRDMButton::serve(message, wide, lengthy);
+    if (!view().known) return BST_INDETERMINATE;
+    return view().value != 0 ? BST_CHECKED : BST_UNCHECKED;
+}
+
 FaceState NRDMToggleButton::state() const {
     FaceState state = NRDMButton::state();
     state.mixed = !view().known;

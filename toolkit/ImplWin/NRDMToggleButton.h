@@ -10,6 +10,7 @@ public:
     using NRDMButton::NRDMButton;
 
 protected:
+    LRESULT serve(UINT message, WPARAM wide, LPARAM lengthy) override;
     void paint(const Canvas& canvas, const RECT& area) override;
     [[nodiscard]] FaceState state() const override;
 };

@@ -43,8 +43,11 @@ NativeItem::NativeItem(NativeDialog& dialog, const ItemView& view, ItemEvents& e
 NativeItem::~NativeItem() { dialog_.tips().remove(this); }
 
 void NativeItem::createItem(const wchar_t* systemClass, DWORD style) {
+    const std::wstring title = windowText();
     Plan plan;
     plan.systemClass = systemClass;
+    plan.title = title.c_str();
+    plan.id = view_.id;
     plan.style = WS_CHILD | WS_CLIPSIBLINGS | style | (view_.visible ? WS_VISIBLE : 0U) |
                  (view_.enabled ? 0U : WS_DISABLED);
     plan.place = scale().toPixels(
@@ -71,10 +74,16 @@ void NativeItem::changed(Aspect aspects) {
         SetWindowPos(handle(), nullptr, place.left, place.top, place.right - place.left,
                      place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
     }
+    if (has(aspects, Aspect::Text | Aspect::Value | Aspect::Entries)) showWindowText();
     if (has(aspects, Aspect::Visible)) ShowWindow(handle(), view_.visible ? SW_SHOWNA : SW_HIDE);
     if (has(aspects, Aspect::Enabled)) EnableWindow(handle(), view_.enabled);
     if (has(aspects, Aspect::Tip | Aspect::Bounds | Aspect::Visible)) applyTip();
     if (aspects != Aspect::Tip) repaint();
+}
+
+void NativeItem::showWindowText() {
+    const std::wstring text = windowText();
+    if (text != windowTextOf(handle())) SetWindowTextW(handle(), text.c_str());
 }
 
 void NativeItem::focus() { SetFocus(focusWindow()); }

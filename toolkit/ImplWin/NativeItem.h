@@ -38,6 +38,10 @@ protected:
         return {dialog_.scale().factor, view_.bounds.top};
     }
 
+    /// What the window says it shows: screen readers and other programs read that. They know an
+    /// item's window by the item's id.
+    [[nodiscard]] virtual std::wstring windowText() const { return toWide(view_.text); }
+
     /// A key that the control has a use for itself; true when it had.
     virtual bool key(WPARAM) { return false; }
 
@@ -75,6 +79,7 @@ protected:
 
 private:
     void applyTip();
+    void showWindowText();
     bool serveKey(UINT message, WPARAM wide);
 
     NativeDialog& dialog_;

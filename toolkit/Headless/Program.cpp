@@ -1,0 +1,21 @@
+#include "toolkit/Headless/Program.h"
+
+#include <dlfcn.h>
+
+namespace NRDM {
+namespace {
+
+facetta::door::Program* exportedProgram() {
+    auto* const function = reinterpret_cast<facetta::door::ProgramFunction*>(
+        dlsym(RTLD_DEFAULT, facetta::door::kProgramFunction));
+    return function != nullptr ? function() : nullptr;
+}
+
+} // namespace
+
+facetta::door::Program*& program() {
+    static facetta::door::Program* one = exportedProgram();
+    return one;
+}
+
+} // namespace NRDM
