@@ -29,6 +29,8 @@ public:
     /// Takes the next word if it is this keyword.
     bool take(std::string_view keyword);
     [[nodiscard]] std::string text(const char* what);
+    /// As it is written, with or without quotes.
+    [[nodiscard]] Word word(const char* what) { return next(what); }
     /// Finite.
     [[nodiscard]] double number(const char* what);
     [[nodiscard]] int whole(const char* what, int least, int most);

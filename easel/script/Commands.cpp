@@ -4,6 +4,7 @@
 #include "easel/document/Attributes.h"
 #include "easel/document/Dump.h"
 #include "easel/document/Layers.h"
+#include "easel/script/Deeds.h"
 #include "easel/script/System.h"
 
 #include <algorithm>
@@ -216,20 +217,12 @@ Action readClick(Arguments& arguments) {
 
 // Menus and history
 
-AIMenuItemHandle menuItemNamed(Menus& menus, const std::string& name) {
-    if (const AIMenuItemHandle item = menus.itemNamed(name)) return item;
-    const std::u32string text = utf32FromUtf8(name);
-    const AIMenuItemHandle item =
-        menus.items.findIf([&](const MenuItem& each) { return each.text == text; });
-    if (item == nullptr) throw SessionError("there is no menu item \"" + name + '"');
-    return item;
-}
-
 Action readMenu(Arguments& arguments) {
     return [name = arguments.text("item")](Player& player) {
         Host& host = player.host();
         host.openMenus();
         const AIMenuItemHandle item = menuItemNamed(host.menus, name);
+        if (item == nullptr) throw SessionError("there is no menu item \"" + name + '"');
         if (!host.menus.items.at(item).enabled)
             throw SessionError("the menu item \"" + name + "\" is disabled");
         host.chooseMenuItem(item);
@@ -370,9 +363,9 @@ constexpr CommandRow kCommands[] = {
     {"save", "FILE", "Saves the drawing among the results", readSave},
     {"switch", "NUMBER",
      "Brings an open drawing to the front: 1 is the one that was opened first of those left",
-     readSwitch},
+     readSwitch, UnderDialog::Done},
     {"close", "", "Closes the drawing in front; the first of those left comes to the front",
-     readClose},
+     readClose, UnderDialog::Done},
     {"layer", "choose|add|delete|lock|unlock|hide|show TITLE",
      "Does that to the layer of that title; a new one lies on top and is current", readLayer},
     {"select", "all|none|ID...",
@@ -392,19 +385,20 @@ constexpr CommandRow kCommands[] = {
     {"undo", "", "Takes the last step back", readUndo},
     {"redo", "", "Does the step again that was last taken back", readRedo},
     {"remember", "NAME", "Keeps the whole drawing as it is, to be compared with later",
-     readRemember},
+     readRemember, UnderDialog::Done},
     {"window", "WIDTH HEIGHT", "Makes the view that large, in pixels; at first it is 1280 by 800",
      readWindow},
     {"zoom", "FACTOR", "Shows a point as that many pixels, 1/32 to 64; the middle stays", readZoom},
     {"centre", "X,Y", "Scrolls that place into the middle of the view", readCentre},
     {"smart-guides", "on|off", "Turns the host's cursor snapping on or off; at first it is on",
-     readSmartGuides},
-    {"theme", "light|dark", "Changes the brightness of the interface", readTheme},
-    {"constrain", "DEGREES", "Sets the host's constrain angle", readConstrain},
+     readSmartGuides, UnderDialog::Done},
+    {"theme", "light|dark", "Changes the brightness of the interface", readTheme,
+     UnderDialog::Done},
+    {"constrain", "DEGREES", "Sets the host's constrain angle", readConstrain, UnderDialog::Done},
     {"preference", "PREFIX NAME on|off|NUMBER",
      "Stores a setting; a plug-in reads its own when it starts, so before everything else or a "
      "restart. Whole numbers are stored as integers unless written with a point",
-     readPreference},
+     readPreference, UnderDialog::Done},
     {"restart", "", "Quits host and plug-in and starts them again; settings stay, drawings do not",
      readRestart},
     {"reload", "",
@@ -414,34 +408,47 @@ constexpr CommandRow kCommands[] = {
      "Has the host be this way or the other where its interface does not say; the names are those "
      "in "
      "`easel/document/Switches.h`",
-     readHost},
+     readHost, UnderDialog::Done},
     {"answer", "yes|no|cancel", "Answers the next question that is asked; otherwise it is yes",
-     readAnswer},
-    {"wait", "MILLISECONDS", "Lets time pass", readWait},
-    {"redraw", "", "Uncovers the window, so that it is painted anew", readRedraw},
+     readAnswer, UnderDialog::Done},
+    {"wait", "MILLISECONDS", "Lets time pass", readWait, UnderDialog::Done},
+    {"redraw", "", "Uncovers the window, so that it is painted anew", readRedraw,
+     UnderDialog::Done},
     {"picture", "FILE [scale N]",
-     "Keeps what the window shows among the results, with N pixels to one of the view",
-     readPicture},
+     "Keeps what the window shows among the results, with N pixels to one of the view", readPicture,
+     UnderDialog::Done},
 };
 
-template <typename Row> std::string tableOf(std::span<const Row> rows, const char* before) {
-    std::string text;
-    for (const Row& row : rows) {
-        std::string arguments = row.arguments;
-        for (std::size_t at = 0; (at = arguments.find('|', at)) != std::string::npos; at += 2)
-            arguments.insert(at, "\\"); // a bare one would end the cell
-        text += std::string("| `") + before + row.name + (arguments.empty() ? "" : " ") +
-                arguments + "` | " + row.meaning + " |\n";
-    }
-    return text;
+template <typename Row> std::string lineOf(const Row& row, const std::string& before) {
+    std::string written = before + row.name + (*row.arguments != 0 ? " " : "") + row.arguments;
+    for (std::size_t at = 0; (at = written.find('|', at)) != std::string::npos; at += 2)
+        written.insert(at, "\\"); // a bare one would end the cell
+    return "| `" + written + "` | " + row.meaning + " |\n";
 }
 
 } // namespace
 
 std::span<const CommandRow> commands() { return kCommands; }
 
+AIMenuItemHandle menuItemNamed(const Menus& menus, const std::string& name) {
+    if (const AIMenuItemHandle item = menus.itemNamed(name)) return item;
+    const std::u32string text = utf32FromUtf8(name);
+    return menus.items.findIf([&](const MenuItem& each) { return each.text == text; });
+}
+
 std::string languageTables() {
-    return tableOf(commands(), "") + '\n' + tableOf(expectations(), "expect ");
+    std::string text;
+    for (const CommandRow& row : commands())
+        text += lineOf(row, "");
+    text += '\n';
+    for (const DeedRow& row : deeds())
+        text += lineOf(row, !row.only                   ? "panel|dialog "
+                            : *row.only == Where::Panel ? "panel "
+                                                        : "dialog ");
+    text += '\n';
+    for (const ExpectationRow& row : expectations())
+        text += lineOf(row, "expect ");
+    return text;
 }
 
 } // namespace easel::script

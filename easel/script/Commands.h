@@ -14,11 +14,15 @@ namespace easel::script {
 using Action = std::function<void(Player&)>;
 using Check = std::function<Finding(Player&)>;
 
+/// A modal dialog keeps the user from everything else, but not the host and the script.
+enum class UnderDialog : std::uint8_t { Refused, Done };
+
 struct CommandRow {
     const char* name;
     const char* arguments; ///< As documentation writes them: NAMES in capitals, [optional].
     const char* meaning;   ///< A sentence without its full stop.
     Action (*read)(Arguments&);
+    UnderDialog underDialog = UnderDialog::Refused;
 };
 
 struct ExpectationRow {
@@ -31,7 +35,10 @@ struct ExpectationRow {
 [[nodiscard]] std::span<const CommandRow> commands();
 [[nodiscard]] std::span<const ExpectationRow> expectations();
 
-/// Both tables as rows of Markdown, as docs/easel.md has them.
+/// The menu item of that name or text; null when there is none.
+[[nodiscard]] AIMenuItemHandle menuItemNamed(const Menus& menus, const std::string& name);
+
+/// All tables as rows of Markdown, as docs/easel.md has them.
 [[nodiscard]] std::string languageTables();
 
 } // namespace easel::script

@@ -3,6 +3,7 @@
 #include "easel/document/Dump.h"
 #include "easel/document/Layers.h"
 #include "easel/script/Commands.h"
+#include "easel/script/Deeds.h"
 #include "easel/script/ShownAxes.h"
 #include "easel/session/Inventory.h"
 #include "easel/svg/Content.h"
@@ -478,6 +479,20 @@ constexpr ExpectationRow kExpectations[] = {
      "a number of the information display", readInfo},
     {"preference", "PREFIX NAME on|off|NUMBER [within T]", "a stored setting", readPreferenceValue},
     {"alert", "none|TEXT", "the oldest message box not yet expected", readAlert},
+    {"panel", "full|compact|hidden [WIDTH HEIGHT]", "how the panel is shown, and how large",
+     readPanelState},
+    {"panel-item",
+     "ITEM [text TEXT] [value N [within T]] [tip TEXT] [on|off] [enabled|disabled] [shown|hidden] "
+     "[focused|unfocused]",
+     "what is seen of an item of the panel, hidden or not; the value is that of a slider, or the "
+     "number that a text begins with",
+     readItemState<Where::Panel>},
+    {"dialog", "none|TITLE", "the title of the modal dialog in front", readDialogTitle},
+    {"dialog-item", "ITEM ...", "the same of an item of that dialog", readItemState<Where::Dialog>},
+    {"flyout", "ENTRY absent|enabled|disabled|checked|unchecked...",
+     "what the entry of that text is like in the panel's flyout menu", readFlyoutEntry},
+    {"menu", "ITEM absent|enabled|disabled|checked|unchecked...",
+     "what the menu item of that name or text is like", readMenuEntry},
     {"picture", "FILE [scale N] within PERCENT [or PERCENT on windows]",
      "the window like the PNG FILE, which lies where the script does, but for that many of its "
      "pixels; letters differ from system to system",

@@ -1,6 +1,7 @@
 #include "easel/script/Player.h"
 
 #include "easel/paint/PaintAnnotations.h"
+#include "easel/script/Dialogs.h"
 #include "easel/script/System.h"
 #include "easel/svg/Content.h"
 
@@ -122,7 +123,10 @@ void Player::send(MouseEvent event, Place place) {
 
 void Player::moveTo(Place place) { send(&Host::track, place); }
 
-void Player::pressAt(Place place) { send(&Host::press, place); }
+void Player::pressAt(Place place) {
+    if (Dialog* const panel = panelDialog()) panel->leave(); // the keyboard follows the mouse
+    send(&Host::press, place);
+}
 
 void Player::dragTo(Place place, int steps) {
     const svg::Point from = pixels(mouse_);

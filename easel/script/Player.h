@@ -47,6 +47,7 @@ public:
     /// Repaints the window where that is due. Throws SessionError when the plug-in has answered a
     /// message with an error.
     void endCommand();
+    [[nodiscard]] bool isHeld(std::size_t key) const { return keys_[key]; }
     /// Quits the plug-in and starts it again; settings stay.
     void restart();
     /// Unloads the plug-in's library, held or not, and loads it again at another address.

@@ -9,6 +9,7 @@ struct Step {
     int line = 0;
     HeldKeys keys;
     Action action; ///< Null for an expectation.
+    UnderDialog underDialog = UnderDialog::Done;
     Check check;
 };
 
