@@ -33,7 +33,7 @@ ai::int32 optionsOf(Transform parts) {
 
 std::vector<AIArtHandle> mapAll(std::span<const AIArtHandle> set, const Matrix& map,
                                 Duplicate duplicate, CopyMode mode) {
-    const CopyMaker copies{mode};
+    CopyMaker copies{mode};
     AIRealMatrix matrix = narrow(map);
     std::vector<AIArtHandle> made;
     for (const AIArtHandle art : set) {
@@ -54,16 +54,23 @@ void transformArt(AIArtHandle art, AIRealMatrix& matrix, Transform parts) {
 
 bool holdsGuides(AIArtHandle art) { return !GuideTag::marksInside(art).empty(); }
 
+Selected selectedOf(ai::int32 attributes, bool isPath) {
+    if ((attributes & kArtSelected) == 0) return Selected::Nothing;
+    if (!isPath) return Selected::Object;
+    return (attributes & kArtFullySelected) != 0 ? Selected::Path : Selected::PartOfPath;
+}
+
 CopySource copySource(AIArtHandle art, const MarkKeys& keys) {
+    const ai::int16 type = typeOf(art);
     return {.art = art,
             .marks = marksOf(art, keys),
             .holdsGuides = holdsGuides(art),
-            .selected = attributesOf(art, kArtSelected) != 0,
-            .parts = typeOf(art) == kPluginArt ? Transform::AndTellPlugins : Transform::Whole};
+            .selected =
+                selectedOf(attributesOf(art, kArtSelected | kArtFullySelected), type == kPathArt),
+            .parts = type == kPluginArt ? Transform::AndTellPlugins : Transform::Whole};
 }
 
-AIArtHandle CopyMaker::make(const CopySource& source, AIRealMatrix& matrix,
-                            AIArtHandle behind) const {
+AIArtHandle CopyMaker::make(const CopySource& source, AIRealMatrix& matrix, AIArtHandle behind) {
     AIArtHandle copy = nullptr;
     ai::check(suites.art->DuplicateArt(source.art, kPlaceBelow, behind, &copy));
     transformArt(copy, matrix, source.parts);
@@ -73,8 +80,8 @@ AIArtHandle CopyMaker::make(const CopySource& source, AIRealMatrix& matrix,
     if (mode_ == CopyMode::Live) {
         markAndLock(copy, source);
     } else {
-        shedMarks(copy, source);
-        if (source.selected) selectLike(copy, source.art);
+        if (source.isMarked()) shedMarks(copy);
+        if (!isSelectedAsItIs(source)) select(copy, source);
     }
     return copy;
 }
@@ -87,25 +94,30 @@ void CopyMaker::markAndLock(AIArtHandle copy, const CopySource& source) const {
         ai::check(suites.dictionary->DeleteEntry(entries.get(), keys_.guide));
     ai::check(suites.dictionary->SetIntegerEntry(entries.get(), keys_.mirror, MirrorTag::kCopy));
     // In two calls: in which order a host sets the attributes of one call is its affair.
-    if (source.selected) ai::check(suites.art->SetArtUserAttr(copy, kArtSelected, 0));
+    if (source.selected != Selected::Nothing)
+        ai::check(suites.art->SetArtUserAttr(copy, kArtSelected, 0));
     ai::check(suites.art->SetArtUserAttr(copy, kArtLocked, kArtLocked));
 }
 
-/// Whether a duplicate is selected with its source is the host's affair.
-void CopyMaker::selectLike(AIArtHandle copy, AIArtHandle source) {
-    const bool isPath = typeOf(source) == kPathArt;
-    if (!isPath || attributesOf(source, kArtFullySelected) != 0) {
-        ai::check(suites.art->SetArtUserAttr(copy, kArtSelected, kArtSelected));
+/// Whether a duplicate is selected with its source is the host's affair. Of paths there are many:
+/// the first one tells.
+void CopyMaker::select(AIArtHandle copy, const CopySource& source) {
+    switch (source.selected) {
+    case Selected::Nothing:
         return;
+    case Selected::PartOfPath:
+        ai::check(suites.art->SetArtUserAttr(copy, kArtSelected, 0));
+        return selectAnchors(copy, readPath(source.art, kArtSelected));
+    case Selected::Path:
+        if (!pathsStaySelected_) pathsStaySelected_ = attributesOf(copy, kArtFullySelected) != 0;
+        if (*pathsStaySelected_) return;
+        [[fallthrough]];
+    case Selected::Object:
+        ai::check(suites.art->SetArtUserAttr(copy, kArtSelected, kArtSelected));
     }
-    PathShape shape;
-    PathTransfer{}.read(source, kArtSelected, shape);
-    ai::check(suites.art->SetArtUserAttr(copy, kArtSelected, 0));
-    selectAnchors(copy, shape);
 }
 
-void CopyMaker::shedMarks(AIArtHandle copy, const CopySource& source) const {
-    if (source.marks.mirror == MirrorTag::kSource && !source.marks.guide) return;
+void CopyMaker::shedMarks(AIArtHandle copy) const {
     const ai::Dictionary entries = dictionaryOf(copy);
     for (const AIDictKey key : {keys_.mirror, keys_.guide})
         if (suites.dictionary->IsKnown(entries.get(), key))

@@ -5,8 +5,11 @@
 #include "host/Handles.h"
 #include "host/Types.h"
 #include "symmetry/ArtMarks.h"
+#include "symmetry/MirrorTag.h"
 #include "symmetry/geometry/PageAxes.h"
 
+#include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -30,13 +33,28 @@ enum class Transform {
 /// Transforms one object. Throws `ai::Error`.
 void transformArt(AIArtHandle art, AIRealMatrix& matrix, Transform parts);
 
+/// What of an object is selected.
+enum class Selected : std::uint8_t {
+    Nothing,
+    PartOfPath, ///< Some anchors or handles.
+    Path,
+    Object, ///< What is no path, as far as the host selects it.
+};
+
+/// By the attributes `kArtSelected` and `kArtFullySelected` of the object.
+[[nodiscard]] Selected selectedOf(ai::int32 attributes, bool isPath);
+
 /// An object to be copied and what of it a copy has to shed.
 struct CopySource {
     AIArtHandle art = nullptr;
     ArtMarks marks;
     bool holdsGuides = false; ///< Something inside it carries the mark of a guide.
-    bool selected = false;
+    Selected selected = Selected::Nothing;
     Transform parts = Transform::Whole;
+
+    [[nodiscard]] bool isMarked() const {
+        return marks.mirror != MirrorTag::kSource || marks.guide;
+    }
 };
 
 /// Whether something inside `art` carries the mark of a guide. Throws `ai::Error`.
@@ -53,17 +71,23 @@ public:
     /// A duplicate of `source` under `matrix`, directly behind the object `behind`, without the
     /// marks of its source; as ordinary art it is selected as its source is. Throws `ai::Error`.
     [[nodiscard]] AIArtHandle make(const CopySource& source, AIRealMatrix& matrix,
-                                   AIArtHandle behind) const;
+                                   AIArtHandle behind);
 
     [[nodiscard]] const MarkKeys& keys() const { return keys_; }
 
 private:
     void markAndLock(AIArtHandle copy, const CopySource& source) const;
-    void shedMarks(AIArtHandle copy, const CopySource& source) const;
-    static void selectLike(AIArtHandle copy, AIArtHandle source);
+    void shedMarks(AIArtHandle copy) const;
+    [[nodiscard]] bool isSelectedAsItIs(const CopySource& source) const {
+        return source.selected == Selected::Nothing ||
+               (source.selected == Selected::Path && pathsStaySelected_ == true);
+    }
+    void select(AIArtHandle copy, const CopySource& source);
 
     CopyMode mode_;
     MarkKeys keys_;
+    /// Whether duplicates of selected paths are selected in this host; unknown before the first.
+    std::optional<bool> pathsStaySelected_;
 };
 
 /// Reflects every object of `set` across the line of ray `rayIndex`: the object itself, or a

@@ -111,6 +111,7 @@ private:
         replacePath(unit, mirrored, frame_.fold(mirrored.sector), transfer_, placed_);
         for (const PlacedArt& placed : placed_)
             makeCopies(unit, placed);
+        scratch_.giveBack(std::move(mirrored));
     }
 
     void mirrorCompound(const Unit& unit) {
@@ -139,7 +140,7 @@ private:
             .art = placed.art,
             .marks = unit.marks,
             .holdsGuides = unit.kind != UnitKind::Path && holdsGuides(placed.art),
-            .selected = (unit.selection & kArtSelected) != 0,
+            .selected = selectedOf(unit.selection, placed.isPath),
             .parts =
                 unit.kind == UnitKind::PluginGroup ? Transform::AndTellPlugins : Transform::Whole};
         AIArtHandle behind = placed.art;

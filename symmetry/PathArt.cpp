@@ -16,11 +16,12 @@
 namespace facetta {
 namespace {
 
-PathSegment widened(const AIPathSegment& segment) {
+PathSegment widened(const AIPathSegment& segment, ai::int16 selected) {
     return {.anchor = widen(segment.p),
             .in = widen(segment.in),
             .out = widen(segment.out),
-            .corner = segment.corner != 0};
+            .corner = segment.corner != 0,
+            .selection = selected};
 }
 
 /// A coordinate of a path, which was rounded to what the host can store when it was made.
@@ -48,15 +49,10 @@ bool isClosed(AIArtHandle path) {
     return closed != 0;
 }
 
-void readAnchorSelection(AIArtHandle path, ai::int32 selected, PathShape& shape) {
-    if ((selected & (kArtSelected | kArtFullySelected)) == 0) return;
-    const bool fully = (selected & kArtFullySelected) != 0;
-    for (std::size_t i = 0; i < shape.segments.size(); ++i) {
-        ai::int16 state = selection::kAnchor;
-        if (!fully)
-            ai::check(suites.path->GetPathSegmentSelected(path, static_cast<ai::int16>(i), &state));
-        shape.segments[i].selection = state;
-    }
+void readAnchorSelection(AIArtHandle path, PathShape& shape) {
+    for (std::size_t i = 0; i < shape.segments.size(); ++i)
+        ai::check(suites.path->GetPathSegmentSelected(path, static_cast<ai::int16>(i),
+                                                      &shape.segments[i].selection));
 }
 
 } // namespace
@@ -73,8 +69,11 @@ void PathTransfer::read(AIArtHandle path, ai::int32 selection, PathShape& shape)
     if (count > 0) ai::check(suites.path->GetPathSegments(path, 0, count, segments.data()));
     shape.closed = isClosed(path);
     shape.segments.resize(segments.size());
-    std::ranges::transform(segments, shape.segments.begin(), widened);
-    readAnchorSelection(path, selection, shape);
+    const bool fully = (selection & kArtFullySelected) != 0;
+    const std::int16_t each = fully ? selection::kAnchor : selection::kNone;
+    std::ranges::transform(segments, shape.segments.begin(),
+                           [each](const AIPathSegment& segment) { return widened(segment, each); });
+    if (!fully && (selection & kArtSelected) != 0) readAnchorSelection(path, shape);
 }
 
 void PathTransfer::write(AIArtHandle path, const PathShape& shape) {

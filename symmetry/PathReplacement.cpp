@@ -125,7 +125,7 @@ void replaceByPaths(const Unit& source, const MirroredPath& mirrored, const Matr
     selectAll(paths, mirrored.contours);
     ai::check(suites.art->DisposeArt(source.art));
     for (std::size_t i = 0; i < paths.size(); ++i)
-        placed.push_back({paths[i].release(), mirrored.contours[i].images});
+        placed.push_back({paths[i].release(), mirrored.contours[i].images, /*isPath*/ true});
 }
 
 } // namespace
@@ -136,7 +136,7 @@ void replacePath(const Unit& source, const MirroredPath& mirrored, const Matrix&
     if (mirrored.contours.empty()) return;
     if (mirrored.unchanged || mirrored.carried) {
         if (!mirrored.unchanged) foldArt(source.art, fold, Transform::Whole);
-        placed.push_back({source.art, mirrored.contours.front().images});
+        placed.push_back({source.art, mirrored.contours.front().images, /*isPath*/ true});
         return;
     }
     if (mirrored.compound && mirrored.contours.size() > 1)

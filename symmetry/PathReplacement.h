@@ -15,6 +15,7 @@ namespace facetta {
 struct PlacedArt {
     AIArtHandle art = nullptr;
     Images images = Images::All;
+    bool isPath = false;
 };
 
 /// Replaces the path of `source` by `mirrored`, under `fold` (the map that carried its active

@@ -3,6 +3,7 @@
 #include "symmetry/geometry/Tolerances.h"
 
 #include <cmath>
+#include <span>
 #include <utility>
 
 namespace facetta {
@@ -51,7 +52,7 @@ class ContactFinder {
 public:
     ContactFinder(const Wedge& wedge, const PathShape& path, ContactScratch& scratch)
         : wedge_(wedge), path_(path), margins_(scratch.margins), crossings_(scratch.crossings),
-          sides_(scratch.sides) {}
+          sides_(scratch.sides), found_{.all = scratch.contacts.take()} {}
 
     Contacts find();
 
@@ -59,8 +60,7 @@ private:
     /// True when every curve is clear of both rays, so that any anchor tells the side of all.
     bool collectCrossings();
     [[nodiscard]] Crossing anchorCrossing(std::size_t index, Point anchor) const;
-    void addCurveCrossings(std::size_t index, const Cubic& curve,
-                           const std::array<Wedge::Distances, 4>& distances);
+    void addCurveCrossings(std::size_t index, const Cubic& curve);
     void addRayCrossings(std::size_t index, const Cubic& curve, Ray ray, const Roots& roots);
     [[nodiscard]] double farthestMargin(std::size_t firstAnchor, std::size_t endAnchor) const;
     [[nodiscard]] double farthestMargin(const Cubic& curve, const Crossing& from,
@@ -89,6 +89,7 @@ private:
 Contacts ContactFinder::find() {
     crossings_.clear();
     sides_.clear();
+    found_.all.clear();
     const bool staysOnOneSide = collectCrossings();
 
     const std::size_t anchors = path_.segments.size();
@@ -106,21 +107,23 @@ Contacts ContactFinder::find() {
 }
 
 bool ContactFinder::collectCrossings() {
-    const std::vector<PathSegment>& segments = path_.segments;
-    margins_.resize(segments.size());
-    if (segments.empty()) return false;
+    margins_.resize(path_.segments.size());
+    if (path_.segments.empty()) return false;
     bool allStayClear = true;
+    // Copies, which nothing that is written below can change.
+    const std::span segments{path_.segments};
+    const std::span margins{margins_};
     const std::size_t curves = curveCount(path_);
-    const Wedge wedge = wedge_; // nothing that is written below can change this one
+    const Wedge wedge = wedge_;
     Wedge::Distances here = wedge.distances(segments.front().anchor);
     for (std::size_t i = 0; i < curves; ++i) {
         const PathSegment& next = segments[i + 1 == segments.size() ? 0 : i + 1];
         const Wedge::Distances there = wedge.distances(next.anchor);
-        margins_[i] = here.margin();
+        margins[i] = here.margin();
         const Wedge::Distances out = wedge.distances(segments[i].out);
         const Wedge::Distances in = wedge.distances(next.in);
         if (!staysClear(here, out, in, there)) {
-            addCurveCrossings(i, curveAt(path_, i), {here, out, in, there});
+            addCurveCrossings(i, curveAt(path_, i));
             allStayClear = false;
         }
         here = there;
@@ -138,16 +141,13 @@ Crossing ContactFinder::anchorCrossing(std::size_t index, Point anchor) const {
 }
 
 /// Adds the crossings of one curve: its first anchor and the places up to the second one.
-/// `distances` are those of its control points.
-void ContactFinder::addCurveCrossings(std::size_t index, const Cubic& curve,
-                                      const std::array<Wedge::Distances, 4>& distances) {
+void ContactFinder::addCurveCrossings(std::size_t index, const Cubic& curve) {
     const Crossing start = anchorCrossing(index, curve.p0);
     const Crossing end = anchorCrossing(index + 1, curve.p3);
     if (start.ray != Ray::None) crossings_.push_back(start);
     const auto first = std::ssize(crossings_);
-    const auto& [a, b, c, d] = distances;
-    const BernsteinCubic fromFirst{a.fromFirst, b.fromFirst, c.fromFirst, d.fromFirst};
-    const BernsteinCubic fromLast{a.fromLast, b.fromLast, c.fromLast, d.fromLast};
+    const BernsteinCubic fromFirst = distancesFrom(wedge_, Ray::First, curve);
+    const BernsteinCubic fromLast = distancesFrom(wedge_, Ray::Last, curve);
     const Roots onFirst = signChanges(fromFirst);
     addRayCrossings(index, curve, Ray::First, onFirst);
     addRayCrossings(index, curve, Ray::Last,

@@ -8,6 +8,7 @@
 
 #include "symmetry/geometry/PageAxes.h"
 #include "symmetry/geometry/PathShape.h"
+#include "symmetry/geometry/Spares.h"
 #include "symmetry/geometry/Tolerances.h"
 
 #include <algorithm>
@@ -126,6 +127,7 @@ struct ContactScratch {
     std::vector<double> margins; ///< of the anchors
     std::vector<Crossing> crossings;
     std::vector<Side> sides; ///< after each crossing
+    Spares<Contact> contacts;
 };
 
 [[nodiscard]] Contacts findContacts(const Wedge& wedge, const PathShape& path,

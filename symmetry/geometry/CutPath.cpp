@@ -1,6 +1,7 @@
 #include "symmetry/geometry/CutPath.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace facetta {
 
@@ -34,11 +35,12 @@ void keepClosed(std::vector<Contact>& cuts, double start, std::vector<Stretch>& 
 
 } // namespace
 
-Cut cutAtEdge(const Wedge& wedge, const PathShape& path, double start, ContactScratch& scratch) {
-    Contacts contacts = findContacts(wedge, path, scratch);
+Cut cutAtEdge(const Wedge& wedge, const PathShape& path, double start, CutScratch& scratch) {
+    Contacts contacts = findContacts(wedge, path, scratch.contacts);
     const Side side = contacts.all.empty() ? contacts.whole : contacts.all.front().after;
     std::erase_if(contacts.all, [](const Contact& contact) { return !contact.cuts(); });
-    Cut cut;
+    Cut cut{.kept = scratch.kept.take()};
+    cut.kept.clear();
     if (contacts.all.empty()) {
         cut.whole = side != Side::Outside;
         cut.wholeAlongRay = contacts.whole == Side::AlongRay;
@@ -47,6 +49,7 @@ Cut cutAtEdge(const Wedge& wedge, const PathShape& path, double start, ContactSc
     } else {
         keepOpen(path, contacts.all, cut.kept);
     }
+    scratch.contacts.contacts.giveBack(std::move(contacts.all));
     return cut;
 }
 
@@ -81,14 +84,16 @@ void shortenHandles(const Cubic& curve, double from, double to, PathSegment& sta
 
 } // namespace
 
-std::vector<PathSegment> extract(const PathShape& path, const Stretch& stretch, std::size_t room) {
+std::vector<PathSegment> extract(const PathShape& path, const Stretch& stretch, std::size_t room,
+                                 std::vector<PathSegment> storage) {
     const auto& [from, to, alongRay] = stretch;
     const auto count = static_cast<std::int32_t>(path.segments.size());
     const bool pastFirst = to.position() <= from.position();
     const std::int32_t lastCurve = to.segment + (pastFirst ? count : 0);
     const std::int32_t endAnchor = lastCurve + (to.onAnchor ? 0 : 1);
 
-    std::vector<PathSegment> piece;
+    std::vector<PathSegment> piece = std::move(storage);
+    piece.clear();
     piece.reserve(room * (static_cast<std::size_t>(endAnchor - from.segment) + 1));
     piece.push_back(segmentAt(path, from));
     const auto anchors = path.segments.begin();

@@ -22,14 +22,12 @@ struct Cut {
     bool whole = false;         ///< the path as it is; `kept` is empty then
     bool wholeAlongRay = false; ///< the same, and every part of it is on a ray
     std::vector<Stretch> kept;
+};
 
-    /// Whether the ends of an open path are in a part that is kept, and on no ray.
-    [[nodiscard]] bool keepsFreeStart() const {
-        return whole || (!kept.empty() && kept.front().from.ray == Ray::None);
-    }
-    [[nodiscard]] bool keepsFreeEnd() const {
-        return whole || (!kept.empty() && kept.back().to.ray == Ray::None);
-    }
+/// Storage that `cutAtEdge` works in.
+struct CutScratch {
+    ContactScratch contacts;
+    Spares<Stretch> kept;
 };
 
 /// Cuts `path`. The stretches of a closed path begin with the one that holds the path position
@@ -39,11 +37,12 @@ struct Cut {
 /// becomes a whole one without a seam there. An open path keeps it; so does a closed one of which
 /// nothing else would be left.
 [[nodiscard]] Cut cutAtEdge(const Wedge& wedge, const PathShape& path, double start,
-                            ContactScratch& scratch);
+                            CutScratch& scratch);
 
-/// The segments of `stretch`, with new anchors at cuts, in storage for `room` times as many.
-/// Coordinates are storable; the outer handles are those of `path`, or on new anchors.
+/// The segments of `stretch`, with new anchors at cuts, in `storage` with room for `room` times as
+/// many. Coordinates are storable; the outer handles are those of `path`, or on new anchors.
 [[nodiscard]] std::vector<PathSegment> extract(const PathShape& path, const Stretch& stretch,
-                                               std::size_t room = 1);
+                                               std::size_t room = 1,
+                                               std::vector<PathSegment> storage = {});
 
 } // namespace facetta

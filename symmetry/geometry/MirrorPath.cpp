@@ -1,6 +1,5 @@
 #include "symmetry/geometry/MirrorPath.h"
 
-#include "symmetry/geometry/CutPath.h"
 #include "symmetry/geometry/Tolerances.h"
 
 #include <algorithm>
@@ -167,7 +166,12 @@ MirroredPath unchangedCompound(std::span<const PathShape> members, Images images
 class Mirroring {
 public:
     Mirroring(const MirrorFrame& frame, MirrorScratch& scratch)
-        : frame_(frame), contacts_(scratch.contacts), folded_(scratch.folded) {}
+        : frame_(frame), scratch_(scratch), contours_(scratch.contours.take()) {
+        contours_.clear();
+    }
+    ~Mirroring() { scratch_.runs.giveBack(std::move(folded_.segments)); }
+    Mirroring(const Mirroring&) = delete;
+    Mirroring& operator=(const Mirroring&) = delete;
 
     MirroredPath path(const PathShape& source);
     MirroredPath compound(std::span<const PathShape> members, FillRule rule);
@@ -185,18 +189,21 @@ private:
                                                 std::span<const std::size_t> islandOf) const;
 
     [[nodiscard]] Contour asDrawn(const PathShape& source) const;
+    void takeUp(const PathShape& source);
     void addContours(double start);
     void addPieces(const Cut& cut);
+    void dropContoursFrom(std::size_t first);
     void keepWhole(Images images);
     Cut cutOpen(double start);
     bool moveEnds();
     bool moveEnd(PathSegment& end);
-    bool dropFreeHandles(const Cut& cut);
+    [[nodiscard]] bool runsAcross() const;
+    bool dropFreeHandles();
     bool dropHandles(PathSegment& end);
 
     const MirrorFrame& frame_;
-    ContactScratch& contacts_;
-    PathShape& folded_; ///< the source in sector 0, prepared for cutting
+    MirrorScratch& scratch_;
+    PathShape folded_; ///< the source in sector 0, prepared for cutting
     std::vector<Contour> contours_;
     bool endsChanged_ = false;
     bool cut_ = false;     ///< anything was
@@ -206,7 +213,7 @@ private:
 MirroredPath Mirroring::path(const PathShape& source) {
     MirroredPath result;
     if (source.segments.empty()) return result;
-    folded_ = source;
+    takeUp(source);
     // Moving an end can take a short path out of the sector in which it was drawn. Then it belongs
     // to the sector beyond. Asking for ever clearer samples ends any going to and fro.
     double clear = isTooSmallToCut(frame_, source) ? kRayLength : kOnAxisDistance;
@@ -238,7 +245,7 @@ MirroredPath Mirroring::compound(std::span<const PathShape> members, FillRule ru
         if (island.asDrawn) {
             contours_.push_back(asDrawn(members[i]));
         } else {
-            folded_ = members[i];
+            takeUp(members[i]);
             foldInto0(frame_, island.start.sector, folded_);
             addContours(&members[i] == island.leader ? island.start.position : kSampleParameter);
         }
@@ -294,19 +301,25 @@ Contour Mirroring::asDrawn(const PathShape& source) const {
     return {.shape = source, .images = ownImages(frame_, source)};
 }
 
+void Mirroring::takeUp(const PathShape& source) {
+    if (folded_.segments.capacity() == 0) folded_.segments = scratch_.runs.take();
+    folded_ = source;
+}
+
 /// Adds what is kept of the folded path.
 void Mirroring::addContours(double start) {
-    const Cut cut =
-        folded_.closed ? cutAtEdge(frame_.wedge, folded_, start, contacts_) : cutOpen(start);
-    if (cut.whole) return keepWhole(cut.wholeAlongRay ? Images::Rotations : Images::All);
+    Cut cut =
+        folded_.closed ? cutAtEdge(frame_.wedge, folded_, start, scratch_.cut) : cutOpen(start);
     const std::size_t before = contours_.size();
     addPieces(cut);
+    scratch_.cut.kept.giveBack(std::move(cut.kept));
+    if (cut.whole) return keepWhole(cut.wholeAlongRay ? Images::Rotations : Images::All);
     const bool asItWas =
         contours_.size() == before + 1 && sameShape(contours_.back().shape, folded_);
     // What mirroring has made before differs by no more than rounding from what it would make now.
     const Images own = asItWas ? Images::All : ownImages(frame_, folded_);
     if (own != Images::All) {
-        contours_.resize(before);
+        dropContoursFrom(before);
         return keepWhole(own);
     }
     cut_ = true;
@@ -322,9 +335,16 @@ void Mirroring::addPieces(const Cut& cut) {
         const Ray start = stretch.from.ray;
         const Ray end = stretch.to.ray;
         const std::size_t images = joinedImages(frame_.chains, start, end);
-        contours_.push_back(join(frame_.chains, {extract(folded_, stretch, images), start, end}));
+        std::vector<PathSegment> run = extract(folded_, stretch, images, scratch_.runs.take());
+        contours_.push_back(join(frame_.chains, {std::move(run), start, end}));
         startWithSource(folded_, stretch, contours_.back());
     }
+}
+
+void Mirroring::dropContoursFrom(std::size_t first) {
+    for (std::size_t i = first; i < contours_.size(); ++i)
+        scratch_.runs.giveBack(std::move(contours_[i].shape.segments));
+    contours_.resize(first);
 }
 
 void Mirroring::keepWhole(Images images) {
@@ -335,10 +355,20 @@ void Mirroring::keepWhole(Images images) {
 /// axis stays as it was drawn.
 Cut Mirroring::cutOpen(double start) {
     const bool joins = moveEnds();
-    Cut cut = cutAtEdge(frame_.wedge, folded_, start, contacts_);
-    if (cut.whole && !joins) return cut;
-    if (dropFreeHandles(cut)) cut = cutAtEdge(frame_.wedge, folded_, start, contacts_);
-    return cut;
+    const bool isCut = joins || runsAcross();
+    if (isCut) dropFreeHandles();
+    Cut cut = cutAtEdge(frame_.wedge, folded_, start, scratch_.cut);
+    if (isCut || cut.whole || !dropFreeHandles()) return cut;
+    scratch_.cut.kept.giveBack(std::move(cut.kept));
+    return cutAtEdge(frame_.wedge, folded_, start, scratch_.cut);
+}
+
+/// Whether the ends lie on different sides of the edge, so that an axis is crossed however the path
+/// runs between them.
+bool Mirroring::runsAcross() const {
+    const double start = frame_.wedge.margin(folded_.segments.front().anchor);
+    const double end = frame_.wedge.margin(folded_.segments.back().anchor);
+    return std::min(start, end) < -kOnAxisDistance && std::max(start, end) > kOnAxisDistance;
 }
 
 /// Moves ends onto rays; whether any lies on one then.
@@ -356,23 +386,31 @@ bool Mirroring::moveEnd(PathSegment& end) {
     return frame_.wedge.rayAt(end.anchor) != Ray::None;
 }
 
-/// A free end loses both handles, so that the path runs straight into it, unless it goes with a
-/// part that is cut away: there its handles still shape where the cut falls.
-bool Mirroring::dropFreeHandles(const Cut& cut) {
-    const bool startChanged = cut.keepsFreeStart() && dropHandles(folded_.segments.front());
-    const bool endChanged = cut.keepsFreeEnd() && dropHandles(folded_.segments.back());
+/// A free end loses both handles, so that the path runs straight into it. Whether any did.
+bool Mirroring::dropFreeHandles() {
+    const bool startChanged = dropHandles(folded_.segments.front());
+    const bool endChanged = dropHandles(folded_.segments.back());
     endsChanged_ = endsChanged_ || startChanged || endChanged;
     return startChanged || endChanged;
 }
 
+/// Not of an end outside, which goes with a part that is cut away: its handles still shape where
+/// the cut falls.
 bool Mirroring::dropHandles(PathSegment& end) {
-    if (frame_.wedge.rayAt(end.anchor) != Ray::None) return false;
-    const bool hadAny = end.in != end.anchor || end.out != end.anchor;
+    if (end.in == end.anchor && end.out == end.anchor) return false;
+    const bool isOutside = frame_.wedge.margin(end.anchor) < 0.0;
+    if (isOutside || frame_.wedge.rayAt(end.anchor) != Ray::None) return false;
     end.in = end.out = end.anchor;
-    return hadAny;
+    return true;
 }
 
 } // namespace
+
+void MirrorScratch::giveBack(std::vector<Contour>&& done) {
+    for (Contour& contour : done)
+        runs.giveBack(std::move(contour.shape.segments));
+    contours.giveBack(std::move(done));
+}
 
 MirroredPath mirror(const MirrorFrame& frame, const PathShape& source, MirrorScratch& scratch) {
     return Mirroring{frame, scratch}.path(source);

@@ -13,10 +13,12 @@
 /// What comes out replaces the source; `Images` says which copies complete it. Mirroring a result
 /// again changes nothing, which is what keeps a live layer calm.
 
+#include "symmetry/geometry/CutPath.h"
 #include "symmetry/geometry/Islands.h"
 #include "symmetry/geometry/JoinPieces.h"
 #include "symmetry/geometry/MirrorFrame.h"
 #include "symmetry/geometry/PathShape.h"
+#include "symmetry/geometry/Spares.h"
 
 #include <span>
 #include <vector>
@@ -35,8 +37,13 @@ struct MirroredPath {
 /// Storage that mirroring works in, worth keeping from path to path; what it holds between calls
 /// means nothing.
 struct MirrorScratch {
-    ContactScratch contacts;
-    PathShape folded;
+    CutScratch cut;
+    Spares<PathSegment> runs;
+    Spares<Contour> contours;
+
+    /// Takes back the storage of a result that is no longer needed.
+    void giveBack(MirroredPath&& result) { giveBack(std::move(result.contours)); }
+    void giveBack(std::vector<Contour>&& done);
 };
 
 /// The mirrored form of one path. The contours of an open source are separate paths, those of a
