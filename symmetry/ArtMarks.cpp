@@ -29,8 +29,10 @@ ArtMarks marksOf(AIArtHandle art, const MarkKeys& keys) {
     const ai::Dictionary entries = dictionaryOf(art);
     if (!entries) return {};
     const ai::int32 mirror = mirrorMarkIn(entries.get(), keys.mirror);
-    const bool mayBeGuide = mirror != MirrorTag::kCopy; // a copy is none; live layers have many
-    return {mirror, mayBeGuide && suites.dictionary->IsKnown(entries.get(), keys.guide)};
+    if (mirror == MirrorTag::kCopy) return {.mirror = mirror, .entries = true};
+    if (suites.dictionary->Size(entries.get()) == 0) return {}; // as with nearly all art
+    const bool guide = suites.dictionary->IsKnown(entries.get(), keys.guide) != 0;
+    return {.mirror = mirror, .guide = guide, .entries = true};
 }
 
 } // namespace facetta

@@ -20,9 +20,10 @@ struct MarkKeys {
 struct ArtMarks {
     ai::int32 mirror = 0; ///< As `MirrorTag::get`.
     bool guide = false;   ///< As `GuideTag::has`; false for a generated copy.
+    bool entries = false; ///< Some plug-in, perhaps another one, has stored something with it.
 };
 
-/// Both marks in one look at the dictionary. Throws `ai::Error`.
+/// All of it in one look at the dictionary. Throws `ai::Error`.
 [[nodiscard]] ArtMarks marksOf(AIArtHandle art, const MarkKeys& keys);
 
 /// The mirror mark in `entries`, by the rule of `MirrorTag::get`.

@@ -53,17 +53,16 @@ void carryNote(AIArtHandle from, AIArtHandle to) {
     ai::check(suites.art->SetNote(to, note));
 }
 
-/// What plug-ins, this one among them, have stored with the source. Few objects have anything.
-void carryEntries(AIArtHandle from, AIArtHandle to) {
-    const ai::Dictionary entries = dictionaryOf(from);
-    if (!entries || suites.dictionary->Size(entries.get()) == 0) return;
-    ai::check(suites.dictionary->Copy(dictionaryOf(to).get(), entries.get()));
+/// What plug-ins, this one among them, have stored with the source.
+void carryEntries(const Unit& from, AIArtHandle to) {
+    if (!from.marks.entries) return;
+    ai::check(suites.dictionary->Copy(dictionaryOf(to).get(), dictionaryOf(from.art).get()));
 }
 
 void carryOver(const Unit& source, AIArtHandle art, const Matrix& fold) {
     ai::check(suites.art->TransferAttributes(source.art, art, kTransferAll));
     carryNote(source.art, art);
-    carryEntries(source.art, art);
+    carryEntries(source, art);
     foldPaint(art, fold);
 }
 
