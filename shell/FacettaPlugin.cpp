@@ -122,15 +122,27 @@ bool FacettaPlugin::addTool() {
 }
 
 void FacettaPlugin::openPanel() {
-    panel.emplace(self());
+    const auto withTool = [this](const std::function<void(ToolSession&)>& act) {
+        static_cast<void>(withSession(act));
+    };
+    panel.emplace(self(), PanelOwner{withTool, copiedAxes});
+    updatePanel = refreshPanel;
     // The panel's windows call into the library, and where the user has docked it may be lost when
     // it is destroyed. A host that cannot hold the library unloads it all the same, panel and all.
     holdsLibrary_ = LockPlugin(true) == kNoErr;
 }
 
 void FacettaPlugin::closePanel() noexcept {
+    updatePanel = [] {};
     panel.reset();
     if (std::exchange(holdsLibrary_, false)) LockPlugin(false);
+}
+
+void FacettaPlugin::refreshPanel() {
+    if (thePlugin == nullptr || !thePlugin->panel) return; // still being made
+    const platform::KeyState noKeys;
+    ToolSession session = thePlugin->toolSession(noKeys);
+    thePlugin->panel->refresh(session);
 }
 
 AIErr FacettaPlugin::Shutdown(SPInterfaceMessage& message) {

@@ -75,6 +75,7 @@ public:
     char16_t decimalSeparator = u'.'; ///< of number fields; as the user's locale has it
     CurrentView view;                 ///< follows the host's notifications
     ToolState tool;
+    SymmetryAxes copiedAxes; ///< by the panel's menu; none when their count is 0
     LiveLayerMemory liveLayers;
     RegenerationWatch regenerationWatch;
     HintTimer hintTimer;
@@ -107,6 +108,7 @@ private:
     bool addAnnotator();
     bool addTool();
     void openPanel();
+    static void refreshPanel();
     void closePanel() noexcept;
     AIErr saveSettings();
 

@@ -50,7 +50,7 @@ enum class Event : std::uint8_t {
     HistoryMoved,   ///< undo or redo
     LayerHasAxes,   ///< the current layer carries axes,
     LayerHasNoAxes, ///< or none
-    AxesOffered,    ///< new axes are pending as they were before: undone, or back in their document
+    AxesOffered,    ///< new axes are pending: pasted, or as they were before something was undone
     EditTakenUp,    ///< an edit goes on: undone or redone, or back on its layer
 };
 
@@ -90,7 +90,10 @@ inline constexpr Transition kTransitions[] = {
      {{{AxesPending, FollowingCursor}, {EditingLayerAxes, FollowingCursor}}}},
     {Event::AppliedToLayer,
      Press::GoesOn,
-     {{{AxesPending, ShowingLayerAxes}, {EditingLayerAxes, ShowingLayerAxes}}}},
+     {{{Away, ShowingLayerAxes},
+       {FollowingCursor, ShowingLayerAxes},
+       {AxesPending, ShowingLayerAxes},
+       {EditingLayerAxes, ShowingLayerAxes}}}},
     {Event::AxesDropped,
      Press::GoesOn,
      {{{AxesPending, FollowingCursor}, {EditingLayerAxes, FollowingCursor}}}},
@@ -120,7 +123,8 @@ inline constexpr Transition kTransitions[] = {
     {Event::LayerHasNoAxes, Press::GoesOn, {{{ShowingLayerAxes, FollowingCursor}}}},
     {Event::AxesOffered,
      Press::GoesOn,
-     {{{FollowingCursor, AxesPending},
+     {{{Away, AxesPending},
+       {FollowingCursor, AxesPending},
        {ShowingLayerAxes, AxesPending},
        {EditingLayerAxes, AxesPending}}}},
     {Event::EditTakenUp,

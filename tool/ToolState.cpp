@@ -25,7 +25,10 @@ void enter(ToolState& state, Activity activity) {
     const bool axesGo = hasAxes(state.activity) && !hasAxes(activity);
     state.activity = activity;
     if (axesGo || activity == Activity::Away) clearAxes(state);
-    if (activity != Activity::EditingLayerAxes) state.edit = kNoEdit;
+    if (activity != Activity::EditingLayerAxes) {
+        state.edit = kNoEdit;
+        state.editCountsAs = CountsAs::Modified;
+    }
     if (activity != Activity::Repositioning) state.repositionArt.reset();
     labelAxes(state);
 }

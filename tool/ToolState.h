@@ -12,6 +12,7 @@
 #include "tool/drawing/Preview.h"
 #include "tool/snapping/SnapPointForm.h"
 
+#include <cstdint>
 #include <optional>
 
 namespace facetta {
@@ -44,6 +45,12 @@ enum class DialogItem : ai::int32 {
     Cancel = 4,
 };
 
+/// How axes count that an edit has taken off their layer.
+enum class CountsAs : std::uint8_t {
+    Modified,
+    Unmodified, ///< until the tool changes them, no on-canvas dialog comes up beside them
+};
+
 /// From a press to its release. Positions are on the page, in points, y up.
 struct Gesture {
     Place place; ///< where the tool stood at the press; the gesture ends when it stands elsewhere
@@ -72,8 +79,9 @@ struct ToolState {
     SymmetryAxes axes;
     std::optional<Gesture> gesture; ///< while the button is down
     ToolMemory memory;
-    EditNumber edit = kNoEdit;     ///< that of `EditingLayerAxes`
-    SymmetryAxes justApplied;      ///< by the step that is being made; none after it
+    EditNumber edit = kNoEdit;                  ///< that of `EditingLayerAxes`,
+    CountsAs editCountsAs = CountsAs::Modified; ///< and how its axes count
+    SymmetryAxes justApplied;                   ///< by the step that is being made; none after it
     SymmetryAxes repositionBackup; ///< the axes when the layer's art began to move with them,
     ai::ArtSet repositionArt;      ///< and that art; empty but for `Repositioning`
     Place place;                   ///< where the document was followed to last
@@ -124,9 +132,13 @@ void cancelPress(ToolState& state);
 }
 /// Does the current layer carry axes that are shown and kept?
 [[nodiscard]] inline bool layerAxesActive(const ToolState& state) { return axesOnLayer(state); }
-/// Have the axes shown been changed apart from a layer? They may be applied, or dropped.
-[[nodiscard]] inline bool axesModified(const ToolState& state) {
+/// Are the axes shown pending: to be applied, or dropped?
+[[nodiscard]] inline bool axesPending(const ToolState& state) {
     return meaningOf(state.activity).provisional;
+}
+/// Do the axes shown count as changed apart from a layer? The on-canvas dialog goes with those.
+[[nodiscard]] inline bool axesModified(const ToolState& state) {
+    return axesPending(state) && state.editCountsAs == CountsAs::Modified;
 }
 /// Has an edit of a layer's axes begun that can still be cancelled?
 [[nodiscard]] inline bool layerEditInProgress(const ToolState& state) {

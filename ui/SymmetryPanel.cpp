@@ -1,6 +1,16 @@
 #include "ui/SymmetryPanel.h"
 
 #include "host/Error.h"
+#include "host/Suites.h"
+#include "host/suites/AIUndoSuite.h"
+#include "tool/axes/CurrentAxes.h"
+#include "tool/axes/FollowDocument.h"
+#include "ui/PanelActions.h"
+#include "ui/PanelMenu.h"
+#include "ui/PanelShown.h"
+#include "ui/PanelSize.h"
+
+#include <utility>
 
 namespace facetta {
 namespace {
@@ -8,34 +18,196 @@ namespace {
 constexpr char kPanelName[] = "Facetta";
 constexpr ADMInt32 kPanelLayout = 16005; // the resources hold none: items are made in code
 constexpr AIErr kNoPanelErr = -1;
+constexpr ADMInt32 kIcon = 2103;
+constexpr ADMInt32 kRolloverIcon = 2105;
+constexpr ADMInt32 kFlyoutMenu = 701;
+constexpr char kFlyoutMenuName[] = "FTPanelPopupMenu";
+
+/// What an event began with, for when a host call fails in the middle of it.
+class Beginning {
+public:
+    explicit Beginning(const ToolSession& tool)
+        : holding_(holdingOf(tool.state)), preferences_(tool.preferences) {}
+
+    void takeBack(PanelSession& session) const {
+        ToolState& state = session.tool.state;
+        static_cast<void>(ai::suites.undo->UndoChanges());
+        hold(state, holding_);
+        if (state.toolSelected) happen(state, Event::ToolTaken); // during the event, perhaps
+        session.tool.preferences = preferences_;
+        offerUpdateByMode(session);
+        showState(session);
+        applyPanelSize(session.adm, session.dialog, preferences_);
+        axesChanged(session.tool);
+    }
+
+private:
+    Holding holding_;
+    Preferences preferences_;
+};
 
 } // namespace
 
-SymmetryPanel::SymmetryPanel(SPPluginRef self) {
-    ai::check(dialogs_.acquire());
+/// What the toolkit calls.
+struct PanelProcedures {
+    /// One event: the suites, the host's context, and the panel whose turn it is.
+    class Turn {
+    public:
+        explicit Turn(ADMDialogRef dialog)
+            : dialog_(dialog), context_(adm.dialog->GetPluginRef(dialog)) {}
+        explicit Turn(ADMItemRef item)
+            : dialog_(adm.item->GetDialog(item)), context_(adm.item->GetPluginRef(item)) {}
+
+        [[nodiscard]] SymmetryPanel& panel() const {
+            return *static_cast<SymmetryPanel*>(adm.dialog->GetUserData(dialog_));
+        }
+        /// Nothing happens while the licence forbids the panel's use.
+        template <typename Work> void act(Work work) const {
+            if (panel().usable_) panel().during(work);
+        }
+
+        const Adm adm;
+
+    private:
+        ADMDialogRef dialog_;
+        ai::AppContext context_;
+    };
+
+    static ADMErr build(ADMDialogRef dialog) {
+        const Turn turn(dialog);
+        turn.panel().build(dialog);
+        return kNoErr;
+    }
+
+    /// No context of the host's: it may be about to end.
+    static void destroyed(ADMDialogRef dialog) {
+        const Adm adm;
+        static_cast<SymmetryPanel*>(adm.dialog->GetUserData(dialog))->dialog_ = nullptr;
+    }
+
+    static void itemNotified(ADMItemRef item, ADMNotifierRef notifier) {
+        const Turn turn(item);
+        turn.adm.item->DefaultNotify(item, notifier);
+        if (!isUserChange(turn.adm, notifier)) return;
+        turn.act([&](PanelSession& session) { actOnItem(session, turn.adm.item->GetID(item)); });
+    }
+
+    static void sliderNotified(ADMItemRef item, ADMNotifierRef notifier) {
+        const Turn turn(item);
+        turn.adm.item->DefaultNotify(item, notifier);
+        turn.act(actOnSlider);
+    }
+
+    static void menuNotified(ADMItemRef item, ADMNotifierRef notifier) {
+        const Turn turn(item);
+        turn.adm.item->DefaultNotify(item, notifier);
+        if (!isUserChange(turn.adm, notifier)) return;
+        const ADMEntryRef chosen = turn.adm.list->GetActiveEntry(turn.adm.item->GetList(item));
+        if (chosen == nullptr) return;
+        turn.act([&](PanelSession& session) {
+            choosePanelMenuEntry(session, turn.adm.entry->GetIndex(chosen));
+        });
+    }
+
+    static ADMBoolean menuOpens(ADMItemRef item, ADMTrackerRef tracker) {
+        const Turn turn(item);
+        turn.act(
+            [&](PanelSession& session) { updatePanelMenu(session, turn.adm.item->GetList(item)); });
+        return turn.adm.item->DefaultTrack(item, tracker);
+    }
+
+    /// The host's frame is stepped through its sizes whatever the licence says.
+    static void panelNotified(ADMDialogRef dialog, ADMNotifierRef notifier) {
+        const Turn turn(dialog);
+        turn.adm.dialog->DefaultNotify(dialog, notifier);
+        if (turn.adm.notifier->IsNotifierType(notifier, kADMCycleNotifier) != 0)
+            turn.panel().during(followHostPanelState);
+    }
+};
+
+SymmetryPanel::SymmetryPanel(SPPluginRef self, PanelOwner owner) : owner_(std::move(owner)) {
     const AIErr err = ai::codeOf([&] {
-        dialog_ = dialogs_->Create(self, kPanelName, kPanelLayout, kADMTabbedFloatingDialogStyle,
-                                   nullptr, this, 0);
+        dialog_ = adm_.dialog->Create(self, kPanelName, kPanelLayout, kADMTabbedFloatingDialogStyle,
+                                      PanelProcedures::build, this, 0);
         return kNoErr;
     });
     if (err != kNoErr || dialog_ == nullptr) throw ai::Error(kNoPanelErr);
-    dialogs_->SetDestroyProc(dialog_, [](ADMDialogRef dialog) {
-        ai::SuiteLease<ADMDialogSuite, kADMDialogSuite, kADMDialogSuiteVersion> dialogs;
-        ai::check(dialogs.acquire());
-        static_cast<SymmetryPanel*>(dialogs->GetUserData(dialog))->dialog_ = nullptr;
-    });
+    adm_.dialog->SetDestroyProc(dialog_, PanelProcedures::destroyed);
 }
 
 SymmetryPanel::~SymmetryPanel() {
-    if (dialog_ != nullptr) dialogs_->Destroy(dialog_);
+    if (dialog_ != nullptr) adm_.dialog->Destroy(dialog_);
 }
 
 bool SymmetryPanel::isVisible() const {
-    return dialog_ != nullptr && dialogs_->IsVisible(dialog_) != 0;
+    return dialog_ != nullptr && adm_.dialog->IsVisible(dialog_) != 0;
 }
 
 void SymmetryPanel::show(bool shown) {
-    if (dialog_ != nullptr) dialogs_->Show(dialog_, shown);
+    if (dialog_ != nullptr) adm_.dialog->Show(dialog_, shown ? 1 : 0);
+}
+
+void SymmetryPanel::during(const std::function<void(PanelSession&)>& act) {
+    owner_.withTool([&](ToolSession& tool) {
+        followDocument(tool); // no message need have told
+        PanelSession session{adm_, dialog_, tool, owner_.copiedAxes};
+        const Beginning beginning(tool);
+        try {
+            act(session);
+        } catch (...) {
+            static_cast<void>(ai::codeOf([&] {
+                beginning.takeBack(session);
+                return kNoErr;
+            }));
+            throw;
+        }
+    });
+}
+
+void SymmetryPanel::build(ADMDialogRef dialog) {
+    dialog_ = dialog;
+    addIcons();
+    adm_.dialog->SetMask(dialog, adm_.dialog->GetMask(dialog) | kADMLeaveMask);
+    createPanelItems(adm_, dialog, PanelProcedures::itemNotified, PanelProcedures::sliderNotified);
+    adm_.dialog->SetNotifyProc(dialog, PanelProcedures::panelNotified);
+    addMenu();
+    owner_.withTool([this](ToolSession& tool) {
+        PanelSession session{adm_, dialog_, tool, owner_.copiedAxes};
+        applyPanelSize(adm_, dialog_, tool.preferences);
+        offerUpdateByMode(session);
+        showState(session);
+        checkLicence(tool);
+    });
+}
+
+void SymmetryPanel::addIcons() const {
+    for (const auto& [rollover, resource] : {std::pair{0, kIcon}, std::pair{1, kRolloverIcon}}) {
+        const ADMIconRef icon =
+            adm_.icon->GetFromResource(adm_.dialog->GetPluginRef(dialog_), nullptr, resource, 0);
+        adm_.dialog->SetIcon(dialog_, rollover, icon);
+        adm_.icon->Destroy(icon);
+    }
+}
+
+void SymmetryPanel::addMenu() const {
+    const ADMItemRef menu = adm_.dialog->GetItem(dialog_, kADMMenuItemID);
+    if (menu == nullptr) return;
+    adm_.item->SetNotifyProc(menu, PanelProcedures::menuNotified);
+    adm_.item->SetTrackProc(menu, PanelProcedures::menuOpens);
+    adm_.list->SetMenuID(adm_.item->GetList(menu), adm_.dialog->GetPluginRef(dialog_), kFlyoutMenu,
+                         kFlyoutMenuName);
+}
+
+void SymmetryPanel::checkLicence(const ToolSession& tool) {
+    usable_ = tool.licence.allows(GuardedAction::UsePanel);
+    showUsable(adm_, dialog_, usable_, tool.licence.statusLine());
+}
+
+void SymmetryPanel::refresh(ToolSession& tool) {
+    if (dialog_ == nullptr) return;
+    checkLicence(tool);
+    PanelSession session{adm_, dialog_, tool, owner_.copiedAxes};
+    showState(session);
 }
 
 } // namespace facetta

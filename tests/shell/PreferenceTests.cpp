@@ -1,7 +1,7 @@
 #include "tests/shell/Session.h"
 
-#include "shell/DisplayUnits.h"
 #include "symmetry/geometry/Geometry.h"
+#include "ui/DisplayUnits.h"
 
 #include <limits>
 

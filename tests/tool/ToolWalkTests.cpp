@@ -18,7 +18,7 @@ namespace {
 class Walker : public Drawing {
 public:
     explicit Walker(std::uint64_t walk) : Drawing(/*selected*/ true), random_(seed() + walk) {
-        thePlugin->dialogs.editAxes = [] { return DialogResult::Ok; };
+        thePlugin->dialogs.editAxes = [](ToolSession&) { return DialogResult::Ok; };
     }
 
     ~Walker() { host.release({.at = {1, -1}}); } // no gesture outlives its documents

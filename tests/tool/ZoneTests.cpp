@@ -86,7 +86,7 @@ TEST_CASE("a double click on the tool's icon applies what is pending, else it as
         INFO(row.what);
         Drawing session(/*selected*/ false);
         if (!row.pending) session.click(session.onButton(DialogItem::Cancel));
-        thePlugin->dialogs.preferences = [] {
+        thePlugin->dialogs.preferences = [](ToolSession&) {
             ++opened;
             return DialogResult::Ok;
         };

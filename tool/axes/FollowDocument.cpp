@@ -44,7 +44,7 @@ void leaveGesture(ToolState& state) {
 }
 
 void leaveDocument(ToolState& state, const Place& then) {
-    if (axesModified(state)) state.memory.setAside(then.document, holdingOf(state));
+    if (axesPending(state)) state.memory.setAside(then.document, holdingOf(state));
     happen(state, Event::DocumentLeft);
     forgetClosedDocuments(state.memory);
 }
@@ -60,9 +60,9 @@ void followHistory(ToolState& state, const Place& then, const Place& now) {
     const Moment* const moment = state.memory.momentAt(now);
     if (moment == nullptr) return;
     const Holding held = moment->holding;
-    if (now.past > then.past && axesModified(state) && sameLines(moment->applied, state.axes))
+    if (now.past > then.past && axesPending(state) && sameLines(moment->applied, state.axes))
         return happen(state, Event::AppliedToSelection);
-    if (held.activity == Activity::AxesPending && !axesModified(state))
+    if (held.activity == Activity::AxesPending && !axesPending(state))
         return takeUp(state, Event::AxesOffered, held);
     if (held.activity != Activity::EditingLayerAxes) return;
     const LayerEdit* const edit = state.memory.edit(held.edit);
@@ -84,7 +84,7 @@ void followLayer(ToolState& state, const Place& now) {
         return;
     }
     happen(state, Event::LayerHasNoAxes);
-    if (!state.toolSelected || axesModified(state)) return;
+    if (!state.toolSelected || axesPending(state)) return;
     if (const auto edit = aside()) takeUp(state, Event::EditTakenUp, *edit);
 }
 

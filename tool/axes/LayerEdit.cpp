@@ -9,6 +9,7 @@
 #include "symmetry/ArtList.h"
 #include "symmetry/AxisGuides.h"
 #include "symmetry/LayerAxesStore.h"
+#include "symmetry/LiveLayers.h"
 #include "symmetry/MirrorTag.h"
 #include "tool/axes/CurrentAxes.h"
 #include "tool/drawing/Preview.h"
@@ -51,6 +52,7 @@ void beginLayerEdit(ToolSession& session, const SymmetryAxes& axes) {
 }
 
 void takeAxesOffLayer(ToolSession& session) {
+    session.state.editCountsAs = CountsAs::Modified;
     if (guidesExisted(session.state)) removeAxisGuides(nullptr, /*untagOnly*/ false);
     // Only the drag that begins the edit finds the axes on the layer. They belong to all its
     // sublayers, whichever of these is the current one.
@@ -73,14 +75,18 @@ void reclaimCopies(const LayerEdit& edit) {
     }
 }
 
-void restoreLayer(ToolSession& session) {
+void restoreLayer(ToolSession& session, LayerCopies copies) {
     ToolState& state = session.state;
     const LayerEdit& edit = *layerEditOf(state);
     const SymmetryAxes axes = edit.layerBackup;
     reclaimCopies(edit);
     if (edit.guidesExisted) layGuides(axes);
     LayerAxesStore::write(axes);
-    LayerAxesStore::stamp(nullptr); // last: all of the above changes art of the layer
+    // Last: all of the above changes art of the layer.
+    if (copies == LayerCopies::MadeAnew)
+        regenerateLayer(session.mirroring, /*option*/ false, nullptr);
+    else
+        LayerAxesStore::stamp(nullptr);
     ai::nameUndoStep("Cancel Edit Symmetry Axes");
     happen(state, Event::EditCancelled);
     hold(state, {state.activity, axes});

@@ -13,6 +13,8 @@
 
 #include "tool/ToolSession.h"
 
+#include <cstdint>
+
 namespace facetta {
 
 /// Begins the edit of the current layer's axes, which are `axes`; those shown are pending now.
@@ -23,9 +25,15 @@ void takeAxesOffLayer(ToolSession& session);
 /// Lays the guides that the layer had along its axes, if any, along those shown.
 void renewGuides(const ToolState& state);
 
+/// What becomes of the copies on a layer that gets its axes back.
+enum class LayerCopies : std::uint8_t {
+    AsTheyWere, ///< art drawn during the edit waits for the next change to be mirrored
+    MadeAnew,
+};
+
 /// Gives the layer back what it had when the edit began, as an undo step of its own, and ends the
 /// edit.
-void restoreLayer(ToolSession& session);
+void restoreLayer(ToolSession& session, LayerCopies copies);
 
 /// What is left of the layer's former copies is generated art again: marked and locked.
 void reclaimCopies(const LayerEdit& edit);

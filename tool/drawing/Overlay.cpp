@@ -111,12 +111,12 @@ bool axesAreShown(const ToolSession& session) {
     const ToolState& state = session.state;
     if (state.axes.axisCount < kFewestAxes) return false;
     if (axesOnLayer(state)) return currentLayerIsVisible();
-    return axesModified(state) ||
+    return axesPending(state) ||
            (state.activity != Activity::Away && state.zone == ToolZone::Canvas);
 }
 
 bool axesArePending(const ToolState& state) {
-    return axesModified(state) || (state.activity == Activity::MakingAxes && dragging(state));
+    return axesPending(state) || (state.activity == Activity::MakingAxes && dragging(state));
 }
 
 bool maskIsShown(const ToolSession& session) {

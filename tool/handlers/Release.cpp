@@ -57,6 +57,8 @@ void pressApplyToSelection(ToolSession& session) {
     if (!selectionEmpty(session.state)) applyToSelection(session);
 }
 
+void pressCancel(ToolSession& session) { cancelAxes(session, LayerCopies::AsTheyWere); }
+
 void pressNothing(ToolSession&) {}
 
 using ReleaseStep = void (*)(ToolSession&);
@@ -66,7 +68,7 @@ constexpr std::array<ReleaseStep, 5> kButtons{
     pressNothing,          // Title
     pressApplyToSelection, // ApplyToSelection
     applyToLayer,          // ApplyToLayer
-    cancelAxes,            // Cancel
+    pressCancel,           // Cancel
 };
 
 void releaseButton(ToolSession& session) {

@@ -13,16 +13,11 @@ using platform::Key;
 void editOptions(ToolSession& session) {
     followDocument(session);
     const bool asksToApply = !session.keys.isDown(Key::Control) && !session.keys.isDown(Key::Shift);
-    if (!axesModified(session.state) || !asksToApply) {
+    if (!axesPending(session.state) || !asksToApply) {
         session.dialogs.preferences(session);
         return;
     }
-    if (session.preferences.applyToSelection)
-        applyToSelection(session);
-    else
-        applyToLayer(session);
-    redrawOverlay(session.view);
-    session.updatePanel();
+    applyAxes(session);
 }
 
 void changeAxisCount(ToolSession& session, int step) {

@@ -1,4 +1,4 @@
-#include "shell/DisplayUnits.h"
+#include "ui/DisplayUnits.h"
 
 #include "host/Codes.h"
 #include "host/Suites.h"
