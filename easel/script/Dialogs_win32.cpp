@@ -217,9 +217,11 @@ void sendCaptured(HWND window, UINT message, WPARAM first, POINT point) {
     if (IsWindow(window)) SendMessageW(window, message, first, packed(point));
 }
 
+/// Between press and release there is time for what waits.
 void clickAt(HWND window, POINT point) {
     pressButton(window, point);
-    sendCaptured(window, WM_LBUTTONUP, 0, point);
+    serveWhatWaits();
+    if (IsWindow(window)) sendCaptured(window, WM_LBUTTONUP, 0, point);
     serveWhatWaits();
 }
 

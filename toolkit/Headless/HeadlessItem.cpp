@@ -22,6 +22,8 @@ bool isWithin(const Bounds& bounds, Extent area) {
     return twiceX >= 0 && twiceY >= 0 && twiceX < 2 * area.width && twiceY < 2 * area.height;
 }
 
+bool isButton(ControlKind kind) { return kind <= ControlKind::RadioButton; }
+
 bool hasArrows(ControlKind kind) {
     return kind == ControlKind::SpinEdit || kind == ControlKind::SpinEditPopup ||
            kind == ControlKind::SpinEditSlider;
@@ -62,8 +64,13 @@ SeenItem HeadlessItem::seen() const {
 
 void HeadlessItem::click() {
     const std::weak_ptr<const char> life = life_;
+    if (isButton(view_.kind)) events_.pressed();
+    if (life.expired()) return;
     if (takesFocus(view_.kind)) dialog_.keyboard().moveTo(this);
-    if (!life.expired() && !isField(view_.kind)) events_.clicked();
+    // A field that keeps the keyboard, because what is typed was refused, keeps the click as well.
+    const bool isRefused =
+        !life.expired() && takesFocus(view_.kind) && dialog_.keyboard().owner() != this;
+    if (!life.expired() && !isRefused && !isField(view_.kind)) events_.clicked();
 }
 
 bool HeadlessItem::type(std::string_view text) {

@@ -265,7 +265,7 @@ void CoADMDialog::dropTyped() {
 }
 
 bool CoADMDialog::finishTyping(const CoADMItem& item) {
-    if (isRunning() && &item == pushButton(cancelId_)) {
+    if (isCancelling(item)) {
         dropTyped();
         return true;
     }

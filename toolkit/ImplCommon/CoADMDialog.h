@@ -83,6 +83,11 @@ public:
     /// Takes over what is typed elsewhere before `item` tells a change, or drops it when the item
     /// cancels. False when it was refused.
     bool finishTyping(const CoADMItem& item);
+    /// Is it what a modal dialog is cancelled with?
+    [[nodiscard]] bool isCancelling(const CoADMItem& item) const {
+        return isRunning() && &item == pushButton(cancelId_);
+    }
+    void dropTyped();
     /// A label leads to the field beside it.
     void activateNeighbour(const CoADMItem& label);
     void noticeInput(ADMAction action);
@@ -114,7 +119,6 @@ private:
     [[nodiscard]] CoADMItem* pushButton(int id) const;
     [[nodiscard]] bool isTabStop(const CoADMItem& item) const;
     bool commitTyped();
-    void dropTyped();
     void focusFirst();
     bool moveFocus(int direction);
     bool moveInGroup(int direction);

@@ -307,6 +307,11 @@ bool CoADMItem::isRefused() const {
     return closed_ || !view_.enabled || !view_.visible || !dialog_.isEnabled();
 }
 
+void CoADMItem::pressed() {
+    // Focus that is lost takes over what is typed, which must not happen to what is cancelled.
+    if (!isRefused() && dialog_.isCancelling(*this)) dialog_.dropTyped();
+}
+
 void CoADMItem::clicked() {
     const Keeper keeper(*this);
     if (isRefused() || !dialog_.finishTyping(*this) || isRefused()) return;

@@ -116,6 +116,7 @@ public:
     [[nodiscard]] bool isClosed() const noexcept { return closed_; }
 
     // ItemEvents
+    void pressed() override;
     void clicked() override;
     void typed(const std::string& text) override;
     bool commit() override;

@@ -136,6 +136,9 @@ class CoADMDrawer;
 /// What a user does to an item.
 class ItemEvents {
 public:
+    /// The mouse goes down on a button, before the keyboard leaves the field that is typed in.
+    virtual void pressed() = 0;
+
     /// A push button was pressed and released, a box or radio button clicked, or chosen by a key.
     virtual void clicked() = 0;
 

@@ -21,8 +21,10 @@ bool NRDMButton::notified(UINT message, WPARAM wide, LPARAM lengthy, LRESULT& an
 }
 
 LRESULT NRDMButton::serve(UINT message, WPARAM wide, LPARAM lengthy) {
-    // A quick second click is a click.
-    return NativeItem::serve(message == WM_LBUTTONDBLCLK ? WM_LBUTTONDOWN : message, wide, lengthy);
+    if (message == WM_LBUTTONDBLCLK) message = WM_LBUTTONDOWN; // a quick second click is a click
+    const std::weak_ptr<const char> alive = watch();
+    if (message == WM_LBUTTONDOWN) events().pressed();
+    return alive.expired() ? 0 : NativeItem::serve(message, wide, lengthy);
 }
 
 FaceState NRDMButton::state() const {

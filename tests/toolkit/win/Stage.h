@@ -27,6 +27,7 @@ public:
     bool accepts = true;           ///< what `commit` answers
     std::function<void()> onClick; ///< done besides writing it down
 
+    void pressed() override {}
     void clicked() override;
     void typed(const std::string& text) override;
     bool commit() override;
