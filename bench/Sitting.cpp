@@ -5,6 +5,7 @@
 #include "bench/Stopwatch.h"
 #include "easel/document/Attributes.h"
 #include "easel/runtime/Library.h"
+#include "easel/script/Dialogs.h"
 #include "host/suites/AIArtSuite.h"
 
 #include <algorithm>
@@ -107,6 +108,27 @@ Cost Sitting::drag(AIRealPoint to, Take take) {
 
 Cost Sitting::draw(Take take) {
     return measure([this] { static_cast<void>(session_.host.drawAnnotations(nullptr)); }, take);
+}
+
+void Sitting::showPanel() {
+    easel::Panels& panels = session_.host.panels;
+    panels.show(panels.named(U"Facetta"), true);
+}
+
+/// The plug-in is entered by its window here, and by no message.
+Cost Sitting::usePanel(const std::function<void(door::Dialog&)>& act, Take take) {
+    door::Dialog* const panel = easel::panelDialog();
+    if (panel == nullptr) giveUp("there is no panel");
+    const auto enter = [&] {
+        TimedEntry& timed = timedEntry();
+        const Stopwatch watch;
+        ++timed.depth;
+        act(*panel);
+        --timed.depth;
+        timed.seconds += watch.seconds();
+        session_.host.idle();
+    };
+    return measure(enter, take);
 }
 
 Cost Sitting::measure(const std::function<void()>& action, Take take) {

@@ -9,6 +9,7 @@
 #include "easel/core/SuiteServer.h"
 #include "easel/session/MirrorSession.h"
 #include "easel/suites/Suites.h"
+#include "platform/DialogDoor.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -66,6 +67,9 @@ public:
     void release(AIRealPoint at) { session_.host.release({.at = at}); }
     /// Draws what is over the document.
     Cost draw(Take take);
+    /// The panel of the plug-in, in which the user acts.
+    void showPanel();
+    Cost usePanel(const std::function<void(door::Dialog&)>& act, Take take);
     void zoom(AIReal zoom) { easel::setZoom(session_.host.view(nullptr), zoom); }
 
 private:

@@ -5,6 +5,7 @@
 #include "bench/LiveLayerCase.h"
 #include "bench/MirrorCases.h"
 #include "bench/OverlayCases.h"
+#include "bench/PanelCases.h"
 #include "bench/ProgramCases.h"
 #include "bench/SnapCases.h"
 
@@ -70,11 +71,13 @@ int main(int argumentCount, char** arguments) try {
     MirrorCases mirroring;
     SnapCases snapping;
     OverlayCases overlay;
+    PanelCases panel;
     program.registerAll();
     liveLayer.registerAll();
     mirroring.registerAll();
     snapping.registerAll();
     overlay.registerAll();
+    panel.registerAll();
     runInRounds();
 
     Findings findings;
@@ -83,6 +86,7 @@ int main(int argumentCount, char** arguments) try {
     program.report(findings);
     snapping.report(findings);
     overlay.report(findings);
+    panel.report(findings);
     Verdicts verdicts = judge(findings, limits);
     const bool some = !benchmark::GetBenchmarkFilter().empty();
     if (some && !check) // a check is of everything

@@ -1,0 +1,134 @@
+#include "bench/PanelCases.h"
+
+#include "bench/Drawings.h"
+#include "bench/Sitting.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace facetta::bench {
+namespace {
+
+using door::Dialog;
+using door::Key;
+
+constexpr DrawingPlan kPlan{Placement::Clear, 6, 1000, 10};
+constexpr int kRuns = 5;
+
+constexpr int kCountField = 15;
+constexpr int kOverlayBox = 16;
+constexpr int kOpacitySlider = 18;
+constexpr int kOpacityField = 20;
+
+/// What the user does to the panel, but for what mirrors the layer: it is the handlers that are
+/// measured.
+struct Act {
+    const char* name;
+    void (*perform)(Dialog& panel);
+};
+
+door::SeenItem itemOf(const Dialog& panel, int id) {
+    const std::vector<door::SeenItem> items = panel.items();
+    return *std::ranges::find(items, id, &door::SeenItem::id);
+}
+
+double opacityOf(const Dialog& panel) { return *itemOf(panel, kOpacitySlider).position; }
+
+/// From one end to the other: each time it really changes.
+void slide(Dialog& panel) { panel.slide(kOpacitySlider, opacityOf(panel) < 50 ? 80 : 20, 1); }
+
+constexpr Act kActs[] = {
+    {"opacity_slider", slide},
+    {"opacity_field",
+     [](Dialog& panel) { panel.spin(kOpacityField, opacityOf(panel) < 50, false); }},
+    {"overlay_off", [](Dialog& panel) { panel.click(kOverlayBox); }},
+    {"overlay_on", [](Dialog& panel) { panel.click(kOverlayBox); }},
+    // The first time the axes come off the layer.
+    {"count_field", [](Dialog& panel) { panel.spin(kCountField, true, false); }},
+};
+
+/// A layer kept mirrored, with its mask and the panel in view.
+class PanelSitting : public Sitting {
+public:
+    PanelSitting() : Sitting(kPlan.axisCount, easel::MirrorMode::Layer) {
+        open(makeDrawing(kPlan));
+        apply(Take::TotalTime);
+        showPanel();
+        usePanel(
+            [](Dialog& panel) {
+                if (!itemOf(panel, kOverlayBox).on) panel.click(kOverlayBox);
+            },
+            Take::TotalTime);
+        static_cast<void>(draw(Take::TotalTime));
+    }
+};
+
+} // namespace
+
+void PanelCases::registerAll() {
+    registerHandlers();
+    registerSlide();
+}
+
+void PanelCases::registerHandlers() {
+    const auto run = [this](benchmark::State& state) {
+        PanelSitting sitting;
+        std::array<double, std::size(kActs)> least{};
+        least.fill(std::numeric_limits<double>::infinity());
+        for ([[maybe_unused]] const auto step : state) {
+            double seconds = 0;
+            for (std::size_t i = 0; i < least.size(); ++i) {
+                const Cost cost = sitting.usePanel(kActs[i].perform, Take::OwnTime);
+                least[i] = std::min(least[i], cost.ownSeconds);
+                seconds += cost.seconds;
+            }
+            state.SetIterationTime(seconds);
+        }
+        for (std::size_t i = 0; i < least.size(); ++i)
+            state.counters[std::string(kActs[i].name) + "_us"] = 1e6 * least[i];
+        handlerSeconds_ = std::fmin(handlerSeconds_, *std::ranges::max_element(least));
+    };
+    benchmark::RegisterBenchmark("panel/handlers", run)
+        ->UseManualTime()
+        ->Iterations(kRuns)
+        ->Unit(benchmark::kMicrosecond);
+}
+
+void PanelCases::registerSlide() {
+    const auto run = [this](benchmark::State& state) {
+        PanelSitting sitting;
+        std::uint64_t hostCalls = 0;
+        for ([[maybe_unused]] const auto step : state) {
+            const Cost moved = sitting.usePanel(kActs[0].perform, Take::TotalTime);
+            const Cost drawn = sitting.draw(Take::TotalTime);
+            const double seconds = moved.seconds + drawn.seconds;
+            redrawSeconds_ = std::fmin(redrawSeconds_, seconds);
+            hostCalls = drawn.hostCalls;
+            state.SetIterationTime(seconds);
+        }
+        if (hostCalls == 0) {
+            redrawSeconds_ = kNotMeasured;
+            return state.SkipWithError("nothing was drawn");
+        }
+        state.counters["redraws_a_second"] = 1 / redrawSeconds_;
+        state.counters["calls"] = static_cast<double>(hostCalls);
+    };
+    benchmark::RegisterBenchmark("panel/slide/paths:1000", run)
+        ->UseManualTime()
+        ->Iterations(kRuns)
+        ->Unit(benchmark::kMicrosecond);
+}
+
+void PanelCases::report(Findings& findings) const {
+    findings.push_back({"panel: own time of a handler, the slowest", 1e3 * handlerSeconds_});
+    findings.push_back({"opacity slid over 1,000 live paths: time until the overlay is drawn",
+                        1e3 * redrawSeconds_});
+}
+
+} // namespace facetta::bench
