@@ -2,7 +2,9 @@
 
 #include "easel/core/SuiteServer.h"
 #include "easel/suites/Suites.h"
+#include "host/References.h"
 #include "host/UnicodeString.h"
+#include "host/suites/AIArtSuite.h"
 #include "host/suites/AIModalParentSuite.h"
 #include "host/suites/AINotifierSuite.h"
 #include "host/suites/AIPanelFlyoutMenuSuite.h"
@@ -102,6 +104,34 @@ TEST_CASE("a panel starts hidden in its first state; its callbacks tell what hap
                                              "hidden", "closed"});
     CHECK(panels.SetCurrentState(panel, 3) == kBadParameterErr);
     CHECK(panels.SetCurrentState(panel, 0) == kBadParameterErr);
+}
+
+TEST_CASE("a panel's callbacks come outside any context, as the user's clicks in it do") {
+    PanelFixture fixture;
+    auto& [host, plugin, panels, menus, panel, menu] = fixture;
+    host.open(std::make_unique<easel::Document>(AISize{100, 100}));
+    static std::vector<AIErr> codes;
+    static SPPluginRef self = nullptr;
+    codes.clear();
+    self = plugin.self();
+    const auto draw = [](AIPanelRef, ai::int16) {
+        const auto newPath = [] {
+            AIArtHandle made = nullptr;
+            return ai::suites.art->NewArt(kPathArt, kPlaceAboveAll, nullptr, &made);
+        };
+        codes.push_back(newPath());
+        const ai::AppContext context{self};
+        codes.push_back(newPath());
+    };
+    panels.SetStateChangedNotifyProc(panel, draw);
+    host.cyclePanel(panel);
+    CHECK(codes == std::vector<AIErr>{kNoDocumentErr, kNoErr});
+    CHECK(host.undo());
+    CHECK(easel::currentDocument().state().currentLayer->firstChild() == nullptr);
+    // In a message that the plug-in is answering there is the host's.
+    codes.clear();
+    plugin.run([&] { panels.SetCurrentState(panel, 1); });
+    CHECK(codes == std::vector<AIErr>{kNoErr, kNoErr});
 }
 
 TEST_CASE("sizes stay within their limits") {
