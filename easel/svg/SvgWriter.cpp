@@ -1,10 +1,14 @@
 #include "easel/document/Layers.h"
 #include "easel/svg/ArtAttributes.h"
-#include "easel/svg/DictionaryJson.h"
+#include "easel/svg/ArtTag.h"
+#include "easel/svg/AsRead.h"
+#include "easel/svg/GeneratedDefinitions.h"
+#include "easel/svg/LayerTags.h"
 #include "easel/svg/Numbers.h"
 #include "easel/svg/PaintServers.h"
 #include "easel/svg/ReadingState.h"
-#include "easel/svg/StyleText.h"
+#include "easel/svg/ShapeTag.h"
+#include "easel/svg/StyleHere.h"
 #include "easel/svg/SvgFile.h"
 #include "easel/svg/TagText.h"
 #include "easel/svg/ViewBox.h"
@@ -16,8 +20,6 @@
 
 namespace easel::svg {
 namespace {
-
-const ArtContent& presentContent(const Art& art) { return art.content(); }
 
 /// What a drawing that was never a file is written into.
 std::shared_ptr<const DrawingSource> blankSource(const Document& document) {
@@ -36,57 +38,6 @@ std::shared_ptr<const DrawingSource> blankSource(const Document& document) {
     return source;
 }
 
-bool sameSegments(const Segments& a, const Segments& b) {
-    const auto same = [](AIRealPoint p, AIRealPoint q) { return p.h == q.h && p.v == q.v; };
-    return std::ranges::equal(a, b, [&](const AIPathSegment& p, const AIPathSegment& q) {
-        return same(p.p, q.p) && same(p.in, q.in) && same(p.out, q.out);
-    });
-}
-
-bool sameMatrix(const AIRealMatrix& a, const AIRealMatrix& b) {
-    return a.a == b.a && a.b == b.b && a.c == b.c && a.d == b.d && a.tx == b.tx && a.ty == b.ty;
-}
-
-bool isGroupElement(std::string_view name) {
-    return name == "g" || name == "a" || name == "switch" || name == "svg";
-}
-
-/// Attributes of a shape's element that say where it lies, and those by which drawing programs make
-/// the outline anew.
-bool isGeometry(std::string_view name) {
-    constexpr std::string_view kNames[] = {"x",
-                                           "y",
-                                           "width",
-                                           "height",
-                                           "rx",
-                                           "ry",
-                                           "cx",
-                                           "cy",
-                                           "r",
-                                           "x1",
-                                           "y1",
-                                           "x2",
-                                           "y2",
-                                           "d",
-                                           "points",
-                                           "pathLength",
-                                           "inkscape:original-d",
-                                           "inkscape:path-effect",
-                                           "inkscape:rounded",
-                                           "inkscape:randomized",
-                                           "inkscape:flatsided"};
-    return name.starts_with("sodipodi:") ? name != "sodipodi:insensitive"
-                                         : std::ranges::find(kNames, name) != std::end(kNames);
-}
-
-/// Elements that art elsewhere may refer to, or whose look hangs on them.
-bool isDefinition(std::string_view element) {
-    constexpr std::string_view kDefinitions[] = {"clipPath", "defs",  "filter",  "linearGradient",
-                                                 "marker",   "mask",  "pattern", "radialGradient",
-                                                 "style",    "symbol"};
-    return std::ranges::find(kDefinitions, element) != std::end(kDefinitions);
-}
-
 /// Writes a document into the text that it was read from.
 ///
 /// The art is walked from the back to the front, the text beside it. What lies between the elements
@@ -100,11 +51,12 @@ public:
         : document_(document), kept_(document.foreign),
           blank_(sourceOf(document) == nullptr ? blankSource(document) : nullptr),
           source_(blank_ ? *blank_ : *sourceOf(document)), tree_(*source_.tree),
-          offset_(rulerOffset(document)), servers_(tree_, document, offset_),
+          offset_(rulerOffset(document)), asRead_(source_),
+          layerTags_(layerTags(document, source_, asRead_)), references_(tree_),
+          definitions_(source_, references_), servers_(tree_, document, offset_),
           written_(tree_.size(), false) {}
 
     std::string write() {
-        chooseTags();
         const Element root{tree_, tree_.root()};
         TagText tag{root};
         const std::vector<AttributeText> now = documentAttributes(document_);
@@ -123,11 +75,14 @@ public:
         while (!frames_.empty())
             step();
 
-        const std::string generated = generatedText();
+        definitions_.keepLost(written_);
+        std::string added = servers_.elements();
+        if (!added.empty() || !definitions_.empty()) prefixes_.insert({"xlink", "easel"});
+        const std::string generated = definitions_.text(std::move(added), out_, generatedAt_);
         if (generatedAt_ == std::string::npos && !generated.empty())
             generatedAt_ = out_.find_last_not_of(" \t\r\n") + 1;
         if (!generated.empty()) out_.insert(generatedAt_, generated);
-        const bool empty = out_.empty() && isSelfClosing(root.node());
+        const bool empty = out_.empty() && tree_.isSelfClosing(root.node());
         std::string start = tag.text(empty, prefixes_);
         std::string declared;
         for (const Namespace& space : kNamespaces) {
@@ -166,11 +121,8 @@ private:
 
     // The text that is copied.
 
-    [[nodiscard]] bool isSelfClosing(NodeIndex node) const {
-        return tree_.startTag(node).ends_with("/>");
-    }
     [[nodiscard]] std::string endTag(NodeIndex node) const {
-        if (isSelfClosing(node)) return "</" + std::string{tree_.tagName(node)} + '>';
+        if (tree_.isSelfClosing(node)) return "</" + std::string{tree_.tagName(node)} + '>';
         return std::string{tree_.text().substr(tree_.at(node).contentEnd,
                                                tree_.at(node).end - tree_.at(node).contentEnd)};
     }
@@ -224,9 +176,9 @@ private:
         }
         // What refers to the element means what it was; the changed one goes without its name.
         const Element element{tree_, node};
-        if (!isReferred(element.get("id"))) return;
+        if (!references_.contain(element.get("id"))) return;
         if (std::string_view{out_}.substr(start) == tree_.source(node)) return;
-        definitions_.insert(node);
+        definitions_.keep(node);
         for (const XmlAttribute& attribute : element.attributes()) {
             const std::size_t at = out_.find(' ' + std::string{attribute.source}, start);
             if (attribute.name == "id" && at != std::string::npos)
@@ -283,28 +235,6 @@ private:
         return styleOf(rules, context.style, context.viewport.diagonal());
     }
 
-    [[nodiscard]] static std::string valueIn(const Style& style, const std::string& property) {
-        if (property == "opacity") return formatNumber(style.opacity);
-        for (const Properties* known : {style.inherited.get(), &style.others, &style.unknown})
-            if (known != nullptr && known->contains(property)) return known->at(property);
-        return std::string{initialValue(property)};
-    }
-
-    /// Sets the properties that are otherwise here, and puts away those that others would lend.
-    void setProperties(TagText& tag, const Properties& wanted, const Style& here, bool isText) {
-        const bool inStyle = !source_.sheet.empty();
-        for (const auto& [property, value] : wanted)
-            if (valueIn(here, property) != value)
-                tag.setProperty(property, value, inStyle || !isProperty(property));
-        if (!here.inherited) return;
-        for (const auto& [property, value] : *here.inherited) {
-            const std::string initial{initialValue(property)};
-            if (wanted.contains(property) || initial.empty() || value == initial) continue;
-            if (isTextProperty(property) ? isText : !isUnderstood(property) || isText)
-                tag.setProperty(property, initial, inStyle);
-        }
-    }
-
     // One object after the other.
 
     void step() {
@@ -317,7 +247,8 @@ private:
         if (frame.keepsMasks && isClipMask(*art) && source != nullptr)
             return keepMask(source->node);
         if (source != nullptr && standsHere(source->node) && keep(*art, *source)) return;
-        if (isTop && source != nullptr && source->node == kNoNode && !tagged_.contains(art))
+        if (isTop && source != nullptr && source->node == kNoNode &&
+            !layerTags_.tagged.contains(art))
             return openLoose(*art);
         if (isTop && source != nullptr && source->node == kNoNode) return openTagged(*art);
         writeAnew(*art);
@@ -338,7 +269,7 @@ private:
             return;
         }
         frames_.back() = frame;
-        const bool wasEmpty = isSelfClosing(frame.node);
+        const bool wasEmpty = tree_.isSelfClosing(frame.node);
         if (!wasEmpty) copyUpTo(kNoNode);
         frames_.pop_back();
         if (frames_.empty()) {
@@ -348,66 +279,6 @@ private:
         if (wasEmpty) newLine();
         out_ += endTag(frame.node);
         finish(frame.node, frame.start);
-    }
-
-    // Layers that the reader made for art outside of layers.
-
-    /// Such a layer needs a tag when it would not be read again as it is.
-    void chooseTags() {
-        const Art& root = document_.root();
-        std::vector<std::string> titles;
-        std::vector<std::string> shown;
-        bool belowIsLoose = false;
-        for (const Art* layer = root.lastChild(); layer != nullptr; layer = layer->previous()) {
-            const ArtSource* const source = source_.find(*layer);
-            const std::string& title = layer->details().layer.title;
-            shown.push_back(title);
-            titles.push_back(title);
-            const bool isLoose = source != nullptr && source->node == kNoNode;
-            if (source == nullptr) {
-                belowIsLoose = false;
-                continue;
-            }
-            const bool sameTitle = title == source->content.details->layer.title;
-            if (!isLoose) {
-                const Element element{tree_, source->node};
-                if (sameTitle && element.get("inkscape:label").empty() && element.get("id").empty())
-                    titles.back().clear();
-                belowIsLoose = false;
-                continue;
-            }
-            const bool isOnlyOne = root.firstChild() == root.lastChild();
-            const bool same = sameState(*layer, *source) && layer->dictionaryIfAny() == nullptr &&
-                              layer->style().opacity == 1 && !layer->content().clipped &&
-                              !belowIsLoose && (layer->firstChild() != nullptr || isOnlyOne);
-            if (same)
-                titles.back().clear();
-            else
-                tagged_.insert(layer);
-            belowIsLoose = same;
-        }
-        fillInTitles(titles);
-        namesLayers_ = titles != shown;
-        for (const Art* layer = root.lastChild(); namesLayers_ && layer != nullptr;
-             layer = layer->previous())
-            tagged_.insert(layer);
-    }
-
-    static bool isHidden(const ArtContent& content) {
-        return (content.attributes & static_cast<std::uint32_t>(kArtHidden)) != 0;
-    }
-
-    [[nodiscard]] bool sameState(const Art& art, const ArtSource& source) const {
-        const auto texts = [](const std::vector<AttributeText>& attributes) {
-            std::vector<std::string> result;
-            for (const AttributeText& each : attributes)
-                result.push_back(each.text);
-            return result;
-        };
-        return texts(artAttributes(art, presentContent)) ==
-                   texts(artAttributes(
-                       art, [&](const Art&) -> const ArtContent& { return source.content; })) &&
-               art.has(kArtHidden) == isHidden(source.content);
     }
 
     void openLoose(const Art& layer) {
@@ -421,7 +292,7 @@ private:
     void openTagged(const Art& layer) {
         newLine();
         TagText tag{std::string{tree_.prefix()} + "g"};
-        describe(tag, layer, nullptr);
+        describe(tag, layer, nullptr, source_, layerTags_.named);
         out_ += tag.text(false, prefixes_);
         openLoose(layer);
         frames_.back().endTag = "</" + tag.name() + '>';
@@ -434,64 +305,11 @@ private:
         const Element element{tree_, source.node};
         const bool isGroup = isGroupElement(element.name());
         if (isGroup != (art.type() == kGroupArt)) {
-            const Art* const shown = art.type() == kGroupArt ? onlyShown(art, source) : nullptr;
+            const Art* const shown =
+                art.type() == kGroupArt ? asRead_.onlyShown(art, source) : nullptr;
             return shown != nullptr && keepLeaf(*shown, *source_.find(*shown), true);
         }
         return isGroup ? keepGroup(art, source) : keepLeaf(art, source, false);
-    }
-
-    /// The object that an element with a clip path was read as a group around; null when the group
-    /// has become something of its own.
-    const Art* onlyShown(const Art& group, const ArtSource& source) {
-        const Art* shown = nullptr;
-        for (const Art* art = group.firstChild(); art != nullptr; art = art->next()) {
-            if (isClipMask(*art)) continue;
-            if (shown != nullptr) return nullptr;
-            shown = art;
-        }
-        const ArtSource* const origin = shown != nullptr ? source_.find(*shown) : nullptr;
-        const bool isOwn = origin != nullptr && origin->node == source.node;
-        const bool same = isOwn && hasMasksAsRead(group, source) && sameState(group, source) &&
-                          group.dictionaryIfAny() == nullptr && group.style().opacity == 1;
-        return same ? shown : nullptr;
-    }
-
-    [[nodiscard]] const ArtContent& readContent(const Art& art) const {
-        const ArtSource* const source = source_.find(art);
-        return source != nullptr ? source->content : art.content();
-    }
-
-    /// Is the object's shape what was read? Moving the ruler's origin is no edit of the art.
-    [[nodiscard]] bool hasShapeAsRead(const Art& art) const {
-        const ArtSource* const source = source_.find(art);
-        if (source == nullptr) return false;
-        if (art.type() == kCompoundPathArt) {
-            std::vector<AIArtHandle> members;
-            for (const Art* member = art.lastChild(); member != nullptr;
-                 member = member->previous()) {
-                members.push_back(member->handle());
-                if (!hasShapeAsRead(*member)) return false;
-            }
-            return members == source->parts;
-        }
-        if (source->stamp == art.stamp()) return true;
-        return art.content().closed == source->content.closed &&
-               sameSegments(*art.content().segments, *source->content.segments) &&
-               sameMatrix(art.details().matrix, source->content.details->matrix);
-    }
-
-    [[nodiscard]] bool hasMasksAsRead(const Art& group, const ArtSource& source) const {
-        if (group.content().clipped != source.content.clipped) return false;
-        std::vector<AIArtHandle> masks;
-        for (const Art* art = group.lastChild(); art != nullptr; art = art->previous()) {
-            if (!isClipMask(*art)) continue;
-            const ArtSource* const origin = source_.find(*art);
-            if (origin == nullptr || !hasShapeAsRead(*art) || !sameState(*art, *origin) ||
-                art->style().path.evenodd != origin->content.style->path.evenodd)
-                return false;
-            masks.push_back(art->handle());
-        }
-        return masks == source.parts;
     }
 
     /// One that stands in its group is copied; others are where the clip path is.
@@ -501,14 +319,6 @@ private:
         const std::size_t start = out_.size();
         out_ += tree_.source(node);
         finish(node, start);
-    }
-
-    /// Have the effects of art moved with it since it was read?
-    static const Effects* movedEffects(const Art& art) {
-        const auto* const effects = dynamic_cast<const Effects*>(art.style().foreign.get());
-        const bool moved = effects != nullptr && effects->spatial &&
-                           !sameMatrix(art.style().foreignMatrix, kIdentityMatrix);
-        return moved ? effects : nullptr;
     }
 
     /// From the effects' user space to soft coordinates.
@@ -527,7 +337,7 @@ private:
     bool keepLeaf(const Art& art, const ArtSource& source, bool isClipped) {
         const Element element{tree_, source.node};
         const bool isShape = art.type() == kPathArt || art.type() == kCompoundPathArt;
-        const bool sameShape = hasShapeAsRead(art);
+        const bool sameShape = asRead_.hasSameShape(art);
         const Effects* const moved = source.stamp == art.stamp() ? nullptr : movedEffects(art);
         if (isClipped && (moved != nullptr || (!isShape && !sameShape))) return false;
 
@@ -545,16 +355,16 @@ private:
                                                         .matrix,
                                                     offset_};
             if (!sameShape) reshape(tag, element, art, space);
-            restyle(tag, art.style(), *source.content.style, space);
+            restyle(tag, art.style(), *source.content.style, space, serverText(space), hasSheet());
         }
         if (!isShape && art.style().opacity != source.content.style->opacity)
             tag.setProperty("opacity", formatNumber(art.style().opacity), hasSheet());
-        describe(tag, art, &source);
-        if (tag.hasChanged() && isReferred(element.get("id"))) return false;
+        describe(tag, art, &source, source_, layerTags_.named);
+        if (tag.hasChanged() && references_.contain(element.get("id"))) return false;
         copyUpTo(source.node);
         const std::size_t start = out_.size();
-        out_ += tag.text(isSelfClosing(source.node), prefixes_);
-        if (!isSelfClosing(source.node)) {
+        out_ += tag.text(tree_.isSelfClosing(source.node), prefixes_);
+        if (!tree_.isSelfClosing(source.node)) {
             out_ += tree_.content(source.node);
             out_ += tag.hasChanged() ? "</" + tag.name() + '>' : endTag(source.node);
         }
@@ -565,115 +375,15 @@ private:
     [[nodiscard]] bool hasSheet() const { return !source_.sheet.empty(); }
     static Matrix asMatrix(const AIRealMatrix& m) { return {m.a, m.b, m.c, m.d, m.tx, m.ty}; }
 
-    void reshape(TagText& tag, const Element& element, const Art& art, const UserSpace& space) {
-        for (const XmlAttribute& attribute : element.attributes())
-            if (isGeometry(attribute.name)) tag.set(attribute.name, {});
-        tag.rename(std::string{tree_.prefix()} + "path");
-        setShape(tag, art, space);
-    }
-
-    void setShape(TagText& tag, const Art& art, const UserSpace& space) {
-        std::string data;
-        for (const Art* member : membersOf(art))
-            data += space.path(member->segments(), member->content().closed);
-        tag.set("d", data.empty() ? " " : data);
-        tag.set("easel:ends", art.type() == kPathArt ? endsText(art, space) : std::string{});
-    }
-
-    /// An open path's outermost handles draw nothing and so have no place in path data.
-    static std::string endsText(const Art& path, const UserSpace& space) {
-        const auto segments = path.segments();
-        if (segments.empty() || path.content().closed) return {};
-        const auto same = [](AIRealPoint a, AIRealPoint b) { return a.h == b.h && a.v == b.v; };
-        const AIPathSegment& first = segments.front();
-        const AIPathSegment& last = segments.back();
-        if (same(first.in, first.p) && same(last.out, last.p)) return {};
-        return space.point(first.in) + ' ' + space.point(last.out);
-    }
-
     [[nodiscard]] ServerText serverText(const UserSpace& space) {
         return [this, &space](const Definition& definition, const AIRealMatrix& matrix) {
             return servers_.reference(definition, matrix, space);
         };
     }
 
-    void restyle(TagText& tag, const ArtStyle& now, const ArtStyle& then, const UserSpace& space) {
-        const ServerText compared = [](const Definition& definition, const AIRealMatrix& m) {
-            std::string text = definition.id();
-            for (const AIReal entry : {m.a, m.b, m.c, m.d, m.tx, m.ty})
-                text += ' ' + formatNumber(entry);
-            return text;
-        };
-        const auto before = styleText(then, space, compared);
-        const auto after = styleText(now, space, compared);
-        std::set<int> changed;
-        for (std::size_t i = 0; i < after.size(); ++i)
-            if (after[i].text != before[i].text) changed.insert(after[i].kind);
-        if (changed.empty()) return;
-        for (const PropertyText& each : styleText(now, space, serverText(space)))
-            if (changed.contains(each.kind)) tag.setProperty(each.name, each.text, hasSheet());
-    }
-
-    /// Name, state, entries and all else that attributes say beside geometry and style. Without a
-    /// source the tag says it all, otherwise what differs.
-    void describe(TagText& tag, const Art& art, const ArtSource* source) {
-        if (source != nullptr && isPlainAsRead(art, *source)) return;
-        const std::vector<AttributeText> now = artAttributes(art, presentContent);
-        std::vector<AttributeText> then;
-        if (source != nullptr)
-            then = artAttributes(
-                art, [this](const Art& each) -> const ArtContent& { return readContent(each); });
-        for (std::size_t i = 0; i < now.size(); ++i)
-            if (then.empty() || now[i].text != then[i].text) tag.set(now[i].name, now[i].text);
-        if (namesLayers_ && art.isLayer()) tag.set("inkscape:label", art.details().layer.title);
-        describeEntries(tag, art, source);
-        const bool hides = art.has(kArtHidden) || isGuide(art, presentContent);
-        const ContentOf asRead = [this](const Art& each) -> const ArtContent& {
-            return readContent(each);
-        };
-        const bool wasHidden =
-            source != nullptr && (isHidden(source->content) || isGuide(art, asRead));
-        if (hides == wasHidden && source != nullptr) return;
-        tag.setProperty("display", hides ? "none" : "", hasSheet() && hides);
-        if (!wasHidden || hides) return;
-        if (hasSheet()) tag.setProperty("display", "inline", true);
-        if (!isContainer(art)) tag.setProperty("visibility", "visible", hasSheet());
-    }
-
-    /// Quickly, for nearly all art of nearly all drawings.
-    [[nodiscard]] bool isPlainAsRead(const Art& art, const ArtSource& source) const {
-        return source.stamp == art.stamp() && art.type() != kCompoundPathArt && !art.isLayer() &&
-               art.content().attributes == source.content.attributes &&
-               art.content().details.sharesWith(source.content.details) &&
-               art.dictionaryIfAny() == nullptr;
-    }
-
-    void describeEntries(TagText& tag, const Art& art, const ArtSource* source) {
-        const Dictionary* const entries = art.dictionaryIfAny();
-        const std::string now = entries != nullptr ? dictionaryJson(*entries) : std::string{};
-        const std::string members =
-            art.type() == kCompoundPathArt ? membersText(membersOf(art)) : std::string{};
-        std::string then;
-        std::string membersThen;
-        if (source != nullptr && source->node != kNoNode) {
-            const Element element{tree_, source->node};
-            then = element.get("easel:dictionary");
-            membersThen = element.get("easel:members");
-            if (!then.empty() && now != then) then = canonicalJson(then);
-        }
-        if (now != then || source == nullptr) tag.set("easel:dictionary", now);
-        if (members != membersThen) tag.set("easel:members", members);
-    }
-
-    static std::string canonicalJson(const std::string& text) {
-        const Ref<Dictionary> entries{new Dictionary};
-        readDictionaryJson(text, *entries);
-        return dictionaryJson(*entries);
-    }
-
     bool keepGroup(const Art& group, const ArtSource& source) {
         const Element element{tree_, source.node};
-        const bool keepsMasks = hasMasksAsRead(group, source);
+        const bool keepsMasks = asRead_.hasSameMasks(group, source);
         if (!keepsMasks && element.name() == "svg") return false;
         TagText tag{element};
         const Effects* const moved = source.stamp == group.stamp() ? nullptr : movedEffects(group);
@@ -687,7 +397,7 @@ private:
         }
         if (group.style().opacity != source.content.style->opacity)
             tag.setProperty("opacity", formatNumber(group.style().opacity), hasSheet());
-        describe(tag, group, &source);
+        describe(tag, group, &source, source_, layerTags_.named);
         if (!keepsMasks) describeMasks(tag, group);
         copyUpTo(source.node);
         Frame frame;
@@ -701,7 +411,7 @@ private:
         frame.context = std::move(inner);
         const bool hasMembers = std::ranges::any_of(
             childrenOf(group), [&](const Art* art) { return !(keepsMasks && isClipMask(*art)); });
-        const bool empty = isSelfClosing(source.node) && !hasMembers;
+        const bool empty = tree_.isSelfClosing(source.node) && !hasMembers;
         out_ += tag.text(empty, prefixes_);
         if (empty)
             finish(source.node, frame.start);
@@ -788,7 +498,7 @@ private:
     /// The name in the drawing stays with the object that has its element, or took its place.
     void setId(TagText& tag, const Art& art) {
         const std::string& id = *art.content().id;
-        if (id.empty() || isReferred(id)) return;
+        if (id.empty() || references_.contain(id)) return;
         const NodeIndex node = tree_.find(id);
         const ArtSource* const source = source_.find(art);
         const bool isOwn = source != nullptr && source->node == node;
@@ -814,8 +524,8 @@ private:
         Properties wanted = effectsOf(group);
         wanted["opacity"] = formatNumber(group.style().opacity);
         Style here = given("g");
-        setProperties(tag, wanted, here, false);
-        describe(tag, group, nullptr);
+        setProperties(tag, wanted, here, false, hasSheet());
+        describe(tag, group, nullptr, source_, layerTags_.named);
         out_ += tag.text(frame.next == nullptr, prefixes_);
         if (frame.next == nullptr) return;
         frame.endTag = "</" + tag.name() + '>';
@@ -847,8 +557,8 @@ private:
             wanted.try_emplace(each.name, each.text);
         if (isClipMask(art)) wanted["clip-rule"] = wanted["fill-rule"];
         wanted["visibility"] = "visible";
-        setProperties(tag, wanted, given("path"), false);
-        describe(tag, art, nullptr);
+        setProperties(tag, wanted, given("path"), false, hasSheet());
+        describe(tag, art, nullptr, source_, layerTags_.named);
         out_ += tag.text(true, prefixes_);
     }
 
@@ -873,12 +583,14 @@ private:
                                    outer.viewport.diagonal());
         Properties wanted = content.style ? *content.style : Properties{};
         wanted["visibility"] = "visible";
-        setProperties(tag, wanted, here, true);
-        describe(tag, art, nullptr);
-        const std::string inner = source_.find(art) != nullptr
-                                      ? std::string{tree_.content(content.node)}
-                                      : contentWithoutIds(content.node);
-        const bool empty = isSelfClosing(content.node);
+        setProperties(tag, wanted, here, true, hasSheet());
+        describe(tag, art, nullptr, source_, layerTags_.named);
+        const std::string inner =
+            source_.find(art) != nullptr
+                ? std::string{tree_.content(content.node)}
+                : withoutIds(tree_, content.node, tree_.at(content.node).contentStart,
+                             tree_.at(content.node).contentEnd);
+        const bool empty = tree_.isSelfClosing(content.node);
         out_ += tag.text(empty, prefixes_);
         if (!empty) out_ += inner + "</" + tag.name() + '>';
     }
@@ -889,143 +601,10 @@ private:
         TagText tag{std::string{tree_.prefix()} + (symbol != nullptr ? "use" : "g")};
         if (symbol != nullptr) tag.set("xlink:href", '#' + symbol->id());
         static_cast<void>(ownSpace(tag, placeSpace(), asMatrix(art.details().matrix)));
-        setProperties(tag, {{"opacity", formatNumber(art.style().opacity)}}, given("use"), true);
-        describe(tag, art, nullptr);
+        setProperties(tag, {{"opacity", formatNumber(art.style().opacity)}}, given("use"), true,
+                      hasSheet());
+        describe(tag, art, nullptr, source_, layerTags_.named);
         out_ += tag.text(true, prefixes_);
-    }
-
-    // What others refer to.
-
-    [[nodiscard]] bool isReferred(const std::string& id) {
-        if (id.empty()) return false;
-        if (!knowsReferences_) findReferences();
-        return referred_.contains(id);
-    }
-
-    void findReferences() {
-        knowsReferences_ = true;
-        const std::string_view text = tree_.text();
-        for (std::size_t at = text.find('#'); at != std::string_view::npos;
-             at = text.find('#', at + 1)) {
-            std::string_view before = text.substr(0, at);
-            if (before.ends_with("&quot;")) before.remove_suffix(6);
-            if (before.ends_with('"') || before.ends_with('\'')) before.remove_suffix(1);
-            if (!before.ends_with("url(") && !before.ends_with("href=")) continue;
-            const std::string_view id = text.substr(at + 1);
-            referred_.emplace(id.substr(0, id.find_first_of("\"')& \t\r\n")));
-        }
-    }
-
-    [[nodiscard]] std::string contentWithoutIds(NodeIndex node) const {
-        return withoutIds(node, tree_.at(node).contentStart, tree_.at(node).contentEnd);
-    }
-
-    /// A part of the element's text without the names of what is inside it.
-    [[nodiscard]] std::string withoutIds(NodeIndex node, std::size_t from, std::size_t to) const {
-        std::string text;
-        for (NodeIndex each = node + 1; each < tree_.size() && tree_.at(each).start < to; ++each) {
-            if (tree_.at(each).kind != XmlTree::Kind::Element) continue;
-            for (const XmlAttribute& attribute : tree_.attributes(each)) {
-                if (attribute.name != "id") continue;
-                const auto at =
-                    static_cast<std::size_t>(attribute.source.data() - tree_.text().data());
-                text += tree_.text().substr(from, at - from);
-                from = at + attribute.source.size();
-            }
-        }
-        return text += tree_.text().substr(from, to - from);
-    }
-
-    /// Gathers what others refer to in an element that is no longer written.
-    void gatherLost(NodeIndex node) {
-        const Element element{tree_, node};
-        if (element.isTrue("easel:clip")) return;
-        if (isReferred(element.get("id"))) {
-            definitions_.insert(node);
-            return;
-        }
-        for (const NodeIndex child : childElements(tree_, node))
-            if (source_.isArt[child])
-                gatherLost(child);
-            else if (isDefinition(tree_.at(child).name))
-                definitions_.insert(child);
-    }
-
-    void gatherLostIn(NodeIndex container) {
-        for (const NodeIndex child : childElements(tree_, container)) {
-            if (!source_.isArt[child]) continue;
-            if (!written_[child])
-                gatherLost(child);
-            else if (isGroupElement(tree_.at(child).name))
-                gatherLostIn(child);
-        }
-    }
-
-    /// The <defs> with what this and former savings have made: without what nothing refers to any
-    /// more, and with what is new.
-    std::string generatedText() {
-        gatherLostIn(tree_.root());
-        NodeIndex node = kNoNode;
-        for (const NodeIndex child : childElements(tree_, tree_.root()))
-            if (isGenerated(tree_, child)) node = child;
-        std::string added = servers_.elements();
-        for (const NodeIndex lost : definitions_) {
-            const XmlTree::Node& at = tree_.at(lost);
-            added += "\n    ";
-            added += source_.isArt[lost] ? withoutIds(lost, at.start, at.end)
-                                         : std::string{tree_.source(lost)};
-        }
-        if (!added.empty()) prefixes_.insert({"xlink", "easel"});
-        const std::string name = std::string{tree_.prefix()} + "defs";
-        if (node == kNoNode && added.empty()) return {};
-        if (node == kNoNode || isSelfClosing(node)) {
-            if (added.empty()) return std::string{tree_.source(node)};
-            return "\n  <" + name + " easel:generated=\"true\">" + added + "\n  </" + name + '>';
-        }
-        if (added.empty() && isAllAsRead(node)) return std::string{tree_.source(node)};
-        const std::set<std::string, std::less<>> used = usedServers();
-        std::string text{tree_.startTag(node)};
-        std::size_t at = tree_.at(node).contentStart;
-        for (NodeIndex child = tree_.at(node).firstChild; child != kNoNode;
-             child = tree_.at(child).nextSibling) {
-            const std::size_t end = tree_.at(child).end;
-            if (isInUse(child, used)) text += tree_.text().substr(at, end - at);
-            at = end;
-        }
-        text += added;
-        return text += tree_.text().substr(at, tree_.at(node).end - at);
-    }
-
-    /// Has nothing at all changed beside these definitions?
-    [[nodiscard]] bool isAllAsRead(NodeIndex generated) const {
-        const std::string_view before = std::string_view{out_}.substr(0, generatedAt_);
-        const std::string_view after = std::string_view{out_}.substr(generatedAt_);
-        const std::string_view text = tree_.text();
-        const std::size_t from = tree_.at(tree_.root()).contentStart;
-        const std::size_t to = tree_.at(tree_.root()).contentEnd;
-        const XmlTree::Node& at = tree_.at(generated);
-        return before == text.substr(from, at.start - from) &&
-               after == text.substr(at.end, to - at.end);
-    }
-
-    /// The ids of paint that the result refers to.
-    [[nodiscard]] std::set<std::string, std::less<>> usedServers() const {
-        constexpr std::string_view kMark = "url(#";
-        std::set<std::string, std::less<>> used;
-        const std::string_view text = out_;
-        for (std::size_t at = text.find(kMark); at != std::string_view::npos;
-             at = text.find(kMark, at + 1)) {
-            const std::string_view id = text.substr(at + kMark.size());
-            used.emplace(id.substr(0, id.find(')')));
-        }
-        return used;
-    }
-
-    [[nodiscard]] bool isInUse(NodeIndex generated,
-                               const std::set<std::string, std::less<>>& used) const {
-        if (tree_.at(generated).kind != XmlTree::Kind::Element) return true;
-        const Element element{tree_, generated};
-        return !isDerived(tree_, element) || used.contains(element.get("id"));
     }
 
     const Document& document_;
@@ -1034,22 +613,20 @@ private:
     const DrawingSource& source_;
     const XmlTree& tree_;
     Point offset_;
+    AsRead asRead_;
+    LayerTags layerTags_;
+    References references_;
+    GeneratedDefinitions definitions_;
     DerivedServers servers_;
     std::vector<bool> written_; ///< By node: the element is in the result.
     std::string out_;           ///< What stands between the root's tags.
     std::vector<Frame> frames_;
     std::set<std::string, std::less<>> prefixes_; ///< Those that the result needs.
     std::vector<std::string> warnings_;
-    std::set<const Art*> tagged_; ///< Layers that were read without a tag and need one now.
-    bool namesLayers_ = false;
     int clipNumber_ = 0;
     std::map<const Art*, std::string> clipIds_; ///< Of masks that are written anew.
     std::set<std::string> ids_;
     std::set<NodeIndex> living_;
-    bool knowsReferences_ = false;
-    std::set<std::string> referred_;
-    std::set<NodeIndex>
-        definitions_; ///< Elements that others refer to and that stand nowhere else.
     std::size_t generatedAt_ = std::string::npos;
 };
 

@@ -77,6 +77,9 @@ public:
 
     /// The node's text, from "<" to ">".
     [[nodiscard]] std::string_view source(NodeIndex node) const;
+    [[nodiscard]] bool isSelfClosing(NodeIndex node) const {
+        return startTag(node).ends_with("/>");
+    }
     [[nodiscard]] std::string_view startTag(NodeIndex node) const {
         return source(node).substr(0, at(node).contentStart - at(node).start);
     }
