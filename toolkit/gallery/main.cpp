@@ -13,16 +13,17 @@
 #include "toolkit/gallery/Snapshot.h"
 #include "toolkit/layout/Layout.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <functional>
 #include <iterator>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 
 using namespace NRDM;
 using namespace NRDM::gallery;
@@ -118,32 +119,61 @@ int showWindows(const Choice& choose, const Manner& manner, Journal* journal) {
     return 0;
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-    SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
-    CLI::App app("Every kind of item of the dialog toolkit, to look at.");
+/// What the command line asks for.
+struct Wishes {
     std::string folder;
     std::string layout;
     std::string page;
     std::string log;
     Manner manner;
-    app.add_option("--png", folder, "Write what would be shown as pictures into this folder");
-    app.add_option("--layout", layout, "Show the layout in this file instead of the pages");
-    app.add_option("--page", page, "Show only the page of this name")->excludes("--layout");
-    app.add_option("--log", log, "Write where the items are and what they tell into this file");
-    app.add_flag("--dark", manner.dark, "Dark interface");
-    app.add_option("--scale", manner.scale, "Pixels a unit, instead of the display's")
-        ->check(CLI::Range(1.0, 4.0));
-    CLI11_PARSE(app, argc, argv);
+};
+
+double scaleOf(const std::string& text) {
+    char* end = nullptr;
+    const double scale = std::strtod(text.c_str(), &end);
+    if (*end != '\0' || !(scale >= 1 && scale <= 4))
+        throw std::runtime_error("--scale takes a number from 1 to 4");
+    return scale;
+}
+
+Wishes wishesOf(int argc, char** argv) {
+    Wishes wishes;
+    std::string scale;
+    const std::pair<std::string_view, std::string*> options[] = {{"--png", &wishes.folder},
+                                                                 {"--layout", &wishes.layout},
+                                                                 {"--page", &wishes.page},
+                                                                 {"--log", &wishes.log},
+                                                                 {"--scale", &scale}};
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view name = argv[i];
+        wishes.manner.dark = wishes.manner.dark || name == "--dark";
+        if (name == "--dark") continue;
+        const auto* const known =
+            std::ranges::find(options, name, &std::pair<std::string_view, std::string*>::first);
+        if (known == std::end(options) || i + 1 == argc)
+            throw std::runtime_error(std::string(name) +
+                                     ": unknown, or without its value; the options are at the top "
+                                     "of toolkit/gallery/main.cpp");
+        *known->second = argv[++i];
+    }
+    if (!scale.empty()) wishes.manner.scale = scaleOf(scale);
+    return wishes;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
     try {
+        const Wishes wishes = wishesOf(argc, argv);
         const Choice choose = [&](Dialogs& dialogs) {
-            return layout.empty() ? pagesNamed(page) : layoutPages(layout, dialogs);
+            return wishes.layout.empty() ? pagesNamed(wishes.page)
+                                         : layoutPages(wishes.layout, dialogs);
         };
-        if (!folder.empty()) return writePictures(choose, folder);
+        if (!wishes.folder.empty()) return writePictures(choose, wishes.folder);
         std::optional<Journal> journal;
-        if (!log.empty()) journal.emplace(log);
-        return showWindows(choose, manner, journal ? &*journal : nullptr);
+        if (!wishes.log.empty()) journal.emplace(wishes.log);
+        return showWindows(choose, wishes.manner, journal ? &*journal : nullptr);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
         return 1;
