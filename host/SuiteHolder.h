@@ -54,10 +54,7 @@ private:
 };
 
 /// One suite held apart from the table, by whoever starts before the table is acquired.
-template <typename Suite, const char* Name = SuiteId<Suite>::name,
-          ai::int32 Version = SuiteId<Suite>::version,
-          const auto& Fallbacks = SuiteId<Suite>::fallbacks>
-class SuiteLease {
+template <typename Suite> class SuiteLease {
 public:
     SuiteLease() noexcept = default;
     ~SuiteLease() { release(); }
@@ -65,12 +62,12 @@ public:
     SuiteLease& operator=(const SuiteLease&) = delete;
 
     [[nodiscard]] SPErr acquire() noexcept {
-        acquired_ = acquireSuite(Name, Version, Fallbacks);
+        acquired_ = acquireSuite(Id::name, Id::version, Id::fallbacks);
         return acquired_.error;
     }
 
     void release() noexcept {
-        if (acquired_.functions != nullptr) basicSuite->ReleaseSuite(Name, acquired_.version);
+        if (acquired_.functions != nullptr) basicSuite->ReleaseSuite(Id::name, acquired_.version);
         acquired_ = {};
     }
 
@@ -81,26 +78,25 @@ public:
     const Suite& operator*() const noexcept { return *operator->(); }
 
 private:
+    using Id = SuiteId<Suite>;
+
     AcquiredSuite acquired_;
 };
 
 /// Sees to it that one pointer of `ai::suites` is filled for a while: borrows the suite when nobody
 /// holds it, as before start-up and after a failed one.
-template <auto Member, const char* Name = SuiteId<SuiteAt<Member>>::name,
-          ai::int32 Version = SuiteId<SuiteAt<Member>>::version,
-          const auto& Fallbacks = SuiteId<SuiteAt<Member>>::fallbacks>
-class BorrowedSuite {
+template <auto Member> class BorrowedSuite {
 public:
     BorrowedSuite() noexcept {
         if (suites.*Member != nullptr) return;
-        const AcquiredSuite acquired = acquireSuite(Name, Version, Fallbacks);
+        const AcquiredSuite acquired = acquireSuite(Id::name, Id::version, Id::fallbacks);
         suites.*Member = static_cast<const SuiteAt<Member>*>(acquired.functions);
         borrowedVersion_ = acquired.version;
     }
     ~BorrowedSuite() {
         if (borrowedVersion_ == 0) return;
         suites.*Member = nullptr;
-        basicSuite->ReleaseSuite(Name, borrowedVersion_);
+        basicSuite->ReleaseSuite(Id::name, borrowedVersion_);
     }
     BorrowedSuite(const BorrowedSuite&) = delete;
     BorrowedSuite& operator=(const BorrowedSuite&) = delete;
@@ -109,6 +105,8 @@ public:
     [[nodiscard]] explicit operator bool() const noexcept { return suites.*Member != nullptr; }
 
 private:
+    using Id = SuiteId<SuiteAt<Member>>;
+
     ai::int32 borrowedVersion_ = 0;
 };
 

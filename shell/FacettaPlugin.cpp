@@ -162,8 +162,7 @@ AIErr FacettaPlugin::saveSettings() {
     if (!settingsLoaded_) return kNoErr; // the defaults must not replace what is stored
     preferences.dialogX = tool.dialog.x;
     preferences.dialogY = tool.dialog.y;
-    const ai::BorrowedSuite<&ai::Suites::preference, kAIPreferenceSuite, kAIPreferenceSuiteVersion>
-        store;
+    const ai::BorrowedSuite<&ai::Suites::preference> store;
     return store ? savePreferences(preferences) : kSPSuiteNotFoundError;
 }
 

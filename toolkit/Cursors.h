@@ -31,7 +31,7 @@ private:
     [[nodiscard]] bool showByHost(ai::int32 id);
 
     SPPluginRef self_;
-    ai::SuiteLease<AIUserSuite, kAIUserSuite, kAIUserSuiteVersion> user_;
+    ai::SuiteLease<AIUserSuite> user_;
     AIResourceManagerHandle manager_ = nullptr; ///< from the first cursor on
     SystemCursors system_;
     bool closed_ = false;

@@ -73,8 +73,10 @@ bool Toolkit::serve(AINotifierHandle notifier) {
 void Toolkit::readThemes() noexcept {
     const auto read = [this](ai::int32 kind, Theme& theme) {
         theme.dark = themeSuite_->IsUIThemeDark() != 0;
-        for (const auto& [component, colour] : kColours)
-            themeSuite_->GetUIThemeColor(kind, component, theme.*colour);
+        for (const auto& [component, colour] : kColours) {
+            auto told = theme.*colour;
+            if (themeSuite_->GetUIThemeColor(kind, component, told) == kNoErr) theme.*colour = told;
+        }
     };
     read(kDialogTheme, themes_.dialogs);
     read(kPanelTheme, themes_.panels);

@@ -56,12 +56,12 @@ private:
     SPPluginRef self_;
     Failed failed_;
 
-    ai::SuiteLease<AINotifierSuite, kAINotifierSuite, kAINotifierSuiteVersion> notifierSuite_;
+    ai::SuiteLease<AINotifierSuite> notifierSuite_;
     /// Without it the controls keep the light colours.
-    ai::SuiteLease<AIUIThemeSuite, kAIUIThemeSuite, kAIUIThemeSuiteVersion> themeSuite_;
+    ai::SuiteLease<AIUIThemeSuite> themeSuite_;
     std::array<AINotifierHandle, kNotifierCount> notifiers_{};
     /// Held as long as the toolkit lives, as are the host's other suites that it stands on.
-    ai::SuiteLease<AIRuntimeSuite, kAIRuntimeSuite, kAIRuntimeSuiteVersion> runtimeSuite_;
+    ai::SuiteLease<AIRuntimeSuite> runtimeSuite_;
     Themes themes_;
     Cursors cursors_;
     Dialogs dialogs_;

@@ -38,11 +38,11 @@ void drawSymmetry(const Surface& surface, ToolSession& session) {
 
 void drawAnnotations(ToolSession& session, const AIAnnotatorMessage& message, Interface brightness,
                      ai::uint64 now) {
-    const bool canDraw = message.drawer != nullptr && suites.annotatorDrawer != nullptr;
+    const bool canDraw = message.drawer != nullptr && ai::suites.annotatorDrawer != nullptr;
     if (!canDraw || !documentIsOpen()) return;
     const Surface surface{message.drawer, fetchViewMap(message.view), coloursOf(brightness),
                           erasedIn(message)};
-    ai::check(suites.annotatorDrawer->SetPortOptions(message.drawer, kSmooth, kSmooth));
+    ai::check(ai::suites.annotatorDrawer->SetPortOptions(message.drawer, kSmooth, kSmooth));
     drawSymmetry(surface, session);
     // The host is scrolling under a drag: what stands still in the view would leave traces.
     const bool scrolling = message.updateData != nullptr;

@@ -64,7 +64,7 @@ void drawHint(const Surface& surface, const ToolState& state, const std::u16stri
     const bool waitsForRelease =
         state.gesture && state.gesture->cancelled && state.zone == ToolZone::Canvas;
     if (opacity == 0.0 || waitsForRelease || words.empty()) return;
-    const auto& drawer = *suites.annotatorDrawer;
+    const auto& drawer = *ai::suites.annotatorDrawer;
     const ai::UnicodeString text{words};
     drawer.SetFontSize(surface.drawer, kFontSize);
     AIRect size{};

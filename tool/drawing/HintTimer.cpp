@@ -15,7 +15,7 @@ constexpr ai::int32 kPeriod = 3; ///< of 60 a second: a fade of five steps
 
 void HintTimer::addTimer(SPPluginRef self) {
     AITimerHandle added = nullptr;
-    ai::check(suites.timer->AddTimer(self, kTimerName, kPeriod, &added));
+    ai::check(ai::suites.timer->AddTimer(self, kTimerName, kPeriod, &added));
     handle_ = added;
 }
 
@@ -24,12 +24,12 @@ void HintTimer::follow(SPPluginRef self, const Hint& hint, ai::uint64 now) {
     if (handle_ == nullptr)
         addTimer(self);
     else
-        ai::check(suites.timer->SetTimerActive(handle_, 1));
+        ai::check(ai::suites.timer->SetTimerActive(handle_, 1));
     runs_ = true;
 }
 
 void HintTimer::stop() noexcept {
-    if (runs_) suites.timer->SetTimerActive(handle_, 0);
+    if (runs_) ai::suites.timer->SetTimerActive(handle_, 0);
     runs_ = false;
 }
 

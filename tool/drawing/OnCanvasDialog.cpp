@@ -43,10 +43,10 @@ AIRect placed(DialogPosition position, ai::int32 top, ai::int32 bottom) {
 }
 
 void drawBox(const Surface& surface, const AIRect& box, const AIRGBColor& fill) {
-    suites.annotatorDrawer->SetColor(surface.drawer, fill);
-    ai::check(suites.annotatorDrawer->DrawRect(surface.drawer, box, 1));
-    suites.annotatorDrawer->SetColor(surface.drawer, surface.colours.outline);
-    ai::check(suites.annotatorDrawer->DrawRect(surface.drawer, box, 0));
+    ai::suites.annotatorDrawer->SetColor(surface.drawer, fill);
+    ai::check(ai::suites.annotatorDrawer->DrawRect(surface.drawer, box, 1));
+    ai::suites.annotatorDrawer->SetColor(surface.drawer, surface.colours.outline);
+    ai::check(ai::suites.annotatorDrawer->DrawRect(surface.drawer, box, 0));
 }
 
 void drawButton(const Surface& surface, const ToolState& state, const DrawnRow& row) {
@@ -55,10 +55,10 @@ void drawButton(const Surface& surface, const ToolState& state, const DrawnRow& 
     const bool hovered = state.hoverItem == row.item && !dimmed;
     drawBox(surface, placed(state.dialog, row.top, row.bottom),
             hovered ? surface.colours.hoveredFill : surface.colours.buttonFill);
-    if (dimmed) suites.annotatorDrawer->SetColor(surface.drawer, surface.colours.dimmedText);
+    if (dimmed) ai::suites.annotatorDrawer->SetColor(surface.drawer, surface.colours.dimmedText);
     const ai::UnicodeString label{std::string_view(row.label)};
     const AIPoint bottomLeft{state.dialog.x + kTextIndent, state.dialog.y + row.textBottom};
-    ai::check(suites.annotatorDrawer->DrawText(surface.drawer, label, bottomLeft));
+    ai::check(ai::suites.annotatorDrawer->DrawText(surface.drawer, label, bottomLeft));
 }
 
 } // namespace
@@ -83,8 +83,8 @@ DialogItem dialogItemAt(DialogPosition position, AIPoint viewPixels) {
 
 void drawDialog(const Surface& surface, const ToolSession& session) {
     if (!dialogIsShown(session)) return;
-    suites.annotatorDrawer->SetLineWidth(surface.drawer, 1.0F);
-    suites.annotatorDrawer->SetFontSize(surface.drawer, kFontSize);
+    ai::suites.annotatorDrawer->SetLineWidth(surface.drawer, 1.0F);
+    ai::suites.annotatorDrawer->SetFontSize(surface.drawer, kFontSize);
     drawBox(surface, placed(session.state.dialog, 0, kTitleBottom), surface.colours.titleFill);
     for (const DrawnRow& row : kButtons)
         drawButton(surface, session.state, row);

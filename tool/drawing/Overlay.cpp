@@ -27,23 +27,23 @@ constexpr double kMaskMargin = 12.0;
 bool currentLayerIsVisible() {
     for (AILayerHandle layer = currentLayer(); layer != nullptr;) {
         AIBoolean visible = false;
-        ai::check(suites.layer->GetLayerVisible(layer, &visible));
+        ai::check(ai::suites.layer->GetLayerVisible(layer, &visible));
         if (visible == 0) return false;
-        ai::check(suites.layer->GetLayerParent(layer, &layer));
+        ai::check(ai::suites.layer->GetLayerParent(layer, &layer));
     }
     return true;
 }
 
 void setColour(const Surface& surface, const AIRGBColor& colour) {
-    suites.annotatorDrawer->SetColor(surface.drawer, colour);
+    ai::suites.annotatorDrawer->SetColor(surface.drawer, colour);
 }
 
 /// What of `line` lies in the view.
 void drawLine(const Surface& surface, const LineSegment& line) {
     const std::optional<LineSegment> visible = clipped(line, surface.view.visible);
     if (!visible) return;
-    ai::check(suites.annotatorDrawer->DrawLine(surface.drawer, nearestPixel(visible->start),
-                                               nearestPixel(visible->end)));
+    ai::check(ai::suites.annotatorDrawer->DrawLine(surface.drawer, nearestPixel(visible->start),
+                                                   nearestPixel(visible->end)));
 }
 
 enum class Fill : AIBoolean { No = 0, Yes = 1 };
@@ -52,9 +52,9 @@ void drawPolygon(const Surface& surface, std::span<const Point> corners, Fill fi
     std::array<AIPoint, 8> pixels{}; // a polygon of the mask has the most
     assert(corners.size() <= pixels.size());
     std::ranges::transform(corners, pixels.begin(), nearestPixel);
-    ai::check(suites.annotatorDrawer->DrawPolygon(surface.drawer, pixels.data(),
-                                                  static_cast<ai::uint32>(corners.size()),
-                                                  static_cast<AIBoolean>(fill)));
+    ai::check(ai::suites.annotatorDrawer->DrawPolygon(surface.drawer, pixels.data(),
+                                                      static_cast<ai::uint32>(corners.size()),
+                                                      static_cast<AIBoolean>(fill)));
 }
 
 /// The pixels of `rect`, whichever way up the host gives it.
@@ -68,10 +68,10 @@ AIRect pixelsIn(const AIRealRect& rect) {
 /// From here to `ClearClip` only what the host has erased is drawn on.
 void clipToErased(const Surface& surface) {
     if (surface.erased.empty()) return;
-    suites.annotatorDrawer->DefineClipStart(surface.drawer);
+    ai::suites.annotatorDrawer->DefineClipStart(surface.drawer);
     for (const AIRealRect& rect : surface.erased)
-        ai::check(suites.annotatorDrawer->DrawRect(surface.drawer, pixelsIn(rect), 1));
-    suites.annotatorDrawer->DefineClipEnd(surface.drawer);
+        ai::check(ai::suites.annotatorDrawer->DrawRect(surface.drawer, pixelsIn(rect), 1));
+    ai::suites.annotatorDrawer->DefineClipEnd(surface.drawer);
 }
 
 void drawLines(const Surface& surface, const PixelAxes& axes) {
@@ -89,10 +89,10 @@ void drawMarkers(const Surface& surface, const PixelAxes& axes, Fill fill) {
 void drawSectorHandle(const Surface& surface, const PixelAxes& axes) {
     AIFloat dashes[] = {4.0F, 4.0F};
     const Vector reach = axes.reach * pixelDirection(axes.angle + axes.sectorAngle / 2);
-    ai::check(suites.annotatorDrawer->SetLineDashedEx(surface.drawer, dashes,
-                                                      static_cast<ai::int32>(std::size(dashes))));
+    ai::check(ai::suites.annotatorDrawer->SetLineDashedEx(
+        surface.drawer, dashes, static_cast<ai::int32>(std::size(dashes))));
     drawLine(surface, {axes.origin, axes.origin + reach});
-    suites.annotatorDrawer->SetLineDashed(surface.drawer, 0);
+    ai::suites.annotatorDrawer->SetLineDashed(surface.drawer, 0);
 }
 
 void drawOrigin(const Surface& surface, const PixelAxes& axes) {
@@ -100,9 +100,9 @@ void drawOrigin(const Surface& surface, const PixelAxes& axes) {
     const AIPoint at = nearestPixel(axes.origin);
     const AIRect square = grown(AIRect{at.h, at.v, at.h, at.v}, kRadius);
     setColour(surface, surface.colours.buttonFill);
-    ai::check(suites.annotatorDrawer->DrawEllipse(surface.drawer, square, 1));
+    ai::check(ai::suites.annotatorDrawer->DrawEllipse(surface.drawer, square, 1));
     setColour(surface, surface.colours.axes);
-    ai::check(suites.annotatorDrawer->DrawEllipse(surface.drawer, square, 0));
+    ai::check(ai::suites.annotatorDrawer->DrawEllipse(surface.drawer, square, 0));
 }
 
 } // namespace
@@ -146,25 +146,25 @@ void drawMask(const Surface& surface, const PixelAxes& axes, double opacity) {
     constexpr std::size_t kFewestCorners = 3;
     clipToErased(surface);
     setColour(surface, surface.colours.mask);
-    ai::check(
-        suites.annotatorDrawer->SetOpacity(surface.drawer, narrow(std::clamp(opacity, 0.0, 1.0))));
+    ai::check(ai::suites.annotatorDrawer->SetOpacity(surface.drawer,
+                                                     narrow(std::clamp(opacity, 0.0, 1.0))));
     const Mask mask = maskOf(axes, grown(surface.view.visible, kMaskMargin));
     for (const MaskPolygon& polygon : mask.all())
         if (polygon.corners().size() >= kFewestCorners)
             drawPolygon(surface, polygon.corners(), Fill::Yes);
-    ai::check(suites.annotatorDrawer->SetOpacity(surface.drawer, 1.0F));
-    if (!surface.erased.empty()) suites.annotatorDrawer->ClearClip(surface.drawer);
+    ai::check(ai::suites.annotatorDrawer->SetOpacity(surface.drawer, 1.0F));
+    if (!surface.erased.empty()) ai::suites.annotatorDrawer->ClearClip(surface.drawer);
 }
 
 void drawAxes(const Surface& surface, const PixelAxes& axes, SectorHandle handle) {
     if (axes.axisCount <= kMostHalos) {
         setColour(surface, surface.colours.halo);
-        suites.annotatorDrawer->SetLineWidth(surface.drawer, kHaloWidth);
+        ai::suites.annotatorDrawer->SetLineWidth(surface.drawer, kHaloWidth);
         drawLines(surface, axes);
         drawMarkers(surface, axes, Fill::No);
     }
     setColour(surface, surface.colours.axes);
-    suites.annotatorDrawer->SetLineWidth(surface.drawer, kLineWidth);
+    ai::suites.annotatorDrawer->SetLineWidth(surface.drawer, kLineWidth);
     drawLines(surface, axes);
     drawMarkers(surface, axes, Fill::Yes);
     if (handle == SectorHandle::Shown) drawSectorHandle(surface, axes);

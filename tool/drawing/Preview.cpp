@@ -73,7 +73,7 @@ public:
         std::ranges::transform(controls, pixels_.begin(),
                                [&](Point control) { return nearestPixel(apply(map, control)); });
         const auto* const sets = reinterpret_cast<const AIPoint(*)[3]>(pixels_.data() + 1);
-        ai::check(suites.annotatorDrawer->DrawBezier(
+        ai::check(ai::suites.annotatorDrawer->DrawBezier(
             drawer_, pixels_.front(), sets, static_cast<ai::uint32>(controls.size() / 3), 0));
     }
 
@@ -104,8 +104,8 @@ public:
 
 private:
     void draw(std::size_t count) const {
-        ai::check(suites.annotatorDrawer->DrawPolygon(drawer_, pixels_.data(),
-                                                      static_cast<ai::uint32>(count), 0));
+        ai::check(ai::suites.annotatorDrawer->DrawPolygon(drawer_, pixels_.data(),
+                                                          static_cast<ai::uint32>(count), 0));
     }
 
     AIAnnotatorDrawer* drawer_;
@@ -177,8 +177,8 @@ void drawPreview(const Surface& surface, ToolSession& session) {
         preview.axes = axes;
         preview.zoom = surface.view.zoom;
     }
-    suites.annotatorDrawer->SetColor(surface.drawer, surface.colours.preview);
-    suites.annotatorDrawer->SetLineWidth(surface.drawer, 1.0F);
+    ai::suites.annotatorDrawer->SetColor(surface.drawer, surface.colours.preview);
+    ai::suites.annotatorDrawer->SetLineWidth(surface.drawer, 1.0F);
     PathDrawing drawing{surface.drawer, preview.pixels};
     for (const PreviewPath& path : preview.paths.paths())
         for (const Matrix& map : preview.paths.mapsOf(path))

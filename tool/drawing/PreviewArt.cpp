@@ -16,7 +16,7 @@ void PreviewArt::read(std::span<const Unit> units) {
     PathShape shape;
     for (const Unit& unit : units.first(std::min(units.size(), kMostSources))) {
         PreviewSource source{.kind = unit.kind, .firstPath = paths_.size()};
-        ai::check(suites.art->GetArtBounds(unit.art, &source.bounds));
+        ai::check(ai::suites.art->GetArtBounds(unit.art, &source.bounds));
         const std::size_t before = segments_.size();
         if (before < kMostSegments) {
             if (unit.kind == UnitKind::Path) addPath(unit.art, transfer, shape);

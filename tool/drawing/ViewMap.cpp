@@ -15,7 +15,7 @@ constexpr double kAxisReach = 131072.0;
 
 Point pixelsOf(AIDocumentViewHandle view, AIRealPoint page) {
     AIRealPoint pixels{};
-    ai::check(suites.documentView->FixedArtworkPointToViewPoint(view, &page, &pixels));
+    ai::check(ai::suites.documentView->FixedArtworkPointToViewPoint(view, &page, &pixels));
     return widen(pixels);
 }
 
@@ -26,7 +26,7 @@ ViewMap fetchViewMap(AIDocumentViewHandle view) {
     // zoom are so close that 32-bit reals would bend lines that start far outside.
     constexpr AIReal kApart = 16384.0F;
     AIRealRect page{};
-    ai::check(suites.documentView->GetDocumentViewBounds(view, &page));
+    ai::check(ai::suites.documentView->GetDocumentViewBounds(view, &page));
     const AIRealPoint near{page.left, page.top};
     const AIRealPoint far{page.left + kApart, page.top - kApart};
     const Point nearPixels = pixelsOf(view, near);

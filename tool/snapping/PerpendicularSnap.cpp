@@ -40,7 +40,7 @@ private:
         for (AIArtHandle up = parent; up != nullptr; up = parentOf(up))
             if (attributesOf(up, kArtLocked | kArtHidden) != 0) return true;
         AILayerHandle layer = nullptr;
-        ai::check(suites.art->GetLayerOfArt(path, &layer));
+        ai::check(ai::suites.art->GetLayerOfArt(path, &layer));
         return isLayerBlocked(layer);
     }
 
@@ -57,7 +57,7 @@ public:
 
     void visit(AIArtHandle path) {
         AIRealRect bounds{};
-        ai::check(suites.art->GetArtTransformBounds(path, nullptr, kNoStrokeBounds, &bounds));
+        ai::check(ai::suites.art->GetArtTransformBounds(path, nullptr, kNoStrokeBounds, &bounds));
         const bool isNear = reaches(bounds.left, bounds.right, cursor_.x) &&
                             reaches(bounds.bottom, bounds.top, cursor_.y);
         if (isNear && !containers_.block(path)) visitCurves(path);
@@ -79,11 +79,11 @@ private:
     void visitCurves(AIArtHandle path) {
         ai::int16 count = 0;
         AIBoolean closed = false;
-        ai::check(suites.path->GetPathSegmentCount(path, &count));
+        ai::check(ai::suites.path->GetPathSegmentCount(path, &count));
         if (count < 2) return;
-        ai::check(suites.path->GetPathClosed(path, &closed));
+        ai::check(ai::suites.path->GetPathClosed(path, &closed));
         segments_.resize(static_cast<std::size_t>(count));
-        ai::check(suites.path->GetPathSegments(path, 0, count, segments_.data()));
+        ai::check(ai::suites.path->GetPathSegments(path, 0, count, segments_.data()));
         for (std::size_t i = 1; i < segments_.size(); ++i)
             visitCurve(segments_[i - 1], segments_[i]);
         if (closed) visitCurve(segments_.back(), segments_.front());

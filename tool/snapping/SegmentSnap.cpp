@@ -21,15 +21,15 @@ constexpr double kCloseEnough = 3.0;
 ai::Hit hit(Point point, ai::int32 request) {
     const AIRealPoint at = narrow(point);
     ai::Hit found;
-    ai::checkLent(suites.hitTest->HitTest(nullptr, &at, request, found.put()), found);
-    if (!found || !suites.hitTest->IsHit(found.get())) found.reset();
+    ai::checkLent(ai::suites.hitTest->HitTest(nullptr, &at, request, found.put()), found);
+    if (!found || !ai::suites.hitTest->IsHit(found.get())) found.reset();
     return found;
 }
 
 /// What of selected art is hit, else what of any art, fills left out.
 ai::Hit hitOutline(Point point) {
     ai::Hit selected = hit(point, kSelectionHitRequest);
-    if (selected && suites.hitTest->GetType(selected.get()) != kFillHit) return selected;
+    if (selected && ai::suites.hitTest->GetType(selected.get()) != kFillHit) return selected;
     return hit(point, kAllNoFillHitRequest);
 }
 
@@ -38,15 +38,15 @@ std::optional<Cubic> curveEndingAt(AIArtHandle path, ai::int16 end) {
     ai::int16 start = end;
     if (start == 0) {
         AIBoolean closed = false;
-        ai::check(suites.path->GetPathClosed(path, &closed));
+        ai::check(ai::suites.path->GetPathClosed(path, &closed));
         if (!closed) return std::nullopt;
-        ai::check(suites.path->GetPathSegmentCount(path, &start));
+        ai::check(ai::suites.path->GetPathSegmentCount(path, &start));
     }
     --start;
     AIPathSegment from{};
     AIPathSegment to{};
-    ai::check(suites.path->GetPathSegments(path, start, 1, &from));
-    ai::check(suites.path->GetPathSegments(path, end, 1, &to));
+    ai::check(ai::suites.path->GetPathSegments(path, start, 1, &from));
+    ai::check(ai::suites.path->GetPathSegments(path, end, 1, &to));
     return Cubic{widen(from.p), widen(from.out), widen(to.in), widen(to.p)};
 }
 
@@ -62,12 +62,12 @@ double distanceFrom(const Cubic& curve, Point point) {
 
 std::optional<Point> findPlaceOnPath(Point point) {
     const ai::Hit found = hitOutline(point);
-    if (!found || suites.hitTest->GetType(found.get()) != kSegmentHit) return std::nullopt;
-    const AIArtHandle path = suites.hitTest->GetArt(found.get());
+    if (!found || ai::suites.hitTest->GetType(found.get()) != kSegmentHit) return std::nullopt;
+    const AIArtHandle path = ai::suites.hitTest->GetArt(found.get());
     if (path == nullptr || typeOf(path) != kPathArt) return std::nullopt;
-    const auto curve = curveEndingAt(path, suites.hitTest->GetPathSegment(found.get()));
+    const auto curve = curveEndingAt(path, ai::suites.hitTest->GetPathSegment(found.get()));
     if (!curve || distanceFrom(*curve, point) > kCloseEnough) return std::nullopt;
-    const AIReal t = suites.hitTest->GetPathParameter(found.get());
+    const AIReal t = ai::suites.hitTest->GetPathParameter(found.get());
     return evaluate(*curve, static_cast<double>(t));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 
 namespace NRDM {
@@ -14,9 +15,9 @@ struct Colour {
 };
 
 /// `part` (0..1) of `over`, the rest of `under`.
-[[nodiscard]] constexpr Colour mix(Colour under, Colour over, double part) {
+[[nodiscard]] inline Colour mix(Colour under, Colour over, double part) {
     const auto blend = [part](std::uint8_t a, std::uint8_t b) {
-        return static_cast<std::uint8_t>(a + (b - a) * part + 0.5);
+        return static_cast<std::uint8_t>(std::lround(a + (b - a) * part));
     };
     return {blend(under.red, over.red), blend(under.green, over.green),
             blend(under.blue, over.blue)};

@@ -98,16 +98,10 @@ public:
     Lent<CoADMIcon> icons;
 
     // The host's; empty in a host without them.
-    ai::SuiteLease<AIPanelSuite, kAIPanelSuite, kAIPanelSuiteVersion> panels;
-    ai::SuiteLease<AIPanelFlyoutMenuSuite, kAIPanelFlyoutMenuSuite, kAIPanelFlyoutMenuSuiteVersion,
-                   kAIPanelFlyoutMenuSuiteFallbacks>
-        flyoutMenus;
-    ai::SuiteLease<AIModalParentSuite, kAIModalParentSuite, kAIModalParentSuiteVersion,
-                   kAIModalParentSuiteFallbacks>
-        modalParent;
-    ai::SuiteLease<AIAppContextSuite, kAIAppContextSuite, kAIAppContextSuiteVersion,
-                   kAIAppContextSuiteFallbacks>
-        appContext;
+    ai::SuiteLease<AIPanelSuite> panels;
+    ai::SuiteLease<AIPanelFlyoutMenuSuite> flyoutMenus;
+    ai::SuiteLease<AIModalParentSuite> modalParent;
+    ai::SuiteLease<AIAppContextSuite> appContext;
 
 private:
     CoADMDialog* create(const DialogRequest& request, const layout::Layout* layout);

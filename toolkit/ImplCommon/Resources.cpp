@@ -40,7 +40,7 @@ std::vector<MenuLine> readLevel(ByteReader& reader, int depth) {
 } // namespace
 
 SPPlatformAccessRef resourceLibrary(SPPluginRef plugin) {
-    ai::SuiteLease<SPAccessSuite, kSPAccessSuite, kSPAccessSuiteVersion> access;
+    ai::SuiteLease<SPAccessSuite> access;
     ai::check(access.acquire());
     SPPlatformAccessRef library = nullptr;
     ai::check(access->GetPluginResourceAccess(plugin, &library));

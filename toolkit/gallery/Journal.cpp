@@ -61,7 +61,7 @@ void Journal::watch(const Page& page) {
 
 void Journal::heard(ADMItemRef item, ADMNotifierRef notifier) {
     const Suites suites;
-    ai::SuiteLease<ADMNotifierSuite, kADMNotifierSuite, kADMNotifierSuiteVersion> notifiers;
+    ai::SuiteLease<ADMNotifierSuite> notifiers;
     ai::check(notifiers.acquire());
     Journal& journal = journalOf(suites, suites.item->GetDialog(item));
     for (const auto& [type, word] : {std::pair{kADMUserChangedNotifier, "user\t"},

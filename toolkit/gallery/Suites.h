@@ -20,11 +20,11 @@ struct Suites {
         ai::check(drawer.acquire());
     }
 
-    ai::SuiteLease<ADMDialogSuite, kADMDialogSuite, kADMDialogSuiteVersion> dialog;
-    ai::SuiteLease<ADMItemSuite, kADMItemSuite, kADMItemSuiteVersion> item;
-    ai::SuiteLease<ADMListSuite, kADMListSuite, kADMListSuiteVersion> list;
-    ai::SuiteLease<ADMEntrySuite, kADMEntrySuite, kADMEntrySuiteVersion> entry;
-    ai::SuiteLease<ADMDrawerSuite, kADMDrawerSuite, kADMDrawerSuiteVersion> drawer;
+    ai::SuiteLease<ADMDialogSuite> dialog;
+    ai::SuiteLease<ADMItemSuite> item;
+    ai::SuiteLease<ADMListSuite> list;
+    ai::SuiteLease<ADMEntrySuite> entry;
+    ai::SuiteLease<ADMDrawerSuite> drawer;
 };
 
 } // namespace NRDM::gallery

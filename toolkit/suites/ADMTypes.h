@@ -64,7 +64,7 @@ using ADMAGMPortPtr = ADMAGMPort*;
 // Records of functions that the toolkit does not offer.
 struct ADMPlatformFileTypesSpecification3;
 struct SPPlatformFileSpecification;
-struct _t_ADMAGMImageRecord;
+struct _t_ADMAGMImageRecord; // NOLINT(bugprone-reserved-identifier): the host spells it so
 struct tagMSG;
 
 struct ADMPoint {

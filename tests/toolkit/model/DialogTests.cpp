@@ -369,13 +369,12 @@ TEST_CASE("everything may be closed while a modal dialog runs, which then ends")
     }
     SUBCASE("by a button's procedure") {
         CoADMDialog& dialog = stage->dialog();
-        static std::optional<Stage>* closed = nullptr;
-        closed = &stage;
         CoADMItem& ok = Stage::add(dialog, 1, kADMTextPushButtonType);
         ok.procedures.notify = [](ADMItemRef item, ADMNotifierRef notifier) {
-            closed->reset();
+            static_cast<std::optional<Stage>*>(kItemSuite.GetUserData(item))->reset();
             kItemSuite.DefaultNotify(item, notifier);
         };
+        ok.userData = &stage;
         stage->peers->user = [&] { ok.clicked(); };
         dialog.run();
     }
