@@ -1,6 +1,7 @@
 #include "bench/Drawings.h"
 
 #include "easel/document/ArtTree.h"
+#include "easel/document/Session.h"
 
 #include <charconv>
 #include <cmath>
@@ -124,7 +125,7 @@ std::vector<easel::Segments> drawPaths(const DrawingPlan& plan) {
 }
 
 std::unique_ptr<easel::Document> makeDrawing(const DrawingPlan& plan) {
-    auto document = std::make_unique<easel::Document>(kArtboard);
+    auto document = std::make_unique<easel::Document>(easel::session(), kArtboard);
     easel::Art& layer = *document->root().firstChild();
     for (easel::Segments& segments : drawPaths(plan)) {
         easel::Art& path = easel::createArt(*document, kPathArt, easel::atBottomOf(layer));

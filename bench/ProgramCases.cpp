@@ -50,7 +50,7 @@ ProgramRun runProgram(std::vector<std::string> words) {
 }
 
 std::size_t segmentsIn(const std::filesystem::path& file) {
-    return countPaths(*easel::svg::readSvg(file).document).segments;
+    return countPaths(*easel::svg::readSvg(easel::session(), file).document).segments;
 }
 
 } // namespace

@@ -54,7 +54,7 @@ double& clockCostPerCall() {
 }
 
 /// Behind the plug-in's entry and in no function of the host.
-bool inPlugin() { return timedEntry().depth > 0 && easel::hostCalls().current() == nullptr; }
+bool inPlugin() { return timedEntry().depth > 0 && easel::session().calls.current() == nullptr; }
 
 [[noreturn]] void giveUp(const std::string& why) {
     std::fprintf(stderr, "bench: %s\n", why.c_str());
@@ -63,7 +63,8 @@ bool inPlugin() { return timedEntry().depth > 0 && easel::hostCalls().current() 
 
 } // namespace
 
-Sitting::Sitting(int axes, easel::MirrorMode mode) : mode_(mode) {
+Sitting::Sitting(int axes, easel::MirrorMode mode)
+    : session_(easel::sessionWithSuites()), mode_(mode) {
     timedEntry() = {.entry = pluginEntry()};
     easel::MirrorRequest request;
     request.axes = axes;
@@ -132,7 +133,7 @@ Cost Sitting::usePanel(const std::function<void(door::Dialog&)>& act, Take take)
 }
 
 Cost Sitting::measure(const std::function<void()>& action, Take take) {
-    easel::HostCalls& calls = easel::hostCalls();
+    easel::HostCalls& calls = easel::session().calls;
     if (take == Take::OwnTime && !clockMeasured_) measureClock();
     calls.resetCounts();
     calls.setTiming(take == Take::OwnTime);
@@ -157,7 +158,7 @@ Cost Sitting::measure(const std::function<void()>& action, Take take) {
 /// interrupt the plug-in only ever add to it. A run that took less than its clock is thought to
 /// have cost tells nothing: it counts as endless, so that it is never the least.
 double Sitting::ownSeconds(double clockCost) {
-    const double own = timedEntry().seconds - easel::hostCalls().seconds() - clockCost;
+    const double own = timedEntry().seconds - easel::session().calls.seconds() - clockCost;
     return own > 0 ? own : std::numeric_limits<double>::infinity();
 }
 
@@ -168,8 +169,8 @@ void Sitting::measureClock() {
     constexpr int kRounds = 5;
     constexpr int kCalls = 20'000;
     const auto& suite = hostSuite<AIArtSuite>(kAIArtSuite, kAIArtSuiteVersion);
-    const AIArtHandle art = easel::currentDocument().root().firstChild()->handle();
-    easel::HostCalls& calls = easel::hostCalls();
+    const AIArtHandle art = easel::session().document().root().firstChild()->handle();
+    easel::HostCalls& calls = easel::session().calls;
     calls.setTiming(true);
     for (int round = 0; round < kRounds; ++round) {
         calls.resetCounts();

@@ -20,7 +20,7 @@ namespace facetta::bench {
 /// The host's functions, for calls that are not the plug-in's.
 template <typename Suite>
 [[nodiscard]] const Suite& hostSuite(const char* name, ai::int32 version) {
-    return *static_cast<const Suite*>(easel::installedSuites().functions(name, version));
+    return *static_cast<const Suite*>(easel::sessionWithSuites().suites.functions(name, version));
 }
 
 /// What one action of the user cost.

@@ -54,7 +54,7 @@ easel::Segments waveIn(int cell, int anchors) {
 }
 
 std::unique_ptr<easel::Document> makePage(int anchors) {
-    auto page = std::make_unique<easel::Document>(kArtboard);
+    auto page = std::make_unique<easel::Document>(easel::session(), kArtboard);
     easel::Art& layer = *page->root().firstChild();
     for (int cell = 0; cell < kPaths; ++cell) {
         easel::Art& path = easel::createArt(*page, kPathArt, easel::atBottomOf(layer));
@@ -113,7 +113,7 @@ void run(benchmark::State& state, SnapCase& measured) {
 
     // This program's own copy of the plug-in's search tells what it looked at.
     for (const ai::SuiteRow& row : ai::suiteTable())
-        row.store(easel::installedSuites().functions(row.name, row.version));
+        row.store(easel::sessionWithSuites().suites.functions(row.name, row.version));
     const PerpendicularSnap snap = findPerpendicular(widen(kOrigin), widen(kPlaces[1]), kReach);
     ai::suites = {};
     if (!snap.point) {

@@ -2,6 +2,7 @@
 /// bytes, a changed one as a drawing, and painting ends.
 
 #include "easel/document/ArtTree.h"
+#include "easel/document/Session.h"
 #include "easel/document/TransformArt.h"
 #include "easel/paint/PaintDocument.h"
 #include "easel/svg/SvgFile.h"
@@ -48,7 +49,7 @@ void require(bool holds, const char* what, const std::string& one, const std::st
 void saveAndReopen(const Document& document) {
     const std::string saved = svg::svgText(document);
     try {
-        const svg::OpenedDrawing again = svg::readSvgText(saved, "saved.svg");
+        const svg::OpenedDrawing again = svg::readSvgText(easel::session(), saved, "saved.svg");
         const std::string second = svg::svgText(*again.document);
         require(saved == second, "the second save is another text", saved, second);
     } catch (const svg::FileError& error) {
@@ -96,8 +97,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     constexpr std::size_t kLargestInput = std::size_t{256} * 1024;
     if (size > kLargestInput) return 0;
     try {
-        const svg::OpenedDrawing opened =
-            svg::readSvgText({reinterpret_cast<const char*>(data), size}, "fuzz.svg");
+        const svg::OpenedDrawing opened = svg::readSvgText(
+            easel::session(), {reinterpret_cast<const char*>(data), size}, "fuzz.svg");
         const std::string text{reinterpret_cast<const char*>(data), size};
         const std::string saved = svg::svgText(*opened.document);
         require(saved == text, "an untouched drawing is saved otherwise", text, saved);

@@ -23,12 +23,12 @@ struct Adm {
         ai::check(icon.acquire());
     }
 
-    ai::SuiteLease<ADMDialogSuite, kADMDialogSuite, kADMDialogSuiteVersion> dialog;
-    ai::SuiteLease<ADMItemSuite, kADMItemSuite, kADMItemSuiteVersion> item;
-    ai::SuiteLease<ADMListSuite, kADMListSuite, kADMListSuiteVersion> list;
-    ai::SuiteLease<ADMEntrySuite, kADMEntrySuite, kADMEntrySuiteVersion> entry;
-    ai::SuiteLease<ADMNotifierSuite, kADMNotifierSuite, kADMNotifierSuiteVersion> notifier;
-    ai::SuiteLease<ADMIconSuite, kADMIconSuite, kADMIconSuiteVersion> icon;
+    ai::SuiteLease<ADMDialogSuite> dialog;
+    ai::SuiteLease<ADMItemSuite> item;
+    ai::SuiteLease<ADMListSuite> list;
+    ai::SuiteLease<ADMEntrySuite> entry;
+    ai::SuiteLease<ADMNotifierSuite> notifier;
+    ai::SuiteLease<ADMIconSuite> icon;
 };
 
 /// Is this a change that the user has completed?

@@ -99,8 +99,8 @@ void printLayer(const LayerInfo& info, std::ostream& out) {
 
 } // namespace
 
-int runInfo(const InfoOptions& options, std::ostream& out) {
-    const svg::OpenedDrawing opened = svg::readSvg(options.file);
+int runInfo(Session& session, const InfoOptions& options, std::ostream& out) {
+    const svg::OpenedDrawing opened = svg::readSvg(session, options.file);
     for (const std::string& warning : opened.warnings)
         std::cerr << warning << '\n';
     const AIDocumentSetup& setup = opened.document->state().setup;

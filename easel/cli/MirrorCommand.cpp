@@ -3,7 +3,6 @@
 #include "easel/cli/Progress.h"
 #include "easel/cli/Statistics.h"
 #include "easel/cli/Terminal.h"
-#include "easel/core/HostCalls.h"
 #include "easel/paint/PaintDocument.h"
 #include "easel/svg/SvgFile.h"
 
@@ -22,7 +21,8 @@ void tellAlerts(const Host& host, std::ostream& error) {
 struct Report {
     Statistics& statistics;
     std::ostream& error;
-    Progress progress{error, errorIsTerminal()};
+    HostCalls& calls;
+    Progress progress{calls, error, errorIsTerminal()};
 
     void begin(const char* key, const char* shown) {
         statistics.time.begin(key);
@@ -44,25 +44,26 @@ void mirrorDrawing(MirrorSession& session, const MirrorCommand& command, Report&
     report.begin("read", "Reading");
     for (const std::string& warning : session.open(command.input))
         report.error << warning << '\n';
-    report.statistics.before = countArt(currentDocument());
+    report.statistics.before = countArt(session.host.session.document());
     report.begin("mirror", "Mirroring");
     session.mirror(command.request);
-    report.statistics.after = countArt(currentDocument());
+    report.statistics.after = countArt(session.host.session.document());
     // The picture first: where it cannot be made, no drawing is written either.
     std::optional<OutputFile> picture;
     if (!command.picture.empty()) {
         report.begin("paint", "Painting");
         picture.emplace(command.picture);
-        picture->prepare(paint::pngText(paint::paintDocument(currentDocument())));
+        picture->prepare(paint::pngText(paint::paintDocument(session.host.session.document())));
     }
     report.begin("write", "Writing");
     for (const std::string& warning : session.save(command.output, picture ? &*picture : nullptr))
         report.error << command.input.string() << ':' << warning << '\n';
 }
 
-ExitStatus runSession(const MirrorCommand& command, Statistics& statistics, std::ostream& error) {
-    Report report{statistics, error};
-    MirrorSession session;
+ExitStatus runSession(Session& all, const MirrorCommand& command, Statistics& statistics,
+                      std::ostream& error) {
+    Report report{statistics, error, all.calls};
+    MirrorSession session{all};
     try {
         mirrorDrawing(session, command, report);
     } catch (...) {
@@ -80,12 +81,13 @@ ExitStatus runSession(const MirrorCommand& command, Statistics& statistics, std:
 
 } // namespace
 
-ExitStatus runMirror(const MirrorCommand& command, std::ostream& out, std::ostream& error) {
+ExitStatus runMirror(Session& session, const MirrorCommand& command, std::ostream& out,
+                     std::ostream& error) {
     Statistics statistics;
-    hostCalls().resetCounts();
+    session.calls.resetCounts();
     try {
-        const ExitStatus status = runSession(command, statistics, error);
-        statistics.hostCalls = hostCalls().total();
+        const ExitStatus status = runSession(session, command, statistics, error);
+        statistics.hostCalls = session.calls.total();
         if (command.statistics) out << toJson(statistics) << '\n';
         return status;
     } catch (const svg::FileError& wrong) {

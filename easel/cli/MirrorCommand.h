@@ -18,7 +18,7 @@ struct MirrorCommand {
 };
 
 /// `easel mirror`. What is wrong is told on `error`, a line each.
-[[nodiscard]] ExitStatus runMirror(const MirrorCommand& command, std::ostream& out,
-                                   std::ostream& error);
+[[nodiscard]] ExitStatus runMirror(Session& session, const MirrorCommand& command,
+                                   std::ostream& out, std::ostream& error);
 
 } // namespace easel

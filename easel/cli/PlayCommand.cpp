@@ -52,11 +52,11 @@ Switches hostOf(const PlayCommand& command) {
     return host;
 }
 
-script::Outcome playFile(const PlayCommand& command, const Path& file) {
+script::Outcome playFile(Session& session, const PlayCommand& command, const Path& file) {
     const std::string name = file.generic_string();
     script::Script script = script::readScript(contentOf(file), name);
     if (!script.mistakes.empty()) return {0, std::move(script.mistakes)};
-    return script::play(script, name,
+    return script::play(session, script, name,
                         {.plugin = command.plugin.empty() ? defaultPluginLibrary() : command.plugin,
                          .folder = file.parent_path(),
                          .output = command.output,
@@ -66,11 +66,12 @@ script::Outcome playFile(const PlayCommand& command, const Path& file) {
 
 } // namespace
 
-ExitStatus runPlay(const PlayCommand& command, std::ostream& out, std::ostream& error) {
+ExitStatus runPlay(Session& session, const PlayCommand& command, std::ostream& out,
+                   std::ostream& error) {
     ExitStatus status = ExitStatus::Done;
     try {
         for (const Path& file : filesOf(command.scripts)) {
-            const script::Outcome outcome = playFile(command, file);
+            const script::Outcome outcome = playFile(session, command, file);
             for (const std::string& failure : outcome.failures)
                 error << failure << '\n';
             if (!outcome.failures.empty())

@@ -2,6 +2,8 @@
 
 #include "easel/cli/ExitStatus.h"
 
+#include "easel/document/Session.h"
+
 #include <filesystem>
 #include <ostream>
 #include <string>
@@ -18,7 +20,7 @@ struct PlayCommand {
 
 /// `easel play`: a line on `out` for each script that went as it should; on `error` one for all
 /// else. `Fault` when any script has a mistake or did not go as it should.
-[[nodiscard]] ExitStatus runPlay(const PlayCommand& command, std::ostream& out,
+[[nodiscard]] ExitStatus runPlay(Session& session, const PlayCommand& command, std::ostream& out,
                                  std::ostream& error);
 
 } // namespace easel

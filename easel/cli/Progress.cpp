@@ -1,7 +1,5 @@
 #include "easel/cli/Progress.h"
 
-#include "easel/core/HostCalls.h"
-
 #include <utility>
 
 namespace easel {
@@ -13,12 +11,13 @@ constexpr const char* kClearLine = "\r\x1B[K";
 
 } // namespace
 
-Progress::Progress(std::ostream& out, bool watched) : out_(out), watched_(watched) {
-    if (watched_) hostCalls().setPulse([this] { show(); });
+Progress::Progress(HostCalls& calls, std::ostream& out, bool watched)
+    : calls_(calls), out_(out), watched_(watched) {
+    if (watched_) calls_.setPulse([this] { show(); });
 }
 
 Progress::~Progress() {
-    hostCalls().setPulse({});
+    calls_.setPulse({});
     if (shown_) out_ << kClearLine << std::flush;
 }
 
@@ -30,7 +29,7 @@ void Progress::begin(std::string phase) {
 void Progress::show() {
     if (!watched_ || Clock::now() - began_ < kPatience) return;
     shown_ = true;
-    out_ << kClearLine << phase_ << ": " << hostCalls().total() << " host calls" << std::flush;
+    out_ << kClearLine << phase_ << ": " << calls_.total() << " host calls" << std::flush;
 }
 
 } // namespace easel

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "easel/core/HostCalls.h"
+
 #include <chrono>
 #include <ostream>
 #include <string>
@@ -10,7 +12,7 @@ namespace easel {
 /// nor before the work has proved to be long.
 class Progress {
 public:
-    Progress(std::ostream& out, bool watched);
+    Progress(HostCalls& calls, std::ostream& out, bool watched);
     ~Progress();
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
@@ -21,6 +23,7 @@ private:
     using Clock = std::chrono::steady_clock;
     void show();
 
+    HostCalls& calls_;
     std::ostream& out_;
     std::string phase_;
     Clock::time_point began_ = Clock::now();

@@ -3,6 +3,7 @@
 #include "easel/cli/PlayCommand.h"
 #include "easel/cli/Terminal.h"
 #include "easel/script/Commands.h"
+#include "easel/suites/Suites.h"
 
 #include "Version.h"
 
@@ -86,7 +87,7 @@ ExitStatus mirror(MirrorWords& words) {
     if (words.mode == kLayerMode) command.request.mode = easel::MirrorMode::Layer;
     if (!words.origin.empty())
         command.request.origin = easel::DrawingPoint{words.origin[0], words.origin[1]};
-    return easel::runMirror(command, std::cout, std::cerr);
+    return easel::runMirror(easel::sessionWithSuites(), command, std::cout, std::cerr);
 }
 
 struct InfoWords {
@@ -102,7 +103,8 @@ void addInfo(CLI::App& app, InfoWords& words) {
 
 ExitStatus info(InfoWords& words) {
     words.options.file = easel::pathFromUtf8(words.file);
-    return static_cast<ExitStatus>(easel::runInfo(words.options, std::cout));
+    return static_cast<ExitStatus>(
+        easel::runInfo(easel::sessionWithSuites(), words.options, std::cout));
 }
 
 struct PlayWords {
@@ -144,7 +146,7 @@ ExitStatus play(const PlayWords& words) {
     command.output = easel::pathFromUtf8(words.output);
     command.plugin = easel::pathFromUtf8(words.plugin);
     command.turned = words.turned;
-    return easel::runPlay(command, std::cout, std::cerr);
+    return easel::runPlay(easel::sessionWithSuites(), command, std::cout, std::cerr);
 }
 
 /// Takes the arguments without the program's name.

@@ -1,6 +1,5 @@
 #include "easel/core/Blocks.h"
 
-#include "easel/core/Ledger.h"
 #include "host/Error.h"
 
 #include <algorithm>
@@ -8,16 +7,16 @@
 
 namespace easel {
 
-void* allocateBlock(std::size_t size) {
+void* allocateBlock(Ledger& ledger, std::size_t size) {
     void* const block = std::malloc(std::max<std::size_t>(size, 1));
     if (block == nullptr) throw ai::Error{kOutOfMemoryErr};
-    ledger().lend(Lent::Block, block);
+    ledger.lend(Lent::Block, block);
     return block;
 }
 
-void freeBlock(void* block) {
+void freeBlock(Ledger& ledger, void* block) {
     if (block == nullptr) return;
-    ledger().takeBack(Lent::Block, block);
+    ledger.takeBack(Lent::Block, block);
     std::free(block);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "easel/core/Ledger.h"
+
 #include <cstddef>
 
 /// Memory that plug-in and host hand to each other. Contents are not initialised; every block is on
@@ -8,8 +10,8 @@
 namespace easel {
 
 /// Throws '!MEM' when there is none. A size of 0 gives a block all the same.
-[[nodiscard]] void* allocateBlock(std::size_t size);
+[[nodiscard]] void* allocateBlock(Ledger& ledger, std::size_t size);
 /// Null is accepted. Throws 'PARM' for what is no block.
-void freeBlock(void* block);
+void freeBlock(Ledger& ledger, void* block);
 
 } // namespace easel

@@ -20,13 +20,14 @@ namespace easel {
 class HostCallScope {
 public:
     explicit HostCallScope(SlotRecord& slot)
-        : outer_(hostCalls().current()), fails_(hostCalls().enter(slot)) {}
-    ~HostCallScope() { hostCalls().leave(outer_); }
+        : calls_(*slot.counter), outer_(calls_.current()), fails_(calls_.enter(slot)) {}
+    ~HostCallScope() { calls_.leave(outer_); }
     HostCallScope(const HostCallScope&) = delete;
     HostCallScope& operator=(const HostCallScope&) = delete;
     [[nodiscard]] bool fails() const noexcept { return fails_; }
 
 private:
+    HostCalls& calls_;
     const SlotRecord* outer_;
     bool fails_;
 };
@@ -91,7 +92,7 @@ private:
         try {
             if (scope.fails()) {
                 Failing::fail(arguments...);
-                return hostCalls().faultCode();
+                return record->counter->faultCode();
             }
             return Function(arguments...);
         } catch (...) {

@@ -71,9 +71,4 @@ void HostCalls::leave(const SlotRecord* outer) noexcept {
     if (timing_ && depth_ == 0) time_ += now() - entered_;
 }
 
-HostCalls& hostCalls() noexcept {
-    static HostCalls calls;
-    return calls;
-}
-
 } // namespace easel

@@ -10,9 +10,12 @@
 
 namespace easel {
 
+class HostCalls;
+
 /// One slot of one suite, and what has come through it.
 struct SlotRecord {
-    std::string name; ///< "Suite.Function".
+    std::string name;             ///< "Suite.Function".
+    HostCalls* counter = nullptr; ///< Counts it with all others.
     bool returnsError = false;
     std::uint64_t calls = 0;
 };
@@ -29,7 +32,7 @@ struct FaultPlan {
 };
 
 /// Everything that the plug-in asks of the host passes through here: counted, timed, and made to
-/// fail on demand. One per process; written by the exposed suite functions only.
+/// fail on demand. Written by the exposed suite functions only.
 class HostCalls {
 public:
     void arm(FaultPlan plan);
@@ -82,7 +85,5 @@ private:
     std::int64_t entered_ = 0;
     std::vector<const SlotRecord*> recorded_;
 };
-
-[[nodiscard]] HostCalls& hostCalls() noexcept;
 
 } // namespace easel

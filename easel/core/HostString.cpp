@@ -1,6 +1,5 @@
 #include "easel/core/HostString.h"
 
-#include "easel/core/Ledger.h"
 #include "easel/core/Text.h"
 
 #include <memory>
@@ -16,38 +15,40 @@ void* pointerIn(const ai::UnicodeString& string) { return reinterpret_cast<void*
 
 } // namespace
 
-StringObject* stringObject(const ai::UnicodeString& string) {
+StringObject* stringObject(Ledger& ledger, const ai::UnicodeString& string) {
     void* const object = pointerIn(string);
-    if (object != nullptr) ledger().require(Lent::String, object);
+    if (object != nullptr) ledger.require(Lent::String, object);
     return static_cast<StringObject*>(object);
 }
 
-const std::u32string& readString(const ai::UnicodeString& string) {
+const std::u32string& readString(Ledger& ledger, const ai::UnicodeString& string) {
     static const std::u32string empty;
-    const StringObject* const object = stringObject(string);
+    const StringObject* const object = stringObject(ledger, string);
     return object == nullptr ? empty : object->text;
 }
 
-std::string readUtf8(const ai::UnicodeString& string) { return utf8FromUtf32(readString(string)); }
+std::string readUtf8(Ledger& ledger, const ai::UnicodeString& string) {
+    return utf8FromUtf32(readString(ledger, string));
+}
 
-void writeString(ai::UnicodeString& string, std::u32string text) {
-    if (StringObject* const object = stringObject(string)) {
+void writeString(Ledger& ledger, ai::UnicodeString& string, std::u32string text) {
+    if (StringObject* const object = stringObject(ledger, string)) {
         object->text = std::move(text);
         return;
     }
     auto object = std::make_unique<StringObject>(StringObject{std::move(text)});
-    ledger().lend(Lent::String, object.get());
+    ledger.lend(Lent::String, object.get());
     pointerIn(string) = object.release();
 }
 
-void writeUtf8(ai::UnicodeString& string, std::string_view text) {
-    writeString(string, utf32FromUtf8(text));
+void writeUtf8(Ledger& ledger, ai::UnicodeString& string, std::string_view text) {
+    writeString(ledger, string, utf32FromUtf8(text));
 }
 
-void destroyString(ai::UnicodeString& string) {
+void destroyString(Ledger& ledger, ai::UnicodeString& string) {
     void* const object = std::exchange(pointerIn(string), nullptr);
     if (object == nullptr) return;
-    ledger().takeBack(Lent::String, object);
+    ledger.takeBack(Lent::String, object);
     delete static_cast<StringObject*>(object);
 }
 

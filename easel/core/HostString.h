@@ -1,5 +1,6 @@
 #pragma once
 
+#include "easel/core/Ledger.h"
 #include "host/UnicodeString.h"
 
 #include <string>
@@ -14,17 +15,17 @@ struct StringObject {
 };
 
 /// The characters of `string`. Throws 'PARM' when it is not one of ours or was destroyed.
-[[nodiscard]] const std::u32string& readString(const ai::UnicodeString& string);
-[[nodiscard]] std::string readUtf8(const ai::UnicodeString& string);
+[[nodiscard]] const std::u32string& readString(Ledger& ledger, const ai::UnicodeString& string);
+[[nodiscard]] std::string readUtf8(Ledger& ledger, const ai::UnicodeString& string);
 
 /// Gives `string` the characters of `text`, making its object, which the ledger then has on loan,
 /// when it has none.
-void writeString(ai::UnicodeString& string, std::u32string text);
-void writeUtf8(ai::UnicodeString& string, std::string_view text);
+void writeString(Ledger& ledger, ai::UnicodeString& string, std::u32string text);
+void writeUtf8(Ledger& ledger, ai::UnicodeString& string, std::string_view text);
 
 /// The object to be changed in place; null for a string that was never set.
-[[nodiscard]] StringObject* stringObject(const ai::UnicodeString& string);
+[[nodiscard]] StringObject* stringObject(Ledger& ledger, const ai::UnicodeString& string);
 /// Ends the life of the string's object, if it has one.
-void destroyString(ai::UnicodeString& string);
+void destroyString(Ledger& ledger, ai::UnicodeString& string);
 
 } // namespace easel

@@ -51,7 +51,7 @@ std::array<LoanTerm, kLentKinds> Ledger::defaultTerms() noexcept {
 }
 
 void Ledger::lend(Lent kind, const void* reference) {
-    const SlotRecord* lender = hostCalls().current();
+    const SlotRecord* lender = calls_.current();
     const auto [loan, isNew] = loans_.try_emplace({kind, reference}, Loan{lender, serial_, {}});
     if (!isNew) {
         loan->second.earlier.push_back(std::exchange(loan->second.lender, lender));
@@ -73,7 +73,7 @@ void Ledger::takeBack(Lent kind, const void* reference) {
     }
     loans_.erase(loan);
     if (ended_.size() == kEndedKept) ended_.pop_front();
-    ended_.push_back({key, hostCalls().current()});
+    ended_.push_back({key, calls_.current()});
 }
 
 void Ledger::require(Lent kind, const void* reference) {
@@ -94,7 +94,7 @@ void Ledger::forget(Lent kind, const void* reference) noexcept {
 void Ledger::refuse(const Key& key, std::string_view act) {
     const auto ended = std::find_if(ended_.rbegin(), ended_.rend(),
                                     [&](const Ended& past) { return past.key == key; });
-    std::string problem = callName(hostCalls().current()) + ": " + kindName(key.kind) + ' ';
+    std::string problem = callName(calls_.current()) + ": " + kindName(key.kind) + ' ';
     problem.append(act);
     if (ended == ended_.rend())
         problem += " that was never lent";
@@ -137,11 +137,6 @@ void Ledger::clear() {
     terms_ = defaultTerms();
     ended_.clear();
     problems_.clear();
-}
-
-Ledger& ledger() noexcept {
-    static Ledger book;
-    return book;
 }
 
 } // namespace easel

@@ -57,6 +57,9 @@ struct OpenLoan {
 /// The lender is the host function that is running, so callers name no call.
 class Ledger {
 public:
+    /// `calls`, which outlives it, knows who lends.
+    explicit Ledger(const HostCalls& calls) noexcept : calls_(calls) {}
+
     void lend(Lent kind, const void* reference);
     /// Throws 'PARM' unless `reference` is on loan.
     void takeBack(Lent kind, const void* reference);
@@ -106,6 +109,7 @@ private:
     }
     [[noreturn]] void refuse(const Key& key, std::string_view act);
 
+    const HostCalls& calls_;
     std::unordered_map<Key, Loan, KeyHash> loans_;
     std::array<std::size_t, kLentKinds> counts_{};
     std::array<LoanTerm, kLentKinds> terms_ = defaultTerms();
@@ -115,7 +119,5 @@ private:
 
     static std::array<LoanTerm, kLentKinds> defaultTerms() noexcept;
 };
-
-[[nodiscard]] Ledger& ledger() noexcept;
 
 } // namespace easel

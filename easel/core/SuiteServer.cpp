@@ -43,11 +43,11 @@ constexpr auto notImplementedThunks(std::index_sequence<Index...> /*indexes*/) {
 }
 constexpr auto kThunks = notImplementedThunks(std::make_index_sequence<kMostSlots>{});
 
-std::size_t addRecord(std::string name, bool returnsError) {
+std::size_t addRecord(SlotRecord record) {
     auto& all = records();
     const auto free = std::find(all.begin(), all.end(), nullptr);
     if (free == all.end()) throw std::length_error("more slots than thunks: raise kMostSlots");
-    *free = std::make_unique<SlotRecord>(SlotRecord{std::move(name), returnsError, 0});
+    *free = std::make_unique<SlotRecord>(std::move(record));
     return static_cast<std::size_t>(free - all.begin());
 }
 
@@ -78,7 +78,9 @@ ai::int32 number(std::string_view text) {
 } // namespace
 
 void AnySuiteTable::addSlot(std::string_view function, bool returnsError) {
-    const std::size_t index = addRecord(name_ + '.' + std::string(function), returnsError);
+    const std::size_t index = addRecord({.name = name_ + '.' + std::string(function),
+                                         .counter = &calls_,
+                                         .returnsError = returnsError});
     slots_.push_back(reinterpret_cast<void (*)()>(kThunks[index]));
     empty_.push_back(slots_.back());
     records_.push_back(records()[index].get());
@@ -91,10 +93,11 @@ void AnySuiteTable::addUnknownSlots() {
     records_.assign(kUnknownSuiteSlots, records_.front());
 }
 
-SuiteServer::SuiteServer() {
-    const auto table = [this](std::string_view name, ai::int32 version) -> AnySuiteTable& {
+SuiteServer::SuiteServer(HostCalls& calls) {
+    const auto table = [&](std::string_view name, ai::int32 version) -> AnySuiteTable& {
         auto& entry = tables_[{std::string(name), version}];
-        if (entry == nullptr) entry = std::make_unique<AnySuiteTable>(std::string(name), version);
+        if (entry == nullptr)
+            entry = std::make_unique<AnySuiteTable>(std::string(name), version, calls);
         return *entry;
     };
     for (const auto& row : rows(kSuiteSlots))

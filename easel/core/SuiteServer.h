@@ -16,8 +16,8 @@ namespace easel {
 /// until a function of Easel is exposed in it.
 class AnySuiteTable {
 public:
-    AnySuiteTable(std::string suite, ai::int32 version)
-        : name_(std::move(suite)), version_(version) {}
+    AnySuiteTable(std::string suite, ai::int32 version, HostCalls& calls)
+        : name_(std::move(suite)), version_(version), calls_(calls) {}
     void addSlot(std::string_view function, bool returnsError);
     /// For a suite whose functions are not known: many slots that tell the suite's name only.
     void addUnknownSlots();
@@ -35,6 +35,7 @@ public:
 private:
     std::string name_;
     ai::int32 version_;
+    HostCalls& calls_;
     std::vector<void (*)()> slots_;
     std::vector<void (*)()> empty_; ///< As long as no function is exposed.
     std::vector<SlotRecord*> records_;
@@ -63,8 +64,9 @@ private:
 /// long as the server and never move.
 class SuiteServer {
 public:
-    /// One table for every suite in the slot tables and every text suite.
-    SuiteServer();
+    /// One table for every suite in the slot tables and every text suite. `calls` counts what comes
+    /// through them, and outlives the server.
+    explicit SuiteServer(HostCalls& calls);
 
     /// The table of a declared suite, to expose functions in.
     template <typename Suite>

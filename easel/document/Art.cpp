@@ -6,8 +6,10 @@ namespace easel {
 
 Art::Art(Document& document, ai::int16 type)
     : document_(&document),
-      handle_(static_cast<AIArtHandle>(session().handles.add(HandleKind::Art, this))),
-      stamp_(++session().lastStamp), type_(type) {}
+      handle_(static_cast<AIArtHandle>(document.session().handles.add(HandleKind::Art, this))),
+      stamp_(++document.session().lastStamp), type_(type) {}
+
+Session& Art::session() const noexcept { return document_->session(); }
 
 Art::~Art() {
     session().handles.remove(handle_);

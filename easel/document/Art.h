@@ -81,6 +81,7 @@ class Art {
 public:
     [[nodiscard]] ai::int16 type() const noexcept { return type_; }
     [[nodiscard]] Document& document() const noexcept { return *document_; }
+    [[nodiscard]] Session& session() const noexcept;
     [[nodiscard]] AIArtHandle handle() const noexcept { return handle_; }
     [[nodiscard]] bool isAlive() const noexcept { return alive_; }
 

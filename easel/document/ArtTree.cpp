@@ -55,18 +55,18 @@ public:
         made.content_ = art.content_;
         const Dictionary* entries = art.dictionaryIfAny();
         if (entries != nullptr && !entries->items().empty()) made.dictionary().copyFrom(*entries);
-        clearWhatCopiesDrop(made.content_);
+        clearWhatCopiesDrop(made.content_, art.session().switches);
         return made;
     }
 
     static void free(Art& art) { delete &art; }
 
 private:
-    static void clearWhatCopiesDrop(ArtContent& content) {
+    static void clearWhatCopiesDrop(ArtContent& content, const Switches& switches) {
         constexpr auto kLocks = static_cast<std::uint32_t>(kArtLocked | kArtHidden);
         constexpr auto kSelection = static_cast<std::uint32_t>(kArtSelected | kArtFullySelected);
-        if (!switches().duplicatesKeepLocks) content.attributes &= ~kLocks;
-        if (!switches().duplicatesKeepSelection) {
+        if (!switches.duplicatesKeepLocks) content.attributes &= ~kLocks;
+        if (!switches.duplicatesKeepSelection) {
             content.attributes &= ~kSelection;
             content.segmentSelection = {};
         }
@@ -186,7 +186,7 @@ Art* layerOf(const Art& art) noexcept {
 }
 
 std::uint64_t subtreeStamp(const Art& art) {
-    Session& all = session();
+    Session& all = art.session();
     SubtreeStamps& known = all.subtreeStamps;
     if (known.lastStamp != all.lastStamp || known.exchanges != all.exchanges)
         known = {all.lastStamp, all.exchanges, {}};

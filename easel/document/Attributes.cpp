@@ -127,7 +127,7 @@ void setUserAttributes(Art& art, ai::int32 mask, ai::int32 value) {
 
 bool maySelect(const Art& art) {
     const bool may = isEditable(art);
-    if (!may && switches().selectingLockedFails) checkEditable(art);
+    if (!may && art.session().switches.selectingLockedFails) checkEditable(art);
     return may;
 }
 
@@ -137,14 +137,14 @@ void checkEditable(const Art& art) {
 }
 
 void checkContents(const Art& art) {
-    if (switches().lockedMembersGoAlong) return;
+    if (art.session().switches.lockedMembersGoAlong) return;
     for (const Art* each = nextInPreorder(art, art); each != nullptr;
          each = nextInPreorder(*each, art))
         if (each->has(kArtLocked)) throw ai::Error{kUntouchableArtObjectErr};
 }
 
 void checkOpen(const Art& container) {
-    if (session().allowAllChanges) return;
+    if (container.session().allowAllChanges) return;
     for (const Art* up = &container; up != nullptr; up = up->parent())
         if (isLockedOrHidden(*up)) refuse(*up);
 }

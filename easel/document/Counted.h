@@ -9,6 +9,8 @@
 
 namespace easel {
 
+struct Session;
+
 /// An object that the plug-in may hold counted references to, and Easel as well.
 ///
 /// It lives while anybody holds it. Its handle exists only while the plug-in holds it, so that a
@@ -20,10 +22,10 @@ public:
     Counted& operator=(const Counted&) = delete;
 
     /// Adds a reference for the plug-in and notes it in the ledger. Returns the handle.
-    [[nodiscard]] void* lend();
+    [[nodiscard]] void* lend(Session& session);
     /// Ends one of the plug-in's references. The object may be gone afterwards. Returns how many
     /// references to it are left, Easel's own among them.
-    ai::int32 takeBack();
+    ai::int32 takeBack(Session& session);
 
     void retain() noexcept { ++owners_; }
     void release() noexcept {
@@ -69,9 +71,5 @@ public:
 private:
     T* object_ = nullptr;
 };
-
-/// The counted object of that kind behind `handle`. A null, stale or invented one is noted in the
-/// ledger and refused: throws 'PARM'.
-[[nodiscard]] Counted& counted(HandleKind kind, Lent loan, const void* handle);
 
 } // namespace easel

@@ -29,11 +29,11 @@ AIRealPoint artboardCorner(const AIDocumentSetup& setup) noexcept {
 
 } // namespace
 
-Definition::Definition(Kind kind, std::string id)
-    : kind_(kind), id_(std::move(id)),
-      handle_(session().handles.add(HandleKind::Definition, this)) {}
+Definition::Definition(Session& session, Kind kind, std::string id)
+    : session_(session), kind_(kind), id_(std::move(id)),
+      handle_(session.handles.add(HandleKind::Definition, this)) {}
 
-Definition::~Definition() { session().handles.remove(handle_); }
+Definition::~Definition() { session_.handles.remove(handle_); }
 
 struct Document::StateKept final : KeptState {
     explicit StateKept(Document& changed) : document(&changed), state(changed.state_) {}
@@ -47,8 +47,9 @@ struct Document::StateKept final : KeptState {
     DocumentState state;
 };
 
-Document::Document(AISize artboard, FirstLayer firstLayer)
-    : handle_(static_cast<AIDocumentHandle>(session().handles.add(HandleKind::Document, this))),
+Document::Document(Session& session, AISize artboard, FirstLayer firstLayer)
+    : session_(session),
+      handle_(static_cast<AIDocumentHandle>(session.handles.add(HandleKind::Document, this))),
       undo_(std::make_shared<UndoLog>(*this)), recorded_(new Dictionary), other_(new Dictionary) {
     state_.setup = setupOf(artboard);
     state_.rulerOrigin = artboardCorner(state_.setup);
@@ -62,10 +63,10 @@ Document::Document(AISize artboard, FirstLayer firstLayer)
 }
 
 Document::~Document() {
-    if (session().current == this) setCurrentDocument(nullptr);
+    if (session_.current == this) session_.current = nullptr;
     undo_->detach();
     freeTree(*root_);
-    session().handles.remove(handle_);
+    session_.handles.remove(handle_);
 }
 
 DocumentState& Document::writeState() {
@@ -100,7 +101,7 @@ void Document::setRulerOrigin(AIRealPoint origin) {
 }
 
 Definition& Document::addDefinition(Definition::Kind kind, std::string id) {
-    return *definitions_.emplace_back(std::make_unique<Definition>(kind, std::move(id)));
+    return *definitions_.emplace_back(std::make_unique<Definition>(session_, kind, std::move(id)));
 }
 
 DocumentChanges Document::takeChanges() noexcept { return std::exchange(changes_, {}); }

@@ -16,7 +16,7 @@ class Definition {
 public:
     enum class Kind : std::uint8_t { Gradient, Pattern, Symbol };
 
-    Definition(Kind kind, std::string id);
+    Definition(Session& session, Kind kind, std::string id);
     ~Definition();
     Definition(const Definition&) = delete;
     Definition& operator=(const Definition&) = delete;
@@ -30,6 +30,7 @@ public:
     std::shared_ptr<const ForeignContent> content;
 
 private:
+    Session& session_;
     Kind kind_;
     std::string id_;
     void* handle_;
@@ -72,11 +73,12 @@ class Document {
 public:
     /// `artboard` in points. With a first layer it is called "Layer 1" and is current; without one
     /// the caller makes layers before anything else happens.
-    explicit Document(AISize artboard, FirstLayer firstLayer = FirstLayer::Yes);
+    explicit Document(Session& session, AISize artboard, FirstLayer firstLayer = FirstLayer::Yes);
     ~Document();
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
 
+    [[nodiscard]] Session& session() const noexcept { return session_; }
     [[nodiscard]] AIDocumentHandle handle() const noexcept { return handle_; }
     [[nodiscard]] Art& root() const noexcept { return *root_; }
     [[nodiscard]] UndoLog& undo() const noexcept { return *undo_; }
@@ -125,6 +127,7 @@ public:
 private:
     struct StateKept;
 
+    Session& session_;
     AIDocumentHandle handle_;
     std::shared_ptr<UndoLog> undo_;
     DocumentState state_;

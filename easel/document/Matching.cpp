@@ -123,7 +123,8 @@ std::vector<Art*> matchingArt(const Document& document, std::span<const AIArtSpe
 
 std::vector<Art*> artOfLayer(Art& layer) {
     std::vector<Art*> all;
-    Art* each = switches().layerSetHasOwnGroup ? &layer : nextInPreorder(layer, layer);
+    Art* each =
+        layer.session().switches.layerSetHasOwnGroup ? &layer : nextInPreorder(layer, layer);
     while (each != nullptr) {
         const bool skip = isResultGroup(*each);
         if (!skip) all.push_back(each);

@@ -7,7 +7,7 @@
 namespace easel {
 
 const char* MessageLoans::characters(SharedText text) {
-    if (!switches().entryStringsLast) {
+    if (!session_.switches.entryStringsLast) {
         fleeting_.assign(text->c_str(), text->c_str() + text->size() + 1);
         return fleeting_.data();
     }
@@ -27,7 +27,7 @@ void MessageLoans::clear() {
     fleeting_.clear();
     for (const Ref<Hit>& hit : hits_)
         while (hit->lent() > 0)
-            hit->takeBack();
+            hit->takeBack(session_);
     hits_.clear();
 }
 

@@ -10,6 +10,8 @@ namespace easel {
 /// it need not release.
 class MessageLoans {
 public:
+    explicit MessageLoans(Session& session) noexcept : session_(session) {}
+
     /// The characters of `text`, kept until the message ends. With the switch `entryStringsLast`
     /// off they stay until `dictionaryCalled`.
     [[nodiscard]] const char* characters(SharedText text);
@@ -20,6 +22,7 @@ public:
     void clear();
 
 private:
+    Session& session_;
     std::vector<SharedText> texts_;
     std::vector<char> fleeting_;
     std::vector<Ref<Hit>> hits_;

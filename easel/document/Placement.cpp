@@ -1,8 +1,8 @@
 #include "easel/document/Placement.h"
 
 #include "easel/document/Attributes.h"
+#include "easel/document/Document.h"
 #include "easel/document/Layers.h"
-#include "easel/document/Session.h"
 #include "host/Error.h"
 
 namespace easel {
@@ -50,10 +50,10 @@ bool mayBeInCompound(ai::int16 type) {
 
 } // namespace
 
-Position placeFor(ai::int16 order, Art* reference) {
+Position placeFor(Document& document, ai::int16 order, Art* reference) {
     switch (order) {
     case kPlaceDefault:
-        return onTopOf(insertionGroup(currentDocument()));
+        return onTopOf(insertionGroup(document));
     case kPlaceAbove:
         return inFrontOf(neighbour(reference));
     case kPlaceBelow:
@@ -63,9 +63,9 @@ Position placeFor(ai::int16 order, Art* reference) {
     case kPlaceInsideOnBottom:
         return atBottomOf(container(reference));
     case kPlaceAboveAll:
-        return onTopOf(outermostLayer(layerFrom(currentDocument().root().firstChild())));
+        return onTopOf(outermostLayer(layerFrom(document.root().firstChild())));
     case kPlaceBelowAll:
-        return atBottomOf(outermostLayer(layerBackwardFrom(currentDocument().root().lastChild())));
+        return atBottomOf(outermostLayer(layerBackwardFrom(document.root().lastChild())));
     default:
         throw ai::Error{kUnknownPaintOrderTypeErr};
     }

@@ -6,10 +6,10 @@
 
 namespace easel {
 
-/// The place that a paint order and its reference mean. Throws 'ORD?' for an unknown order, 'PARM'
-/// when the reference is missing or cannot hold art, 'ELIO' beside a top-level layer's group or
-/// beside the parts of a plug-in group.
-[[nodiscard]] Position placeFor(ai::int16 order, Art* reference);
+/// The place that a paint order and its reference mean in `document`. Throws 'ORD?' for an unknown
+/// order, 'PARM' when the reference is missing or cannot hold art, 'ELIO' beside a top-level
+/// layer's group or beside the parts of a plug-in group.
+[[nodiscard]] Position placeFor(Document& document, ai::int16 order, Art* reference);
 /// May the plug-in put art of that type there? Throws '~VAT', 'ELIO' or 'NESS'.
 void checkPlace(const Position& place, ai::int16 type);
 /// The same for `art` with all it contains.

@@ -9,38 +9,43 @@ Session& session() noexcept {
     return theSession;
 }
 
-void startStamps() noexcept {
-    session().lastStamp = 0;
-    session().subtreeStamps = {};
+void Session::startStamps() noexcept {
+    lastStamp = 0;
+    subtreeStamps = {};
 }
 
-Document& currentDocument() {
-    if (session().current == nullptr) throw ai::Error{kNoDocumentErr};
-    return *session().current;
+Document& Session::document() const {
+    if (current == nullptr) throw ai::Error{kNoDocumentErr};
+    return *current;
 }
 
-void setCurrentDocument(Document* document) noexcept { session().current = document; }
-
-Art* findArt(AIArtHandle handle) noexcept {
-    auto* art = static_cast<Art*>(session().handles.find(HandleKind::Art, handle));
+Art* Session::findArt(AIArtHandle handle) const noexcept {
+    auto* art = static_cast<Art*>(handles.find(HandleKind::Art, handle));
     // Only the document's root hangs on nothing, and it is no art that anyone is told of.
     return art != nullptr && art->isAlive() && art->parent() != nullptr ? art : nullptr;
 }
 
-Art& artOf(AIArtHandle handle) {
+Art& Session::artOf(AIArtHandle handle) const {
     Art* art = findArt(handle);
     if (art == nullptr) throw ai::Error{kBadParameterErr};
     return *art;
 }
 
-Art& layerOf(AILayerHandle handle) {
+Art& Session::layerOf(AILayerHandle handle) const {
     if (HandleTable::kindOf(handle) != HandleKind::Layer) throw ai::Error{kBadParameterErr};
     const void* group = HandleTable::withKind(handle, HandleKind::Art);
-    auto* art = static_cast<Art*>(session().handles.find(HandleKind::Art, group));
+    auto* art = static_cast<Art*>(handles.find(HandleKind::Art, group));
     if (art == nullptr || !art->isAlive() || !art->isLayer()) throw ai::Error{kBadParameterErr};
     return *art;
 }
 
-void endMessageLoans() { session().messageLoans.clear(); }
+Counted& Session::counted(HandleKind kind, Lent loan, const void* handle) {
+    void* object = handles.find(kind, handle);
+    if (object == nullptr) {
+        if (handle != nullptr) ledger.require(loan, handle);
+        throw ai::Error{kBadParameterErr};
+    }
+    return *static_cast<Counted*>(object);
+}
 
 } // namespace easel

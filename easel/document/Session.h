@@ -1,5 +1,8 @@
 #pragma once
 
+#include "easel/core/HostCalls.h"
+#include "easel/core/Ledger.h"
+#include "easel/core/SuiteServer.h"
 #include "easel/document/Document.h"
 #include "easel/document/HandleTable.h"
 #include "easel/document/MessageLoans.h"
@@ -17,14 +20,26 @@ struct SubtreeStamps {
     std::unordered_map<const Art*, std::uint64_t> answers;
 };
 
-/// What the art side of the host keeps besides its documents: one per process, because the suites
-/// are plain functions that carry nothing with them.
+class Host;
+
+/// What belongs to no single document. Whoever works on the host or its documents is handed it, or
+/// finds it in its document; only the suites, which are plain functions that carry nothing with
+/// them, ask for the one of this process.
 struct Session {
+    Session() = default;
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    HostCalls calls;
+    Ledger ledger{calls};
+    SuiteServer suites{calls};
     HandleTable handles;
     Switches switches;
-    /// The document that calls without a document mean; set with `setCurrentDocument`.
+    /// The host that runs, if any does: documents can be read and written without one.
+    Host* host = nullptr;
+    /// The document that calls without a document mean.
     Document* current = nullptr;
-    /// The last time stamp given. It starts at 0 in every session.
+    /// The last time stamp given. It starts at 0 with every host.
     std::uint64_t lastStamp = 0;
     /// States that undo has put back.
     std::uint64_t exchanges = 0;
@@ -38,31 +53,27 @@ struct Session {
     /// Plug-ins may change documents within a context only. Set while a host runs, which makes
     /// them.
     bool changesNeedContext = false;
-    MessageLoans messageLoans;
+    MessageLoans messageLoans{*this};
     /// The handles of dictionary keys; they live as long as the host.
     std::unordered_map<Key, void*> keyHandles;
+
+    /// A host has started: time stamps begin anew. There may be no document.
+    void startStamps() noexcept;
+    /// The current one. Throws 'DOC?' when there is none.
+    [[nodiscard]] Document& document() const;
+    /// The live object behind a handle. A null, stale, dead or invented one is refused: throws
+    /// 'PARM'.
+    [[nodiscard]] Art& artOf(AIArtHandle handle) const;
+    /// Null unless `handle` is that of a live object.
+    [[nodiscard]] Art* findArt(AIArtHandle handle) const noexcept;
+    /// The layer's group; throws 'PARM'.
+    [[nodiscard]] Art& layerOf(AILayerHandle handle) const;
+    /// The counted object of that kind. A null, stale or invented handle is noted in the ledger and
+    /// refused: throws 'PARM'.
+    [[nodiscard]] Counted& counted(HandleKind kind, Lent loan, const void* handle);
 };
 
+/// The session of this process. For suites, and for programs and tests to begin with.
 [[nodiscard]] Session& session() noexcept;
-[[nodiscard]] inline Switches& switches() noexcept { return session().switches; }
-
-/// A host has started: time stamps begin anew. There may be no document.
-void startStamps() noexcept;
-
-/// Throws 'DOC?' when there is none.
-[[nodiscard]] Document& currentDocument();
-/// Null: none is current.
-void setCurrentDocument(Document* document) noexcept;
-
-/// The live object behind a handle. A null, stale, dead or invented one is refused: throws 'PARM'.
-[[nodiscard]] Art& artOf(AIArtHandle handle);
-/// Null unless `handle` is that of a live object.
-[[nodiscard]] Art* findArt(AIArtHandle handle) noexcept;
-/// The layer's group; throws 'PARM'.
-[[nodiscard]] Art& layerOf(AILayerHandle handle);
-
-/// Drops what lives for one message only: leftover hits, strings handed out of entries. To be
-/// called when the outermost message has ended.
-void endMessageLoans();
 
 } // namespace easel

@@ -1,6 +1,5 @@
 #include "easel/document/UndoLog.h"
 
-#include "easel/core/HostCalls.h"
 #include "easel/document/Session.h"
 #include "host/Error.h"
 
@@ -26,7 +25,8 @@ struct UndoLog::ContentState final : KeptState {
     static void exchangeStamp(Art& art, std::uint64_t& kept) {
         if (kept == art.stamp_) return;
         std::swap(art.stamp_, kept);
-        if (!switches().undoRestoresStamps) art.stamp_ = ++session().lastStamp;
+        Session& session = art.session();
+        if (!session.switches.undoRestoresStamps) art.stamp_ = ++session.lastStamp;
     }
     Art* art;
     ArtContent content;
@@ -44,10 +44,13 @@ struct UndoLog::LinksState final : KeptState {
     std::uint64_t stamp;
 };
 
+UndoLog::UndoLog(Document& document) noexcept
+    : session_(document.session()), document_(&document) {}
+
 UndoLog::~UndoLog() { detach(); }
 
 void UndoLog::open() {
-    if (depth_++ == 0) epoch_ = ++session().lastEpoch;
+    if (depth_++ == 0) epoch_ = ++session_.lastEpoch;
 }
 
 void UndoLog::close() {
@@ -83,7 +86,7 @@ void UndoLog::revert() {
     takeBack(open_);
     forget(open_);
     open_.steps.clear();
-    epoch_ = ++session().lastEpoch;
+    epoch_ = ++session_.lastEpoch;
 }
 
 void UndoLog::setKind(AIUndoContextKind kind) noexcept {
@@ -95,13 +98,15 @@ void UndoLog::setTexts(std::string undo, std::string redo) {
     open_.redoText = std::move(redo);
 }
 
-bool UndoLog::isOwnStep(const Record& record) noexcept {
+bool UndoLog::isOwnStep(const Record& record) const noexcept {
     return record.kind == kStandardUndoContext ||
-           (record.kind == kSilentUndoContext && !switches().silentFollowsStep);
+           (record.kind == kSilentUndoContext && !session_.switches.silentFollowsStep);
 }
 
 bool UndoLog::undo() {
-    if (depth_ > 0 || std::ranges::none_of(past_, isOwnStep)) return false;
+    if (depth_ > 0 ||
+        std::ranges::none_of(past_, [this](const Record& record) { return isOwnStep(record); }))
+        return false;
     for (bool stepTaken = false; !stepTaken; past_.pop_back()) {
         stepTaken = isOwnStep(past_.back());
         takeBack(past_.back());
@@ -170,7 +175,7 @@ void UndoLog::detach() {
 
 bool UndoLog::recording() {
     if (depth_ > 0) return true;
-    if (session().changesNeedContext && hostCalls().current() != nullptr)
+    if (session_.changesNeedContext && session_.calls.current() != nullptr)
         throw ai::Error{kNoDocumentErr};
     if (!past_.empty() || !future_.empty()) clear();
     return false;
@@ -220,7 +225,7 @@ void UndoLog::releaseLife(Art& art) {
 }
 
 void UndoLog::exchange(Step& step) {
-    ++session().exchanges;
+    ++session_.exchanges;
     if (step.lives != nullptr)
         step.lives->alive_ = !step.lives->alive_;
     else

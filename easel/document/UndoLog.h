@@ -33,7 +33,7 @@ public:
 /// A plug-in that changes something then is refused: throws 'DOC?' out of whatever keeps or notes.
 class UndoLog {
 public:
-    explicit UndoLog(Document& document) noexcept : document_(&document) {}
+    explicit UndoLog(Document& document) noexcept;
     ~UndoLog();
     UndoLog(const UndoLog&) = delete;
     UndoLog& operator=(const UndoLog&) = delete;
@@ -92,22 +92,23 @@ private:
     struct ContentState;
     struct LinksState;
 
-    [[nodiscard]] static bool isOwnStep(const Record& record) noexcept;
+    [[nodiscard]] bool isOwnStep(const Record& record) const noexcept;
     /// The standard record that lies `back` standard records before the end; null when none does.
     [[nodiscard]] static const Record* step(const std::deque<Record>& records,
                                             ai::int32 back) noexcept;
     [[nodiscard]] bool recording();
     void keepLife(Art& art);
     static void releaseLife(Art& art);
-    static void exchange(Step& step);
-    static void takeBack(Record& record);
-    static void bringBack(Record& record);
+    void exchange(Step& step);
+    void takeBack(Record& record);
+    void bringBack(Record& record);
     static void forget(Record& record);
     void dropBriefLives();
     void discardFuture();
     void limitHistory();
     void noteEverything();
 
+    Session& session_;
     Document* document_;
     std::deque<Record> past_;
     std::deque<Record> future_; ///< The next to be redone at the back.

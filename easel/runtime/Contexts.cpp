@@ -9,8 +9,8 @@ namespace easel {
 
 Contexts::~Contexts() {
     closeRecord();
-    session().allowAllChanges = false;
-    session().contextIsNested = false;
+    session_.allowAllChanges = false;
+    session_.contextIsNested = false;
 }
 
 AIAppContextHandle Contexts::push(SPPluginRef plugin, AIUndoContextKind kind, Nested nested) {
@@ -49,12 +49,12 @@ void Contexts::setAllowAllChanges(bool allow) {
 
 void Contexts::switchTo(Document* document) {
     closeRecord();
-    setCurrentDocument(document);
+    session_.current = document;
     if (!stack_.empty()) openRecord();
 }
 
 void Contexts::openRecord() {
-    Document* const document = session().current;
+    Document* const document = session_.current;
     if (document == nullptr) return;
     record_ = document->sharedUndo();
     record_->open();
@@ -65,8 +65,8 @@ void Contexts::closeRecord() {
 }
 
 void Contexts::applyTop() const noexcept {
-    session().allowAllChanges = !stack_.empty() && stack_.back().allowAllChanges;
-    session().contextIsNested = !stack_.empty() && stack_.back().nested;
+    session_.allowAllChanges = !stack_.empty() && stack_.back().allowAllChanges;
+    session_.contextIsNested = !stack_.empty() && stack_.back().nested;
 }
 
 } // namespace easel

@@ -11,6 +11,7 @@
 namespace easel {
 
 class Document;
+struct Session;
 class UndoLog;
 
 /// The stack of application contexts. A context says which document is meant by calls that name
@@ -25,7 +26,7 @@ class Contexts {
 public:
     enum class Nested : std::uint8_t { No, Yes };
 
-    Contexts() = default;
+    explicit Contexts(Session& session) noexcept : session_(session) {}
     ~Contexts();
     Contexts(const Contexts&) = delete;
     Contexts& operator=(const Contexts&) = delete;
@@ -55,17 +56,13 @@ private:
         bool nested;
         bool allowAllChanges;
     };
-    struct Suspended {
-        AISuspendedAppContext handle;
-        std::vector<Context> stack;
-    };
 
     void openRecord();
     void closeRecord();
     void applyTop() const noexcept;
 
+    Session& session_;
     std::vector<Context> stack_;
-    std::vector<Suspended> suspended_;
     std::shared_ptr<UndoLog> record_; ///< The history in which the outermost context records.
 };
 

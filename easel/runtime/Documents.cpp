@@ -17,7 +17,7 @@ std::string commandNotifier(const char* when, const char* command) {
 
 } // namespace
 
-Documents::~Documents() { setCurrentDocument(nullptr); }
+Documents::~Documents() { session_.current = nullptr; }
 
 Document& Documents::open(std::unique_ptr<Document> opened) {
     Document& document = *all_.emplace_back(std::move(opened));
@@ -28,7 +28,7 @@ Document& Documents::open(std::unique_ptr<Document> opened) {
 }
 
 bool Documents::activate(Document& document) {
-    if (session().current == &document) return false;
+    if (session_.current == &document) return false;
     contexts_.switchTo(&document);
     notifiers_.queue("AI Document View Style Active View Changed Notifier");
     notifiers_.queue("AI Document Changed Notifier");
@@ -38,7 +38,7 @@ bool Documents::activate(Document& document) {
 void Documents::close(Document& document) {
     notifiers_.notify("AI Document About To Close Notifier");
     const auto isIt = [&](const auto& each) { return each.get() == &document; };
-    if (session().current == &document) {
+    if (session_.current == &document) {
         const auto other = std::find_if_not(all_.begin(), all_.end(), isIt);
         contexts_.switchTo(other == all_.end() ? nullptr : other->get());
     }
@@ -53,30 +53,35 @@ void Documents::beforeSaving() {
 }
 
 void Documents::afterSaving() {
-    currentDocument().setModified(false);
+    session_.document().setModified(false);
     notifiers_.queue("AI Document Saved Notifier");
 }
 
 bool Documents::undo() {
     notifiers_.notify(commandNotifier("Before", "Undo"));
-    const bool done = currentDocument().undo().undo();
+    const bool done = session_.document().undo().undo();
     notifiers_.queue(commandNotifier("After", "Undo"));
     return done;
 }
 
 bool Documents::redo() {
     notifiers_.notify(commandNotifier("Before", "Redo"));
-    const bool done = currentDocument().undo().redo();
+    const bool done = session_.document().undo().redo();
     notifiers_.queue(commandNotifier("After", "Redo"));
     return done;
 }
 
 void Documents::edit(const std::string& undoText, const std::function<void(Document&)>& change,
                      AIUndoContextKind kind) {
-    Document& document = currentDocument();
+    Document& document = session_.document();
     const AIAppContextHandle context = contexts_.push(nullptr, kind);
     document.undo().setTexts("Undo " + undoText, "Redo " + undoText);
-    change(document);
+    try {
+        change(document);
+    } catch (...) {
+        contexts_.pop(context);
+        throw;
+    }
     contexts_.pop(context);
 }
 

@@ -17,8 +17,8 @@ class Views;
 /// The open documents, one of which is current, and what the user does to them without any plug-in.
 class Documents {
 public:
-    Documents(Contexts& contexts, Notifiers& notifiers, Views& views)
-        : contexts_(contexts), notifiers_(notifiers), views_(views) {}
+    Documents(Session& session, Contexts& contexts, Notifiers& notifiers, Views& views)
+        : session_(session), contexts_(contexts), notifiers_(notifiers), views_(views) {}
     ~Documents();
     Documents(const Documents&) = delete;
     Documents& operator=(const Documents&) = delete;
@@ -44,6 +44,7 @@ public:
     bool collectChanges();
 
 private:
+    Session& session_;
     Contexts& contexts_;
     Notifiers& notifiers_;
     Views& views_;

@@ -1,7 +1,5 @@
 #include "easel/runtime/Host.h"
 
-#include "easel/core/Ledger.h"
-#include "easel/core/SuiteServer.h"
 #include "host/MessageNames.h"
 
 #include <cassert>
@@ -10,37 +8,31 @@
 #include <utility>
 
 namespace easel {
-namespace {
-
-Host* running = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global*)
-
-} // namespace
-
-Host& host() noexcept {
-    assert(running != nullptr);
-    return *running;
-}
-
-Host::Host(SuiteServer& server, HostSettings hostSettings)
-    : suites(server), settings(hostSettings), sender(server, plugins, contexts,
-                                                     [this] {
-                                                         endMessageLoans();
-                                                         collectChanges();
-                                                     }),
-      notifiers(sender), panels([this] { idle(); }), tools(sender, notifiers, views, clock),
-      sent(sender.sent), documents_(contexts, notifiers, views) {
-    assert(running == nullptr);
-    running = this;
-    session().changesNeedContext = true;
-    startStamps();
+Host::Host(Session& itsSession, HostSettings hostSettings)
+    : session(itsSession), settings(hostSettings), contexts(session),
+      sender(session, plugins, contexts,
+             [this] {
+                 session.messageLoans.clear();
+                 collectChanges();
+             }),
+      notifiers(sender), views(session), panels([this] { idle(); }),
+      tools(session, sender, notifiers, views, clock), sent(sender.sent),
+      documents_(session, contexts, notifiers, views) {
+    assert(session.host == nullptr);
+    session.host = this;
+    session.changesNeedContext = true;
+    session.startStamps();
+    session.ledger.clear();
+    session.suites.forgetAcquisitions();
     sender.recordsAll = settings.recordMessages;
-    ledger().clear();
-    suites.forgetAcquisitions();
 }
 
 Host::~Host() {
-    session().changesNeedContext = false;
-    running = nullptr;
+    // A gesture that was never ended: its record closes while its document still exists.
+    while (contexts.depth() > 0)
+        contexts.pop(contexts.top());
+    session.changesNeedContext = false;
+    session.host = nullptr;
 }
 
 void Host::start() {
@@ -65,9 +57,9 @@ void Host::forgetRegistrations(SPPluginRef plugin) {
     const auto isOfPlugin = [plugin](const auto& each) { return each.plugin == plugin; };
     for (const auto& [handle, timer] : timers)
         if (isOfPlugin(*timer) && timer->active)
-            ledger().report("timer \"" + timer->name + "\" still runs when its plug-in ends");
+            session.ledger.report("timer \"" + timer->name + "\" still runs when its plug-in ends");
     for (std::string& left : panels.removeAllOf(plugin))
-        ledger().report(std::move(left));
+        session.ledger.report(std::move(left));
     notifiers.removeIf(isOfPlugin);
     timers.removeIf(isOfPlugin);
     annotators.annotators.removeIf(isOfPlugin);
@@ -89,10 +81,10 @@ void Host::collectChanges() {
 }
 
 std::vector<std::string> Host::complaints() const {
-    std::vector<std::string> lines = ledger().problems();
-    for (const OpenLoan& loan : ledger().outstanding())
+    std::vector<std::string> lines = session.ledger.problems();
+    for (const OpenLoan& loan : session.ledger.outstanding())
         lines.push_back(describe(loan));
-    for (const std::string& suite : suites.outstanding())
+    for (const std::string& suite : session.suites.outstanding())
         lines.push_back("not released: " + suite);
     return lines;
 }
@@ -115,7 +107,7 @@ void Host::close(Document& document) {
 }
 
 std::string Host::undoText() const {
-    const std::string text = currentDocument().undo().undoText();
+    const std::string text = session.document().undo().undoText();
     return text.empty() ? "Undo" : text;
 }
 

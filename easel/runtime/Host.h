@@ -33,8 +33,7 @@ struct HostSettings {
     bool recordMessages = false;
 };
 
-/// The host as its plug-ins meet it, from launch to quit. One exists at a time, because the suites
-/// are plain functions that carry nothing with them.
+/// The host as its plug-ins meet it, from launch to quit. A session has one at a time.
 ///
 ///   1. `addPlugin` for each, then `start`: load, start up, notify.
 ///   2. Whatever the user does is one of the functions below. Each lets the part of the host that
@@ -45,8 +44,8 @@ struct HostSettings {
 /// released twice) are lines in the ledger's `problems`, and the session goes on.
 class Host {
 public:
-    /// Offers the suites of `server`, which outlives it.
-    explicit Host(SuiteServer& server, HostSettings hostSettings = {});
+    /// Offers the suites of `itsSession`, which outlives it.
+    explicit Host(Session& itsSession, HostSettings hostSettings = {});
     ~Host();
     Host(const Host&) = delete;
     Host& operator=(const Host&) = delete;
@@ -169,7 +168,7 @@ public:
     /// What is still lent, a line each, and what was not released in time.
     [[nodiscard]] std::vector<std::string> complaints() const;
 
-    SuiteServer& suites;
+    Session& session;
     HostSettings settings;
     Plugins plugins;
     Contexts contexts;
@@ -206,8 +205,5 @@ private:
     bool inIdle_ = false;
     bool stale_ = false;
 };
-
-/// The host that is running. There must be one.
-[[nodiscard]] Host& host() noexcept;
 
 } // namespace easel

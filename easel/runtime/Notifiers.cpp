@@ -1,6 +1,5 @@
 #include "easel/runtime/Notifiers.h"
 
-#include "easel/core/Ledger.h"
 #include "easel/document/Session.h"
 #include "easel/runtime/Sender.h"
 #include "host/MessageNames.h"
@@ -48,7 +47,7 @@ void Notifiers::queue(std::string_view type) {
 void Notifiers::sendQueued() {
     for (const std::string& type : std::exchange(late_, {}))
         notify(type);
-    if (!switches().notificationsComeSoon) late_ = take();
+    if (!sender_.session().switches.notificationsComeSoon) late_ = take();
     for (int round = 0; round < kRounds && !waiting_.empty(); ++round)
         for (const std::string& type : take())
             notify(type);
@@ -56,7 +55,7 @@ void Notifiers::sendQueued() {
     std::string endless = "notifications raise each other without end:";
     for (const std::string& type : take())
         endless += " \"" + type + '"';
-    ledger().report(std::move(endless));
+    sender_.session().ledger.report(std::move(endless));
 }
 
 std::vector<std::string> Notifiers::take() {

@@ -19,7 +19,7 @@ bool meets(const Document& document, AIRealPoint anchor, AIRealPoint at) {
 
 /// Null where a locked or hidden layer is current.
 Art* beginPath(Document& document) {
-    const Position place = placeFor(kPlaceDefault, nullptr);
+    const Position place = placeFor(document, kPlaceDefault, nullptr);
     if (!isEditable(*place.parent)) return nullptr;
     return &createArt(document, kPathArt, place);
 }
@@ -32,7 +32,7 @@ void selectLastAnchor(Art& path) {
 } // namespace
 
 void Pen::press(Document& document, AIRealPoint at) {
-    Art* path = findArt(path_);
+    Art* path = session_.findArt(path_);
     const bool goesOn = path != nullptr && &path->document() == &document && isEditable(*path) &&
                         !path->content().closed;
     if (!goesOn) path = beginPath(document);
@@ -48,7 +48,7 @@ void Pen::press(Document& document, AIRealPoint at) {
 }
 
 void Pen::drag(AIRealPoint to) {
-    Art* const path = findArt(path_);
+    Art* const path = session_.findArt(path_);
     if (path == nullptr || path->segments().empty()) return;
     AIPathSegment& last = path->write().segments.write().back();
     last.out = to;

@@ -6,6 +6,7 @@
 namespace easel {
 
 class Document;
+struct Session;
 
 /// The host's own pen. It adds to the very object that it has begun, until the path is closed or
 /// the pen is put away, even for a moment: whoever replaces the object makes it begin another.
@@ -15,6 +16,8 @@ class Document;
 ///   2. Dragging draws the handles of that anchor out.
 class Pen {
 public:
+    explicit Pen(Session& session) noexcept : session_(session) {}
+
     /// Nothing happens where art cannot be added.
     void press(Document& document, AIRealPoint at);
     void drag(AIRealPoint to);
@@ -22,6 +25,7 @@ public:
     void forgetPath() noexcept { path_ = nullptr; }
 
 private:
+    Session& session_;
     AIArtHandle path_ = nullptr; ///< Null, or dead: none.
 };
 

@@ -1,6 +1,6 @@
 #include "easel/runtime/Plugin.h"
 
-#include "easel/core/Ledger.h"
+#include "easel/document/Session.h"
 #include "easel/runtime/Sender.h"
 #include "host/MessageNames.h"
 
@@ -85,7 +85,8 @@ void Plugins::start(Sender& sender, SPPluginRef ref) {
     const SPErr result = sender.send(ref, kCallerInterface, kSelectorStartup, message);
     plugin.started = result == kNoErr;
     plugin.broken = !plugin.started;
-    if (plugin.broken) ledger().report(plugin.name + ": start-up failed with " + codeText(result));
+    if (plugin.broken)
+        sender.session().ledger.report(plugin.name + ": start-up failed with " + codeText(result));
 }
 
 void Plugins::stop(Sender& sender, SPPluginRef ref) {

@@ -1,7 +1,6 @@
 #include "easel/runtime/Sender.h"
 
-#include "easel/core/Ledger.h"
-#include "easel/core/SuiteServer.h"
+#include "easel/document/Session.h"
 #include "host/MessageNames.h"
 #include "host/suites/SPBasicSuite.h"
 
@@ -15,9 +14,9 @@ constexpr ai::int32 kMessageCheck = fourCharacterCode("SPCk");
 
 } // namespace
 
-Sender::Sender(SuiteServer& suites, const Plugins& plugins, Contexts& contexts,
+Sender::Sender(Session& session, const Plugins& plugins, Contexts& contexts,
                std::function<void()> settled)
-    : suites_(suites), plugins_(plugins), contexts_(contexts), settled_(std::move(settled)) {}
+    : session_(session), plugins_(plugins), contexts_(contexts), settled_(std::move(settled)) {}
 
 SPErr Sender::sendData(SPPluginRef ref, const char* caller, const char* selector,
                        SPMessageData& message, std::string_view detail, AIUndoContextKind kind) {
@@ -29,17 +28,18 @@ SPErr Sender::sendData(SPPluginRef ref, const char* caller, const char* selector
     message.SPCheck = kMessageCheck;
     message.self = ref;
     message.globals = plugin.globals;
-    message.basic = &suites_.table<SPBasicSuite>(kSPBasicSuite, kSPBasicSuiteVersion).functions();
+    message.basic =
+        &session_.suites.table<SPBasicSuite>(kSPBasicSuite, kSPBasicSuiteVersion).functions();
     const SPPluginRef outer = std::exchange(receiver_, ref);
     const AIAppContextHandle context =
         contexts_.push(ref, kind, outer != nullptr ? Contexts::Nested::Yes : Contexts::Nested::No);
     const std::size_t depth = contexts_.depth();
-    const std::uint64_t mark = ledger().beginMessage();
+    const std::uint64_t mark = session_.ledger.beginMessage();
     const SPErr result = record.result = plugin.entry(caller, selector, &message);
     plugin.globals = message.globals;
 
     const std::string name = std::string(caller) + '/' + selector;
-    ledger().endMessage(mark, name);
+    session_.ledger.endMessage(mark, name);
     closeWhatIsLeft(name, context, depth);
     receiver_ = outer;
     if (recordsAll || result != kNoErr) sent.push_back(std::move(record));
@@ -50,7 +50,7 @@ SPErr Sender::sendData(SPPluginRef ref, const char* caller, const char* selector
 void Sender::closeWhatIsLeft(const std::string& name, AIAppContextHandle context,
                              std::size_t depth) {
     if (contexts_.depth() != depth || contexts_.top() != context) {
-        ledger().report(name + ": contexts pushed and popped do not balance");
+        session_.ledger.report(name + ": contexts pushed and popped do not balance");
         while (contexts_.depth() > depth)
             contexts_.pop(contexts_.top());
     }

@@ -10,7 +10,7 @@
 
 namespace easel {
 
-class SuiteServer;
+struct Session;
 
 /// A message that was sent, and what the plug-in answered.
 struct SentMessage {
@@ -26,7 +26,7 @@ struct SentMessage {
 class Sender {
 public:
     /// All outlive it. `settled` is called whenever the outermost message has been answered.
-    Sender(SuiteServer& suites, const Plugins& plugins, Contexts& contexts,
+    Sender(Session& session, const Plugins& plugins, Contexts& contexts,
            std::function<void()> settled);
 
     /// Sends `message`, whose first member is its `SPMessageData`, and takes the globals back. May
@@ -45,6 +45,8 @@ public:
     /// The plug-in that is answering a message; null while none is.
     [[nodiscard]] SPPluginRef receiver() const noexcept { return receiver_; }
 
+    [[nodiscard]] Session& session() const noexcept { return session_; }
+
     bool recordsAll = false; ///< Keeps every message; otherwise only those that failed.
     std::vector<SentMessage> sent;
 
@@ -53,7 +55,7 @@ private:
                    SPMessageData& message, std::string_view detail, AIUndoContextKind kind);
     void closeWhatIsLeft(const std::string& name, AIAppContextHandle context, std::size_t depth);
 
-    SuiteServer& suites_;
+    Session& session_;
     const Plugins& plugins_;
     Contexts& contexts_;
     std::function<void()> settled_;

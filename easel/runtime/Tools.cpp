@@ -61,7 +61,7 @@ void Tools::send(const char* selector, AIToolHandle handle, const MousePoint* mo
     const Tool* const found = tools.find(handle); // the host's own tools get no messages
     if (found == nullptr) return;
     const Tool& tool = *found;
-    if (mouse != nullptr && session().current == nullptr) return; // its window is gone
+    if (mouse != nullptr && session_.current == nullptr) return; // its window is gone
     AIToolMessage message{};
     AIEvent event{};
     message.tool = handle;
@@ -109,13 +109,13 @@ void Tools::press(const MousePoint& mouse) {
     const Tool& tool = tools.at(current);
     gesture_ = sender_.begin(tool.plugin);
     gestureTool_ = current; // keeps the gesture, whatever tool it chooses meanwhile
-    currentDocument().undo().setTexts("Undo " + tool.title, "Redo " + tool.title);
+    session_.document().undo().setTexts("Undo " + tool.title, "Redo " + tool.title);
     send(kSelectorMouseDown, gestureTool_, &mouse, kDownEvent);
 }
 
 void Tools::pressPen(const MousePoint& mouse) {
     if (currentBuiltIn != kPenTool) return;
-    Document& document = currentDocument();
+    Document& document = session_.document();
     gesture_ = sender_.begin(nullptr);
     document.undo().setTexts("Undo Pen", "Redo Pen");
     pen_.press(document, mouse.at);

@@ -46,8 +46,10 @@ struct MousePoint {
 /// hand that holds one of them.
 class Tools {
 public:
-    Tools(Sender& sender, Notifiers& notifiers, const Views& views, const Clock& clock)
-        : sender_(sender), notifiers_(notifiers), views_(views), clock_(clock) {}
+    Tools(Session& session, Sender& sender, Notifiers& notifiers, const Views& views,
+          const Clock& clock)
+        : session_(session), sender_(sender), notifiers_(notifiers), views_(views), clock_(clock),
+          pen_(session) {}
 
     /// Null chooses the built-in tool `builtIn`.
     void select(AIToolHandle tool, AIToolType builtIn);
@@ -91,6 +93,7 @@ private:
     void changeDiameter(bool larger);
     void pressPen(const MousePoint& mouse);
 
+    Session& session_;
     Sender& sender_;
     Notifiers& notifiers_;
     const Views& views_;

@@ -21,12 +21,12 @@ void Views::open(Document& document) {
 }
 
 AIDocumentViewHandle Views::current() const {
-    return findIf([](const DocumentView& each) { return each.document == session().current; });
+    return findIf([this](const DocumentView& each) { return each.document == session_.current; });
 }
 
 DocumentView& Views::shown(AIDocumentViewHandle handle) const {
     if (handle != nullptr) return at(handle);
-    static_cast<void>(currentDocument());
+    static_cast<void>(session_.document());
     return at(current());
 }
 

@@ -19,12 +19,17 @@ struct DocumentView {
 /// The windows, one a document.
 class Views : public Registry<AIDocumentViewHandle, DocumentView> {
 public:
+    explicit Views(const Session& session) noexcept : session_(session) {}
+
     /// Shows the document's artboard in the middle of a new window.
     void open(Document& document);
     /// That of the current document; null when there is none.
     [[nodiscard]] AIDocumentViewHandle current() const;
     /// Null means the current one. Throws 'DOC?' when there is none, 'PARM' for a dead one.
     [[nodiscard]] DocumentView& shown(AIDocumentViewHandle view) const;
+
+private:
+    const Session& session_;
 };
 
 inline constexpr AIReal kLeastZoom = 1.0F / 32;

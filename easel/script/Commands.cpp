@@ -31,7 +31,7 @@ Action readNew(Arguments& arguments) {
         throw Mistake("a page is 1 to 16383 points wide and high");
     return [=](Player& player) {
         const AISize size{static_cast<AIReal>(width), static_cast<AIReal>(height)};
-        player.host().open(std::make_unique<Document>(size));
+        player.host().open(std::make_unique<Document>(player.host().session, size));
     };
 }
 
@@ -325,7 +325,7 @@ Action readHost(Arguments& arguments) {
         names.push_back(each.name);
     const SwitchName& named = switchNames()[arguments.choice("thing that hosts differ in", names)];
     const bool on = arguments.choice("state", kSwitch) == 1;
-    return [&named, on](Player&) { switches().*named.value = on; };
+    return [&named, on](Player& player) { player.switches().*named.value = on; };
 }
 
 Action readAnswer(Arguments& arguments) {

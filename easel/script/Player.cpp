@@ -28,9 +28,10 @@ ai::uint16 modifiersOf(const HeldKeys& keys) {
 
 } // namespace
 
-Player::Player(PlayerSettings settings)
-    : settings_(std::move(settings)), session_(std::make_unique<DrawingSession>()) {
-    switches() = settings_.host;
+Player::Player(Session& session, PlayerSettings settings)
+    : all_(session), settings_(std::move(settings)),
+      session_(std::make_unique<DrawingSession>(session)) {
+    session.switches = settings_.host;
 }
 
 void Player::start() {
@@ -55,9 +56,9 @@ Host& Player::host() { return session().host; }
 
 Document& Player::document() {
     static_cast<void>(host());
-    if (easel::session().current == nullptr)
+    if (all_.current == nullptr)
         throw SessionError("no drawing is open; \"open\" or \"new\" makes one");
-    return currentDocument();
+    return *all_.current;
 }
 
 DocumentView& Player::view() {
@@ -75,7 +76,7 @@ void Player::restart() {
     const std::vector<std::string> complaints = finish();
     Preferences kept = preferences();
     session_.reset(); // before the next: one host exists at a time
-    session_ = std::make_unique<DrawingSession>();
+    session_ = std::make_unique<DrawingSession>(all_);
     session_->host.preferences = std::move(kept);
     shown_.clear();
     snapsBefore_ = messagesSeen_ = alertsSeen_ = 0;
@@ -101,7 +102,7 @@ void Player::beginCommand(const HeldKeys& keys) {
 void Player::endCommand() {
     if (!started_) return;
     Host& host = session_->host;
-    if (easel::session().current == nullptr)
+    if (all_.current == nullptr)
         shown_.clear();
     else if (host.needsRedraw())
         shown_ = host.drawAnnotations(nullptr);
@@ -191,7 +192,7 @@ std::filesystem::path Player::output(const std::string& name) const {
 }
 
 std::filesystem::path Player::keepPicture(int line) {
-    if (!started_ || easel::session().current == nullptr) return {};
+    if (!started_ || all_.current == nullptr) return {};
     const std::filesystem::path file = output(settings_.name + '-' + std::to_string(line) + ".png");
     paint::writePng(picture(1.0), file);
     return file;

@@ -31,10 +31,12 @@ struct PlayerSettings {
 /// forgets to ask for stays as it was, as it would on screen.
 class Player {
 public:
-    explicit Player(PlayerSettings settings);
+    Player(Session& session, PlayerSettings settings);
 
     /// For settings that are made before the plug-in starts.
     [[nodiscard]] Preferences& preferences() noexcept { return session_->host.preferences; }
+    /// What kind of host it is; that can change at any time.
+    [[nodiscard]] Switches& switches() noexcept { return all_.switches; }
     /// The host with its plug-in started.
     [[nodiscard]] Host& host();
     [[nodiscard]] DrawingSession& session();
@@ -91,6 +93,7 @@ private:
     void start();
     void takeOverClocks();
 
+    Session& all_;
     PlayerSettings settings_;
     std::unique_ptr<DrawingSession> session_;
     bool started_ = false;

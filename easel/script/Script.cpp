@@ -174,8 +174,9 @@ Script readScript(std::string_view text, const std::string& name) {
     return script;
 }
 
-Outcome play(const Script& script, const std::string& name, PlayerSettings settings) {
-    Player player{std::move(settings)};
+Outcome play(Session& session, const Script& script, const std::string& name,
+             PlayerSettings settings) {
+    Player player{session, std::move(settings)};
     Run run{script, name, player};
     serveUser([&run] { return run.next(); });
     run.finish();

@@ -30,6 +30,7 @@ struct Outcome {
 /// Plays a script without mistakes. An expectation that is not met keeps the picture and lets the
 /// script go on; a command that cannot be done ends it. What is wrong with the session as a whole,
 /// such as references that were not released, is a failure of the last line.
-[[nodiscard]] Outcome play(const Script& script, const std::string& name, PlayerSettings settings);
+[[nodiscard]] Outcome play(Session& session, const Script& script, const std::string& name,
+                           PlayerSettings settings);
 
 } // namespace easel::script

@@ -1,11 +1,10 @@
 #include "easel/session/DrawingSession.h"
 
-#include "easel/suites/Suites.h"
 #include "easel/svg/SvgFile.h"
 
 namespace easel {
 
-DrawingSession::DrawingSession(HostSettings settings) : host(installedSuites(), settings) {}
+DrawingSession::DrawingSession(Session& session, HostSettings settings) : host(session, settings) {}
 
 DrawingSession::~DrawingSession() {
     if (running_) host.quit();
@@ -24,7 +23,7 @@ void DrawingSession::start() {
 }
 
 std::vector<std::string> DrawingSession::open(const std::filesystem::path& file) {
-    svg::OpenedDrawing drawing = svg::readSvg(file);
+    svg::OpenedDrawing drawing = svg::readSvg(host.session, file);
     drawing.document->path = file;
     host.open(std::move(drawing.document));
     return std::move(drawing.warnings);
@@ -35,7 +34,7 @@ std::vector<std::string> DrawingSession::save(const std::filesystem::path& file,
     host.beforeSaving();
     std::vector<std::string> warnings;
     OutputFile output{file};
-    output.prepare(svg::svgText(currentDocument(), &warnings));
+    output.prepare(svg::svgText(host.session.document(), &warnings));
     output.commit();
     if (together != nullptr) together->commit();
     host.afterSaving();

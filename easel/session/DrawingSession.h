@@ -31,7 +31,7 @@ struct DrawingPoint {
 /// Failures throw `SessionError`, or what is wrong with a file (`FileError`).
 class DrawingSession {
 public:
-    explicit DrawingSession(HostSettings settings = {});
+    explicit DrawingSession(Session& session, HostSettings settings = {});
     /// Quits the plug-ins in order if `finish` has not: a failure ends no session halfway.
     ~DrawingSession();
     DrawingSession(const DrawingSession&) = delete;

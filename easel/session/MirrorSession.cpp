@@ -68,7 +68,7 @@ void MirrorSession::prepare(const MirrorRequest& request) {
 }
 
 void MirrorSession::choose(const MirrorRequest& request) {
-    Document& document = currentDocument();
+    Document& document = host.session.document();
     Art* const layer = request.layer.empty() ? nullptr : &layerNamed(document, request.layer);
     if (request.mode == MirrorMode::Layer) {
         if (layer == nullptr) return;
@@ -100,7 +100,7 @@ void MirrorSession::mirror(const MirrorRequest& request) {
     const std::size_t before = host.sent.size();
     choose(request);
     host.cursorSnap.enabled = false; // the origin is exactly where it was asked for
-    const MousePoint origin{originOf(request, currentDocument())};
+    const MousePoint origin{originOf(request, host.session.document())};
     host.selectTool(tool);
     host.track(origin);
     host.press(origin);

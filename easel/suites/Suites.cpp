@@ -1,20 +1,18 @@
 #include "easel/suites/Suites.h"
 
-#include "easel/core/SuiteServer.h"
 #include "easel/suites/art/ArtSuites.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 
 namespace easel {
 
-SuiteServer& installedSuites() {
-    static SuiteServer server;
+Session& sessionWithSuites() {
     static const bool installed = [] {
-        installRuntimeSuites(server);
-        installArtSuites(server);
+        installRuntimeSuites(session().suites);
+        installArtSuites(session().suites);
         return true;
     }();
     static_cast<void>(installed);
-    return server;
+    return session();
 }
 
 } // namespace easel

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "easel/document/Session.h"
+
 namespace easel {
 
-class SuiteServer;
-
-/// Every suite that Easel has, ready for a host to offer. Tables are made once and never move,
-/// because the functions in them exist once in a process.
-[[nodiscard]] SuiteServer& installedSuites();
+/// The session of this process with every suite that Easel has, ready for a host to offer. Tables
+/// are made once and never move, because the functions in them exist once in a process.
+[[nodiscard]] Session& sessionWithSuites();
 
 } // namespace easel

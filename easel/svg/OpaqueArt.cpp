@@ -234,7 +234,7 @@ ArtBuilder::drawingOf(const Element& referring, NodeIndex target, const Context&
     const Exchanged exchanged{state_.path, std::move(ancestors)};
 
     auto content = std::make_shared<DrawingContent>();
-    content->drawing = std::make_unique<Document>(AISize{1, 1}, FirstLayer::Yes);
+    content->drawing = std::make_unique<Document>(state_.session, AISize{1, 1}, FirstLayer::Yes);
     ArtBuilder builder{state_, *content->drawing, nullptr, Point{}};
     Art& layer = *content->drawing->root().firstChild();
     const Element element{state_.tree, target};

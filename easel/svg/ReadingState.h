@@ -29,8 +29,9 @@ struct Context {
 /// definitions, and how much more may be read.
 class ReadingState {
 public:
-    explicit ReadingState(std::string drawing)
-        : text(std::make_shared<const XmlTree>(std::move(drawing))), tree(*text) {}
+    ReadingState(Session& itsSession, std::string drawing)
+        : session(itsSession), text(std::make_shared<const XmlTree>(std::move(drawing))),
+          tree(*text) {}
 
     /// Counts one more element; throws SvgError where the limits are passed.
     void countElement(const Element& element);
@@ -39,6 +40,7 @@ public:
     /// Says each thing about an element once.
     void warn(const Element& element, const std::string& message);
 
+    Session& session; ///< Of the documents that are made.
     std::shared_ptr<const XmlTree> text;
     const XmlTree& tree;
     StyleSheet sheet;

@@ -28,10 +28,11 @@ struct OpenedDrawing {
     std::vector<std::string> warnings;
 };
 
-/// Throws FileError.
-[[nodiscard]] OpenedDrawing readSvg(const std::filesystem::path& file);
+/// A document of `session`. Throws FileError.
+[[nodiscard]] OpenedDrawing readSvg(Session& session, const std::filesystem::path& file);
 /// The same for a text; `name` is what messages call it.
-[[nodiscard]] OpenedDrawing readSvgText(std::string text, const std::string& name);
+[[nodiscard]] OpenedDrawing readSvgText(Session& session, std::string text,
+                                        const std::string& name);
 
 /// The drawing as a text. `warnings` gets what is left out, one line each: "LINE: ...".
 [[nodiscard]] std::string svgText(const Document& document,

@@ -51,7 +51,7 @@ Artboard artboardOf(const Element& root) {
 /// Reads one file into a new document.
 class SvgReader {
 public:
-    explicit SvgReader(std::string text) : state_(std::move(text)) {}
+    SvgReader(Session& session, std::string text) : state_(session, std::move(text)) {}
 
     std::unique_ptr<Document> read() {
         const Element root{state_.tree, state_.tree.root()};
@@ -62,6 +62,7 @@ public:
         gatherStyleSheets();
         const Artboard artboard = artboardOf(root);
         document_ = std::make_unique<Document>(
+            state_.session,
             AISize{static_cast<AIReal>(artboard.size.x), static_cast<AIReal>(artboard.size.y)},
             FirstLayer::No);
         auto source = std::make_shared<DrawingSource>();
@@ -214,19 +215,19 @@ std::string readWhole(const std::filesystem::path& file) {
 
 } // namespace
 
-OpenedDrawing readSvg(const std::filesystem::path& file) {
-    OpenedDrawing opened = readSvgText(readWhole(file), file.string());
+OpenedDrawing readSvg(Session& session, const std::filesystem::path& file) {
+    OpenedDrawing opened = readSvgText(session, readWhole(file), file.string());
     opened.document->path = file;
     return opened;
 }
 
-OpenedDrawing readSvgText(std::string text, const std::string& name) {
+OpenedDrawing readSvgText(Session& session, std::string text, const std::string& name) {
     const std::string prefix = name + ':';
     OpenedDrawing opened;
     try {
         if (text.find('\0') != std::string::npos)
             throw SvgError(1, "this is no text; an SVG file is XML in UTF-8");
-        SvgReader reader{std::move(text)};
+        SvgReader reader{session, std::move(text)};
         opened.document = reader.read();
         for (const std::string& warning : reader.warnings())
             opened.warnings.push_back(prefix + warning);

@@ -15,7 +15,7 @@ std::string infoOn(const std::string& text, bool json) {
     const auto file = std::filesystem::temp_directory_path() / "easel-info-test.svg";
     std::ofstream{file, std::ios::binary} << text;
     std::ostringstream out;
-    CHECK(runInfo({file, json}, out) == 0);
+    CHECK(runInfo(easel::session(), {file, json}, out) == 0);
     std::filesystem::remove(file);
     const std::string name = file.string();
     std::string result = out.str();
@@ -61,6 +61,6 @@ TEST_CASE("info as JSON holds the same") {
 
 TEST_CASE("info on a file that is none says so") {
     std::ostringstream out;
-    CHECK_THROWS_AS(runInfo({"no-such-file.svg", false}, out), svg::FileError);
+    CHECK_THROWS_AS(runInfo(easel::session(), {"no-such-file.svg", false}, out), svg::FileError);
     CHECK(out.str().empty());
 }

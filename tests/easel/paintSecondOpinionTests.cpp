@@ -1,4 +1,5 @@
 #include "easel/document/ArtTree.h"
+#include "easel/document/Session.h"
 #include "easel/document/TransformArt.h"
 #include "easel/paint/PaintDocument.h"
 #include "easel/svg/SvgFile.h"
@@ -147,7 +148,7 @@ TEST_CASE("another program paints drawings as we do") {
     };
     for (const auto& row : rows) {
         INFO(std::string{row.drawing});
-        const svg::OpenedDrawing opened = svg::readSvg(row.drawing);
+        const svg::OpenedDrawing opened = svg::readSvg(easel::session(), row.drawing);
         paint::PaintOptions options;
         options.background = paint::Colour{1, 1, 1, 1};
         const auto ours = comparison.folder / "ours.png";
@@ -165,7 +166,7 @@ TEST_CASE("each trap is saved as it stands, and another program sees its mirrore
     for (const auto& entry : std::filesystem::directory_iterator{"tests/easel/traps"}) {
         const std::string name = entry.path().filename().string();
         INFO(name);
-        const svg::OpenedDrawing opened = svg::readSvg(entry.path());
+        const svg::OpenedDrawing opened = svg::readSvg(easel::session(), entry.path());
         const auto saved = comparison.folder / "saved.svg";
         svg::writeSvg(*opened.document, saved);
         CHECK(contentOf(saved) == contentOf(entry.path()));

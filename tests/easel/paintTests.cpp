@@ -1,4 +1,5 @@
 #include "easel/document/ArtTree.h"
+#include "easel/document/Session.h"
 #include "easel/document/TransformArt.h"
 #include "easel/paint/PaintDocument.h"
 #include "easel/svg/SvgFile.h"
@@ -16,7 +17,8 @@ using namespace easel::paint;
 namespace {
 
 svg::OpenedDrawing open(const std::string& content) {
-    return svg::readSvgText("<svg viewBox='0 0 40 40'>" + content + "</svg>", "x");
+    return svg::readSvgText(easel::session(), "<svg viewBox='0 0 40 40'>" + content + "</svg>",
+                            "x");
 }
 
 Picture painted(const std::string& content) { return paintDocument(*open(content).document); }

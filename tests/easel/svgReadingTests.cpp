@@ -1,5 +1,6 @@
 #include "easel/document/Bounds.h"
 #include "easel/document/Layers.h"
+#include "easel/document/Session.h"
 #include "easel/svg/Content.h"
 #include "easel/svg/SvgFile.h"
 
@@ -15,7 +16,7 @@ namespace {
 constexpr const char* kSvg = R"(<svg viewBox="0 0 100 100" xmlns:inkscape="i" xmlns:sodipodi="s">)";
 
 OpenedDrawing open(const std::string& content) {
-    return readSvgText(kSvg + content + "</svg>", "x");
+    return readSvgText(easel::session(), kSvg + content + "</svg>", "x");
 }
 
 const Art& topArt(const OpenedDrawing& opened) {
@@ -34,7 +35,7 @@ std::string boundsText(const Art& art) {
 
 std::string messageFor(const std::string& text) {
     try {
-        static_cast<void>(readSvgText(text, "a.svg"));
+        static_cast<void>(readSvgText(easel::session(), text, "a.svg"));
         return "no error";
     } catch (const FileError& error) {
         return error.what();
@@ -175,8 +176,8 @@ TEST_CASE("an empty drawing has one layer, and the current one can be worked on"
 }
 
 TEST_CASE("soft coordinates start at the drawing's origin, y upwards") {
-    const auto opened =
-        readSvgText("<svg viewBox='10 20 100 50'><path d='M10 20L30 40'/></svg>", "x");
+    const auto opened = readSvgText(
+        easel::session(), "<svg viewBox='10 20 100 50'><path d='M10 20L30 40'/></svg>", "x");
     const auto segments = topArt(opened).segments();
     CHECK(segments[0].p.h == 10);
     CHECK(segments[0].p.v == -20);

@@ -1,6 +1,7 @@
 #include "easel/document/ArtTree.h"
 #include "easel/document/Dump.h"
 #include "easel/document/Layers.h"
+#include "easel/document/Session.h"
 #include "easel/document/TransformArt.h"
 #include "easel/svg/SvgFile.h"
 
@@ -25,7 +26,7 @@ std::string file(const std::string& content) { return kHead + content + "\n</svg
 
 /// Saves and opens: the model must be the same.
 void checkStable(const Document& document) {
-    const OpenedDrawing again = readSvgText(svgText(document), "saved");
+    const OpenedDrawing again = readSvgText(easel::session(), svgText(document), "saved");
     CHECK(dump(*again.document) == dump(document));
 }
 
@@ -98,7 +99,7 @@ TEST_CASE("drawings of all kinds are the same after changing, saving and opening
     for (const char* content : contents)
         for (const Change& change : kChanges) {
             INFO((std::string{content} + ": " + change.name));
-            const OpenedDrawing opened = readSvgText(file(content), "x");
+            const OpenedDrawing opened = readSvgText(easel::session(), file(content), "x");
             Document& document = *opened.document;
             for (Art* art : topArt(document))
                 change.make(*art);
@@ -183,7 +184,7 @@ TEST_CASE("what was not touched is not changed") {
     };
     for (const auto& row : rows) {
         INFO(std::string{row.what});
-        const OpenedDrawing opened = readSvgText(file(row.before), "x");
+        const OpenedDrawing opened = readSvgText(easel::session(), file(row.before), "x");
         row.change(*opened.document);
         CHECK(svgText(*opened.document) == file(row.after));
         checkStable(*opened.document);
@@ -191,8 +192,8 @@ TEST_CASE("what was not touched is not changed") {
 }
 
 TEST_CASE("what a copy cannot carry is told once") {
-    const OpenedDrawing opened =
-        readSvgText(file("\n<path d='M0 0H1'><animate attributeName='d'/></path>"), "x");
+    const OpenedDrawing opened = readSvgText(
+        easel::session(), file("\n<path d='M0 0H1'><animate attributeName='d'/></path>"), "x");
     Art& art = firstArt(*opened.document);
     for (int i = 0; i < 2; ++i)
         duplicateArt(art, onTopOf(*art.parent()));
@@ -203,7 +204,7 @@ TEST_CASE("what a copy cannot carry is told once") {
 }
 
 TEST_CASE("what a plug-in made survives") {
-    const auto opened = readSvgText(file("<path d='M0 0C1 2 3 4 5 6'/>"), "x");
+    const auto opened = readSvgText(easel::session(), file("<path d='M0 0C1 2 3 4 5 6'/>"), "x");
     Document& document = *opened.document;
     Art& layer = *document.root().firstChild();
     Art& path = firstArt(document);
@@ -243,13 +244,13 @@ TEST_CASE("what a plug-in made survives") {
 }
 
 TEST_CASE("temporary entries are not kept") {
-    const auto opened = readSvgText(file("<path d='M0 0H1'/>"), "x");
+    const auto opened = readSvgText(easel::session(), file("<path d='M0 0H1'/>"), "x");
     firstArt(*opened.document).dictionary().set(internKey("-now"), Value{ai::int32{1}});
     CHECK(svgText(*opened.document).find("-now") == std::string::npos);
 }
 
 TEST_CASE("a moved ruler origin is kept, and the drawing stays where it is") {
-    const auto opened = readSvgText(file("<path d='M10 20L30 45.5'/>"), "x");
+    const auto opened = readSvgText(easel::session(), file("<path d='M10 20L30 45.5'/>"), "x");
     const AIRealPoint origin = opened.document->state().rulerOrigin;
     opened.document->setRulerOrigin({origin.h + 7.5F, origin.v - 3});
     CHECK(svgText(*opened.document).find("M10 20L30 45.5") != std::string::npos);
@@ -258,7 +259,8 @@ TEST_CASE("a moved ruler origin is kept, and the drawing stays where it is") {
 
 TEST_CASE("a mirrored copy's gradient is mirrored with it, for others as well") {
     const auto opened =
-        readSvgText(file("<linearGradient id='a' gradientUnits='userSpaceOnUse' x2='50'><stop/>"
+        readSvgText(easel::session(),
+                    file("<linearGradient id='a' gradientUnits='userSpaceOnUse' x2='50'><stop/>"
                          "<stop offset='1' stop-color='red'/></linearGradient>"
                          "<path d='M0 0H50V50Z' fill='url(#a)'/>"),
                     "x");
@@ -272,9 +274,9 @@ TEST_CASE("a mirrored copy's gradient is mirrored with it, for others as well") 
 }
 
 TEST_CASE("a document that no file was read for can be saved") {
-    Document document{AISize{200, 100}};
+    Document document{easel::session(), AISize{200, 100}};
     Art& path = createArt(document, kPathArt, onTopOf(*document.root().firstChild()));
     path.write().segments = Cow<Segments>{{{{1, -2}, {1, -2}, {1, -2}, 1}}};
-    const OpenedDrawing again = readSvgText(svgText(document), "x");
+    const OpenedDrawing again = readSvgText(easel::session(), svgText(document), "x");
     CHECK(dump(*again.document) == dump(document));
 }

@@ -3,6 +3,7 @@
 #include "easel/document/Session.h"
 #include "easel/paint/PaintDocument.h"
 #include "easel/session/MirrorSession.h"
+#include "easel/suites/Suites.h"
 
 #include <doctest/doctest.h>
 
@@ -71,7 +72,7 @@ Picture painted(double scale) {
     easel::paint::PaintOptions options;
     options.scale = scale;
     options.background = easel::paint::Colour{1, 1, 1, 1};
-    return pixelsOf(easel::paint::paintDocument(easel::currentDocument(), options));
+    return pixelsOf(easel::paint::paintDocument(easel::session().document(), options));
 }
 
 Pictures mirroredPictures(const Example& example, const Axes& axes) {
@@ -81,7 +82,7 @@ Pictures mirroredPictures(const Example& example, const Axes& axes) {
     request.layer = example.liveLayer;
     if (!example.liveLayer.empty()) request.mode = easel::MirrorMode::Layer;
 
-    easel::MirrorSession session;
+    easel::MirrorSession session{easel::sessionWithSuites()};
     easel::addPluginLibrary(session.host, FACETTA_PLUGIN_FILE);
     session.prepare(request);
     session.start();

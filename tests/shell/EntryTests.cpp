@@ -33,9 +33,9 @@ TEST_CASE("before start-up and after shut-down messages do nothing and succeed")
         CHECK(session.record().globals == nullptr);
         CHECK(session.host.user.alerts.empty());
     };
-    const auto calls = easel::hostCalls().total();
+    const auto calls = easel::session().calls.total();
     sendAll();
-    CHECK(easel::hostCalls().total() == calls);
+    CHECK(easel::session().calls.total() == calls);
     session.host.start();
     session.host.quit();
     sendAll();
@@ -100,7 +100,7 @@ TEST_CASE("whichever suite is refused, start-up fails with the host's code and g
         INFO("acquisition ", refused);
         Session session;
         session.startUpMayFail = true;
-        easel::installedSuites().refuseAcquisition(refused);
+        easel::sessionWithSuites().suites.refuseAcquisition(refused);
         const SPErr result = session.send(kCallerInterface, kSelectorStartup);
         const bool optional =
             (refused <= kToolkitSuites && refused != kNotifiers) || refused == suites;
@@ -133,7 +133,7 @@ TEST_CASE("a host with another version of the same slots is served, and gets tha
     };
     for (const auto& offer : offers) {
         INFO(std::string(offer.suite), ' ', offer.offered);
-        easel::installedSuites().renumber(offer.suite, offer.wanted, offer.offered);
+        easel::sessionWithSuites().suites.renumber(offer.suite, offer.wanted, offer.offered);
         {
             Session session;
             session.startUpMayFail = true;
@@ -143,9 +143,9 @@ TEST_CASE("a host with another version of the same slots is served, and gets tha
                 session.send(kCallerAccess, kSelectorReload, SPAccessMessage{});
                 session.send(kCallerInterface, kSelectorShutdown);
             }
-            CHECK(easel::installedSuites().outstanding().empty());
+            CHECK(easel::sessionWithSuites().suites.outstanding().empty());
         }
-        easel::installedSuites().renumber(offer.suite, offer.offered, offer.wanted);
+        easel::sessionWithSuites().suites.renumber(offer.suite, offer.offered, offer.wanted);
     }
 }
 
@@ -154,10 +154,10 @@ TEST_CASE("whichever host call fails, start-up ends tidily and at most one alert
     std::vector<std::string> fallible;
     {
         Session session;
-        easel::hostCalls().setRecording(true);
+        easel::session().calls.setRecording(true);
         session.send(kCallerInterface, kSelectorStartup);
-        easel::hostCalls().setRecording(false);
-        for (const easel::SlotRecord* slot : easel::hostCalls().recorded())
+        easel::session().calls.setRecording(false);
+        for (const easel::SlotRecord* slot : easel::session().calls.recorded())
             if (slot->returnsError) fallible.push_back(slot->name);
         session.send(kCallerInterface, kSelectorShutdown);
     }
@@ -168,13 +168,13 @@ TEST_CASE("whichever host call fails, start-up ends tidily and at most one alert
         INFO("host call ", call, ": ", name);
         Session session;
         session.startUpMayFail = true;
-        easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::Once,
-                                .call = call,
-                                .function = {},
-                                .code = kBadParameterErr});
+        easel::session().calls.arm({.mode = easel::FaultPlan::Mode::Once,
+                                    .call = call,
+                                    .function = {},
+                                    .code = kBadParameterErr});
         const SPErr result = session.send(kCallerInterface, kSelectorStartup);
-        CHECK(easel::hostCalls().fired());
-        easel::hostCalls().disarm();
+        CHECK(easel::session().calls.fired());
+        easel::session().calls.disarm();
         CHECK((result == kNoErr) == (session.record().globals != nullptr));
         CHECK(session.host.user.alerts.size() <= 1);
         if (result != kNoErr) continue;
@@ -219,12 +219,12 @@ namespace {
 /// panel is shown; the tool holds a reference of the host's; a setting has been changed.
 struct Unheld {
     Unheld() : session({}, {.strictAccessMessages = true, .recordMessages = false}) {
-        easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::Once,
-                                .call = 1,
-                                .function = "SP Access Suite.AcquirePlugin",
-                                .code = kSPCantAcquirePluginError});
+        easel::session().calls.arm({.mode = easel::FaultPlan::Mode::Once,
+                                    .call = 1,
+                                    .function = "SP Access Suite.AcquirePlugin",
+                                    .code = kSPCantAcquirePluginError});
         session.host.start();
-        easel::hostCalls().disarm();
+        easel::session().calls.disarm();
         session.openDocument();
         session.host.chooseMenuItem(thePlugin->menuItems.panel);
         REQUIRE(ai::suites.artSet->NewArtSet(thePlugin->tool.repositionArt.put()) == kNoErr);
@@ -262,16 +262,16 @@ TEST_CASE("settings outlive a host that goes on refusing suites") {
     Session& session = unheld.session;
     const AIArtSet leftBehind = unheld.plugin->tool.repositionArt.get();
     session.send(kCallerAccess, kSelectorUnload, SPAccessMessage{});
-    easel::installedSuites().renumber("AI Mesh Suite", 5, 6);
+    easel::sessionWithSuites().suites.renumber("AI Mesh Suite", 5, 6);
     CHECK(session.send(kCallerAccess, kSelectorReload, SPAccessMessage{}) == kSPSuiteNotFoundError);
     CHECK(session.send(kCallerMenu, kSelectorGo, AIMenuMessage{}) == kNoErr);
     CHECK(session.send(kCallerInterface, kSelectorShutdown) == kNoErr);
     CHECK(storedCount(session) == 7);
-    easel::installedSuites().renumber("AI Mesh Suite", 6, 5);
+    easel::sessionWithSuites().suites.renumber("AI Mesh Suite", 6, 5);
 
     // What no suite could take back the host frees when it ends.
     const void* const functions =
-        easel::installedSuites().functions(kAIArtSetSuite, kAIArtSetSuiteVersion);
+        easel::sessionWithSuites().suites.functions(kAIArtSetSuite, kAIArtSetSuiteVersion);
     AIArtSet set = leftBehind;
     static_cast<const AIArtSetSuite*>(functions)->DisposeArtSet(&set);
 }

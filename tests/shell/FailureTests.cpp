@@ -13,14 +13,14 @@ TEST_CASE("a failure is shown once, and again for another code") {
     session.host.start();
     session.openDocument();
     const auto failWith = [&](AIErr code) {
-        easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::FromThenOn,
-                                .call = 1,
-                                .function = "AI Art Set Suite.NewArtSet",
-                                .code = code});
+        easel::session().calls.arm({.mode = easel::FaultPlan::Mode::FromThenOn,
+                                    .call = 1,
+                                    .function = "AI Art Set Suite.NewArtSet",
+                                    .code = code});
         AIToolMessage message{};
         message.tool = thePlugin->toolHandle;
         CHECK(session.send(kCallerTool, kSelectorSelect, message) == code);
-        easel::hostCalls().disarm();
+        easel::session().calls.disarm();
     };
     const auto& alerts = session.host.user.alerts;
     failWith(kOutOfMemoryErr);

@@ -42,7 +42,7 @@ public:
 
 /// A session in which the host unloads the library at will, though its panel holds it.
 struct Session {
-    Session() : host(easel::installedSuites()) {
+    Session() : host(easel::sessionWithSuites()) {
         host.user.browserAvailable = false;
         host.addPlugins(installed.library());
         host.start();
@@ -74,7 +74,7 @@ TEST_CASE("the library is loaded at another address, and what was there before i
 TEST_CASE("axes on screen outlive the library's place in memory") {
     Session session;
     Host& host = session.host;
-    host.open(std::make_unique<easel::Document>(AISize{400, 400}));
+    host.open(std::make_unique<easel::Document>(easel::session(), AISize{400, 400}));
     const AIToolType tool = host.tools.numberOf("Facetta Tool");
     host.selectTool(host.tools.handleOf(tool), tool);
     const auto drag = [&](AIRealPoint from, AIRealPoint to) {

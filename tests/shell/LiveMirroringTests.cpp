@@ -19,7 +19,7 @@ using Switch = bool easel::Switches::*;
 class LiveDrawing : public Session {
 public:
     explicit LiveDrawing(const easel::Switches& switches = {}) {
-        easel::switches() = switches;
+        easel::session().switches = switches;
         host.start();
         openDocument();
         draw();
@@ -29,7 +29,7 @@ public:
         });
     }
     ~LiveDrawing() {
-        easel::switches() = {};
+        easel::session().switches = {};
         platform::headless::surroundings() = {};
     }
     LiveDrawing(const LiveDrawing&) = delete;
@@ -64,9 +64,9 @@ public:
             host.idle();
         }
     }
-    [[nodiscard]] static std::string text() { return easel::dump(easel::currentDocument()); }
+    [[nodiscard]] static std::string text() { return easel::dump(easel::session().document()); }
     [[nodiscard]] static std::ptrdiff_t paths() {
-        const Art& layer = *easel::currentDocument().state().currentLayer;
+        const Art& layer = *easel::session().document().state().currentLayer;
         std::ptrdiff_t count = 0;
         for (const Art* art = layer.firstChild(); art != nullptr; art = art->next())
             ++count;
@@ -133,10 +133,10 @@ TEST_CASE("opening a drawing with a live layer leaves it as it was saved") {
         easel::Switches switches;
         switches.stampsCoverDescendants = covers;
         LiveDrawing drawing{switches};
-        easel::Document& first = easel::currentDocument();
+        easel::Document& first = easel::session().document();
         drawing.openDocument();
         drawing.settle();
-        easel::Document& second = easel::currentDocument();
+        easel::Document& second = easel::session().document();
         second.setModified(false);
         drawing.host.activate(first);
         drawing.settle();

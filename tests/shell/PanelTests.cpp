@@ -62,27 +62,27 @@ TEST_CASE("menu commands succeed whatever the host makes of them") {
     message.menuItem = thePlugin->menuItems.panel;
     for (const char* function : {"AI Panel Suite.Show", "AI Menu Suite.CheckItem"}) {
         INFO(function);
-        easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::FromThenOn,
-                                .call = 1,
-                                .function = function,
-                                .code = kBadParameterErr});
+        easel::session().calls.arm({.mode = easel::FaultPlan::Mode::FromThenOn,
+                                    .call = 1,
+                                    .function = function,
+                                    .code = kBadParameterErr});
         CHECK(session.send(kCallerMenu, kSelectorGo, message) == kNoErr);
         CHECK(session.send(kCallerMenu, kSelectorUpdate, message) == kNoErr);
-        CHECK(easel::hostCalls().fired());
-        easel::hostCalls().disarm();
+        CHECK(easel::session().calls.fired());
+        easel::session().calls.disarm();
     }
     CHECK(session.host.user.alerts.empty());
 }
 
 TEST_CASE("without a panel the tool works, and the user is told") {
     Session session;
-    easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::Once,
-                            .call = 1,
-                            .function = "AI Panel Suite.Create",
-                            .code = kOutOfMemoryErr});
+    easel::session().calls.arm({.mode = easel::FaultPlan::Mode::Once,
+                                .call = 1,
+                                .function = "AI Panel Suite.Create",
+                                .code = kOutOfMemoryErr});
     session.host.start();
-    CHECK(easel::hostCalls().fired());
-    easel::hostCalls().disarm();
+    CHECK(easel::session().calls.fired());
+    easel::session().calls.disarm();
     CHECK(thePlugin->toolHandle != nullptr);
     REQUIRE(session.host.user.alerts.size() == 1);
     CHECK(session.host.user.alerts.front().text.find("-1") != std::string::npos);

@@ -26,7 +26,8 @@ public:
 private:
     static void** slotsOf(const char* suite, ai::int32 version) {
         // The host's tables are constant for its plug-ins only.
-        void* const table = const_cast<void*>(easel::installedSuites().functions(suite, version));
+        void* const table =
+            const_cast<void*>(easel::sessionWithSuites().suites.functions(suite, version));
         return static_cast<void**>(table);
     }
 

@@ -31,14 +31,14 @@ inline SPErr entry(const char* caller, const char* selector, void* message) {
 class Session {
 public:
     explicit Session(TestLicence terms = {}, easel::HostSettings settings = {})
-        : licence(std::move(terms)), host(easel::installedSuites(), settings) {
+        : licence(std::move(terms)), host(easel::sessionWithSuites(), settings) {
         currentLicence() = &licence;
         host.user.browserAvailable = false; // tests open no web pages
         plugin = host.addPlugin("Facetta", entry);
     }
     ~Session() {
-        easel::hostCalls().disarm();
-        easel::installedSuites().refuseAcquisition(0);
+        easel::session().calls.disarm();
+        easel::sessionWithSuites().suites.refuseAcquisition(0);
         host.quit();
         for (const std::string& complaint : host.complaints()) {
             const bool expected =
@@ -50,7 +50,7 @@ public:
 
     /// Opens an empty document of 1000 by 800 points.
     easel::Document& openDocument() {
-        return host.open(std::make_unique<easel::Document>(AISize{1000, 800}));
+        return host.open(std::make_unique<easel::Document>(easel::session(), AISize{1000, 800}));
     }
     [[nodiscard]] easel::Plugin& record() const { return host.plugins.at(plugin); }
 

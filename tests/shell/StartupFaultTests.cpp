@@ -12,11 +12,11 @@ namespace {
 /// The names of the calls that start-up makes and that can fail, in order.
 std::vector<std::string> fallibleCalls() {
     Session session;
-    easel::hostCalls().setRecording(true);
+    easel::session().calls.setRecording(true);
     session.host.start();
-    easel::hostCalls().setRecording(false);
+    easel::session().calls.setRecording(false);
     std::vector<std::string> names;
-    for (const easel::SlotRecord* slot : easel::hostCalls().recorded())
+    for (const easel::SlotRecord* slot : easel::session().calls.recorded())
         if (slot->returnsError) names.push_back(slot->name);
     return names;
 }
@@ -31,13 +31,13 @@ TEST_CASE("whichever host call of start-up fails, nothing is kept, and the host 
         {
             Session session;
             session.startUpMayFail = true;
-            easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::Once,
-                                    .call = call,
-                                    .function = {},
-                                    .code = kOutOfMemoryErr});
+            easel::session().calls.arm({.mode = easel::FaultPlan::Mode::Once,
+                                        .call = call,
+                                        .function = {},
+                                        .code = kOutOfMemoryErr});
             session.host.start();
-            CHECK(easel::hostCalls().fired());
-            easel::hostCalls().disarm();
+            CHECK(easel::session().calls.fired());
+            easel::session().calls.disarm();
             session.openDocument();
             CHECK(session.host.user.alerts.size() <= 1);
         }

@@ -29,7 +29,7 @@ std::vector<Calls> recordedCalls() {
     const char* const kept[] = {"Suite.Add", "Suite.Set", "Preference Suite.", "Plug-ins",
                                 "IUAIRealToString"};
     std::vector<Calls> list;
-    for (const easel::SlotRecord* slot : easel::hostCalls().recorded()) {
+    for (const easel::SlotRecord* slot : easel::session().calls.recorded()) {
         const auto isIn = [&](const char* part) {
             return slot->name.find(part) != std::string::npos;
         };
@@ -77,9 +77,9 @@ TEST_CASE("start-up goes step by step") {
         {"AI Panel Suite.SetFlyoutMenuProc", 1},
     };
     Session session;
-    easel::hostCalls().setRecording(true);
+    easel::session().calls.setRecording(true);
     CHECK(session.send("SP Interface", "Startup") == kNoErr);
-    easel::hostCalls().setRecording(false);
+    easel::session().calls.setRecording(false);
     std::vector<Calls> calls = recordedCalls();
     REQUIRE(calls.size() > expected.size()); // the panel is filled
     calls.resize(expected.size());
@@ -249,12 +249,12 @@ TEST_CASE("a failing registration keeps what depends on it from being registered
     for (const auto& row : rows) {
         INFO(row.function, " ", row.call);
         Session session;
-        easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::Once,
-                                .call = row.call,
-                                .function = row.function,
-                                .code = kBadParameterErr});
+        easel::session().calls.arm({.mode = easel::FaultPlan::Mode::Once,
+                                    .call = row.call,
+                                    .function = row.function,
+                                    .code = kBadParameterErr});
         CHECK(session.send("SP Interface", "Startup") == kNoErr);
-        easel::hostCalls().disarm();
+        easel::session().calls.disarm();
         const auto& handles = thePlugin->notifiers;
         CHECK((thePlugin->menuItems.panel != nullptr) == row.panelItem);
         CHECK(handles.size() - static_cast<std::size_t>(std::ranges::count(handles, nullptr)) ==

@@ -159,10 +159,10 @@ TEST_CASE("guides belong to the top-level layer, and mirroring makes no copies o
 
 TEST_CASE("without a document there are no guides") {
     EngineFixture fixture;
-    easel::setCurrentDocument(nullptr);
+    easel::session().current = nullptr;
     CHECK_FALSE(layerHasAxisGuides());
     CHECK_FALSE(removeAxisGuides(nullptr, false));
-    easel::setCurrentDocument(&fixture.document());
+    easel::session().current = &fixture.document();
 }
 
 TEST_CASE("a guide inside what is mirrored whole leaves no mark in the copies") {

@@ -73,12 +73,12 @@ void prepare(EngineFixture& fixture) {
 std::vector<std::string_view> fallibleCalls(const Action& action) {
     EngineFixture fixture;
     prepare(fixture);
-    easel::hostCalls().setRecording(true);
+    easel::session().calls.setRecording(true);
     fixture.step([&] { action.act(fixture); });
     std::vector<std::string_view> names;
-    for (const easel::SlotRecord* call : easel::hostCalls().recorded())
+    for (const easel::SlotRecord* call : easel::session().calls.recorded())
         if (call->returnsError) names.push_back(call->name);
-    easel::hostCalls().setRecording(false);
+    easel::session().calls.setRecording(false);
     return names;
 }
 
@@ -94,7 +94,7 @@ void failAt(const Action& action, const FaultPlan& plan, std::string_view functi
     const std::string before = easel::dump(fixture.document());
     const SymmetryAxes axesBefore = fixture.axes;
 
-    easel::hostCalls().arm(plan);
+    easel::session().calls.arm(plan);
     AIErr code = kNoErr;
     fixture.step([&] {
         try {
@@ -103,8 +103,8 @@ void failAt(const Action& action, const FaultPlan& plan, std::string_view functi
             code = error.code;
         }
     });
-    CHECK(easel::hostCalls().fired());
-    easel::hostCalls().disarm();
+    CHECK(easel::session().calls.fired());
+    easel::session().calls.disarm();
     CHECK((code == plan.code || isOneOf(kUnreported, function)));
     CHECK(fixture.axes.axisCount == axesBefore.axisCount);
     if (easel::dump(fixture.document()) != before) fixture.document().undo().undo();

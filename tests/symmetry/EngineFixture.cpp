@@ -50,12 +50,6 @@ AIErr selectToolByName(const char* name) {
     return kNoErr;
 }
 
-/// There is one in a process: its tables are functions that exist once.
-easel::SuiteServer& suiteServer() {
-    static easel::SuiteServer server;
-    return server;
-}
-
 void exposeShellSide(easel::SuiteServer& server) {
     auto contexts = server.table<AIAppContextSuite>(kAIAppContextSuite, kAIAppContextSuiteVersion);
     easel::expose<&AIAppContextSuite::AllowAllChanges, allowAllChanges>(contexts);
@@ -199,25 +193,25 @@ ShellSide& EngineFixture::shellSide() {
 
 EngineFixture::EngineFixture(easel::Switches switches) {
     shellSide() = {};
-    easel::switches() = switches; // before the suites, whose slots depend on them
-    easel::SuiteServer& server = suiteServer();
+    easel::session().switches = switches; // before the suites, whose slots depend on them
+    easel::SuiteServer& server = easel::session().suites;
     easel::installArtSuites(server);
     easel::installDocumentSuite(server);
     easel::installUnicodeStringSuite(server);
     exposeShellSide(server);
     for (const ai::SuiteRow& row : ai::suiteTable())
         row.store(server.functions(row.name, row.version));
-    document_ = std::make_unique<easel::Document>(AISize{800, 600});
-    easel::setCurrentDocument(document_.get());
+    document_ = std::make_unique<easel::Document>(easel::session(), AISize{800, 600});
+    easel::session().current = document_.get();
 }
 
 EngineFixture::~EngineFixture() {
-    CHECK(easel::ledger().outstanding().empty());
-    CHECK(easel::ledger().problems().empty());
-    easel::ledger().clear();
-    easel::setCurrentDocument(nullptr);
+    CHECK(easel::session().ledger.outstanding().empty());
+    CHECK(easel::session().ledger.problems().empty());
+    easel::session().ledger.clear();
+    easel::session().current = nullptr;
     document_.reset();
-    easel::switches() = {};
+    easel::session().switches = {};
     ai::suites = {};
 }
 
@@ -274,9 +268,9 @@ MirrorEnvironment EngineFixture::environment() {
 
 void EngineFixture::reopen() {
     easel::svg::OpenedDrawing again =
-        easel::svg::readSvgText(easel::svg::svgText(*document_), "again");
+        easel::svg::readSvgText(easel::session(), easel::svg::svgText(*document_), "again");
     document_ = std::move(again.document);
-    easel::setCurrentDocument(document_.get());
+    easel::session().current = document_.get();
 }
 
 void EngineFixture::step(const std::function<void()>& changes) {
@@ -285,7 +279,7 @@ void EngineFixture::step(const std::function<void()>& changes) {
         ~Record() {
             log_.close();
             easel::session().allowAllChanges = false;
-            easel::endMessageLoans();
+            easel::session().messageLoans.clear();
         }
         easel::UndoLog& log_;
     };

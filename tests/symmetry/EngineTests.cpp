@@ -439,7 +439,7 @@ TEST_CASE("objects are reflected and rotated in place or as copies that shed the
         CHECK(rotateCopies(set, axes, kPi / 2, Duplicate::No).empty());
     });
     CHECK(fixture.notationOf(fixture.layer()) == "^a a t t");
-    const AIRealPoint turned = easel::artOf(set[0]).segments()[0].p;
+    const AIRealPoint turned = easel::session().artOf(set[0]).segments()[0].p;
     CHECK(turned.h == doctest::Approx(-20)); // (20, 20) a quarter turn counter-clockwise
     CHECK(turned.v == doctest::Approx(20));
 }

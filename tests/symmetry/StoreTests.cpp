@@ -200,7 +200,7 @@ TEST_CASE("removing axes frees the copies of the layer that was given") {
 
 TEST_CASE("without a document or a group there is nothing to read or write") {
     EngineFixture fixture;
-    easel::setCurrentDocument(nullptr);
+    easel::session().current = nullptr;
     SymmetryAxes axes{.axisCount = 5};
     CHECK_FALSE(LayerAxesStore::read(nullptr, axes));
     CHECK(axes.axisCount == 0);
@@ -213,7 +213,7 @@ TEST_CASE("without a document or a group there is nothing to read or write") {
     GuideTag::set(nullptr);
     CHECK(MirrorTag::get(nullptr) == 0);
     CHECK_FALSE(GuideTag::has(nullptr));
-    easel::setCurrentDocument(&fixture.document());
+    easel::session().current = &fixture.document();
 }
 
 TEST_CASE("something else under the key is no axes") {

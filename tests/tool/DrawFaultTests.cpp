@@ -34,12 +34,12 @@ TEST_CASE("whichever host call fails, drawing answers its code, and the next pic
         return draw(session);
     };
     REQUIRE(drawAfresh().answer == kNoErr); // the first hint makes its timer
-    easel::hostCalls().setRecording(true);
+    easel::session().calls.setRecording(true);
     const Drawn whole = drawAfresh();
-    easel::hostCalls().setRecording(false);
+    easel::session().calls.setRecording(false);
     REQUIRE(whole.answer == kNoErr);
     std::vector<std::string> names;
-    for (const easel::SlotRecord* slot : easel::hostCalls().recorded())
+    for (const easel::SlotRecord* slot : easel::session().calls.recorded())
         if (slot->returnsError) names.push_back(slot->name);
     REQUIRE(names.size() > 50);
 
@@ -47,13 +47,13 @@ TEST_CASE("whichever host call fails, drawing answers its code, and the next pic
     for (std::size_t call = 1; call <= names.size(); ++call) {
         if (givesBack(names[call - 1])) continue;
         INFO(names[call - 1], ", host call ", call);
-        easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::Once,
-                                .call = call,
-                                .function = {},
-                                .code = kOutOfMemoryErr});
+        easel::session().calls.arm({.mode = easel::FaultPlan::Mode::Once,
+                                    .call = call,
+                                    .function = {},
+                                    .code = kOutOfMemoryErr});
         const Drawn broken = drawAfresh();
-        CHECK(easel::hostCalls().fired());
-        easel::hostCalls().disarm();
+        CHECK(easel::session().calls.fired());
+        easel::session().calls.disarm();
         CHECK((broken.answer == kNoErr || broken.answer == kOutOfMemoryErr));
         answered += broken.answer == kOutOfMemoryErr ? 1 : 0;
         CHECK(drawAfresh().text == whole.text);

@@ -3,14 +3,17 @@
 namespace facetta::tests {
 namespace {
 
+using easel::FaultPlan;
+using Mode = FaultPlan::Mode;
+
 std::vector<std::string> fallibleCalls(const FaultAction& action) {
     Drawing session(/*selected*/ true);
     action.prepare(session);
-    easel::hostCalls().setRecording(true);
+    easel::session().calls.setRecording(true);
     action.perform(session);
-    easel::hostCalls().setRecording(false);
+    easel::session().calls.setRecording(false);
     std::vector<std::string> names;
-    for (const easel::SlotRecord* slot : easel::hostCalls().recorded())
+    for (const easel::SlotRecord* slot : easel::session().calls.recorded())
         if (slot->returnsError) names.push_back(slot->name);
     return names;
 }
@@ -28,22 +31,19 @@ void checkGoesOn(Drawing& session) {
     CHECK(session.host.sent.empty());
 }
 
-void performWithFault(const FaultAction& action, std::size_t call) {
+void performWithFault(const FaultAction& action, const FaultPlan& plan) {
     Drawing session(/*selected*/ true);
     action.prepare(session);
     // A stamp that cannot be read only has a layer mirrored once more, with the same result.
     const std::string before = session.textButStamp();
     session.host.sent.clear();
-    easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::Once,
-                            .call = call,
-                            .function = {},
-                            .code = kOutOfMemoryErr});
+    easel::session().calls.arm(plan);
     action.perform(session);
-    CHECK(easel::hostCalls().fired());
-    easel::hostCalls().disarm();
+    CHECK(easel::session().calls.fired());
+    easel::session().calls.disarm();
     CHECK(session.host.user.alerts.size() <= 1);
     for (const easel::SentMessage& failed : session.host.sent)
-        CHECK(failed.result == kOutOfMemoryErr);
+        CHECK(failed.result == plan.code);
     if (session.textButStamp() != before) {
         session.host.undo();
         CHECK(session.textButStamp() == before);
@@ -69,6 +69,10 @@ constexpr std::size_t kStride = 7;
 constexpr std::size_t kStride = 1;
 #endif
 
+/// One call in so many also fails in another way: with all that follow, with the next, or with a
+/// code that means something else.
+constexpr std::size_t kFurtherFaults = 5;
+
 void sweepFaults(std::span<const FaultAction> actions) {
     for (const FaultAction& action : actions) {
         const std::vector<std::string> names = fallibleCalls(action);
@@ -77,7 +81,16 @@ void sweepFaults(std::span<const FaultAction> actions) {
             if (givesBack(names[call - 1])) continue;
             const std::string what = std::string(action.name) + ", " + names[call - 1];
             INFO(what, ", host call ", call);
-            performWithFault(action, call);
+            performWithFault(action, {Mode::Once, call, {}, kOutOfMemoryErr});
+            if (call % kFurtherFaults != 0) continue;
+            const FaultPlan further[] = {
+                {Mode::FromThenOn, call, {}, kOutOfMemoryErr},
+                {Mode::Once, call, {}, kOutOfMemoryErr, call + 1},
+                {Mode::Once, call, {}, kUntouchableArtObjectErr},
+            };
+            const FaultPlan& other = further[call / kFurtherFaults % std::size(further)];
+            INFO("all from then on: ", other.mode == Mode::FromThenOn, ", and call ", other.second);
+            performWithFault(action, other);
         }
     }
 }

@@ -18,7 +18,8 @@ struct FaultAction {
     void (*perform)(Drawing&);
 };
 
-/// Performs each action again and again, failing another host call each time. Nothing may be lent
+/// Performs each action again and again, failing another host call each time, now and then with all
+/// that follow, with the next, or with a code that means something else. Nothing may be lent
 /// for good, the document must be what it was or one undo away from it, and the tool must go on.
 void sweepFaults(std::span<const FaultAction> actions);
 

@@ -143,18 +143,19 @@ private:
         host.activate(*host.documents()[static_cast<std::size_t>(upTo(2))]);
     }
     void closeDocument() {
-        if (hasWindow() && upTo(2) == 0) host.close(easel::currentDocument());
+        if (hasWindow() && upTo(2) == 0) host.close(easel::session().document());
     }
     void otherLayer() {
         if (!hasWindow()) return;
-        easel::Art& front = *easel::currentDocument().root().firstChild();
+        easel::Art& front = *easel::session().document().root().firstChild();
         if (front.next() == nullptr)
             newLayer();
         else
             chooseLayer(upTo(2) == 0 ? front : *front.next());
     }
     void deleteLayer() {
-        if (!hasWindow() || easel::currentDocument().root().firstChild()->next() == nullptr) return;
+        if (!hasWindow() || easel::session().document().root().firstChild()->next() == nullptr)
+            return;
         host.edit("Delete Layer", [](easel::Document& document) {
             easel::deleteLayer(*document.state().currentLayer);
         });

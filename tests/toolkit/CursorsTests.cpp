@@ -16,7 +16,7 @@ constexpr ai::int32 kFinger = 16024;
 
 /// The cursors of a plug-in that a host has started.
 struct CursorsInUse {
-    easel::Host host{easel::installedSuites()};
+    easel::Host host{easel::sessionWithSuites()};
     TestPlugin plugin{host};
     std::optional<NRDM::Cursors> cursors;
 
@@ -64,11 +64,11 @@ TEST_CASE("a host that cannot show cursors is asked no further") {
     for (const char* broken : {"AI User Suite.GetDateAndTime", "AI User Suite.SetCursor",
                                "AI User Suite.CreateCursorResourceMgr"}) {
         INFO(std::string(broken));
-        easel::hostCalls().arm({easel::FaultPlan::Mode::FromThenOn, 1, broken});
+        easel::session().calls.arm({easel::FaultPlan::Mode::FromThenOn, 1, broken});
         CursorsInUse use;
         use.show(kMove);
         CHECK(use.host.user.cursor == kArrow);
-        easel::hostCalls().disarm();
+        easel::session().calls.disarm();
         use.host.quit();
         CHECK(use.host.user.cursorManagers.handles().empty());
     }

@@ -19,12 +19,12 @@ constexpr ai::int32 kArrow = -4;
 constexpr ai::int32 kBase = 16021;
 
 struct PluginInHost {
-    easel::Host host{easel::installedSuites()};
+    easel::Host host{easel::sessionWithSuites()};
 
     PluginInHost() {
         host.addPlugins(FACETTA_LIBRARY);
         host.start();
-        host.open(std::make_unique<easel::Document>(AISize{1000, 800}));
+        host.open(std::make_unique<easel::Document>(easel::session(), AISize{1000, 800}));
     }
     ~PluginInHost() { host.quit(); }
 
@@ -64,9 +64,10 @@ TEST_CASE("over the document the tool's cursor is shown, by the host when it can
         CHECK(plugin.host.user.cursorManagers.count() == 0);
     }
     // A host whose user suite is laid out otherwise never gets the call; the system shows it.
-    easel::hostCalls().arm({easel::FaultPlan::Mode::FromThenOn, 1, "AI User Suite.GetDateAndTime"});
+    easel::session().calls.arm(
+        {easel::FaultPlan::Mode::FromThenOn, 1, "AI User Suite.GetDateAndTime"});
     PluginInHost plugin;
-    easel::hostCalls().disarm();
+    easel::session().calls.disarm();
     plugin.host.selectTool(plugin.tool());
 #ifdef _WIN32
     const HCURSOR before = SetCursor(nullptr);

@@ -1,13 +1,14 @@
 #include "host/suites/AIArraySuite.h"
 
 #include "easel/core/Expose.h"
+#include "easel/document/Session.h"
 #include "easel/suites/art/ArtSuites.h"
 #include "easel/suites/art/Entries.h"
 
 namespace easel {
 namespace {
 
-ai::int32 release(AIArrayRef array) { return arrayOf(array).takeBack(); }
+ai::int32 release(AIArrayRef array) { return arrayOf(array).takeBack(session()); }
 
 } // namespace
 

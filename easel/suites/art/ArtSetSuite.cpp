@@ -2,7 +2,6 @@
 
 #include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
-#include "easel/core/Ledger.h"
 #include "easel/document/Matching.h"
 #include "easel/document/Session.h"
 #include "easel/suites/art/ArtSuites.h"
@@ -19,7 +18,7 @@ using Handles = std::vector<AIArtHandle>;
 Handles& handlesOf(AIArtSet set) {
     void* object = session().handles.find(HandleKind::ArtSet, set);
     if (object == nullptr) {
-        if (set != nullptr) ledger().require(Lent::ArtSet, set);
+        if (set != nullptr) session().ledger.require(Lent::ArtSet, set);
         throw ai::Error{kBadParameterErr};
     }
     return *static_cast<Handles*>(object);
@@ -35,13 +34,13 @@ void replace(Handles& handles, const std::vector<Art*>& art) {
 AIErr newArtSet(AIArtSet* set) {
     required(set) = nullptr;
     *set = static_cast<AIArtSet>(session().handles.add(HandleKind::ArtSet, new Handles));
-    ledger().lend(Lent::ArtSet, *set);
+    session().ledger.lend(Lent::ArtSet, *set);
     return kNoErr;
 }
 
 AIErr disposeArtSet(AIArtSet* set) {
     const Handles* handles = &handlesOf(required(set));
-    ledger().takeBack(Lent::ArtSet, *set);
+    session().ledger.takeBack(Lent::ArtSet, *set);
     session().handles.remove(*set);
     delete handles;
     *set = nullptr;
@@ -50,7 +49,7 @@ AIErr disposeArtSet(AIArtSet* set) {
 
 AIErr countArtSet(AIArtSet set, std::size_t* count) {
     const std::size_t size = handlesOf(set).size();
-    if (switches().countIs64Bits) {
+    if (session().switches.countIs64Bits) {
         required(count) = size;
     } else {
         const auto low = static_cast<std::uint32_t>(size);
@@ -70,7 +69,7 @@ AIErr indexArtSet(AIArtSet set, std::size_t index, AIArtHandle* art) {
 AIErr matchingArtSet(AIArtSpec* specs, ai::int16 count, AIArtSet set) {
     Handles& handles = handlesOf(set);
     if (count < 0 || (specs == nullptr && count != 0)) return kBadParameterErr;
-    replace(handles, matchingArt(currentDocument(), {specs, static_cast<std::size_t>(count)}));
+    replace(handles, matchingArt(session().document(), {specs, static_cast<std::size_t>(count)}));
     return kNoErr;
 }
 
@@ -80,7 +79,7 @@ AIErr selectedArtSet(AIArtSet set) {
 }
 
 AIErr layerArtSet(AILayerHandle layer, AIArtSet set) {
-    replace(handlesOf(set), artOfLayer(layerOf(layer)));
+    replace(handlesOf(set), artOfLayer(session().layerOf(layer)));
     return kNoErr;
 }
 

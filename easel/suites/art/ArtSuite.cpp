@@ -15,7 +15,9 @@ namespace {
 
 AIArtHandle handleOf(const Art* art) { return art != nullptr ? art->handle() : nullptr; }
 
-Art* artOrNull(AIArtHandle handle) { return handle != nullptr ? &artOf(handle) : nullptr; }
+Art* artOrNull(AIArtHandle handle) {
+    return handle != nullptr ? &session().artOf(handle) : nullptr;
+}
 
 /// Layers' groups and the parts of plug-in groups stay where they are.
 bool isFixed(const Art& art) {
@@ -29,16 +31,16 @@ AIErr newArt(ai::int16 type, ai::int16 order, AIArtHandle reference, AIArtHandle
     const bool canBeMade =
         type == kGroupArt || type == kPathArt || type == kCompoundPathArt || type == kPluginArt;
     if (!canBeMade) return kUnknownArtTypeErr;
-    const Position place = placeFor(order, artOrNull(reference));
+    const Position place = placeFor(session().document(), order, artOrNull(reference));
     checkPlace(place, type);
     *made = createArt(place.parent->document(), type, place).handle();
     return kNoErr;
 }
 
 AIErr disposeArtObject(AIArtHandle handle) {
-    Art& art = artOf(handle);
+    Art& art = session().artOf(handle);
     if (isFixed(art)) return kUntouchableArtObjectErr;
-    if (switches().disposeRefusesLocked) checkEditable(art);
+    if (session().switches.disposeRefusesLocked) checkEditable(art);
     checkContents(art);
     disposeArt(art);
     return kNoErr;
@@ -47,9 +49,9 @@ AIErr disposeArtObject(AIArtHandle handle) {
 AIErr duplicateArtObject(AIArtHandle handle, ai::int16 order, AIArtHandle reference,
                          AIArtHandle* made) {
     required(made) = nullptr;
-    const Art& art = artOf(handle);
+    const Art& art = session().artOf(handle);
     if (art.isLayer()) return kUntouchableArtObjectErr;
-    const Position place = placeFor(order, artOrNull(reference));
+    const Position place = placeFor(session().document(), order, artOrNull(reference));
     checkPlace(place, art);
     *made = duplicateArt(art, place).handle();
     return kNoErr;
@@ -59,28 +61,29 @@ AIErr duplicateArtObject(AIArtHandle handle, ai::int16 order, AIArtHandle refere
 
 AIErr getFirstArtOfLayer(AILayerHandle layer, AIArtHandle* group) {
     required(group) = nullptr;
-    const Art* found = layer != nullptr ? &layerOf(layer) : currentDocument().state().currentLayer;
+    const Art* found =
+        layer != nullptr ? &session().layerOf(layer) : session().document().state().currentLayer;
     *group = handleOf(found);
     return kNoErr;
 }
 
 AIErr getLayerOfArt(AIArtHandle art, AILayerHandle* layer) {
     required(layer) = nullptr;
-    *layer = layerHandle(layerOf(artOf(art)));
+    *layer = layerHandle(layerOf(session().artOf(art)));
     return kNoErr;
 }
 
 AIErr getArtType(AIArtHandle art, ai::int16* type) {
-    required(type) = artOf(art).type();
+    required(type) = session().artOf(art).type();
     return kNoErr;
 }
 
 AIErr getArtParent(AIArtHandle handle, AIArtHandle* parent) {
     required(parent) = nullptr;
-    const Art& art = artOf(handle);
+    const Art& art = session().artOf(handle);
     const Art* found = art.parent();
-    const bool isTopmost =
-        found == &art.document().root() || (art.isLayer() && !switches().sublayerGroupHasParent);
+    const bool isTopmost = found == &art.document().root() ||
+                           (art.isLayer() && !session().switches.sublayerGroupHasParent);
     *parent = isTopmost ? nullptr : handleOf(found);
     return kNoErr;
 }
@@ -92,7 +95,7 @@ const Art* tellChild(const Art& parent, const Art* child) {
 
 AIErr getArtFirstChild(AIArtHandle art, AIArtHandle* child) {
     required(child) = nullptr;
-    *child = handleOf(tellChild(artOf(art), artOf(art).firstChild()));
+    *child = handleOf(tellChild(session().artOf(art), session().artOf(art).firstChild()));
     return kNoErr;
 }
 
@@ -102,17 +105,17 @@ bool hasSiblings(const Art& art) {
 
 AIErr getArtSibling(AIArtHandle handle, AIArtHandle* sibling) {
     required(sibling) = nullptr;
-    const Art& art = artOf(handle);
+    const Art& art = session().artOf(handle);
     *sibling = hasSiblings(art) ? handleOf(art.next()) : nullptr;
     return kNoErr;
 }
 
 AIBoolean validArt(AIArtHandle art, AIBoolean /*allLists*/) {
-    return findArt(art) != nullptr ? 1 : 0;
+    return session().findArt(art) != nullptr ? 1 : 0;
 }
 
 AIErr getInsertionPoint(AIArtHandle* art, ai::int16* order, AIBoolean* editable) {
-    Art& group = insertionGroup(currentDocument());
+    Art& group = insertionGroup(session().document());
     required(art) = group.handle();
     required(order) = kPlaceInsideOnTop;
     if (editable != nullptr) *editable = isEditable(group) ? 1 : 0;
@@ -122,19 +125,21 @@ AIErr getInsertionPoint(AIArtHandle* art, ai::int16* order, AIBoolean* editable)
 // Attributes.
 
 AIErr getArtUserAttr(AIArtHandle art, ai::int32 mask, ai::int32* attributes) {
-    required(attributes) = userAttributes(artOf(art), mask);
+    required(attributes) = userAttributes(session().artOf(art), mask);
     return kNoErr;
 }
 
 AIErr setArtUserAttr(AIArtHandle art, ai::int32 mask, ai::int32 attributes) {
-    setUserAttributes(artOf(art), mask, attributes);
+    setUserAttributes(session().artOf(art), mask, attributes);
     return kNoErr;
 }
 
-AIBoolean isArtClipping(AIArtHandle art) { return artOf(art).has(kArtIsClipMask) ? 1 : 0; }
+AIBoolean isArtClipping(AIArtHandle art) {
+    return session().artOf(art).has(kArtIsClipMask) ? 1 : 0;
+}
 
 AIErr isArtLayerGroup(AIArtHandle art, AIBoolean* isLayer) {
-    required(isLayer) = artOf(art).isLayer() ? 1 : 0;
+    required(isLayer) = session().artOf(art).isLayer() ? 1 : 0;
     return kNoErr;
 }
 
@@ -159,8 +164,8 @@ void transferName(const Art& source, Art& destination) {
 }
 
 AIErr transferAttributes(AIArtHandle from, AIArtHandle to, ai::uint32 which) {
-    const Art& source = artOf(from);
-    Art& destination = artOf(to);
+    const Art& source = session().artOf(from);
+    Art& destination = session().artOf(to);
     checkEditable(destination);
     if ((which & kTransferName) != 0) transferName(source, destination);
     if ((which & kTransferStyle) != 0) transferStyle(source, destination);
@@ -180,7 +185,7 @@ AIDoubleRect checkedBounds(AIArtHandle art, const AIRealMatrix* matrix, ai::int3
                              ((flags & kUserPreviewBounds) != 0 && (flags & kNoStrokeBounds) != 0);
     if (contradicts) throw ai::Error{kBadParameterErr};
     const AIRealMatrix& through = matrix != nullptr ? *matrix : kIdentityMatrix;
-    return boundsOf(artOf(art), flags, through).value_or(AIDoubleRect{});
+    return boundsOf(session().artOf(art), flags, through).value_or(AIDoubleRect{});
 }
 
 AIRealRect rounded(const AIDoubleRect& rect) {
@@ -202,27 +207,28 @@ AIErr getArtBounds(AIArtHandle art, AIRealRect* bounds) {
 
 AIErr getDictionary(AIArtHandle art, AIDictionaryRef* dictionary) {
     required(dictionary) = nullptr;
-    *dictionary = static_cast<AIDictionaryRef>(artOf(art).dictionary().lend());
+    *dictionary = static_cast<AIDictionaryRef>(session().artOf(art).dictionary().lend(session()));
     return kNoErr;
 }
 
 AIErr setNote(AIArtHandle handle, const ai::UnicodeString& note) {
-    Art& art = artOf(handle);
+    Art& art = session().artOf(handle);
     checkEditable(art);
-    art.write(Edit::Quiet).details.write().note = readUtf8(note);
+    art.write(Edit::Quiet).details.write().note = readUtf8(session().ledger, note);
     return kNoErr;
 }
 
 AIErr getNote(AIArtHandle art, ai::UnicodeString& note) {
-    writeUtf8(note, artOf(art).details().note);
+    writeUtf8(session().ledger, note, session().artOf(art).details().note);
     return kNoErr;
 }
 
-AIBoolean hasNote(AIArtHandle art) { return artOf(art).details().note.empty() ? 0 : 1; }
+AIBoolean hasNote(AIArtHandle art) { return session().artOf(art).details().note.empty() ? 0 : 1; }
 
 AIErr getArtTimeStamp(AIArtHandle art, std::size_t* stamp) {
-    const Art& found = artOf(art);
-    required(stamp) = switches().stampsCoverDescendants ? subtreeStamp(found) : found.stamp();
+    const Art& found = session().artOf(art);
+    required(stamp) =
+        session().switches.stampsCoverDescendants ? subtreeStamp(found) : found.stamp();
     return kNoErr;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// The suites of the art side, each installed into the server's tables by one function. They work
-/// on `easel::currentDocument()`.
+/// on the current document of the session of this process.
 
 namespace easel {
 

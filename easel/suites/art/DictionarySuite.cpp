@@ -44,7 +44,9 @@ AIErr createDictionary(AIDictionaryRef* dictionary) {
     return kNoErr;
 }
 
-ai::int32 release(AIDictionaryRef dictionary) { return dictionaryOf(dictionary).takeBack(); }
+ai::int32 release(AIDictionaryRef dictionary) {
+    return dictionaryOf(dictionary).takeBack(session());
+}
 
 AIErr copy(AIDictionaryRef target, ConstAIDictionaryRef source) {
     called(target).copyFrom(dictionaryOf(source));
@@ -125,7 +127,7 @@ void installDictionarySuite(SuiteServer& server) {
     expose<&S::SetBooleanEntry, setBoolean>(table);
     expose<&S::GetIntegerEntry, getInteger>(table);
     expose<&S::SetIntegerEntry, setInteger>(table);
-    if (!switches().dictionaryHasPointerSlots) leaveOutPointerSlots(table.functions());
+    if (!session().switches.dictionaryHasPointerSlots) leaveOutPointerSlots(table.functions());
 }
 
 } // namespace easel

@@ -9,7 +9,7 @@
 namespace easel {
 namespace {
 
-ai::int32 release(AIEntryRef entry) { return entryOf(entry).takeBack(); }
+ai::int32 release(AIEntryRef entry) { return entryOf(entry).takeBack(session()); }
 
 // Each of these consumes its entry before anything can fail.
 

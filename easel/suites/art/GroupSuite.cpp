@@ -10,7 +10,7 @@ namespace easel {
 namespace {
 
 Art& groupOf(AIArtHandle handle) {
-    Art& art = artOf(handle);
+    Art& art = session().artOf(handle);
     if (art.type() != kGroupArt) throw ai::Error{kBadParameterErr};
     return art;
 }

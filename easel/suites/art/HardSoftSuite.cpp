@@ -12,12 +12,12 @@ namespace {
 // Source and destination may be one point.
 
 AIErr pointHarden(AIRealPoint* source, AIRealPoint* destination) {
-    required(destination) = harden(currentDocument(), required(source));
+    required(destination) = harden(session().document(), required(source));
     return kNoErr;
 }
 
 AIErr pointSoften(AIRealPoint* source, AIRealPoint* destination) {
-    required(destination) = soften(currentDocument(), required(source));
+    required(destination) = soften(session().document(), required(source));
     return kNoErr;
 }
 

@@ -12,7 +12,9 @@ namespace {
 /// How far from the point things are hit, in pixels.
 constexpr AIReal kTolerance = 2;
 
-Hit& hitOf(AIHitRef hit) { return static_cast<Hit&>(counted(HandleKind::Hit, Lent::Hit, hit)); }
+Hit& hitOf(AIHitRef hit) {
+    return static_cast<Hit&>(session().counted(HandleKind::Hit, Lent::Hit, hit));
+}
 
 /// Null asks about nothing, as a miss does.
 HitResult resultOf(AIHitRef hit) { return hit != nullptr ? hitOf(hit).result : HitResult{}; }
@@ -21,14 +23,14 @@ AIArtHandle artIn(AIHitRef hit) { return hit != nullptr ? hitOf(hit).art : nullp
 
 AIErr hitTestAt(AIArtHandle root, const AIRealPoint* point, ai::int32 request, AIHitRef* hit) {
     required(hit) = nullptr;
-    Art& searched = root != nullptr ? artOf(root) : currentDocument().root();
+    Art& searched = root != nullptr ? session().artOf(root) : session().document().root();
     const double reach = double{kTolerance} / searched.document().viewZoom;
     const HitResult found = hitTest(searched, required(point), reach, request);
-    if (found.art == nullptr && !switches().missIsHitObject) return kNoErr;
+    if (found.art == nullptr && !session().switches.missIsHitObject) return kNoErr;
     // What the plug-in leaves is dropped when the message ends, so that no term runs out before.
-    ledger().setTerm(Lent::Hit, LoanTerm::Life);
+    session().ledger.setTerm(Lent::Hit, LoanTerm::Life);
     Ref<Hit> object(new Hit(found));
-    *hit = static_cast<AIHitRef>(object->lend());
+    *hit = static_cast<AIHitRef>(object->lend(session()));
     session().messageLoans.keep(std::move(object));
     return kNoErr;
 }
@@ -37,7 +39,7 @@ ai::int32 release(AIHitRef handle) {
     if (handle == nullptr) return 0;
     Hit& hit = hitOf(handle);
     const auto left = static_cast<ai::int32>(hit.lent() - 1);
-    hit.takeBack();
+    hit.takeBack(session());
     return left;
 }
 

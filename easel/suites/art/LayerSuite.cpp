@@ -14,7 +14,7 @@ AIErr give(AILayerHandle* out, const Art* layer) {
     return kNoErr;
 }
 
-Art* topmostLayer() { return firstSublayer(currentDocument().root()); }
+Art* topmostLayer() { return firstSublayer(session().document().root()); }
 
 AIErr countLayers(ai::int32* count) {
     required(count) = 0;
@@ -35,17 +35,17 @@ AIErr getNthLayer(ai::int32 index, AILayerHandle* out) {
 
 AIErr getCurrentLayer(AILayerHandle* out) {
     required(out) = nullptr;
-    return give(out, currentDocument().state().currentLayer);
+    return give(out, session().document().state().currentLayer);
 }
 
 AIErr getLayerParent(AILayerHandle layer, AILayerHandle* out) {
     required(out) = nullptr;
-    return give(out, parentLayer(layerOf(layer)));
+    return give(out, parentLayer(session().layerOf(layer)));
 }
 
 /// A flag that is the opposite of an attribute of the layer's group.
 template <AIArtUserAttr Attribute> AIErr getWithout(AILayerHandle layer, AIBoolean* value) {
-    required(value) = layerOf(layer).has(Attribute) ? 0 : 1;
+    required(value) = session().layerOf(layer).has(Attribute) ? 0 : 1;
     return kNoErr;
 }
 

@@ -13,7 +13,7 @@ namespace easel {
 namespace {
 
 Art& pathOf(AIArtHandle handle) {
-    Art& art = artOf(handle);
+    Art& art = session().artOf(handle);
     if (art.type() != kPathArt) throw ai::Error{kBadParameterErr};
     return art;
 }
@@ -128,7 +128,7 @@ AIErr setPathGuide(AIArtHandle handle, AIBoolean guide) {
 }
 
 AIErr getPathIsClip(AIArtHandle handle, AIBoolean* isClip) {
-    const Art& art = artOf(handle);
+    const Art& art = session().artOf(handle);
     const bool canClip = art.type() == kCompoundPathArt || countOf(pathOf(handle)) >= 2;
     required(isClip) = canClip && art.has(kArtIsClipMask) ? 1 : 0;
     return kNoErr;

@@ -9,7 +9,7 @@ namespace easel {
 namespace {
 
 Art& pluginGroupOf(AIArtHandle handle) {
-    Art& art = artOf(handle);
+    Art& art = session().artOf(handle);
     if (art.type() != kPluginArt) throw ai::Error{kBadParameterErr};
     return art;
 }

@@ -13,7 +13,7 @@ AIPatternHandle handleOf(const Definition* symbol) {
 }
 
 Art& instanceOf(AIArtHandle handle) {
-    Art& art = artOf(handle);
+    Art& art = session().artOf(handle);
     if (art.type() != kSymbolArt) throw ai::Error{kBadParameterErr};
     return art;
 }

@@ -19,7 +19,7 @@ bool isFinite(const AIRealMatrix& m) {
 }
 
 AIErr transform(AIArtHandle handle, AIRealMatrix* matrix, AIReal lineScale, ai::int32 flags) {
-    Art& art = artOf(handle);
+    Art& art = session().artOf(handle);
     if (!isFinite(required(matrix)) || !std::isfinite(lineScale)) return kBadParameterErr;
     checkEditable(art);
     if ((flags & kTransformChildren) != 0) checkContents(art);

@@ -9,10 +9,10 @@
 namespace easel {
 namespace {
 
-UndoLog& log() { return currentDocument().undo(); }
+UndoLog& log() { return session().document().undo(); }
 
 AIErr setUndoText(const ai::UnicodeString& undo, const ai::UnicodeString& redo) {
-    log().setTexts(readUtf8(undo), readUtf8(redo));
+    log().setTexts(readUtf8(session().ledger, undo), readUtf8(session().ledger, redo));
     return kNoErr;
 }
 

@@ -3,7 +3,7 @@
 #include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/core/HostString.h"
-#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 
 #include <algorithm>
@@ -84,14 +84,16 @@ AIErr setDashes(AIAnnotatorDrawer* drawer, AIFloat* dashes, ai::int32 count) {
 
 AIErr drawText(AIAnnotatorDrawer* drawer, const ai::UnicodeString& text,
                const AIPoint& bottomLeft) {
-    return add(drawer,
-               {.kind = Kind::Text, .style = {}, .points = {bottomLeft}, .text = readString(text)});
+    return add(drawer, {.kind = Kind::Text,
+                        .style = {},
+                        .points = {bottomLeft},
+                        .text = readString(session().ledger, text)});
 }
 
 AIErr getTextBounds(AIAnnotatorDrawer* drawer, const ai::UnicodeString& text, AIPoint* location,
                     AIBoolean /*useFallback*/, AIRect& bounds) {
     const DrawStyle& style = required(drawer).style;
-    const std::u32string letters = readString(text);
+    const std::u32string letters = readString(session().ledger, text);
     const auto& measured = host().annotators.textWidth;
     const double width =
         measured ? measured(letters, style) : estimatedWidth(letters, style.fontSize);

@@ -1,7 +1,6 @@
 #include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
-#include "easel/core/Ledger.h"
-#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIAppContextSuite.h"
 
@@ -18,18 +17,18 @@ AIErr pushAppContext(SPPluginRef plugin, AIAppContextHandle* context) {
     AIAppContextHandle& result = required(context);
     static_cast<void>(host().plugins.at(plugin));
     result = host().contexts.push(plugin, kStandardUndoContext,
-                                  switches().ownContextsNest ? Contexts::Nested::Yes
-                                                             : Contexts::Nested::No);
-    ledger().lend(Lent::AppContext, result);
+                                  session().switches.ownContextsNest ? Contexts::Nested::Yes
+                                                                     : Contexts::Nested::No);
+    session().ledger.lend(Lent::AppContext, result);
     return kNoErr;
 }
 
 AIErr popAppContext(AIAppContextHandle context) {
-    ledger().require(Lent::AppContext, context);
+    session().ledger.require(Lent::AppContext, context);
     if (host().contexts.top() != context)
-        ledger().report("a context is popped that is not the innermost one");
+        session().ledger.report("a context is popped that is not the innermost one");
     host().contexts.pop(context);
-    ledger().takeBack(Lent::AppContext, context);
+    session().ledger.takeBack(Lent::AppContext, context);
     // A context outside any message is what its plug-in did on its own, in a window or a timer.
     if (host().contexts.depth() == 0) host().collectChanges();
     return kNoErr;

@@ -1,6 +1,6 @@
 #include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
-#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AICursorSnapSuite.h"
 
@@ -19,7 +19,7 @@ AIBoolean useSmartGuides(AIDocumentViewHandle view) {
 /// Where hosts take the point by value, its two floats stand in the register that otherwise holds
 /// its address.
 AIRealPoint pointOf(const AIRealPoint& argument) {
-    if (switches().snapPointByReference) return argument;
+    if (session().switches.snapPointByReference) return argument;
     return std::bit_cast<AIRealPoint>(reinterpret_cast<std::uintptr_t>(&argument));
 }
 

@@ -1,6 +1,6 @@
 #include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
-#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIDocumentSuite.h"
 
@@ -10,24 +10,24 @@ namespace easel {
 namespace {
 
 AIErr getRulerUnits(ai::int16* units) {
-    required(units) = currentDocument().rulerUnits;
+    required(units) = session().document().rulerUnits;
     return kNoErr;
 }
 
 /// The painting comes later, when the message has been answered.
 AIErr redraw() {
-    static_cast<void>(currentDocument());
+    static_cast<void>(session().document());
     host().redrawLater();
     return kNoErr;
 }
 
 AIErr getDocument(AIDocumentHandle* document) {
-    required(document) = currentDocument().handle();
+    required(document) = session().document().handle();
     return kNoErr;
 }
 
 AIErr getMaxArtboardBounds(AIRealRect* bounds) {
-    required(bounds) = currentDocument().canvas();
+    required(bounds) = session().document().canvas();
     return kNoErr;
 }
 

@@ -1,6 +1,6 @@
 #include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
-#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIDocumentViewSuite.h"
 
@@ -35,7 +35,7 @@ AIErr exactArtworkToView(ViewRef view, const AIRealPoint* artwork, AIRealPoint* 
 
 /// 0 is the current view, and so is 1: every document has one.
 AIErr nth(ai::int32 number, ViewRef* view) {
-    static_cast<void>(currentDocument());
+    static_cast<void>(session().document());
     if (number < 0 || number > 1) throw ai::Error{kBadParameterErr};
     required(view) = host().currentView();
     return kNoErr;

@@ -3,6 +3,7 @@
 #include "easel/core/HostPath.h"
 #include "easel/core/HostString.h"
 #include "easel/core/Text.h"
+#include "easel/document/Session.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIFilePathSuite.h"
 
@@ -16,22 +17,24 @@ namespace {
 using Path = std::filesystem::path;
 
 std::u32string textOf(const Path& path) { return utf32FromUtf16(path.u16string()); }
-Path pathOf(const ai::UnicodeString& text) { return {utf16FromUtf32(readString(text))}; }
+Path pathOf(const ai::UnicodeString& text) {
+    return {utf16FromUtf32(readString(session().ledger, text))};
+}
 
 AIErr newPath(ai::FilePath& path) {
     // What a new object holds so far is of no account: it may never have been set to anything.
     reinterpret_cast<void*&>(path) = nullptr;
-    writePath(path, {});
+    writePath(session().ledger, path, {});
     return kNoErr;
 }
 
 AIErr deleteFilePath(ai::FilePath& path) {
-    deletePath(path);
+    deletePath(session().ledger, path);
     return kNoErr;
 }
 
 AIErr copy(const ai::FilePath& source, ai::FilePath& destination) {
-    writePath(destination, readPath(source));
+    writePath(session().ledger, destination, readPath(session().ledger, source));
     return kNoErr;
 }
 
@@ -43,36 +46,37 @@ Path resolved(const Path& path, bool resolveLinks) {
 
 /// An empty addend leaves a delimiter at the end.
 AIErr addComponent(const ai::UnicodeString& addend, ai::FilePath& path) {
-    writePath(path, (readPath(path) / pathOf(addend)).make_preferred());
+    writePath(session().ledger, path,
+              (readPath(session().ledger, path) / pathOf(addend)).make_preferred());
     return kNoErr;
 }
 
 AIBool8 exists(const ai::FilePath& object, AIBool8 resolveLinks, ai::UnicodeString* longPath,
                AIBool8* isFile) {
-    const Path path = resolved(readPath(object), resolveLinks != 0);
+    const Path path = resolved(readPath(session().ledger, object), resolveLinks != 0);
     std::error_code failed;
     const auto status = std::filesystem::status(path, failed);
     if (!std::filesystem::exists(status)) return 0;
-    if (longPath != nullptr) writeString(*longPath, textOf(path));
+    if (longPath != nullptr) writeString(session().ledger, *longPath, textOf(path));
     if (isFile != nullptr) *isFile = std::filesystem::is_directory(status) ? 0 : 1;
     return 1;
 }
 
 AIErr set(const ai::UnicodeString& text, AIBool8 /*expandName*/, ai::FilePath& path) {
-    writePath(path, pathOf(text).make_preferred());
+    writePath(session().ledger, path, pathOf(text).make_preferred());
     return kNoErr;
 }
 
 AIErr getFullPath(const ai::FilePath& path, AIBool8 /*displayName*/, ai::UnicodeString& text) {
-    writeString(text, textOf(readPath(path)));
+    writeString(session().ledger, text, textOf(readPath(session().ledger, path)));
     return kNoErr;
 }
 
 /// Of a volume: empty.
 AIErr getParent(const ai::FilePath& path, ai::FilePath& parent) {
-    const Path child = readPath(path);
+    const Path child = readPath(session().ledger, path);
     const Path above = child.parent_path();
-    writePath(parent, above == child ? Path{} : above);
+    writePath(session().ledger, parent, above == child ? Path{} : above);
     return kNoErr;
 }
 

@@ -1,7 +1,7 @@
 #include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/core/HostString.h"
-#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIMenuSuite.h"
 
@@ -19,7 +19,7 @@ AIErr addMenuItem(SPPluginRef plugin, const char* key, AIPlatformAddMenuItemData
     MenuItem added;
     added.plugin = plugin;
     if (key != nullptr) added.key = key;
-    added.text = readString(data->itemText);
+    added.text = readString(session().ledger, data->itemText);
     added.group = group;
     added.options = options;
     const AIMenuItemHandle handle = menus().items.add(std::move(added));
@@ -55,7 +55,7 @@ AIErr disableItem(AIMenuItemHandle item) {
 }
 
 AIErr setText(AIMenuItemHandle item, const ai::UnicodeString& text) {
-    at(item).text = readString(text);
+    at(item).text = readString(session().ledger, text);
     return kNoErr;
 }
 

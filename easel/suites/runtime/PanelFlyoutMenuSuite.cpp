@@ -1,6 +1,6 @@
 #include "easel/core/Expose.h"
 #include "easel/core/HostString.h"
-#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIPanelFlyoutMenuSuite.h"
 
@@ -42,7 +42,7 @@ AIErr destroy(MenuRef menu) {
 }
 
 AIErr appendItem(MenuRef menu, ai::uint32 id, const ai::UnicodeString& text) {
-    append(menu, {.id = id, .text = readString(text)});
+    append(menu, {.id = id, .text = readString(session().ledger, text)});
     return kNoErr;
 }
 
@@ -65,7 +65,7 @@ AIErr set(MenuRef menu, ai::uint32 index, Value value) {
 }
 
 AIErr setText(MenuRef menu, ai::uint32 index, const ai::UnicodeString& text) {
-    itemAt(menu, index).text = readString(text);
+    itemAt(menu, index).text = readString(session().ledger, text);
     return kNoErr;
 }
 

@@ -1,6 +1,6 @@
 #include "easel/core/Expose.h"
 #include "easel/core/HostString.h"
-#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIPanelSuite.h"
 
@@ -16,8 +16,8 @@ AIErr create(SPPluginRef plugin, const ai::UnicodeString& id, const ai::UnicodeS
     if (flyout != nullptr) static_cast<void>(host().panels.menu(flyout));
     Panel made;
     made.plugin = plugin;
-    made.id = readString(id);
-    made.title = readString(title);
+    made.id = readString(session().ledger, id);
+    made.title = readString(session().ledger, title);
     made.stateCount = stateCount;
     made.sizes.least = least;
     made.resizable = resizable != 0;
@@ -43,7 +43,7 @@ AIErr show(AIPanelRef panel, AIBoolean shown) {
 }
 
 AIErr setTitle(AIPanelRef panel, const ai::UnicodeString& title) {
-    at(panel).title = readString(title);
+    at(panel).title = readString(session().ledger, title);
     at(panel).window->setTitle(at(panel).title);
     return kNoErr;
 }

@@ -1,7 +1,7 @@
 #include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/core/HostString.h"
-#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIPreferenceSuite.h"
 
@@ -36,7 +36,7 @@ AIErr put(const char* prefix, const char* suffix, Preferences::Value value) {
 /// of another type is no failure, an absent one may be.
 AIErr answer(const Name& name) {
     const bool absent = find(name) == nullptr;
-    return absent && !switches().absentPreferenceSucceeds ? kBadParameterErr : kNoErr;
+    return absent && !session().switches.absentPreferenceSucceeds ? kBadParameterErr : kNoErr;
 }
 
 /// Numbers convert into each other; what does not fit becomes the nearest that does.

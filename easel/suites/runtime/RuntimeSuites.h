@@ -1,7 +1,7 @@
 #pragma once
 
 /// The suites of the runtime, each installed into the server's tables by one function. They work
-/// on `easel::host()`.
+/// on the host of the session of this process (`RunningHost.h`).
 
 namespace easel {
 

@@ -2,8 +2,7 @@
 
 #include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
-#include "easel/core/Ledger.h"
-#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 
 namespace easel {
@@ -22,7 +21,7 @@ SPErr acquirePlugin(SPPluginRef ref, SPAccessRef* access) {
     host().plugins.load(host().sender, ref, kAccessAtRunTime);
     Plugin& plugin = host().plugins.at(ref);
     ++plugin.accessCount;
-    ledger().lend(Lent::PluginAccess, plugin.access);
+    session().ledger.lend(Lent::PluginAccess, plugin.access);
     result = plugin.access;
     return kNoErr;
 }
@@ -31,7 +30,7 @@ SPErr releasePlugin(SPAccessRef access) {
     Plugin& plugin = accessed(access);
     if (plugin.accessCount == 0) return kSPPluginAlreadyReleasedError;
     --plugin.accessCount;
-    ledger().takeBack(Lent::PluginAccess, access);
+    session().ledger.takeBack(Lent::PluginAccess, access);
     return kNoErr;
 }
 

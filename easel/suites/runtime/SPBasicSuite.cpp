@@ -3,8 +3,7 @@
 #include "easel/core/Arguments.h"
 #include "easel/core/Blocks.h"
 #include "easel/core/Expose.h"
-#include "easel/core/Ledger.h"
-#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/SPBlocksSuite.h"
 
@@ -20,25 +19,25 @@ SPErr acquireSuite(const char* name, ai::int32 version, const void** functions) 
         required(functions) = nullptr;
         return kSPSuiteNotFoundError;
     }
-    const SPErr result = host().suites.acquire(name, version, functions);
-    if (result == kNoErr) ledger().lend(Lent::Suite, *functions);
+    const SPErr result = session().suites.acquire(name, version, functions);
+    if (result == kNoErr) session().ledger.lend(Lent::Suite, *functions);
     return result;
 }
 
 SPErr releaseSuite(const char* name, ai::int32 version) {
-    const void* const functions = host().suites.functions(name, version);
-    const SPErr result = host().suites.release(name, version);
-    if (result == kNoErr) ledger().takeBack(Lent::Suite, functions);
+    const void* const functions = session().suites.functions(name, version);
+    const SPErr result = session().suites.release(name, version);
+    if (result == kNoErr) session().ledger.takeBack(Lent::Suite, functions);
     return result;
 }
 
 SPErr allocate(std::size_t size, void** block) {
-    required(block) = allocateBlock(size);
+    required(block) = allocateBlock(session().ledger, size);
     return kNoErr;
 }
 
 SPErr release(void* block) {
-    freeBlock(block);
+    freeBlock(session().ledger, block);
     return kNoErr;
 }
 

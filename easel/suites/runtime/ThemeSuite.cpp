@@ -1,5 +1,5 @@
 #include "easel/core/Expose.h"
-#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIUIThemeSuite.h"
 

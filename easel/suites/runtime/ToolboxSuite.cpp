@@ -1,6 +1,6 @@
 #include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
-#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIToolboxSuite.h"
 

@@ -2,6 +2,7 @@
 #include "easel/core/Expose.h"
 #include "easel/core/HostString.h"
 #include "easel/core/Text.h"
+#include "easel/document/Session.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIUnicodeStringSuite.h"
 
@@ -32,7 +33,7 @@ AIErr initializeUtf16(String& string, const ASUnicode* units, ai::int64 count) {
     if (count != 0) static_cast<void>(required(units));
     const std::size_t length =
         count == kUntilZero ? std::char_traits<char16_t>::length(first) : checkedLength(count);
-    writeString(string, utf32FromUtf16({first, length}));
+    writeString(session().ledger, string, utf32FromUtf16({first, length}));
     return kNoErr;
 }
 
@@ -45,24 +46,25 @@ AIErr initialize(String& string, const char* bytes, ai::int64 length,
     if (length != 0) static_cast<void>(required(bytes));
     const std::size_t size =
         length == kUntilZero ? std::char_traits<char>::length(bytes) : checkedLength(length);
-    writeString(string, utf32FromUtf8({bytes, size}));
+    writeString(session().ledger, string, utf32FromUtf8({bytes, size}));
     return kNoErr;
 }
 
 AIErr destroy(String& string) {
-    destroyString(string);
+    destroyString(session().ledger, string);
     return kNoErr;
 }
 
 /// A copy shares nothing with its original. One of an unset string is unset or empty: the same.
 AIErr assign(String& string, const String& other) {
-    if (stringObject(other) != nullptr || stringObject(string) != nullptr)
-        writeString(string, readString(other));
+    if (stringObject(session().ledger, other) != nullptr ||
+        stringObject(session().ledger, string) != nullptr)
+        writeString(session().ledger, string, readString(session().ledger, other));
     return kNoErr;
 }
 
 AIErr getChar(const String& string, std::size_t position, ai::uint32& character) {
-    const std::u32string& text = readString(string);
+    const std::u32string& text = readString(session().ledger, string);
     if (position >= text.size()) throw ai::Error{kStringIndexErr};
     character = text[position];
     return kNoErr;

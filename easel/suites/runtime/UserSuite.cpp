@@ -2,7 +2,7 @@
 #include "easel/core/Expose.h"
 #include "easel/core/HostPath.h"
 #include "easel/core/HostString.h"
-#include "easel/runtime/Host.h"
+#include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIUserSuite.h"
 
@@ -35,16 +35,16 @@ std::string textOf(AIReal value, ai::int16 precision) {
 }
 
 void realToString(AIReal value, ai::int16 precision, ai::UnicodeString& text) {
-    writeUtf8(text, textOf(value, precision));
+    writeUtf8(session().ledger, text, textOf(value, precision));
 }
 
 AIErr launchApp(const ai::FilePath& path, AIBoolean /*openDocument*/) {
-    user().launched.push_back(readPath(path));
+    user().launched.push_back(readPath(session().ledger, path));
     return kNoErr;
 }
 
 AIAnswer ask(const char* kind, const ai::UnicodeString& text) {
-    user().alerts.push_back({kind, readUtf8(text)});
+    user().alerts.push_back({kind, readUtf8(session().ledger, text)});
     if (user().answers.empty()) return kYes;
     const AIAnswer answer = user().answers.front();
     user().answers.pop_front();
@@ -52,7 +52,7 @@ AIAnswer ask(const char* kind, const ai::UnicodeString& text) {
 }
 
 void tell(const char* kind, const ai::UnicodeString& text) {
-    user().alerts.push_back({kind, readUtf8(text)});
+    user().alerts.push_back({kind, readUtf8(session().ledger, text)});
 }
 
 AIBoolean okCancelAlert(const ai::UnicodeString& text, AIBoolean /*okIsDefault*/,

@@ -104,7 +104,8 @@ TEST_CASE("time stamps tell edits of art and leave dictionaries and selection ou
     };
     const Row rows[] = {
         {"a dictionary entry",
-         [](AIArtHandle handle) { artOf(handle).dictionary().set(internKey("ts"), 1); }, false},
+         [](AIArtHandle handle) { session().artOf(handle).dictionary().set(internKey("ts"), 1); },
+         false},
         {"selecting",
          [](AIArtHandle handle) { art().SetArtUserAttr(handle, kArtSelected, kArtSelected); },
          false},
@@ -127,11 +128,11 @@ TEST_CASE("time stamps tell edits of art and leave dictionaries and selection ou
 TEST_CASE("hiding a layer stamps its group but not what is on it") {
     const Drawing drawing;
     const AIArtHandle made = drawing.make(kPathArt);
-    const std::uint64_t own = artOf(made).stamp();
+    const std::uint64_t own = session().artOf(made).stamp();
     const std::uint64_t group = drawing.layerGroup().stamp();
     AILayerHandle handle = layerHandle(&drawing.layerGroup());
     setUserAttributes(drawing.layerGroup(), kArtHidden, kArtHidden);
-    CHECK(artOf(made).stamp() == own);
+    CHECK(session().artOf(made).stamp() == own);
     CHECK(drawing.layerGroup().stamp() > group);
     AIBoolean visible = 1;
     CHECK(layer().GetLayerVisible(handle, &visible) == kNoErr);
@@ -142,19 +143,19 @@ TEST_CASE("transferring everything leaves geometry, flags, selection and entries
     const Drawing drawing;
     const AIArtHandle source = drawing.makePath({{0, 0}, {9, 9}});
     const AIArtHandle target = drawing.makePath({{5, 5}});
-    artOf(source).write().style.write().path.stroke.color = rgbColor(1, 0, 0);
+    session().artOf(source).write().style.write().path.stroke.color = rgbColor(1, 0, 0);
     CHECK(path().SetPathClosed(source, 1) == kNoErr);
     drawing.name(source, "petal");
-    artOf(source).dictionary().set(internKey("tag"), 1);
+    session().artOf(source).dictionary().set(internKey("tag"), 1);
     CHECK(art().SetArtUserAttr(source, kArtLocked, kArtLocked) == kNoErr);
     CHECK(art().TransferAttributes(source, target, kTransferAll) == kNoErr);
 
-    CHECK(artOf(target).style().path.stroke.color.c.rgb.red == 1);
-    CHECK(artOf(target).details().name == "petal");
+    CHECK(session().artOf(target).style().path.stroke.color.c.rgb.red == 1);
+    CHECK(session().artOf(target).details().name == "petal");
     CHECK(isAttribute(target, kArtLocked));
-    CHECK(artOf(target).segments().size() == 1);
-    CHECK_FALSE(artOf(target).content().closed);
-    CHECK(artOf(target).dictionaryIfAny() == nullptr);
+    CHECK(session().artOf(target).segments().size() == 1);
+    CHECK_FALSE(session().artOf(target).content().closed);
+    CHECK(session().artOf(target).dictionaryIfAny() == nullptr);
 }
 
 } // namespace

@@ -35,7 +35,7 @@ TEST_CASE("absent entries say so, and leave nothing to rely on") {
 TEST_CASE("entries are consumed by setting and reading, whether or not that works") {
     const Drawing drawing;
     const OwnDictionary own;
-    const auto lent = [] { return ledger().count(Lent::Entry); };
+    const auto lent = [] { return session().ledger.count(Lent::Entry); };
     CHECK(dictionary().Set(own.ref, key("a"), entry().FromString("one")) == kNoErr);
     CHECK(lent() == 0);
     AIDictionaryRef none = nullptr;
@@ -54,11 +54,11 @@ TEST_CASE("a reference released too often, or used after, is refused and noted")
     AIDictionaryRef made = nullptr;
     REQUIRE(dictionary().CreateDictionary(&made) == kNoErr);
     CHECK(dictionary().Release(made) == 0);
-    const std::size_t noted = ledger().problems().size();
+    const std::size_t noted = session().ledger.problems().size();
     dictionary().Release(made);
-    CHECK(ledger().problems().size() == noted + 1);
+    CHECK(session().ledger.problems().size() == noted + 1);
     CHECK(dictionary().SetIntegerEntry(made, key("a"), 1) == kBadParameterErr);
-    CHECK(ledger().problems().size() == noted + 2);
+    CHECK(session().ledger.problems().size() == noted + 2);
 }
 
 TEST_CASE("a nested dictionary is shared, and belongs to the art it hangs on") {

@@ -13,7 +13,7 @@ TEST_CASE("art is transformed as points are, each coordinate rounded once") {
     const AIArtHandle made = drawing.makePath({kFarOrigin, {5100.25F, -2900.5F}});
     AIRealMatrix matrix{0.6F, 0.8F, -0.8F, 0.6F, 1234.5F, -777.25F};
     CHECK(transform().TransformArt(made, &matrix, 1, 0x46F) == kNoErr);
-    const AIRealPoint last = artOf(made).segments().back().p;
+    const AIRealPoint last = session().artOf(made).segments().back().p;
     CHECK(last.h == static_cast<AIReal>(double{matrix.a} * 5100.25 + double{matrix.c} * -2900.5 +
                                         double{matrix.tx}));
     CHECK(last.v == static_cast<AIReal>(double{matrix.b} * 5100.25 + double{matrix.d} * -2900.5 +
@@ -42,13 +42,13 @@ TEST_CASE("the flags of a transformation say what is transformed") {
             drawing.document.addDefinition(Definition::Kind::Gradient, "sky");
         const AIArtHandle group = drawing.make(kGroupArt);
         const AIArtHandle child = drawing.makePath({{1, 2}});
-        artOf(child).write().style.write().fillDefinition = &gradient;
+        session().artOf(child).write().style.write().fillDefinition = &gradient;
         drawing.moveInto(group, child);
         AIRealMatrix shift{1, 0, 0, 1, 10, 0};
         CHECK(transform().TransformArt(group, &shift, 3, row.flags) == kNoErr);
-        CHECK(artOf(child).segments()[0].p.h == row.childH);
-        CHECK(artOf(child).style().path.stroke.width == row.strokeWidth);
-        CHECK(artOf(child).style().fillMatrix.tx == row.definitionTx);
+        CHECK(session().artOf(child).segments()[0].p.h == row.childH);
+        CHECK(session().artOf(child).style().path.stroke.width == row.strokeWidth);
+        CHECK(session().artOf(child).style().fillMatrix.tx == row.definitionTx);
     }
 }
 
@@ -99,11 +99,11 @@ TEST_CASE("the artboard lies in the middle of the canvas, its top left corner at
 TEST_CASE("art stays on its place of the canvas when the ruler origin moves") {
     Drawing drawing;
     const AIArtHandle made = drawing.makePath({{10, 20}});
-    AIRealPoint soft = artOf(made).segments()[0].p;
+    AIRealPoint soft = session().artOf(made).segments()[0].p;
     AIRealPoint before{};
     CHECK(hardSoft().AIRealPointHarden(&soft, &before) == kNoErr);
     drawing.document.setRulerOrigin({8000, 8200});
-    soft = artOf(made).segments()[0].p;
+    soft = session().artOf(made).segments()[0].p;
     AIRealPoint after{};
     CHECK(hardSoft().AIRealPointHarden(&soft, &after) == kNoErr);
     CHECK(soft.h != 10);

@@ -107,7 +107,8 @@ TEST_CASE("no layer function takes a handle that is no live layer") {
     deleteLayer(deleted);
     std::vector<AILayerHandle> handles = worthless<AILayerHandle>(drawing);
     handles.push_back(gone);
-    handles.push_back(layerHandle(&artOf(drawing.make(kGroupArt)))); // a group, but no layer
+    handles.push_back(
+        layerHandle(&session().artOf(drawing.make(kGroupArt)))); // a group, but no layer
     for (const AILayerHandle bad : handles) {
         AIBoolean flag = 0;
         AILayerHandle found = nullptr;

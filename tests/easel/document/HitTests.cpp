@@ -112,9 +112,9 @@ TEST_CASE("a hit left to the host ends with the message") {
     const AIRealPoint point{0, 0};
     AIHitRef left = nullptr;
     CHECK(hit().HitTest(nullptr, &point, kAllHitRequest, &left) == kNoErr);
-    CHECK(ledger().count(Lent::Hit) == 1);
-    endMessageLoans();
-    CHECK(ledger().count(Lent::Hit) == 0);
+    CHECK(session().ledger.count(Lent::Hit) == 1);
+    session().messageLoans.clear();
+    CHECK(session().ledger.count(Lent::Hit) == 0);
     CHECK(hit().IsHit(nullptr) == 0);
 }
 

@@ -45,7 +45,7 @@ TEST_CASE("segments are overwritten, appended and cut off") {
     const AIArtHandle made = drawing.makePath({{0, 0}, {1, 0}, {2, 0}});
     const auto anchors = [made] {
         std::string text;
-        for (const AIPathSegment& segment : artOf(made).segments())
+        for (const AIPathSegment& segment : session().artOf(made).segments())
             text += std::to_string(static_cast<int>(segment.p.h)) + ' ';
         return text;
     };

@@ -3,10 +3,9 @@
 namespace easel::tests {
 
 SuiteServer& server() {
-    static SuiteServer theServer;
-    static const bool installed = (installArtSuites(theServer), true);
+    static const bool installed = (installArtSuites(session().suites), true);
     static_cast<void>(installed);
-    return theServer;
+    return session().suites;
 }
 
 } // namespace easel::tests

@@ -79,13 +79,13 @@ private:
 /// the switches are as they were.
 class Drawing {
 public:
-    Drawing() { setCurrentDocument(&document); }
+    Drawing() { session().current = &document; }
     ~Drawing() {
-        endMessageLoans();
-        for (const OpenLoan& loan : ledger().outstanding())
+        session().messageLoans.clear();
+        for (const OpenLoan& loan : session().ledger.outstanding())
             FAIL_CHECK(describe(loan));
-        ledger().clear();
-        switches() = {};
+        session().ledger.clear();
+        session().switches = {};
         session().allowAllChanges = false;
     }
     Drawing(const Drawing&) = delete;
@@ -113,20 +113,20 @@ public:
     }
     /// Puts `handle` into `group`, in front.
     void moveInto(AIArtHandle group, AIArtHandle handle) const {
-        moveArt(artOf(handle), onTopOf(artOf(group)));
+        moveArt(session().artOf(handle), onTopOf(session().artOf(group)));
     }
     void name(AIArtHandle handle, std::string text) const {
-        artOf(handle).write(Edit::Quiet).details.write().name = std::move(text);
+        session().artOf(handle).write(Edit::Quiet).details.write().name = std::move(text);
     }
 
-    Document document{AISize{200, 100}};
+    Document document{session(), AISize{200, 100}};
 };
 
 /// A string of the host in the plug-in's hands.
 struct HostText {
     HostText() = default;
-    explicit HostText(std::string_view text) { writeUtf8(string, text); }
-    ~HostText() { destroyString(string); }
+    explicit HostText(std::string_view text) { easel::writeUtf8(session().ledger, string, text); }
+    ~HostText() { destroyString(session().ledger, string); }
     HostText(const HostText&) = delete;
     HostText& operator=(const HostText&) = delete;
     ai::UnicodeString string;

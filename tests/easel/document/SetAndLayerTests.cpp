@@ -15,7 +15,7 @@ template <typename Fill> std::string namesIn(Fill fill) {
     for (std::size_t i = 0; i < count; ++i) {
         AIArtHandle each = nullptr;
         CHECK(artSet().IndexArtSet(set, i, &each) == kNoErr);
-        const std::string& name = artOf(each).details().name;
+        const std::string& name = session().artOf(each).details().name;
         names += name.empty() ? "?" : name;
     }
     AIArtHandle beyond = nullptr;
@@ -41,8 +41,8 @@ struct VariedDrawing : Drawing {
         name(make(kPathArt, kPlaceInsideOnTop, sublayer.handle()), "s");
         const AIArtHandle plugin = make(kPluginArt);
         name(plugin, "P");
-        name(make(kPathArt, kPlaceInsideOnTop, editArt(artOf(plugin))->handle()), "e");
-        name(make(kPathArt, kPlaceInsideOnTop, resultArt(artOf(plugin))->handle()), "r");
+        name(make(kPathArt, kPlaceInsideOnTop, editArt(session().artOf(plugin))->handle()), "e");
+        name(make(kPathArt, kPlaceInsideOnTop, resultArt(session().artOf(plugin))->handle()), "r");
         layerGroup().write(Edit::Quiet).details.write().name = "L";
         art().SetArtUserAttr(a, kArtSelected, kArtSelected);
         art().SetArtUserAttr(locked, kArtLocked, kArtLocked);
@@ -120,7 +120,7 @@ TEST_CASE("layers are counted from the top, sublayers left out; the last one sta
 }
 
 TEST_CASE("without a document calls that need one say so") {
-    setCurrentDocument(nullptr);
+    session().current = nullptr;
     AILayerHandle found = nullptr;
     ai::int32 count = 9;
     CHECK(layer().GetCurrentLayer(&found) == kNoDocumentErr);

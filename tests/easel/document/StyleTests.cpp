@@ -9,10 +9,10 @@ TEST_CASE("the members of a compound path have one style") {
     const AIArtHandle a = drawing.make(kPathArt, kPlaceInsideOnTop, compound);
     const AIArtHandle b = drawing.make(kPathArt, kPlaceInsideOnTop, compound);
     const AIArtHandle red = drawing.make(kPathArt);
-    artOf(red).write().style.write().path.fill.color = rgbColor(1, 0, 0);
+    session().artOf(red).write().style.write().path.fill.color = rgbColor(1, 0, 0);
     CHECK(art().TransferAttributes(red, a, kTransferAll) == kNoErr);
-    CHECK(styleCarrier(artOf(b)).style().path.fill.color.c.rgb.red == 1);
-    CHECK(artOf(compound).style().path.fill.color.c.rgb.red == 1);
+    CHECK(styleCarrier(session().artOf(b)).style().path.fill.color.c.rgb.red == 1);
+    CHECK(session().artOf(compound).style().path.fill.color.c.rgb.red == 1);
     CHECK(isAttribute(a, kArtPartOfCompound));
 }
 

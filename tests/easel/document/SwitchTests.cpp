@@ -12,8 +12,8 @@ TEST_CASE("a copy is locked and selected as its original, or not at all") {
         const AIArtHandle chosen = drawing.make(kPathArt);
         art().SetArtUserAttr(locked, kArtLocked, kArtLocked);
         art().SetArtUserAttr(chosen, kArtSelected, kArtSelected);
-        switches().duplicatesKeepLocks = keeps;
-        switches().duplicatesKeepSelection = keeps;
+        session().switches.duplicatesKeepLocks = keeps;
+        session().switches.duplicatesKeepSelection = keeps;
         AIArtHandle copy = nullptr;
         CHECK(art().DuplicateArt(locked, kPlaceAbove, locked, &copy) == kNoErr);
         CHECK(isAttribute(copy, kArtLocked) == keeps);
@@ -26,7 +26,7 @@ TEST_CASE("a layer's art has the layer's own group in front, or not") {
     for (const bool has : {true, false}) {
         const Drawing drawing;
         drawing.make(kPathArt);
-        switches().layerSetHasOwnGroup = has;
+        session().switches.layerSetHasOwnGroup = has;
         AIArtSet set = nullptr;
         REQUIRE(artSet().NewArtSet(&set) == kNoErr);
         CHECK(artSet().LayerArtSet(layerHandle(&drawing.layerGroup()), set) == kNoErr);
@@ -40,7 +40,7 @@ TEST_CASE("a layer's art has the layer's own group in front, or not") {
 TEST_CASE("a sublayer's group has its parent's group above it, or nothing") {
     for (const bool has : {true, false}) {
         Drawing drawing;
-        switches().sublayerGroupHasParent = has;
+        session().switches.sublayerGroupHasParent = has;
         Art& inner = createLayer(drawing.document, "Inner", onTopOf(drawing.layerGroup()));
         AIArtHandle parent = nullptr;
         CHECK(art().GetArtParent(inner.handle(), &parent) == kNoErr);
@@ -51,7 +51,7 @@ TEST_CASE("a sublayer's group has its parent's group above it, or nothing") {
 TEST_CASE("undo gives stamps back, or fresh ones") {
     for (const bool restores : {true, false}) {
         Drawing drawing;
-        switches().undoRestoresStamps = restores;
+        session().switches.undoRestoresStamps = restores;
         const AIArtHandle made = drawing.makePath({{0, 0}});
         const std::uint64_t before = subtreeStamp(drawing.layerGroup());
         {
@@ -62,14 +62,14 @@ TEST_CASE("undo gives stamps back, or fresh ones") {
         drawing.document.undo().undo();
         const std::uint64_t undone = subtreeStamp(drawing.layerGroup());
         CHECK((restores ? undone == before : undone > changed));
-        CHECK_FALSE(artOf(made).content().closed);
+        CHECK_FALSE(session().artOf(made).content().closed);
     }
 }
 
 TEST_CASE("the stamp of a group covers what it contains, or tells of the group alone") {
     for (const bool covers : {true, false}) {
         const Drawing drawing;
-        switches().stampsCoverDescendants = covers;
+        session().switches.stampsCoverDescendants = covers;
         const AIArtHandle made = drawing.makePath({{0, 0}});
         const auto stampOf = [](AIArtHandle handle) {
             std::size_t stamp = 0;
@@ -87,7 +87,7 @@ TEST_CASE("the stamp of a group covers what it contains, or tells of the group a
 TEST_CASE("what is locked in a group goes along with it, or holds it") {
     for (const bool goesAlong : {true, false}) {
         const Drawing drawing;
-        switches().lockedMembersGoAlong = goesAlong;
+        session().switches.lockedMembersGoAlong = goesAlong;
         const AIArtHandle group = drawing.make(kGroupArt);
         const AIArtHandle member = drawing.make(kPathArt, kPlaceInsideOnTop, group);
         art().SetArtUserAttr(member, kArtLocked, kArtLocked);
@@ -103,7 +103,7 @@ TEST_CASE("what is locked in a group goes along with it, or holds it") {
 TEST_CASE("disposing of locked art is refused, or happens") {
     for (const bool refuses : {true, false}) {
         const Drawing drawing;
-        switches().disposeRefusesLocked = refuses;
+        session().switches.disposeRefusesLocked = refuses;
         const AIArtHandle made = drawing.make(kPathArt);
         art().SetArtUserAttr(made, kArtLocked, kArtLocked);
         CHECK(art().DisposeArt(made) == (refuses ? kUntouchableArtObjectErr : kNoErr));
@@ -114,7 +114,7 @@ TEST_CASE("disposing of locked art is refused, or happens") {
 TEST_CASE("a hit test that finds nothing gives an object, or null") {
     for (const bool object : {true, false}) {
         const Drawing drawing;
-        switches().missIsHitObject = object;
+        session().switches.missIsHitObject = object;
         const AIRealPoint point{50, 50};
         AIHitRef ref = nullptr;
         CHECK(hit().HitTest(nullptr, &point, kAllHitRequest, &ref) == kNoErr);
@@ -127,7 +127,7 @@ TEST_CASE("a hit test that finds nothing gives an object, or null") {
 TEST_CASE("reading the wrong type has a code of its own, or that of a bad parameter") {
     for (const bool own : {true, false}) {
         const Drawing drawing;
-        switches().wrongEntryTypeHasOwnCode = own;
+        session().switches.wrongEntryTypeHasOwnCode = own;
         AIDictionaryRef none = nullptr;
         CHECK(entry().ToDict(entry().FromString("text"), &none) ==
               (own ? kWrongEntryType : kBadParameterErr));
@@ -137,7 +137,7 @@ TEST_CASE("reading the wrong type has a code of its own, or that of a bad parame
 TEST_CASE("silent records go with the step before them, or by themselves") {
     for (const bool follows : {true, false}) {
         Drawing drawing;
-        switches().silentFollowsStep = follows;
+        session().switches.silentFollowsStep = follows;
         const std::string before = dump(drawing.document);
         std::string step;
         for (const AIUndoContextKind kind : {kStandardUndoContext, kSilentUndoContext}) {
@@ -157,7 +157,7 @@ TEST_CASE("silent records go with the step before them, or by themselves") {
 TEST_CASE("the size of a set is written in 64 bits, or in the low half only") {
     for (const bool wide : {true, false}) {
         const Drawing drawing;
-        switches().countIs64Bits = wide;
+        session().switches.countIs64Bits = wide;
         AIArtSet set = nullptr;
         REQUIRE(artSet().NewArtSet(&set) == kNoErr);
         std::size_t count = ~std::size_t{0};
@@ -170,7 +170,7 @@ TEST_CASE("the size of a set is written in 64 bits, or in the low half only") {
 TEST_CASE("selecting locked art is an error, or nothing") {
     for (const bool fails : {true, false}) {
         const Drawing drawing;
-        switches().selectingLockedFails = fails;
+        session().switches.selectingLockedFails = fails;
         const AIArtHandle made = drawing.makePath({{0, 0}});
         art().SetArtUserAttr(made, kArtLocked, kArtLocked);
         const AIErr expected = fails ? kUntouchableArtObjectErr : kNoErr;
@@ -183,10 +183,10 @@ TEST_CASE("selecting locked art is an error, or nothing") {
 TEST_CASE("the dictionary's later functions stand where they are told, or two slots earlier") {
     const Drawing drawing;
     const AIDictionarySuite usual = dictionary();
-    switches().dictionaryHasPointerSlots = false;
+    session().switches.dictionaryHasPointerSlots = false;
     installDictionarySuite(server());
     const AIDictionarySuite shifted = dictionary();
-    switches().dictionaryHasPointerSlots = true;
+    session().switches.dictionaryHasPointerSlots = true;
     installDictionarySuite(server());
     const auto address = [](auto function) { return reinterpret_cast<std::uintptr_t>(function); };
     CHECK(address(shifted.GetPointerEntry) == address(usual.GetRealEntry));
@@ -198,7 +198,7 @@ TEST_CASE("the dictionary's later functions stand where they are told, or two sl
 TEST_CASE("strings of entries last until the message ends, or until the next call") {
     for (const bool last : {true, false}) {
         const Drawing drawing;
-        switches().entryStringsLast = last;
+        session().switches.entryStringsLast = last;
         AIDictionaryRef own = nullptr;
         REQUIRE(dictionary().CreateDictionary(&own) == kNoErr);
         const AIDictKey key = dictionary().Key("k");

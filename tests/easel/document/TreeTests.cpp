@@ -9,8 +9,9 @@ std::string childrenOf(AIArtHandle parent) {
     std::string backwards;
     AIArtHandle each = nullptr;
     for (art().GetArtFirstChild(parent, &each); each != nullptr; art().GetArtSibling(each, &each))
-        forwards += artOf(each).details().name;
-    for (const Art* last = artOf(parent).lastChild(); last != nullptr; last = last->previous())
+        forwards += session().artOf(each).details().name;
+    for (const Art* last = session().artOf(parent).lastChild(); last != nullptr;
+         last = last->previous())
         backwards = last->details().name + backwards;
     CHECK(forwards == backwards);
     return forwards;
@@ -111,7 +112,7 @@ TEST_CASE("a copy carries what the original has, all the way down") {
     const AIArtHandle child = drawing.makePath({{1, 2}, {3, 4}});
     drawing.moveInto(group, child);
     CHECK(path().SetPathGuide(child, 1) == kNoErr);
-    artOf(child).dictionary().set(internKey("tag"), 7);
+    session().artOf(child).dictionary().set(internKey("tag"), 7);
     drawing.name(child, "named");
     CHECK(art().SetArtUserAttr(child, kArtLocked, kArtLocked) == kNoErr);
     const std::string one = dump(drawing.document);
@@ -122,8 +123,11 @@ TEST_CASE("a copy carries what the original has, all the way down") {
     const std::size_t start = one.find("  group");
     CHECK(two == one + one.substr(start));
 
-    artOf(artOf(copy).firstChild()->handle()).dictionary().set(internKey("tag"), 8);
-    const auto* original = artOf(child).dictionary().find(internKey("tag"));
+    session()
+        .artOf(session().artOf(copy).firstChild()->handle())
+        .dictionary()
+        .set(internKey("tag"), 8);
+    const auto* original = session().artOf(child).dictionary().find(internKey("tag"));
     CHECK(std::get<ai::int32>(*original) == 7);
 }
 
@@ -147,8 +151,8 @@ TEST_CASE("edit and result art hang on their plug-in group without being its chi
     drawing.make(kPathArt, kPlaceInsideOnTop, result);
     AIArtHandle copy = nullptr;
     CHECK(art().DuplicateArt(plugin, kPlaceBelow, plugin, &copy) == kNoErr);
-    CHECK(editArt(artOf(copy))->firstChild() != nullptr);
-    CHECK(resultArt(artOf(copy))->firstChild() != nullptr);
+    CHECK(editArt(session().artOf(copy))->firstChild() != nullptr);
+    CHECK(resultArt(session().artOf(copy))->firstChild() != nullptr);
 }
 
 TEST_CASE("new art goes to the top of the current layer when no place is named") {
@@ -156,7 +160,7 @@ TEST_CASE("new art goes to the top of the current layer when no place is named")
     Art& top = createLayer(drawing.document, "Top", onTopOf(drawing.document.root()));
     setCurrentLayer(drawing.document, top);
     const AIArtHandle made = drawing.make(kPathArt, kPlaceDefault, nullptr);
-    CHECK(artOf(made).parent() == &top);
+    CHECK(session().artOf(made).parent() == &top);
     AIArtHandle where = nullptr;
     ai::int16 order = 0;
     AIBoolean editable = 0;

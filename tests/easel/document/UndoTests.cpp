@@ -50,20 +50,20 @@ TEST_CASE("each kind of change is undone and redone exactly") {
         Document& document = drawing.document;
         const AIArtHandle group = drawing.make(kGroupArt);
         const AIArtHandle made = drawing.makePath({{0, 0}, {10, 20}});
-        moveArt(artOf(made), onTopOf(artOf(group)));
+        moveArt(session().artOf(made), onTopOf(session().artOf(group)));
         Ref<Dictionary> nested(new Dictionary);
-        artOf(made).dictionary().set(internKey("nested"), nested);
+        session().artOf(made).dictionary().set(internKey("nested"), nested);
         const std::string before = dump(document);
         {
             const Record record(document);
-            row.change(document, artOf(group), artOf(made));
+            row.change(document, session().artOf(group), session().artOf(made));
         }
         const std::string after = dump(document);
         CHECK(after != before);
         for (int round = 0; round < 3; ++round) {
             CHECK(document.undo().undo());
             CHECK(dump(document) == before);
-            CHECK(artOf(made).handle() == made); // the same object by the same handle
+            CHECK(session().artOf(made).handle() == made); // the same object by the same handle
             CHECK(document.undo().redo());
             CHECK(dump(document) == after);
         }
@@ -160,7 +160,7 @@ TEST_CASE("reverting brings back the start of the record and kills what it made"
     Drawing drawing;
     Document& document = drawing.document;
     const AIArtHandle old = drawing.makePath({{0, 0}, {1, 1}});
-    artOf(old).dictionary().set(internKey("tag"), 1);
+    session().artOf(old).dictionary().set(internKey("tag"), 1);
     const std::string before = dump(document);
     const Record record(document);
     AIArtHandle made = nullptr;
@@ -170,8 +170,8 @@ TEST_CASE("reverting brings back the start of the record and kills what it made"
         CHECK(dump(document) == before);
         CHECK(art().ValidArt(made, 1) == 0);
         CHECK(art().DuplicateArt(old, kPlaceAbove, old, &made) == kNoErr);
-        artOf(made).dictionary().set(internKey("tag"), 2);
-        artOf(old).dictionary().erase(internKey("tag"));
+        session().artOf(made).dictionary().set(internKey("tag"), 2);
+        session().artOf(old).dictionary().erase(internKey("tag"));
         CHECK(art().DisposeArt(old) == kNoErr);
         if (drag == 0) first = dump(document);
         CHECK(dump(document) == first);
@@ -331,7 +331,7 @@ TEST_CASE("a dictionary that outlives its document records nothing and harms nob
     {
         Drawing drawing;
         const AIArtHandle made = drawing.make(kPathArt);
-        survivor = Ref<Dictionary>(&artOf(made).dictionary());
+        survivor = Ref<Dictionary>(&session().artOf(made).dictionary());
         const Record record(drawing.document);
         survivor->set(internKey("a"), 1);
     }

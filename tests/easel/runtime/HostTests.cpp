@@ -28,8 +28,7 @@ namespace facetta::tests {
 namespace {
 
 using easel::Host;
-using easel::installedSuites;
-using easel::ledger;
+using easel::sessionWithSuites;
 using Names = std::vector<std::string>;
 
 /// What a plug-in received, start-up left out.
@@ -61,17 +60,17 @@ void drawPath(easel::Document& document) {
 struct Session {
     Session() {
         host.start();
-        host.open(std::make_unique<easel::Document>(AISize{600, 400}));
+        host.open(std::make_unique<easel::Document>(easel::session(), AISize{600, 400}));
         plugin.received.clear();
     }
-    Host host{installedSuites()};
+    Host host{sessionWithSuites()};
     TestPlugin plugin{host};
 };
 
 } // namespace
 
 TEST_CASE("a plug-in is loaded, started, told, stopped and unloaded in that order") {
-    Host host{installedSuites()};
+    Host host{sessionWithSuites()};
     TestPlugin plugin{host};
     plugin.on("SP Interface/Startup", [&](SPMessageData&) {
         for (const char* type : {kApplicationStartedNotifier, kAllPluginsStartedNotifier,
@@ -97,7 +96,7 @@ TEST_CASE("a plug-in is loaded, started, told, stopped and unloaded in that orde
 }
 
 TEST_CASE("the globals a message leaves behind are given to the next one") {
-    Host host{installedSuites()};
+    Host host{sessionWithSuites()};
     TestPlugin plugin{host};
     int state = 0;
     void* nestedGlobals = &state;
@@ -128,7 +127,7 @@ TEST_CASE("the globals a message leaves behind are given to the next one") {
 }
 
 TEST_CASE("a plug-in whose start-up fails hears nothing more but its unloading") {
-    Host host{installedSuites()};
+    Host host{sessionWithSuites()};
     TestPlugin plugin{host};
     plugin.on("SP Interface/Startup", [&](SPMessageData&) {
         listenTo(plugin, kApplicationStartedNotifier);
@@ -137,8 +136,8 @@ TEST_CASE("a plug-in whose start-up fails hears nothing more but its unloading")
     host.start();
     host.quit();
     CHECK(plugin.received == Names{"SP Access/Reload", "SP Interface/Startup", "SP Access/Unload"});
-    REQUIRE(!ledger().problems().empty());
-    CHECK(ledger().problems().front() == "Test: start-up failed with '!MEM'");
+    REQUIRE(!easel::session().ledger.problems().empty());
+    CHECK(easel::session().ledger.problems().front() == "Test: start-up failed with '!MEM'");
     REQUIRE(!host.sent.empty());
     CHECK(host.sent.front().result == kOutOfMemoryErr);
 }
@@ -146,7 +145,7 @@ TEST_CASE("a plug-in whose start-up fails hears nothing more but its unloading")
 TEST_CASE("a strict host refuses suites while the library loads, a lenient one does not") {
     for (const bool strict : {false, true}) {
         INFO("strict: " << strict);
-        Host host{installedSuites(), {.strictAccessMessages = strict}};
+        Host host{sessionWithSuites(), {.strictAccessMessages = strict}};
         TestPlugin plugin{host};
         SPErr menu = kNoErr;
         SPErr blocks = kNoErr;
@@ -220,13 +219,13 @@ TEST_CASE("changes of art are told when the host is idle, once, layers first") {
 TEST_CASE("notifications come when the host is idle, or late: when it is idle again") {
     for (const bool soon : {true, false}) {
         Session session;
-        easel::switches().notificationsComeSoon = soon;
+        easel::session().switches.notificationsComeSoon = soon;
         listenTo(session.plugin, kArtSelectionChangedNotifier);
         session.host.edit("Draw", drawPath);
         CHECK(session.plugin.received.size() == (soon ? 1 : 0));
         session.host.idle();
         CHECK(session.plugin.received.size() == 1);
-        easel::switches() = {};
+        easel::session().switches = {};
         session.host.quit();
     }
 }
@@ -240,7 +239,7 @@ TEST_CASE("only in a context that is not nested can the kind of the undo step be
     for (const auto& row : rows) {
         INFO("pushing a context: ", row.pushes, ", which nests: ", row.ownContextsNest);
         Session session;
-        easel::switches().ownContextsNest = row.ownContextsNest;
+        easel::session().switches.ownContextsNest = row.ownContextsNest;
         listenTo(session.plugin, kArtSelectionChangedNotifier);
         AIBoolean silent = 0;
         session.plugin.on(kArtSelectionChangedNotifier, [&](SPMessageData&) {
@@ -251,7 +250,7 @@ TEST_CASE("only in a context that is not nested can the kind of the undo step be
         });
         session.host.edit("Draw", drawPath);
         CHECK((silent == 0) == row.obeyed);
-        easel::switches() = {};
+        easel::session().switches = {};
         session.host.quit();
     }
 }
@@ -276,7 +275,7 @@ TEST_CASE("a plug-in changes documents within a context only") {
         return ai::suites.art->NewArt(kPathArt, kPlaceAboveAll, nullptr, &made);
     };
     CHECK(draw() == kNoDocumentErr);
-    CHECK(easel::currentDocument().state().currentLayer->firstChild() == nullptr);
+    CHECK(easel::session().document().state().currentLayer->firstChild() == nullptr);
     {
         const ai::AppContext context{session.plugin.self()};
         CHECK(draw() == kNoErr);
@@ -295,10 +294,10 @@ TEST_CASE("a call that fails leaves what it would have written spoiled") {
     CHECK(ai::suites.art->GetArtType(nullptr, &type) == kBadParameterErr);
     CHECK(type == static_cast<ai::int16>(0xCDCD));
     AIArtHandle parent = nullptr;
-    easel::hostCalls().arm(
+    easel::session().calls.arm(
         {.mode = easel::FaultPlan::Mode::Once, .call = 1, .function = {}, .code = kOutOfMemoryErr});
     CHECK(ai::suites.art->GetArtParent(nullptr, &parent) == kOutOfMemoryErr);
-    easel::hostCalls().disarm();
+    easel::session().calls.disarm();
     CHECK(reinterpret_cast<std::uintptr_t>(parent) == 0xCDCDCDCDCDCDCDCD);
     session.host.quit();
 }
@@ -313,7 +312,7 @@ TEST_CASE("the pen goes on with its path until it is closed, ended or put away")
     };
     const auto anchors = [] {
         std::vector<std::size_t> counts;
-        const easel::Art* art = easel::currentDocument().state().currentLayer->lastChild();
+        const easel::Art* art = easel::session().document().state().currentLayer->lastChild();
         for (; art != nullptr; art = art->previous())
             counts.push_back(art->segments().size());
         return counts;
@@ -324,7 +323,7 @@ TEST_CASE("the pen goes on with its path until it is closed, ended or put away")
     host.press({.at = {50, -50}});
     host.drag({.at = {60, -60}});
     host.release({.at = {60, -60}});
-    const easel::Art& path = *easel::currentDocument().state().currentLayer->firstChild();
+    const easel::Art& path = *easel::session().document().state().currentLayer->firstChild();
     CHECK(path.segments()[2].in.h == 40);
     CHECK(easel::segmentSelection(path, 2) == kSegmentPointSelected);
     CHECK(easel::segmentSelection(path, 1) == kSegmentNotSelected);
@@ -362,7 +361,7 @@ TEST_CASE("notifications that raise each other without end are stopped and repor
     Session session;
     listenTo(session.plugin, kArtSelectionChangedNotifier);
     session.plugin.on(kArtSelectionChangedNotifier, [](SPMessageData&) {
-        easel::Document& document = easel::currentDocument();
+        easel::Document& document = easel::session().document();
         easel::createArt(document, kPathArt, easel::onTopOf(*document.state().currentLayer));
         return kNoErr;
     });
@@ -370,8 +369,8 @@ TEST_CASE("notifications that raise each other without end are stopped and repor
         easel::createArt(document, kPathArt, easel::onTopOf(*document.state().currentLayer));
     });
     CHECK(session.plugin.received.size() == easel::Notifiers::kRounds);
-    REQUIRE(ledger().problems().size() == 1);
-    CHECK(ledger().problems()[0].find("without end") != std::string::npos);
+    REQUIRE(easel::session().ledger.problems().size() == 1);
+    CHECK(easel::session().ledger.problems()[0].find("without end") != std::string::npos);
     session.host.quit();
 }
 
@@ -487,13 +486,13 @@ TEST_CASE("press to release is one undo step, named after the tool") {
     Session session;
     const AIToolHandle tool = addTool(session.plugin, "Pencil", 1);
     const auto draw = [](SPMessageData&) {
-        easel::Document& document = easel::currentDocument();
+        easel::Document& document = easel::session().document();
         easel::createArt(document, kPathArt, easel::onTopOf(*document.state().currentLayer));
         return kNoErr;
     };
     session.plugin.on("AI Tool/AI Mouse Down", draw);
     session.plugin.on("AI Tool/AI Mouse Drag", [&](SPMessageData& data) {
-        easel::currentDocument().undo().revert(); // the intended pattern: draw anew in each drag
+        easel::session().document().undo().revert(); // the intended pattern: draw anew in each drag
         return draw(data);
     });
     session.host.selectTool(tool);
@@ -502,7 +501,7 @@ TEST_CASE("press to release is one undo step, named after the tool") {
     session.host.drag({{2, 2}});
     session.host.release({{2, 2}});
 
-    const easel::Document& document = easel::currentDocument();
+    const easel::Document& document = easel::session().document();
     const easel::Art& layer = *document.state().currentLayer;
     CHECK(layer.firstChild() == layer.lastChild());
     CHECK(document.undo().pastSteps() == 1);
@@ -544,7 +543,7 @@ TEST_CASE("contexts nest strictly, and one left open is reported and closed") {
     });
     CHECK(result == kNoErr);
     CHECK(session.host.contexts.depth() == 0);
-    const Names& problems = ledger().problems();
+    const Names& problems = easel::session().ledger.problems();
     CHECK(countOf(problems, "AI Filter/AI Go: contexts pushed and popped do not balance") == 1);
     CHECK(countOf(problems,
                   "application context x1 lent by AI Context Suite.PushAppContext is kept "
@@ -575,10 +574,10 @@ TEST_CASE("work outside any message is a step of its own when a context encloses
     Session session;
     {
         const ai::AppContext context{session.plugin.self()};
-        easel::Document& document = easel::currentDocument();
+        easel::Document& document = easel::session().document();
         easel::createArt(document, kPathArt, easel::onTopOf(*document.state().currentLayer));
     }
-    CHECK(easel::currentDocument().undo().pastSteps() == 1);
+    CHECK(easel::session().document().undo().pastSteps() == 1);
     session.host.quit();
 }
 
@@ -602,7 +601,7 @@ TEST_CASE("timers run by the clock while they are active") {
 }
 
 TEST_CASE("without a document there is none to be current") {
-    Host host{installedSuites()};
+    Host host{sessionWithSuites()};
     TestPlugin plugin{host};
     host.start();
     ai::int32 count = 7;
@@ -615,21 +614,21 @@ TEST_CASE("without a document there is none to be current") {
 
 TEST_CASE("a call that a fault plan names fails before it has any effect") {
     Session session;
-    easel::hostCalls().arm({.mode = easel::FaultPlan::Mode::Once,
-                            .call = 2,
-                            .function = "AI Timer Suite.AddTimer",
-                            .code = kOutOfMemoryErr});
+    easel::session().calls.arm({.mode = easel::FaultPlan::Mode::Once,
+                                .call = 2,
+                                .function = "AI Timer Suite.AddTimer",
+                                .code = kOutOfMemoryErr});
     std::vector<AIErr> results;
     for (int i = 0; i < 3; ++i) {
         AITimerHandle timer = nullptr;
         results.push_back(ai::suites.timer->AddTimer(session.plugin.self(), "T", 60, &timer));
     }
-    easel::hostCalls().disarm();
+    easel::session().calls.disarm();
     CHECK(results == std::vector<AIErr>{kNoErr, kOutOfMemoryErr, kNoErr});
-    CHECK(easel::hostCalls().fired());
+    CHECK(easel::session().calls.fired());
     CHECK(session.host.timers.count() == 2);
     session.host.quit();
-    CHECK(ledger().problems().size() == 2); // both timers still ran
+    CHECK(easel::session().ledger.problems().size() == 2); // both timers still ran
 }
 
 } // namespace facetta::tests

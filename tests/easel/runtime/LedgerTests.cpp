@@ -21,7 +21,6 @@
 namespace facetta::tests {
 namespace {
 
-using easel::ledger;
 using easel::Lent;
 
 /// Storage for a string or a path whose destructor never runs.
@@ -42,13 +41,13 @@ struct Family {
 struct Fixture {
     Fixture() {
         host.start();
-        host.open(std::make_unique<easel::Document>(AISize{600, 400}));
+        host.open(std::make_unique<easel::Document>(easel::session(), AISize{600, 400}));
     }
-    easel::Host host{easel::installedSuites()};
+    easel::Host host{easel::sessionWithSuites()};
     TestPlugin plugin{host};
 
     const SPBasicSuite& basic = *static_cast<const SPBasicSuite*>(
-        host.suites.functions(kSPBasicSuite, kSPBasicSuiteVersion));
+        easel::session().suites.functions(kSPBasicSuite, kSPBasicSuiteVersion));
     AIDictionaryRef dictionary = nullptr;
     AIEntryRef entry = nullptr;
     AIArtSet artSet = nullptr;
@@ -110,12 +109,12 @@ TEST_CASE("a planted leak of any family is reported with the call that lent it")
         INFO(family.name);
         fixture.plugin.run(family.acquire);
         const std::string loan = std::string(family.name) + " x1 lent by " + family.lender;
-        CHECK(anyContains(ledger().problems(), loan + " is kept after AI Filter/AI Go") !=
-              family.keptBeyondMessage);
+        CHECK(anyContains(easel::session().ledger.problems(),
+                          loan + " is kept after AI Filter/AI Go") != family.keptBeyondMessage);
         CHECK(anyContains(fixture.host.complaints(), loan));
 
         fixture.plugin.run([&] { CHECK(family.release() == kNoErr); });
-        CHECK(ledger().outstanding().size() == 1); // the suites the plug-in holds
+        CHECK(easel::session().ledger.outstanding().size() == 1); // the suites the plug-in holds
         fixture.host.quit();
     }
 }
@@ -130,11 +129,12 @@ TEST_CASE("a second release is refused and tells who released first") {
             family.acquire();
             CHECK(family.release() == kNoErr);
         });
-        const std::size_t before = ledger().problems().size();
+        const std::size_t before = easel::session().ledger.problems().size();
         CHECK(before == 0);
         AIErr second = kNoErr;
         fixture.plugin.run([&] { second = family.release(); });
-        const bool refused = second != kNoErr || ledger().problems().size() == before + 1;
+        const bool refused =
+            second != kNoErr || easel::session().ledger.problems().size() == before + 1;
         CHECK(refused);
         fixture.host.quit();
     }
@@ -157,7 +157,8 @@ TEST_CASE("a suite that is never released is named at the end") {
 }
 
 TEST_CASE("a reference lent several times is back when each lending is") {
-    easel::Ledger book;
+    const easel::HostCalls calls;
+    easel::Ledger book{calls};
     int thing = 0;
     book.lend(Lent::Dictionary, &thing);
     book.lend(Lent::Dictionary, &thing);

@@ -3,6 +3,7 @@
 #include "easel/document/Attributes.h"
 #include "easel/document/Dump.h"
 #include "easel/document/Layers.h"
+#include "easel/suites/Suites.h"
 #include "easel/svg/SvgFile.h"
 
 #include <doctest/doctest.h>
@@ -55,13 +56,13 @@ struct Opened {
         CHECK(session.open(input.path).empty());
     }
     TestFile input;
-    MirrorSession session;
+    MirrorSession session{easel::sessionWithSuites()};
 };
 
 /// Centre of the bounding box of each path, rounded to whole points and sorted.
 std::vector<std::pair<long, long>> centres() {
     std::vector<std::pair<long, long>> all;
-    const easel::Art& root = easel::currentDocument().root();
+    const easel::Art& root = easel::session().document().root();
     for (const easel::Art* art = easel::nextInPreorder(root, root); art != nullptr;
          art = easel::nextInPreorder(*art, root)) {
         if (art->type() != kPathArt) continue;
@@ -87,7 +88,7 @@ struct Outcome {
 Outcome run(const easel::MirrorCommand& command) {
     std::ostringstream out;
     std::ostringstream error;
-    const ExitStatus status = easel::runMirror(command, out, error);
+    const ExitStatus status = easel::runMirror(easel::sessionWithSuites(), command, out, error);
     return {status, out.str(), error.str()};
 }
 
@@ -118,16 +119,16 @@ TEST_CASE("a shape is mirrored into every sector about the origin asked for") {
 TEST_CASE("applying is one step that undo takes back whole") {
     const MirrorRequest request{.axes = 5, .angleDegrees = 12};
     Opened opened{kSquare, request};
-    const std::string before = easel::svg::svgText(easel::currentDocument());
+    const std::string before = easel::svg::svgText(easel::session().document());
     opened.session.mirror(request);
-    const std::string after = easel::svg::svgText(easel::currentDocument());
+    const std::string after = easel::svg::svgText(easel::session().document());
     CHECK(before != after);
     CHECK(opened.session.host.undoText().find("Apply Symmetry Axes to Selection") !=
           std::string::npos);
     CHECK(opened.session.host.undo());
-    CHECK(easel::svg::svgText(easel::currentDocument()) == before);
+    CHECK(easel::svg::svgText(easel::session().document()) == before);
     CHECK(opened.session.host.redo());
-    CHECK(easel::svg::svgText(easel::currentDocument()) == after);
+    CHECK(easel::svg::svgText(easel::session().document()) == after);
     CHECK(opened.session.finish().empty());
 }
 

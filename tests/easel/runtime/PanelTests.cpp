@@ -26,12 +26,12 @@ std::vector<std::string>& told() {
 }
 
 template <typename Suite> const Suite& suite(const char* name, ai::int32 version) {
-    return *static_cast<const Suite*>(easel::installedSuites().functions(name, version));
+    return *static_cast<const Suite*>(easel::sessionWithSuites().suites.functions(name, version));
 }
 
 /// A plug-in with one panel of two states and a flyout menu of "One", a separator and "Two".
 struct PanelFixture {
-    easel::Host host{easel::installedSuites()};
+    easel::Host host{easel::sessionWithSuites()};
     TestPlugin plugin{host};
     const AIPanelSuite& panels = suite<AIPanelSuite>(kAIPanelSuite, kAIPanelSuiteVersion);
     const AIPanelFlyoutMenuSuite& menus =
@@ -167,7 +167,7 @@ TEST_CASE("the flyout menu is brought up to date before it opens") {
     panels.SetFlyoutMenuPreVisibilityProc(panel, [](AIPanelRef opened) {
         const auto& menuSuite =
             suite<AIPanelFlyoutMenuSuite>(kAIPanelFlyoutMenuSuite, kAIPanelFlyoutMenuSuiteVersion);
-        AIPanelFlyoutMenuRef itsMenu = easel::host().panels.at(opened).flyout;
+        AIPanelFlyoutMenuRef itsMenu = easel::session().host->panels.at(opened).flyout;
         menuSuite.SetItemEnabled(itsMenu, 2, 0);
         menuSuite.SetItemText(itsMenu, 0, ai::UnicodeString("Eins"));
         menuSuite.SetItemMark(itsMenu, 0, AIPanelFlyoutMenuItemMark::Check);

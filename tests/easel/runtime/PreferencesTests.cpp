@@ -18,7 +18,7 @@ constexpr const char* kPrefix = "Facetta";
 struct Fixture {
     Fixture() { host.start(); }
     ~Fixture() { host.quit(); }
-    easel::Host host{easel::installedSuites()};
+    easel::Host host{easel::sessionWithSuites()};
     TestPlugin plugin{host};
     const AIPreferenceSuite& suite = *ai::suites.preference;
 };
@@ -32,7 +32,7 @@ TEST_CASE("reading what was never written leaves the default in place") {
     };
     for (const auto& [succeeds, code] : {Row{true, kNoErr}, Row{false, kBadParameterErr}}) {
         Fixture fixture;
-        easel::switches().absentPreferenceSucceeds = succeeds;
+        easel::session().switches.absentPreferenceSucceeds = succeeds;
         const auto& suite = *ai::suites.preference;
         AIBoolean flag = 1;
         ai::int32 number = 7;
@@ -46,7 +46,7 @@ TEST_CASE("reading what was never written leaves the default in place") {
         CHECK(number == 7);
         CHECK(real == 0.25);
         CHECK(std::string(text) == "default");
-        easel::switches() = {};
+        easel::session().switches = {};
     }
 }
 

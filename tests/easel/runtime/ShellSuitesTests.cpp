@@ -26,10 +26,10 @@ namespace {
 struct Fixture {
     Fixture() {
         host.start();
-        host.open(std::make_unique<easel::Document>(AISize{600, 400}));
+        host.open(std::make_unique<easel::Document>(easel::session(), AISize{600, 400}));
     }
     ~Fixture() { host.quit(); }
-    easel::Host host{easel::installedSuites()};
+    easel::Host host{easel::sessionWithSuites()};
     TestPlugin plugin{host};
 };
 
@@ -138,7 +138,7 @@ TEST_CASE("the canvas stays where it is when the ruler origin moves") {
     AIRealRect before{};
     suite.GetDocumentMaxArtboardBounds(&before);
     // A hundred to the right of the artboard's left edge, 150 above its lower one.
-    AIRealPoint origin = easel::currentDocument().state().rulerOrigin;
+    AIRealPoint origin = easel::session().document().state().rulerOrigin;
     origin.h += 100;
     origin.v += 400 - 150;
     fixture.host.edit("Ruler", [&](easel::Document& drawing) { drawing.setRulerOrigin(origin); });
@@ -152,7 +152,7 @@ TEST_CASE("the canvas stays where it is when the ruler origin moves") {
 
 TEST_CASE("snapping searches the sources of the control string in its order") {
     Fixture fixture;
-    easel::Document& document = easel::currentDocument();
+    easel::Document& document = easel::session().document();
     easel::Art& path =
         easel::createArt(document, kPathArt, easel::onTopOf(*document.state().currentLayer));
     path.write().segments.write() = {corner(100, -100), corner(200, -100)};
@@ -200,7 +200,7 @@ TEST_CASE("file paths take and give native text") {
     std::ofstream(file) << "x";
 
     ai::FilePath path;
-    CHECK(easel::readPath(path).empty());
+    CHECK(easel::readPath(easel::session().ledger, path).empty());
     const ai::UnicodeString folderText{std::u16string_view(folder.u16string())};
     REQUIRE(suite.Set(folderText, 0, path) == kNoErr);
     REQUIRE(suite.AddComponent(text("easel-path-test.txt"), path) == kNoErr);
@@ -211,11 +211,11 @@ TEST_CASE("file paths take and give native text") {
     CHECK(suite.Exists(path, 1, nullptr, nullptr) == 0);
 
     REQUIRE(suite.GetParent(path, path) == kNoErr); // the same object
-    CHECK(easel::readPath(path) == file.parent_path());
+    CHECK(easel::readPath(easel::session().ledger, path) == file.parent_path());
     ai::FilePath root;
     suite.Set(ai::UnicodeString{std::u16string_view(folder.root_path().u16string())}, 0, root);
     suite.GetParent(root, root);
-    CHECK(easel::readPath(root).empty());
+    CHECK(easel::readPath(easel::session().ledger, root).empty());
 }
 
 TEST_CASE("numbers turn into text without zeros at the end") {

@@ -17,10 +17,10 @@ namespace {
 struct Fixture {
     Fixture() { host.start(); }
     ~Fixture() {
-        CHECK(easel::ledger().count(easel::Lent::String) == 0);
+        CHECK(easel::session().ledger.count(easel::Lent::String) == 0);
         host.quit();
     }
-    easel::Host host{easel::installedSuites()};
+    easel::Host host{easel::sessionWithSuites()};
     TestPlugin plugin{host};
 };
 
@@ -36,7 +36,7 @@ TEST_CASE("text survives the way into the host and back") {
         CHECK(first.utf8() == text);
         const ai::UnicodeString second{std::u16string_view(first.utf16())};
         CHECK(second.utf8() == text);
-        CHECK(easel::readUtf8(second) == text);
+        CHECK(easel::readUtf8(easel::session().ledger, second) == text);
     }
 }
 
@@ -44,7 +44,7 @@ TEST_CASE("copies share nothing, moves leave an empty string") {
     Fixture fixture;
     ai::UnicodeString original{std::string_view("one")};
     ai::UnicodeString copy = original;
-    easel::writeUtf8(copy, "two");
+    easel::writeUtf8(easel::session().ledger, copy, "two");
     CHECK(original.utf8() == "one");
     ai::UnicodeString& alias = original;
     original = alias;
@@ -98,7 +98,7 @@ TEST_CASE("a destroyed or foreign string is refused") {
     auto& string = reinterpret_cast<ai::UnicodeString&>(pointer);
     ai::uint32 character = 0;
     CHECK(suite.GetChar(string, 0, character) == kBadParameterErr);
-    CHECK(easel::ledger().problems().size() == 1);
+    CHECK(easel::session().ledger.problems().size() == 1);
     CHECK(suite.Destroy(string) == kBadParameterErr);
 }
 

@@ -1,5 +1,6 @@
 #include "easel/paint/PaintAnnotations.h"
 
+#include "easel/document/Session.h"
 #include "easel/paint/PaintView.h"
 
 #include <doctest/doctest.h>
@@ -159,7 +160,7 @@ TEST_CASE("a text is as wide as it is told to be") {
 
 TEST_CASE(
     "the window shows pasteboard, paper and art where the view says, and annotations over them") {
-    Document document(AISize{100, 100});
+    Document document(easel::session(), AISize{100, 100});
     DocumentView view{};
     view.document = &document;
     view.centre = {50, -50};

@@ -17,7 +17,7 @@ namespace {
 
 /// A plug-in that a host has started, with dialogs of its own.
 struct Hosted {
-    easel::Host host{easel::installedSuites()};
+    easel::Host host{easel::sessionWithSuites()};
     TestPlugin plugin{host};
     std::optional<Stage> stage;
 
@@ -116,7 +116,7 @@ TEST_CASE("a panel's menu shows what its tracker made of it, and gives back what
 }
 
 TEST_CASE("the toolkit hears of colours and of the host's end under names of its own") {
-    easel::Host host{easel::installedSuites()};
+    easel::Host host{easel::sessionWithSuites()};
     TestPlugin plugin(host);
     std::optional<Toolkit> toolkit;
     plugin.on("SP Interface/Startup", [&](SPMessageData& message) {

@@ -62,7 +62,7 @@ private:
                                           picturesOf(WindowClass::library()));
     }
 
-    easel::Host host_{easel::installedSuites()};
+    easel::Host host_{easel::sessionWithSuites()};
     facetta::tests::TestPlugin plugin_{host_};
     Themes themes_;
     std::optional<Dialogs> dialogs_;
