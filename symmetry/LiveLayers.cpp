@@ -194,6 +194,15 @@ Regeneration regenerateChangedLayers(const MirrorEnvironment& environment, Pen p
     return done;
 }
 
+void noteTakenBack(LiveLayerMemory& memory) {
+    for (const AILayerHandle layer : topLevelLayers()) {
+        LiveLayerMemory::Layer* const last = memory.find(layer);
+        if (last == nullptr || last->penDraws) continue;
+        if (last->storedStamp == LayerAxesStore::stampOf(layer))
+            last->fit = readLayerStamp(layer, memory.reach);
+    }
+}
+
 void releaseLayer(const MirrorEnvironment& environment, AILayerHandle layer,
                   ResolveTopLevel resolveTopLevel) {
     const AILayerHandle released = layer != nullptr ? layer : currentLayer();

@@ -55,6 +55,10 @@ struct Regeneration {
 Regeneration regenerateChangedLayers(const MirrorEnvironment& environment,
                                      Pen pen = Pen::IsWaitedFor);
 
+/// All that was done since the layers were last examined has been taken back. A host may have given
+/// the art new stamps at that, but it is the same art, and its copies fit.
+void noteTakenBack(LiveLayerMemory& memory);
+
 enum class ResolveTopLevel { No, Yes };
 
 /// Takes the axes off `layer`, or off its top-level layer, and turns the copies on `layer` into

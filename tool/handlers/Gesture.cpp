@@ -3,6 +3,7 @@
 #include "host/Error.h"
 #include "host/Suites.h"
 #include "host/suites/AIUndoSuite.h"
+#include "symmetry/LiveLayers.h"
 #include "tool/axes/CurrentAxes.h"
 #include "tool/axes/FollowDocument.h"
 
@@ -19,12 +20,17 @@ void returnToPress(ToolSession& session) {
 
 void takeBack(ToolSession& session) {
     ai::check(ai::suites.undo->UndoChanges());
+    noteTakenBack(session.mirroring.live);
     returnToPress(session);
 }
 
 void abandonGesture(ToolSession& session) noexcept {
     // Where this fails as well, the user's own undo takes the gesture back.
-    static_cast<void>(ai::suites.undo->UndoChanges());
+    static_cast<void>(ai::codeOf([&] {
+        ai::check(ai::suites.undo->UndoChanges());
+        noteTakenBack(session.mirroring.live);
+        return kNoErr;
+    }));
     returnToPress(session);
 }
 
