@@ -157,6 +157,7 @@ private:
         if (content == nullptr || opacity <= 0) return;
         painter_.save();
         if (group.content().clipped) clip(group);
+        if (group.isLayer()) clipLayer(group);
         if (opacity < 1) painter_.beginGroup();
         open_.push_back({content, opacity, opacity < 1 ? End::Group : End::Restore});
     }
@@ -167,6 +168,16 @@ private:
             if (mask->has(kArtIsClipMask) && isShape)
                 painter_.clip(outlineOf(*mask), ruleOf(mask->style()));
         }
+    }
+
+    void clipLayer(const Art& layer) {
+        const auto* const content =
+            dynamic_cast<const svg::LayerClip*>(layer.details().foreign.get());
+        if (content == nullptr) return;
+        const Matrix toSoft = svg::softMatrix(Matrix{}, svg::rulerOffset(layer.document()));
+        for (const svg::LayerClip::Mask& mask : content->masks)
+            painter_.clip(svg::transformed(mask.outline, toSoft),
+                          mask.evenOdd ? FillRule::EvenOdd : FillRule::NonZero);
     }
 
     void paintShape(const Art& art) {

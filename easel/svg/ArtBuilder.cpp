@@ -135,9 +135,12 @@ void ArtBuilder::readContainer(const Element& element, Art& group, const Context
     keepSource(element, group);
     if (element.name() == "svg") clipToViewport(element, group, context);
     const std::string& clipPath = context.style.clipPath;
-    if (group.isLayer()) return; // a layer's clip path stays in the text: its members are art alone
-    if (!clipPath.empty() && !element.isTrue("easel:clipped") &&
-        !clip(group, clipPath, context, localBounds(group, context.matrix)))
+    if (clipPath.empty() || element.isTrue("easel:clipped")) return;
+    if (group.isLayer()) {
+        static_cast<void>(clipLayer(group, clipPath, context));
+        return;
+    }
+    if (!clip(group, clipPath, context, localBounds(group, context.matrix)))
         keepClipAsText(element, group, context);
 }
 

@@ -85,6 +85,11 @@ private:
     /// Clips `group`, whose content `bounds` (in the element's coordinates) encloses. False when
     /// the clip path is not understood.
     bool clip(Art& group, const std::string& clipPath, const Context& context, const Box& bounds);
+    /// The same for a layer, in pictures only.
+    bool clipLayer(Art& layer, const std::string& clipPath, const Context& context);
+    /// None when the clip path is not understood.
+    [[nodiscard]] std::vector<LayerClip::Mask> clipMasks(const std::string& clipPath,
+                                                         const Context& context, const Box& bounds);
     /// For a clip path that is not understood: it goes where the art goes, but does not clip here.
     void keepClipAsText(const Element& element, Art& art, const Context& context);
     /// A nested <svg> shows nothing beyond its viewport.

@@ -15,8 +15,7 @@ std::string canonicalJson(const std::string& text) {
     return dictionaryJson(*entries);
 }
 
-void describeEntries(TagText& tag, const Art& art, const ArtSource* source,
- const XmlTree& tree) {
+void describeEntries(TagText& tag, const Art& art, const ArtSource* source, const XmlTree& tree) {
     const Dictionary* const entries = art.dictionaryIfAny();
     const std::string now = entries != nullptr ? dictionaryJson(*entries) : std::string{};
     const std::string members =
@@ -36,7 +35,7 @@ void describeEntries(TagText& tag, const Art& art, const ArtSource* source,
 } // namespace
 
 void describe(TagText& tag, const Art& art, const ArtSource* source, const DrawingSource& drawing,
- bool namesLayers) {
+              bool namesLayers) {
     const AsRead asRead{drawing};
     const bool hasSheet = !drawing.sheet.empty();
     if (source != nullptr && asRead.isPlain(art, *source)) return;
@@ -51,8 +50,7 @@ void describe(TagText& tag, const Art& art, const ArtSource* source, const Drawi
     if (namesLayers && art.isLayer()) tag.set("inkscape:label", art.details().layer.title);
     describeEntries(tag, art, source, *drawing.tree);
     const bool hides = art.has(kArtHidden) || isGuide(art, presentContent);
-    const bool wasHidden =
-        source != nullptr && (isHidden(source->content) || isGuide(art, former));
+    const bool wasHidden = source != nullptr && (isHidden(source->content) || isGuide(art, former));
     if (hides == wasHidden && source != nullptr) return;
     tag.setProperty("display", hides ? "none" : "", hasSheet && hides);
     if (!wasHidden || hides) return;

@@ -49,8 +49,7 @@ bool AsRead::hasSameShape(const Art& art) const {
     if (source == nullptr) return false;
     if (art.type() == kCompoundPathArt) {
         std::vector<AIArtHandle> members;
-        for (const Art* member = art.lastChild(); member != nullptr;
-             member = member->previous()) {
+        for (const Art* member = art.lastChild(); member != nullptr; member = member->previous()) {
             members.push_back(member->handle());
             if (!hasSameShape(*member)) return false;
         }

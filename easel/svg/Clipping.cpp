@@ -95,17 +95,17 @@ void ArtBuilder::keepClipAsText(const Element& element, Art& art, const Context&
     art.write().style.write().foreign = std::move(effects);
 }
 
-bool ArtBuilder::clip(Art& group, const std::string& clipPath, const Context& context,
-                      const Box& bounds) {
-    std::vector<std::pair<Outline, bool>> masks;
+std::vector<LayerClip::Mask> ArtBuilder::clipMasks(const std::string& clipPath,
+                                                   const Context& context, const Box& bounds) {
+    std::vector<LayerClip::Mask> masks;
     for (std::string id = clipPath; !id.empty() && masks.size() < kMostClips;) {
         const NodeIndex node = state_.tree.find(id);
-        if (node == kNoNode || state_.tree.at(node).name != "clipPath") return false;
+        if (node == kNoNode || state_.tree.at(node).name != "clipPath") return {};
         const Element element{state_.tree, node};
         state_.countReference(element);
         Context start{Style{}, context.matrix, context.viewport};
         if (element.get("clipPathUnits") == "objectBoundingBox") {
-            if (bounds.empty) return false;
+            if (bounds.empty) return {};
             start.matrix = start.matrix * Matrix{bounds.max.x - bounds.min.x,
                                                  0,
                                                  0,
@@ -116,12 +116,26 @@ bool ArtBuilder::clip(Art& group, const std::string& clipPath, const Context& co
         const auto own = std::make_unique<Context>(contextOf(element, start));
         bool evenOdd = false;
         auto outline = clipOutline(element, *own, evenOdd);
-        if (!outline) return false;
-        masks.emplace_back(std::move(*outline), evenOdd);
+        if (!outline) return {};
+        masks.push_back({std::move(*outline), evenOdd});
         id = own->style.clipPath;
     }
+    return masks;
+}
+
+bool ArtBuilder::clip(Art& group, const std::string& clipPath, const Context& context,
+                      const Box& bounds) {
+    std::vector<LayerClip::Mask> masks = clipMasks(clipPath, context, bounds);
     for (auto& [outline, evenOdd] : masks)
         addMask(group, std::move(outline), evenOdd);
+    return !masks.empty();
+}
+
+bool ArtBuilder::clipLayer(Art& layer, const std::string& clipPath, const Context& context) {
+    auto content = std::make_shared<LayerClip>();
+    content->masks = clipMasks(clipPath, context, localBounds(layer, context.matrix));
+    if (content->masks.empty()) return false;
+    layer.write().details.write().foreign = std::move(content);
     return true;
 }
 

@@ -22,6 +22,16 @@ struct OpaqueContent : ForeignContent {
     std::shared_ptr<const Properties> style;
 };
 
+/// The clip path of a layer. It stays in the text, for a layer's members are art alone, and
+/// pictures are cut by it.
+struct LayerClip : ForeignContent {
+    struct Mask {
+        Outline outline; ///< In the coordinates of the drawing.
+        bool evenOdd = false;
+    };
+    std::vector<Mask> masks; ///< Each cuts what the others leave.
+};
+
 struct TextRun {
     Point position;
     bool positioned = true; ///< Otherwise it goes on where the run before it ended.

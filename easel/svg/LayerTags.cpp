@@ -31,9 +31,10 @@ LayerTags layerTags(const Document& document, const DrawingSource& source, const
             continue;
         }
         const bool isOnlyOne = root.firstChild() == root.lastChild();
-        const bool same = asRead.hasSameState(*layer, *read) && layer->dictionaryIfAny() == nullptr &&
-                          layer->style().opacity == 1 && !layer->content().clipped &&
-                          !belowIsLoose && (layer->firstChild() != nullptr || isOnlyOne);
+        const bool same = asRead.hasSameState(*layer, *read) &&
+                          layer->dictionaryIfAny() == nullptr && layer->style().opacity == 1 &&
+                          !layer->content().clipped && !belowIsLoose &&
+                          (layer->firstChild() != nullptr || isOnlyOne);
         if (same)
             titles.back().clear();
         else

@@ -28,8 +28,7 @@ std::string withoutIds(const XmlTree& tree, NodeIndex node, std::size_t from, st
         if (tree.at(each).kind != XmlTree::Kind::Element) continue;
         for (const XmlAttribute& attribute : tree.attributes(each)) {
             if (attribute.name != "id") continue;
-            const auto at =
-                static_cast<std::size_t>(attribute.source.data() - tree.text().data());
+            const auto at = static_cast<std::size_t>(attribute.source.data() - tree.text().data());
             text += tree.text().substr(from, at - from);
             from = at + attribute.source.size();
         }

@@ -65,7 +65,8 @@ void reshape(TagText& tag, const Element& element, const Art& art, const UserSpa
     setShape(tag, art, space);
 }
 
-void restyle(TagText& tag, const ArtStyle& now, const ArtStyle& then, const UserSpace& space, const ServerText& servers, bool inStyle) {
+void restyle(TagText& tag, const ArtStyle& now, const ArtStyle& then, const UserSpace& space,
+             const ServerText& servers, bool inStyle) {
     const ServerText compared = [](const Definition& definition, const AIRealMatrix& m) {
         std::string text = definition.id();
         for (const AIReal entry : {m.a, m.b, m.c, m.d, m.tx, m.ty})

@@ -14,7 +14,8 @@ std::string valueIn(const Style& style, const std::string& property) {
 
 } // namespace
 
-void setProperties(TagText& tag, const Properties& wanted, const Style& here, bool isText, bool inStyle) {
+void setProperties(TagText& tag, const Properties& wanted, const Style& here, bool isText,
+                   bool inStyle) {
     for (const auto& [property, value] : wanted)
         if (valueIn(here, property) != value)
             tag.setProperty(property, value, inStyle || !isProperty(property));

@@ -76,6 +76,11 @@ TEST_CASE("pictures show what the drawing says") {
          "<rect width='20' height='20' fill='red'/><rect x='10' width='20' height='20' "
          "fill='blue'/>",
          {{5, 5, "9009"}, {15, 5, "0099"}}},
+        {"a layer's clip path cuts its members",
+         "<clipPath id='c'><rect x='10' y='10' width='10' height='10'/></clipPath>"
+         "<g inkscape:groupmode='layer' clip-path='url(#c)' transform='translate(5 0)'>"
+         "<rect width='40' height='40' fill='red'/></g>",
+         {{12, 15, "none"}, {17, 15, "9009"}, {27, 15, "none"}}},
         {"even-odd leaves a hole",
          "<path fill-rule='evenodd' d='M0 0H40V40H0ZM10 10H30V30H10Z'/>",
          {{5, 5, "0009"}, {20, 20, "none"}}},
