@@ -152,14 +152,14 @@ TEST_CASE("a host with another version of the same slots is served, and gets tha
 TEST_CASE("whichever host call fails, start-up ends tidily and at most one alert tells of it") {
     // A first run tells which calls can fail, and which of them only give something back.
     std::vector<std::string> fallible;
+    easel::HostCalls& calls = easel::session().calls;
     {
         Session session;
-        easel::session().calls.setRecording(true);
-        session.send(kCallerInterface, kSelectorStartup);
-        easel::session().calls.setRecording(false);
-        for (const easel::SlotRecord* slot : easel::session().calls.recorded())
+        calls.setRecording(true);
+        session.host.start();
+        calls.setRecording(false);
+        for (const easel::SlotRecord* slot : calls.recorded())
             if (slot->returnsError) fallible.push_back(slot->name);
-        session.send(kCallerInterface, kSelectorShutdown);
     }
     REQUIRE(fallible.size() > 200);
     for (std::size_t call = 1; call <= fallible.size(); ++call) {
@@ -168,19 +168,19 @@ TEST_CASE("whichever host call fails, start-up ends tidily and at most one alert
         INFO("host call ", call, ": ", name);
         Session session;
         session.startUpMayFail = true;
-        easel::session().calls.arm({.mode = easel::FaultPlan::Mode::Once,
-                                    .call = call,
-                                    .function = {},
-                                    .code = kBadParameterErr});
-        const SPErr result = session.send(kCallerInterface, kSelectorStartup);
-        CHECK(easel::session().calls.fired());
-        easel::session().calls.disarm();
-        CHECK((result == kNoErr) == (session.record().globals != nullptr));
+        calls.arm({easel::FaultPlan::Mode::Once, call, {}, kBadParameterErr});
+        session.host.start();
+        CHECK(calls.fired());
+        calls.disarm();
+        CHECK(session.record().started == (session.record().globals != nullptr));
         CHECK(session.host.user.alerts.size() <= 1);
-        if (result != kNoErr) continue;
-        CHECK(session.send(kCallerMenu, kSelectorGo, AIMenuMessage{}) == kNoErr);
-        CHECK(session.send(kCallerInterface, kSelectorShutdown) == kNoErr);
+        session.openDocument();
+        if (session.record().started)
+            CHECK(session.send(kCallerMenu, kSelectorGo, AIMenuMessage{}) == kNoErr);
     }
+    Session afterwards;
+    afterwards.host.start();
+    CHECK(thePlugin->toolHandle != nullptr);
 }
 
 TEST_CASE("unloading gives the suites back; reloading mends the table of virtual operations") {

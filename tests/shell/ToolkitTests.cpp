@@ -1,7 +1,9 @@
+#include "tests/shell/RearrangedTable.h"
 #include "tests/shell/Session.h"
 
 #include "host/Error.h"
 #include "host/MessageNames.h"
+#include "host/suites/AIUIThemeSuite.h"
 #include "toolkit/ImplCommon/CoADMDialog.h"
 #include "toolkit/Toolkit.h"
 
@@ -39,6 +41,24 @@ TEST_CASE("the toolkit follows the interface's brightness until the host closes"
     CHECK(serve(kApplicationShutdownNotifier));
     CHECK(serve(kUIBrightnessChangedNotifier));
     CHECK_FALSE(toolkit.theme().dark); // nothing is drawn any more
+}
+
+TEST_CASE("a colour that the host cannot tell stays as it was") {
+    const RearrangedTable failing(
+        kAIUIThemeSuite, kAIUIThemeSuiteVersion, sizeof(AIUIThemeSuite),
+        [](std::span<void*> slots) {
+            constexpr auto fail = [](ai::int32, ai::int32, AIUIThemeColor& color) -> AIErr {
+                color = {0, -1, -1, -1};
+                return kBadParameterErr;
+            };
+            AIErr (*const function)(ai::int32, ai::int32, AIUIThemeColor&) = fail;
+            slots[0] = reinterpret_cast<void*>(function);
+        });
+    Session session;
+    session.host.start();
+    const NRDM::Toolkit toolkit(session.plugin, nullptr);
+    CHECK(toolkit.theme().text.red == NRDM::Theme{}.text.red);
+    CHECK(toolkit.theme().background.alpha == NRDM::Theme{}.background.alpha);
 }
 
 TEST_CASE("what a panel's procedure lets out is shown to the user once, and goes no further") {

@@ -90,15 +90,6 @@ TEST_CASE("with Alt the art of a layer moves and turns with its axes") {
     }
 }
 
-TEST_CASE("Alt has no effect on the drag of pending axes") {
-    Drawing session(/*selected*/ false);
-    const std::string before = session.text();
-    const KeysHeld held({Key::Alt});
-    session.dragFrom(session.onRay(1, 200), session.onRay(1.5, 200));
-    CHECK(session.text() == before);
-    CHECK(near(session.axes().angle, kPi / 6));
-}
-
 TEST_CASE("an Alt-click makes another sector the active one; the layer looks as before") {
     for (const int count : {1, 2, 3, 4}) {
         for (int sector = 1; sector < 2 * count; ++sector) {
@@ -121,27 +112,6 @@ TEST_CASE("an Alt-click makes another sector the active one; the layer looks as 
             CHECK(countPaths(session.document(), /*lockedOnes*/ false) == 1);
         }
     }
-}
-
-TEST_CASE("a click on a sector without Alt, or with it on the active one, changes nothing") {
-    Drawing session(/*selected*/ false);
-    session.makeLive();
-    const std::string before = session.text();
-    session.click(session.onRay(2.3, 150));
-    const KeysHeld held({Key::Alt});
-    session.click(session.onRay(0.3, 150));
-    CHECK(session.text() == before);
-    CHECK(session.axes().angle == 0);
-}
-
-TEST_CASE("pending axes get another active sector by their angle alone") {
-    Drawing session(/*selected*/ false);
-    const std::string before = session.text();
-    const KeysHeld held({Key::Alt});
-    session.click(session.onRay(4.3, 150));
-    CHECK(session.text() == before);
-    CHECK(near(session.axes().angle, 4 * kPi / 3));
-    CHECK(thePlugin->preferences.angle == session.axes().angle);
 }
 
 TEST_CASE("whichever host call fails with Alt or Escape held, the tool goes on") {

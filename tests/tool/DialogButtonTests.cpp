@@ -37,18 +37,6 @@ TEST_CASE("the cursor finds the items of the dialog, to the pixel") {
     }
 }
 
-TEST_CASE("the dialog is not there without pending axes, or when the user does without it") {
-    Drawing session(/*selected*/ true);
-    const AIRealPoint place = session.onButton(DialogItem::Cancel);
-    thePlugin->preferences.useAnnotationDialog = false;
-    session.host.track({.at = place});
-    CHECK(session.tool().hoverItem == DialogItem::None);
-    thePlugin->preferences.useAnnotationDialog = true;
-    session.makeLive();
-    session.host.track({.at = place});
-    CHECK(session.tool().hoverItem == DialogItem::None);
-}
-
 TEST_CASE("what the buttons do") {
     struct Row {
         const char* what;
@@ -144,7 +132,7 @@ TEST_CASE("the panel is told whenever what it shows may be another") {
     }
 }
 
-TEST_CASE("the licence may refuse what the buttons apply") {
+TEST_CASE("the licence may refuse what buttons and icon apply") {
     Drawing session(
         /*selected*/ true,
         {LicenceState::Licensed, {GuardedAction::ApplyToSelection, GuardedAction::ApplyToLayer}});
@@ -154,4 +142,7 @@ TEST_CASE("the licence may refuse what the buttons apply") {
         CHECK(session.text() == before);
         CHECK(session.axes().provisional);
     }
+    session.host.editToolOptions(); // a double click on the tool's icon
+    CHECK(session.text() == before);
+    CHECK(session.axes().provisional);
 }

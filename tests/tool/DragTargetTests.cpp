@@ -91,14 +91,6 @@ TEST_CASE("a dragged axis snaps to perpendiculars; Ctrl turns that about, Shift 
     }
 }
 
-TEST_CASE("where no perpendicular attracts, the path under the cursor does") {
-    Chain chain(Dragged::Axis);
-    chain.dragTo(301.5, -150);
-    CHECK(near(chain.found.target, {300, -150}));
-    chain.dragTo(320, -150);
-    CHECK(chain.found.target == Point{320, -150});
-}
-
 TEST_CASE("Space takes new axes, or the origin of those there are, along with the cursor") {
     for (const Dragged what : {Dragged::NewAxes, Dragged::Axis}) {
         INFO(static_cast<int>(what));
@@ -162,17 +154,6 @@ TEST_CASE("Shift holds a dragged line to steps from the constrain angle, half-wa
             CHECK(near(chain.found.target, widen(kOrigin) + reach * direction(counted)));
         }
     }
-}
-
-TEST_CASE("Shift moves the origin along the same directions, by the true projection") {
-    Chain chain(Dragged::Origin);
-    chain.drag.constrainAngle = 10;
-    chain.hold({Key::Shift});
-    const Point to = widen(kOrigin) + 64.0 * direction(30 * kDegree);
-    chain.dragTo(narrow(to.x), narrow(to.y));
-    const double reach = 64.0 * std::cos(20 * kDegree);
-    CHECK(near(chain.found.target, widen(kOrigin) + reach * direction(10 * kDegree)));
-    CHECK(chain.hint == HintId::ConstrainOrigin);
 }
 
 TEST_CASE("hints tell what the keys do, once a press, and what is still held when one comes up") {

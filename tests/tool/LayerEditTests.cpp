@@ -95,26 +95,6 @@ TEST_CASE("guides along the axes of a layer go with them") {
     CHECK(session.guideAngles() == std::vector{0, 60, 120});
 }
 
-TEST_CASE("an edit that is undone leaves the axes on the layer") {
-    EditedLayer session(/*withGuides*/ true);
-    CHECK(session.host.undo());
-    checkIsApplied(session);
-}
-
-TEST_CASE("edited axes applied to the layer mirror its art anew") {
-    EditedLayer session;
-    session.click(session.onButton(DialogItem::ApplyToLayer));
-    CHECK(session.axes().onLayer);
-    CHECK_FALSE(session.axes().provisional);
-    CHECK(axesOnLayer(session.tool()));
-    CHECK_FALSE(layerEditInProgress(session.tool()));
-    CHECK(near(session.axes().angle, 20 * kPi / 180));
-    CHECK(session.host.undoText() == "Undo Apply Symmetry Axes to Layer");
-    CHECK(session.host.undo());
-    CHECK(session.host.undo());
-    checkIsApplied(session);
-}
-
 TEST_CASE("what else ends the edit of a layer's axes") {
     SUBCASE("the tool is put away: the axes are dropped") {
         EditedLayer session;
@@ -239,14 +219,4 @@ TEST_CASE("axes that the selection was mirrored with are offered again when that
     });
     CHECK(session.host.undo());
     CHECK(session.tool().activity == Activity::FollowingCursor);
-}
-
-TEST_CASE("a click on a layer's axes leaves them on it") {
-    Drawing session(/*selected*/ false);
-    session.makeLive();
-    const std::string before = session.text();
-    session.click(session.onRay(0, 200));
-    CHECK(session.axes().onLayer);
-    CHECK_FALSE(layerEditInProgress(session.tool()));
-    CHECK(session.text() == before);
 }

@@ -43,52 +43,6 @@ TEST_CASE("keys held in a drag set the number of axes; of several digits the low
     }
 }
 
-TEST_CASE("Escape puts everything back as it was at the press, until the release") {
-    ToolInHand session;
-    thePlugin->preferences.angle = 0.25;
-    session.press(200, -200);
-    session.drag(200, -100);
-    REQUIRE(near(session.axes().angle, kPi / 2));
-    {
-        const KeysHeld held({Key::Escape});
-        session.drag(210, -100);
-    }
-    CHECK(session.axes().angle == 0.25);
-    CHECK(thePlugin->preferences.angle == 0.25);
-    session.drag(100, -100); // no more
-    CHECK(session.axes().angle == 0.25);
-    session.release(100, -100);
-    CHECK_FALSE(session.axes().provisional);
-    CHECK(near(session.origin(), {100, -100})); // new axes follow the cursor again
-    session.press(100, -100);
-    session.release(100, -100);
-    CHECK(session.axes().provisional); // and can be made
-}
-
-TEST_CASE("Shift holds a new axis to steps of 45 degrees from the host's constrain angle") {
-    ToolInHand session;
-    thePlugin->hostPreferences.constrainAngle = 10.0;
-    const KeysHeld held({Key::Shift});
-    session.press(200, -200);
-    session.drag(290, -125); // 39.8 degrees
-    session.release(290, -125);
-    CHECK(near(session.axes().angle, 55.0 * kPi / 180));
-    CHECK(near(session.origin(), {200, -200}));
-}
-
-TEST_CASE("Shift holds the origin to the same directions from where it was") {
-    ToolInHand session;
-    session.press(200, -200);
-    session.release(200, -200);
-    session.press(200, -200);
-    REQUIRE(thePlugin->tool.zone == ToolZone::Origin);
-    const KeysHeld held({Key::Shift});
-    session.drag(260, -210);
-    session.drag(300, -220);
-    session.release(300, -220);
-    CHECK(near(session.origin(), {300, -200}));
-}
-
 TEST_CASE("U suppresses the host's smart guides once a press, for one drag, where it counts") {
     ToolInHand session;
     session.host.cursorSnap.enabled = true;

@@ -3,18 +3,6 @@
 using namespace facetta;
 using namespace facetta::tests;
 
-TEST_CASE("without axes new ones follow the cursor, with the default angle and count") {
-    ToolInHand session;
-    thePlugin->preferences.count = 5;
-    thePlugin->preferences.angle = 0.5;
-    session.host.track({.at = {120, -80}});
-    CHECK(near(session.origin(), {120, -80}));
-    CHECK(session.axes().axisCount == 5);
-    CHECK(session.axes().angle == 0.5);
-    CHECK_FALSE(session.axes().provisional);
-    CHECK(thePlugin->tool.zone == ToolZone::Canvas);
-}
-
 TEST_CASE("press, drag and release make axes; the drag turns them") {
     struct Row {
         AIRealPoint to;
@@ -40,29 +28,6 @@ TEST_CASE("press, drag and release make axes; the drag turns them") {
     }
 }
 
-TEST_CASE("with the initial drag moving the origin, angle stays and origin follows") {
-    ToolInHand session;
-    thePlugin->preferences.initialDragMovesOrigin = true;
-    thePlugin->preferences.angle = 1.0;
-    session.press(200, -200);
-    session.drag(350, -260);
-    session.release(350, -260);
-    CHECK(near(session.origin(), {350, -260}));
-    CHECK(session.axes().angle == 1.0);
-    CHECK(session.axes().provisional);
-}
-
-TEST_CASE("the origin stays on the canvas") {
-    ToolInHand session;
-    thePlugin->preferences.initialDragMovesOrigin = true;
-    session.press(0, 0);
-    session.drag(-30000, 30000);
-    CHECK(hardOriginOf(session.axes()) == Point{0, 0});
-    session.drag(30000, -30000);
-    CHECK(hardOriginOf(session.axes()) == Point{kCanvasSize, kCanvasSize});
-    session.release(30000, -30000);
-}
-
 TEST_CASE("the host snaps with the stated sources at every step") {
     ToolInHand session;
     session.host.track({.at = {10, -10}});
@@ -79,27 +44,6 @@ TEST_CASE("the host snaps with the stated sources at every step") {
     CHECK(session.host.cursorSnap.calls.back().point.h == 50000);
 }
 
-TEST_CASE("pending axes are turned by a line and moved by their origin") {
-    ToolInHand session;
-    thePlugin->preferences.count = 2;
-    session.press(200, -200);
-    session.release(200, -200);
-    REQUIRE(session.axes().provisional);
-
-    session.press(200, -300); // the half-line of the second axis that points down
-    CHECK(thePlugin->tool.zone == ToolZone::Axis);
-    session.drag(300, -300);
-    session.release(300, -300);
-    CHECK(near(session.axes().angle, kPi / 4));
-
-    session.press(203, -203);
-    CHECK(thePlugin->tool.zone == ToolZone::Origin);
-    session.drag(260, -120);
-    session.release(260, -120);
-    CHECK(near(session.origin(), {260, -120}));
-    CHECK(near(session.axes().angle, kPi / 4));
-}
-
 TEST_CASE("the diameter keys change the count within 1 to 72") {
     ToolInHand session;
     session.host.track({.at = {10, -10}});
@@ -110,16 +54,6 @@ TEST_CASE("the diameter keys change the count within 1 to 72") {
         session.host.increaseDiameter();
     CHECK(session.axes().axisCount == 72);
     CHECK(thePlugin->preferences.count == 72);
-}
-
-TEST_CASE("putting the tool away drops pending axes") {
-    ToolInHand session;
-    session.press(200, -200);
-    session.release(200, -200);
-    session.host.selectTool(nullptr);
-    CHECK_FALSE(thePlugin->tool.toolSelected);
-    CHECK(session.axes().axisCount == 0);
-    CHECK_FALSE(session.axes().provisional);
 }
 
 TEST_CASE("messages to another tool are none of ours") {

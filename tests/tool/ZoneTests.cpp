@@ -115,17 +115,3 @@ TEST_CASE("another number of axes is an edit of the layer's, even without moving
     session.click(session.onButton(DialogItem::Cancel));
     CHECK(session.axes() == before);
 }
-
-TEST_CASE("on a layer that is locked nothing is made, also where the cursor rests") {
-    ToolInHand session;
-    session.host.track({.at = {100, -100}});
-    session.host.edit("Lock", [](easel::Document& document) {
-        document.state().currentLayer->write().attributes |= kArtLocked;
-        document.note(&easel::DocumentChanges::layerOptions);
-    });
-    session.host.press({.at = {100, -100}});
-    CHECK(session.host.user.cursor == 16023);
-    session.drag(200, -100);
-    session.release(200, -100);
-    CHECK_FALSE(hasAxes(session.tool()));
-}
