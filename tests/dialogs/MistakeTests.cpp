@@ -1,4 +1,5 @@
 #include "easel/script/Script.h"
+#include "easel/suites/Suites.h"
 
 #include <doctest/doctest.h>
 
@@ -14,7 +15,7 @@ std::string failuresOf(const std::string& text) {
     REQUIRE(script.mistakes.empty());
     PlayerSettings settings;
     settings.plugin = DIALOGS_PLUGIN;
-    const Outcome outcome = play(script, "s", settings);
+    const Outcome outcome = play(easel::sessionWithSuites(), script, "s", settings);
     std::string failures;
     for (const std::string& failure : outcome.failures)
         failures += failure + '\n';

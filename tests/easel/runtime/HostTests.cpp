@@ -581,6 +581,28 @@ TEST_CASE("work outside any message is a step of its own when a context encloses
     session.host.quit();
 }
 
+TEST_CASE("an edit that throws ends its step all the same") {
+    Session session;
+    CHECK_THROWS_AS(session.host.edit("Draw",
+                                      [](easel::Document& document) {
+                                          drawPath(document);
+                                          throw ai::Error{kOutOfMemoryErr};
+                                      }),
+                    ai::Error);
+    CHECK(session.host.contexts.depth() == 0);
+    CHECK(session.host.undoText() == "Undo Draw");
+    session.host.quit();
+}
+
+TEST_CASE("a host may go away in the middle of a gesture") {
+    Session session;
+    easel::Tool probe{};
+    probe.plugin = session.plugin.self();
+    session.host.selectTool(session.host.tools.tools.add(probe));
+    session.host.press({.at = {10, -10}});
+    CHECK(session.host.contexts.depth() == 1);
+}
+
 TEST_CASE("timers run by the clock while they are active") {
     Session session;
     AITimerHandle timer = nullptr;
