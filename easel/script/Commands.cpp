@@ -24,6 +24,12 @@ Action readOpen(Arguments& arguments) {
     };
 }
 
+Action readReopen(Arguments& arguments) {
+    return [name = arguments.text("file")](Player& player) {
+        player.session().open(player.output(name));
+    };
+}
+
 Action readNew(Arguments& arguments) {
     const double width = arguments.number("width");
     const double height = arguments.number("height");
@@ -229,18 +235,27 @@ Action readMenu(Arguments& arguments) {
     };
 }
 
-Action readUndo(Arguments&) {
-    return [](Player& player) {
+/// Walks through the history, as far as "[COUNT|all]" says.
+Action readWalk(Arguments& arguments, bool (Host::*step)(), const char* nothing) {
+    const bool all = arguments.take("all");
+    const int count =
+        all || arguments.atEnd() ? 1 : arguments.whole("number of steps", 1, kMostSteps);
+    return [=](Player& player) {
         static_cast<void>(player.document());
-        if (!player.host().undo()) throw SessionError("there is nothing to undo");
+        for (int i = 0; all || i < count; ++i)
+            if (!(player.host().*step)()) {
+                if (all) return;
+                throw SessionError(nothing);
+            }
     };
 }
 
-Action readRedo(Arguments&) {
-    return [](Player& player) {
-        static_cast<void>(player.document());
-        if (!player.host().redo()) throw SessionError("there is nothing to redo");
-    };
+Action readUndo(Arguments& arguments) {
+    return readWalk(arguments, &Host::undo, "there is nothing to undo");
+}
+
+Action readRedo(Arguments& arguments) {
+    return readWalk(arguments, &Host::redo, "there is nothing to redo");
 }
 
 Action readRemember(Arguments& arguments) {
@@ -359,6 +374,7 @@ Action readPicture(Arguments& arguments) {
 
 constexpr CommandRow kCommands[] = {
     {"open", "FILE", "Opens the drawing FILE, which lies where the script does", readOpen},
+    {"reopen", "FILE", "Opens the drawing FILE that was saved among the results", readReopen},
     {"new", "WIDTH HEIGHT", "Opens an empty drawing of that size, in points", readNew},
     {"save", "FILE", "Saves the drawing among the results", readSave},
     {"switch", "NUMBER",
@@ -382,8 +398,9 @@ constexpr CommandRow kCommands[] = {
     {"release", "[X,Y]", "Lets the button go, there or where the mouse is", readRelease},
     {"click", "X,Y", "Presses and releases there", readClick},
     {"menu", "ITEM", "Chooses the menu item of that name or text", readMenu},
-    {"undo", "", "Takes the last step back", readUndo},
-    {"redo", "", "Does the step again that was last taken back", readRedo},
+    {"undo", "[COUNT|all]", "Takes the last step back, or COUNT steps, or all", readUndo},
+    {"redo", "[COUNT|all]", "Does the step again that was last taken back, or COUNT steps, or all",
+     readRedo},
     {"remember", "NAME", "Keeps the whole drawing as it is, to be compared with later",
      readRemember, UnderDialog::Done},
     {"window", "WIDTH HEIGHT", "Makes the view that large, in pixels; at first it is 1280 by 800",

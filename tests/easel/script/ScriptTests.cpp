@@ -52,6 +52,8 @@ TEST_CASE("every mistake of a script is told, with its line and what would be ri
         {"tool \"Facetta\"Tool", "put a blank between them"},
         {"expect axes 0", "0 is no number of axes"},
         {"expect axes 3 at 5", "\"at\" does not belong here"},
+        {"undo 0", "0 is no number of steps"},
+        {"redo all 2", "\"2\" does not belong here; it is written: redo [COUNT|all]"},
         {"panel", "there is no deed"},
         {"panel dance", "\"dance\" is no deed of a panel; there are click, type,"},
         {"dialog flyout \"Copy Axes\"", "\"flyout\" is no deed of a dialog; there are click,"},
