@@ -109,7 +109,7 @@ TEST_CASE("a panel starts hidden in its first state; its callbacks tell what hap
 TEST_CASE("a panel's callbacks come outside any context, as the user's clicks in it do") {
     PanelFixture fixture;
     auto& [host, plugin, panels, menus, panel, menu] = fixture;
-    host.open(std::make_unique<easel::Document>(AISize{100, 100}));
+    host.open(std::make_unique<easel::Document>(easel::session(), AISize{100, 100}));
     static std::vector<AIErr> codes;
     static SPPluginRef self = nullptr;
     codes.clear();
@@ -127,7 +127,7 @@ TEST_CASE("a panel's callbacks come outside any context, as the user's clicks in
     host.cyclePanel(panel);
     CHECK(codes == std::vector<AIErr>{kNoDocumentErr, kNoErr});
     CHECK(host.undo());
-    CHECK(easel::currentDocument().state().currentLayer->firstChild() == nullptr);
+    CHECK(easel::session().document().state().currentLayer->firstChild() == nullptr);
     // In a message that the plug-in is answering there is the host's.
     codes.clear();
     plugin.run([&] { panels.SetCurrentState(panel, 1); });

@@ -36,7 +36,7 @@ TEST_CASE("every mistake of a script is told, with its line and what would be ri
         std::string complaint; ///< A part of it.
     };
     const Row rows[] = {
-        {"dance 1,2", "\"dance\" is no command; there are open, new,"},
+        {"dance 1,2", "\"dance\" is no command; there are open, reopen, new,"},
         {"expect luck", "\"luck\" is no thing to expect; there are undo,"},
         {"press", "there is no place; it is written: press X,Y"},
         {"press 1;2", "\"1;2\" is no place; one is written X,Y"},
