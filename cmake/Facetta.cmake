@@ -68,7 +68,9 @@ if(WIN32)
     set_tests_properties(wine_prefix PROPERTIES TIMEOUT 300 FIXTURES_SETUP wine)
 endif()
 
-configure_file(${CMAKE_SOURCE_DIR}/cmake/Version.h.in ${CMAKE_BINARY_DIR}/generated/Version.h @ONLY)
+foreach(header IN ITEMS Version.h Web.h)
+    configure_file(${CMAKE_SOURCE_DIR}/cmake/${header}.in ${CMAKE_BINARY_DIR}/generated/${header} @ONLY)
+endforeach()
 target_include_directories(facetta_flags INTERFACE ${CMAKE_BINARY_DIR}/generated)
 
 # The names given to DEPENDS as target names: a room's name stands for facetta::<room>.

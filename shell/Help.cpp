@@ -1,6 +1,7 @@
 #include "shell/Help.h"
 
 #include "Version.h"
+#include "Web.h"
 
 #include "host/Error.h"
 #include "host/FilePath.h"
@@ -24,9 +25,9 @@ namespace {
 
 constexpr std::string_view kManual = "Facetta User Manual.pdf";
 
-constexpr std::string_view kPages = "https://www.norvane.invalid/facetta?platform=w&version=";
+constexpr std::string_view kPages = FACETTA_WEB_ENDPOINT "?platform=w&version=";
 constexpr std::string_view kNoWebMessage =
-    "The web cannot be reached. Please contact Norvane Graphics: www.norvane.invalid/contact";
+    "The web cannot be reached. Please contact Norvane Graphics: " FACETTA_CONTACT_PAGE;
 
 /// `path` becomes the file `name` in the folder of the plug-in's library. False when the library
 /// cannot be told or the file is not there.

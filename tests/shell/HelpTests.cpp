@@ -1,5 +1,7 @@
 #include "tests/shell/Session.h"
 
+#include "Web.h"
+
 #include "host/suites/AIUserSuite.h"
 #include "platform/Headless.h"
 #include "tests/shell/RearrangedTable.h"
@@ -43,8 +45,10 @@ public:
 };
 
 std::u16string page(std::string_view topic) {
-    return u"https://www.norvane.invalid/facetta?platform=w&version=1.1.0&host=16&level=1&source=" +
-           std::u16string(topic.begin(), topic.end());
+    const std::string address = FACETTA_WEB_ENDPOINT
+                                "?platform=w&version=1.1.0&host=16&level=1&source=" +
+                                std::string(topic);
+    return {address.begin(), address.end()};
 }
 
 } // namespace
@@ -108,7 +112,8 @@ TEST_CASE("web items open their pages; without a web the user learns whom to ask
         session.host.chooseMenuItem(handle);
         CHECK(desktop->opened.empty());
         REQUIRE(session.host.user.alerts.size() == 1);
-        CHECK(session.host.user.alerts.front().text.find("contact") != std::string::npos);
+        CHECK(session.host.user.alerts.front().text.find(FACETTA_CONTACT_PAGE) !=
+              std::string::npos);
 
         session.host.user.browserAvailable = true;
         session.host.chooseMenuItem(handle);
