@@ -24,6 +24,8 @@
 #include "tool/handlers/ToolSelection.h"
 #include "tool/handlers/TrackCursor.h"
 #include "toolkit/ImplCommon/Resources.h"
+#include "ui/EditAxesDialog.h"
+#include "ui/PreferencesDialog.h"
 
 #include <new>
 #include <string>
@@ -224,7 +226,7 @@ AIErr FacettaPlugin::UnloadHook() {
 }
 
 AIErr FacettaPlugin::SuitesReadyHook() {
-    dialogs = {};
+    dialogs = {.editAxes = showEditAxesDialog, .preferences = showPreferencesDialog};
     updatePanel = [] {};
     if (toolHandle != nullptr) ai::alignToolSuite(toolHandle, kToolOptions);
     const PanelAfterReload wanted = std::exchange(panelAfterReload_, PanelAfterReload::None);
@@ -247,15 +249,23 @@ AIErr FacettaPlugin::Notify(AINotifierMessage& message) {
 
 AIErr FacettaPlugin::GoMenuItem(AIMenuMessage& message) {
     // The host would put an alert of its own beside a menu command that fails.
-    static_cast<void>(ai::codeOf([&] {
-        if (message.menuItem == nullptr) return kNoErr;
-        if (message.menuItem != menuItems.panel)
+    const AIErr err = ai::codeOf([&] {
+        if (message.menuItem == nullptr || message.menuItem != menuItems.panel)
             chooseMenuItem(*this, message.menuItem);
-        else if (panel)
-            panel->show(!panel->isVisible());
+        else
+            togglePanel();
+        return kNoErr;
+    });
+    if (err != kNoErr) ReportError(err, kCallerMenu, kSelectorGo, &message);
+    return kNoErr;
+}
+
+void FacettaPlugin::togglePanel() noexcept {
+    // A panel that neither comes nor goes tells enough.
+    static_cast<void>(ai::codeOf([this] {
+        if (panel) panel->show(!panel->isVisible());
         return kNoErr;
     }));
-    return kNoErr;
 }
 
 AIErr FacettaPlugin::UpdateMenuItem(AIMenuMessage& message) {

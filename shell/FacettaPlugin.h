@@ -69,7 +69,7 @@ public:
     void fetchViewAndPlaceDialog();
 
     const Licensing* licence;         ///< never null; an object of the library, set by the entry
-    bool licenceChanged = false;      ///< since start-up
+    bool licenceChanged = false;      ///< since the about box was opened last
     Preferences preferences;          ///< changed by the tool, the panel and the dialogs
     HostPreferences hostPreferences;  ///< follows the host's notifications
     char16_t decimalSeparator = u'.'; ///< of number fields; as the user's locale has it
@@ -110,6 +110,7 @@ private:
     void openPanel();
     static void refreshPanel();
     void closePanel() noexcept;
+    void togglePanel() noexcept;
     AIErr saveSettings();
 
     bool settingsLoaded_ = false; ///< only what was read is written back

@@ -10,6 +10,7 @@
 #include "shell/FacettaPlugin.h"
 #include "shell/Help.h"
 #include "shell/Notifications.h"
+#include "ui/AboutBox.h"
 
 #include <string_view>
 
@@ -53,6 +54,13 @@ constexpr HelpItem kHelpItems[kHelpItemCount] = {
     {"Facetta Buy License", "Buy/Upgrade License...", openPage, "buyupgrade"},
     {"Facetta Licensing Help", "Licensing Help...", openPage, "licensinghelp"},
 };
+
+void openAbout(FacettaPlugin& plugin) {
+    plugin.licenceChanged = false;
+    const AboutResult result = showAboutBox(plugin.self(), *plugin.licence, openManual);
+    if (result == AboutResult::BuyNow) openWebPage(*plugin.licence, "aboutMenu");
+    if (plugin.licenceChanged) plugin.updatePanel();
+}
 
 bool addItem(SPPluginRef self, const char* key, const char* label, const char* group,
              AIMenuItemHandle& item, AIMenuItemOption options = kMenuItemNoOptions) {
@@ -137,6 +145,7 @@ bool addPanelItem(SPPluginRef self, MenuItems& items) {
 void chooseMenuItem(FacettaPlugin& plugin, AIMenuItemHandle item) {
     const MenuItems& items = plugin.menuItems;
     if (item == nullptr) return;
+    if (item == items.about) openAbout(plugin);
     if (item == items.showAllPanels) ai::suites.notifier->Notify(kShowAllPanelsNotifier, nullptr);
     for (std::size_t i = 0; i < kHelpItemCount; ++i)
         if (item == items.help[i]) kHelpItems[i].chosen(plugin, kHelpItems[i].topic);

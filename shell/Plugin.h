@@ -107,8 +107,9 @@ public:
     /// All of "AI Notifier": serves the toolkit first, then the end of start-up, then `Notify`.
     AIErr routeNotification(std::string_view selector, AINotifierMessage& message);
 
-protected:
     [[nodiscard]] SPPluginRef self() const noexcept { return self_; }
+
+protected:
     [[nodiscard]] const char* name() const noexcept { return name_.data(); }
     [[nodiscard]] NRDM::Toolkit& toolkit() noexcept { return *toolkit_; }
 

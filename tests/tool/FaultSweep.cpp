@@ -56,7 +56,8 @@ void performWithFault(const FaultAction& action, const FaultPlan& plan) {
 bool givesBack(const std::string& function) {
     if (function.starts_with("AI Entry Suite.To") || function == "AI Dictionary Suite.Set")
         return true;
-    for (const char* const end : {"Destroy", "Release", "DisposeArtSet", "PopAppContext"})
+    for (const char* const end :
+         {"Destroy", "Release", "DisposeArtSet", "PopAppContext", "DeleteFilePath"})
         if (function.ends_with(end)) return true;
     return false;
 }

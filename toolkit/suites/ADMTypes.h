@@ -196,6 +196,7 @@ constexpr ADMFont kADMPaletteFont = 2;
 using ADMJustify = ADMInt32; ///< 0 left, 1 centre, 2 right
 
 using ADMColor = ADMInt32; ///< 0..16, mapped to the host's interface
+constexpr ADMColor kADMTextColor = 15;
 constexpr ADMColor kADMColorNotGiven = 254;
 
 /// Positive when something goes down, negative for the same going up.

@@ -1,0 +1,171 @@
+#include "tests/tool/FaultSweep.h"
+#include "tests/tool/KeysHeld.h"
+#include "tests/ui/DialogUser.h"
+
+#include <cmath>
+
+using namespace facetta;
+using namespace facetta::tests;
+using Mode = easel::FaultPlan::Mode;
+using platform::Key;
+
+namespace {
+
+/// A dialog, how it is opened, and what the user does in it. A dialog that a failure has closed is
+/// not used any further.
+struct DialogAction {
+    const char* name;
+    void (*prepare)(Drawing&);
+    void (*open)(Drawing&);
+    std::vector<DialogUser::Act> acts;
+    bool lendsPaths = false; ///< which a host that fails throughout does not take back
+};
+
+void nothing(Drawing&) {}
+void onLayer(Drawing& session) { session.makeLive(/*withGuides*/ true); }
+
+void doubleClick(Drawing& session) {
+    // Places are numbers here: to compute them from the axes asks the host.
+    for (int count = 0; count < 2; ++count)
+        session.click({350, -200});
+}
+void doubleClickWithAlt(Drawing& session) {
+    const KeysHeld held({Key::Alt});
+    doubleClick(session);
+}
+void openPreferences(Drawing& session) {
+    const KeysHeld held({Key::Shift});
+    session.host.editToolOptions();
+}
+void openAbout(Drawing& session) {
+    session.host.user.browserAvailable = true;
+    session.host.chooseMenuItem(thePlugin->menuItems.about);
+}
+
+DialogUser::Act entering(int field, const char* text) {
+    return [=](DialogUser& user) { user.enter(field, text); };
+}
+DialogUser::Act clicking(int button) {
+    return [=](DialogUser& user) { user.click(button); };
+}
+
+/// One edit each: a field that cannot ask for its limits may refuse what is typed, and the user
+/// goes on.
+const DialogAction kActions[] = {
+    {"x of pending axes", nothing, doubleClick, {entering(4, "250"), clicking(1)}},
+    {"y of pending axes", nothing, doubleClick, {entering(6, "230"), clicking(1)}},
+    {"angle of pending axes", nothing, doubleClick, {entering(8, "45"), clicking(1)}},
+    {"count, cancelled", nothing, doubleClick, {entering(11, "5"), clicking(2)}},
+    {"count of a layer's axes", onLayer, doubleClick, {entering(11, "5"), clicking(1)}},
+    {"angle of a layer's axes, cancelled", onLayer, doubleClick, {entering(8, "45"), clicking(2)}},
+    {"a layer's axes with its art", onLayer, doubleClickWithAlt, {entering(8, "45"), clicking(1)}},
+    {"the same, cancelled", onLayer, doubleClickWithAlt, {entering(4, "250"), clicking(2)}},
+    {"preferences", nothing, openPreferences, {clicking(3), clicking(6), clicking(1)}},
+    {"help", nothing, openAbout, {clicking(5)}, /*lendsPaths*/ true},
+    {"buy", nothing, openAbout, {clicking(1)}},
+};
+
+void perform(const DialogAction& action, Drawing& session) {
+    auto next = action.acts.begin();
+    DialogUser user;
+    const DialogUser::Act act = [&](DialogUser& hands) {
+        (*next++)(hands);
+        if (next != action.acts.end()) hands.act = act;
+    };
+    user.act = act;
+    action.open(session);
+}
+
+/// What an action leaves, for comparison. A stamp that cannot be read only has a layer mirrored
+/// once more, with the same result. Axes go with the document when the host fails throughout, and
+/// come back with it.
+struct Outcome {
+    Outcome(const Drawing& session, Mode mode)
+        : document(session.textButStamp()), settings{thePlugin->preferences.initialDragMovesOrigin,
+                                                     thePlugin->preferences.removePoints} {
+        const SymmetryAxes& shown = session.axes();
+        if (mode == Mode::Once)
+            axes = {shown.originX, shown.originY, std::round(1e6 * shown.angle),
+                    static_cast<double>(shown.axisCount)};
+    }
+
+    std::string document;
+    std::vector<bool> settings;
+    std::vector<double> axes;
+
+    bool operator==(const Outcome&) const = default;
+};
+
+/// An action that nothing fails in.
+struct Rehearsal {
+    Outcome before;
+    Outcome after;
+    std::vector<std::string> calls; ///< those that may fail
+};
+
+Rehearsal rehearse(const DialogAction& action, Mode mode) {
+    Drawing session(/*selected*/ true);
+    action.prepare(session);
+    const Outcome before(session, mode);
+    easel::hostCalls().setRecording(true);
+    perform(action, session);
+    easel::hostCalls().setRecording(false);
+    Rehearsal rehearsal{before, Outcome(session, mode), {}};
+    for (const easel::SlotRecord* slot : easel::hostCalls().recorded())
+        if (slot->returnsError) rehearsal.calls.push_back(slot->name);
+    return rehearsal;
+}
+
+/// The same dialog once more, without any failure.
+void checkGoesOn(const DialogAction& action, Drawing& session) {
+    session.host.sent.clear();
+    session.host.user.alerts.clear();
+    perform(action, session);
+    CHECK_FALSE(thePlugin->dialogs.open);
+    CHECK_FALSE(session.tool().gesture);
+    CHECK_FALSE(session.tool().repositionArt);
+    CHECK(NRDM::program() == nullptr);
+    CHECK(session.host.user.alerts.empty());
+    CHECK(session.host.sent.empty());
+}
+
+void performWithFault(const DialogAction& action, std::size_t call, Mode mode,
+                      const Rehearsal& rehearsal) {
+    Drawing session(/*selected*/ true);
+    action.prepare(session);
+    session.host.sent.clear();
+    easel::hostCalls().arm({.mode = mode, .call = call, .function = {}, .code = kOutOfMemoryErr});
+    perform(action, session);
+    easel::hostCalls().disarm();
+    CHECK(session.host.user.alerts.size() <= 1);
+    session.host.notify("AI Current Layer Notifier"); // whatever could not be asked is asked again
+    Outcome left(session, mode);
+    if (left.document != rehearsal.before.document && left.document != rehearsal.after.document) {
+        session.host.undo(); // the host could not take back what was done before the failure
+        left.document = session.textButStamp();
+    }
+    const bool wholeOrNothing = left == rehearsal.before || left == rehearsal.after;
+    CHECK(wholeOrNothing);
+    checkGoesOn(action, session);
+}
+
+} // namespace
+
+TEST_CASE("whatever host call fails under a dialog, it is as if it had been left alone or used") {
+    for (const DialogAction& action : kActions) {
+        for (const Mode mode : {Mode::Once, Mode::FromThenOn}) {
+            if (mode == Mode::FromThenOn && action.lendsPaths) continue;
+            const Rehearsal rehearsal = rehearse(action, mode);
+            INFO(std::string(action.name));
+            REQUIRE(rehearsal.calls.size() > 3);
+            for (std::size_t call = 1; call <= rehearsal.calls.size(); ++call) {
+                const std::string& name = rehearsal.calls[call - 1];
+                // What is stored and cannot be read has its default, and is written so again.
+                if (givesBack(name) || name == "AI Dictionary Suite.GetIntegerEntry") continue;
+                INFO(name, ", host call ", call,
+                     std::string(mode == Mode::Once ? "" : " and all after it"));
+                performWithFault(action, call, mode, rehearsal);
+            }
+        }
+    }
+}
