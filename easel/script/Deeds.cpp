@@ -29,7 +29,7 @@ AIPanelRef hostPanel(Player& player) {
 /// Panel or dialog as it can be seen.
 Dialog& seen(Player& player, Where where) {
     if (where == Where::Panel) static_cast<void>(hostPanel(player));
-    Dialog* const dialog = where == Where::Panel ? panelDialog() : modalDialog();
+    Dialog* const dialog = where == Where::Panel ? panelDialog(player.host()) : modalDialog();
     if (dialog == nullptr)
         throw SessionError(where == Where::Panel ? "the panel is empty" : "no dialog is open");
     return *dialog;

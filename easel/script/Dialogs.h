@@ -10,6 +10,8 @@
 
 namespace easel {
 
+class Host;
+
 using facetta::door::Dialog;
 using facetta::door::SeenItem;
 
@@ -17,7 +19,7 @@ using facetta::door::SeenItem;
 [[nodiscard]] Dialog* modalDialog();
 
 /// What the plug-in shows in its panel, hidden or not; null when it has none.
-[[nodiscard]] Dialog* panelDialog();
+[[nodiscard]] Dialog* panelDialog(const Host& host);
 
 /// Calls `next`, which does what the user does next, until it answers false. While a modal dialog
 /// waits for its user it is the dialog's loop that calls: the call that opened it is still on the

@@ -43,7 +43,7 @@ Screen& screen() {
 
 Dialog* modalDialog() { return screen().find(true); }
 
-Dialog* panelDialog() { return screen().find(false); }
+Dialog* panelDialog(const Host& /*host*/) { return screen().find(false); }
 
 void serveUser(const std::function<bool()>& next) { screen().serve(next); }
 

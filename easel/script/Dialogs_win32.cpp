@@ -478,9 +478,9 @@ Dialog* modalDialog() {
                  place);
 }
 
-Dialog* panelDialog() {
+Dialog* panelDialog(const Host& host) {
     static std::unique_ptr<DialogWindow> place;
-    for (const auto& [ref, panel] : host().panels.all())
+    for (const auto& [ref, panel] : host.panels.all())
         for (HWND child = GetWindow(reinterpret_cast<HWND>(panel->window->client()), GW_CHILD);
              child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
             if (isOfToolkit(child)) return found(child, place);

@@ -125,7 +125,7 @@ void Player::send(MouseEvent event, Place place) {
 void Player::moveTo(Place place) { send(&Host::track, place); }
 
 void Player::pressAt(Place place) {
-    if (Dialog* const panel = panelDialog()) panel->leave(); // the keyboard follows the mouse
+    if (Dialog* const panel = panelDialog(host())) panel->leave(); // the keyboard follows the mouse
     send(&Host::press, place);
 }
 
