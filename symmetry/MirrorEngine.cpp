@@ -7,6 +7,7 @@
 #include "host/suites/AIToolSuite.h"
 #include "symmetry/ArtSpace.h"
 #include "symmetry/ArtTree.h"
+#include "symmetry/ClipGroup.h"
 #include "symmetry/ImageCopies.h"
 #include "symmetry/LayerAxesStore.h"
 #include "symmetry/PathArt.h"
@@ -98,6 +99,8 @@ private:
             return mirrorPath(unit);
         case UnitKind::CompoundPath:
             return mirrorCompound(unit);
+        case UnitKind::ClipGroup:
+            return mirrorClipGroup(unit);
         case UnitKind::PluginGroup:
         case UnitKind::Whole:
             return makeCopies(unit, {unit.art, Images::All});
@@ -124,6 +127,12 @@ private:
         if (mirrored.contours.empty()) return;
         finish(mirrored);
         makeCopies(unit, replaceMembers(unit, mirrored, frame_.fold(mirrored.sector), transfer_));
+    }
+
+    void mirrorClipGroup(const Unit& unit) {
+        cutClipGroup(unit, frame_, scratch_.cut, transfer_, placed_);
+        for (const PlacedArt& placed : placed_)
+            makeCopies(unit, placed);
     }
 
     /// When the user wants it, takes the anchors made on the axes away again.

@@ -3,7 +3,6 @@
 #include "host/Art.h"
 #include "host/Error.h"
 #include "host/Lent.h"
-#include "host/Owned.h"
 #include "host/Suites.h"
 #include "host/UnicodeString.h"
 #include "host/suites/AIArtSuite.h"
@@ -11,20 +10,13 @@
 #include "symmetry/ArtMarks.h"
 #include "symmetry/ArtSpace.h"
 #include "symmetry/ArtTree.h"
+#include "symmetry/Draft.h"
 #include "symmetry/ImageCopies.h"
 
 #include <span>
 
 namespace facetta {
 namespace {
-
-/// New art that is disposed of again unless it is released: so a path that turns out too long
-/// leaves nothing behind.
-struct DraftTraits {
-    using Ref = AIArtHandle;
-    static void release(Ref art) noexcept { suites.art->DisposeArt(art); }
-};
-using Draft = ai::Owned<DraftTraits>;
 
 /// A bit of `TransferAttributes`: fill, stroke and appearance.
 constexpr ai::uint32 kTransferStyle = 1U << 1;

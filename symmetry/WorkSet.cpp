@@ -120,6 +120,8 @@ UnitKind kindOf(ai::int16 type) {
         return UnitKind::Path;
     case kCompoundPathArt:
         return UnitKind::CompoundPath;
+    case kGroupArt:
+        return UnitKind::ClipGroup; // a plain group is no unit
     case kPluginArt:
         return UnitKind::PluginGroup;
     default:

@@ -15,8 +15,9 @@ namespace facetta {
 enum class UnitKind : std::uint8_t {
     Path,         ///< Cut and joined at the axes.
     CompoundPath, ///< The same, member by member; it stays one compound path.
+    ClipGroup,    ///< Its mask is cut, what it clips stays as it is.
     PluginGroup,  ///< As it is; the plug-in that owns it is told.
-    Whole,        ///< As it is: clip groups, symbols, text, pictures and all else.
+    Whole,        ///< As it is: symbols, text, pictures and all else.
 };
 
 /// An object that is mirrored as one. No unit contains another.

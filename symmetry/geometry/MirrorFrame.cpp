@@ -32,6 +32,38 @@ ActiveSector activeSectorOf(const MirrorFrame& frame, const PathShape& path, dou
     return {atHome ? 0 : sectorIndexOf(axes, sample)};
 }
 
+bool isTooSmallToCut(const MirrorFrame& frame, const PathShape& path) {
+    if (path.segments.empty()) return true;
+    const Point origin = frame.axes.origin;
+    const Point start = path.segments.front().anchor;
+    const double reach = kSmallestSectorWidth / sectorAngle(frame.axes);
+    const auto areAllWithin = [&](Point centre, double radius) {
+        return std::ranges::all_of(path.segments, [&](const PathSegment& segment) {
+            return distance(segment.anchor, centre) < radius &&
+                   distance(segment.in, centre) < radius && distance(segment.out, centre) < radius;
+        });
+    };
+    return (path.closed && areAllWithin(start, kSmallestCut)) || areAllWithin(origin, reach);
+}
+
+std::vector<DrawnIsland> drawnIslands(const MirrorFrame& frame, std::span<const PathShape> members,
+                                      std::span<const std::size_t> islandOf) {
+    std::vector<DrawnIsland> islands;
+    for (std::size_t i = 0; i < members.size(); ++i) {
+        if (islandOf[i] == islands.size()) islands.emplace_back();
+        DrawnIsland& island = islands[islandOf[i]];
+        island.asDrawn = island.asDrawn && isTooSmallToCut(frame, members[i]);
+        const bool first = island.leader == nullptr && !members[i].segments.empty();
+        const bool firstWithCurve = curveCount(members[i]) > 0 &&
+                                    (island.leader == nullptr || curveCount(*island.leader) == 0);
+        if (first || firstWithCurve) island.leader = &members[i];
+    }
+    for (DrawnIsland& island : islands)
+        if (!island.asDrawn && island.leader != nullptr)
+            island.start = activeSectorOf(frame, *island.leader);
+    return islands;
+}
+
 void foldInto0(const MirrorFrame& frame, int sector, PathShape& path) {
     if (sector == 0) return;
     for (PathSegment& segment : path.segments)

@@ -8,6 +8,8 @@
 #include "symmetry/geometry/PathShape.h"
 #include "symmetry/geometry/Tolerances.h"
 
+#include <cstddef>
+#include <span>
 #include <vector>
 
 namespace facetta {
@@ -40,6 +42,22 @@ struct ActiveSector {
 /// is clear of them by the distance `clear`, or else just clear of them.
 [[nodiscard]] ActiveSector activeSectorOf(const MirrorFrame& frame, const PathShape& path,
                                           double clear = kOnAxisDistance);
+
+/// Whether a path is a mere dot, or so close to the origin that the axes can hardly be told from
+/// each other there.
+[[nodiscard]] bool isTooSmallToCut(const MirrorFrame& frame, const PathShape& path);
+
+/// Members of one outline, which are mirrored from one sector.
+struct DrawnIsland {
+    const PathShape* leader = nullptr; ///< tells the sector: the first member with a curve, if any
+    ActiveSector start;
+    bool asDrawn = true; ///< none of it is large enough to be cut
+};
+
+/// The islands of `members`, which `islandOf` numbers.
+[[nodiscard]] std::vector<DrawnIsland> drawnIslands(const MirrorFrame& frame,
+                                                    std::span<const PathShape> members,
+                                                    std::span<const std::size_t> islandOf);
 
 /// Carries `path` from `sector` into sector 0.
 void foldInto0(const MirrorFrame& frame, int sector, PathShape& path);

@@ -9,22 +9,6 @@
 namespace facetta {
 namespace {
 
-/// Whether a path is a mere dot, or so close to the origin that the axes can hardly be told from
-/// each other there.
-bool isTooSmallToCut(const MirrorFrame& frame, const PathShape& path) {
-    if (path.segments.empty()) return true;
-    const Point origin = frame.axes.origin;
-    const Point start = path.segments.front().anchor;
-    const double reach = kSmallestSectorWidth / sectorAngle(frame.axes);
-    const auto areAllWithin = [&](Point centre, double radius) {
-        return std::ranges::all_of(path.segments, [&](const PathSegment& segment) {
-            return distance(segment.anchor, centre) < radius &&
-                   distance(segment.in, centre) < radius && distance(segment.out, centre) < radius;
-        });
-    };
-    return (path.closed && areAllWithin(start, kSmallestCut)) || areAllWithin(origin, reach);
-}
-
 /// Moves a segment so that its anchor lies on `ray`. An anchor that is as near to it as stored
 /// coordinates can be stays: moving it again would only shift its rounding along the ray.
 void moveOnto(const Wedge& wedge, Ray ray, PathSegment& segment) {
@@ -177,17 +161,6 @@ public:
     MirroredPath compound(std::span<const PathShape> members, FillRule rule);
 
 private:
-    /// Members of a compound path that are mirrored from one sector.
-    struct Island {
-        const PathShape* leader = nullptr; ///< tells the sector
-        ActiveSector start;
-        bool asDrawn = true; ///< none of it is large enough to be cut
-        bool isLost = true;  ///< nothing of it has been kept
-    };
-
-    [[nodiscard]] std::vector<Island> islandsIn(std::span<const PathShape> members,
-                                                std::span<const std::size_t> islandOf) const;
-
     [[nodiscard]] Contour asDrawn(const PathShape& source) const;
     void takeUp(const PathShape& source);
     void addContours(double start);
@@ -237,10 +210,11 @@ MirroredPath Mirroring::path(const PathShape& source) {
 
 MirroredPath Mirroring::compound(std::span<const PathShape> members, FillRule rule) {
     const std::vector<std::size_t> islandOf = islandsOf(members, rule);
-    std::vector<Island> islands = islandsIn(members, islandOf);
+    std::vector<DrawnIsland> islands = drawnIslands(frame_, members, islandOf);
+    std::vector<bool> isKept(islands.size(), false);
     for (std::size_t i = 0; i < members.size(); ++i) {
         if (members[i].segments.empty()) continue;
-        Island& island = islands[islandOf[i]];
+        const DrawnIsland& island = islands[islandOf[i]];
         const std::size_t before = contours_.size();
         if (island.asDrawn) {
             contours_.push_back(asDrawn(members[i]));
@@ -249,19 +223,18 @@ MirroredPath Mirroring::compound(std::span<const PathShape> members, FillRule ru
             foldInto0(frame_, island.start.sector, folded_);
             addContours(&members[i] == island.leader ? island.start.position : kSampleParameter);
         }
-        island.isLost = island.isLost && contours_.size() == before;
+        if (contours_.size() > before) isKept[islandOf[i]] = true;
     }
     for (std::size_t i = 0; i < members.size(); ++i) {
-        Island& island = islands[islandOf[i]];
-        if (!island.isLost || members[i].segments.empty()) continue;
-        island.asDrawn = true;
+        if (isKept[islandOf[i]] || members[i].segments.empty()) continue;
+        islands[islandOf[i]].asDrawn = true;
         contours_.push_back(asDrawn(members[i]));
     }
 
     MirroredPath result;
     result.compound = true;
     if (!islands.empty()) result.sector = islands.front().start.sector;
-    const bool fromOneSector = std::ranges::all_of(islands, [&](const Island& island) {
+    const bool fromOneSector = std::ranges::all_of(islands, [&](const DrawnIsland& island) {
         return !island.asDrawn && island.start.sector == result.sector;
     });
     result.carried = !endsChanged_ && !cut_ && fromOneSector && contours_.size() == members.size();
@@ -276,24 +249,6 @@ MirroredPath Mirroring::compound(std::span<const PathShape> members, FillRule ru
         return unchangedCompound(members, Images::None);
     result.contours = std::move(contours_);
     return result;
-}
-
-std::vector<Mirroring::Island> Mirroring::islandsIn(std::span<const PathShape> members,
-                                                    std::span<const std::size_t> islandOf) const {
-    std::vector<Island> islands;
-    for (std::size_t i = 0; i < members.size(); ++i) {
-        if (islandOf[i] == islands.size()) islands.emplace_back();
-        Island& island = islands[islandOf[i]];
-        island.asDrawn = island.asDrawn && isTooSmallToCut(frame_, members[i]);
-        const bool first = island.leader == nullptr && !members[i].segments.empty();
-        const bool firstWithCurve = curveCount(members[i]) > 0 &&
-                                    (island.leader == nullptr || curveCount(*island.leader) == 0);
-        if (first || firstWithCurve) island.leader = &members[i];
-    }
-    for (Island& island : islands)
-        if (!island.asDrawn && island.leader != nullptr)
-            island.start = activeSectorOf(frame_, *island.leader);
-    return islands;
 }
 
 /// What is not to be cut.

@@ -5,6 +5,7 @@
 #include "host/Error.h"
 #include "symmetry/ArtSpace.h"
 #include "symmetry/ImageCopies.h"
+#include "symmetry/geometry/Crossings.h"
 #include "symmetry/geometry/Geometry.h"
 #include "tests/Seed.h"
 #include "tests/symmetry/EngineFixture.h"
@@ -224,6 +225,78 @@ TEST_CASE("a compound path is cut and joined member by member and stays the same
     CHECK(members[1]->has(kArtFullySelected));
     for (const Art* member : members)
         CHECK(member->segments().size() == 6); // with the two anchors on the axis
+}
+
+TEST_CASE("a clip group shows in each sector its own part of what it clips") {
+    for (const int axisCount : {1, 3, 6}) {
+        INFO("N = ", axisCount);
+        EngineFixture fixture;
+        const Point origin{200, -200};
+        fixture.step([&] {
+            Art& group =
+                easel::createArt(fixture.document(), kGroupArt, easel::atBottomOf(fixture.layer()));
+            group.write().clipped = true;
+            Art& mask =
+                fixture.addPath(group, {{350, -180}, {150, -180}, {150, -300}, {350, -300}}, true);
+            mask.write().attributes |= kArtIsClipMask | kArtLocked;
+            fixture.addPath(group, {{100, -100}, {400, -400}}, false);
+        });
+        const std::string before = easel::dump(fixture.document());
+        fixture.setAxes(axisCount, 0.1, origin);
+        fixture.attach();
+
+        const PageAxes axes = pageAxes(fixture.axes);
+        const std::vector<const Art*> groups = objectsIn(fixture.layer());
+        REQUIRE(groups.size() == static_cast<std::size_t>(sectorCount(axes)));
+        CHECK(groups[0]->lastChild()->segments()[1].p.h == 400);
+        CHECK(groups[0]->firstChild()->has(kArtLocked));
+        std::vector<int> sectors;
+        for (const Art* group : groups) {
+            Vector sum{};
+            for (const AIPathSegment& segment : group->firstChild()->segments())
+                sum = sum + (widen(segment.p) - origin);
+            sectors.push_back(sectorIndexOf(axes, origin + sum));
+            const PageAxes turned{
+                origin, normaliseAngle(axes.angle + sectors.back() * sectorAngle(axes)), axisCount};
+            for (const AIPathSegment& segment : group->firstChild()->segments())
+                CHECK(Wedge{turned}.margin(widen(segment.p)) > -0.01);
+        }
+        std::ranges::sort(sectors);
+        CHECK(std::ranges::adjacent_find(sectors) == sectors.end());
+
+        const std::string once = textOf(fixture);
+        fixture.regenerate();
+        CHECK(textOf(fixture) == once);
+        fixture.document().undo().undo();
+        fixture.document().undo().undo();
+        CHECK(easel::dump(fixture.document()) == before);
+    }
+}
+
+TEST_CASE("a clip group with a mask of islands in several sectors becomes one for each") {
+    EngineFixture fixture;
+    fixture.step([&] {
+        Art& group =
+            easel::createArt(fixture.document(), kGroupArt, easel::atBottomOf(fixture.layer()));
+        group.write().clipped = true;
+        group.write().details.write().name = "k";
+        Art& mask =
+            easel::createArt(fixture.document(), kCompoundPathArt, easel::atBottomOf(group));
+        mask.write().details.write().name = "c";
+        mask.write().attributes |= kArtIsClipMask;
+        fixture.addPath(mask, {{0, 50}, {0, -10}, {40, -10}, {40, 50}}, true);
+        fixture.addPath(mask, {{60, -30}, {90, -30}, {90, -60}}, true);
+        fixture.build(group, "t");
+        easel::selectAll(fixture.document());
+    });
+    fixture.setAxes(1);
+    fixture.attach();
+    const std::string expected = "k(!c() t) k'(!c() t) k(!c() t) k'(!c() t)";
+    CHECK(fixture.notationOf(fixture.layer()) == expected);
+    for (const Art* group : objectsIn(fixture.layer()))
+        CHECK(objectsIn(*group->firstChild()).size() == 1);
+    fixture.regenerate();
+    CHECK(fixture.notationOf(fixture.layer()) == expected);
 }
 
 TEST_CASE("art drawn in another sector is folded with its gradient") {

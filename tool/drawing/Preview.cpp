@@ -7,6 +7,7 @@
 #include "symmetry/ArtSpace.h"
 #include "symmetry/ArtTree.h"
 #include "symmetry/LayerAxesStore.h"
+#include "symmetry/geometry/CutMask.h"
 #include "tool/ToolSession.h"
 
 #include <algorithm>
@@ -33,6 +34,12 @@ void addContours(PreviewPaths& paths, const MirroredPath& mirrored) {
         paths.add(contour.shape, contour.images, mirrored.unchanged);
 }
 
+void addParts(PreviewPaths& paths, const std::vector<SectorMask>& parts) {
+    for (const SectorMask& part : parts)
+        for (const PathShape& member : part.members)
+            paths.add(member, Images::All, /*isArt*/ false);
+}
+
 void build(Preview& preview, const PageAxes& axes, double zoom) {
     preview.paths.begin(axes, kTolerance / zoom);
     const MirrorFrame frame{axes, kSnapPixels / zoom};
@@ -52,6 +59,8 @@ void build(Preview& preview, const PageAxes& axes, double zoom) {
             preview.art.copyPath(source.firstPath + i, members[i]);
         if (source.kind == UnitKind::Path)
             addContours(preview.paths, mirror(frame, members.front(), scratch));
+        else if (source.kind == UnitKind::ClipGroup)
+            addParts(preview.paths, cutMask(frame, members, FillRule::NonZero, scratch.cut));
         else
             addContours(preview.paths, mirrorCompound(frame, members, FillRule::NonZero, scratch));
     }

@@ -5,10 +5,29 @@
 #include "host/suites/AIArtSuite.h"
 #include "symmetry/ArtSpace.h"
 #include "symmetry/ArtTree.h"
+#include "symmetry/ClipGroup.h"
 
 #include <algorithm>
 
 namespace facetta {
+namespace {
+
+/// What is drawn of an object: of a clip group its mask; nothing where its bounding box stands for
+/// it.
+std::vector<AIArtHandle> pathsShown(const Unit& unit) {
+    switch (unit.kind) {
+    case UnitKind::Path:
+        return {unit.art};
+    case UnitKind::CompoundPath:
+        return pathsInside(unit.art);
+    case UnitKind::ClipGroup:
+        return pathsOf(maskOf(unit.art));
+    default:
+        return {};
+    }
+}
+
+} // namespace
 
 void PreviewArt::read(std::span<const Unit> units) {
     *this = {};
@@ -19,10 +38,8 @@ void PreviewArt::read(std::span<const Unit> units) {
         ai::check(ai::suites.art->GetArtBounds(unit.art, &source.bounds));
         const std::size_t before = segments_.size();
         if (before < kMostSegments) {
-            if (unit.kind == UnitKind::Path) addPath(unit.art, transfer, shape);
-            if (unit.kind == UnitKind::CompoundPath)
-                for (const AIArtHandle path : pathsInside(unit.art))
-                    addPath(path, transfer, shape);
+            for (const AIArtHandle path : pathsShown(unit))
+                addPath(path, transfer, shape);
         }
         source.pathCount = paths_.size() - source.firstPath;
         source.segments = segments_.size() - before;
