@@ -71,7 +71,7 @@ AboutBox& boxOf(const Adm& adm, ADMDialogRef dialog) {
 }
 
 std::vector<Line> linesOf(SPPluginRef self, const Licensing& licence) {
-    ai::SuiteLease<ADMBasicSuite, kADMBasicSuite, kADMBasicSuiteVersion> basic;
+    ai::SuiteLease<ADMBasicSuite> basic;
     ai::check(basic.acquire());
     const auto text = [&](ADMInt32 index) {
         std::array<char, 256> buffer{};
@@ -91,7 +91,7 @@ std::vector<Line> linesOf(SPPluginRef self, const Licensing& licence) {
 /// The host is asked nothing here: a window may be painted at any time.
 void draw(ADMItemRef item, ADMDrawerRef drawer) {
     const Adm adm;
-    ai::SuiteLease<ADMDrawerSuite, kADMDrawerSuite, kADMDrawerSuiteVersion> drawers;
+    ai::SuiteLease<ADMDrawerSuite> drawers;
     ai::check(drawers.acquire());
     const ADMDrawerSuite& suite = *drawers;
     ADMRect area{};
