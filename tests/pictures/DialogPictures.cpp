@@ -32,7 +32,7 @@ public:
         host.user.darkTheme = dark;
         host.start();
         NRDM::WinPeers::current().screen().fixedScale = NRDM::Scale{scale};
-        host.open(std::make_unique<easel::Document>(AISize{800, 600}));
+        host.open(std::make_unique<easel::Document>(easel::session(), AISize{800, 600}));
         host.selectTool(thePlugin->toolHandle);
         host.press({.at = {400, -300}});
         host.drag({.at = {500, -260}});
@@ -51,7 +51,7 @@ public:
         });
     }
 
-    easel::Host host{easel::installedSuites()};
+    easel::Host host{easel::sessionWithSuites()};
 };
 
 struct Row {

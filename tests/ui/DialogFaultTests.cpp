@@ -21,17 +21,20 @@ struct DialogAction {
     bool lendsPaths = false; ///< which a host that fails throughout does not take back
 };
 
-void nothing(Drawing&) {}
-void onLayer(Drawing& session) { session.makeLive(/*withGuides*/ true); }
+// Places are numbers here: to compute them from the axes asks the host.
+void clickAxes(Drawing& session) { session.click({350, -200}); }
 
-void doubleClick(Drawing& session) {
-    // Places are numbers here: to compute them from the axes asks the host.
-    for (int count = 0; count < 2; ++count)
-        session.click({350, -200});
+/// The first of two clicks.
+void onceClicked(Drawing& session) { clickAxes(session); }
+void onLayer(Drawing& session) {
+    session.makeLive(/*withGuides*/ true);
+    clickAxes(session);
 }
-void doubleClickWithAlt(Drawing& session) {
+void nothing(Drawing&) {}
+
+void clickWithAlt(Drawing& session) {
     const KeysHeld held({Key::Alt});
-    doubleClick(session);
+    clickAxes(session);
 }
 void openPreferences(Drawing& session) {
     const KeysHeld held({Key::Shift});
@@ -52,14 +55,12 @@ DialogUser::Act clicking(int button) {
 /// One edit each: a field that cannot ask for its limits may refuse what is typed, and the user
 /// goes on.
 const DialogAction kActions[] = {
-    {"x of pending axes", nothing, doubleClick, {entering(4, "250"), clicking(1)}},
-    {"y of pending axes", nothing, doubleClick, {entering(6, "230"), clicking(1)}},
-    {"angle of pending axes", nothing, doubleClick, {entering(8, "45"), clicking(1)}},
-    {"count, cancelled", nothing, doubleClick, {entering(11, "5"), clicking(2)}},
-    {"count of a layer's axes", onLayer, doubleClick, {entering(11, "5"), clicking(1)}},
-    {"angle of a layer's axes, cancelled", onLayer, doubleClick, {entering(8, "45"), clicking(2)}},
-    {"a layer's axes with its art", onLayer, doubleClickWithAlt, {entering(8, "45"), clicking(1)}},
-    {"the same, cancelled", onLayer, doubleClickWithAlt, {entering(4, "250"), clicking(2)}},
+    {"x of pending axes", onceClicked, clickAxes, {entering(4, "250"), clicking(1)}},
+    {"angle of pending axes", onceClicked, clickAxes, {entering(8, "45"), clicking(1)}},
+    {"count, cancelled", onceClicked, clickAxes, {entering(11, "5"), clicking(2)}},
+    {"count of a layer's axes", onLayer, clickAxes, {entering(11, "5"), clicking(1)}},
+    {"a layer's axes with its art", onLayer, clickWithAlt, {entering(8, "45"), clicking(1)}},
+    {"the same, cancelled", onLayer, clickWithAlt, {entering(4, "250"), clicking(2)}},
     {"preferences", nothing, openPreferences, {clicking(3), clicking(6), clicking(1)}},
     {"help", nothing, openAbout, {clicking(5)}, /*lendsPaths*/ true},
     {"buy", nothing, openAbout, {clicking(1)}},
@@ -107,11 +108,11 @@ Rehearsal rehearse(const DialogAction& action, Mode mode) {
     Drawing session(/*selected*/ true);
     action.prepare(session);
     const Outcome before(session, mode);
-    easel::hostCalls().setRecording(true);
+    easel::session().calls.setRecording(true);
     perform(action, session);
-    easel::hostCalls().setRecording(false);
+    easel::session().calls.setRecording(false);
     Rehearsal rehearsal{before, Outcome(session, mode), {}};
-    for (const easel::SlotRecord* slot : easel::hostCalls().recorded())
+    for (const easel::SlotRecord* slot : easel::session().calls.recorded())
         if (slot->returnsError) rehearsal.calls.push_back(slot->name);
     return rehearsal;
 }
@@ -120,6 +121,7 @@ Rehearsal rehearse(const DialogAction& action, Mode mode) {
 void checkGoesOn(const DialogAction& action, Drawing& session) {
     session.host.sent.clear();
     session.host.user.alerts.clear();
+    action.prepare(session);
     perform(action, session);
     CHECK_FALSE(thePlugin->dialogs.open);
     CHECK_FALSE(session.tool().gesture);
@@ -134,9 +136,10 @@ void performWithFault(const DialogAction& action, std::size_t call, Mode mode,
     Drawing session(/*selected*/ true);
     action.prepare(session);
     session.host.sent.clear();
-    easel::hostCalls().arm({.mode = mode, .call = call, .function = {}, .code = kOutOfMemoryErr});
+    easel::session().calls.arm(
+        {.mode = mode, .call = call, .function = {}, .code = kOutOfMemoryErr});
     perform(action, session);
-    easel::hostCalls().disarm();
+    easel::session().calls.disarm();
     CHECK(session.host.user.alerts.size() <= 1);
     session.host.notify("AI Current Layer Notifier"); // whatever could not be asked is asked again
     Outcome left(session, mode);
