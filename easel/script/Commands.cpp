@@ -416,7 +416,8 @@ constexpr CommandRow kCommands[] = {
      "Stores a setting; a plug-in reads its own when it starts, so before everything else or a "
      "restart. Whole numbers are stored as integers unless written with a point",
      readPreference, UnderDialog::Done},
-    {"restart", "", "Quits host and plug-in and starts them again; settings stay, drawings do not",
+    {"restart", "",
+     "Quits host and plug-in and starts them again; settings and open panels stay, drawings do not",
      readRestart},
     {"reload", "",
      "Unloads the plug-in's library, held or not, and loads it again at another address",

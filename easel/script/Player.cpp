@@ -73,6 +73,9 @@ void Player::reload() {
 }
 
 void Player::restart() {
+    std::vector<std::u32string> workspace; // of the panels that were shown
+    for (const auto& [ref, panel] : session_->host.panels.all())
+        if (panel->shown != 0) workspace.push_back(panel->id);
     const std::vector<std::string> complaints = finish();
     Preferences kept = preferences();
     session_.reset(); // before the next: one host exists at a time
@@ -82,6 +85,9 @@ void Player::restart() {
     snapsBefore_ = messagesSeen_ = alertsSeen_ = 0;
     if (!complaints.empty()) throw SessionError(complaints.front());
     start();
+    for (const std::u32string& id : workspace)
+        if (const AIPanelRef panel = session_->host.panels.named(id))
+            session_->host.showPanel(panel, true);
 }
 
 std::vector<std::string> Player::finish() {

@@ -50,7 +50,8 @@ public:
     /// message with an error.
     void endCommand();
     [[nodiscard]] bool isHeld(std::size_t key) const { return keys_[key]; }
-    /// Quits the plug-in and starts it again; settings stay.
+    /// Quits the plug-in and starts it again; settings stay, and the workspace shows the panels
+    /// that were shown.
     void restart();
     /// Unloads the plug-in's library, held or not, and loads it again at another address.
     void reload();
