@@ -134,10 +134,6 @@ AIErr setArtUserAttr(AIArtHandle art, ai::int32 mask, ai::int32 attributes) {
     return kNoErr;
 }
 
-AIBoolean isArtClipping(AIArtHandle art) {
-    return session().artOf(art).has(kArtIsClipMask) ? 1 : 0;
-}
-
 AIErr isArtLayerGroup(AIArtHandle art, AIBoolean* isLayer) {
     required(isLayer) = session().artOf(art).isLayer() ? 1 : 0;
     return kNoErr;
@@ -254,7 +250,6 @@ void installArtSuite(SuiteServer& server) {
     expose<&S::GetInsertionPoint, getInsertionPoint>(table);
     expose<&S::GetDictionary, getDictionary>(table);
     expose<&S::IsArtLayerGroup, isArtLayerGroup>(table);
-    expose<&S::IsArtClipping, isArtClipping>(table);
     expose<&S::TransferAttributes, transferAttributes>(table);
     expose<&S::SetNote, setNote>(table);
     expose<&S::GetNote, getNote>(table);

@@ -52,11 +52,6 @@ AIErr getName(AIToolHandle tool, char** name) {
     return kNoErr;
 }
 
-AIErr getOptions(AIToolHandle tool, ai::int32* options) {
-    required(options) = at(tool).options;
-    return kNoErr;
-}
-
 AIErr setSelected(AIToolHandle tool) {
     static_cast<void>(at(tool));
     host().selectTool(tool);
@@ -103,7 +98,6 @@ void installToolSuite(SuiteServer& server) {
     auto table = server.table<AIToolSuite>(kAIToolSuite, kAIToolSuiteVersion);
     expose<&AIToolSuite::AddTool, addTool>(table);
     expose<&AIToolSuite::GetToolName, getName>(table);
-    expose<&AIToolSuite::GetToolOptions, getOptions>(table);
     expose<&AIToolSuite::SetSelectedTool, setSelected>(table);
     expose<&AIToolSuite::SetToolInfoVars, setInfoVariables>(table);
     expose<&AIToolSuite::SetToolInfoVarValues, setInfoValues>(table);

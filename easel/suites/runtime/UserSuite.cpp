@@ -55,10 +55,6 @@ void tell(const char* kind, const ai::UnicodeString& text) {
     user().alerts.push_back({kind, readUtf8(session().ledger, text)});
 }
 
-AIBoolean okCancelAlert(const ai::UnicodeString& text, AIBoolean /*okIsDefault*/,
-                        const char* /*key*/) {
-    return ask("ok-cancel", text) == kYes ? 1 : 0;
-}
 void warningAlert(const ai::UnicodeString& text, const char* /*key*/) { tell("warning", text); }
 AIAnswer questionAlert(const ai::UnicodeString& text) { return ask("question", text); }
 AIAnswer yesNoAlert(const ai::UnicodeString& text) { return ask("yes-no", text); }
@@ -98,7 +94,6 @@ void installUserSuite(SuiteServer& server) {
     expose<&AIUserSuite::IUAIRealToString, realToString>(table);
     expose<&AIUserSuite::GetDateAndTime, getDateAndTime>(table);
     expose<&AIUserSuite::LaunchApp, launchApp>(table);
-    expose<&AIUserSuite::OKCancelAlert, okCancelAlert>(table);
     expose<&AIUserSuite::WarningAlert, warningAlert>(table);
     expose<&AIUserSuite::QuestionAlert, questionAlert>(table);
     expose<&AIUserSuite::YesNoAlert, yesNoAlert>(table);

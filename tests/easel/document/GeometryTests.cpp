@@ -84,32 +84,5 @@ TEST_CASE("hard and soft coordinates are inverse, flip y, and follow the ruler o
     }
 }
 
-TEST_CASE("the artboard lies in the middle of the canvas, its top left corner at the origin") {
-    const Drawing drawing;
-    const AIRealRect artboard = drawing.document.artboard();
-    CHECK(artboard.left == 0);
-    CHECK(artboard.top == 0);
-    CHECK(artboard.right == 200);
-    CHECK(artboard.bottom == -100);
-    const AIRealRect canvas = drawing.document.canvas();
-    CHECK(std::abs((canvas.left + canvas.right) - (artboard.left + artboard.right)) <= 1);
-    CHECK(std::abs((canvas.top + canvas.bottom) - (artboard.top + artboard.bottom)) <= 1);
-}
-
-TEST_CASE("art stays on its place of the canvas when the ruler origin moves") {
-    Drawing drawing;
-    const AIArtHandle made = drawing.makePath({{10, 20}});
-    AIRealPoint soft = session().artOf(made).segments()[0].p;
-    AIRealPoint before{};
-    CHECK(hardSoft().AIRealPointHarden(&soft, &before) == kNoErr);
-    drawing.document.setRulerOrigin({8000, 8200});
-    soft = session().artOf(made).segments()[0].p;
-    AIRealPoint after{};
-    CHECK(hardSoft().AIRealPointHarden(&soft, &after) == kNoErr);
-    CHECK(soft.h != 10);
-    CHECK(after.h == before.h);
-    CHECK(after.v == before.v);
-}
-
 } // namespace
 } // namespace easel::tests

@@ -40,24 +40,6 @@ TEST_CASE("a path takes 32000 segments and not one more, in any way of adding") 
     CHECK(count == 32000);
 }
 
-TEST_CASE("segments are overwritten, appended and cut off") {
-    const Drawing drawing;
-    const AIArtHandle made = drawing.makePath({{0, 0}, {1, 0}, {2, 0}});
-    const auto anchors = [made] {
-        std::string text;
-        for (const AIPathSegment& segment : session().artOf(made).segments())
-            text += std::to_string(static_cast<int>(segment.p.h)) + ' ';
-        return text;
-    };
-    const AIPathSegment fresh[] = {corner(7, 0), corner(8, 0)};
-    CHECK(path().SetPathSegments(made, 2, 2, fresh) == kNoErr);
-    CHECK(anchors() == "0 1 7 8 ");
-    CHECK(path().SetPathSegmentCount(made, 1) == kNoErr);
-    CHECK(anchors() == "0 ");
-    CHECK(path().SetPathSegments(made, 0, 2, fresh) == kNoErr); // all at once
-    CHECK(anchors() == "7 8 ");
-}
-
 TEST_CASE("the selection of anchors makes that of the path") {
     const Drawing drawing;
     const AIArtHandle made = drawing.makePath({{0, 0}, {1, 0}, {2, 0}});

@@ -155,21 +155,6 @@ TEST_CASE("edit and result art hang on their plug-in group without being its chi
     CHECK(resultArt(session().artOf(copy))->firstChild() != nullptr);
 }
 
-TEST_CASE("new art goes to the top of the current layer when no place is named") {
-    Drawing drawing;
-    Art& top = createLayer(drawing.document, "Top", onTopOf(drawing.document.root()));
-    setCurrentLayer(drawing.document, top);
-    const AIArtHandle made = drawing.make(kPathArt, kPlaceDefault, nullptr);
-    CHECK(session().artOf(made).parent() == &top);
-    AIArtHandle where = nullptr;
-    ai::int16 order = 0;
-    AIBoolean editable = 0;
-    CHECK(art().GetInsertionPoint(&where, &order, &editable) == kNoErr);
-    CHECK(where == top.handle());
-    CHECK(order == kPlaceInsideOnTop);
-    CHECK(editable == 1);
-}
-
 TEST_CASE("walks survive art nested ten thousand deep") {
     Drawing drawing;
     const Record record(drawing.document);

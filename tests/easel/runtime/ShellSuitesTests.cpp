@@ -72,34 +72,6 @@ TEST_CASE("no drawing state leaks from one annotator to the next") {
     CHECK(list[3].style.opacity == 0.5F);
 }
 
-TEST_CASE("dash patterns have 1 to 12 entries") {
-    AIAnnotatorDrawer drawer;
-    Fixture fixture;
-    const auto& suite = *ai::suites.annotatorDrawer;
-    AIFloat dashes[13] = {1, 2, 3};
-    CHECK(suite.SetLineDashedEx(&drawer, dashes, 3) == kNoErr);
-    CHECK(suite.SetLineDashedEx(&drawer, dashes, 13) == fourCharacterCode("DBIG"));
-    CHECK(suite.SetLineDashedEx(&drawer, dashes, 0) == kBadParameterErr);
-    CHECK(drawer.style.dashes == std::vector<AIReal>{1, 2, 3});
-    CHECK(suite.DrawLine(nullptr, {0, 0}, {1, 1}) == kBadParameterErr);
-}
-
-TEST_CASE("an invalid rectangle means the same pixels whichever way is up") {
-    Fixture fixture;
-    const AIRect down{10, 20, 30, 40};
-    const AIRect up{10, 40, 30, 20};
-    ai::suites.annotator->InvalAnnotationRect(nullptr, &down);
-    ai::suites.annotator->InvalAnnotationRect(nullptr, &up);
-    ai::suites.annotator->InvalAnnotationRect(nullptr, nullptr);
-    const auto& invalid = fixture.host.annotators.invalid;
-    REQUIRE(invalid.size() == 3);
-    CHECK(invalid[1].top == 20);
-    CHECK(invalid[1].bottom == 40);
-    CHECK(invalid[2].right == 1280);
-    CHECK(fixture.host.drawAnnotations(nullptr).empty());
-    CHECK(fixture.host.annotators.invalid.empty());
-}
-
 TEST_CASE("view pixels run down from the top left, whatever centre and zoom") {
     Fixture fixture;
     const auto& suite = *ai::suites.documentView;
@@ -218,24 +190,6 @@ TEST_CASE("file paths take and give native text") {
     CHECK(easel::readPath(easel::session().ledger, root).empty());
 }
 
-TEST_CASE("numbers turn into text without zeros at the end") {
-    Fixture fixture;
-    const auto& suite = *ai::suites.user;
-    struct Row {
-        AIReal value;
-        ai::int16 precision;
-        const char* expected;
-    };
-    const Row rows[] = {{1.75F, 2, "1.75"}, {1.75F, 1, "1.8"},    {2, 4, "2"},
-                        {-0.0001F, 2, "0"}, {0.125F, 9, "0.125"}, {-12.5F, 3, "-12.5"},
-                        {100, 0, "100"}};
-    for (const auto& [value, precision, expected] : rows) {
-        ai::UnicodeString written;
-        suite.IUAIRealToString(value, precision, written);
-        CHECK(written.utf8() == expected);
-    }
-}
-
 TEST_CASE("what would leave the host is recorded, questions get the prepared answers") {
     Fixture fixture;
     const auto& suite = *ai::suites.user;
@@ -243,11 +197,10 @@ TEST_CASE("what would leave the host is recorded, questions get the prepared ans
     user.answers = {0, 2};
     CHECK(suite.QuestionAlert(text("Sure?")) == 0);
     CHECK(suite.YesNoAlert(text("Really?")) == 2);
-    CHECK(suite.OKCancelAlert(text("Go?"), 1, nullptr) == 1);
     suite.ErrorAlert(text("No."));
-    REQUIRE(user.alerts.size() == 4);
-    CHECK(user.alerts[3].kind == "error");
-    CHECK(user.alerts[3].text == "No.");
+    REQUIRE(user.alerts.size() == 3);
+    CHECK(user.alerts[2].kind == "error");
+    CHECK(user.alerts[2].text == "No.");
 
     ai::FilePath manual;
     ai::suites.filePath->Set(text("manual.pdf"), 0, manual);

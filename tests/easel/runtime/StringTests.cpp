@@ -40,22 +40,6 @@ TEST_CASE("text survives the way into the host and back") {
     }
 }
 
-TEST_CASE("copies share nothing, moves leave an empty string") {
-    Fixture fixture;
-    ai::UnicodeString original{std::string_view("one")};
-    ai::UnicodeString copy = original;
-    easel::writeUtf8(easel::session().ledger, copy, "two");
-    CHECK(original.utf8() == "one");
-    ai::UnicodeString& alias = original;
-    original = alias;
-    CHECK(original.utf8() == "one");
-    const ai::UnicodeString moved = std::move(original);
-    CHECK(moved.utf8() == "one");
-    const ai::UnicodeString unset;
-    const ai::UnicodeString copyOfUnset = unset;
-    CHECK(copyOfUnset.utf8().empty());
-}
-
 TEST_CASE("positions count characters, not UTF-16 units") {
     Fixture fixture;
     const auto& suite = *ai::suites.unicodeString;
