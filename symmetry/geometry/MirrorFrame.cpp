@@ -72,22 +72,24 @@ void foldInto0(const MirrorFrame& frame, int sector, PathShape& path) {
 
 namespace {
 
-/// Whether two points are one but for the rounding of each to what the host can store.
-bool coincide(Point a, Point b) {
+/// Whether two points are one, to within `apart` and the rounding of each to what the host can
+/// store.
+bool coincide(Point a, Point b, double apart) {
     constexpr double kRoundings = 3.0; // when it was made, when it was folded, and here
     const double magnitude = std::max({std::abs(a.x), std::abs(a.y), std::abs(b.x), std::abs(b.y)});
-    return distance(a, b) <= kRoundings * kStorageSpacing * magnitude;
+    return distance(a, b) <= std::max(apart, kRoundings * kStorageSpacing * magnitude);
 }
 
-bool coincide(const PathSegment& a, const PathSegment& b) {
-    return coincide(a.anchor, b.anchor) && coincide(a.in, b.in) && coincide(a.out, b.out);
+bool coincide(const PathSegment& a, const PathSegment& b, double apart) {
+    return coincide(a.anchor, b.anchor, apart) && coincide(a.in, b.in, apart) &&
+           coincide(a.out, b.out, apart);
 }
 
 /// A path as seen from one of its anchors.
 class AroundAnchor {
 public:
-    AroundAnchor(const MirrorFrame& frame, const PathShape& path, std::size_t anchor)
-        : frame_(frame), path_(path), anchor_(anchor),
+    AroundAnchor(const MirrorFrame& frame, const PathShape& path, std::size_t anchor, double apart)
+        : frame_(frame), path_(path), anchor_(anchor), apart_(apart),
           ray_(frame.wedge.rayAt(path.segments[anchor].anchor)) {}
 
     [[nodiscard]] Ray ray() const { return ray_; }
@@ -97,10 +99,11 @@ public:
     [[nodiscard]] bool isReflected(Ray ray, std::size_t count) const {
         const Matrix& reflection = frame_.chains.from(ray)[1];
         const PathSegment& joint = path_.segments[anchor_]; // on the ray as nearly as an anchor is
-        if (!coincide(joint.out, joint.anchor + apply(reflection, joint.in - joint.anchor)))
+        if (!coincide(joint.out, joint.anchor + apply(reflection, joint.in - joint.anchor), apart_))
             return false;
         for (std::size_t i = 1; i <= count; ++i)
-            if (!coincide(after(i), transformed(reversed(before(i)), reflection))) return false;
+            if (!coincide(after(i), transformed(reversed(before(i)), reflection), apart_))
+                return false;
         return true;
     }
 
@@ -132,29 +135,40 @@ private:
     const MirrorFrame& frame_;
     const PathShape& path_;
     std::size_t anchor_;
+    double apart_;
     Ray ray_;
 };
+
+/// Whether a path runs along `ray` alone, by its anchors.
+bool liesAlong(const Wedge& wedge, Ray ray, const PathShape& path) {
+    return std::ranges::all_of(path.segments, [&](const PathSegment& segment) {
+        return wedge.along(ray, segment.anchor) >= -kOnAxisDistance &&
+               wedge.distanceFrom(ray, segment.anchor) <= kOnAxisDistance &&
+               wedge.distanceFrom(ray, segment.in) <= kOnAxisDistance &&
+               wedge.distanceFrom(ray, segment.out) <= kOnAxisDistance;
+    });
+}
 
 bool isOn(Ray place, Ray ray) { return place == ray || place == Ray::Origin; }
 
 Ray otherThan(Ray ray) { return ray == Ray::First ? Ray::Last : Ray::First; }
 
 /// The same for a closed path, by an anchor that lies on `ray`.
-Images ownImagesAround(const MirrorFrame& frame, const PathShape& path, std::size_t anchor,
-                       Ray ray) {
+Images ownImagesAround(const MirrorFrame& frame, const PathShape& path, std::size_t anchor, Ray ray,
+                       double apart) {
     const std::size_t half = path.segments.size() / 2;
-    const AroundAnchor here{frame, path, anchor};
+    const AroundAnchor here{frame, path, anchor, apart};
     if (!isOn(here.ray(), ray) || !here.isReflected(ray, half)) return Images::All;
-    if (isOn(AroundAnchor{frame, path, (anchor + half) % path.segments.size()}.ray(), ray) &&
+    if (isOn(AroundAnchor{frame, path, (anchor + half) % path.segments.size(), apart}.ray(), ray) &&
         here.staysInside(half))
         return Images::Rotations;
     const auto sectors = static_cast<std::size_t>(sectorCount(frame.axes));
     if (path.segments.size() % sectors != 0) return Images::All;
     const std::size_t spacing = path.segments.size() / sectors;
     const Ray other = otherThan(ray);
-    const AroundAnchor next{frame, path, (anchor + spacing) % path.segments.size()};
-    const AroundAnchor previous{frame, path,
-                                (anchor + path.segments.size() - spacing) % path.segments.size()};
+    const AroundAnchor next{frame, path, (anchor + spacing) % path.segments.size(), apart};
+    const AroundAnchor previous{
+        frame, path, (anchor + path.segments.size() - spacing) % path.segments.size(), apart};
     for (const AroundAnchor& end : {next, previous})
         if (isOn(end.ray(), other) && end.isReflected(other, half) && here.staysInside(spacing))
             return Images::None;
@@ -163,12 +177,14 @@ Images ownImagesAround(const MirrorFrame& frame, const PathShape& path, std::siz
 
 } // namespace
 
-Images ownImages(const MirrorFrame& frame, const PathShape& path) {
+Images ownImages(const MirrorFrame& frame, const PathShape& path, double apart) {
     const std::size_t anchors = path.segments.size();
+    if (liesAlong(frame.wedge, Ray::First, path) || liesAlong(frame.wedge, Ray::Last, path))
+        return Images::Rotations;
     if (!path.closed) {
         const std::size_t middle = anchors / 2;
         if (anchors % 2 == 0 || anchors < 3) return Images::All;
-        const AroundAnchor here{frame, path, middle};
+        const AroundAnchor here{frame, path, middle, apart};
         for (const Ray ray : {Ray::First, Ray::Last})
             if (isOn(here.ray(), ray) && here.isReflected(ray, middle) && here.staysInside(middle))
                 return Images::Rotations;
@@ -177,7 +193,7 @@ Images ownImages(const MirrorFrame& frame, const PathShape& path) {
     if (anchors % 2 != 0) return Images::All;
     for (std::size_t anchor = 0; anchor < anchors; ++anchor)
         for (const Ray ray : {Ray::First, Ray::Last}) {
-            const Images images = ownImagesAround(frame, path, anchor, ray);
+            const Images images = ownImagesAround(frame, path, anchor, ray, apart);
             if (images != Images::All) return images;
         }
     return Images::All;

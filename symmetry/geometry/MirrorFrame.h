@@ -64,7 +64,7 @@ void foldInto0(const MirrorFrame& frame, int sector, PathShape& path);
 
 /// Which copies a path inside sector 0 and beyond needs when it is its own image already: by
 /// reflection across one bounding ray or both, on which it has anchors. `Images::All` when it is
-/// not.
-[[nodiscard]] Images ownImages(const MirrorFrame& frame, const PathShape& path);
+/// not, to within the rounding of stored coordinates, or `apart` points if that is more.
+[[nodiscard]] Images ownImages(const MirrorFrame& frame, const PathShape& path, double apart = 0.0);
 
 } // namespace facetta

@@ -73,8 +73,10 @@ Contour imageOf(const Contour& contour, const Matrix& map) {
     for (PathSegment& segment : image.shape.segments)
         segment = transformed(segment, map);
     if (!mirrors(map)) return image;
-    const std::size_t fixed = contour.shape.closed ? 1 : 0; // it begins as before
-    reverseRun(std::span(image.shape.segments).subspan(fixed));
+    reverseRun(image.shape.segments);
+    if (contour.shape.closed) // it begins as before
+        std::rotate(image.shape.segments.begin(), image.shape.segments.end() - 1,
+                    image.shape.segments.end());
     if (contour.jointSpacing > 0)
         image.firstJoint = (contour.jointSpacing - contour.firstJoint) % contour.jointSpacing;
     return image;
@@ -95,12 +97,9 @@ void agreeInImages(const PageAxes& axes, std::vector<Contour>& contours) {
     contours = std::move(complete);
 }
 
-/// Anchors beside an axis count as lying on it and are their own images; reflected they are twice
-/// as far off.
 bool coincide(const PathSegment& a, const PathSegment& b) {
-    constexpr double kApart = 3.0 * kOnAxisDistance;
-    return distance(a.anchor, b.anchor) <= kApart && distance(a.in, b.in) <= kApart &&
-           distance(a.out, b.out) <= kApart;
+    return distance(a.anchor, b.anchor) <= kImagesApart && distance(a.in, b.in) <= kImagesApart &&
+           distance(a.out, b.out) <= kImagesApart;
 }
 
 /// Whether `path` is the image of `source` under `map`, wherever and in whichever direction it
@@ -251,9 +250,10 @@ MirroredPath Mirroring::compound(std::span<const PathShape> members, FillRule ru
     return result;
 }
 
-/// What is not to be cut.
+/// What is not to be cut. It may be what mirroring has joined, which is its own image but for the
+/// distance of anchors from the axes on which they count.
 Contour Mirroring::asDrawn(const PathShape& source) const {
-    return {.shape = source, .images = ownImages(frame_, source)};
+    return {.shape = source, .images = ownImages(frame_, source, kImagesApart)};
 }
 
 void Mirroring::takeUp(const PathShape& source) {

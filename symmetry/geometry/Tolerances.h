@@ -8,6 +8,10 @@ namespace facetta {
 /// as one: several times the spacing of 32-bit reals at 16,383 points, far below what is visible.
 constexpr double kOnAxisDistance = 0.005;
 
+/// Points. An anchor beside an axis counts as lying on it and as its own image; its reflection is
+/// twice as far off. So images of what mirroring has made lie this close, with rounding.
+constexpr double kImagesApart = 3.0 * kOnAxisDistance;
+
 /// Path positions (segment index plus parameter). Two crossings on different segments closer than
 /// this are a touch at the anchor between them.
 constexpr double kTouchParameter = 0.0001;
@@ -20,12 +24,14 @@ constexpr double kTouchDepth = 0.05;
 /// because the stored anchor is off the axis by rounding.
 constexpr double kAnchorParameter = 0.001;
 
-/// Points. A closed path that lies within this of its first anchor is a dot, which is not cut: its
-/// parts would be no larger than a few of the distances above.
-constexpr double kSmallestCut = 0.25;
+/// Points. A closed path that lies within this of its first anchor is a dot, which is not cut. Of
+/// what is cut, parts on both sides must reach farther than a touch does, with as much again left
+/// between the two where the path runs; then a part is told from a touch whatever rounding does.
+constexpr double kSmallestCut = 5.0 * kTouchDepth;
 
-/// Points. Where a sector is narrower than this nothing is cut either.
-constexpr double kSmallestSectorWidth = 0.1;
+/// Points. Where a sector is narrower than this nothing is cut either: touches of both its rays
+/// would fill it.
+constexpr double kSmallestSectorWidth = 2.0 * kTouchDepth;
 
 /// Points. Removing an anchor may move the curve by this much, invisible at any zoom.
 constexpr double kRemovalDistance = 0.01;

@@ -213,6 +213,12 @@ TEST_CASE("each island of a compound path is mirrored from its own sector, and n
          FillRule::NonZero,
          "compound: none M 0 20 L 50 20 L 50 60 Z, none M 0 -20 L 50 -60 L 50 -20 Z, "
          "none M 110 30 L 115 0 L 110 -30 L 130 -30 L 125 0 L 130 30 Z"},
+        {"images of curves run backwards and draw the same",
+         {"M 0 20 C 10 40 40 50 50 20 Z", "M 110 30 L 120 -30 L 130 30 Z"},
+         FillRule::NonZero,
+         "compound: none M 0 20 C 10 40 40 50 50 20 Z, none M 0 -20 L 50 -20 C 40 -50 10 -40 0 -20 "
+         "Z, "
+         "none M 110 30 L 115 0 L 110 -30 L 130 -30 L 125 0 L 130 30 Z"},
         {"a first member without a curve tells nothing",
          {"M 10 -300", "M 0 -400 L 0 400 L 100 400 L 100 -400 Z", "M 20 30 L 40 30 L 40 60 Z"},
          FillRule::NonZero,
@@ -297,6 +303,48 @@ TEST_CASE("mirroring a result again changes nothing, bit for bit") {
                 changed += mirror.mirror(contour.shape).unchanged ? 0 : 1;
     }
     CHECK(changed <= kTippedScales);
+}
+
+TEST_CASE("further runs never make more objects, whatever the size, the place and the axes") {
+    struct Object {
+        std::vector<PathShape> members;
+        bool compound = false;
+    };
+    constexpr int kDrawings = 1200;
+    constexpr int kRuns = 4;
+    Random random;
+    for (int i = 0; i < kDrawings; ++i) {
+        CAPTURE(i);
+        PageAxes axes = random.axes();
+        axes.origin = rounded({8.0 * axes.origin.x, 8.0 * axes.origin.y}); // up to 16,000
+        const double size = 0.01 * std::pow(random.size(), 5.0 / 3.0);     // from half a point
+        const double tiny = i % 2 == 0 ? 0.02 : 1.0;
+        Mirror mirror(axes, random.coin() ? 0.0 : random.real(0.0, size / 5.0));
+        std::vector<Object> objects(1);
+        objects.front().compound = i % 4 == 0 && axes.axisCount <= 12;
+        for (int member = 0; member == 0 || (objects.front().compound && member < 3); ++member)
+            objects.front().members.push_back(random.path(axes, random.coin(), size * tiny));
+
+        std::size_t before = 0;
+        for (int run = 0; run < kRuns; ++run) {
+            std::vector<Object> next;
+            std::size_t count = 0;
+            for (const Object& object : objects) {
+                const MirroredPath result = object.compound ? mirror.mirrorCompound(object.members)
+                                                            : mirror.mirror(object.members.front());
+                for (const Contour& contour : result.contours)
+                    count += 1 + imageTransforms(axes, contour.images).size();
+                if (result.compound)
+                    next.push_back({shapesOf(result), true});
+                else
+                    for (const Contour& contour : result.contours)
+                        next.push_back({{contour.shape}});
+            }
+            if (run > 0) REQUIRE(count <= before);
+            before = count;
+            objects = std::move(next);
+        }
+    }
 }
 
 TEST_CASE("the rosette winds around every point as the source does around the folded one") {
