@@ -4,12 +4,16 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 
 namespace easel {
 
 void* allocateBlock(Ledger& ledger, std::size_t size) {
-    void* const block = std::malloc(std::max<std::size_t>(size, 1));
+    const std::size_t bytes = std::max<std::size_t>(size, 1);
+    void* const block = std::malloc(bytes);
     if (block == nullptr) throw ai::Error{kOutOfMemoryErr};
+    constexpr int kUnlikely = 0xA5; // what a plug-in forgets to set is seen
+    std::memset(block, kUnlikely, bytes);
     ledger.lend(Lent::Block, block);
     return block;
 }
