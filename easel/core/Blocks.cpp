@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <cstring>
 
 namespace easel {
 
@@ -14,6 +15,8 @@ void* allocateBlock(Ledger& ledger, std::size_t size) {
     if (block == nullptr) throw ai::Error{kOutOfMemoryErr};
     constexpr int kUnlikely = 0xA5; // what a plug-in forgets to set is seen
     std::memset(block, kUnlikely, bytes);
+    // Nobody may count on what is in a new block; that it is always the same makes mistakes repeat.
+    std::memset(block, 0xCD, size);
     ledger.lend(Lent::Block, block);
     return block;
 }
