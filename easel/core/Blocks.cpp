@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
-#include <cstring>
 
 namespace easel {
 
@@ -13,10 +12,8 @@ void* allocateBlock(Ledger& ledger, std::size_t size) {
     const std::size_t bytes = std::max<std::size_t>(size, 1);
     void* const block = std::malloc(bytes);
     if (block == nullptr) throw ai::Error{kOutOfMemoryErr};
-    constexpr int kUnlikely = 0xA5; // what a plug-in forgets to set is seen
-    std::memset(block, kUnlikely, bytes);
     // Nobody may count on what is in a new block; that it is always the same makes mistakes repeat.
-    std::memset(block, 0xCD, size);
+    std::memset(block, 0xCD, bytes);
     ledger.lend(Lent::Block, block);
     return block;
 }
