@@ -1,5 +1,6 @@
 #include "ui/PreferencesDialog.h"
 
+#include "tool/CurrentView.h"
 #include "ui/ModalSession.h"
 
 namespace facetta {
@@ -36,7 +37,8 @@ void store(ModalSession& session) {
     for (const Row& row : kRows)
         preferences.*row.setting = session.adm.item->GetBooleanValue(session.item(row.item)) != 0;
     try {
-        redrawOverlay(session.tool.view);
+        // The host may have closed the drawing, or changed to another, under the dialog.
+        if (isCurrent(session.tool.view)) redrawOverlay(session.tool.view);
     } catch (...) {
         preferences = before;
         throw;
