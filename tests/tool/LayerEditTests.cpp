@@ -200,6 +200,24 @@ TEST_CASE("undo and redo bring back what was pending at the step") {
     CHECK(session.guideAngles() == std::vector{0, 60, 120});
 }
 
+TEST_CASE("an application that can no longer be redone uses up no axes") {
+    Drawing session(/*selected*/ true);
+    const auto draw = [&] {
+        session.host.edit("Draw", [](easel::Document& document) {
+            drawLine(document, {30, -30}, {40, -40}, /*selected*/ false);
+        });
+    };
+    draw();
+    session.click(session.onButton(DialogItem::ApplyToSelection));
+    CHECK(session.host.undo());
+    CHECK(session.host.undo());
+    draw(); // from here on there is nothing to redo
+    draw(); // as many steps as when the axes were applied
+    CHECK(session.host.undo());
+    CHECK(session.host.redo());
+    CHECK(session.tool().activity == Activity::AxesPending);
+}
+
 TEST_CASE("axes that the selection was mirrored with are offered again when that is undone") {
     Drawing session(/*selected*/ true);
     const SymmetryAxes pending = session.axes();

@@ -43,6 +43,19 @@ TEST_CASE("keys held in a drag set the number of axes; of several digits the low
     }
 }
 
+TEST_CASE("a count key before the mouse moves changes the count alone") {
+    ToolInHand session;
+    session.click({200, -200});
+    session.press(300, -206); // a line, from beside it
+    {
+        const KeysHeld held({digit(4)});
+        session.drag(300, -206);
+    }
+    CHECK(session.axes().axisCount == 4);
+    CHECK(session.axes().angle == 0.0);
+    session.release(300, -206);
+}
+
 TEST_CASE("U suppresses the host's smart guides once a press, for one drag, where it counts") {
     ToolInHand session;
     session.host.cursorSnap.enabled = true;

@@ -56,6 +56,18 @@ TEST_CASE("the diameter keys change the count within 1 to 72") {
     CHECK(thePlugin->preferences.count == 72);
 }
 
+TEST_CASE("a press takes the tool in hand where the host has not told of it") {
+    ToolInHand session;
+    session.host.selectTool(nullptr);
+    AIToolMessage message{};
+    message.tool = thePlugin->toolHandle;
+    message.cursor = {200, -200};
+    CHECK(session.send("AI Tool", "AI Mouse Down", message) == kNoErr);
+    CHECK(session.send("AI Tool", "AI Mouse Up", message) == kNoErr);
+    CHECK(thePlugin->tool.toolSelected);
+    CHECK(session.axes().provisional);
+}
+
 TEST_CASE("messages to another tool are none of ours") {
     ToolInHand session;
     session.host.track({.at = {10, -10}});
