@@ -13,7 +13,7 @@ constexpr UINT kFirstRepeat = 400; ///< milliseconds, as long as Windows' own ar
 constexpr UINT kNextRepeat = 50;
 constexpr UINT kFocusAgain = WM_APP + 1;
 
-constexpr double kSideMargin = 5;
+constexpr double kSideMargin = 3;
 constexpr double kArrowWidth = 16;
 
 bool held(int key) { return GetKeyState(key) < 0; }
