@@ -10,8 +10,8 @@ namespace facetta {
 /// layers. Copies may lie there, and must be reached to be deleted or released. Throws `ai::Error`.
 class AllChangesAllowed {
 public:
-    AllChangesAllowed() { ai::check(suites.appContext->AllowAllChanges(true, &before_)); }
-    ~AllChangesAllowed() { suites.appContext->AllowAllChanges(before_, &ignored_); }
+    AllChangesAllowed() { ai::check(ai::suites.appContext->AllowAllChanges(true, &before_)); }
+    ~AllChangesAllowed() { ai::suites.appContext->AllowAllChanges(before_, &ignored_); }
     AllChangesAllowed(const AllChangesAllowed&) = delete;
     AllChangesAllowed& operator=(const AllChangesAllowed&) = delete;
 

@@ -12,7 +12,7 @@ namespace {
 
 ai::ArtSet newSet() {
     ai::ArtSet set;
-    ai::checkLent(suites.artSet->NewArtSet(set.put()), set);
+    ai::checkLent(ai::suites.artSet->NewArtSet(set.put()), set);
     return set;
 }
 
@@ -20,12 +20,12 @@ ai::ArtSet newSet() {
 
 std::vector<AIArtHandle> membersOf(AIArtSet set) {
     std::size_t count = 0;
-    ai::check(suites.artSet->CountArtSet(set, &count));
+    ai::check(ai::suites.artSet->CountArtSet(set, &count));
     std::vector<AIArtHandle> members;
     members.reserve(count);
     for (std::size_t i = 0; i < count; ++i) {
         AIArtHandle art = nullptr;
-        ai::check(suites.artSet->IndexArtSet(set, i, &art));
+        ai::check(ai::suites.artSet->IndexArtSet(set, i, &art));
         if (art != nullptr) members.push_back(art); // a set may hold empty places
     }
     return members;
@@ -33,20 +33,20 @@ std::vector<AIArtHandle> membersOf(AIArtSet set) {
 
 std::vector<AIArtHandle> selectedArt() {
     const ai::ArtSet set = newSet();
-    ai::check(suites.artSet->SelectedArtSet(set.get()));
+    ai::check(ai::suites.artSet->SelectedArtSet(set.get()));
     return membersOf(set.get());
 }
 
 std::vector<AIArtHandle> freePaths() {
     const ai::ArtSet set = newSet();
     AIArtSpec wanted{kPathArt, kArtLocked | kArtHidden, 0};
-    ai::check(suites.artSet->MatchingArtSet(&wanted, 1, set.get()));
+    ai::check(ai::suites.artSet->MatchingArtSet(&wanted, 1, set.get()));
     return membersOf(set.get());
 }
 
 std::vector<AIArtHandle> artOnLayer(AILayerHandle layer) {
     const ai::ArtSet set = newSet();
-    ai::check(suites.artSet->LayerArtSet(layer, set.get()));
+    ai::check(ai::suites.artSet->LayerArtSet(layer, set.get()));
     return membersOf(set.get());
 }
 

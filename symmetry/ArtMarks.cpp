@@ -12,16 +12,16 @@ namespace facetta {
 
 ai::Dictionary dictionaryOf(AIArtHandle art) {
     ai::Dictionary entries;
-    if (art != nullptr) ai::checkLent(suites.art->GetDictionary(art, entries.put()), entries);
+    if (art != nullptr) ai::checkLent(ai::suites.art->GetDictionary(art, entries.put()), entries);
     return entries;
 }
 
 MarkKeys markKeys() { return {MirrorTag::key(), GuideTag::key()}; }
 
 ai::int32 mirrorMarkIn(AIDictionaryRef entries, AIDictKey key) {
-    if (!suites.dictionary->IsKnown(entries, key)) return MirrorTag::kSource;
+    if (!ai::suites.dictionary->IsKnown(entries, key)) return MirrorTag::kSource;
     ai::int32 value = MirrorTag::kCopy;
-    const bool readable = suites.dictionary->GetIntegerEntry(entries, key, &value) == kNoErr;
+    const bool readable = ai::suites.dictionary->GetIntegerEntry(entries, key, &value) == kNoErr;
     return readable ? std::clamp(value, MirrorTag::kCopy, MirrorTag::kKept) : MirrorTag::kCopy;
 }
 
@@ -30,8 +30,8 @@ ArtMarks marksOf(AIArtHandle art, const MarkKeys& keys) {
     if (!entries) return {};
     const ai::int32 mirror = mirrorMarkIn(entries.get(), keys.mirror);
     if (mirror == MirrorTag::kCopy) return {.mirror = mirror, .entries = true};
-    if (suites.dictionary->Size(entries.get()) == 0) return {}; // as with nearly all art
-    const bool guide = suites.dictionary->IsKnown(entries.get(), keys.guide) != 0;
+    if (ai::suites.dictionary->Size(entries.get()) == 0) return {}; // as with nearly all art
+    const bool guide = ai::suites.dictionary->IsKnown(entries.get(), keys.guide) != 0;
     return {.mirror = mirror, .guide = guide, .entries = true};
 }
 

@@ -21,22 +21,23 @@ AIRealMatrix narrow(const Matrix& matrix) {
     // Six numbers computed in 64 bits and rounded once: composing in the host's 32-bit steps would
     // lose about a hundredth of a point around a far origin.
     AIRealMatrix stored{};
-    suites.realMath->AIRealMatrixSet(&stored, narrow(matrix.a), narrow(matrix.b), narrow(matrix.c),
-                                     narrow(matrix.d), narrow(matrix.tx), narrow(matrix.ty));
+    ai::suites.realMath->AIRealMatrixSet(&stored, narrow(matrix.a), narrow(matrix.b),
+                                         narrow(matrix.c), narrow(matrix.d), narrow(matrix.tx),
+                                         narrow(matrix.ty));
     return stored;
 }
 
 Point soften(Point hard) {
     AIRealPoint from = narrow(hard);
     AIRealPoint to{};
-    ai::check(suites.hardSoft->AIRealPointSoften(&from, &to));
+    ai::check(ai::suites.hardSoft->AIRealPointSoften(&from, &to));
     return widen(to);
 }
 
 Point harden(Point soft) {
     AIRealPoint from = narrow(soft);
     AIRealPoint to{};
-    ai::check(suites.hardSoft->AIRealPointHarden(&from, &to));
+    ai::check(ai::suites.hardSoft->AIRealPointHarden(&from, &to));
     return widen(to);
 }
 

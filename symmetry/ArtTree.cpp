@@ -14,57 +14,59 @@
 namespace facetta {
 namespace {
 
-/// A plug-in group does not list its edit and result art as children.
 std::vector<AIArtHandle> membersOf(AIArtHandle art) {
     const ai::int16 type = typeOf(art);
     if (type == kGroupArt || type == kCompoundPathArt) return childrenOf(art);
-    if (type != kPluginArt) return {};
-    AIArtHandle edit = nullptr;
-    AIArtHandle result = nullptr;
-    ai::check(suites.pluginGroup->GetPluginArtEditArt(art, &edit));
-    ai::check(suites.pluginGroup->GetPluginArtResultArt(art, &result));
-    std::vector<AIArtHandle> parts{edit, result};
-    std::erase(parts, nullptr);
-    return parts;
+    return type == kPluginArt ? partsOfPluginGroup(art) : std::vector<AIArtHandle>{};
 }
 
 } // namespace
 
 AIArtHandle parentOf(AIArtHandle art) {
     AIArtHandle parent = nullptr;
-    ai::check(suites.art->GetArtParent(art, &parent));
+    ai::check(ai::suites.art->GetArtParent(art, &parent));
     return parent;
 }
 
 ai::int16 typeOf(AIArtHandle art) {
     ai::int16 type = kUnknownArt;
-    ai::check(suites.art->GetArtType(art, &type));
+    ai::check(ai::suites.art->GetArtType(art, &type));
     return type;
 }
 
 ai::int32 attributesOf(AIArtHandle art, ai::int32 mask) {
     ai::int32 attributes = 0;
-    ai::check(suites.art->GetArtUserAttr(art, mask, &attributes));
+    ai::check(ai::suites.art->GetArtUserAttr(art, mask, &attributes));
     return attributes;
 }
 
 std::uint64_t stampOfArt(AIArtHandle art) {
     std::size_t stamp = 0;
-    ai::check(suites.art->GetArtTimeStamp(art, &stamp));
+    ai::check(ai::suites.art->GetArtTimeStamp(art, &stamp));
     return stamp;
 }
 
 std::vector<AIArtHandle> childrenOf(AIArtHandle art) {
     std::vector<AIArtHandle> children;
     AIArtHandle child = nullptr;
-    ai::check(suites.art->GetArtFirstChild(art, &child));
+    ai::check(ai::suites.art->GetArtFirstChild(art, &child));
     while (child != nullptr) {
         children.push_back(child);
         AIArtHandle behind = nullptr;
-        ai::check(suites.art->GetArtSibling(child, &behind));
+        ai::check(ai::suites.art->GetArtSibling(child, &behind));
         child = behind;
     }
     return children;
+}
+
+std::vector<AIArtHandle> partsOfPluginGroup(AIArtHandle group) {
+    AIArtHandle edit = nullptr;
+    AIArtHandle result = nullptr;
+    ai::check(ai::suites.pluginGroup->GetPluginArtEditArt(group, &edit));
+    ai::check(ai::suites.pluginGroup->GetPluginArtResultArt(group, &result));
+    std::vector<AIArtHandle> parts{edit, result};
+    std::erase(parts, nullptr);
+    return parts;
 }
 
 std::vector<AIArtHandle> artInside(AIArtHandle container) {
@@ -89,13 +91,13 @@ std::vector<AIArtHandle> pathsInside(AIArtHandle compound) {
 
 bool isLayerGroup(AIArtHandle group) {
     AIBoolean belongsToLayer = false;
-    ai::check(suites.art->IsArtLayerGroup(group, &belongsToLayer));
+    ai::check(ai::suites.art->IsArtLayerGroup(group, &belongsToLayer));
     return belongsToLayer != 0;
 }
 
 bool isClipGroup(AIArtHandle group) {
     AIBoolean clipped = false;
-    ai::check(suites.group->GetGroupClipped(group, &clipped));
+    ai::check(ai::suites.group->GetGroupClipped(group, &clipped));
     if (!clipped) return false;
     const std::vector<AIArtHandle> members = childrenOf(group);
     return std::ranges::any_of(
@@ -104,7 +106,7 @@ bool isClipGroup(AIArtHandle group) {
 
 bool isGuide(AIArtHandle path) {
     AIBoolean guide = false;
-    ai::check(suites.path->GetPathGuide(path, &guide));
+    ai::check(ai::suites.path->GetPathGuide(path, &guide));
     return guide != 0;
 }
 
@@ -112,11 +114,11 @@ bool isLayerBlocked(AILayerHandle layer) {
     while (layer != nullptr) {
         AIBoolean visible = false;
         AIBoolean editable = false;
-        ai::check(suites.layer->GetLayerVisible(layer, &visible));
-        ai::check(suites.layer->GetLayerEditable(layer, &editable));
+        ai::check(ai::suites.layer->GetLayerVisible(layer, &visible));
+        ai::check(ai::suites.layer->GetLayerEditable(layer, &editable));
         if (!visible || !editable) return true;
         AILayerHandle parent = nullptr;
-        ai::check(suites.layer->GetLayerParent(layer, &parent));
+        ai::check(ai::suites.layer->GetLayerParent(layer, &parent));
         layer = parent;
     }
     return false;

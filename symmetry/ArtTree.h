@@ -25,6 +25,10 @@ namespace facetta {
 /// Front-most first; empty for what is no container.
 [[nodiscard]] std::vector<AIArtHandle> childrenOf(AIArtHandle art);
 
+/// The edit and the result art of a plug-in group, as far as there are any. They are not among its
+/// children.
+[[nodiscard]] std::vector<AIArtHandle> partsOfPluginGroup(AIArtHandle group);
+
 /// All that lies inside a container, at any depth, in paint order, a container before what it
 /// contains. Of a plug-in group, what its edit and result art contain.
 [[nodiscard]] std::vector<AIArtHandle> artInside(AIArtHandle container);

@@ -49,7 +49,7 @@ std::optional<LineSegment> clipped(const LineSegment& line, const AIRealRect& to
 
 std::vector<LineSegment> guidesAlong(const PageAxes& axes) {
     AIRealRect canvas{};
-    ai::check(suites.document->GetDocumentMaxArtboardBounds(&canvas));
+    ai::check(ai::suites.document->GetDocumentMaxArtboardBounds(&canvas));
     std::vector<LineSegment> guides;
     double angle = axes.angle;
     for (int i = 0; i < axes.axisCount; ++i, angle += sectorAngle(axes)) {
@@ -62,21 +62,21 @@ std::vector<LineSegment> guidesAlong(const PageAxes& axes) {
 
 void addGuide(AIArtHandle group, const LineSegment& line) {
     AIArtHandle path = nullptr;
-    ai::check(suites.art->NewArt(kPathArt, kPlaceInsideOnTop, group, &path));
+    ai::check(ai::suites.art->NewArt(kPathArt, kPlaceInsideOnTop, group, &path));
     std::array<AIPathSegment, kGuideSegments> segments{};
     const std::array<AIRealPoint, kGuideSegments> ends{narrow(line.start), narrow(line.end)};
     for (std::size_t i = 0; i < segments.size(); ++i)
         segments[i] = {.p = ends[i], .in = ends[i], .out = ends[i], .corner = 1};
-    ai::check(suites.path->SetPathSegmentCount(path, kGuideSegments));
-    ai::check(suites.path->SetPathSegments(path, 0, kGuideSegments, segments.data()));
-    ai::check(suites.path->SetPathGuide(path, 1));
+    ai::check(ai::suites.path->SetPathSegmentCount(path, kGuideSegments));
+    ai::check(ai::suites.path->SetPathSegments(path, 0, kGuideSegments, segments.data()));
+    ai::check(ai::suites.path->SetPathGuide(path, 1));
     GuideTag::set(path);
 }
 
 bool isStillOurs(AIArtHandle art) {
     if (typeOf(art) != kPathArt || !isGuide(art)) return false;
     ai::int16 count = 0;
-    ai::check(suites.path->GetPathSegmentCount(art, &count));
+    ai::check(ai::suites.path->GetPathSegmentCount(art, &count));
     return count == kGuideSegments;
 }
 
@@ -108,8 +108,8 @@ bool removeAxisGuides(AILayerHandle layer, bool untagOnly) {
             GuideTag::clear(guide);
             continue;
         }
-        ai::check(suites.art->SetArtUserAttr(guide, kArtLocked | kArtHidden, 0));
-        ai::check(suites.art->DisposeArt(guide));
+        ai::check(ai::suites.art->SetArtUserAttr(guide, kArtLocked | kArtHidden, 0));
+        ai::check(ai::suites.art->DisposeArt(guide));
     }
     return true;
 }

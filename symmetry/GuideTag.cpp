@@ -7,24 +7,24 @@
 
 namespace facetta::GuideTag {
 
-AIDictKey key() { return suites.dictionary->Key("FTAxisGuide"); }
+AIDictKey key() { return ai::suites.dictionary->Key("FTAxisGuide"); }
 
 void set(AIArtHandle art) {
     const ai::Dictionary entries = dictionaryOf(art);
-    if (!entries || suites.dictionary->IsKnown(entries.get(), MirrorTag::key())) return;
-    ai::check(suites.dictionary->SetBooleanEntry(entries.get(), key(), true));
+    if (!entries || ai::suites.dictionary->IsKnown(entries.get(), MirrorTag::key())) return;
+    ai::check(ai::suites.dictionary->SetBooleanEntry(entries.get(), key(), true));
 }
 
 bool has(AIArtHandle art) {
     const ai::Dictionary entries = dictionaryOf(art);
-    return entries && suites.dictionary->IsKnown(entries.get(), key());
+    return entries && ai::suites.dictionary->IsKnown(entries.get(), key());
 }
 
 void clear(AIArtHandle art) {
     const ai::Dictionary entries = dictionaryOf(art);
     const AIDictKey mark = key();
-    if (entries && suites.dictionary->IsKnown(entries.get(), mark))
-        ai::check(suites.dictionary->DeleteEntry(entries.get(), mark));
+    if (entries && ai::suites.dictionary->IsKnown(entries.get(), mark))
+        ai::check(ai::suites.dictionary->DeleteEntry(entries.get(), mark));
 }
 
 std::vector<AIArtHandle> marksInside(AIArtHandle container) {

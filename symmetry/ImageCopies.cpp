@@ -9,6 +9,7 @@
 #include "symmetry/GuideTag.h"
 #include "symmetry/MirrorTag.h"
 #include "symmetry/PathArt.h"
+#include "symmetry/Unlocked.h"
 
 namespace facetta {
 namespace {
@@ -49,7 +50,8 @@ std::vector<AIArtHandle> mapAll(std::span<const AIArtHandle> set, const Matrix& 
 } // namespace
 
 void transformArt(AIArtHandle art, AIRealMatrix& matrix, Transform parts) {
-    ai::check(suites.transformArt->TransformArt(art, &matrix, kSameStrokeWeight, optionsOf(parts)));
+    ai::check(
+        ai::suites.transformArt->TransformArt(art, &matrix, kSameStrokeWeight, optionsOf(parts)));
 }
 
 bool holdsGuides(AIArtHandle art) { return !GuideTag::marksInside(art).empty(); }
@@ -65,6 +67,7 @@ CopySource copySource(AIArtHandle art, const MarkKeys& keys) {
     return {.art = art,
             .marks = marksOf(art, keys),
             .holdsGuides = holdsGuides(art),
+            .holdsLocked = holdsLocked(art),
             .selected =
                 selectedOf(attributesOf(art, kArtSelected | kArtFullySelected), type == kPathArt),
             .parts = type == kPluginArt ? Transform::AndTellPlugins : Transform::Whole};
@@ -72,8 +75,13 @@ CopySource copySource(AIArtHandle art, const MarkKeys& keys) {
 
 AIArtHandle CopyMaker::make(const CopySource& source, AIRealMatrix& matrix, AIArtHandle behind) {
     AIArtHandle copy = nullptr;
-    ai::check(suites.art->DuplicateArt(source.art, kPlaceBelow, behind, &copy));
-    transformArt(copy, matrix, source.parts);
+    ai::check(ai::suites.art->DuplicateArt(source.art, kPlaceBelow, behind, &copy));
+    if (source.holdsLocked) {
+        const Unlocked members{artInside(copy)};
+        transformArt(copy, matrix, source.parts);
+    } else {
+        transformArt(copy, matrix, source.parts);
+    }
     if (source.holdsGuides)
         for (const AIArtHandle guide : GuideTag::marksInside(copy))
             GuideTag::clear(guide);
@@ -90,13 +98,14 @@ AIArtHandle CopyMaker::make(const CopySource& source, AIRealMatrix& matrix, AIAr
 /// because the host changes no locked art.
 void CopyMaker::markAndLock(AIArtHandle copy, const CopySource& source) const {
     const ai::Dictionary entries = dictionaryOf(copy);
-    if (source.marks.guide && suites.dictionary->IsKnown(entries.get(), keys_.guide))
-        ai::check(suites.dictionary->DeleteEntry(entries.get(), keys_.guide));
-    ai::check(suites.dictionary->SetIntegerEntry(entries.get(), keys_.mirror, MirrorTag::kCopy));
+    if (source.marks.guide && ai::suites.dictionary->IsKnown(entries.get(), keys_.guide))
+        ai::check(ai::suites.dictionary->DeleteEntry(entries.get(), keys_.guide));
+    ai::check(
+        ai::suites.dictionary->SetIntegerEntry(entries.get(), keys_.mirror, MirrorTag::kCopy));
     // In two calls: in which order a host sets the attributes of one call is its affair.
     if (source.selected != Selected::Nothing)
-        ai::check(suites.art->SetArtUserAttr(copy, kArtSelected, 0));
-    ai::check(suites.art->SetArtUserAttr(copy, kArtLocked, kArtLocked));
+        ai::check(ai::suites.art->SetArtUserAttr(copy, kArtSelected, 0));
+    ai::check(ai::suites.art->SetArtUserAttr(copy, kArtLocked, kArtLocked));
 }
 
 /// Whether a duplicate is selected with its source is the host's affair. Of paths there are many:
@@ -106,22 +115,22 @@ void CopyMaker::select(AIArtHandle copy, const CopySource& source) {
     case Selected::Nothing:
         return;
     case Selected::PartOfPath:
-        ai::check(suites.art->SetArtUserAttr(copy, kArtSelected, 0));
+        ai::check(ai::suites.art->SetArtUserAttr(copy, kArtSelected, 0));
         return selectAnchors(copy, readPath(source.art, kArtSelected));
     case Selected::Path:
         if (!pathsStaySelected_) pathsStaySelected_ = attributesOf(copy, kArtFullySelected) != 0;
         if (*pathsStaySelected_) return;
         [[fallthrough]];
     case Selected::Object:
-        ai::check(suites.art->SetArtUserAttr(copy, kArtSelected, kArtSelected));
+        ai::check(ai::suites.art->SetArtUserAttr(copy, kArtSelected, kArtSelected));
     }
 }
 
 void CopyMaker::shedMarks(AIArtHandle copy) const {
     const ai::Dictionary entries = dictionaryOf(copy);
     for (const AIDictKey key : {keys_.mirror, keys_.guide})
-        if (suites.dictionary->IsKnown(entries.get(), key))
-            ai::check(suites.dictionary->DeleteEntry(entries.get(), key));
+        if (ai::suites.dictionary->IsKnown(entries.get(), key))
+            ai::check(ai::suites.dictionary->DeleteEntry(entries.get(), key));
 }
 
 std::vector<AIArtHandle> reflectCopies(std::span<const AIArtHandle> set, const PageAxes& axes,

@@ -49,6 +49,7 @@ struct CopySource {
     AIArtHandle art = nullptr;
     ArtMarks marks;
     bool holdsGuides = false; ///< Something inside it carries the mark of a guide.
+    bool holdsLocked = false; ///< Something inside it is locked.
     Selected selected = Selected::Nothing;
     Transform parts = Transform::Whole;
 

@@ -12,6 +12,7 @@
 #include "symmetry/ImageCopies.h"
 #include "symmetry/LayerAxesStore.h"
 #include "symmetry/LiveLayers.h"
+#include "symmetry/Unlocked.h"
 #include "symmetry/WorkSet.h"
 
 #include <vector>
@@ -27,22 +28,15 @@ std::vector<AIArtHandle> artOf(const std::vector<Unit>& units) {
     return art;
 }
 
-/// The host moves nothing that is locked, even where it lets changes into locked groups through.
-void moveLocked(AIArtHandle art, AIRealMatrix& matrix, Transform parts) {
-    ai::check(suites.art->SetArtUserAttr(art, kArtLocked, 0));
-    transformArt(art, matrix, parts);
-    ai::check(suites.art->SetArtUserAttr(art, kArtLocked, kArtLocked));
-}
-
 } // namespace
 
 ai::ArtSet collectLayerArt() {
     ai::ArtSet set;
-    ai::checkLent(suites.artSet->NewArtSet(set.put()), set);
+    ai::checkLent(ai::suites.artSet->NewArtSet(set.put()), set);
     const AILayerHandle layer = topLevelLayer(nullptr);
     if (layer == nullptr) return set;
     const auto add = [&](AIArtHandle art) {
-        ai::check(suites.artSet->AddArtToArtSet(set.get(), art));
+        ai::check(ai::suites.artSet->AddArtToArtSet(set.get(), art));
     };
     const LayerContents contents = contentsOfLayer(layer);
     for (const AIArtHandle art : artOf(contents.sources))
@@ -60,10 +54,12 @@ void moveArt(const ai::ArtSet& art, const Matrix& motion) {
     for (const AIArtHandle each : membersOf(art.get())) {
         const Transform parts =
             typeOf(each) == kPluginArt ? Transform::AndTellPlugins : Transform::Whole;
-        if (attributesOf(each, kArtLocked) != 0)
-            moveLocked(each, matrix, parts);
-        else
-            transformArt(each, matrix, parts);
+        // The host moves nothing that is locked, even where it lets changes into locked groups
+        // through.
+        std::vector<AIArtHandle> locked = artInside(each);
+        locked.insert(locked.begin(), each);
+        const Unlocked unlocked{locked};
+        transformArt(each, matrix, parts);
     }
 }
 
@@ -71,7 +67,7 @@ void changeActiveSector(const MirrorEnvironment& environment, int picked) {
     const AILayerHandle layer = topLevelLayer(nullptr);
     if (layer == nullptr) return;
     LayerAxesStore::write(environment.currentAxes);
-    const std::vector<AIArtHandle> art = artOf(unitsOfLayer(layer));
+    const std::vector<AIArtHandle> art = artOf(deleteCopiesAndListSources(layer));
     const PageAxes axes = pageAxes(environment.currentAxes);
     int steps = sectorCount(axes) - picked;
     if (steps % 2 != 0) {

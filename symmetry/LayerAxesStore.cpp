@@ -32,7 +32,7 @@ constexpr const char* kStamp = "ts";
 
 constexpr ai::int32 kFormatVersion = 1;
 
-AIDictKey keyOf(const char* name) { return suites.dictionary->Key(name); }
+AIDictKey keyOf(const char* name) { return ai::suites.dictionary->Key(name); }
 
 AILayerHandle layerOrCurrent(AILayerHandle layer) {
     return layer != nullptr ? layer : currentLayer();
@@ -45,64 +45,64 @@ ai::Dictionary groupArtDictionary(AILayerHandle layer) { return dictionaryOf(gro
 /// getters, whose slots differ between generations of the host.
 ai::Dictionary axesEntryIn(const ai::Dictionary& entries) {
     ai::Dictionary axes;
-    if (!entries || !suites.dictionary->IsKnown(entries.get(), keyOf(key::kAxes))) return axes;
+    if (!entries || !ai::suites.dictionary->IsKnown(entries.get(), keyOf(key::kAxes))) return axes;
     AIDictionaryRef found = nullptr;
-    const AIErr error =
-        suites.entry->ToDict(suites.dictionary->Get(entries.get(), keyOf(key::kAxes)), &found);
+    const AIErr error = ai::suites.entry->ToDict(
+        ai::suites.dictionary->Get(entries.get(), keyOf(key::kAxes)), &found);
     return error == kNoErr ? ai::Dictionary{found} : ai::Dictionary{};
 }
 
 double readReal(const ai::Dictionary& axes, const char* name) {
-    if (!suites.dictionary->IsKnown(axes.get(), keyOf(name))) return 0.0;
+    if (!ai::suites.dictionary->IsKnown(axes.get(), keyOf(name))) return 0.0;
     const char* text = nullptr;
     const AIErr error =
-        suites.entry->ToString(suites.dictionary->Get(axes.get(), keyOf(name)), &text);
+        ai::suites.entry->ToString(ai::suites.dictionary->Get(axes.get(), keyOf(name)), &text);
     return error == kNoErr && text != nullptr ? parseReal(text) : 0.0;
 }
 
 ai::int32 readInteger(const ai::Dictionary& axes, const char* name, ai::int32 otherwise) {
     ai::int32 value = otherwise;
-    const AIErr error = suites.dictionary->GetIntegerEntry(axes.get(), keyOf(name), &value);
+    const AIErr error = ai::suites.dictionary->GetIntegerEntry(axes.get(), keyOf(name), &value);
     return error == kNoErr ? value : otherwise;
 }
 
 bool readBoolean(const ai::Dictionary& axes, const char* name, bool otherwise) {
     AIBoolean value = otherwise;
-    const AIErr error = suites.dictionary->GetBooleanEntry(axes.get(), keyOf(name), &value);
+    const AIErr error = ai::suites.dictionary->GetBooleanEntry(axes.get(), keyOf(name), &value);
     return error == kNoErr ? value != 0 : otherwise;
 }
 
 void writeReal(const ai::Dictionary& axes, const char* name, double value) {
-    ai::check(suites.dictionary->Set(axes.get(), keyOf(name),
-                                     suites.entry->FromString(realText(value).c_str())));
+    ai::check(ai::suites.dictionary->Set(axes.get(), keyOf(name),
+                                         ai::suites.entry->FromString(realText(value).c_str())));
 }
 
 void writeInteger(const ai::Dictionary& axes, const char* name, ai::int32 value) {
-    ai::check(suites.dictionary->SetIntegerEntry(axes.get(), keyOf(name), value));
+    ai::check(ai::suites.dictionary->SetIntegerEntry(axes.get(), keyOf(name), value));
 }
 
 void storeAxesEntry(const ai::Dictionary& entries, const ai::Dictionary& axes) {
-    ai::check(suites.dictionary->Set(entries.get(), keyOf(key::kAxes),
-                                     suites.entry->FromDict(axes.get())));
+    ai::check(ai::suites.dictionary->Set(entries.get(), keyOf(key::kAxes),
+                                         ai::suites.entry->FromDict(axes.get())));
 }
 
 void deleteAxesEntry(const ai::Dictionary& entries) {
-    if (entries && suites.dictionary->IsKnown(entries.get(), keyOf(key::kAxes)))
-        ai::check(suites.dictionary->DeleteEntry(entries.get(), keyOf(key::kAxes)));
+    if (entries && ai::suites.dictionary->IsKnown(entries.get(), keyOf(key::kAxes)))
+        ai::check(ai::suites.dictionary->DeleteEntry(entries.get(), keyOf(key::kAxes)));
 }
 
 /// Turns the copies on `layer` into ordinary art.
 void releaseCopies(AILayerHandle layer) {
     const AllChangesAllowed evenInLockedGroups;
     for (const AIArtHandle art : artOnLayer(layer))
-        if (MirrorTag::clear(art)) ai::check(suites.art->SetArtUserAttr(art, kArtLocked, 0));
+        if (MirrorTag::clear(art)) ai::check(ai::suites.art->SetArtUserAttr(art, kArtLocked, 0));
 }
 
 } // namespace
 
 AILayerHandle currentLayer() {
     AILayerHandle layer = nullptr;
-    const AIErr error = suites.layer->GetCurrentLayer(&layer);
+    const AIErr error = ai::suites.layer->GetCurrentLayer(&layer);
     if (error == kNoDocumentErr) return nullptr; // no document is a missing layer, not a failure
     ai::check(error);
     return layer;
@@ -113,7 +113,7 @@ AILayerHandle topLevelLayer(AILayerHandle layer) {
     for (AILayerHandle parent = top; parent != nullptr;) {
         top = parent;
         parent = nullptr;
-        ai::check(suites.layer->GetLayerParent(top, &parent));
+        ai::check(ai::suites.layer->GetLayerParent(top, &parent));
     }
     return top;
 }
@@ -121,7 +121,7 @@ AILayerHandle topLevelLayer(AILayerHandle layer) {
 AIArtHandle groupArtOf(AILayerHandle layer) {
     const AILayerHandle existing = layerOrCurrent(layer);
     AIArtHandle group = nullptr;
-    if (existing != nullptr) ai::check(suites.art->GetFirstArtOfLayer(existing, &group));
+    if (existing != nullptr) ai::check(ai::suites.art->GetFirstArtOfLayer(existing, &group));
     return group;
 }
 
@@ -143,13 +143,13 @@ void LayerAxesStore::write(const SymmetryAxes& axes) {
     const ai::Dictionary entries = groupArtDictionary(topLevelLayer(nullptr));
     if (!entries) return;
     ai::Dictionary entry;
-    ai::checkLent(suites.dictionary->CreateDictionary(entry.put()), entry);
+    ai::checkLent(ai::suites.dictionary->CreateDictionary(entry.put()), entry);
     writeReal(entry, key::kOriginX, axes.originX);
     writeReal(entry, key::kOriginY, axes.originY);
     writeReal(entry, key::kAngle, axes.angle);
     writeInteger(entry, key::kAxisCount, axes.axisCount);
-    ai::check(
-        suites.dictionary->SetBooleanEntry(entry.get(), keyOf(key::kAutoMirror), axes.autoMirror));
+    ai::check(ai::suites.dictionary->SetBooleanEntry(entry.get(), keyOf(key::kAutoMirror),
+                                                     axes.autoMirror));
     writeInteger(entry, key::kVersion, kFormatVersion);
     deleteAxesEntry(entries);
     storeAxesEntry(entries, entry);
@@ -157,7 +157,7 @@ void LayerAxesStore::write(const SymmetryAxes& axes) {
 
 bool LayerAxesStore::hasAxes(AILayerHandle layer) {
     const ai::Dictionary entries = groupArtDictionary(layer);
-    return entries && suites.dictionary->IsKnown(entries.get(), keyOf(key::kAxes));
+    return entries && ai::suites.dictionary->IsKnown(entries.get(), keyOf(key::kAxes));
 }
 
 void LayerAxesStore::remove(AILayerHandle layer, bool resolveTopLevel) {

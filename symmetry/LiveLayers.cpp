@@ -24,11 +24,11 @@ namespace {
 
 std::vector<AILayerHandle> topLevelLayers() {
     ai::int32 count = 0;
-    ai::check(suites.layer->CountLayers(&count));
+    ai::check(ai::suites.layer->CountLayers(&count));
     std::vector<AILayerHandle> layers;
     for (ai::int32 i = 0; i < count; ++i) {
         AILayerHandle layer = nullptr;
-        ai::check(suites.layer->GetNthLayer(i, &layer));
+        ai::check(ai::suites.layer->GetNthLayer(i, &layer));
         if (layer != nullptr) layers.push_back(layer);
     }
     return layers;
@@ -49,7 +49,7 @@ struct UndoSteps {
 
 UndoSteps countUndoSteps() {
     UndoSteps steps;
-    ai::check(suites.undo->CountTransactions(&steps.past, &steps.future));
+    ai::check(ai::suites.undo->CountTransactions(&steps.past, &steps.future));
     return steps;
 }
 
@@ -187,7 +187,7 @@ Regeneration regenerateChangedLayers(const MirrorEnvironment& environment, Pen p
     if (due.empty()) return done;
     // In a message that was sent from inside another the host does not listen, and need not: all
     // that happens there belongs to the step of the outer one.
-    static_cast<void>(suites.undo->SetKind(kAppendUndoContext));
+    static_cast<void>(ai::suites.undo->SetKind(kAppendUndoContext));
     for (const AILayerHandle layer : due)
         mirrorAgain(environment, layer);
     done.layers = static_cast<int>(due.size());
@@ -214,7 +214,7 @@ void releaseLayer(const MirrorEnvironment& environment, AILayerHandle layer,
     LayerAxesStore::remove(released, resolve);
     if (!loses || !environment.removePoints) return;
     const PageAxes onPage = pageAxes(axes);
-    for (const Unit& unit : unitsOfLayer(released))
+    for (const Unit& unit : deleteCopiesAndListSources(released))
         removeAxisPoints(unit, onPage);
 }
 

@@ -3,7 +3,6 @@
 #include "host/Art.h"
 #include "host/Error.h"
 #include "host/Suites.h"
-#include "host/suites/AIDocumentViewSuite.h"
 #include "host/suites/AIToolSuite.h"
 #include "symmetry/ArtSpace.h"
 #include "symmetry/ArtTree.h"
@@ -13,6 +12,8 @@
 #include "symmetry/PathArt.h"
 #include "symmetry/PathReplacement.h"
 #include "symmetry/PenAtWork.h"
+#include "symmetry/Unlocked.h"
+#include "symmetry/ViewScale.h"
 #include "symmetry/WorkSet.h"
 #include "symmetry/geometry/MirrorPath.h"
 #include "symmetry/geometry/RemovePoints.h"
@@ -22,9 +23,6 @@
 
 namespace facetta {
 namespace {
-
-constexpr double kSnapPixels = 12.0;
-constexpr double kSmallestZoom = 0.01; ///< Stands for a zoom of 0.
 
 constexpr ai::int32 kSelectionAttributes = kArtSelected | kArtFullySelected;
 
@@ -42,18 +40,14 @@ private:
 };
 
 /// The distance in points within which open ends are moved onto an axis.
-double snapDistance() {
-    AIReal zoom = 0.0F;
-    ai::check(suites.documentView->GetDocumentViewZoom(nullptr, &zoom));
-    return kSnapPixels / (zoom > 0.0F ? static_cast<double>(zoom) : kSmallestZoom);
-}
+double snapDistance() { return kSnapPixels / currentZoom(); }
 
 /// The pen goes on with the path that it was drawing, which may be gone now: choosing it afresh
 /// makes it let go.
 void restartPen(AIToolHandle ownTool) {
     if (!penIsInHand() || ownTool == nullptr) return;
-    ai::check(suites.tool->SetSelectedTool(ownTool));
-    ai::check(suites.tool->SetSelectedToolByName(kPenTool.data()));
+    ai::check(ai::suites.tool->SetSelectedTool(ownTool));
+    ai::check(ai::suites.tool->SetSelectedToolByName(kPenTool.data()));
 }
 
 /// The maps that make the copies, as the host takes them, by `Images`.
@@ -149,6 +143,7 @@ private:
             .art = placed.art,
             .marks = unit.marks,
             .holdsGuides = unit.kind != UnitKind::Path && holdsGuides(placed.art),
+            .holdsLocked = unit.kind != UnitKind::Path && holdsLocked(placed.art),
             .selected = selectedOf(unit.selection, placed.isPath),
             .parts =
                 unit.kind == UnitKind::PluginGroup ? Transform::AndTellPlugins : Transform::Whole};
@@ -186,7 +181,8 @@ void MirrorEngine::run(bool selectionMode, bool keepCurrentAxes, bool option, AI
         Run mirroring{pageAxes(environment_.currentAxes),
                       selectionMode ? CopyMode::Plain : CopyMode::Live,
                       selectionMode && environment_.removePoints};
-        for (const Unit& unit : selectionMode ? unitsOfSelection() : unitsOfLayer(top))
+        for (const Unit& unit :
+             selectionMode ? unitsOfSelection() : deleteCopiesAndListSources(top))
             mirroring.mirror(unit);
         pathsTooLong_ = std::move(mirroring.pathsTooLong());
     }

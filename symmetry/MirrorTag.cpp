@@ -17,14 +17,14 @@ template <typename Wanted> bool anyAncestor(AIArtHandle art, Wanted wanted) {
 
 } // namespace
 
-AIDictKey key() { return suites.dictionary->Key("FTMirroredv1"); }
+AIDictKey key() { return ai::suites.dictionary->Key("FTMirroredv1"); }
 
 void set(AIArtHandle art, ai::int32 value) {
     const ai::Dictionary entries = dictionaryOf(art);
     if (!entries) return;
     const AIDictKey mark = key();
-    if (!suites.dictionary->IsKnown(entries.get(), mark))
-        ai::check(suites.dictionary->SetIntegerEntry(entries.get(), mark, value));
+    if (!ai::suites.dictionary->IsKnown(entries.get(), mark))
+        ai::check(ai::suites.dictionary->SetIntegerEntry(entries.get(), mark, value));
 }
 
 ai::int32 get(AIArtHandle art) {
@@ -35,8 +35,8 @@ ai::int32 get(AIArtHandle art) {
 bool clear(AIArtHandle art) {
     const ai::Dictionary entries = dictionaryOf(art);
     const AIDictKey mark = key();
-    if (!entries || !suites.dictionary->IsKnown(entries.get(), mark)) return false;
-    ai::check(suites.dictionary->DeleteEntry(entries.get(), mark));
+    if (!entries || !ai::suites.dictionary->IsKnown(entries.get(), mark)) return false;
+    ai::check(ai::suites.dictionary->DeleteEntry(entries.get(), mark));
     return true;
 }
 

@@ -39,20 +39,20 @@ AIPathSegment stored(const PathSegment& segment) {
 
 ai::int16 segmentCount(AIArtHandle path) {
     ai::int16 count = 0;
-    ai::check(suites.path->GetPathSegmentCount(path, &count));
+    ai::check(ai::suites.path->GetPathSegmentCount(path, &count));
     return count;
 }
 
 bool isClosed(AIArtHandle path) {
     AIBoolean closed = false;
-    ai::check(suites.path->GetPathClosed(path, &closed));
+    ai::check(ai::suites.path->GetPathClosed(path, &closed));
     return closed != 0;
 }
 
 void readAnchorSelection(AIArtHandle path, PathShape& shape) {
     for (std::size_t i = 0; i < shape.segments.size(); ++i)
-        ai::check(suites.path->GetPathSegmentSelected(path, static_cast<ai::int16>(i),
-                                                      &shape.segments[i].selection));
+        ai::check(ai::suites.path->GetPathSegmentSelected(path, static_cast<ai::int16>(i),
+                                                          &shape.segments[i].selection));
 }
 
 } // namespace
@@ -66,7 +66,7 @@ void PathTransfer::read(AIArtHandle path, ai::int32 selection, PathShape& shape)
     const ai::int16 count = std::max<ai::int16>(segmentCount(path), 0);
     const std::span segments{roomFor(static_cast<std::size_t>(count)),
                              static_cast<std::size_t>(count)};
-    if (count > 0) ai::check(suites.path->GetPathSegments(path, 0, count, segments.data()));
+    if (count > 0) ai::check(ai::suites.path->GetPathSegments(path, 0, count, segments.data()));
     shape.closed = isClosed(path);
     shape.segments.resize(segments.size());
     const bool fully = (selection & kArtFullySelected) != 0;
@@ -84,14 +84,14 @@ void PathTransfer::write(AIArtHandle path, const PathShape& shape) {
     AIPathSegment* const segments = roomFor(shape.segments.size());
     std::ranges::transform(shape.segments, segments,
                            [](const PathSegment& segment) { return stored(segment); });
-    ai::check(suites.path->SetPathSegmentCount(path, count));
-    if (count > 0) ai::check(suites.path->SetPathSegments(path, 0, count, segments));
-    ai::check(suites.path->SetPathClosed(path, shape.closed));
+    ai::check(ai::suites.path->SetPathSegmentCount(path, count));
+    if (count > 0) ai::check(ai::suites.path->SetPathSegments(path, 0, count, segments));
+    ai::check(ai::suites.path->SetPathClosed(path, shape.closed));
 }
 
 FillRule fillRuleOf(AIArtHandle path) {
     AIPathStyle style{};
-    ai::check(suites.pathStyle->GetPathStyle(path, &style));
+    ai::check(ai::suites.pathStyle->GetPathStyle(path, &style));
     return style.evenodd != 0 ? FillRule::EvenOdd : FillRule::NonZero;
 }
 
@@ -110,13 +110,13 @@ void selectAnchors(AIArtHandle path, const PathShape& shape) {
     };
     if (std::ranges::none_of(shape.segments, isSelected)) return;
     if (std::ranges::all_of(shape.segments, isAnchorSelected)) {
-        ai::check(suites.art->SetArtUserAttr(path, kArtSelected, kArtSelected));
+        ai::check(ai::suites.art->SetArtUserAttr(path, kArtSelected, kArtSelected));
         return;
     }
     // One anchor can change its neighbours, so all are written, in order.
     for (std::size_t i = 0; i < shape.segments.size(); ++i)
-        ai::check(suites.path->SetPathSegmentSelected(path, static_cast<ai::int16>(i),
-                                                      shape.segments[i].selection));
+        ai::check(ai::suites.path->SetPathSegmentSelected(path, static_cast<ai::int16>(i),
+                                                          shape.segments[i].selection));
 }
 
 } // namespace facetta

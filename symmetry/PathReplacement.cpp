@@ -23,7 +23,7 @@ constexpr ai::uint32 kTransferStyle = 1U << 1;
 
 Draft newArt(ai::int16 type, ai::int16 order, AIArtHandle place) {
     Draft art;
-    ai::checkLent(suites.art->NewArt(type, order, place, art.put()), art);
+    ai::checkLent(ai::suites.art->NewArt(type, order, place, art.put()), art);
     return art;
 }
 
@@ -39,20 +39,20 @@ void foldPaint(AIArtHandle art, const Matrix& fold) {
 
 /// The user's note is not among the attributes that the host transfers.
 void carryNote(AIArtHandle from, AIArtHandle to) {
-    if (!suites.art->HasNote(from)) return;
+    if (!ai::suites.art->HasNote(from)) return;
     ai::UnicodeString note;
-    ai::check(suites.art->GetNote(from, note));
-    ai::check(suites.art->SetNote(to, note));
+    ai::check(ai::suites.art->GetNote(from, note));
+    ai::check(ai::suites.art->SetNote(to, note));
 }
 
 /// What plug-ins, this one among them, have stored with the source.
 void carryEntries(const Unit& from, AIArtHandle to) {
     if (!from.marks.entries) return;
-    ai::check(suites.dictionary->Copy(dictionaryOf(to).get(), dictionaryOf(from.art).get()));
+    ai::check(ai::suites.dictionary->Copy(dictionaryOf(to).get(), dictionaryOf(from.art).get()));
 }
 
 void carryOver(const Unit& source, AIArtHandle art, const Matrix& fold) {
-    ai::check(suites.art->TransferAttributes(source.art, art, kTransferAll));
+    ai::check(ai::suites.art->TransferAttributes(source.art, art, kTransferAll));
     carryNote(source.art, art);
     carryEntries(source, art);
     foldPaint(art, fold);
@@ -61,7 +61,7 @@ void carryOver(const Unit& source, AIArtHandle art, const Matrix& fold) {
 Draft newPath(const Contour& contour, ai::int16 order, AIArtHandle place, PathTransfer& transfer) {
     Draft path = newArt(kPathArt, order, place);
     transfer.write(path.get(), contour.shape);
-    ai::check(suites.path->SetPathGuide(path.get(), false));
+    ai::check(ai::suites.path->SetPathGuide(path.get(), false));
     return path;
 }
 
@@ -83,7 +83,7 @@ std::vector<Draft> newMembers(AIArtHandle compound, const std::vector<Contour>& 
 /// The members share one style, which the host may keep on each of them.
 void styleMembers(std::span<const Draft> members, AIArtHandle like) {
     for (const Draft& member : members)
-        ai::check(suites.art->TransferAttributes(like, member.get(), kTransferStyle));
+        ai::check(ai::suites.art->TransferAttributes(like, member.get(), kTransferStyle));
 }
 
 void keep(std::vector<Draft>& drafts) {
@@ -98,7 +98,7 @@ PlacedArt replaceByCompound(const Unit& source, const MirroredPath& mirrored, co
     styleMembers(members, source.art);
     carryOver(source, compound.get(), fold);
     selectAll(members, mirrored.contours);
-    ai::check(suites.art->DisposeArt(source.art));
+    ai::check(ai::suites.art->DisposeArt(source.art));
     keep(members);
     return {compound.release(), mirrored.contours.front().images};
 }
@@ -114,7 +114,7 @@ void replaceByPaths(const Unit& source, const MirroredPath& mirrored, const Matr
         carryOver(source, inFront, fold);
     }
     selectAll(paths, mirrored.contours);
-    ai::check(suites.art->DisposeArt(source.art));
+    ai::check(ai::suites.art->DisposeArt(source.art));
     for (std::size_t i = 0; i < paths.size(); ++i)
         placed.push_back({paths[i].release(), mirrored.contours[i].images, /*isPath*/ true});
 }
@@ -149,7 +149,7 @@ PlacedArt replaceMembers(const Unit& compound, const MirroredPath& mirrored, con
     styleMembers(members, pathsInside(compound.art).front());
     selectAll(members, mirrored.contours);
     for (const AIArtHandle former : formerMembers)
-        ai::check(suites.art->DisposeArt(former));
+        ai::check(ai::suites.art->DisposeArt(former));
     keep(members);
     foldPaint(compound.art, fold);
     return placed;

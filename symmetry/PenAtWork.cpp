@@ -22,7 +22,7 @@ bool isContainer(AIArtHandle art) {
 bool isOpenPath(AIArtHandle art) {
     if (typeOf(art) != kPathArt) return false;
     AIBoolean closed = true;
-    ai::check(suites.path->GetPathClosed(art, &closed));
+    ai::check(ai::suites.path->GetPathClosed(art, &closed));
     return !closed;
 }
 
@@ -53,7 +53,7 @@ bool allAround(AIArtHandle leaf, const std::vector<AIArtHandle>& art) {
 
 bool penIsInHand() {
     const char* current = nullptr;
-    ai::check(suites.tool->GetCurrentToolName(&current));
+    ai::check(ai::suites.tool->GetCurrentToolName(&current));
     return current != nullptr && kPenTool == current;
 }
 

@@ -6,7 +6,21 @@
 #include "host/suites/AIArtSuite.h"
 #include "symmetry/ArtTree.h"
 
+#include <algorithm>
+
 namespace facetta {
+
+bool holdsLocked(AIArtHandle art) {
+    return std::ranges::any_of(
+        artInside(art), [](AIArtHandle member) { return attributesOf(member, kArtLocked) != 0; });
+}
+
+void unlockAll(AIArtHandle art) {
+    ai::check(ai::suites.art->SetArtUserAttr(art, kArtLocked | kArtHidden, 0));
+    for (const AIArtHandle member : artInside(art))
+        if (attributesOf(member, kArtLocked) != 0)
+            ai::check(ai::suites.art->SetArtUserAttr(member, kArtLocked, 0));
+}
 
 /// From the outside in, and back: in a locked group a host need not change anything.
 Unlocked::Unlocked(const std::vector<AIArtHandle>& art) {

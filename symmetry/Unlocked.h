@@ -6,6 +6,12 @@
 
 namespace facetta {
 
+/// Whether anything inside `art` is locked. Throws `ai::Error`.
+[[nodiscard]] bool holdsLocked(AIArtHandle art);
+
+/// Shows `art` and unlocks it with all inside it, to dispose of it. Throws `ai::Error`.
+void unlockAll(AIArtHandle art);
+
 /// While it lives, those of some objects that were locked are not: a host need not change what is
 /// locked, nor what contains something locked. None may be disposed of meanwhile. The constructor
 /// throws `ai::Error`.

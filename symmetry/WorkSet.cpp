@@ -3,12 +3,12 @@
 #include "host/Art.h"
 #include "host/Error.h"
 #include "host/suites/AIArtSuite.h"
-#include "host/suites/AIPluginGroupSuite.h"
 #include "host/suites/AISymbolSuite.h"
 #include "symmetry/AllChangesAllowed.h"
 #include "symmetry/ArtList.h"
 #include "symmetry/ArtTree.h"
 #include "symmetry/MirrorTag.h"
+#include "symmetry/Unlocked.h"
 
 #include <algorithm>
 #include <span>
@@ -19,7 +19,7 @@ namespace facetta {
 namespace {
 
 /// What an object inherits from the containers around it.
-struct Surroundings {
+struct Inherited {
     bool blocked = false;       ///< One of them is locked or hidden.
     bool generated = false;     ///< One of them is a copy of an earlier run.
     AIArtHandle unit = nullptr; ///< The outermost that is mirrored as one.
@@ -35,7 +35,7 @@ bool isBlocked(AIArtHandle container, ai::int16 type) {
     if (attributesOf(container, kArtLocked | kArtHidden) != 0) return true;
     if (type != kGroupArt || !isLayerGroup(container)) return false;
     AILayerHandle layer = nullptr;
-    ai::check(suites.art->GetLayerOfArt(container, &layer));
+    ai::check(ai::suites.art->GetLayerOfArt(container, &layer));
     return isLayerBlocked(layer);
 }
 
@@ -44,7 +44,7 @@ class Containers {
 public:
     explicit Containers(const MarkKeys& keys) : keys_(keys) {}
 
-    [[nodiscard]] const Surroundings& around(AIArtHandle art) {
+    [[nodiscard]] const Inherited& around(AIArtHandle art) {
         const AIArtHandle parent = parentOf(art);
         if (lastAnswer_ == nullptr || parent != lastParent_) {
             lastAnswer_ = &inside(parent);
@@ -53,22 +53,17 @@ public:
         return *lastAnswer_;
     }
 
-    /// A plug-in group does not list its edit and result art as children, and a host may give them
-    /// no parent either.
-    void enterPluginGroup(AIArtHandle group, const Surroundings& around) {
-        Surroundings within = around;
+    /// A host may give the parts of a plug-in group no parent.
+    void enterPluginGroup(AIArtHandle group, const Inherited& around) {
+        Inherited within = around;
         if (within.unit == nullptr) within.unit = group;
-        AIArtHandle edit = nullptr;
-        AIArtHandle result = nullptr;
-        ai::check(suites.pluginGroup->GetPluginArtEditArt(group, &edit));
-        ai::check(suites.pluginGroup->GetPluginArtResultArt(group, &result));
-        for (const AIArtHandle part : {edit, result})
-            if (part != nullptr) known_.insert_or_assign(part, within);
+        for (const AIArtHandle part : partsOfPluginGroup(group))
+            known_.insert_or_assign(part, within);
     }
 
 private:
     /// References stay good: a map of nodes moves none of them.
-    const Surroundings& inside(AIArtHandle container) {
+    const Inherited& inside(AIArtHandle container) {
         std::vector<AIArtHandle> unknown;
         auto found = known_.find(container);
         while (found == known_.end() && container != nullptr) {
@@ -76,13 +71,13 @@ private:
             container = parentOf(container);
             found = known_.find(container);
         }
-        const Surroundings* answer = found != known_.end() ? &found->second : &known_[nullptr];
+        const Inherited* answer = found != known_.end() ? &found->second : &known_[nullptr];
         for (auto inner = unknown.rbegin(); inner != unknown.rend(); ++inner)
             answer = &(known_[*inner] = entered(*answer, *inner));
         return *answer;
     }
 
-    Surroundings entered(Surroundings around, AIArtHandle container) const {
+    Inherited entered(Inherited around, AIArtHandle container) const {
         const ai::int16 type = typeOf(container);
         around.blocked = around.blocked || isBlocked(container, type);
         around.generated = around.generated || marksOf(container, keys_).mirror == MirrorTag::kCopy;
@@ -91,16 +86,16 @@ private:
     }
 
     MarkKeys keys_;
-    std::unordered_map<AIArtHandle, Surroundings> known_;
+    std::unordered_map<AIArtHandle, Inherited> known_;
     AIArtHandle lastParent_ = nullptr;
-    const Surroundings* lastAnswer_ = nullptr;
+    const Inherited* lastAnswer_ = nullptr;
 };
 
 bool isGuideUnit(AIArtHandle art, ai::int16 type) {
     if (type == kPathArt) return isGuide(art);
     if (type != kCompoundPathArt) return false;
     AIArtHandle first = nullptr;
-    ai::check(suites.art->GetArtFirstChild(art, &first));
+    ai::check(ai::suites.art->GetArtFirstChild(art, &first));
     return first != nullptr && typeOf(first) == kPathArt && isGuide(first);
 }
 
@@ -108,7 +103,7 @@ bool isGuideUnit(AIArtHandle art, ai::int16 type) {
 bool isForeignSymbol(AIArtHandle art, ai::int16 type) {
     if (type != kSymbolArt) return false;
     AIPatternHandle definition = nullptr;
-    const AIErr error = suites.symbol->GetSymbolPatternOfSymbolArt(art, &definition);
+    const AIErr error = ai::suites.symbol->GetSymbolPatternOfSymbolArt(art, &definition);
     if (error == kSymbolNotInCurrentDocument) return true;
     ai::check(error);
     return false;
@@ -137,7 +132,7 @@ public:
     explicit UnitCollector(Copies copies) : copies_(copies) {}
 
     void examine(AIArtHandle art) {
-        const Surroundings& around = containers_.around(art);
+        const Inherited& around = containers_.around(art);
         if (around.generated && copies_ != Copies::AreArt) return; // goes with its container
         const ArtMarks marks = marksOf(art, keys_);
         if (marks.mirror == MirrorTag::kCopy && copies_ != Copies::AreArt) {
@@ -156,8 +151,8 @@ public:
         if (generated_.empty()) return;
         const AllChangesAllowed evenInLockedGroups;
         for (auto copy = generated_.rbegin(); copy != generated_.rend(); ++copy) {
-            ai::check(suites.art->SetArtUserAttr(*copy, kArtLocked | kArtHidden, 0));
-            ai::check(suites.art->DisposeArt(*copy));
+            unlockAll(*copy);
+            ai::check(ai::suites.art->DisposeArt(*copy));
         }
         generated_.clear();
     }
@@ -166,7 +161,7 @@ public:
     [[nodiscard]] std::vector<AIArtHandle> takeCopies() { return std::move(generated_); }
 
 private:
-    void consider(AIArtHandle art, const ArtMarks& marks, const Surroundings& around) {
+    void consider(AIArtHandle art, const ArtMarks& marks, const Inherited& around) {
         const ai::int16 type = typeOf(art);
         // What has members is met again with each of them.
         if (type != kPathArt && !seen_.insert(art).second) return;
@@ -200,7 +195,7 @@ std::vector<Unit> unitsOfSelection() {
     return collect(selectedArt(), UnitCollector::Copies::AreArt).takeUnits();
 }
 
-std::vector<Unit> unitsOfLayer(AILayerHandle layer) {
+std::vector<Unit> deleteCopiesAndListSources(AILayerHandle layer) {
     UnitCollector collector = collect(artOnLayer(layer), UnitCollector::Copies::AreLeftOut);
     collector.deleteCopies();
     return collector.takeUnits();

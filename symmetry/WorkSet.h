@@ -35,7 +35,7 @@ struct Unit {
 
 /// The same for the source art of a layer and its sublayers. The copies of earlier runs on it, even
 /// locked and hidden ones, are DELETED from the document.
-[[nodiscard]] std::vector<Unit> unitsOfLayer(AILayerHandle layer);
+[[nodiscard]] std::vector<Unit> deleteCopiesAndListSources(AILayerHandle layer);
 
 /// The same units; the document stays as it is.
 [[nodiscard]] std::vector<Unit> sourcesOnLayer(AILayerHandle layer);

@@ -41,13 +41,6 @@ CurrentView fetchCurrentView() {
     return view;
 }
 
-double currentZoom() {
-    constexpr double kZoomInPlaceOfNone = 0.01;
-    AIReal zoom = 0;
-    ai::check(ai::suites.documentView->GetDocumentViewZoom(nullptr, &zoom));
-    return zoom > 0 ? static_cast<double>(zoom) : kZoomInPlaceOfNone;
-}
-
 AIPoint viewPixelOf(const CurrentView& view, AIRealPoint point) {
     AIPoint pixel{};
     ai::check(ai::suites.documentView->ArtworkPointToViewPoint(view.handle, &point, &pixel));

@@ -20,9 +20,6 @@ struct CurrentView {
 /// The current view as the host has it now. Throws `ai::Error`, as without a document.
 [[nodiscard]] CurrentView fetchCurrentView();
 
-/// Pixels per point of the current view; 0 counts as 0.01, so that it can be divided by.
-[[nodiscard]] double currentZoom();
-
 /// The pixel of `view` at a place on the page. Throws `ai::Error`.
 [[nodiscard]] AIPoint viewPixelOf(const CurrentView& view, AIRealPoint point);
 

@@ -1,6 +1,7 @@
 #include "tool/Zones.h"
 
 #include "symmetry/ArtSpace.h"
+#include "symmetry/ViewScale.h"
 #include "tool/HitTest.h"
 #include "tool/ToolCursor.h"
 #include "tool/drawing/OnCanvasDialog.h"

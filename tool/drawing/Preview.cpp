@@ -7,6 +7,7 @@
 #include "symmetry/ArtSpace.h"
 #include "symmetry/ArtTree.h"
 #include "symmetry/LayerAxesStore.h"
+#include "symmetry/ViewScale.h"
 #include "symmetry/geometry/CutMask.h"
 #include "tool/ToolSession.h"
 
@@ -25,9 +26,6 @@ constexpr double kMargin = 2.0;
 /// Pixels. Curves that reach farther over the edge of the view are drawn as lines and cut there:
 /// hosts need not count beyond.
 constexpr double kFarthest = 8192.0;
-
-/// Open ends within this many pixels of an axis are drawn onto it by the engine.
-constexpr double kSnapPixels = 12.0;
 
 void addContours(PreviewPaths& paths, const MirroredPath& mirrored) {
     for (const Contour& contour : mirrored.contours)

@@ -4,11 +4,10 @@
 #include "host/Suites.h"
 #include "host/suites/AIDocumentViewSuite.h"
 #include "symmetry/ArtSpace.h"
+#include "symmetry/ViewScale.h"
 
 namespace facetta {
 namespace {
-
-constexpr double kSmallestZoom = 0.01; // stands for a zoom of 0
 
 /// Points. Axes are drawn this far from their origin, longer than any canvas.
 constexpr double kAxisReach = 131072.0;

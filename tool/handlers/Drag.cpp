@@ -5,6 +5,7 @@
 #include "host/UndoText.h"
 #include "host/suites/AIUndoSuite.h"
 #include "symmetry/ArtSpace.h"
+#include "symmetry/ViewScale.h"
 #include "tool/InfoDisplay.h"
 #include "tool/Zones.h"
 #include "tool/axes/CurrentAxes.h"

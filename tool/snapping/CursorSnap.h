@@ -13,10 +13,6 @@ inline constexpr char kSnapWhileDragging[] = "ATFGPLM v i o f"; ///< filled area
 inline constexpr char kSnapReset[] = "AP v i o";                ///< at a release
 inline constexpr char kSnapToNothing[] = "";
 
-/// Pixels of the view within which something attracts: the cursor of a drag, and open ends near an
-/// axis.
-constexpr double kSnapPixels = 12.0;
-
 /// For the length of one message. All members throw `ai::Error`.
 struct CursorSnap {
     SnapPointForm form;
