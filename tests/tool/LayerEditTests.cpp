@@ -86,6 +86,17 @@ TEST_CASE("the edit reaches all of a layer from any of its sublayers") {
     CHECK(session.textButStamp() == before);
 }
 
+TEST_CASE("Cancel passes over copies that the user has deleted meanwhile") {
+    EditedLayer session;
+    session.host.edit("Delete", [](easel::Document& document) {
+        easel::disposeArt(*document.state().currentLayer->firstChild());
+        easel::disposeArt(*document.state().currentLayer->lastChild());
+    });
+    session.click(session.onButton(DialogItem::Cancel));
+    CHECK(session.host.user.alerts.empty());
+    CHECK(axesOnLayer(session.tool()));
+}
+
 TEST_CASE("guides along the axes of a layer go with them") {
     EditedLayer session(/*withGuides*/ true);
     CHECK(session.guideAngles() == std::vector{20, 80, 140});
