@@ -118,7 +118,7 @@ void Sitting::showPanel() {
 
 /// The plug-in is entered by its window here, and by no message.
 Cost Sitting::usePanel(const std::function<void(door::Dialog&)>& act, Take take) {
-    door::Dialog* const panel = easel::panelDialog();
+    door::Dialog* const panel = easel::panelDialog(session_.host);
     if (panel == nullptr) giveUp("there is no panel");
     const auto enter = [&] {
         TimedEntry& timed = timedEntry();
