@@ -26,15 +26,16 @@ void writePath(AIArtHandle path, const PathShape& shape, PathTransfer& transfer)
 }
 
 void writeMask(AIArtHandle mask, const SectorMask& part, PathTransfer& transfer) {
-    const Unlocked unlocked{{mask}};
-    if (typeOf(mask) == kPathArt) return writePath(mask, part.members.front(), transfer);
-    MirroredPath members;
-    members.compound = true;
-    for (const PathShape& member : part.members)
-        members.contours.push_back({.shape = member});
-    Unit compound;
-    compound.art = mask;
-    static_cast<void>(replaceMembers(compound, members, {}, transfer));
+    whileUnlocked({mask}, [&] {
+        if (typeOf(mask) == kPathArt) return writePath(mask, part.members.front(), transfer);
+        MirroredPath members;
+        members.compound = true;
+        for (const PathShape& member : part.members)
+            members.contours.push_back({.shape = member});
+        Unit compound;
+        compound.art = mask;
+        static_cast<void>(replaceMembers(compound, members, {}, transfer));
+    });
 }
 
 /// In Plain mode even on a live layer: what is made here is source art.

@@ -76,12 +76,10 @@ CopySource copySource(AIArtHandle art, const MarkKeys& keys) {
 AIArtHandle CopyMaker::make(const CopySource& source, AIRealMatrix& matrix, AIArtHandle behind) {
     AIArtHandle copy = nullptr;
     ai::check(ai::suites.art->DuplicateArt(source.art, kPlaceBelow, behind, &copy));
-    if (source.holdsLocked) {
-        const Unlocked members{artInside(copy)};
+    if (source.holdsLocked)
+        whileUnlocked(artInside(copy), [&] { transformArt(copy, matrix, source.parts); });
+    else
         transformArt(copy, matrix, source.parts);
-    } else {
-        transformArt(copy, matrix, source.parts);
-    }
     if (source.holdsGuides)
         for (const AIArtHandle guide : GuideTag::marksInside(copy))
             GuideTag::clear(guide);

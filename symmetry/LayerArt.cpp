@@ -58,8 +58,7 @@ void moveArt(const ai::ArtSet& art, const Matrix& motion) {
         // through.
         std::vector<AIArtHandle> locked = artInside(each);
         locked.insert(locked.begin(), each);
-        const Unlocked unlocked{locked};
-        transformArt(each, matrix, parts);
+        whileUnlocked(locked, [&] { transformArt(each, matrix, parts); });
     }
 }
 

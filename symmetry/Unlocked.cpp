@@ -31,14 +31,21 @@ Unlocked::Unlocked(const std::vector<AIArtHandle>& art) {
             unlocked_.push_back(each);
         }
     } catch (...) {
-        lockAgain();
+        lockWhatCanBe();
         throw;
     }
 }
 
-Unlocked::~Unlocked() { lockAgain(); }
+Unlocked::~Unlocked() { lockWhatCanBe(); }
 
-void Unlocked::lockAgain() const noexcept {
+void Unlocked::lockAgain() {
+    while (!unlocked_.empty()) {
+        ai::check(ai::suites.art->SetArtUserAttr(unlocked_.back(), kArtLocked, kArtLocked));
+        unlocked_.pop_back();
+    }
+}
+
+void Unlocked::lockWhatCanBe() const noexcept {
     for (auto each = unlocked_.rbegin(); each != unlocked_.rend(); ++each)
         ai::suites.art->SetArtUserAttr(*each, kArtLocked, kArtLocked);
 }

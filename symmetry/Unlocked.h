@@ -18,14 +18,26 @@ void unlockAll(AIArtHandle art);
 class Unlocked {
 public:
     explicit Unlocked(const std::vector<AIArtHandle>& art);
+    /// Locks what `lockAgain` has not, as far as the host does it.
     ~Unlocked();
     Unlocked(const Unlocked&) = delete;
     Unlocked& operator=(const Unlocked&) = delete;
 
+    /// Throws `ai::Error`, which a destructor cannot.
+    void lockAgain();
+
 private:
-    void lockAgain() const noexcept;
+    void lockWhatCanBe() const noexcept;
 
     std::vector<AIArtHandle> unlocked_;
 };
+
+/// Runs `work` while those of `art` that are locked are not. Throws `ai::Error` and what `work`
+/// throws.
+template <typename Work> void whileUnlocked(const std::vector<AIArtHandle>& art, Work work) {
+    Unlocked unlocked{art};
+    work();
+    unlocked.lockAgain();
+}
 
 } // namespace facetta

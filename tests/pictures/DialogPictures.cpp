@@ -1,15 +1,17 @@
-/// dialog_pictures.exe FOLDER: writes each dialog of the plug-in, as the plug-in fills it, in light
-/// and dark, at 1x, 1.5x and 2x.
+/// dialog_pictures.exe FOLDER: writes the panel and each dialog of the plug-in, as the plug-in
+/// fills them, in light and dark, at 1x, 1.5x and 2x.
 
 #include "easel/runtime/Host.h"
 #include "easel/suites/Suites.h"
 #include "shell/Entry.h"
 #include "shell/FacettaPlugin.h"
 #include "shell/LicensedToAll.h"
+#include "tests/shell/TestLicence.h"
 #include "tool/axes/Reposition.h"
 #include "toolkit/ImplCommon/CoADMDialog.h"
 #include "toolkit/ImplWin/WinPeers.h"
 #include "toolkit/gallery/Snapshot.h"
+#include "ui/PanelItems.h"
 
 #include <cstdio>
 #include <string>
@@ -18,9 +20,25 @@ namespace {
 
 using namespace facetta;
 
+constexpr LicensedToAll kLicensed;
+const Licensing& licensed() { return kLicensed; }
+
+/// Refuses the panel to whoever has tried the product long enough.
+const Licensing& trialIsOver() {
+    static const tests::TestLicence licence = [] {
+        tests::TestLicence made(LicenceState::Licensed, {GuardedAction::UsePanel});
+        made.status =
+            "The trial of Facetta ended on Friday. \"Licensing...\" in the menu says more.";
+        return made;
+    }();
+    return licence;
+}
+
+/// That of the plug-in that runs.
+const Licensing* current = &kLicensed; // NOLINT(cppcoreguidelines-avoid-non-const-global*)
+
 SPErr entry(const char* caller, const char* selector, void* message) {
-    static constexpr LicensedToAll kLicence;
-    return handleMessage(kLicence, caller, selector, message);
+    return handleMessage(*current, caller, selector, message);
 }
 
 /// The plug-in over a document, with axes that wait to be applied.
@@ -75,6 +93,33 @@ constexpr Row kDialogs[] = {
     {"about", [](Plugin& plugin) { plugin.host.chooseMenuItem(thePlugin->menuItems.about); }},
 };
 
+NRDM::CoADMDialog& panel() { return *NRDM::Dialogs::current().open().front(); }
+NRDM::CoADMItem& item(int id) { return *panel().item(id); }
+
+void editLayerAxes(Plugin& plugin) {
+    plugin.host.editToolOptions(); // they go on the layer
+    item(panel_item::kOverlay).clicked();
+    item(panel_item::kAngle).typed("247.5");
+    item(panel_item::kAngle).commit();
+}
+
+struct PanelRow {
+    const char* name; ///< of its picture files
+    const Licensing& (*licence)();
+    void (*prepare)(Plugin&);
+};
+
+constexpr PanelRow kPanels[] = {
+    {"layer", licensed, editLayerAxes},
+    {"selection", licensed, [](Plugin&) { item(panel_item::kSelectionMode).clicked(); }},
+    {"compact", licensed,
+     [](Plugin& plugin) {
+         editLayerAxes(plugin);
+         plugin.host.cyclePanel(plugin.host.panels.named(U"Facetta"));
+     }},
+    {"refused", trialIsOver, [](Plugin&) {}},
+};
+
 struct Scale {
     double factor;
     const char* name;
@@ -91,6 +136,22 @@ void CALLBACK takePicture(HWND, UINT, UINT_PTR timer, DWORD) {
     NRDM::CoADMDialog& dialog = *NRDM::Dialogs::current().open().back();
     written = NRDM::gallery::savePicture(static_cast<HWND>(dialog.peer()->window()), wanted);
     dialog.closeRequested();
+}
+
+bool writePanel(const PanelRow& row, bool dark, const Scale& scale, const std::string& folder) {
+    const std::string file =
+        folder + "/panel-" + row.name + (dark ? "-dark-" : "-light-") + scale.name + ".png";
+    current = &row.licence();
+    Plugin plugin(dark, scale.factor);
+    row.prepare(plugin);
+    plugin.host.showPanel(plugin.host.panels.named(U"Facetta"), true);
+    for (MSG message{}; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0;)
+        DispatchMessageW(&message); // it is painted
+    const bool saved = NRDM::gallery::savePicture(static_cast<HWND>(panel().peer()->window()),
+                                                  std::wstring(file.begin(), file.end()));
+    current = &kLicensed;
+    if (!saved) std::fprintf(stderr, "cannot write %s\n", file.c_str());
+    return saved;
 }
 
 bool writePicture(const Row& row, bool dark, const Scale& scale, const std::string& folder) {
@@ -114,9 +175,12 @@ int main(int argc, char** argv) {
         return 2;
     }
     bool all = true;
-    for (const Row& row : kDialogs)
-        for (const bool dark : {false, true})
-            for (const Scale& scale : kScales)
+    for (const bool dark : {false, true})
+        for (const Scale& scale : kScales) {
+            for (const Row& row : kDialogs)
                 all = writePicture(row, dark, scale, argv[1]) && all;
+            for (const PanelRow& row : kPanels)
+                all = writePanel(row, dark, scale, argv[1]) && all;
+        }
     return all ? 0 : 1;
 }

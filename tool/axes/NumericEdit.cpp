@@ -5,6 +5,7 @@
 #include "host/UndoText.h"
 #include "host/suites/AIDocumentSuite.h"
 #include "host/suites/AIUndoSuite.h"
+#include "symmetry/LiveLayers.h"
 #include "tool/axes/CurrentAxes.h"
 #include "tool/axes/LayerEdit.h"
 #include "tool/axes/Reposition.h"
@@ -41,7 +42,10 @@ void prepare(ToolSession& session) {
 /// The press changed nothing, so what is undone is the dialog's and what was done to open it.
 void takeBack(ToolSession& session, const Holding& before) {
     const bool changedLayer = session.state.activity != before.activity;
-    if (changedLayer) ai::check(ai::suites.undo->UndoChanges());
+    if (changedLayer) {
+        ai::check(ai::suites.undo->UndoChanges());
+        noteTakenBack(session.mirroring.live);
+    }
     hold(session.state, before);
 }
 

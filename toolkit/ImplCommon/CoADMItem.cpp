@@ -166,6 +166,7 @@ void CoADMItem::setForm(const NumberForm& form) {
     if (!isUnit(form.units) || form.precision < kADMIntegerNumeric ||
         form.precision > kMostDecimals)
         throw NRDMParameterException();
+    if (form_ == form) return;
     form_ = form;
     refreshValue();
     refreshText();
@@ -192,6 +193,7 @@ float CoADMItem::within(double value) const {
 }
 
 void CoADMItem::setLowest(float lowest) {
+    if (numeric_ && lowest_ == lowest) return;
     lowest_ = requireNumber(lowest);
     makeNumeric();
     refreshValue();
@@ -199,6 +201,7 @@ void CoADMItem::setLowest(float lowest) {
 }
 
 void CoADMItem::setHighest(float highest) {
+    if (numeric_ && highest_ == highest) return;
     highest_ = requireNumber(highest);
     makeNumeric();
     refreshValue();

@@ -18,6 +18,8 @@ struct NumberForm {
     bool showsUnits = false;
     bool allowsUnits = true;
     bool allowsMath = true;
+
+    bool operator==(const NumberForm&) const = default;
 };
 
 /// What holds for every field.

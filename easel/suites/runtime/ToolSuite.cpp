@@ -52,6 +52,11 @@ AIErr getName(AIToolHandle tool, char** name) {
     return kNoErr;
 }
 
+AIErr getOptions(AIToolHandle tool, ai::int32* options) {
+    required(options) = at(tool).options;
+    return kNoErr;
+}
+
 AIErr setSelected(AIToolHandle tool) {
     static_cast<void>(at(tool));
     host().selectTool(tool);
@@ -98,6 +103,8 @@ void installToolSuite(SuiteServer& server) {
     auto table = server.table<AIToolSuite>(kAIToolSuite, kAIToolSuiteVersion);
     expose<&AIToolSuite::AddTool, addTool>(table);
     expose<&AIToolSuite::GetToolName, getName>(table);
+    // What a table without the slot before it has there, for whoever asks which of both this is.
+    expose<&AIToolSuite::GetToolOptions, getOptions>(table);
     expose<&AIToolSuite::SetSelectedTool, setSelected>(table);
     expose<&AIToolSuite::SetToolInfoVars, setInfoVariables>(table);
     expose<&AIToolSuite::SetToolInfoVarValues, setInfoValues>(table);
