@@ -149,14 +149,9 @@ TEST_CASE("a host with another version of the same slots is served, and gets tha
     }
 }
 
-/// Every call where a panel is all model. Each start under Wine makes its windows, and takes a
-/// tenth of a second; the plug-in's code is the same there.
-#ifdef _WIN32
-constexpr std::size_t kStride = 7;
-#else
-constexpr std::size_t kStride = 1;
-#endif
-
+// Each start under Wine makes the panel's windows, and takes a tenth of a second; the plug-in's
+// code is the same there.
+#ifndef _WIN32
 TEST_CASE("whichever host call fails, start-up ends tidily and at most one alert tells of it") {
     // A first run tells which calls can fail, and which of them only give something back.
     std::vector<std::string> fallible;
@@ -170,7 +165,7 @@ TEST_CASE("whichever host call fails, start-up ends tidily and at most one alert
             if (slot->returnsError) fallible.push_back(slot->name);
     }
     REQUIRE(fallible.size() > 200);
-    for (std::size_t call = 1; call <= fallible.size(); call += kStride) {
+    for (std::size_t call = 1; call <= fallible.size(); ++call) {
         const std::string& name = fallible[call - 1];
         if (name.ends_with("Destroy") || name.ends_with("ReleaseSuite")) continue;
         INFO("host call ", call, ": ", name);
@@ -190,6 +185,7 @@ TEST_CASE("whichever host call fails, start-up ends tidily and at most one alert
     afterwards.host.start();
     CHECK(thePlugin->toolHandle != nullptr);
 }
+#endif
 
 TEST_CASE("unloading gives the suites back; reloading mends the table of virtual operations") {
     Session session;

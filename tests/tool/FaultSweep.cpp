@@ -66,7 +66,7 @@ bool givesBack(const std::string& function) {
 /// process and each start makes the panel's windows: a whole sweep takes minutes; the plug-in's
 /// code is the same there.
 #ifdef _WIN32
-constexpr std::size_t kStride = 43;
+constexpr std::size_t kStride = 101;
 #else
 constexpr std::size_t kStride = 1;
 #endif

@@ -241,12 +241,7 @@ std::string faultInNextPress(Walker& session) {
 } // namespace
 
 TEST_CASE("whatever the user does, and when, the tool knows what it is doing") {
-    // Under Wine each step shows the panel's state in windows that other processes serve.
-#ifdef _WIN32
-    constexpr std::uint64_t kWalks = 10;
-#else
     constexpr std::uint64_t kWalks = 100;
-#endif
     constexpr int kSteps = 40;
     for (std::uint64_t walk = 0; walk < kWalks; ++walk) {
         Walker session(walk);
