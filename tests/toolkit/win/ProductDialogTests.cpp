@@ -46,7 +46,8 @@ constexpr Row kDialogs[] = {
 
 } // namespace
 
-TEST_CASE("200 openings of each of the plug-in's dialogs leave nothing, each in a tenth of a second") {
+TEST_CASE(
+    "200 openings of each of the plug-in's dialogs leave nothing, each in a tenth of a second") {
     for (const Row& row : kDialogs) {
         Drawing session(/*selected*/ false);
         double least = 1e9;
