@@ -1,7 +1,8 @@
 # The Wine that runs our tests and demo; to be sourced after common.sh.
 # Its prefix is this clone's own: nothing else on the machine shares its server or its settings.
+# Whoever changes the settings of a whole machine names another prefix in FACETTA_WINE_PREFIX.
 
-export WINEPREFIX=$PWD/build/wine
+export WINEPREFIX=${FACETTA_WINE_PREFIX:-$PWD/build/wine}
 export WINEARCH=win64
 export WINEDEBUG=${WINEDEBUG:--all}
 # No .NET and no browser, whose absence would ask for a person; no entries in the desktop's menus.

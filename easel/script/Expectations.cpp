@@ -418,6 +418,19 @@ Check readAlert(Arguments& arguments) {
     };
 }
 
+/// Names are compared, not folders: where a manual lies depends on the installation.
+Check readOpened(Arguments& arguments) {
+    const std::string wanted =
+        arguments.take(kNone) ? std::string(kNone) : quoted(arguments.text("file"));
+    return [wanted](Player& player) {
+        auto& launched = player.host().user.launched;
+        if (launched.empty()) return compare(wanted, kNone);
+        const std::string name = launched.front().filename().string();
+        launched.erase(launched.begin());
+        return compare(wanted, quoted(name));
+    };
+}
+
 // Pictures
 
 paint::Picture readReference(const std::filesystem::path& file) {
@@ -479,6 +492,8 @@ constexpr ExpectationRow kExpectations[] = {
      "a number of the information display", readInfo},
     {"preference", "PREFIX NAME on|off|NUMBER [within T]", "a stored setting", readPreferenceValue},
     {"alert", "none|TEXT", "the oldest message box not yet expected", readAlert},
+    {"opened", "none|FILE", "the name of the oldest document not yet expected that was opened",
+     readOpened},
     {"panel", "full|compact|hidden [WIDTH HEIGHT]", "how the panel is shown, and how large",
      readPanelState},
     {"panel-item",
