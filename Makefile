@@ -1,6 +1,6 @@
 # Short names for the scripts that do the work; docs/building.md tells what each does.
 
-.PHONY: demo check dist bench format tidy
+.PHONY: demo check dist package bench format tidy
 
-demo check dist bench format tidy:
+demo check dist package bench format tidy:
 	scripts/$@

@@ -37,6 +37,7 @@ public:
         return found != items.end() ? *found : door::SeenItem{};
     }
     [[nodiscard]] std::string text(int id) const { return item(id).text; }
+    [[nodiscard]] std::vector<door::SeenItem> items() const { return dialog_->items(); }
 
     // What is done
     void click(int id) { dialog_->click(id); }
