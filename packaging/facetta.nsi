@@ -303,6 +303,9 @@ Function installInPath
     File "${STAGE}\${MANUAL}"
     File "${STAGE}\LICENSE.txt"
     File "${STAGE}\README.txt"
+    SetOutPath "$Path\Examples"
+    File "${STAGE}\Examples\*.svg"
+    SetOutPath $Path
     File "/oname=Facetta.new" "${STAGE}\Facetta.aip"
     ${If} ${Errors}
         Delete "$Path\Facetta.new"
@@ -363,6 +366,11 @@ Function un.onInit
     SetShellVarContext all
 FunctionEnd
 
+!macro deleteExample NAME
+    Delete "$Path\Examples\${NAME}.svg"
+    Delete "$Path\Examples\${NAME}-wedge.svg"
+!macroend
+
 Section Uninstall
     Call un.askToCloseHost
     ; A folder whose library cannot be deleted stays remembered, and with it the uninstaller.
@@ -382,6 +390,13 @@ Section Uninstall
             Delete "$Path\${MANUAL}"
             Delete "$Path\LICENSE.txt"
             Delete "$Path\README.txt"
+            !insertmacro deleteExample rosette
+            !insertmacro deleteExample mandala
+            !insertmacro deleteExample snowflake
+            !insertmacro deleteExample leaves
+            !insertmacro deleteExample tile
+            !insertmacro deleteExample star
+            RMDir "$Path\Examples"
             RMDir $Path ; only when it is empty: what else lies there is the user's
             DeleteRegValue HKLM "${FOLDERS}" $Path
         ${EndIf}

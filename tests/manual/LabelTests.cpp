@@ -113,7 +113,8 @@ TEST_CASE("whatever the program shows, the manual speaks of") {
         labels.insert(narrow(text.text));
     for (int id = 1; id <= 12; ++id)
         labels.insert(narrow(toolSession().textOf(stringOf(static_cast<HintId>(id)))));
-    addDialog(labels, [&] { session.host.chooseMenuItem(session.host.menus.itemNamed("Facetta About")); });
+    addDialog(labels,
+              [&] { session.host.chooseMenuItem(session.host.menus.itemNamed("Facetta About")); });
     addDialog(labels, [&] {
         const KeysHeld held({platform::Key::Shift});
         session.host.editToolOptions();
