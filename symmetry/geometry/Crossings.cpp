@@ -71,6 +71,7 @@ private:
                                  const Crossing& to) const;
     [[nodiscard]] Side sideBetween(const Crossing& from, const Crossing& to) const;
     [[nodiscard]] bool isTipThroughEdge(const Crossing& from, const Crossing& to) const;
+    [[nodiscard]] Side sideOfTouching() const;
     [[nodiscard]] Side sideOnCurve(const Cubic& curve, const Crossing& from,
                                    const Crossing& to) const;
     void groupClosed();
@@ -242,12 +243,18 @@ bool ContactFinder::runsAlong(const Cubic& curve, const Crossing& from, const Cr
 Side ContactFinder::sideOnCurve(const Cubic& curve, const Crossing& from,
                                 const Crossing& to) const {
     const double margin = farthestMargin(curve, from, to);
+    if (std::abs(margin) > kOnAxisDistance) return sideOf(margin);
+    if (runsAlong(curve, from, to)) return Side::AlongRay;
     // Between anchors half the distance is enough, so that a piece that was once worth cutting out
     // is found again whatever rounding has done to it since.
-    const bool betweenAnchors = from.onAnchor && to.onAnchor;
-    if (std::abs(margin) > (betweenAnchors ? 0.5 * kOnAxisDistance : kOnAxisDistance))
-        return sideOf(margin);
-    return runsAlong(curve, from, to) ? Side::AlongRay : Side::Touching;
+    const bool leaves = from.onAnchor && to.onAnchor && std::abs(margin) > 0.5 * kOnAxisDistance;
+    return leaves ? sideOf(margin) : Side::Touching;
+}
+
+/// The side of a path that touches the edge between all crossings. Its tips may reach farther.
+Side ContactFinder::sideOfTouching() const {
+    const double farthest = farthestMargin(0, margins_.size());
+    return std::abs(farthest) > kOnAxisDistance ? sideOf(farthest) : Side::AlongRay;
 }
 
 void ContactFinder::groupClosed() {
@@ -256,7 +263,7 @@ void ContactFinder::groupClosed() {
     sides_.push_back(sideBetween(crossings_.back(), nextLap));
     const auto leaving = std::ranges::find_if(sides_, leavesEdge);
     if (leaving == sides_.end()) {
-        found_.whole = Side::AlongRay;
+        found_.whole = sideOfTouching();
         return;
     }
     const auto turn = leaving + 1 - sides_.begin();
@@ -278,7 +285,7 @@ void ContactFinder::groupOpen() {
     const bool staysOnEdge = before == Side::Nowhere && after == Side::Nowhere &&
                              std::ranges::none_of(sides_, leavesEdge);
     if (staysOnEdge)
-        found_.whole = Side::AlongRay;
+        found_.whole = sideOfTouching();
     else
         group(before, after);
 }

@@ -1,5 +1,7 @@
 #include "symmetry/geometry/CutPath.h"
 
+#include "symmetry/geometry/Tolerances.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -7,13 +9,18 @@ namespace facetta {
 
 namespace {
 
+/// Whether a path runs along a ray so far that it shows.
+bool isStretchOfRay(const Contact& contact) {
+    return contact.alongRay && distance(contact.first.point, contact.last.point) > kTouchDepth;
+}
+
 void keepOpen(const PathShape& path, const std::vector<Contact>& cuts, std::vector<Stretch>& kept) {
     const auto lastIndex = static_cast<std::int32_t>(path.segments.size()) - 1;
     Crossing from{0, 0.0, path.segments.front().anchor, Ray::None, true};
     const Crossing end{lastIndex, 0.0, path.segments.back().anchor, Ray::None, true};
     for (const Contact& contact : cuts) {
         if (contact.before == Side::Inside) kept.push_back({from, contact.first});
-        if (contact.alongRay) kept.push_back({contact.first, contact.last, true});
+        if (isStretchOfRay(contact)) kept.push_back({contact.first, contact.last, true});
         from = contact.last;
     }
     if (cuts.back().after == Side::Inside) kept.push_back({from, end});
@@ -30,7 +37,7 @@ void keepClosed(std::vector<Contact>& cuts, double start, std::vector<Stretch>& 
             kept.push_back({cuts[i].last, cuts[i + 1 < cuts.size() ? i + 1 : 0].first});
     if (kept.empty())
         for (const Contact& contact : cuts)
-            if (contact.alongRay) kept.push_back({contact.first, contact.last, true});
+            if (isStretchOfRay(contact)) kept.push_back({contact.first, contact.last, true});
 }
 
 } // namespace

@@ -32,18 +32,29 @@ ActiveSector activeSectorOf(const MirrorFrame& frame, const PathShape& path, dou
     return {atHome ? 0 : sectorIndexOf(axes, sample)};
 }
 
+namespace {
+
+/// Whether a path lies within `radius` of a place, with its handles.
+bool liesWithin(double radius, Point centre, const PathShape& path) {
+    return std::ranges::all_of(path.segments, [&](const PathSegment& segment) {
+        return distance(segment.anchor, centre) < radius && distance(segment.in, centre) < radius &&
+               distance(segment.out, centre) < radius;
+    });
+}
+
+bool isDot(const PathShape& path) {
+    return path.segments.empty() || liesWithin(kSmallestCut, path.segments.front().anchor, path);
+}
+
+/// Whether a path lies where sectors are too narrow for cutting.
+bool liesAtOrigin(const MirrorFrame& frame, const PathShape& path) {
+    return liesWithin(kSmallestSectorWidth / sectorAngle(frame.axes), frame.axes.origin, path);
+}
+
+} // namespace
+
 bool isTooSmallToCut(const MirrorFrame& frame, const PathShape& path) {
-    if (path.segments.empty()) return true;
-    const Point origin = frame.axes.origin;
-    const Point start = path.segments.front().anchor;
-    const double reach = kSmallestSectorWidth / sectorAngle(frame.axes);
-    const auto areAllWithin = [&](Point centre, double radius) {
-        return std::ranges::all_of(path.segments, [&](const PathSegment& segment) {
-            return distance(segment.anchor, centre) < radius &&
-                   distance(segment.in, centre) < radius && distance(segment.out, centre) < radius;
-        });
-    };
-    return (path.closed && areAllWithin(start, kSmallestCut)) || areAllWithin(origin, reach);
+    return (path.closed && isDot(path)) || liesAtOrigin(frame, path);
 }
 
 std::vector<DrawnIsland> drawnIslands(const MirrorFrame& frame, std::span<const PathShape> members,
@@ -52,7 +63,7 @@ std::vector<DrawnIsland> drawnIslands(const MirrorFrame& frame, std::span<const 
     for (std::size_t i = 0; i < members.size(); ++i) {
         if (islandOf[i] == islands.size()) islands.emplace_back();
         DrawnIsland& island = islands[islandOf[i]];
-        island.asDrawn = island.asDrawn && isTooSmallToCut(frame, members[i]);
+        island.asDrawn = island.asDrawn && (isDot(members[i]) || liesAtOrigin(frame, members[i]));
         const bool first = island.leader == nullptr && !members[i].segments.empty();
         const bool firstWithCurve = curveCount(members[i]) > 0 &&
                                     (island.leader == nullptr || curveCount(*island.leader) == 0);
@@ -72,24 +83,22 @@ void foldInto0(const MirrorFrame& frame, int sector, PathShape& path) {
 
 namespace {
 
-/// Whether two points are one, to within `apart` and the rounding of each to what the host can
-/// store.
-bool coincide(Point a, Point b, double apart) {
+/// Whether two points are one but for the rounding of each to what the host can store.
+bool coincide(Point a, Point b) {
     constexpr double kRoundings = 3.0; // when it was made, when it was folded, and here
     const double magnitude = std::max({std::abs(a.x), std::abs(a.y), std::abs(b.x), std::abs(b.y)});
-    return distance(a, b) <= std::max(apart, kRoundings * kStorageSpacing * magnitude);
+    return distance(a, b) <= kRoundings * kStorageSpacing * magnitude;
 }
 
-bool coincide(const PathSegment& a, const PathSegment& b, double apart) {
-    return coincide(a.anchor, b.anchor, apart) && coincide(a.in, b.in, apart) &&
-           coincide(a.out, b.out, apart);
+bool coincide(const PathSegment& a, const PathSegment& b) {
+    return coincide(a.anchor, b.anchor) && coincide(a.in, b.in) && coincide(a.out, b.out);
 }
 
 /// A path as seen from one of its anchors.
 class AroundAnchor {
 public:
-    AroundAnchor(const MirrorFrame& frame, const PathShape& path, std::size_t anchor, double apart)
-        : frame_(frame), path_(path), anchor_(anchor), apart_(apart),
+    AroundAnchor(const MirrorFrame& frame, const PathShape& path, std::size_t anchor)
+        : frame_(frame), path_(path), anchor_(anchor),
           ray_(frame.wedge.rayAt(path.segments[anchor].anchor)) {}
 
     [[nodiscard]] Ray ray() const { return ray_; }
@@ -99,11 +108,10 @@ public:
     [[nodiscard]] bool isReflected(Ray ray, std::size_t count) const {
         const Matrix& reflection = frame_.chains.from(ray)[1];
         const PathSegment& joint = path_.segments[anchor_]; // on the ray as nearly as an anchor is
-        if (!coincide(joint.out, joint.anchor + apply(reflection, joint.in - joint.anchor), apart_))
+        if (!coincide(joint.out, joint.anchor + apply(reflection, joint.in - joint.anchor)))
             return false;
         for (std::size_t i = 1; i <= count; ++i)
-            if (!coincide(after(i), transformed(reversed(before(i)), reflection), apart_))
-                return false;
+            if (!coincide(after(i), transformed(reversed(before(i)), reflection))) return false;
         return true;
     }
 
@@ -135,40 +143,29 @@ private:
     const MirrorFrame& frame_;
     const PathShape& path_;
     std::size_t anchor_;
-    double apart_;
     Ray ray_;
 };
-
-/// Whether a path runs along `ray` alone, by its anchors.
-bool liesAlong(const Wedge& wedge, Ray ray, const PathShape& path) {
-    return std::ranges::all_of(path.segments, [&](const PathSegment& segment) {
-        return wedge.along(ray, segment.anchor) >= -kOnAxisDistance &&
-               wedge.distanceFrom(ray, segment.anchor) <= kOnAxisDistance &&
-               wedge.distanceFrom(ray, segment.in) <= kOnAxisDistance &&
-               wedge.distanceFrom(ray, segment.out) <= kOnAxisDistance;
-    });
-}
 
 bool isOn(Ray place, Ray ray) { return place == ray || place == Ray::Origin; }
 
 Ray otherThan(Ray ray) { return ray == Ray::First ? Ray::Last : Ray::First; }
 
 /// The same for a closed path, by an anchor that lies on `ray`.
-Images ownImagesAround(const MirrorFrame& frame, const PathShape& path, std::size_t anchor, Ray ray,
-                       double apart) {
+Images ownImagesAround(const MirrorFrame& frame, const PathShape& path, std::size_t anchor,
+                       Ray ray) {
     const std::size_t half = path.segments.size() / 2;
-    const AroundAnchor here{frame, path, anchor, apart};
+    const AroundAnchor here{frame, path, anchor};
     if (!isOn(here.ray(), ray) || !here.isReflected(ray, half)) return Images::All;
-    if (isOn(AroundAnchor{frame, path, (anchor + half) % path.segments.size(), apart}.ray(), ray) &&
+    if (isOn(AroundAnchor{frame, path, (anchor + half) % path.segments.size()}.ray(), ray) &&
         here.staysInside(half))
         return Images::Rotations;
     const auto sectors = static_cast<std::size_t>(sectorCount(frame.axes));
     if (path.segments.size() % sectors != 0) return Images::All;
     const std::size_t spacing = path.segments.size() / sectors;
     const Ray other = otherThan(ray);
-    const AroundAnchor next{frame, path, (anchor + spacing) % path.segments.size(), apart};
-    const AroundAnchor previous{
-        frame, path, (anchor + path.segments.size() - spacing) % path.segments.size(), apart};
+    const AroundAnchor next{frame, path, (anchor + spacing) % path.segments.size()};
+    const AroundAnchor previous{frame, path,
+                                (anchor + path.segments.size() - spacing) % path.segments.size()};
     for (const AroundAnchor& end : {next, previous})
         if (isOn(end.ray(), other) && end.isReflected(other, half) && here.staysInside(spacing))
             return Images::None;
@@ -177,14 +174,12 @@ Images ownImagesAround(const MirrorFrame& frame, const PathShape& path, std::siz
 
 } // namespace
 
-Images ownImages(const MirrorFrame& frame, const PathShape& path, double apart) {
+Images ownImages(const MirrorFrame& frame, const PathShape& path) {
     const std::size_t anchors = path.segments.size();
-    if (liesAlong(frame.wedge, Ray::First, path) || liesAlong(frame.wedge, Ray::Last, path))
-        return Images::Rotations;
     if (!path.closed) {
         const std::size_t middle = anchors / 2;
         if (anchors % 2 == 0 || anchors < 3) return Images::All;
-        const AroundAnchor here{frame, path, middle, apart};
+        const AroundAnchor here{frame, path, middle};
         for (const Ray ray : {Ray::First, Ray::Last})
             if (isOn(here.ray(), ray) && here.isReflected(ray, middle) && here.staysInside(middle))
                 return Images::Rotations;
@@ -193,7 +188,7 @@ Images ownImages(const MirrorFrame& frame, const PathShape& path, double apart) 
     if (anchors % 2 != 0) return Images::All;
     for (std::size_t anchor = 0; anchor < anchors; ++anchor)
         for (const Ray ray : {Ray::First, Ray::Last}) {
-            const Images images = ownImagesAround(frame, path, anchor, ray, apart);
+            const Images images = ownImagesAround(frame, path, anchor, ray);
             if (images != Images::All) return images;
         }
     return Images::All;

@@ -51,7 +51,9 @@ struct ActiveSector {
 struct DrawnIsland {
     const PathShape* leader = nullptr; ///< tells the sector: the first member with a curve, if any
     ActiveSector start;
-    bool asDrawn = true; ///< none of it is large enough to be cut
+    /// None of it is large enough to be cut. Open members are painted like closed ones here, and
+    /// may be dots as well.
+    bool asDrawn = true;
 };
 
 /// The islands of `members`, which `islandOf` numbers.
@@ -64,7 +66,7 @@ void foldInto0(const MirrorFrame& frame, int sector, PathShape& path);
 
 /// Which copies a path inside sector 0 and beyond needs when it is its own image already: by
 /// reflection across one bounding ray or both, on which it has anchors. `Images::All` when it is
-/// not, to within the rounding of stored coordinates, or `apart` points if that is more.
-[[nodiscard]] Images ownImages(const MirrorFrame& frame, const PathShape& path, double apart = 0.0);
+/// not.
+[[nodiscard]] Images ownImages(const MirrorFrame& frame, const PathShape& path);
 
 } // namespace facetta

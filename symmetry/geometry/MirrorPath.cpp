@@ -97,42 +97,72 @@ void agreeInImages(const PageAxes& axes, std::vector<Contour>& contours) {
     contours = std::move(complete);
 }
 
-bool coincide(const PathSegment& a, const PathSegment& b) {
-    return distance(a.anchor, b.anchor) <= kImagesApart && distance(a.in, b.in) <= kImagesApart &&
-           distance(a.out, b.out) <= kImagesApart;
+/// Places along a path: each anchor, and so many of each curve in all.
+constexpr std::size_t kPlacesPerCurve = 4;
+
+std::vector<Point> placesAlong(const PathShape& path) {
+    std::vector<Point> places;
+    for (std::size_t i = 0; i < curveCount(path); ++i)
+        for (std::size_t part = 0; part < kPlacesPerCurve; ++part)
+            places.push_back(
+                evaluate(curveAt(path, i), static_cast<double>(part) / kPlacesPerCurve));
+    if (!path.segments.empty() && (!path.closed || places.empty()))
+        places.push_back(path.segments.back().anchor);
+    return places;
 }
 
-/// Whether `path` is the image of `source` under `map`, wherever and in whichever direction it
-/// begins.
-bool isImage(const PathShape& path, const PathShape& source, const Matrix& map) {
-    const std::size_t count = source.segments.size();
-    if (path.closed != source.closed || path.segments.size() != count) return false;
+/// Whether `path` is the image of `source` under `map` to within `apart` points, wherever and in
+/// whichever direction it begins.
+bool isImage(const PathShape& path, const PathShape& source, const Matrix& map, double apart) {
+    if (path.closed != source.closed || path.segments.size() != source.segments.size())
+        return false;
+    if (source.segments.empty()) return true;
+    const Point start = apply(map, source.segments.front().anchor);
+    if (std::ranges::none_of(path.segments, [&](const PathSegment& segment) {
+            return distance(segment.anchor, start) <= apart;
+        }))
+        return false;
+
+    const std::vector<Point> found = placesAlong(path);
+    const std::vector<Point> wanted = placesAlong(source);
+    const std::size_t count = wanted.size();
     const auto runsAlike = [&](std::size_t begin, bool backwards) {
         for (std::size_t i = 0; i < count; ++i) {
-            const PathSegment& at =
-                path.segments[(backwards ? begin + count - i : begin + i) % count];
-            if (!coincide(transformed(source.segments[i], map), backwards ? reversed(at) : at))
-                return false;
+            const Point at = found[(backwards ? begin + count - i : begin + i) % count];
+            if (distance(apply(map, wanted[i]), at) > apart) return false;
         }
         return true;
     };
-    if (!path.closed) return count == 0 || runsAlike(0, false) || runsAlike(count - 1, true);
-    for (std::size_t begin = 0; begin < count; ++begin)
+    if (!path.closed) return runsAlike(0, false) || runsAlike(count - 1, true);
+    for (std::size_t begin = 0; begin < count; begin += kPlacesPerCurve)
         if (runsAlike(begin, false) || runsAlike(begin, true)) return true;
     return false;
 }
 
-/// Whether the members together are their own images, as when mirroring has put the images into
-/// the compound path itself.
-bool areOwnImages(const MirrorFrame& frame, std::span<const PathShape> members) {
-    const auto isThere = [&](const PathShape& member, const Matrix& map) {
+/// Whether paths together are their own image under `map`.
+bool areOwnImage(std::span<const PathShape> paths, const Matrix& map, double apart) {
+    return std::ranges::all_of(paths, [&](const PathShape& path) {
         return std::ranges::any_of(
-            members, [&](const PathShape& other) { return isImage(other, member, map); });
-    };
-    return std::ranges::all_of(members, [&](const PathShape& member) {
-        return isThere(member, frame.chains.acrossFirst[1]) &&
-               isThere(member, frame.chains.acrossLast[1]);
+            paths, [&](const PathShape& other) { return isImage(other, path, map, apart); });
     });
+}
+
+/// The copies that a path needs which is not cut. It may be what mirroring has joined before.
+Images imagesAsDrawn(const MirrorFrame& frame, const PathShape& path) {
+    const auto isOnRay = [&](Point place) { return frame.wedge.rayAt(place) != Ray::None; };
+    if (std::ranges::all_of(placesAlong(path), isOnRay)) return Images::Rotations;
+    const bool acrossFirst = isImage(path, path, frame.chains.acrossFirst[1], kImagesApart);
+    const bool acrossLast = isImage(path, path, frame.chains.acrossLast[1], kImagesApart);
+    if (acrossFirst && acrossLast) return Images::None;
+    return acrossFirst || acrossLast ? Images::Rotations : Images::All;
+}
+
+/// Whether mirroring has put the images of all members into the compound path itself. A member that
+/// counted as its own image then may be as far off, and all have been rounded since.
+bool haveTheirImages(const MirrorFrame& frame, std::span<const PathShape> members) {
+    constexpr double kApart = 2.0 * kImagesApart;
+    return areOwnImage(members, frame.chains.acrossFirst[1], kApart) &&
+           areOwnImage(members, frame.chains.acrossLast[1], kApart);
 }
 
 /// The members as they are, but for those without an anchor.
@@ -244,16 +274,13 @@ MirroredPath Mirroring::compound(std::span<const PathShape> members, FillRule ru
         contours_, members,
         [](const PathShape& one, const PathShape& other) { return sameShape(one, other); },
         &Contour::shape);
-    if (!result.unchanged && areOwnImages(frame_, members))
-        return unchangedCompound(members, Images::None);
+    if (haveTheirImages(frame_, members)) return unchangedCompound(members, Images::None);
     result.contours = std::move(contours_);
     return result;
 }
 
-/// What is not to be cut. It may be what mirroring has joined, which is its own image but for the
-/// distance of anchors from the axes on which they count.
 Contour Mirroring::asDrawn(const PathShape& source) const {
-    return {.shape = source, .images = ownImages(frame_, source, kImagesApart)};
+    return {.shape = source, .images = imagesAsDrawn(frame_, source)};
 }
 
 void Mirroring::takeUp(const PathShape& source) {

@@ -153,6 +153,10 @@ TEST_CASE("what becomes of a path") {
         {"along an axis through the origin: one ray of it", 3, "M 100 0 L -80 0",
          "rotations M 100 0 L 0 0"},
         {"closed and flat on the axis", 1, "M -80 0 L 100 0 Z", "rotations M -80 0 L 100 0 Z"},
+        {"beside the axis and onto it: that part is flat", 1, "M 0 50 L 40 0.004 L 80 5",
+         "rotations M 0 50 L 40 0 L 0 -50, rotations M 40 0 L 80 0"},
+        {"along two rays, too close to the origin for cutting", 2, "M 0.05 0 L 0 0 L 0 0.04",
+         "rotations M 0.05 0 L 0 0 L 0 0.04"},
         {"a single anchor", 3, "M 100 50", "all M 100 50"},
         {"a single anchor near an axis", 3, "M 20 5", "rotations M 20 0"},
         {"touching with an anchor: not cut", 1, "M -50 50 L 0 0 L 50 50",
@@ -170,8 +174,11 @@ TEST_CASE("what becomes of a path") {
         const MirroredPath result = mirror.mirror(shapeOf(row.source));
         CHECK(outcomeOf(result) == row.expected);
         CHECK(result.unchanged == (textOf(result.contours[0].shape) == row.source));
-        for (const Contour& contour : result.contours)
-            CHECK(mirror.mirror(contour.shape).unchanged);
+        for (const Contour& contour : result.contours) {
+            const MirroredPath again = mirror.mirror(contour.shape);
+            CHECK(again.unchanged);
+            CHECK(again.contours[0].images == contour.images);
+        }
     }
 }
 
@@ -235,6 +242,11 @@ TEST_CASE("each island of a compound path is mirrored from its own sector, and n
          "compound: none M 0 50 L 0 0 L 0 -50 L 90 -50 L 90 0 L 90 50 Z, "
          "none M 10 40 L 80 40 L 80 0 L 80 -40 L 10 -40 L 10 0 Z, "
          "none M 20 10 L 20 20 L 30 20 L 30 10 Z, none M 20 -10 L 30 -10 L 30 -20 L 20 -20 Z"},
+        {"dots that are their own images, and one that gets its image at once",
+         {"M 20 -0.1 L 20.1 0 L 20 0.1 Z", "M 40 0 L 40.1 0.1 L 39.9 0.1 Z"},
+         FillRule::NonZero,
+         "compound: none M 20 -0.1 L 20.1 0 L 20 0.1 Z, none M 40 0 L 40.1 0.1 L 39.9 0.1 Z, "
+         "none M 40 0 L 39.9 -0.1 L 40.1 -0.1 Z"},
         {"what overlaps an outline belongs to it by one rule, not by the other",
          {"M 0 50 L 0 -50 L 90 -50 L 90 50 Z", "M 10 40 L 10 -40 L 80 -40 L 80 40 Z",
           "M 20 -10 L 20 -20 L 30 -20 L 30 -10 Z"},
@@ -248,10 +260,14 @@ TEST_CASE("each island of a compound path is mirrored from its own sector, and n
         std::vector<PathShape> members;
         for (const std::string& member : row.members)
             members.push_back(shapeOf(member));
-        Mirror mirror({.axisCount = 1}, kSnapDistance);
+        const PageAxes axes{.axisCount = 1};
+        Mirror mirror(axes, kSnapDistance);
         const MirroredPath result = mirror.mirrorCompound(members, row.rule);
         CHECK(outcomeOf(result) == row.expected);
-        CHECK(mirror.mirrorCompound(shapesOf(result), row.rule).unchanged);
+        const MirroredPath again = mirror.mirrorCompound(shapesOf(result), row.rule);
+        CHECK(again.unchanged);
+        CHECK(imageTransforms(axes, again.contours[0].images).size() ==
+              imageTransforms(axes, result.contours[0].images).size());
     }
 }
 
