@@ -1,4 +1,4 @@
-/// The manual and the program call things by the same names.
+/// The manual and the program call things by the same names, and tell the same stories.
 
 #include "tests/tool/Annotated.h"
 #include "tests/tool/KeysHeld.h"
@@ -28,12 +28,11 @@ std::string unwrapped(const std::string& text) {
     return std::regex_replace(text, std::regex("\\s+"), " ");
 }
 
-/// The prose: lines in brackets are attributes of the markup.
 std::string manual() {
     std::string text;
     for (const auto& entry : fs::directory_iterator("docs/manual"))
         if (entry.path().extension() == ".adoc") text += contentOf(entry.path()) + '\n';
-    return unwrapped(std::regex_replace(text, std::regex("\n\\[[^\n]*\\]\n"), "\n\n"));
+    return text;
 }
 
 /// All that stands between double quotes.
@@ -43,6 +42,13 @@ Labels quotedIn(const std::string& text) {
     for (std::sregex_iterator at(text.begin(), text.end(), quoted), end; at != end; ++at)
         labels.insert((*at)[1]);
     return labels;
+}
+
+/// All that stands between double quotes, but for attributes of the markup, which fill a line in
+/// brackets.
+Labels quotedInManual() {
+    return quotedIn(
+        unwrapped(std::regex_replace(manual(), std::regex("\n\\[[^\n]*\\]\n"), "\n\n")));
 }
 
 /// Every text in the sources that users meet, without the marks of access keys.
@@ -89,7 +95,7 @@ std::string narrow(const auto& text) {
 
 TEST_CASE("what the manual quotes is a text of the program") {
     const std::string program = programTexts();
-    const Labels quoted = quotedIn(manual());
+    const Labels quoted = quotedInManual();
     REQUIRE(quoted.size() > 60);
     for (const std::string& label : quoted) {
         INFO("the manual says \"", label, "\"");
@@ -125,10 +131,25 @@ TEST_CASE("whatever the program shows, the manual speaks of") {
     });
     labels.erase("");
 
-    const Labels quoted = quotedIn(manual());
+    const Labels quoted = quotedInManual();
     REQUIRE(labels.size() > 60);
     for (const std::string& label : labels) {
         INFO("the program shows \"", label, "\"");
         CHECK(quoted.contains(label));
     }
+}
+
+TEST_CASE("each story of a user is told in a section of the manual") {
+    const std::string text = manual();
+    std::size_t stories = 0;
+    for (const auto& entry : fs::directory_iterator("tests/scenarios")) {
+        if (entry.path().extension() != ".play") continue;
+        ++stories;
+        INFO(entry.path().string(), " has a line such as \"# Manual: making-axes\"");
+        const std::string story = contentOf(entry.path());
+        std::smatch named;
+        REQUIRE(std::regex_search(story, named, std::regex("\n# Manual: ([a-z-]+)\n")));
+        CHECK(text.find("[#" + named[1].str() + "]") != std::string::npos);
+    }
+    CHECK(stories > 40);
 }
