@@ -109,6 +109,13 @@ std::unique_ptr<Gdiplus::Bitmap> decodedPng(std::span<const std::byte> png) {
     return bitmap->GetLastStatus() == Gdiplus::Ok ? std::move(bitmap) : nullptr;
 }
 
+Gdiplus::Color solid(const Colour& colour) {
+    const auto byte = [](float value) {
+        return static_cast<BYTE>(std::lround(std::clamp(value, 0.0F, 1.0F) * 255.0F));
+    };
+    return {byte(colour.alpha), byte(colour.red), byte(colour.green), byte(colour.blue)};
+}
+
 std::uint32_t premultiplied(const Colour& colour, double alpha) {
     const double whole = std::clamp(colour.alpha * alpha, 0.0, 1.0);
     const auto byte = [](double value) {
@@ -135,10 +142,14 @@ std::uint32_t composed(std::uint32_t under, std::uint32_t over, std::uint32_t pa
 
 } // namespace
 
-GdiplusPainter::Layer::Layer(int width, int height)
-    : samples(static_cast<std::size_t>(width) * static_cast<std::size_t>(height)),
+GdiplusPainter::Layer::Layer(int width, int height) : Layer(nullptr, width, height) {}
+
+GdiplusPainter::Layer::Layer(std::uint32_t* pixels, int width, int height)
+    : own(pixels != nullptr ? 0
+                            : static_cast<std::size_t>(width) * static_cast<std::size_t>(height)),
+      samples(pixels != nullptr ? pixels : own.data()),
       bitmap(std::make_unique<Gdiplus::Bitmap>(width, height, 4 * width, PixelFormat32bppPARGB,
-                                               reinterpret_cast<BYTE*>(samples.data()))),
+                                               reinterpret_cast<BYTE*>(samples))),
       graphics(std::make_unique<Gdiplus::Graphics>(bitmap.get())) {
     graphics->SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf); // samples at the pixels' middles
     graphics->SetSmoothingMode(Gdiplus::SmoothingModeNone);
@@ -150,6 +161,13 @@ GdiplusPainter::GdiplusPainter(int width, int firstRow, int rows)
       height_(kSamples * rows), matrix_{kSamples, 0, 0,
                                         kSamples, 0, -static_cast<double>(kSamples) * firstRow} {
     layers_.push_back(std::make_unique<Layer>(width_, height_));
+}
+
+GdiplusPainter::GdiplusPainter(std::uint32_t* pixels, int width, int height)
+    : direct_(true), width_(width), height_(height) {
+    layers_.push_back(std::make_unique<Layer>(pixels, width, height));
+    graphics().SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
+    graphics().SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAlias);
 }
 
 void GdiplusPainter::save() {
@@ -196,11 +214,7 @@ void GdiplusPainter::stroke(const Outline& outline, const Pen& pen, const Ink& i
 void GdiplusPainter::paint(const Gdiplus::GraphicsPath& path, const Gdiplus::Pen* pen,
                            const Ink& ink) {
     if (ink.gradient != nullptr) return paintGradient(path, pen, ink);
-    const auto byte = [](float value) {
-        return static_cast<BYTE>(std::lround(std::clamp(value, 0.0F, 1.0F) * 255.0F));
-    };
-    const Gdiplus::Color colour{byte(ink.colour.alpha), byte(ink.colour.red),
-                                byte(ink.colour.green), byte(ink.colour.blue)};
+    const Gdiplus::Color colour = solid(ink.colour);
     if (pen == nullptr) {
         const Gdiplus::SolidBrush brush{colour};
         graphics().FillPath(&brush, &path);
@@ -233,7 +247,7 @@ void GdiplusPainter::paintGradient(const Gdiplus::GraphicsPath& path, const Gdip
     const int bottom = within(bounds.Y + bounds.Height + grown + 1, height_);
     if (left >= right || top >= bottom) return;
 
-    std::vector<std::uint32_t>& target = layers_.back()->samples;
+    std::uint32_t* const target = layers_.back()->samples;
     layers_.push_back(newLayer());
     paint(path, pen, {{1, 1, 1, 1}, nullptr, {}});
     graphics().Flush(Gdiplus::FlushIntentionSync);
@@ -269,13 +283,14 @@ void GdiplusPainter::endGroup(double opacity) {
     const std::unique_ptr<Layer> group = std::move(layers_.back());
     layers_.pop_back();
     const auto part = static_cast<std::uint32_t>(std::lround(std::clamp(opacity, 0.0, 1.0) * 255));
-    std::vector<std::uint32_t>& target = layers_.back()->samples;
-    for (std::size_t i = 0; i < target.size(); ++i)
+    std::uint32_t* const target = layers_.back()->samples;
+    for (std::size_t i = 0; i < group->own.size(); ++i)
         if (group->samples[i] >> 24 != 0) target[i] = composed(target[i], group->samples[i], part);
 }
 
 /// Letters become outlines at the origin, which the coordinates then place: mirrored text is
-/// painted mirrored.
+/// painted mirrored. Only upright ones that are painted straight on pixels are set by GDI+, which
+/// smooths letters where it smooths nothing else.
 void GdiplusPainter::text(const std::string& text, const svg::Font& font, Point start,
                           const Ink& ink) {
     const auto family = familyOf(font);
@@ -284,6 +299,19 @@ void GdiplusPainter::text(const std::string& text, const svg::Font& font, Point 
     const float ascent = size * static_cast<float>(family->GetCellAscent(style)) /
                          static_cast<float>(family->GetEmHeight(style));
     const std::wstring letters = wide(text);
+    const bool upright =
+        matrix_.b == 0 && matrix_.c == 0 && matrix_.a > 0 && matrix_.a == matrix_.d;
+    if (direct_ && upright && ink.gradient == nullptr) {
+        const double zoom = matrix_.a;
+        const Gdiplus::Font set{family.get(), static_cast<float>(font.size * zoom), style,
+                                Gdiplus::UnitPixel};
+        const Gdiplus::SolidBrush brush{solid(ink.colour)};
+        Gdiplus::PointF corner = pointF(matrix_ * start);
+        corner.Y -= ascent * static_cast<float>(zoom);
+        graphics().DrawString(letters.c_str(), static_cast<INT>(letters.size()), &set, corner,
+                              Gdiplus::StringFormat::GenericTypographic(), &brush);
+        return;
+    }
     Gdiplus::GraphicsPath path{Gdiplus::FillModeWinding};
     path.AddString(letters.c_str(), static_cast<INT>(letters.size()), family.get(), style, size,
                    Gdiplus::PointF{0, -ascent}, Gdiplus::StringFormat::GenericTypographic());
@@ -351,7 +379,7 @@ std::unique_ptr<Gdiplus::GraphicsPath> GdiplusPainter::pathOf(const Outline& out
 
 void GdiplusPainter::readRows(std::uint8_t* target) const {
     layers_.front()->graphics->Flush(Gdiplus::FlushIntentionSync);
-    const std::uint32_t* const samples = layers_.front()->samples.data();
+    const std::uint32_t* const samples = layers_.front()->samples;
     constexpr std::uint32_t kCount = kSamples * kSamples;
     for (int y = 0; y < height_; y += kSamples) {
         for (int x = 0; x < width_; x += kSamples) {

@@ -26,6 +26,10 @@ public:
 
     /// Rows `firstRow` to `firstRow + rows` of a picture of that width.
     GdiplusPainter(int width, int firstRow, int rows);
+    /// Straight on rows of pixels in Windows' order, multiplied by alpha, a sample to a pixel:
+    /// quick enough for a window that follows the mouse. GDI+ must be running as long as the
+    /// painter is.
+    GdiplusPainter(std::uint32_t* pixels, int width, int height);
 
     void save() override;
     void restore() override;
@@ -46,7 +50,9 @@ private:
     /// A picture of samples, and what GDI+ paints on it with. Colours are multiplied by alpha.
     struct Layer {
         Layer(int width, int height);
-        std::vector<std::uint32_t> samples;
+        Layer(std::uint32_t* pixels, int width, int height);
+        std::vector<std::uint32_t> own; ///< Empty when the samples are somebody else's.
+        std::uint32_t* samples;
         std::unique_ptr<Gdiplus::Bitmap> bitmap;
         std::unique_ptr<Gdiplus::Graphics> graphics;
     };
@@ -62,8 +68,9 @@ private:
     void paintGradient(const Gdiplus::GraphicsPath& path, const Gdiplus::Pen* pen, const Ink& ink);
     std::unique_ptr<Layer> newLayer();
 
-    int width_;  ///< In samples.
-    int height_; ///< In samples.
+    bool direct_ = false; ///< A sample to a pixel: letters are fitted to them.
+    int width_;           ///< In samples.
+    int height_;          ///< In samples.
     Matrix matrix_;
     std::vector<State> saved_;
     std::vector<std::unique_ptr<Layer>> layers_;

@@ -48,24 +48,28 @@ void paintPaper(const DocumentView& view, Painter& painter) {
 
 } // namespace
 
+void paintPage(const DocumentView& view, Painter& painter, const ViewPictureOptions& options) {
+    PaintOptions art;
+    art.guides = view.showGuides;
+    art.scale = static_cast<double>(view.zoom) * options.scale;
+    const Point far{static_cast<double>(view.width), static_cast<double>(view.height)};
+    painter.fill(rectangle({0, 0}, far), FillRule::NonZero,
+                 {options.darkTheme ? kDarkPasteboard : kLightPasteboard, nullptr, {}});
+    paintPaper(view, painter);
+    painter.save();
+    painter.transform(toPixels(view));
+    paintArt(*view.document, painter, art);
+    painter.restore();
+}
+
 Picture paintView(const DocumentView& view, const DisplayList& annotations,
                   const ViewPictureOptions& options) {
     const double width = std::ceil(view.width * options.scale - 1e-6);
     const double height = std::ceil(view.height * options.scale - 1e-6);
     checkPictureSize(std::max(1.0, width), std::max(1.0, height));
-    PaintOptions art;
-    art.guides = view.showGuides;
-    art.scale = static_cast<double>(view.zoom) * options.scale;
     const auto all = [&](Painter& painter) {
         painter.transform({options.scale, 0, 0, options.scale, 0, 0});
-        const Point far{static_cast<double>(view.width), static_cast<double>(view.height)};
-        painter.fill(rectangle({0, 0}, far), FillRule::NonZero,
-                     {options.darkTheme ? kDarkPasteboard : kLightPasteboard, nullptr, {}});
-        paintPaper(view, painter);
-        painter.save();
-        painter.transform(toPixels(view));
-        paintArt(*view.document, painter, art);
-        painter.restore();
+        paintPage(view, painter, options);
         paintAnnotations(annotations, painter);
     };
     return render(static_cast<int>(width), static_cast<int>(height), all);

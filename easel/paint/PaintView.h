@@ -12,6 +12,10 @@ struct ViewPictureOptions {
     bool darkTheme = false;
 };
 
+/// What lies below the annotations: the pasteboard, the artboard with all art, and guides. Current
+/// coordinates are pixels of the view.
+void paintPage(const DocumentView& view, Painter& painter, const ViewPictureOptions& options);
+
 /// What the window shows: the pasteboard, the artboard with all art, guides, and over them what
 /// annotators have drawn. Throws std::length_error when it would be too large.
 [[nodiscard]] Picture paintView(const DocumentView& view, const DisplayList& annotations,
