@@ -85,7 +85,7 @@ void Documents::edit(const std::string& undoText, const std::function<void(Docum
     contexts_.pop(context);
 }
 
-bool Documents::collectChanges() {
+DocumentChanges Documents::collectChanges() {
     struct Row {
         bool DocumentChanges::*what;
         std::string_view type;
@@ -103,14 +103,16 @@ bool Documents::collectChanges() {
         {&DocumentChanges::art, kArtPropertiesChangedNotifier},
         {&DocumentChanges::art, "AI Document Changed Notifier"},
     };
-    bool any = false;
+    DocumentChanges all;
     for (const auto& document : all_) {
         const DocumentChanges changes = document->takeChanges();
-        any = any || changes.any();
-        for (const Row& row : kRows)
-            if (changes.*row.what) notifiers_.queue(row.type);
+        for (const Row& row : kRows) {
+            if (!(changes.*row.what)) continue;
+            all.*row.what = true;
+            notifiers_.queue(row.type);
+        }
     }
-    return any;
+    return all;
 }
 
 } // namespace easel

@@ -40,8 +40,8 @@ public:
     /// One undo step with that menu text. Choosing what is selected is a silent one.
     void edit(const std::string& undoText, const std::function<void(Document&)>& change,
               AIUndoContextKind kind);
-    /// Queues notifications of what has changed. True when anything has.
-    bool collectChanges();
+    /// Queues notifications of what has changed, and returns that, of all documents together.
+    DocumentChanges collectChanges();
 
 private:
     Session& session_;

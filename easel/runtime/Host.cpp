@@ -77,7 +77,11 @@ void Host::idle() {
 }
 
 void Host::collectChanges() {
-    if (documents_.collectChanges()) redrawLater();
+    const DocumentChanges changes = documents_.collectChanges();
+    if (!changes.any()) return;
+    stale_ = true;
+    if (changes.art || changes.layerSet || changes.layerOptions || changes.rulerOrigin)
+        ++pageVersion_;
 }
 
 std::vector<std::string> Host::complaints() const {

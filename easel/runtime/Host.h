@@ -152,7 +152,14 @@ public:
     /// Degrees; what Shift and the host's own tools go by.
     void setConstrainAngle(double degrees);
     /// The window no longer shows what there is; it will be painted when there is time.
-    void redrawLater() noexcept { stale_ = true; }
+    void redrawLater() noexcept {
+        stale_ = true;
+        ++pageVersion_;
+    }
+    /// Everything is to be painted anew, not only the areas that annotators have invalidated.
+    [[nodiscard]] bool isStale() const noexcept { return stale_; }
+    /// Counts the changes of what lies below the annotations: art, view, theme.
+    [[nodiscard]] std::uint64_t pageVersion() const noexcept { return pageVersion_; }
     [[nodiscard]] bool needsRedraw() const noexcept {
         return stale_ || !annotators.invalid.empty();
     }
@@ -204,6 +211,7 @@ private:
     Documents documents_;
     bool inIdle_ = false;
     bool stale_ = false;
+    std::uint64_t pageVersion_ = 0;
 };
 
 } // namespace easel

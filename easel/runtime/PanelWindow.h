@@ -34,11 +34,18 @@ struct PopupLine {
     std::vector<PopupLine> submenu;
 };
 
+/// Where panels lie in the host's own window; without one they float.
+struct PanelDock {
+    AIPanelPlatformWindow window = nullptr;
+    std::function<void()> changed; ///< A panel is shown or hidden, or has another size.
+};
+
 /// The window around a panel's client area. Where there are no windows it is nothing but a size.
 class PanelWindow {
 public:
-    /// Hidden at first.
-    PanelWindow(const std::u32string& title, AISize size, bool resizable, PanelWindowEvents events);
+    /// Hidden at first. `dock` outlives it.
+    PanelWindow(const std::u32string& title, AISize size, bool resizable, PanelWindowEvents events,
+                const PanelDock& dock);
     ~PanelWindow();
     PanelWindow(const PanelWindow&) = delete;
     PanelWindow& operator=(const PanelWindow&) = delete;
@@ -49,7 +56,7 @@ public:
     void setSize(AISize size);
     void setButtons(PanelButtons buttons);
     void show(bool shown);
-    /// Screen pixels.
+    /// Screen pixels; a panel in a dock lies where the dock puts it.
     void move(AIPoint topLeft);
     /// Lets the user choose from a menu under the flyout button; 0: chose nothing.
     [[nodiscard]] ai::uint32 popUp(const std::vector<PopupLine>& lines);

@@ -19,6 +19,7 @@ constexpr int kStripHeight = 18;
 constexpr int kButtonWidth = 22;
 constexpr WORD kFlyoutButton = 1;
 constexpr WORD kStateButton = 2;
+constexpr WORD kCloseButton = 3; ///< In a dock, where there is no title bar.
 
 SIZE pixels(AISize size) { return {std::lround(size.width), std::lround(size.height)}; }
 
@@ -72,10 +73,11 @@ void registerClass(const wchar_t* name, WNDPROC procedure) {
 
 } // namespace
 
-/// A tool window and, inside it, the client area as a child of its own: the plug-in never gets
-/// hold of the frame.
+/// A tool window, or a part of the dock, and inside it the client area as a child of its own: the
+/// plug-in never gets hold of the frame.
 struct PanelWindow::System {
-    System(const std::u32string& title, AISize initial, bool resizable, PanelWindowEvents handlers);
+    System(const std::u32string& title, AISize initial, bool resizable, PanelWindowEvents handlers,
+           const PanelDock& itsDock);
     ~System() {
         events = {}; // what goes on from here is not the user's doing
         DestroyWindow(frame);
@@ -85,11 +87,17 @@ struct PanelWindow::System {
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM first, LPARAM second);
     LRESULT handle(UINT message, WPARAM first, LPARAM second);
     void fitClient();
+    void paintTitle();
+    [[nodiscard]] bool isDocked() const { return dock.window != nullptr; }
+    void tellDock() const {
+        if (dock.changed) dock.changed();
+    }
     void setButton(WORD button, const wchar_t* glyph, bool shown);
     /// Where the flyout menu hangs from, in screen pixels.
     [[nodiscard]] POINT belowFlyoutButton() const;
 
     PanelWindowEvents events;
+    const PanelDock& dock;
     HWND frame = nullptr;
     HWND client = nullptr;
     int stripHeight = 0;
@@ -98,15 +106,17 @@ struct PanelWindow::System {
 };
 
 PanelWindow::System::System(const std::u32string& title, AISize initial, bool resizable,
-                            PanelWindowEvents handlers)
-    : events(std::move(handlers)) {
+                            PanelWindowEvents handlers, const PanelDock& itsDock)
+    : events(std::move(handlers)), dock(itsDock) {
     registerClass(kFrameClass, procedure);
     registerClass(kClientClass, DefWindowProcW);
-    const DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN |
-                        (resizable ? WS_THICKFRAME : DWORD{0});
+    const DWORD floating = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN |
+                           (resizable ? WS_THICKFRAME : DWORD{0});
+    const DWORD style = isDocked() ? WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS : floating;
     const HINSTANCE program = GetModuleHandleW(nullptr);
-    frame = CreateWindowExW(WS_EX_TOOLWINDOW, kFrameClass, wide(title).c_str(), style, 0, 0, 0, 0,
-                            nullptr, nullptr, program, this);
+    frame =
+        CreateWindowExW(isDocked() ? 0 : WS_EX_TOOLWINDOW, kFrameClass, wide(title).c_str(), style,
+                        0, 0, 0, 0, reinterpret_cast<HWND>(dock.window), nullptr, program, this);
     if (frame == nullptr) throw ai::Error{kOutOfMemoryErr};
     client = CreateWindowExW(0, kClientClass, L"",
                              WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, 0, 0, 0, 0,
@@ -120,8 +130,9 @@ PanelWindow::System::System(const std::u32string& title, AISize initial, bool re
 
 SIZE PanelWindow::System::frameFor(SIZE area) const {
     RECT outer{0, 0, area.cx, area.cy + stripHeight};
-    AdjustWindowRectEx(&outer, static_cast<DWORD>(GetWindowLongPtrW(frame, GWL_STYLE)), FALSE,
-                       WS_EX_TOOLWINDOW);
+    if (!isDocked())
+        AdjustWindowRectEx(&outer, static_cast<DWORD>(GetWindowLongPtrW(frame, GWL_STYLE)), FALSE,
+                           WS_EX_TOOLWINDOW);
     return {outer.right - outer.left, outer.bottom - outer.top};
 }
 
@@ -133,6 +144,7 @@ void PanelWindow::System::setSize(AISize wanted) {
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     settingSize = false;
     fitClient();
+    tellDock();
 }
 
 void PanelWindow::System::fitClient() {
@@ -141,7 +153,7 @@ void PanelWindow::System::fitClient() {
     SetWindowPos(client, nullptr, 0, stripHeight, area.right, area.bottom - stripHeight,
                  SWP_NOZORDER | SWP_NOACTIVATE);
     int right = area.right;
-    for (const WORD button : {kFlyoutButton, kStateButton})
+    for (const WORD button : {kCloseButton, kFlyoutButton, kStateButton})
         if (const HWND window = GetDlgItem(frame, button))
             SetWindowPos(window, nullptr, right -= kButtonWidth, 0, kButtonWidth, stripHeight,
                          SWP_NOZORDER | SWP_NOACTIVATE);
@@ -155,8 +167,24 @@ void PanelWindow::System::setButton(WORD button, const wchar_t* glyph, bool show
         return;
     }
     const auto id = reinterpret_cast<HMENU>(static_cast<UINT_PTR>(button));
-    CreateWindowExW(0, L"BUTTON", glyph, WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON | BS_FLAT, 0, 0, 0,
-                    0, frame, id, GetModuleHandleW(nullptr), nullptr);
+    const HWND made =
+        CreateWindowExW(0, L"BUTTON", glyph, WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON | BS_FLAT, 0, 0,
+                        0, 0, frame, id, GetModuleHandleW(nullptr), nullptr);
+    SendMessageW(made, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), 0);
+}
+
+void PanelWindow::System::paintTitle() {
+    PAINTSTRUCT paint{};
+    const HDC dc = BeginPaint(frame, &paint);
+    RECT strip{6, 0, 0, stripHeight};
+    GetClientRect(frame, &paint.rcPaint);
+    strip.right = paint.rcPaint.right;
+    wchar_t title[128];
+    const int length = GetWindowTextW(frame, title, 128);
+    SelectObject(dc, GetStockObject(DEFAULT_GUI_FONT));
+    SetBkMode(dc, TRANSPARENT);
+    DrawTextW(dc, title, length, &strip, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS);
+    EndPaint(frame, &paint);
 }
 
 POINT PanelWindow::System::belowFlyoutButton() const {
@@ -196,19 +224,25 @@ LRESULT PanelWindow::System::handle(UINT message, WPARAM first, LPARAM second) {
     case WM_COMMAND:
         if (LOWORD(first) == kStateButton) tell(events.cycled);
         if (LOWORD(first) == kFlyoutButton) tell(events.flyout);
+        if (LOWORD(first) == kCloseButton) tell(events.closed);
+        return 0;
+    case WM_PAINT:
+        if (!isDocked()) break;
+        paintTitle();
         return 0;
     case WM_CLOSE:
         // The window stays: a panel that is closed can be shown again.
         tell(events.closed);
         return 0;
     default:
-        return DefWindowProcW(frame, message, first, second);
+        break;
     }
+    return DefWindowProcW(frame, message, first, second);
 }
 
 PanelWindow::PanelWindow(const std::u32string& title, AISize size, bool resizable,
-                         PanelWindowEvents events)
-    : system_(std::make_unique<System>(title, size, resizable, std::move(events))) {}
+                         PanelWindowEvents events, const PanelDock& dock)
+    : system_(std::make_unique<System>(title, size, resizable, std::move(events), dock)) {}
 
 PanelWindow::~PanelWindow() = default;
 
@@ -225,7 +259,9 @@ void PanelWindow::setSize(AISize size) { system_->setSize(size); }
 void PanelWindow::setButtons(PanelButtons buttons) {
     system_->setButton(kStateButton, L"\u2195", buttons.states);
     system_->setButton(kFlyoutButton, L"\u2261", buttons.flyout);
-    system_->stripHeight = buttons.states || buttons.flyout ? kStripHeight : 0;
+    system_->setButton(kCloseButton, L"\u00D7", system_->isDocked());
+    const bool strip = system_->isDocked() || buttons.states || buttons.flyout;
+    system_->stripHeight = strip ? kStripHeight : 0;
     system_->setSize(system_->size);
 }
 
@@ -233,7 +269,7 @@ ai::uint32 PanelWindow::popUp(const std::vector<PopupLine>& lines) {
     const Menu menu = popupMenu(lines);
     const POINT at = system_->belowFlyoutButton();
     // The menu goes away on a click elsewhere only when its owner is in front.
-    SetForegroundWindow(system_->frame);
+    SetForegroundWindow(GetAncestor(system_->frame, GA_ROOT));
     constexpr UINT kOptions = TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTALIGN;
     const BOOL chosen =
         TrackPopupMenu(menu.get(), kOptions, at.x, at.y, 0, system_->frame, nullptr);
@@ -242,9 +278,11 @@ ai::uint32 PanelWindow::popUp(const std::vector<PopupLine>& lines) {
 
 void PanelWindow::show(bool shown) {
     ShowWindow(system_->frame, shown ? SW_SHOWNOACTIVATE : SW_HIDE);
+    system_->tellDock();
 }
 
 void PanelWindow::move(AIPoint topLeft) {
+    if (system_->isDocked()) return;
     SetWindowPos(system_->frame, nullptr, topLeft.h, topLeft.v, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }

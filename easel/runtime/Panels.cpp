@@ -47,10 +47,14 @@ AIPanelRef Panels::add(Panel panel) {
     Panel& added = panels_.at(ref);
     added.window = std::make_unique<PanelWindow>(
         added.title, added.size, added.resizable,
-        PanelWindowEvents{[this, ref](AISize size) { act([&] { resize(ref, size); }); },
-                          [this, ref] { act([&] { close(ref); }); },
-                          [this, ref] { act([&] { cycle(ref); }); },
-                          [this, ref] { act([&] { chooseFromFlyout(ref, popUpFlyout(ref)); }); }});
+        PanelWindowEvents{[this, ref](AISize size) { act("", [&] { resize(ref, size); }); },
+                          [this, ref] { act("close", [&] { close(ref); }); },
+                          [this, ref] {
+                              const bool isCompact = at(ref).state == 1;
+                              act(isCompact ? "expand" : "collapse", [&] { cycle(ref); });
+                          },
+                          [this, ref] { chooseOnScreen(ref); }},
+        dock);
     showButtons(added);
     added.window->move(added.position);
     return ref;
@@ -160,6 +164,14 @@ bool Panels::canChoose(const FlyoutMenu& from, ai::uint32 id, int depth) const {
 void Panels::chooseFromFlyout(AIPanelRef ref, ai::uint32 id) {
     const bool can = canChoose(menu(at(ref).flyout), id, 0);
     tell(at(ref).callbacks.flyoutChosen, ref, can ? id : 0);
+}
+
+void Panels::chooseOnScreen(AIPanelRef ref) {
+    const ai::uint32 id = popUpFlyout(ref);
+    std::string deed;
+    for (const FlyoutItem& item : menu(at(ref).flyout).items)
+        if (id != 0 && item.id == id) deed = "flyout \"" + utf8FromUtf32(item.text) + '"';
+    act(deed, [&] { chooseFromFlyout(ref, id); });
 }
 
 ai::uint32 Panels::popUpFlyout(AIPanelRef ref) {

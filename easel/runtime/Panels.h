@@ -42,7 +42,7 @@ struct PanelCallbacks {
 struct PanelSizes {
     AISize least{};
     AISize floating{}; ///< The interface calls it unconstrained.
-    AISize docked{};   ///< Constrained. Easel docks nothing.
+    AISize docked{};   ///< Constrained.
     AISize greatest{};
     AIReal step = 1; ///< A resizable one's height is the least and whole steps.
 };
@@ -112,14 +112,20 @@ public:
     /// The user opens the flyout menu on the screen and chooses; 0: nothing.
     [[nodiscard]] ai::uint32 popUpFlyout(AIPanelRef panel);
 
+    PanelDock dock; ///< Of the panels that are made from now on.
+    /// Hears what the user does to a panel's window, in a script's words, before it is done.
+    std::function<void(const std::string& deed)> overhears;
+
     /// What a plug-in leaves behind at its end is gone; a line for each.
     std::vector<std::string> removeAllOf(SPPluginRef plugin);
 
 private:
-    template <typename Act> void act(Act act) {
+    template <typename Act> void act(const std::string& deed, Act act) {
+        if (overhears && !deed.empty()) overhears(deed);
         act();
         userHasActed_();
     }
+    void chooseOnScreen(AIPanelRef panel);
     [[nodiscard]] std::vector<PopupLine> popupLines(const FlyoutMenu& menu, int depth) const;
     [[nodiscard]] bool canChoose(const FlyoutMenu& menu, ai::uint32 id, int depth) const;
 

@@ -7,9 +7,8 @@
 namespace easel {
 namespace {
 
-/// Without a window there is none to own a dialog.
 AIErr getPlatformAppWindow(AIWindowRef* window) {
-    required(window) = nullptr;
+    required(window) = host().user.appWindow;
     return kNoErr;
 }
 

@@ -44,7 +44,8 @@ AIErr launchApp(const ai::FilePath& path, AIBoolean /*openDocument*/) {
 }
 
 AIAnswer ask(const char* kind, const ai::UnicodeString& text) {
-    user().alerts.push_back({kind, readUtf8(session().ledger, text)});
+    const Alert alert = user().alerts.emplace_back(kind, readUtf8(session().ledger, text));
+    if (user().showAlert) return user().showAlert(alert);
     if (user().answers.empty()) return kYes;
     const AIAnswer answer = user().answers.front();
     user().answers.pop_front();
@@ -52,7 +53,8 @@ AIAnswer ask(const char* kind, const ai::UnicodeString& text) {
 }
 
 void tell(const char* kind, const ai::UnicodeString& text) {
-    user().alerts.push_back({kind, readUtf8(session().ledger, text)});
+    const Alert alert = user().alerts.emplace_back(kind, readUtf8(session().ledger, text));
+    if (user().showAlert) static_cast<void>(user().showAlert(alert));
 }
 
 void warningAlert(const ai::UnicodeString& text, const char* /*key*/) { tell("warning", text); }
@@ -76,7 +78,7 @@ AIErr createCursors(SPPluginRef plugin, AIResourceManagerHandle* manager) {
 
 AIErr setCursor(ai::int32 cursor, AIResourceManagerHandle manager) {
     // The host's own cursors, the negative ones, belong to no manager.
-    if (cursor >= 0) static_cast<void>(user().cursorManagers.at(manager));
+    user().cursorOwner = cursor >= 0 ? user().cursorManagers.at(manager) : nullptr;
     user().cursor = cursor;
     return kNoErr;
 }

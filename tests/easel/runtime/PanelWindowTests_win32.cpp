@@ -23,6 +23,8 @@ easel::PanelWindowEvents recordIn(Recorded& recorded) {
             {}};
 }
 
+const easel::PanelDock kNoDock{};
+
 HWND clientOf(const easel::PanelWindow& window) { return reinterpret_cast<HWND>(window.client()); }
 
 SIZE sizeOf(HWND window) {
@@ -35,7 +37,8 @@ SIZE sizeOf(HWND window) {
 
 TEST_CASE("a panel's client area is a child window of just the size asked for") {
     Recorded recorded;
-    easel::PanelWindow window(U"Panel", {240, 188}, /*resizable*/ false, recordIn(recorded));
+    easel::PanelWindow window(U"Panel", {240, 188}, /*resizable*/ false, recordIn(recorded),
+                              kNoDock);
     const HWND client = clientOf(window);
     const HWND frame = GetParent(client);
     REQUIRE(frame != nullptr);
@@ -57,7 +60,8 @@ TEST_CASE("a panel's client area is a child window of just the size asked for") 
 
 TEST_CASE("what the user does to a panel's window is reported, and the window stays") {
     Recorded recorded;
-    easel::PanelWindow window(U"Panel", {240, 188}, /*resizable*/ true, recordIn(recorded));
+    easel::PanelWindow window(U"Panel", {240, 188}, /*resizable*/ true, recordIn(recorded),
+                              kNoDock);
     const HWND frame = GetParent(clientOf(window));
     RECT outer{};
     GetWindowRect(frame, &outer);
@@ -74,7 +78,8 @@ TEST_CASE("what the user does to a panel's window is reported, and the window st
 
 TEST_CASE("buttons stand above the client area and take nothing from it") {
     Recorded recorded;
-    easel::PanelWindow window(U"Panel", {240, 188}, /*resizable*/ true, recordIn(recorded));
+    easel::PanelWindow window(U"Panel", {240, 188}, /*resizable*/ true, recordIn(recorded),
+                              kNoDock);
     const HWND frame = GetParent(clientOf(window));
     window.setButtons({.states = true, .flyout = true});
     CHECK(sizeOf(clientOf(window)).cy == 188);
@@ -98,7 +103,8 @@ TEST_CASE("buttons stand above the client area and take nothing from it") {
 
 TEST_CASE("the flyout menu is chosen from by keyboard; disabled lines cannot be chosen") {
     Recorded recorded;
-    easel::PanelWindow window(U"Panel", {240, 188}, /*resizable*/ false, recordIn(recorded));
+    easel::PanelWindow window(U"Panel", {240, 188}, /*resizable*/ false, recordIn(recorded),
+                              kNoDock);
     window.setButtons({.states = false, .flyout = true});
     window.show(true);
     const HWND frame = GetParent(clientOf(window));
@@ -130,9 +136,33 @@ TEST_CASE("a panel destroyed while it tells of its end does no harm") {
     std::unique_ptr<easel::PanelWindow> window;
     window = std::make_unique<easel::PanelWindow>(
         U"Panel", AISize{100, 100}, false,
-        easel::PanelWindowEvents{{}, [&window] { window.reset(); }, {}, {}});
+        easel::PanelWindowEvents{{}, [&window] { window.reset(); }, {}, {}}, kNoDock);
     const HWND frame = GetParent(clientOf(*window));
     SendMessageW(frame, WM_CLOSE, 0, 0);
     CHECK(window == nullptr);
     CHECK(IsWindow(frame) == FALSE);
+}
+
+TEST_CASE("in a dock a panel is a child of the dock, with its title and buttons inside") {
+    const HWND parent = CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 300, 400, nullptr,
+                                        nullptr, nullptr, nullptr);
+    int arranged = 0;
+    const easel::PanelDock dock{reinterpret_cast<AIPanelPlatformWindow>(parent),
+                                [&arranged] { ++arranged; }};
+    Recorded recorded;
+    easel::PanelWindow window(U"Panel", {240, 188}, /*resizable*/ false, recordIn(recorded), dock);
+    window.setButtons({.states = true, .flyout = true});
+    const HWND frame = GetParent(clientOf(window));
+    CHECK(GetParent(frame) == parent);
+    CHECK(sizeOf(clientOf(window)).cx == 240);
+    CHECK(sizeOf(clientOf(window)).cy == 188);
+    CHECK(sizeOf(frame).cy > 188);
+    const int before = arranged;
+    window.show(true);
+    CHECK(arranged == before + 1);
+    const HWND close = FindWindowExW(frame, nullptr, L"BUTTON", L"\u00D7");
+    REQUIRE(close != nullptr);
+    SendMessageW(close, BM_CLICK, 0, 0);
+    CHECK(recorded.closed == 1);
+    DestroyWindow(parent);
 }
