@@ -33,6 +33,14 @@ std::size_t keyNamed(const std::string& name) {
 
 } // namespace
 
+std::string nameOfKey(std::size_t code) {
+    for (const KeyName& key : kKeys)
+        if (key.code == code) return key.name;
+    if (code >= '0' && code <= '9') return {static_cast<char>(code)};
+    if (code >= 'A' && code <= 'Z') return {static_cast<char>(code - 'A' + 'a')};
+    return {};
+}
+
 std::string textOf(Place place) {
     return svg::formatNumber(place.x) + ',' + svg::formatNumber(place.y) +
            (place.pixels ? "px" : "");

@@ -55,5 +55,7 @@ inline constexpr std::size_t kShiftKey = 0x10;
 inline constexpr std::size_t kControlKey = 0x11;
 inline constexpr std::size_t kAltKey = 0x12;
 inline constexpr std::size_t kSpaceKey = 0x20;
+/// What "with" calls the key of that virtual key code; empty when scripts know no such key.
+[[nodiscard]] std::string nameOfKey(std::size_t code);
 
 } // namespace easel::script

@@ -4,6 +4,7 @@
 #include "easel/document/Attributes.h"
 #include "easel/document/Dump.h"
 #include "easel/document/Layers.h"
+#include "easel/document/SelectedArt.h"
 #include "easel/script/Deeds.h"
 #include "easel/script/System.h"
 
@@ -98,7 +99,19 @@ constexpr LayerDeed kLayerDeeds[] = {
     {"show", "Show Layer", setFlag<kArtHidden, false>},
 };
 
+Action readRename(Arguments& arguments) {
+    const std::string title = arguments.text("title");
+    return [title, name = arguments.text("new title")](Player& player) {
+        static_cast<void>(player.document());
+        player.host().edit("Rename Layer", [&](Document& document) {
+            changeLayer(layerNamed(document, title),
+                        [&](LayerProperties& layer) { layer.title = name; });
+        });
+    };
+}
+
 Action readLayer(Arguments& arguments) {
+    if (arguments.take("rename")) return readRename(arguments);
     std::vector<const char*> names;
     for (const LayerDeed& deed : kLayerDeeds)
         names.push_back(deed.name);
@@ -157,6 +170,23 @@ Action readDelete(Arguments& arguments) {
             for (Art* const art : named)
                 disposeArt(*art);
         });
+    };
+}
+
+Action readClear(Arguments&) {
+    return [](Player& player) {
+        static_cast<void>(player.document());
+        player.host().edit("Clear", deleteSelected);
+    };
+}
+
+Action readNudge(Arguments& arguments) {
+    const double right = arguments.number("way to the right");
+    const double down = arguments.number("way down");
+    return [=](Player& player) {
+        static_cast<void>(player.document());
+        player.host().edit("Move",
+                           [=](Document& document) { moveSelected(document, right, -down); });
     };
 }
 
@@ -382,11 +412,13 @@ constexpr CommandRow kCommands[] = {
      readSwitch, UnderDialog::Done},
     {"close", "", "Closes the drawing in front; the first of those left comes to the front",
      readClose, UnderDialog::Done},
-    {"layer", "choose|add|delete|lock|unlock|hide|show TITLE",
+    {"layer", "choose|add|delete|lock|unlock|hide|show TITLE, or rename TITLE NEW",
      "Does that to the layer of that title; a new one lies on top and is current", readLayer},
     {"select", "all|none|ID...",
      "Selects everything, nothing, or the art that has one of these ids or names", readSelect},
     {"delete", "ID", "Deletes the art of that id or name", readDelete},
+    {"nudge", "RIGHT DOWN", "Moves what is selected by so many user units", readNudge},
+    {"clear", "", "Deletes what is selected", readClear},
     {"tool", "NAME|options",
      "Takes that tool in hand, or double-clicks the icon of the one in hand", readTool},
     {"key", "[|] [COUNT]", "Taps that key between drags, COUNT times", readKey},

@@ -38,7 +38,7 @@ void Player::start() {
     addPluginLibrary(session_->host, settings_.plugin);
     session_->host.annotators.textWidth = paint::annotationWidth; // as it will be painted
     session_->start();
-    takeOverClocks();
+    if (!settings_.live) takeOverClocks();
     started_ = true;
 }
 
@@ -69,7 +69,7 @@ DocumentView& Player::view() {
 void Player::reload() {
     for (const SPPluginRef plugin : host().plugins.handles())
         host().reload(plugin, /*evenIfHeld*/ true);
-    takeOverClocks();
+    if (!settings_.live) takeOverClocks();
 }
 
 void Player::restart() {
@@ -92,7 +92,7 @@ void Player::restart() {
 
 std::vector<std::string> Player::finish() {
     if (!std::exchange(started_, false)) return {};
-    holdKeys({});
+    if (!settings_.live) holdKeys({});
     std::vector<std::string> complaints = session_->finish();
     while (const auto alert = takeAlert())
         complaints.push_back("an alert that nobody expected: \"" + *alert + '"');
@@ -101,18 +101,21 @@ std::vector<std::string> Player::finish() {
 
 void Player::beginCommand(const HeldKeys& keys) {
     keys_ = keys;
-    holdKeys(keys);
+    if (!settings_.live) holdKeys(keys);
     snapsBefore_ = session_->host.cursorSnap.calls.size();
+}
+
+void Player::redraw() {
+    if (all_.current == nullptr)
+        shown_.clear();
+    else if (session_->host.needsRedraw())
+        shown_ = session_->host.drawAnnotations(nullptr);
 }
 
 void Player::endCommand() {
     if (!started_) return;
-    Host& host = session_->host;
-    if (all_.current == nullptr)
-        shown_.clear();
-    else if (host.needsRedraw())
-        shown_ = host.drawAnnotations(nullptr);
-    const std::vector<SentMessage>& sent = host.sent;
+    if (!settings_.live) redraw();
+    const std::vector<SentMessage>& sent = session_->host.sent;
     const std::size_t seen = std::exchange(messagesSeen_, sent.size());
     const auto wrong = std::find_if(sent.begin() + static_cast<std::ptrdiff_t>(seen), sent.end(),
                                     [](const SentMessage& each) { return each.result != kNoErr; });

@@ -22,6 +22,9 @@ struct PlayerSettings {
     std::filesystem::path output; ///< Where what it writes goes.
     std::string name = "script";  ///< Of the pictures that failures keep.
     Switches host = {};           ///< What kind of host the script begins with.
+    /// A real user sits there: keys and time are the system's own, and who shows the window asks
+    /// for what is drawn over it when there is time to paint.
+    bool live = false;
 };
 
 /// The user whom a script describes: hands on mouse and keys, eyes on the window. One plays one
@@ -37,6 +40,8 @@ public:
     [[nodiscard]] Preferences& preferences() noexcept { return session_->host.preferences; }
     /// What kind of host it is; that can change at any time.
     [[nodiscard]] Switches& switches() noexcept { return all_.switches; }
+    /// The host as it is, started or not.
+    [[nodiscard]] Host& bareHost() noexcept { return session_->host; }
     /// The host with its plug-in started.
     [[nodiscard]] Host& host();
     [[nodiscard]] DrawingSession& session();
@@ -73,6 +78,8 @@ public:
     /// In user units.
     [[nodiscard]] svg::Point userUnits(svg::Point pixels);
 
+    /// Has annotators draw again, if anything has asked for that.
+    void redraw();
     /// What annotators have painted over the art.
     [[nodiscard]] const DisplayList& shown() const noexcept { return shown_; }
     [[nodiscard]] paint::Picture picture(double scale);

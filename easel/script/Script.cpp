@@ -159,14 +159,20 @@ private:
 
 } // namespace
 
+std::optional<Step> readLine(std::string_view text, int line) {
+    std::vector<Word> words = wordsOf(text);
+    if (words.empty()) return std::nullopt;
+    return readStep(std::move(words), line);
+}
+
 Script readScript(std::string_view text, const std::string& name) {
     Script script;
     int line = 0;
     for (const std::string_view each : linesOf(text)) {
         ++line;
         try {
-            std::vector<Word> words = wordsOf(each);
-            if (!words.empty()) script.steps.push_back(readStep(std::move(words), line));
+            if (std::optional<Step> step = readLine(each, line))
+                script.steps.push_back(std::move(*step));
         } catch (const Mistake& mistake) {
             script.mistakes.push_back(placeOf(name, line) + mistake.what());
         }

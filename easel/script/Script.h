@@ -13,6 +13,9 @@ struct Step {
     Check check;
 };
 
+/// One line alone; nothing when it holds no words. Throws Mistake.
+[[nodiscard]] std::optional<Step> readLine(std::string_view text, int line = 1);
+
 struct Script {
     std::vector<Step> steps;
     /// What could not be understood, a line each: "NAME:LINE: what is wrong; what would be right".
