@@ -1,6 +1,9 @@
 # Short names for the scripts that do the work; docs/building.md tells what each does.
 
-.PHONY: demo check dist package bench format tidy
+.PHONY: demo check dist package bench format tidy open
 
 demo check dist package bench format tidy:
 	scripts/$@
+
+open:
+	scripts/open $(FILE)

@@ -4,6 +4,7 @@
 #include "easel/cli/Terminal.h"
 #include "easel/script/Commands.h"
 #include "easel/suites/Suites.h"
+#include "easel/window/Window.h"
 
 #include "Version.h"
 
@@ -149,6 +150,33 @@ ExitStatus play(const PlayWords& words) {
     return easel::runPlay(easel::sessionWithSuites(), command, std::cout, std::cerr);
 }
 
+struct OpenWords {
+    std::string file;
+    std::string record;
+    std::string plugin;
+};
+
+void addOpen(CLI::App& app, OpenWords& words) {
+    CLI::App* const open = app.add_subcommand("open", "Show a window to draw in");
+    open->add_option("file", words.file, "The drawing; an empty one if none is named")
+        ->type_name("FILE.svg");
+    open->add_option("--record", words.record, "Keep what is done as a script for \"play\"")
+        ->type_name("FILE.play");
+    open->add_option("--plugin", words.plugin, "The plug-in's library")->type_name("FILE");
+}
+
+ExitStatus open(const OpenWords& words) {
+    const auto problems = easel::window::openWindow(
+        easel::sessionWithSuites(),
+        {.file = easel::pathFromUtf8(words.file),
+         .record = easel::pathFromUtf8(words.record),
+         .plugin = words.plugin.empty() ? easel::defaultPluginLibrary()
+                                        : easel::pathFromUtf8(words.plugin)});
+    for (const std::string& problem : problems)
+        std::cerr << "easel: " << problem << '\n';
+    return problems.empty() ? ExitStatus::Done : ExitStatus::Fault;
+}
+
 /// Takes the arguments without the program's name.
 int run(std::vector<std::string> arguments) {
     CLI::App app{"Easel opens drawings, mirrors them with the Facetta plug-in and saves them.",
@@ -162,6 +190,8 @@ int run(std::vector<std::string> arguments) {
     PlayWords playWords;
     addInfo(app, infoWords);
     addPlay(app, playWords);
+    OpenWords openWords;
+    addOpen(app, openWords);
     try {
         std::reverse(arguments.begin(), arguments.end()); // the parser takes them from the back
         app.parse(std::move(arguments));
@@ -169,6 +199,7 @@ int run(std::vector<std::string> arguments) {
         return static_cast<int>(app.exit(error) == 0 ? ExitStatus::Done : ExitStatus::Usage);
     }
     if (app.got_subcommand("info")) return static_cast<int>(info(infoWords));
+    if (app.got_subcommand("open")) return static_cast<int>(open(openWords));
     if (app.got_subcommand("play")) return static_cast<int>(play(playWords));
     return static_cast<int>(mirror(mirrorWords));
 }

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "easel/window/Hand.h"
+#include "easel/window/NativeWindow.h"
+#include "easel/window/Pictures.h"
+
+namespace easel::window {
+
+/// Where the drawing is seen and drawn. Its pixels are those of the document's view.
+///
+///   1. What lies below the annotations is kept as a picture, painted again only when the host says
+///      that it has changed: at once and quickly, and once more, smoothly, when the hand rests.
+///   2. Over it come the selection and what annotators draw, within the area that is to be painted.
+///   3. Annotators are asked when the system asks to be painted, which it does when nothing else
+///      waits: no message to the plug-in waits for pixels.
+class Canvas : public NativeWindow {
+public:
+    explicit Canvas(Hand& hand) : hand_(hand) {}
+
+    void open(HWND parent);
+    /// Has the system ask for what the host says is to be painted.
+    void follow();
+    /// Called now and then: paints smoothly what has rested for a while.
+    void settle();
+    /// Tells the view how large the canvas is: after a document has come to the front.
+    void fitView();
+    /// The whole artboard in the middle.
+    void showAll();
+    /// The place on the canvas stays where it is.
+    void zoomAt(POINT place, double zoom);
+    void zoomBy(double factor);
+    /// A key of the tool's has gone down or up: it hears of that with the mouse where it is.
+    void tellKeys();
+
+private:
+    LRESULT handleMessage(UINT message, WPARAM first, LPARAM second) override;
+    void paint();
+    void paintPage(const DocumentView& view);
+    void paintSelection(const DocumentView& view, paint::Painter& painter);
+    void press(POINT at);
+    void move(POINT at);
+    void release();
+    void sendKeys(const char* command, POINT at);
+    [[nodiscard]] bool isBlocked() const;
+
+    enum class Held { Nothing, Tool, Paper };
+
+    Hand& hand_;
+    Cursors cursors_;
+    Pixels page_;
+    Pixels screen_;
+    std::uint64_t paintedVersion_ = 0; ///< Of the page; 0: never.
+    bool isDraft_ = false;
+    ULONGLONG draftSince_ = 0;
+    Held held_ = Held::Nothing;
+    POINT mouse_{};
+};
+
+} // namespace easel::window
