@@ -12,8 +12,8 @@ std::vector<Art*> selectedArt(const Document& document) {
     const Art& root = document.root();
     for (Art* art = nextInPreorder(root, root); art != nullptr;) {
         const Selected selected = art->isLayer() ? Selected::Partly : selectionOf(*art);
-        const bool whole = selected == Selected::Fully ||
-                           (selected == Selected::Partly && !isContainer(*art));
+        const bool whole =
+            selected == Selected::Fully || (selected == Selected::Partly && !isContainer(*art));
         if (whole) found.push_back(art);
         art = whole ? nextSkippingChildren(*art, root) : nextInPreorder(*art, root);
     }

@@ -10,8 +10,8 @@ namespace easel::script {
 /// they do is a line, carried out at once and kept. Played again from the start the lines lead to
 /// the same drawing.
 ///
-/// What follows one upon another and matters only as the last of its kind is kept as one line: moves
-/// of the mouse between gestures, sizes of the window, time that passes.
+/// What follows one upon another and matters only as the last of its kind is kept as one line:
+/// moves of the mouse between gestures, sizes of the window, time that passes.
 class LiveScript {
 public:
     explicit LiveScript(Player& player) : player_(player) {}

@@ -41,9 +41,7 @@ paint::Ink inkOf(const AIRGBColor& colour) {
 
 } // namespace
 
-void Canvas::open(HWND parent) {
-    create({.className = L"EaselCanvas", .parent = parent});
-}
+void Canvas::open(HWND parent) { create({.className = L"EaselCanvas", .parent = parent}); }
 
 void Canvas::follow() {
     Host& host = hand_.host();
@@ -96,8 +94,8 @@ void Canvas::showAll() {
     };
     const double zoom = std::min(fit(view.width, board.right - board.left),
                                  fit(view.height, board.top - board.bottom));
-    hand_.act("zoom " + svg::formatNumber(std::clamp(
-                            zoom, static_cast<double>(kLeastZoom), static_cast<double>(kMostZoom))));
+    hand_.act("zoom " + svg::formatNumber(std::clamp(zoom, static_cast<double>(kLeastZoom),
+                                                     static_cast<double>(kMostZoom))));
     const AIRealPoint middle =
         toView(view, {(board.left + board.right) / 2, (board.top + board.bottom) / 2});
     hand_.act("centre " + pixelPlace(middle.h, middle.v));
@@ -199,8 +197,8 @@ LRESULT Canvas::handleMessage(UINT message, WPARAM first, LPARAM second) {
         ScreenToClient(handle(), &place);
         const double notches = GET_WHEEL_DELTA_WPARAM(first) / static_cast<double>(WHEEL_DELTA);
         if (!isBlocked())
-            zoomAt(place, static_cast<double>(hand_.player.view().zoom) *
-                              std::pow(kWheelStep, notches));
+            zoomAt(place,
+                   static_cast<double>(hand_.player.view().zoom) * std::pow(kWheelStep, notches));
         return 0;
     }
     default:
@@ -270,8 +268,7 @@ void Canvas::paintSelection(const DocumentView& view, paint::Painter& painter) {
             const auto corner = [&](double x, double y) {
                 return svg::cornerAt({anchor.p.x + x * kAnchorHalf, anchor.p.y + y * kAnchorHalf});
             };
-            anchors.push_back(
-                {{corner(-1, -1), corner(1, -1), corner(1, 1), corner(-1, 1)}, true});
+            anchors.push_back({{corner(-1, -1), corner(1, -1), corner(1, 1), corner(-1, 1)}, true});
         }
         const Art* const layer = layerOf(*art);
         const paint::Ink ink =

@@ -39,9 +39,9 @@ struct KeyRow {
     const char* name;
 };
 constexpr KeyRow kKeys[] = {
-    {VK_RETURN, "enter"}, {VK_TAB, "tab"},     {VK_ESCAPE, "escape"},   {VK_SPACE, "space"},
-    {VK_UP, "up"},        {VK_DOWN, "down"},   {VK_LEFT, "left"},       {VK_RIGHT, "right"},
-    {VK_PRIOR, "page-up"}, {VK_NEXT, "page-down"}, {VK_HOME, "home"},   {VK_END, "end"},
+    {VK_RETURN, "enter"},  {VK_TAB, "tab"},        {VK_ESCAPE, "escape"}, {VK_SPACE, "space"},
+    {VK_UP, "up"},         {VK_DOWN, "down"},      {VK_LEFT, "left"},     {VK_RIGHT, "right"},
+    {VK_PRIOR, "page-up"}, {VK_NEXT, "page-down"}, {VK_HOME, "home"},     {VK_END, "end"},
 };
 
 } // namespace
@@ -75,7 +75,8 @@ DialogWatch::Item DialogWatch::itemOf(HWND window) const {
         const bool modal = isModal(dialog);
         bool inPanel = false;
         for (const auto& [ref, panel] : hand_.player.bareHost().panels.all())
-            inPanel = inPanel || GetParent(dialog) == reinterpret_cast<HWND>(panel->window->client());
+            inPanel =
+                inPanel || GetParent(dialog) == reinterpret_cast<HWND>(panel->window->client());
         if (modal || inPanel) return {dialog, up, GetDlgCtrlID(up), inPanel};
     }
     return {};
@@ -113,14 +114,17 @@ void DialogWatch::see(const MSG& message) {
 void DialogWatch::seeKey(const MSG& message) {
     const Item item = itemOf(message.hwnd);
     const bool alt = message.message == WM_SYSKEYDOWN;
-    if (item.window == nullptr && !(isModal(message.hwnd) && classOf(message.hwnd).starts_with(kDialogClass)))
+    if (item.window == nullptr &&
+        !(isModal(message.hwnd) && classOf(message.hwnd).starts_with(kDialogClass)))
         return;
     const Item place = item.window != nullptr ? item : Item{message.hwnd, nullptr, 0, false};
     const bool inField = classOf(message.hwnd) == L"Edit";
     if (alt) {
         leaveField("");
         if (message.wParam >= 'A' && message.wParam <= 'Z')
-            note(place, std::string("key ") + static_cast<char>(std::towlower(static_cast<wint_t>(message.wParam))) + " with alt");
+            note(place, std::string("key ") +
+                            static_cast<char>(std::towlower(static_cast<wint_t>(message.wParam))) +
+                            " with alt");
         return;
     }
     for (const KeyRow& row : kKeys) {
@@ -148,8 +152,8 @@ void DialogWatch::followField() {
     if (field_.window == nullptr || typed_) return;
     std::wstring text = textOf(editIn(field_.window));
     if (!std::exchange(settling_, false) && text != before_)
-        note(field_, "type " + std::to_string(field_.id) + ' ' + script::quoted(utf8(text)) +
-                         " then tab");
+        note(field_,
+             "type " + std::to_string(field_.id) + ' ' + script::quoted(utf8(text)) + " then tab");
     before_ = std::move(text);
 }
 
@@ -158,8 +162,7 @@ void DialogWatch::leaveField(const char* then) {
     if (field_.window == nullptr || !typed_) return;
     const std::wstring text = textOf(editIn(field_.window));
     const std::string ending = *then != 0 ? std::string(" then ") + then : std::string();
-    note(field_,
-         "type " + std::to_string(field_.id) + ' ' + script::quoted(utf8(text)) + ending);
+    note(field_, "type " + std::to_string(field_.id) + ' ' + script::quoted(utf8(text)) + ending);
     typed_ = false;
     settling_ = true;
 }

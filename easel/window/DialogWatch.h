@@ -7,10 +7,10 @@ namespace easel::window {
 /// Sees what the user does in the panels and modal dialogs of plug-ins, which are windows of the
 /// plug-in's own, and keeps it as lines of the script.
 ///
-/// Each message of mouse or keyboard is seen when a loop takes it from the queue, before it has done
-/// anything, also in the loops of modal dialogs. What a click or a key does to a button is kept then.
-/// What is set (a number, an entry, a slider) is kept by its outcome, when the next message comes:
-/// a value however it was reached.
+/// Each message of mouse or keyboard is seen when a loop takes it from the queue, before it has
+/// done anything, also in the loops of modal dialogs. What a click or a key does to a button is
+/// kept then. What is set (a number, an entry, a slider) is kept by its outcome, when the next
+/// message comes: a value however it was reached.
 class DialogWatch {
 public:
     explicit DialogWatch(Hand& hand);

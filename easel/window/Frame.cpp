@@ -86,10 +86,9 @@ HACCEL makeKeys() {
     std::vector<ACCEL> keys;
     for (const OwnItem& item : kItems) {
         const auto command = static_cast<WORD>(commandOf(item));
-        for (const auto& [held, key] : {std::pair{item.held, item.key},
-                                        std::pair{item.otherHeld, item.otherKey}})
-            if (key != 0)
-                keys.push_back({static_cast<BYTE>(held | FVIRTKEY), key, command});
+        for (const auto& [held, key] :
+             {std::pair{item.held, item.key}, std::pair{item.otherHeld, item.otherKey}})
+            if (key != 0) keys.push_back({static_cast<BYTE>(held | FVIRTKEY), key, command});
     }
     return CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size()));
 }
@@ -199,8 +198,7 @@ LRESULT Frame::handleMessage(UINT message, WPARAM first, LPARAM second) {
     case WM_MOUSEWHEEL:
         return SendMessageW(canvas_.handle(), message, first, second);
     case WM_ACTIVATE:
-        if (LOWORD(first) != WA_INACTIVE && canvas_.handle() != nullptr)
-            SetFocus(canvas_.handle());
+        if (LOWORD(first) != WA_INACTIVE && canvas_.handle() != nullptr) SetFocus(canvas_.handle());
         return 0;
     case WM_SYSCOMMAND:
         // Alt is a key of the tools: let go alone it must not take the keyboard to the menus.
@@ -322,7 +320,8 @@ void Frame::follow() {
     if (std::exchange(front_, front) != front) {
         canvas_.fitView();
         InvalidateRect(canvas_.handle(), nullptr, FALSE);
-        const std::wstring title = front != nullptr ? titleOf(*front) + L" - " + kProgram : kProgram;
+        const std::wstring title =
+            front != nullptr ? titleOf(*front) + L" - " + kProgram : kProgram;
         SetWindowTextW(handle(), title.c_str());
     }
     canvas_.follow();
@@ -341,7 +340,7 @@ void Frame::showStatus() {
             ai::int32 number;
             const wchar_t* name;
         };
-        constexpr Variable kVariables[] = {{15, L"X"}, {16, L"Y"},        {2, L"W"},
+        constexpr Variable kVariables[] = {{15, L"X"}, {16, L"Y"},       {2, L"W"},
                                            {3, L"H"},  {4, L"Distance"}, {5, L"Angle"}};
         const Tool* const tool = host.tools.tools.find(host.tools.current);
         for (const Variable& variable : kVariables) {
@@ -349,8 +348,8 @@ void Frame::showStatus() {
             if (tool == nullptr || value == host.tools.infoValues.end()) continue;
             if (std::ranges::count(tool->infoVariables, variable.number) == 0) continue;
             const double rounded = std::round(value->second * 100) / 100;
-            text += std::wstring(L"    ") + variable.name + L": " +
-                    wide(svg::formatNumber(rounded));
+            text +=
+                std::wstring(L"    ") + variable.name + L": " + wide(svg::formatNumber(rounded));
         }
     }
     if (std::exchange(statusText_, text) != text)

@@ -59,8 +59,8 @@ AIAnswer Hand::show(const Alert& alert) {
                              {"error", MB_OK | MB_ICONERROR, false},
                              {"question", MB_YESNOCANCEL | MB_ICONQUESTION, true},
                              {"yes-no", MB_YESNO | MB_ICONQUESTION, true}};
-    const auto* const row = std::ranges::find_if(
-        kRows, [&](const Row& each) { return alert.kind == each.kind; });
+    const auto* const row =
+        std::ranges::find_if(kRows, [&](const Row& each) { return alert.kind == each.kind; });
     if (row == std::end(kRows)) return 1;
     const int button = MessageBoxW(owner, wide(alert.text).c_str(), kTitle, row->look);
     const auto answer = static_cast<AIAnswer>(button == IDNO ? 0 : button == IDCANCEL ? 2 : 1);

@@ -77,8 +77,8 @@ std::vector<LayerList::Row> LayerList::rowsNow() const {
         int depth = 0;
         for (const Art* up = parentLayer(*layer); up != nullptr; up = parentLayer(*up))
             ++depth;
-        rows.push_back({layer->details().layer.title, layer->has(kArtHidden), layer->has(kArtLocked),
-                        document.state().currentLayer == layer, depth});
+        rows.push_back({layer->details().layer.title, layer->has(kArtHidden),
+                        layer->has(kArtLocked), document.state().currentLayer == layer, depth});
     }
     return rows;
 }
@@ -145,7 +145,8 @@ bool LayerList::hear(const NMHDR& note, LRESULT& answer) {
         click(hit.iItem, hit.iSubItem);
     } else if (note.code == static_cast<UINT>(LVN_ITEMCHANGED) && !filling_) {
         const auto& changed = reinterpret_cast<const NMLISTVIEW&>(note);
-        const bool byKeys = (changed.uNewState & LVIS_SELECTED) != 0 && GetKeyState(VK_LBUTTON) >= 0;
+        const bool byKeys =
+            (changed.uNewState & LVIS_SELECTED) != 0 && GetKeyState(VK_LBUTTON) >= 0;
         if (byKeys) click(changed.iItem, kName);
     } else if (note.code == static_cast<UINT>(LVN_ENDLABELEDITW)) {
         const auto& edited = reinterpret_cast<const NMLVDISPINFOW&>(note);

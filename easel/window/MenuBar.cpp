@@ -71,8 +71,8 @@ void MenuBar::appendGroup(HMENU menu, AIMenuGroup group, int depth) {
             AppendMenuW(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(submenu), text.c_str());
             continue;
         }
-        const UINT state = (item->enabled ? MF_ENABLED : MF_GRAYED) |
-                           (item->checked ? MF_CHECKED : MF_UNCHECKED);
+        const UINT state =
+            (item->enabled ? MF_ENABLED : MF_GRAYED) | (item->checked ? MF_CHECKED : MF_UNCHECKED);
         const auto command = static_cast<UINT_PTR>(firstCommand_) + shown_.size();
         AppendMenuW(menu, MF_STRING | state, command, text.c_str());
         shown_.push_back(handle);

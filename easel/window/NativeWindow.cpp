@@ -59,9 +59,9 @@ SIZE NativeWindow::size() const {
 void NativeWindow::place(const RECT& area) const { placeWindow(handle_, area); }
 
 HWND makeControl(const wchar_t* className, const wchar_t* text, DWORD style, HWND parent, int id) {
-    const HWND made = CreateWindowExW(
-        0, className, text, WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0, parent,
-        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
+    const HWND made = CreateWindowExW(0, className, text, WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0,
+                                      parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                                      GetModuleHandleW(nullptr), nullptr);
     SendMessageW(made, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), 0);
     return made;
 }

@@ -73,8 +73,8 @@ std::optional<int> numberIn(std::string_view text, std::string_view element,
     return number ? std::optional(static_cast<int>(*number)) : std::nullopt;
 }
 
-/// A description says where the hot spot is and which picture is for which density; the first one is
-/// that of an ordinary screen. Null when anything is missing.
+/// A description says where the hot spot is and which picture is for which density; the first one
+/// is that of an ordinary screen. Null when anything is missing.
 HCURSOR loadCursor(HMODULE library, ai::int32 id) {
     const auto description = resource(library, L"XML_", static_cast<ai::uint32>(id));
     const std::string_view text{reinterpret_cast<const char*>(description.data()),

@@ -21,9 +21,7 @@ constexpr OwnTool kOwnTools[] = {
     {"Adobe Pen Tool", L"Pen"},
 };
 
-HIMAGELIST newImages() {
-    return ImageList_Create(kIconSide, kIconSide, ILC_COLOR32, 8, 4);
-}
+HIMAGELIST newImages() { return ImageList_Create(kIconSide, kIconSide, ILC_COLOR32, 8, 4); }
 
 } // namespace
 
@@ -67,7 +65,8 @@ void ToolBar::follow() {
     const std::string current = host.tools.nameOf(host.tools.currentNumber());
     for (std::size_t i = 0; i < tools_.size(); ++i) {
         const int command = firstCommand_ + static_cast<int>(i);
-        const bool checked = SendMessageW(bar_, TB_ISBUTTONCHECKED, static_cast<WPARAM>(command), 0) != 0;
+        const bool checked =
+            SendMessageW(bar_, TB_ISBUTTONCHECKED, static_cast<WPARAM>(command), 0) != 0;
         if (checked != (tools_[i].name == current))
             SendMessageW(bar_, TB_CHECKBUTTON, static_cast<WPARAM>(command),
                          MAKELPARAM(tools_[i].name == current, 0));
@@ -88,8 +87,8 @@ bool ToolBar::choose(int command) {
     const int index = indexOf(command);
     if (index < 0) return false;
     const LONG now = GetMessageTime();
-    const bool again = index == lastChosen_ &&
-                       now - lastChosenAt_ <= static_cast<LONG>(GetDoubleClickTime());
+    const bool again =
+        index == lastChosen_ && now - lastChosenAt_ <= static_cast<LONG>(GetDoubleClickTime());
     lastChosen_ = again ? -1 : index;
     lastChosenAt_ = now;
     hand_.act(again ? "tool options"
@@ -98,8 +97,6 @@ bool ToolBar::choose(int command) {
     return true;
 }
 
-int ToolBar::height() const {
-    return HIWORD(SendMessageW(bar_, TB_GETBUTTONSIZE, 0, 0)) + 4;
-}
+int ToolBar::height() const { return HIWORD(SendMessageW(bar_, TB_GETBUTTONSIZE, 0, 0)) + 4; }
 
 } // namespace easel::window

@@ -12,7 +12,8 @@
 namespace easel::window {
 namespace {
 
-/// Keeps GDI+ running while there is a window: starting it takes longer than a picture of the canvas.
+/// Keeps GDI+ running while there is a window: starting it takes longer than a picture of the
+/// canvas.
 class Running {
 public:
     Running() {
