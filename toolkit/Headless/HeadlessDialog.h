@@ -36,6 +36,7 @@ public:
     bool endModal() override;
     void startTimer(int, int) override {}
     void stopTimer(int) override {}
+    [[nodiscard]] double pixelsInUnit() const override { return 1; }
     [[nodiscard]] Place screenCorner() const override { return {}; }
     void moveTo(Place) override {}
     [[nodiscard]] void* window() const override { return nullptr; }

@@ -93,9 +93,18 @@ void BaseDialog::activate() {
 void BaseDialog::setSize(Extent size) {
     size = {std::max(size.width, 0), std::max(size.height, 0)};
     if (size == view_.size) return;
-    view_.size = size; // before the host answers with its own notice of it
-    if (panel_) panel_->setSize(size);
+    const Extent before = std::exchange(view_.size, size); // the host answers with a notice of it
+    try {
+        askHostForRoom();
+    } catch (...) {
+        view_.size = before;
+        throw;
+    }
     changed();
+}
+
+void BaseDialog::askHostForRoom() {
+    if (panel_ && peer_) panel_->setSize(view_.size, peer_->pixelsInUnit());
 }
 
 Bounds BaseDialog::screenBounds() const {

@@ -82,6 +82,8 @@ protected:
     /// Takes the window away.
     void detach();
     void changed();
+    /// A panel needs more of it on a display of finer pixels.
+    void askHostForRoom();
 
     DialogView view_;
     std::unique_ptr<HostPanel> panel_; ///< of a panel

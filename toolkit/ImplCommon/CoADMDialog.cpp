@@ -52,9 +52,13 @@ void CoADMDialog::closeWindow() {
 void CoADMDialog::followHost() {
     if (!panel_ || closed_) return;
     const bool stands = peer() != nullptr && peer()->isAlive() && panel_->window() == view_.parent;
-    if (stands) return changed();
-    closeWindow();
-    openWindow();
+    if (stands) {
+        changed();
+    } else {
+        closeWindow();
+        openWindow();
+    }
+    askHostForRoom();
 }
 
 void CoADMDialog::close() {

@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <memory>
+#include <utility>
 
 namespace NRDM {
 namespace {
@@ -74,8 +75,9 @@ void sizeChanged(AIPanelRef panel) {
     serve(panel, [=](CoADMDialog& dialog) {
         AISize size{};
         ai::check(requirePanels(dialog.dialogs()).GetSize(panel, size));
-        dialog.resized({static_cast<int>(std::lround(size.width)),
-                        static_cast<int>(std::lround(size.height))});
+        const double pixels = dialog.peer()->pixelsInUnit();
+        dialog.resized({static_cast<int>(std::lround(size.width / pixels)),
+                        static_cast<int>(std::lround(size.height / pixels))});
     });
 }
 
@@ -99,7 +101,8 @@ void menuClosed(AIPanelRef panel, ai::uint32 chosen) {
 
 } // namespace
 
-HostPanel::HostPanel(CoADMDialog& dialog) : suite_(requirePanels(dialog.dialogs())) {
+HostPanel::HostPanel(CoADMDialog& dialog)
+    : suite_(requirePanels(dialog.dialogs())), asked_(dialog.view().size) {
     const DialogView& view = dialog.view();
     const AIErr err =
         suite_.Create(dialog.plugin(), ai::UnicodeString(dialog.name()),
@@ -132,7 +135,16 @@ bool HostPanel::isShown() const {
     return shown != 0;
 }
 
-void HostPanel::setSize(Extent size) { ai::check(suite_.SetSize(panel_, sizeOf(size))); }
+void HostPanel::setSize(Extent size, double pixelsInUnit) {
+    const Extent pixels = {static_cast<int>(std::lround(size.width * pixelsInUnit)),
+                           static_cast<int>(std::lround(size.height * pixelsInUnit))};
+    const Extent before = std::exchange(asked_, pixels); // the host may answer with its own notice
+    if (pixels == before) return;
+    if (const AIErr err = suite_.SetSize(panel_, sizeOf(pixels))) {
+        asked_ = before;
+        throw ai::Error(err);
+    }
+}
 
 int HostPanel::state() const {
     ai::int16 state = 0;

@@ -37,7 +37,8 @@ public:
     void show(bool shown);
     /// False also behind another tab.
     [[nodiscard]] bool isShown() const;
-    void setSize(Extent size);
+    /// The host counts in pixels. It is asked again only when the number of these changes.
+    void setSize(Extent size, double pixelsInUnit);
     [[nodiscard]] int state() const;
     void setState(int state);
     void setMenu(AIPanelFlyoutMenuRef menu);
@@ -45,6 +46,7 @@ public:
 private:
     const AIPanelSuite& suite_;
     AIPanelRef panel_ = nullptr;
+    Extent asked_; ///< the host for, in pixels
 };
 
 } // namespace NRDM

@@ -258,6 +258,8 @@ public:
     virtual void startTimer(int timer, int milliseconds) = 0;
     virtual void stopTimer(int timer) = 0;
 
+    /// Pixels of the screen in a unit of the dialog.
+    [[nodiscard]] virtual double pixelsInUnit() const = 0;
     /// The client area's corner on the screen, in pixels of the screen.
     [[nodiscard]] virtual Place screenCorner() const = 0;
     virtual void moveTo(Place corner) = 0;

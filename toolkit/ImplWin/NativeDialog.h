@@ -37,6 +37,7 @@ public:
     bool endModal() override;
     void startTimer(int timer, int milliseconds) override;
     void stopTimer(int timer) override;
+    [[nodiscard]] double pixelsInUnit() const override { return scale_.factor; }
     [[nodiscard]] Place screenCorner() const override;
     void moveTo(Place corner) override;
     [[nodiscard]] void* window() const override { return handle(); }

@@ -79,6 +79,31 @@ TEST_CASE("a panel lies in the host's, follows its states and tells its sizes on
     hosted.plugin.run([&] { CHECK(dialog->isVisible()); });
 }
 
+TEST_CASE("a panel asks its host for pixels, and keeps its size when it gets none") {
+    Hosted hosted;
+    CoADMDialog* const dialog = hosted.create(kADMTabbedFloatingDialogStyle, 16005);
+    const AIPanelRef panel = hosted.host.panels.named(U"Facetta");
+    hosted.plugin.run([&] { dialog->setSize({240, 83}); });
+
+    hosted.stage->peers->pixelsInUnit = 1.5; // it is on another display now
+    hosted.host.showPanel(panel, true);
+    CHECK(hosted.host.panels.at(panel).size.width == 360);
+    CHECK(hosted.host.panels.at(panel).size.height == 125);
+    CHECK(dialog->view().size == Extent{240, 83});
+
+    hosted.plugin.run([&] {
+        easel::session().calls.arm({.mode = easel::FaultPlan::Mode::Once,
+                                    .call = 1,
+                                    .function = "AI Panel Suite.SetSize",
+                                    .code = kOutOfMemoryErr});
+        CHECK_THROWS(dialog->setSize({240, 188}));
+        easel::session().calls.disarm();
+        CHECK(dialog->view().size == Extent{240, 83});
+        dialog->setSize({240, 188});
+    });
+    CHECK(hosted.host.panels.at(panel).size.height == 282);
+}
+
 TEST_CASE("a panel's menu shows what its tracker made of it, and gives back what is chosen") {
     Hosted hosted;
     CoADMDialog* const dialog = hosted.create(kADMTabbedFloatingDialogStyle, 16005);

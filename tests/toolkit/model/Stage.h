@@ -50,6 +50,7 @@ struct StagePeers final : NRDM::Peers {
         bool endModal() override { return ended_ = true; }
         void startTimer(int timer, int) override { stage_.timers.push_back(timer); }
         void stopTimer(int timer) override { std::erase(stage_.timers, timer); }
+        [[nodiscard]] double pixelsInUnit() const override { return stage_.pixelsInUnit; }
         [[nodiscard]] NRDM::Place screenCorner() const override { return {100, 50}; }
         void moveTo(NRDM::Place) override {}
         [[nodiscard]] void* window() const override { return nullptr; }
@@ -81,6 +82,7 @@ struct StagePeers final : NRDM::Peers {
     int beeps = 0;
     int keyboardReturned = 0;
     int failures = 0;
+    double pixelsInUnit = 1;
     NRDM::Themes themes;
     std::unique_ptr<NRDM::Peers> metrics =
         NRDM::systemPeers({.themes = themes, .plugin = nullptr, .fail = nullptr});
