@@ -57,8 +57,7 @@ constexpr Row kRows[] = {
     {kOpacitySlider, kADMSliderType, {65, 162, 167, 174}, "", kOpacityTip, 0, 0, kSliderStyle},
     {kOpacityScale, kADMPictureStaticType, {65, 156, 167, 163}, "", "", 2120, 2122, kNoNeighbour},
     {kOpacity, kADMSpinEditType, {179, 159, 227, 178}, "", kOpacityTip},
-    // One that wraps: what is said of a licence takes a line or two.
-    {kStatusLine, kADMTextStaticMultiLineType, {22, 69, 212, 119}},
+    {kStatusLine, kADMTextStaticType, {22, 69, 212, 119}},
 };
 // clang-format on
 

@@ -47,7 +47,7 @@ void NRDMButton::paint(const Canvas& canvas, const RECT& area) {
     drawLine(canvas.surface, text,
              {caption(), textStyle(), canvas.scale,
               onAccent ? canvas.palette.onAccent : textColour(canvas.palette, now), Justify::Centre,
-              Overflow::Shrink, now.keyboardCues});
+              Overflow::Tighten, now.keyboardCues});
 }
 
 } // namespace NRDM

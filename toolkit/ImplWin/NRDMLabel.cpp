@@ -17,7 +17,13 @@ constexpr StyleRow kStyles[] = {
 Overflow overflowOf(int style) {
     for (const auto& [bit, overflow] : kStyles)
         if ((style & bit) != 0) return overflow;
-    return Overflow::Shrink;
+    return Overflow::Tighten;
+}
+
+/// A text too wide goes on in the next line, as in the system's own labels, where there is one.
+bool wraps(const TextLine& line, const RECT& area) {
+    return area.bottom - area.top >= 2 * lineMetrics(line.style, line.scale).height &&
+           textWidth(line.caption.text, line.style, line.scale) > area.right - area.left;
 }
 
 } // namespace
@@ -43,7 +49,7 @@ void NRDMLabel::paint(const Canvas& canvas, const RECT& area) {
                         canvas.scale,    textColour(canvas.palette, now),
                         justify(),       overflowOf(view().style),
                         now.keyboardCues};
-    if (view().kind == ControlKind::MultiLineLabel) {
+    if (view().kind == ControlKind::MultiLineLabel || wraps(line, area)) {
         drawWrapped(canvas.surface, area, line);
         return;
     }

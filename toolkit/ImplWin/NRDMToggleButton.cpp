@@ -30,7 +30,7 @@ void NRDMToggleButton::paint(const Canvas& canvas, const RECT& area) {
                                                            : drawRadioButton(canvas, inner, now);
     drawLine(canvas.surface, text,
              {caption(), textStyle(), canvas.scale, textColour(canvas.palette, now), Justify::Left,
-              Overflow::Shrink, now.keyboardCues});
+              Overflow::Tighten, now.keyboardCues});
 }
 
 } // namespace NRDM

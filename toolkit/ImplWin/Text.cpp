@@ -124,15 +124,19 @@ std::wstring shortened(const std::wstring& text, double room, const Face& face, 
     return {};
 }
 
-/// The largest size in which `text` is no wider than `room`, or the smallest allowed, in pixels.
-int fittingPixels(std::wstring_view text, TextStyle style, Scale scale, double room) {
-    const int largest = fontPixels(style, scale);
-    const int smallest = largest - largest / 8;
+/// How much closer each letter of `text` comes to the one before, so that all fit into `room`.
+double tightening(std::wstring_view text, double width, double room) {
+    return text.size() > 1 ? (width - room) / static_cast<double>(text.size() - 1) : 0;
+}
+
+void drawTightened(Surface& surface, double x, double baseline, std::wstring_view text,
+                   const Face& face, Colour colour, double tighter) {
     const Ruler ruler;
-    int pixels = largest;
-    while (pixels > smallest && ruler.width(text, Face(style, pixels)) > room)
-        --pixels;
-    return pixels;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const double before = ruler.width(text.substr(0, i), face);
+        drawText(surface, x + before - tighter * static_cast<double>(i), baseline,
+                 text.substr(i, 1), face, colour);
+    }
 }
 
 } // namespace
@@ -202,12 +206,19 @@ void drawLine(Surface& surface, const RECT& place, const TextLine& line) {
     if (!surface || place.right <= place.left) return;
     const double room = place.right - place.left + 0.5; // measured widths end between pixels
     const auto& [caption, style, scale, colour, justify, overflow, showAccessKey] = line;
-    const bool shrinks = overflow == Overflow::Shrink;
-    const Face face(style, shrinks ? fittingPixels(caption.text, style, scale, room)
-                                   : fontPixels(style, scale));
+    const Face face(style, scale);
     const Ruler ruler;
     double width = ruler.width(caption.text, face);
     std::wstring text = caption.text;
+    double tighter = 0;
+    if (overflow == Overflow::Tighten && width > room) {
+        const double narrower = room - scale.toPixels(1); // clear of what comes after it
+        tighter = tightening(text, width, narrower);
+        if (tighter > fontPixels(style, scale) / 16.0)
+            tighter = 0;
+        else
+            width = narrower;
+    }
     if (width > room && overflow != Overflow::Clip) {
         text = shortened(text, room, face, overflow == Overflow::MiddleEllipsis);
         width = ruler.width(text, face);
@@ -222,11 +233,15 @@ void drawLine(Surface& surface, const RECT& place, const TextLine& line) {
     graphics.SetClip(Gdiplus::Rect(place.left, place.top, place.right - place.left + 1,
                                    place.bottom - place.top),
                      Gdiplus::CombineModeIntersect);
-    drawText(surface, x, baseline, text, face, colour);
+    if (tighter > 0)
+        drawTightened(surface, x, baseline, text, face, colour, tighter);
+    else
+        drawText(surface, x, baseline, text, face, colour);
     if (showAccessKey && caption.accessKey >= 0 && text == caption.text) {
         const auto index = static_cast<std::size_t>(caption.accessKey);
-        const double left = x + ruler.width(text.substr(0, index), face);
-        const double right = x + ruler.width(text.substr(0, index + 1), face);
+        const double shift = x - tighter * static_cast<double>(index);
+        const double left = shift + ruler.width(text.substr(0, index), face);
+        const double right = shift + ruler.width(text.substr(0, index + 1), face);
         const Gdiplus::SolidBrush brush(toGdiPlus(colour));
         const int thickness = scale.line();
         graphics.FillRectangle(&brush, static_cast<INT>(std::lround(left)), baseline + thickness,

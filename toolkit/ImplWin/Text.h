@@ -60,7 +60,7 @@ struct LineMetrics {
 enum class Justify { Left, Centre, Right };
 
 /// What becomes of a text too wide for its place.
-enum class Overflow { Shrink, EndEllipsis, MiddleEllipsis, Clip };
+enum class Overflow { Tighten, EndEllipsis, MiddleEllipsis, Clip };
 
 struct TextLine {
     Caption caption;
@@ -72,8 +72,8 @@ struct TextLine {
     bool showAccessKey = false;
 };
 
-/// Draws `line` into `place`, vertically centred. `Shrink` takes up to an eighth off the size
-/// before it shortens.
+/// Draws `line` into `place`, vertically centred. `Tighten` moves the letters closer, each by up to
+/// a sixteenth of their size, before it shortens: a label keeps the size of its neighbours.
 void drawLine(Surface& surface, const RECT& place, const TextLine& line);
 
 /// Draws `line` wrapped at the sides of `place` from its top; what does not fit is not drawn.

@@ -138,7 +138,7 @@ TEST_CASE("a line of text keeps within its place, whatever is to become of the r
     const GdiPlusSession session;
     const RECT place{20, 10, 60, 30};
     for (const Overflow overflow :
-         {Overflow::Shrink, Overflow::EndEllipsis, Overflow::MiddleEllipsis, Overflow::Clip}) {
+         {Overflow::Tighten, Overflow::EndEllipsis, Overflow::MiddleEllipsis, Overflow::Clip}) {
         Surface surface({100, 40});
         drawLine(surface, place,
                  {{L"Remove All Layer Axes", -1}, {}, {}, kWhite, Justify::Left, overflow});
