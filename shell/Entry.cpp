@@ -27,9 +27,11 @@ FacettaPlugin* pluginOf(const Call& call) {
     return static_cast<FacettaPlugin*>(call.data().globals);
 }
 
+/// One that is in use is deleted later.
 void endPlugin(const Call& call) {
-    delete pluginOf(call);
+    const FacettaPlugin* const plugin = pluginOf(call);
     call.data().globals = nullptr;
+    if (!plugin->isInUse()) delete plugin;
 }
 
 SPErr startUp(const Licensing& licensing, const Call& call) {
@@ -71,7 +73,13 @@ SPErr deliver(FacettaPlugin& plugin, const Call& call) {
         return plugin.Reload(*static_cast<SPAccessMessage*>(call.message));
     // Suites are not to be sought while an access message is answered.
     if (call.caller == kCallerAccess ? !plugin.hasSuites() : !plugin.ensureSuites()) return kNoErr;
-    const SPErr err = plugin.Message(call.caller, call.selector, call.message);
+    const PluginInUse inUse(plugin);
+    const SPErr err =
+        ai::codeOf([&] { return plugin.Message(call.caller, call.selector, call.message); });
+    if (plugin.endsAfterUse()) { // shut down meanwhile: nobody is left to be told of failures
+        call.data().globals = nullptr;
+        return kNoErr;
+    }
     return err == kUnhandledMsgErr ? kNoErr : err;
 }
 

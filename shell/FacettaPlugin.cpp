@@ -27,6 +27,7 @@
 #include "ui/EditAxesDialog.h"
 #include "ui/PreferencesDialog.h"
 
+#include <memory>
 #include <new>
 #include <string>
 #include <utility>
@@ -54,6 +55,12 @@ char16_t findDecimalSeparator() {
 
 } // namespace
 
+PluginInUse::~PluginInUse() {
+    if (--plugin_.uses_ > 0 || !plugin_.endsAfterUse_) return;
+    static_cast<void>(ai::codeOf([this] { return plugin_.end(); }));
+    delete &plugin_;
+}
+
 FacettaPlugin::~FacettaPlugin() {
     // A start-up that fails half-way ends here as well.
     if (thePlugin == this) thePlugin = nullptr;
@@ -67,6 +74,11 @@ void* FacettaPlugin::operator new(std::size_t size) {
 }
 
 void FacettaPlugin::operator delete(void* object) noexcept { ai::basicSuite->FreeBlock(object); }
+
+void FacettaPlugin::ReportError(AIErr error, std::string_view caller, std::string_view selector,
+                                void* message) {
+    if (!endsAfterUse_) Plugin::ReportError(error, caller, selector, message);
+}
 
 AIErr FacettaPlugin::Startup(SPInterfaceMessage& message) {
     ai::check(Plugin::Startup(message));
@@ -127,7 +139,8 @@ void FacettaPlugin::openPanel() {
     const auto withTool = [this](const std::function<void(ToolSession&)>& act) {
         static_cast<void>(withSession(act));
     };
-    panel.emplace(self(), PanelOwner{withTool, copiedAxes});
+    const auto inUse = [this] { return std::make_shared<const PluginInUse>(*this); };
+    panel.emplace(self(), PanelOwner{withTool, inUse, copiedAxes});
     updatePanel = refreshPanel;
     // The panel's windows call into the library, and where the user has docked it may be lost when
     // it is destroyed. A host that cannot hold the library unloads it all the same, panel and all.
@@ -137,6 +150,10 @@ void FacettaPlugin::openPanel() {
 void FacettaPlugin::closePanel() noexcept {
     updatePanel = [] {};
     panel.reset();
+    releaseLibrary();
+}
+
+void FacettaPlugin::releaseLibrary() noexcept {
     if (std::exchange(holdsLibrary_, false)) LockPlugin(false);
 }
 
@@ -147,17 +164,30 @@ void FacettaPlugin::refreshPanel() {
     thePlugin->panel->refresh(session);
 }
 
-AIErr FacettaPlugin::Shutdown(SPInterfaceMessage& message) {
+AIErr FacettaPlugin::Shutdown(SPInterfaceMessage&) {
     if (!hasSuites()) static_cast<void>(acquireSuites()); // refused since a reload, perhaps
     const AIErr saved = saveSettings();
     if (hasSuites()) {
         hintTimer.stop();
         regenerationWatch.stop();
+        if (panel) panel->close();
+        releaseLibrary();
+    }
+    endsAfterUse_ = isInUse();
+    if (endsAfterUse_) {
+        toolkit().dialogs().closeAll(); // so that the handlers return that wait for them
+        return saved;
+    }
+    const AIErr err = end();
+    return err != kNoErr ? err : saved;
+}
+
+AIErr FacettaPlugin::end() {
+    if (hasSuites()) {
         tool = {}; // what it holds of the host's goes while there are suites
         closePanel();
     }
-    const AIErr err = Plugin::Shutdown(message);
-    return err != kNoErr ? err : saved;
+    return Plugin::end();
 }
 
 AIErr FacettaPlugin::saveSettings() {
@@ -338,6 +368,7 @@ template <typename Handler> AIErr FacettaPlugin::withSession(Handler handler) {
     const platform::KeyState keys = platform::readKeys();
     ToolSession session = toolSession(keys);
     handler(session);
+    if (endsAfterUse_) return kNoErr;
     hintTimer.follow(self(), tool.hint, platform::ticks());
     return kNoErr;
 }

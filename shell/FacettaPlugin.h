@@ -30,7 +30,11 @@ public:
     static void* operator new(std::size_t size);
     static void operator delete(void* object) noexcept;
 
+    void ReportError(AIErr error, std::string_view caller, std::string_view selector,
+                     void* message) override;
     AIErr Startup(SPInterfaceMessage& message) override;
+    /// While the plug-in is in use (`PluginInUse`) nothing but windows, timers and settings goes
+    /// yet.
     AIErr Shutdown(SPInterfaceMessage& message) override;
     AIErr Message(std::string_view caller, std::string_view selector, void* message) override;
     AIErr SetGlobal(Plugin* plugin) override;
@@ -91,7 +95,13 @@ public:
     AIToolHandle toolHandle = nullptr;
     std::optional<SymmetryPanel> panel;
 
+    [[nodiscard]] bool isInUse() const noexcept { return uses_ > 0; }
+    /// It has been shut down while in use.
+    [[nodiscard]] bool endsAfterUse() const noexcept { return endsAfterUse_; }
+
 private:
+    friend class PluginInUse;
+
     /// What becomes of the panel, whose windows call into the library, when that is loaded again.
     enum class PanelAfterReload { None, Hidden, Shown };
 
@@ -110,13 +120,32 @@ private:
     void openPanel();
     static void refreshPanel();
     void closePanel() noexcept;
+    void releaseLibrary() noexcept;
     void togglePanel() noexcept;
     AIErr saveSettings();
+    /// The last part of shutting down.
+    AIErr end();
 
+    int uses_ = 0;
+    bool endsAfterUse_ = false;
     bool settingsLoaded_ = false; ///< only what was read is written back
     bool holdsLibrary_ = false;   ///< on behalf of the panel
     bool mirrorsLayers_ = false;  ///< Messages that regenerating brings about regenerate nothing.
     PanelAfterReload panelAfterReload_ = PanelAfterReload::None;
+};
+
+/// Keeps the plug-in while a handler of its runs. The host may shut it down meanwhile, from the
+/// loop of a dialog that the handler has opened: on its way out the handler still finds everything
+/// that it works on, and after the outermost one the plug-in is deleted.
+class PluginInUse {
+public:
+    explicit PluginInUse(FacettaPlugin& plugin) noexcept : plugin_(plugin) { ++plugin_.uses_; }
+    ~PluginInUse();
+    PluginInUse(const PluginInUse&) = delete;
+    PluginInUse& operator=(const PluginInUse&) = delete;
+
+private:
+    FacettaPlugin& plugin_;
 };
 
 /// The live plug-in object; null before start-up, after shut-down and while the library is being

@@ -66,10 +66,12 @@ AIErr Plugin::addStartedNotifier() {
 
 AIErr Plugin::PostStartup() { return kNoErr; }
 
-AIErr Plugin::Shutdown(SPInterfaceMessage&) {
+AIErr Plugin::Shutdown(SPInterfaceMessage&) { return end(); }
+
+AIErr Plugin::end() {
     releaseSuites();
     const AIErr err = SetGlobal(nullptr);
-    shutToolkitDown();
+    toolkit_.reset();
     return err;
 }
 

@@ -116,7 +116,8 @@ protected:
     /// All suites of the table, or none.
     AIErr acquireSuites();
     void releaseSuites() noexcept { suites_.reset(); }
-    void shutToolkitDown() noexcept { toolkit_.reset(); }
+    /// Gives back everything: what shutting down comes to.
+    AIErr end();
 
 private:
     AIErr resume();

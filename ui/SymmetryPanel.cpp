@@ -50,39 +50,38 @@ private:
 
 /// What the toolkit calls.
 struct PanelProcedures {
-    /// One event: the suites, the host's context, and the panel whose turn it is.
-    class Turn {
-    public:
-        explicit Turn(ADMDialogRef dialog)
-            : dialog_(dialog), context_(adm.dialog->GetPluginRef(dialog)) {}
-        explicit Turn(ADMItemRef item)
-            : dialog_(adm.item->GetDialog(item)), context_(adm.item->GetPluginRef(item)) {}
+    static SymmetryPanel& panelOf(const Adm& adm, ADMDialogRef dialog) {
+        return *static_cast<SymmetryPanel*>(adm.dialog->GetUserData(dialog));
+    }
 
-        [[nodiscard]] SymmetryPanel& panel() const {
-            return *static_cast<SymmetryPanel*>(adm.dialog->GetUserData(dialog_));
-        }
+    /// One event: the suites, the host's context, and the panel whose turn it is.
+    struct Turn {
+        explicit Turn(ADMDialogRef dialog)
+            : panel(panelOf(Adm(), dialog)), inUse(panel.owner_.inUse()),
+              context(adm.dialog->GetPluginRef(dialog)) {}
+        explicit Turn(ADMItemRef item) : Turn(Adm().item->GetDialog(item)) {}
+
         /// Nothing happens while the licence forbids the panel's use.
         template <typename Work> void act(Work work) const {
-            if (panel().usable_) panel().during(work);
+            if (panel.usable_) panel.during(work);
         }
 
+        SymmetryPanel& panel;
+        const std::shared_ptr<const void> inUse; ///< released last: the plug-in may go with it
         const Adm adm;
-
-    private:
-        ADMDialogRef dialog_;
-        ai::AppContext context_;
+        const ai::AppContext context;
     };
 
     static ADMErr build(ADMDialogRef dialog) {
         const Turn turn(dialog);
-        turn.panel().build(dialog);
+        turn.panel.build(dialog);
         return kNoErr;
     }
 
     /// No context of the host's: it may be about to end.
     static void destroyed(ADMDialogRef dialog) {
         const Adm adm;
-        static_cast<SymmetryPanel*>(adm.dialog->GetUserData(dialog))->dialog_ = nullptr;
+        panelOf(adm, dialog).dialog_ = nullptr;
     }
 
     static void itemNotified(ADMItemRef item, ADMNotifierRef notifier) {
@@ -121,7 +120,7 @@ struct PanelProcedures {
         const Turn turn(dialog);
         turn.adm.dialog->DefaultNotify(dialog, notifier);
         if (turn.adm.notifier->IsNotifierType(notifier, kADMCycleNotifier) != 0)
-            turn.panel().during(followHostPanelState);
+            turn.panel.during(followHostPanelState);
     }
 };
 
@@ -135,7 +134,9 @@ SymmetryPanel::SymmetryPanel(SPPluginRef self, PanelOwner owner) : owner_(std::m
     adm_.dialog->SetDestroyProc(dialog_, PanelProcedures::destroyed);
 }
 
-SymmetryPanel::~SymmetryPanel() {
+SymmetryPanel::~SymmetryPanel() { close(); }
+
+void SymmetryPanel::close() {
     if (dialog_ != nullptr) adm_.dialog->Destroy(dialog_);
 }
 
@@ -155,6 +156,7 @@ void SymmetryPanel::during(const std::function<void(PanelSession&)>& act) {
         try {
             act(session);
         } catch (...) {
+            if (dialog_ == nullptr) return; // the host has ended the plug-in
             static_cast<void>(ai::codeOf([&] {
                 beginning.takeBack(session);
                 return kNoErr;

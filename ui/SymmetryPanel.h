@@ -12,6 +12,7 @@
 #include "ui/PanelSession.h"
 
 #include <functional>
+#include <memory>
 
 namespace facetta {
 
@@ -19,6 +20,9 @@ namespace facetta {
 struct PanelOwner {
     /// Runs a function on the tool's state and what the plug-in lends it for one event.
     std::function<void(const std::function<void(ToolSession&)>&)> withTool;
+    /// Keeps the plug-in, and with it the panel, while what it returns lives: the host may end it
+    /// from the loop of a dialog.
+    std::function<std::shared_ptr<const void>()> inUse;
     SymmetryAxes& copiedAxes;
 };
 
@@ -35,6 +39,9 @@ public:
     /// False also behind another panel's tab.
     [[nodiscard]] bool isVisible() const;
     void show(bool shown);
+
+    /// Takes the dialog away for good.
+    void close();
 
     /// Shows the axes and what can be done with them; or, while the licence forbids the panel's
     /// use, the licence's message in place of all items.

@@ -154,6 +154,19 @@ void performWithFault(const DialogAction& action, std::size_t call, Mode mode,
 
 } // namespace
 
+TEST_CASE("the host may quit under any dialog") {
+    for (const DialogAction& action : kActions) {
+        INFO(std::string(action.name));
+        Drawing session(/*selected*/ true);
+        action.prepare(session);
+        DialogUser user([&](DialogUser&) { session.host.quit(); });
+        action.open(session);
+        CHECK(user.met == 1);
+        CHECK(thePlugin == nullptr);
+        CHECK(session.host.user.alerts.empty());
+    }
+}
+
 TEST_CASE("whatever host call fails under a dialog, it is as if it had been left alone or used") {
     for (const DialogAction& action : kActions) {
         for (const Mode mode : {Mode::Once, Mode::FromThenOn}) {

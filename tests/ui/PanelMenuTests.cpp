@@ -1,4 +1,5 @@
 #include "tests/tool/KeysHeld.h"
+#include "tests/ui/DialogUser.h"
 #include "tests/ui/PanelInHand.h"
 
 #include <algorithm>
@@ -228,4 +229,13 @@ TEST_CASE("the last entry opens the preferences") {
     };
     session.choose(kPreferences);
     CHECK(opened == 1);
+}
+
+TEST_CASE("the host may quit while a dialog is open that the panel has opened") {
+    PanelInHand session;
+    DialogUser user([&](DialogUser&) { session.host.quit(); });
+    session.choose(kPreferences);
+    CHECK(user.met == 1);
+    CHECK(thePlugin == nullptr);
+    CHECK(session.host.user.alerts.empty());
 }
