@@ -17,6 +17,7 @@ private:
     void registerSlide();
 
     double handlerSeconds_ = kNotMeasured; ///< Own time of the slowest.
+    double mirroringHandlerSeconds_ = kNotMeasured;
     double redrawSeconds_ = kNotMeasured;
 };
 
