@@ -138,20 +138,50 @@ void CALLBACK takePicture(HWND, UINT, UINT_PTR timer, DWORD) {
     dialog.closeRequested();
 }
 
+void showPanel(Plugin& plugin) {
+    plugin.host.showPanel(plugin.host.panels.named(U"Facetta"), true);
+    for (MSG message{}; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0;)
+        DispatchMessageW(&message); // it is painted
+}
+
 bool writePanel(const PanelRow& row, bool dark, const Scale& scale, const std::string& folder) {
     const std::string file =
         folder + "/panel-" + row.name + (dark ? "-dark-" : "-light-") + scale.name + ".png";
     current = &row.licence();
     Plugin plugin(dark, scale.factor);
     row.prepare(plugin);
-    plugin.host.showPanel(plugin.host.panels.named(U"Facetta"), true);
-    for (MSG message{}; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0;)
-        DispatchMessageW(&message); // it is painted
+    showPanel(plugin);
     const bool saved = NRDM::gallery::savePicture(static_cast<HWND>(panel().peer()->window()),
                                                   std::wstring(file.begin(), file.end()));
     current = &kLicensed;
     if (!saved) std::fprintf(stderr, "cannot write %s\n", file.c_str());
     return saved;
+}
+
+/// Comes when the menu has been painted.
+void CALLBACK takeMenuPicture(HWND, UINT, UINT_PTR timer, DWORD) {
+    KillTimer(nullptr, timer);
+    const HWND frame = GetAncestor(static_cast<HWND>(panel().peer()->window()), GA_ROOT);
+    const HWND menu = FindWindowW(L"#32768", nullptr);
+    written = menu != nullptr && NRDM::gallery::savePictureWithMenu(frame, menu, wanted);
+    EndMenu();
+}
+
+/// At one scale only: frame and menu are the host's, which does not scale them.
+bool writeFlyout(bool dark, const std::string& folder) {
+    const std::string file = folder + "/panel-flyout-" + (dark ? "dark" : "light") + "-1x.png";
+    wanted.assign(file.begin(), file.end());
+    written = false;
+    Plugin plugin(dark, 1);
+    editLayerAxes(plugin);
+    item(panel_item::kApply).clicked();
+    showPanel(plugin);
+    const HWND frame = GetAncestor(static_cast<HWND>(panel().peer()->window()), GA_ROOT);
+    constexpr WPARAM kFlyoutButton = 1;
+    SetTimer(nullptr, 0, 100, takeMenuPicture);
+    SendMessageW(frame, WM_COMMAND, kFlyoutButton, 0);
+    if (!written) std::fprintf(stderr, "cannot write %s\n", file.c_str());
+    return written;
 }
 
 bool writePicture(const Row& row, bool dark, const Scale& scale, const std::string& folder) {
@@ -175,12 +205,14 @@ int main(int argc, char** argv) {
         return 2;
     }
     bool all = true;
-    for (const bool dark : {false, true})
+    for (const bool dark : {false, true}) {
+        all = writeFlyout(dark, argv[1]) && all;
         for (const Scale& scale : kScales) {
             for (const Row& row : kDialogs)
                 all = writePicture(row, dark, scale, argv[1]) && all;
             for (const PanelRow& row : kPanels)
                 all = writePanel(row, dark, scale, argv[1]) && all;
         }
+    }
     return all ? 0 : 1;
 }

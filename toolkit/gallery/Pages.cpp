@@ -214,44 +214,10 @@ std::unique_ptr<Page> lists() {
     return page;
 }
 
-/// The panel with the plug-in's own pictures: where everything meets at its real size.
-std::unique_ptr<Page> panel() {
-    auto page = std::make_unique<Page>("Symmetry", Extent{240, 188}, Page::Fonts::OfPalettes);
-    const auto add = [&](const char* type, Bounds bounds, const char* text = "",
-                         int id = 0) -> Exhibit& { return page->add(type, bounds, text, id); };
-    const auto picture = [&](Bounds bounds, const PictureIds& ids) {
-        add(kADMPictureStaticType, bounds).pictures(ids);
-    };
-    add(kADMPictureRadioButtonType, {9, 12, 41, 39}, "", 1).pictures({2106, 0, 2108, 0}).on();
-    add(kADMPictureRadioButtonType, {53, 12, 85, 39}, "", 2).pictures({2110, 0, 0, 0});
-    add(kADMTextCheckBoxType, {95, 19, 149, 33}, "Active").on().disabled();
-    add(kADMTextPushButtonType, {163, 17, 227, 38}, "Update").disabled();
-    add(kADMTextPushButtonType, {12, 50, 128, 71}, "Apply to Selection");
-    add(kADMTextPushButtonType, {136, 50, 227, 71}, "Cancel");
-    add(kADMFrameType, {8, 82, 230, 84});
-    picture({9, 88, 34, 113}, {2112, 0, 0, 0});
-    add(kADMTextStaticType, {39, 94, 53, 108}, "X:");
-    add(kADMTextEditType, {52, 91, 124, 110}).number(306, kADMPointUnits, 3);
-    add(kADMTextStaticType, {142, 94, 156, 108}, "Y:");
-    add(kADMTextEditType, {155, 91, 227, 110}).number(-396, kADMPointUnits, 3);
-    picture({9, 117, 34, 142}, {2114, 0, 0, 0});
-    add(kADMTextEditType, {40, 119, 92, 138}).number(45, kADMDegreeUnits, 3);
-    add(kADMTextStaticType, {108, 122, 188, 136}, "Number of Axes:");
-    add(kADMSpinEditType, {187, 119, 227, 138}).number(6);
-    add(kADMFrameType, {8, 147, 230, 149});
-    add(kADMTextCheckBoxType, {12, 159, 29, 173}).on();
-    picture({32, 154, 57, 179}, {2116, 0, 2118, 0});
-    add(kADMSliderType, {65, 162, 167, 174}).percent(40);
-    picture({65, 156, 167, 163}, {2120, 0, 2122, 0});
-    add(kADMSpinEditType, {179, 159, 227, 178}).percent(40);
-    return page;
-}
-
 constexpr PageRow kPages[] = {
     {"buttons", buttons},
     {"fields", fields},
     {"lists", lists},
-    {"panel", panel},
 };
 
 } // namespace

@@ -66,23 +66,49 @@ void copyInParts(HWND window, HDC target, SIZE whole) {
         }
 }
 
+bool saveSurface(Surface& surface, SIZE size, const std::wstring& file) {
+    const std::optional<CLSID> encoder = pngEncoder();
+    Gdiplus::Bitmap picture(size.cx, size.cy, size.cx * 4, PixelFormat32bppRGB,
+                            reinterpret_cast<BYTE*>(surface.row(0).data()));
+    return encoder && picture.Save(file.c_str(), &*encoder, nullptr) == Gdiplus::Ok;
+}
+
 } // namespace
 
 bool savePicture(HWND window, const std::wstring& file) {
     RECT area{};
     GetClientRect(window, &area);
-    Surface surface({area.right, area.bottom});
-    const std::optional<CLSID> encoder = pngEncoder();
-    if (!surface || !encoder) return false;
     const SIZE whole{area.right, area.bottom};
+    Surface surface(whole);
+    if (!surface) return false;
     const SIZE screen = screenSize();
     if (whole.cx <= screen.cx && whole.cy <= screen.cy)
         copyShown(window, surface.dc(), {0, 0}, whole);
     else
         copyInParts(window, surface.dc(), whole);
-    Gdiplus::Bitmap picture(area.right, area.bottom, area.right * 4, PixelFormat32bppRGB,
-                            reinterpret_cast<BYTE*>(surface.row(0).data()));
-    return picture.Save(file.c_str(), &*encoder, nullptr) == Gdiplus::Ok;
+    return saveSurface(surface, whole, file);
+}
+
+bool savePictureWithMenu(HWND window, HWND menu, const std::wstring& file) {
+    RECT area{};
+    GetClientRect(window, &area);
+    POINT corner{};
+    ClientToScreen(window, &corner);
+    RECT above{};
+    GetWindowRect(menu, &above);
+    OffsetRect(&above, -corner.x, -corner.y);
+    const SIZE whole{std::max(area.right, above.right), std::max(area.bottom, above.bottom)};
+    Surface surface(whole);
+    if (!surface || above.left < 0) return false;
+    const RECT all{0, 0, whole.cx, whole.cy};
+    FillRect(surface.dc(), &all, static_cast<HBRUSH>(GetStockObject(GRAY_BRUSH)));
+    copyShown(window, surface.dc(), {0, 0}, {area.right, area.bottom});
+    const HDC source = GetWindowDC(menu);
+    BitBlt(surface.dc(), above.left, above.top, above.right - above.left, above.bottom - above.top,
+           source, 0, 0, SRCCOPY);
+    ReleaseDC(menu, source);
+    GdiFlush();
+    return saveSurface(surface, whole, file);
 }
 
 } // namespace NRDM::gallery

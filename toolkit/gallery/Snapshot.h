@@ -10,4 +10,7 @@ namespace NRDM::gallery {
 /// cannot be written.
 [[nodiscard]] bool savePicture(HWND window, const std::wstring& file);
 
+/// The same with `menu` lying over it, which begins no further left.
+[[nodiscard]] bool savePictureWithMenu(HWND window, HWND menu, const std::wstring& file);
+
 } // namespace NRDM::gallery
