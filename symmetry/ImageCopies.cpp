@@ -3,7 +3,6 @@
 #include "host/Art.h"
 #include "host/Error.h"
 #include "host/suites/AIArtSuite.h"
-#include "host/suites/AITransformArtSuite.h"
 #include "symmetry/ArtSpace.h"
 #include "symmetry/ArtTree.h"
 #include "symmetry/GuideTag.h"
@@ -14,27 +13,10 @@
 namespace facetta {
 namespace {
 
-constexpr ai::int32 kPaint = kTransformFillGradients | kTransformFillPatterns |
-                             kTransformStrokePatterns | kTransformLinkedMasks | kTransformChildren |
-                             kTransformStrokeGradients;
-
-constexpr AIReal kSameStrokeWeight = 1.0F; // reflections and rotations do not scale
-
-ai::int32 optionsOf(Transform parts) {
-    switch (parts) {
-    case Transform::Whole:
-        return kPaint | kTransformObjects;
-    case Transform::PaintOnly:
-        return kPaint;
-    case Transform::AndTellPlugins:
-        return kPaint | kTransformObjects | kTellParentPluginGroups;
-    }
-    return kPaint;
-}
-
 std::vector<AIArtHandle> mapAll(std::span<const AIArtHandle> set, const Matrix& map,
                                 Duplicate duplicate, CopyMode mode) {
     CopyMaker copies{mode};
+    ContainerTransform inPlace;
     AIRealMatrix matrix = narrow(map);
     std::vector<AIArtHandle> made;
     for (const AIArtHandle art : set) {
@@ -42,17 +24,12 @@ std::vector<AIArtHandle> mapAll(std::span<const AIArtHandle> set, const Matrix& 
         if (duplicate == Duplicate::Yes)
             made.push_back(copies.make(source, matrix, art));
         else
-            transformArt(art, matrix, source.parts);
+            inPlace.apply(art, matrix, source.parts);
     }
     return made;
 }
 
 } // namespace
-
-void transformArt(AIArtHandle art, AIRealMatrix& matrix, Transform parts) {
-    ai::check(
-        ai::suites.transformArt->TransformArt(art, &matrix, kSameStrokeWeight, optionsOf(parts)));
-}
 
 bool holdsGuides(AIArtHandle art) { return !GuideTag::marksInside(art).empty(); }
 
@@ -66,6 +43,7 @@ CopySource copySource(AIArtHandle art, const MarkKeys& keys) {
     const ai::int16 type = typeOf(art);
     return {.art = art,
             .marks = marksOf(art, keys),
+            .holdsArt = type != kPathArt,
             .holdsGuides = holdsGuides(art),
             .holdsLocked = holdsLocked(art),
             .selected =
@@ -77,7 +55,9 @@ AIArtHandle CopyMaker::make(const CopySource& source, AIRealMatrix& matrix, AIAr
     AIArtHandle copy = nullptr;
     ai::check(ai::suites.art->DuplicateArt(source.art, kPlaceBelow, behind, &copy));
     if (source.holdsLocked)
-        whileUnlocked(artInside(copy), [&] { transformArt(copy, matrix, source.parts); });
+        whileUnlocked(artInside(copy), [&] { containers_.apply(copy, matrix, source.parts); });
+    else if (source.holdsArt)
+        containers_.apply(copy, matrix, source.parts);
     else
         transformArt(copy, matrix, source.parts);
     if (source.holdsGuides)

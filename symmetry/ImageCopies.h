@@ -6,6 +6,7 @@
 #include "host/Types.h"
 #include "symmetry/ArtMarks.h"
 #include "symmetry/MirrorTag.h"
+#include "symmetry/TransformedArt.h"
 #include "symmetry/geometry/PageAxes.h"
 
 #include <cstdint>
@@ -23,16 +24,6 @@ enum class CopyMode {
     Live,  ///< A copy on a live layer: tagged as generated, and locked.
 };
 
-/// Which parts of an object a transformation changes.
-enum class Transform {
-    Whole,          ///< Geometry and what is painted inside it: gradients, patterns, children.
-    PaintOnly,      ///< Gradients and patterns, for new geometry that is in its place already.
-    AndTellPlugins, ///< As `Whole`, for a plug-in group that its plug-in is to keep up to date.
-};
-
-/// Transforms one object. Throws `ai::Error`.
-void transformArt(AIArtHandle art, AIRealMatrix& matrix, Transform parts);
-
 /// What of an object is selected.
 enum class Selected : std::uint8_t {
     Nothing,
@@ -48,6 +39,7 @@ enum class Selected : std::uint8_t {
 struct CopySource {
     AIArtHandle art = nullptr;
     ArtMarks marks;
+    bool holdsArt = false;    ///< It may contain other objects.
     bool holdsGuides = false; ///< Something inside it carries the mark of a guide.
     bool holdsLocked = false; ///< Something inside it is locked.
     Selected selected = Selected::Nothing;
@@ -87,6 +79,7 @@ private:
 
     CopyMode mode_;
     MarkKeys keys_;
+    ContainerTransform containers_;
     /// Whether duplicates of selected paths are selected in this host; unknown before the first.
     std::optional<bool> pathsStaySelected_;
 };

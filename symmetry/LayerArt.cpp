@@ -12,6 +12,7 @@
 #include "symmetry/ImageCopies.h"
 #include "symmetry/LayerAxesStore.h"
 #include "symmetry/LiveLayers.h"
+#include "symmetry/TransformedArt.h"
 #include "symmetry/Unlocked.h"
 #include "symmetry/WorkSet.h"
 
@@ -50,6 +51,7 @@ ai::ArtSet collectLayerArt() {
 
 void moveArt(const ai::ArtSet& art, const Matrix& motion) {
     const AllChangesAllowed evenInLockedGroups;
+    ContainerTransform transform;
     AIRealMatrix matrix = narrow(motion);
     for (const AIArtHandle each : membersOf(art.get())) {
         const Transform parts =
@@ -58,7 +60,7 @@ void moveArt(const ai::ArtSet& art, const Matrix& motion) {
         // through.
         std::vector<AIArtHandle> locked = artInside(each);
         locked.insert(locked.begin(), each);
-        whileUnlocked(locked, [&] { transformArt(each, matrix, parts); });
+        whileUnlocked(locked, [&] { transform.apply(each, matrix, parts); });
     }
 }
 

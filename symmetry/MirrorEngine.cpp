@@ -142,6 +142,7 @@ private:
         const CopySource source{
             .art = placed.art,
             .marks = unit.marks,
+            .holdsArt = unit.kind != UnitKind::Path,
             .holdsGuides = unit.kind != UnitKind::Path && holdsGuides(placed.art),
             .holdsLocked = unit.kind != UnitKind::Path && holdsLocked(placed.art),
             .selected = selectedOf(unit.selection, placed.isPath),

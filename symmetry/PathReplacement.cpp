@@ -11,7 +11,7 @@
 #include "symmetry/ArtSpace.h"
 #include "symmetry/ArtTree.h"
 #include "symmetry/Draft.h"
-#include "symmetry/ImageCopies.h"
+#include "symmetry/TransformedArt.h"
 
 #include <span>
 
@@ -141,7 +141,8 @@ PlacedArt replaceMembers(const Unit& compound, const MirroredPath& mirrored, con
     const PlacedArt placed{compound.art, mirrored.contours.front().images};
     if (mirrored.unchanged) return placed;
     if (mirrored.carried) {
-        foldArt(compound.art, fold, Transform::Whole);
+        AIRealMatrix matrix = narrow(fold);
+        ContainerTransform{}.apply(compound.art, matrix, Transform::Whole);
         return placed;
     }
     const std::vector<AIArtHandle> formerMembers = childrenOf(compound.art);

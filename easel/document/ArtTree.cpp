@@ -162,6 +162,10 @@ const Art& styleCarrier(const Art& art) noexcept {
 
 Art& styleCarrier(Art& art) noexcept { return const_cast<Art&>(styleCarrier(std::as_const(art))); }
 
+Art& styleHolder(Art& art) noexcept {
+    return art.session().switches.membersShareStyle ? styleCarrier(art) : art;
+}
+
 bool isContainer(const Art& art) noexcept {
     return art.type() == kGroupArt || art.type() == kCompoundPathArt || art.type() == kPluginArt;
 }

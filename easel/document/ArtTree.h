@@ -55,6 +55,9 @@ void freeTree(Art& root);
 [[nodiscard]] const Art& styleCarrier(const Art& art) noexcept;
 [[nodiscard]] Art& styleCarrier(Art& art) noexcept;
 
+/// The object whose style plug-ins read and write as that of `art`.
+[[nodiscard]] Art& styleHolder(Art& art) noexcept;
+
 /// The innermost layer's group that holds `art`, itself included; null when it is on none.
 [[nodiscard]] Art* layerOf(const Art& art) noexcept;
 /// The later of the time stamps of `art` and all its descendants.

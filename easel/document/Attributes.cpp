@@ -91,6 +91,8 @@ void checkSettable(const Art& art, ai::int32 mask, ai::int32 value) {
     if ((value & kArtIsClipMask) != 0 && !mayBeClipMask(art)) throw ai::Error{kBadParameterErr};
     const bool inCompound = art.parent() != nullptr && art.parent()->type() == kCompoundPathArt;
     if ((value & kArtIsTextWrap) != 0 && inCompound) throw ai::Error{kBadParameterErr};
+    const bool deselects = art.session().switches.lockingDeselects;
+    if (!deselects && (value & kLocks) != 0 && selectionOf(art) != Selected::No) refuse(art);
     const ai::int32 guarded = mask & ~(kFree | kSelection);
     const bool unlocks = (mask & ~value & kLocks) != 0;
     if (guarded != 0 && !unlocks)

@@ -29,6 +29,9 @@ struct Switches {
     /// Transforming and disposing of a container reaches what is locked in it; otherwise that is
     /// refused as long as anything in it is locked.
     bool lockedMembersGoAlong = true;
+    /// Transforming a container takes its members along when that is asked for; otherwise it never
+    /// does.
+    bool transformReachesMembers = true;
     /// Locked art refuses to be disposed of.
     bool disposeRefusesLocked = true;
     /// Reading a preference that does not exist succeeds and changes nothing; otherwise 'PARM'.
@@ -44,6 +47,11 @@ struct Switches {
     bool silentFollowsStep = true;
     /// `CountArtSet` writes all of its 64 bits; otherwise the low 32 only.
     bool countIs64Bits = true;
+    /// What is locked or hidden is deselected; otherwise locking and hiding selected art is
+    /// refused.
+    bool lockingDeselects = true;
+    /// The members of a compound path have the style of the whole; otherwise each has its own.
+    bool membersShareStyle = true;
     /// Selecting locked or hidden art is refused; otherwise nothing happens, and successfully.
     bool selectingLockedFails = true;
     /// Pointer entries sit at slots 29 and 30 of the dictionary suite; otherwise they are not there

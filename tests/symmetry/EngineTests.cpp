@@ -202,12 +202,16 @@ TEST_CASE("a closed path that comes out in several parts is one compound path") 
 }
 
 TEST_CASE("a compound path is cut and joined member by member and stays the same object") {
-    EngineFixture fixture;
+    easel::Switches switches;
+    switches.membersShareStyle = false;
+    EngineFixture fixture{switches};
     fixture.step([&] {
         Art& ring = easel::createArt(fixture.document(), kCompoundPathArt,
                                      easel::atBottomOf(fixture.layer()));
         fixture.addPath(ring, {{0, -30}, {40, -30}, {40, 30}, {0, 30}}, true);
         fixture.addPath(ring, {{10, -20}, {10, 20}, {30, 20}, {30, -20}}, true);
+        for (Art* member = ring.firstChild(); member != nullptr; member = member->next())
+            member->write().style.write().path.stroke.width = 7;
         ring.dictionary().set(easel::internKey("ours"), easel::Value{ai::int32{5}});
         easel::select(*ring.lastChild(), true);
     });
@@ -223,8 +227,10 @@ TEST_CASE("a compound path is cut and joined member by member and stays the same
     REQUIRE(members.size() == 2);
     CHECK_FALSE(members[0]->has(kArtSelected));
     CHECK(members[1]->has(kArtFullySelected));
-    for (const Art* member : members)
+    for (const Art* member : members) {
         CHECK(member->segments().size() == 6); // with the two anchors on the axis
+        CHECK(member->style().path.stroke.width == 7);
+    }
 }
 
 TEST_CASE("a clip group shows in each sector its own part of what it clips") {

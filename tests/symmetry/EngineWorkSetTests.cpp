@@ -1,7 +1,11 @@
+#include "easel/document/Art.h"
 #include "easel/document/Attributes.h"
+#include "symmetry/LayerArt.h"
 #include "tests/symmetry/EngineFixture.h"
 
 #include <doctest/doctest.h>
+
+#include <cmath>
 
 using namespace facetta;
 using facetta::tests::EngineFixture;
@@ -46,6 +50,20 @@ const WorkSetRow kRows[] = {
     {"nothing at all", "", "", ""},
 };
 
+/// The first anchor of each path in `parent`, at any depth.
+std::string placesIn(const easel::Art& parent) {
+    std::string places;
+    for (const easel::Art* art = parent.firstChild(); art != nullptr; art = art->next()) {
+        if (!art->segments().empty()) {
+            const AIRealPoint place = art->segments().front().p;
+            places += std::to_string(std::lround(10 * place.h)) + ',' +
+                      std::to_string(std::lround(10 * place.v)) + ' ';
+        }
+        places += placesIn(*art);
+    }
+    return places;
+}
+
 } // namespace
 
 TEST_CASE("a layer run takes every source on the layer and replaces every copy") {
@@ -73,21 +91,34 @@ TEST_CASE("a selection run mirrors what is selected and leaves plain art") {
     }
 }
 
-TEST_CASE("what is locked in a container is unlocked while the container is changed") {
-    for (const char* const drawing : {"k(!a #b)", "k(#!a #g(#b t))", "p(#a)", "c(a #b)"}) {
+TEST_CASE("what is in a container goes with it, locked or not, whatever the host does by itself") {
+    const struct {
+        const char* what;
+        bool easel::Switches::*refused;
+    } hosts[] = {
+        {"a container holds what is locked in it", &easel::Switches::lockedMembersGoAlong},
+        {"it is transformed without its members", &easel::Switches::transformReachesMembers},
+    };
+    for (const char* const drawing :
+         {"k(!a #b)", "k(#!a #g(#b t))", "p(#a)", "p(g(a b))", "c(a #b)"}) {
         INFO(drawing);
-        easel::Switches switches;
-        switches.lockedMembersGoAlong = false; // the host refuses otherwise
-        EngineFixture fixture{switches};
-        fixture.build(fixture.layer(), drawing);
-        fixture.setAxes(1);
-        fixture.attach();
-        const std::string after = fixture.notationOf(fixture.layer());
-        std::string copy{drawing};
-        copy.insert(1, "'");
-        CHECK(after == std::string{drawing} + " " + copy);
-        fixture.regenerate();
-        CHECK(fixture.notationOf(fixture.layer()) == after);
+        const auto drawn = [&](easel::Switches switches) {
+            EngineFixture fixture{switches};
+            fixture.build(fixture.layer(), drawing);
+            fixture.setAxes(3);
+            fixture.attach();
+            fixture.regenerate();
+            const ai::ArtSet art = collectLayerArt();
+            fixture.step([&] { moveArt(art, {0, 1, -1, 0, 50, 70}); });
+            return fixture.notationOf(fixture.layer()) + '\n' + placesIn(fixture.layer());
+        };
+        const std::string usual = drawn({});
+        for (const auto& host : hosts) {
+            INFO(host.what);
+            easel::Switches switches;
+            switches.*host.refused = false;
+            CHECK(drawn(switches) == usual);
+        }
     }
 }
 

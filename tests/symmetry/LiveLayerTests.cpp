@@ -1,3 +1,4 @@
+#include "easel/document/ArtTree.h"
 #include "easel/document/Attributes.h"
 #include "easel/document/Dump.h"
 #include "easel/document/Layers.h"
@@ -337,10 +338,14 @@ TEST_CASE(
         fixture.setAxes(1);
         fixture.attach();
         fixture.removePoints = removePoints;
+        fixture.step([&] { easel::setSegmentSelection(*fixture.layer().lastChild(), 2, 1); });
         fixture.step([&] { releaseLayer(fixture.environment(), nullptr, ResolveTopLevel::Yes); });
         CHECK(fixture.notationOf(fixture.layer()) == "a a ");
         const std::size_t anchors = fixture.layer().lastChild()->segments().size();
         CHECK(anchors == (removePoints ? 2 : 3));
+        for (std::size_t i = 0; i < anchors; ++i) // the last is selected still
+            CHECK(easel::segmentSelection(*fixture.layer().lastChild(), i) ==
+                  (i + 1 == anchors ? kSegmentPointSelected : kSegmentNotSelected));
         CHECK(afterChange(fixture) == 0);
     }
 }
@@ -351,7 +356,15 @@ namespace {
 std::string lifeOfALayer(easel::Switches switches) {
     EngineFixture fixture{switches};
     std::string story;
-    const auto tell = [&] { story += fixture.notationOf(fixture.layer()) + '\n'; };
+    const auto tell = [&] {
+        story += fixture.notationOf(fixture.layer()) + " selected:";
+        const Art* const layer = &fixture.layer();
+        int number = 0;
+        for (const Art* art = easel::nextInPreorder(*layer, *layer); art != nullptr;
+             art = easel::nextInPreorder(*art, *layer), ++number)
+            if (art->has(kArtFullySelected)) story += ' ' + std::to_string(number);
+        story += '\n';
+    };
     fixture.build(fixture.layer(), "@a l(@b #d) #l2(l3(@e)) c(f h) k(!m @t) ~x ^y");
     fixture.setAxes(2);
     fixture.attach();
@@ -362,6 +375,10 @@ std::string lifeOfALayer(easel::Switches switches) {
     fixture.document().undo().undo();
     afterChange(fixture);
     tell();
+    CHECK(fixture.document().undo().redo());
+    afterChange(fixture);
+    tell();
+    fixture.document().undo().undo();
     fixture.step([&] { releaseLayer(fixture.environment(), nullptr, ResolveTopLevel::Yes); });
     tell();
     fixture.step([&] { easel::selectAll(fixture.document()); });
@@ -382,6 +399,10 @@ TEST_CASE("what the host's interface leaves open makes no difference") {
         {"layerSetHasOwnGroup", &easel::Switches::layerSetHasOwnGroup},
         {"sublayerGroupHasParent", &easel::Switches::sublayerGroupHasParent},
         {"undoRestoresStamps", &easel::Switches::undoRestoresStamps},
+        {"lockedMembersGoAlong", &easel::Switches::lockedMembersGoAlong},
+        {"transformReachesMembers", &easel::Switches::transformReachesMembers},
+        {"lockingDeselects", &easel::Switches::lockingDeselects},
+        {"membersShareStyle", &easel::Switches::membersShareStyle},
         {"disposeRefusesLocked", &easel::Switches::disposeRefusesLocked},
         {"wrongEntryTypeHasOwnCode", &easel::Switches::wrongEntryTypeHasOwnCode},
         {"silentFollowsStep", &easel::Switches::silentFollowsStep},

@@ -147,9 +147,9 @@ enum TransferredAttributes : ai::uint32 {
     kTransferHidden = 1U << 8,
 };
 
-void transferStyle(const Art& source, Art& destination) {
-    const Cow<ArtStyle>& style = styleCarrier(source).content().style;
-    Art& carrier = styleCarrier(destination);
+void transferStyle(Art& source, Art& destination) {
+    const Cow<ArtStyle>& style = styleHolder(source).content().style;
+    Art& carrier = styleHolder(destination);
     if (!style.sharesWith(carrier.content().style)) carrier.write().style = style;
 }
 
@@ -160,7 +160,7 @@ void transferName(const Art& source, Art& destination) {
 }
 
 AIErr transferAttributes(AIArtHandle from, AIArtHandle to, ai::uint32 which) {
-    const Art& source = session().artOf(from);
+    Art& source = session().artOf(from);
     Art& destination = session().artOf(to);
     checkEditable(destination);
     if ((which & kTransferName) != 0) transferName(source, destination);

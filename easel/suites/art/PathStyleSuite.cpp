@@ -23,7 +23,7 @@ bool hasStyle(const Art& art) {
 }
 
 Art& styledArt(AIArtHandle handle) {
-    Art& art = styleCarrier(session().artOf(handle));
+    Art& art = styleHolder(session().artOf(handle));
     if (!hasStyle(art)) throw ai::Error{kBadParameterErr};
     return art;
 }

@@ -22,6 +22,7 @@ AIErr transform(AIArtHandle handle, AIRealMatrix* matrix, AIReal lineScale, ai::
     Art& art = session().artOf(handle);
     if (!isFinite(required(matrix)) || !std::isfinite(lineScale)) return kBadParameterErr;
     checkEditable(art);
+    if (!session().switches.transformReachesMembers) flags &= ~kTransformChildren;
     if ((flags & kTransformChildren) != 0) checkContents(art);
     transformArt(art, *matrix, lineScale, flags);
     return kNoErr;

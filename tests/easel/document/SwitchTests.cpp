@@ -100,6 +100,49 @@ TEST_CASE("what is locked in a group goes along with it, or holds it") {
     }
 }
 
+TEST_CASE("what is in a group is transformed with it, or stays") {
+    for (const bool reaches : {true, false}) {
+        const Drawing drawing;
+        session().switches.transformReachesMembers = reaches;
+        const AIArtHandle group = drawing.make(kGroupArt);
+        const AIArtHandle member = drawing.make(kPathArt, kPlaceInsideOnTop, group);
+        AIPathSegment segment{{10, 0}, {10, 0}, {10, 0}, 1};
+        REQUIRE(path().SetPathSegments(member, 0, 1, &segment) == kNoErr);
+        AIRealMatrix matrix{1, 0, 0, 1, 5, 5};
+        constexpr ai::int32 kAll = kTransformObjects | kTransformChildren;
+        REQUIRE(transform().TransformArt(group, &matrix, 1, kAll) == kNoErr);
+        REQUIRE(path().GetPathSegments(member, 0, 1, &segment) == kNoErr);
+        CHECK(segment.p.h == (reaches ? 15 : 10));
+    }
+}
+
+TEST_CASE("locking selected art deselects it, or is refused") {
+    for (const bool deselects : {true, false}) {
+        const Drawing drawing;
+        session().switches.lockingDeselects = deselects;
+        const AIArtHandle made = drawing.make(kPathArt);
+        art().SetArtUserAttr(made, kArtSelected, kArtSelected);
+        CHECK(art().SetArtUserAttr(made, kArtLocked, kArtLocked) ==
+              (deselects ? kNoErr : kUntouchableArtObjectErr));
+        CHECK(isAttribute(made, kArtSelected) == !deselects);
+    }
+}
+
+TEST_CASE("a member of a compound path has the style of the whole, or its own") {
+    for (const bool shares : {true, false}) {
+        const Drawing drawing;
+        session().switches.membersShareStyle = shares;
+        const AIArtHandle whole = drawing.make(kCompoundPathArt);
+        const AIArtHandle member = drawing.make(kPathArt, kPlaceInsideOnTop, whole);
+        Art& styled = session().artOf(shares ? whole : member);
+        styled.write().style.write().path.stroke.width = 7;
+        const AIArtHandle other = drawing.make(kPathArt);
+        constexpr ai::uint32 kTransferStyle = 1U << 1;
+        REQUIRE(art().TransferAttributes(member, other, kTransferStyle) == kNoErr);
+        CHECK(session().artOf(other).style().path.stroke.width == 7);
+    }
+}
+
 TEST_CASE("disposing of locked art is refused, or happens") {
     for (const bool refuses : {true, false}) {
         const Drawing drawing;
