@@ -1,5 +1,6 @@
 #include "symmetry/geometry/MirrorPath.h"
 
+#include "symmetry/geometry/Crossings.h"
 #include "symmetry/geometry/Tolerances.h"
 #include "tests/symmetry/PathText.h"
 #include "tests/symmetry/RandomPaths.h"
@@ -157,6 +158,8 @@ TEST_CASE("what becomes of a path") {
          "rotations M 0 50 L 40 0 L 0 -50, rotations M 40 0 L 80 0"},
         {"along two rays, too close to the origin for cutting", 2, "M 0.05 0 L 0 0 L 0 0.04",
          "rotations M 0.05 0 L 0 0 L 0 0.04"},
+        {"a bulge off the axis that is flatter in its middle", 1, "M 0 0 C 30 0.0063 70 0 100 0",
+         "rotations M 0 0 C 30 0.01 70 0 100 0 C 70 0 30 -0.01 0 0 Z"},
         {"a single anchor", 3, "M 100 50", "all M 100 50"},
         {"a single anchor near an axis", 3, "M 20 5", "rotations M 20 0"},
         {"touching with an anchor: not cut", 1, "M -50 50 L 0 0 L 50 50",
@@ -179,6 +182,76 @@ TEST_CASE("what becomes of a path") {
             CHECK(again.unchanged);
             CHECK(again.contours[0].images == contour.images);
         }
+    }
+}
+
+TEST_CASE("a stretch along an axis sheds the handles of the curves beside it") {
+    Mirror mirror({.axisCount = 1}, kSnapDistance);
+    const MirroredPath result =
+        mirror.mirror(shapeOf("M -50 50 C -50 20 -20 0 0 0 L 100 0 C 120 0 150 20 150 50"));
+    REQUIRE(result.contours.size() == 3);
+    const std::vector<PathSegment>& along = result.contours[1].shape.segments;
+    REQUIRE(along.size() == 2);
+    CHECK(along.front().in == along.front().anchor);
+    CHECK(along.back().out == along.back().anchor);
+}
+
+TEST_CASE("the anchors at which images are joined are known") {
+    struct Row {
+        std::string what;
+        int axisCount;
+        std::string source;
+    };
+    const Row rows[] = {
+        {"open", 1, "M 0 50 L 20 60 L 100 5"},
+        {"closed", 1, "M 10 5 L 50 50 L 70 50 L 100 3"},
+        {"from ray to ray", 3, "M 100 0 L 120 40 L 90 80 L 50 87"},
+        {"cut, and begun where the source began", 2, "M 50 50 L -50 50 L -50 -50 L 50 -50 Z"},
+    };
+    for (const Row& row : rows) {
+        INFO(row.what);
+        const PageAxes axes{.axisCount = row.axisCount};
+        Mirror mirror(axes, kSnapDistance);
+        const MirroredPath result = mirror.mirror(shapeOf(row.source));
+        const Contour& contour = result.contours[0];
+        REQUIRE(contour.jointSpacing > 0);
+        const std::size_t last = contour.shape.segments.size() - 1;
+        for (std::size_t i = 0; i <= last; ++i) {
+            if (!contour.shape.closed && (i == 0 || i == last)) continue; // ends join nothing
+            const Point folded = foldIntoSector0(axes, contour.shape.segments[i].anchor);
+            const bool onAxis = Wedge{axes}.rayAt(folded) != Ray::None;
+            CHECK(onAxis == (i % contour.jointSpacing == contour.firstJoint));
+        }
+    }
+}
+
+TEST_CASE("a compound path that is only carried into another sector is known as that") {
+    struct Row {
+        std::string what;
+        std::vector<std::string> members;
+        bool carried;
+    };
+    const Row rows[] = {
+        {"all beyond the axis",
+         {"M 0 -20 L 50 -20 L 50 -60 Z", "M 70 -20 L 90 -20 L 90 -60 Z"},
+         true},
+        {"some of it", {"M 0 -20 L 50 -20 L 50 -60 Z", "M 70 20 L 90 20 L 90 60 Z"}, false},
+        {"it crosses the axis", {"M 0 -20 L 50 20 L 50 -60 Z"}, false},
+        {"an end moves", {"M 0 -20 L 50 -20 L 50 -60 Z", "M 70 -50 L 90 -5"}, false},
+        {"too small to be cut",
+         {"M 0 -20 L 50 -20 L 50 -60 Z", "M 70 -2 L 70.1 -2 L 70 -2.1 Z"},
+         false},
+        {"one on the axis, with images of its own",
+         {"M 0 20 L 50 20 L 50 60 Z", "M 10 0 L 90 0 Z"},
+         false},
+    };
+    for (const Row& row : rows) {
+        INFO(row.what);
+        std::vector<PathShape> members;
+        for (const std::string& member : row.members)
+            members.push_back(shapeOf(member));
+        Mirror mirror({.axisCount = 1}, kSnapDistance);
+        CHECK(mirror.mirrorCompound(members).carried == row.carried);
     }
 }
 
