@@ -80,7 +80,7 @@ void CopyMaker::markAndLock(AIArtHandle copy, const CopySource& source) const {
         ai::check(ai::suites.dictionary->DeleteEntry(entries.get(), keys_.guide));
     ai::check(
         ai::suites.dictionary->SetIntegerEntry(entries.get(), keys_.mirror, MirrorTag::kCopy));
-    // In two calls: in which order a host sets the attributes of one call is its affair.
+    // In two calls: the order in which a host sets the attributes of one call is not specified.
     if (source.selected != Selected::Nothing)
         ai::check(ai::suites.art->SetArtUserAttr(copy, kArtSelected, 0));
     ai::check(ai::suites.art->SetArtUserAttr(copy, kArtLocked, kArtLocked));

@@ -178,7 +178,7 @@ void LayerAxesStore::stamp(AILayerHandle layer, ai::int32 stamp) {
     const ai::Dictionary axes = axesEntryIn(entries);
     if (!axes) return;
     writeInteger(axes, key::kStamp, stamp);
-    storeAxesEntry(entries, axes); // whether a host lends the entry itself or a copy is its affair
+    storeAxesEntry(entries, axes); // the host may have lent a copy of the entry
 }
 
 ai::int32 LayerAxesStore::stampOf(AILayerHandle layer) {

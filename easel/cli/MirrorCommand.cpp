@@ -48,7 +48,7 @@ void mirrorDrawing(MirrorSession& session, const MirrorCommand& command, Report&
     report.begin("mirror", "Mirroring");
     session.mirror(command.request);
     report.statistics.after = countArt(session.host.session.document());
-    // The picture first: where it cannot be made, no drawing is written either.
+    // The picture first: if it cannot be made, no drawing is written either.
     std::optional<OutputFile> picture;
     if (!command.picture.empty()) {
         report.begin("paint", "Painting");

@@ -69,7 +69,7 @@ ItemName readItem(Arguments& arguments) {
 SeenItem find(const Dialog& dialog, const ItemName& name) {
     const std::vector<SeenItem> items = dialog.items();
     const auto fits = [&](const SeenItem& item) { return name.means(item); };
-    // Of two with the same text the one that can be seen is meant.
+    // If two have the same text, the visible one is meant.
     auto found =
         std::ranges::find_if(items, [&](const SeenItem& item) { return fits(item) && item.shown; });
     if (found == items.end()) found = std::ranges::find_if(items, fits);
@@ -183,7 +183,7 @@ Deed readKey(Arguments& arguments) {
     const Key key = readKeyName(arguments);
     const int times = arguments.atEnd() ? 1 : arguments.whole("number of taps", 1, kMostTimes);
     return [=](Player& player, Where where) {
-        // A tap may close the dialog; the next one needs another.
+        // A tap may close the dialog, so the next one looks it up again.
         for (int i = 0; i < times; ++i)
             press(player, usable(player, where), key);
         player.host().idle();
@@ -228,7 +228,7 @@ Deed readClose(Arguments&) {
     };
 }
 
-/// Null when the menu has no such entry.
+/// Null if the menu has no such entry.
 const FlyoutItem* findEntry(const FlyoutMenu& menu, const std::string& text) {
     const auto found = std::ranges::find_if(menu.items, [&](const FlyoutItem& item) {
         return !item.isSeparator && utf8FromUtf32(item.text) == text;
@@ -296,7 +296,7 @@ std::optional<double> valueOf(const SeenItem& item) {
     return item.position ? item.position : numberIn(item.text);
 }
 
-/// Two words for a thing that is or is not.
+/// The two words for something that either is or is not.
 struct StateWords {
     const char* yes;
     const char* no;

@@ -1,7 +1,7 @@
 #include "easel/script/System.h"
 
-/// Here is no system with a keyboard: the program that runs the plug-in stands for it, and exports
-/// what the plug-in's library looks up by name.
+/// There is no system with a keyboard here: the program that runs the plug-in stands in for it, and
+/// exports what the plug-in's library looks up by name.
 
 namespace easel {
 namespace {

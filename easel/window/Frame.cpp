@@ -390,7 +390,7 @@ bool Frame::saveTo(const std::filesystem::path& file) {
         return false;
     hand_.document().path = file;
     noteSaved();
-    front_ = nullptr; // the title is another
+    front_ = nullptr; // the title has changed
     follow();
     return true;
 }

@@ -313,7 +313,7 @@ TEST_CASE("what is too much is refused, and what is just allowed is read") {
     CHECK(messageFor("<svg>" + nested(499, "") + "</svg>") == "no error");
     CHECK(messageFor("<svg>" + nested(500, "") + "</svg>") ==
           "a.svg:1: elements are nested more than 500 deep; remove groups that hold only a group");
-    // Every level doubles what it refers to, in a style of its own.
+    // Each level doubles what it refers to, in its own style.
     std::string text = "<svg><path id='x0' d='M0 0'/>";
     for (int i = 1; i < 40; ++i) {
         text += "<g id='x" + std::to_string(i) + "'>";

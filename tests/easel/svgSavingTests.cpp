@@ -32,7 +32,7 @@ void checkStable(const Document& document) {
 
 Art& firstArt(const Document& document) { return *document.root().firstChild()->firstChild(); }
 
-/// Everything that has a place of its own, the bottom-most first.
+/// Everything with a place of its own, from the bottom up.
 std::vector<Art*> topArt(const Document& document) {
     std::vector<Art*> found;
     for (Art* layer = document.root().lastChild(); layer != nullptr; layer = layer->previous())
@@ -41,7 +41,7 @@ std::vector<Art*> topArt(const Document& document) {
     return found;
 }
 
-/// What is done to drawings of which nobody knows what they hold.
+/// What is done to drawings of unknown content.
 struct Change {
     const char* name;
     void (*make)(Art&);

@@ -107,7 +107,7 @@ TEST_CASE("whichever suite is refused, start-up fails with the host's code and g
         CHECK(result == (optional ? kNoErr : kSPSuiteNotFoundError));
         CHECK((session.record().globals != nullptr) == optional);
         CHECK((thePlugin != nullptr) == optional);
-        // A missing suite is silent, a panel that cannot be made is not.
+        // A missing suite is not reported, a panel that cannot be made is.
         CHECK(session.host.user.alerts.size() == (refused == kPanels ? 1 : 0));
         if (!optional) continue;
         session.send("AI Menu", "AI Go", AIMenuMessage{}); // tries the optional ones again
@@ -192,7 +192,7 @@ TEST_CASE("unloading gives the suites back; reloading mends the table of virtual
     CHECK(ai::suites.menu == nullptr);
     CHECK(session.send(kCallerMenu, kSelectorGo, AIMenuMessage{}) == kNoErr);
 
-    // The library comes back elsewhere: the object's first word leads nowhere.
+    // The library is loaded at another address: the object's first word now points nowhere.
     void* const nowhere = nullptr;
     std::memcpy(static_cast<void*>(plugin), &nowhere, sizeof nowhere);
     CHECK(session.send(kCallerAccess, kSelectorReload, SPAccessMessage{}) == kNoErr);
@@ -269,7 +269,7 @@ TEST_CASE("settings outlive a host that goes on refusing suites") {
     CHECK(storedCount(session) == 7);
     easel::sessionWithSuites().suites.renumber("AI Mesh Suite", 6, 5);
 
-    // What no suite could take back the host frees when it ends.
+    // The host frees what no suite can release when it ends.
     const void* const functions =
         easel::sessionWithSuites().suites.functions(kAIArtSetSuite, kAIArtSetSuiteVersion);
     AIArtSet set = leftBehind;

@@ -57,7 +57,7 @@ public:
         CHECK(host.redo());
         settle();
     }
-    /// A notification that comes late has come, and timers have gone off.
+    /// Late notifications have arrived and timers have fired.
     void settle() {
         for (int times = 0; times < 3; ++times) {
             host.clock.advance(1000);

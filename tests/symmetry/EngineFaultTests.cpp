@@ -21,7 +21,7 @@ namespace {
 constexpr AIErr kInjected = fourCharacterCode("FAIL");
 
 /// Stored values that cannot be read count as missing, by design; a scope that ends gives back and
-/// puts back what it took without looking.
+/// puts back what it took without looking at it.
 constexpr std::string_view kUnreported[] = {
     "AI Dictionary Suite.GetIntegerEntry",
     "AI Dictionary Suite.GetBooleanEntry",
@@ -119,7 +119,7 @@ TEST_CASE("whichever host call fails, its code comes back, nothing is kept, one 
         REQUIRE(calls.size() > 100); // the action does reach the host
         for (std::size_t i = 0; i < calls.size(); ++i) {
             const std::uint64_t call = i + 1;
-            // Alone; and with all that follow, with the next, or with a code that means something.
+            // On its own, then with all later calls, with the next one, and with a meaningful code.
             const FaultPlan further[] = {
                 {Mode::FromThenOn, call, {}, kInjected},
                 {Mode::Once, call, {}, kInjected, call + 1},

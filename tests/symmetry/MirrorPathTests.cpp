@@ -525,7 +525,7 @@ TEST_CASE("time grows with the number of segments, not its square") {
             star.segments.push_back({anchor, anchor, anchor});
         }
         Mirror mirror(axes, kSnapDistance);
-        // Of the processor: other programs that run must not count.
+        // Processor time, so that other running programs do not count.
         const std::clock_t start = std::clock();
         const MirroredPath result = mirror.mirror(star);
         const std::clock_t end = std::clock();

@@ -103,7 +103,7 @@ TEST_CASE("removing many anchors in a row moves the curve no farther than removi
                  return Point{i * 2.5, 0.004 * std::sin(i * 0.02) + (i % 2 == 0 ? 0.0005 : 0.0)};
              }),
          100},
-        // One more of them could go if each were looked at alone.
+        // One more of them could go if each were judged alone.
         {"round the origin, an anchor on each half-line", 72,
          straightSteps(144, [](int i) { return Point{} + 0.5 * direction(i * kPi / 72); }), 100},
     };

@@ -15,7 +15,7 @@ TEST_CASE("a container is selected as its descendants are") {
     CHECK(art().SetArtUserAttr(group, kArtFullySelected, kArtFullySelected) == kNoErr);
     CHECK(isAttribute(b, kArtFullySelected));
     CHECK(isAttribute(group, kArtFullySelected));
-    // Locking deselects, and a group is then selected without what cannot be.
+    // Locking deselects; a group is then selected except for its locked members.
     CHECK(art().SetArtUserAttr(a, kArtLocked, kArtLocked) == kNoErr);
     CHECK_FALSE(isAttribute(a, kArtSelected));
     CHECK_FALSE(isAttribute(group, kArtFullySelected));

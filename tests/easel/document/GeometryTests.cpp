@@ -5,7 +5,7 @@
 namespace easel::tests {
 namespace {
 
-/// Far from the ruler origin a wrong side of multiplication shows at once.
+/// Far from the ruler origin, factors in the wrong order show at once.
 constexpr AIRealPoint kFarOrigin{5000, -3000};
 
 TEST_CASE("art is transformed as points are, each coordinate rounded once") {

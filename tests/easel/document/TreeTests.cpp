@@ -3,7 +3,7 @@
 namespace easel::tests {
 namespace {
 
-/// The names of the children, front-most first; checks that the walk backwards meets the same.
+/// The names of the children, front-most first; checks that walking backwards meets the same ones.
 std::string childrenOf(AIArtHandle parent) {
     std::string forwards;
     std::string backwards;

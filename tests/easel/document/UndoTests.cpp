@@ -141,7 +141,7 @@ TEST_CASE("any sequence of records is undone to the start and redone to the end"
                     editor.edit();
                 if (editor.below(5) == 0) document.undo().revert();
             }
-            // A record in which nothing lasted is no step.
+            // A record that leaves nothing changed is not a step.
             if (document.undo().pastSteps() == std::ssize(states)) states.push_back(dump(document));
             CHECK(dump(document) == states.back());
         }

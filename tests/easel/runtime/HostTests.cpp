@@ -103,7 +103,7 @@ TEST_CASE("the globals a message leaves behind are given to the next one") {
     plugin.on("SP Interface/Startup", [&](SPMessageData& data) {
         CHECK(data.globals == nullptr);
         data.globals = &state;
-        // The host still keeps the old value while start-up runs.
+        // The host keeps the old value until start-up is over.
         listenTo(plugin, "Test Nested");
         return ai::suites.notifier->Notify("Test Nested", nullptr);
     });

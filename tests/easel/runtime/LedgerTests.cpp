@@ -150,7 +150,7 @@ TEST_CASE("a suite that is never released is named at the end") {
     fixture.host.send(fixture.plugin.self(), "SP Interface", "About", about);
     fixture.host.quit();
     CHECK(anyContains(fixture.host.complaints(), "AI Tool Suite 12"));
-    // Given back, so that the tables, which outlive this host, count right for the next.
+    // Given back, because the tables outlive this host and must be right for the next one.
     CHECK(about.d.basic->ReleaseSuite("AI Tool Suite", 12) == kNoErr);
     CHECK(about.d.basic->ReleaseSuite("AI Tool Suite", 12) == kSPSuiteAlreadyReleasedError);
     CHECK(fixture.host.complaints().empty());
@@ -162,7 +162,7 @@ TEST_CASE("a reference lent several times is back when each lending is") {
     int thing = 0;
     book.lend(Lent::Dictionary, &thing);
     book.lend(Lent::Dictionary, &thing);
-    book.lend(Lent::Array, &thing); // another kind at the same address is another loan
+    book.lend(Lent::Array, &thing); // a loan of its own, though at the same address
     CHECK(book.count(Lent::Dictionary) == 2);
     book.takeBack(Lent::Dictionary, &thing);
     CHECK(book.isLent(Lent::Dictionary, &thing));

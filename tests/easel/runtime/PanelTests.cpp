@@ -92,7 +92,7 @@ TEST_CASE("a panel starts hidden in its first state; its callbacks tell what hap
     CHECK(state == 1);
 
     host.showPanel(panel, true);
-    host.showPanel(panel, true); // no news
+    host.showPanel(panel, true); // already shown
     host.cyclePanel(panel);
     host.cyclePanel(panel); // round
     panels.SetCurrentState(panel, 2);
@@ -128,7 +128,7 @@ TEST_CASE("a panel's callbacks come outside any context, as the user's clicks in
     CHECK(codes == std::vector<AIErr>{kNoDocumentErr, kNoErr});
     CHECK(host.undo());
     CHECK(easel::session().document().state().currentLayer->firstChild() == nullptr);
-    // In a message that the plug-in is answering there is the host's.
+    // While the plug-in answers a message, the host's context is there.
     codes.clear();
     plugin.run([&] { panels.SetCurrentState(panel, 1); });
     CHECK(codes == std::vector<AIErr>{kNoErr, kNoErr});
