@@ -160,6 +160,10 @@ TEST_CASE("what becomes of a path") {
          "rotations M 0.05 0 L 0 0 L 0 0.04"},
         {"a bulge off the axis that is flatter in its middle", 1, "M 0 0 C 30 0.0063 70 0 100 0",
          "rotations M 0 0 C 30 0.01 70 0 100 0 C 70 0 30 -0.01 0 0 Z"},
+        {"a bulge right behind an anchor on the axis is the anchor's own", 1,
+         "M 0 0 C 100 8 200 -9000 300 50",
+         "rotations M 0 0 C 99.82 -7.99 199.63 8966.73 299.45 0 "
+         "C 199.63 -8966.73 99.82 7.99 0 0 Z"},
         {"a single anchor", 3, "M 100 50", "all M 100 50"},
         {"a single anchor near an axis", 3, "M 20 5", "rotations M 20 0"},
         {"touching with an anchor: not cut", 1, "M -50 50 L 0 0 L 50 50",
