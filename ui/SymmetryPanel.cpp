@@ -46,6 +46,17 @@ private:
     Preferences preferences_;
 };
 
+/// Follows the document: no message need have told of its changes. What the panel shows stays, or
+/// the value that the user has just given would be gone before anybody has read it. True when the
+/// panel must be brought up to date afterwards.
+bool followedUnseen(ToolSession& tool) {
+    const Place before = tool.state.place;
+    const auto updatePanel = std::exchange(tool.updatePanel, [] {});
+    followDocument(tool);
+    tool.updatePanel = updatePanel;
+    return tool.state.place != before;
+}
+
 } // namespace
 
 /// What the toolkit calls.
@@ -150,11 +161,12 @@ void SymmetryPanel::show(bool shown) {
 
 void SymmetryPanel::during(const std::function<void(PanelSession&)>& act) {
     owner_.withTool([&](ToolSession& tool) {
-        followDocument(tool); // no message need have told
+        const bool moved = followedUnseen(tool);
         PanelSession session{adm_, dialog_, tool, owner_.copiedAxes};
         const Beginning beginning(tool);
         try {
             act(session);
+            if (moved) tool.updatePanel();
         } catch (...) {
             if (dialog_ == nullptr) return; // the host has ended the plug-in
             static_cast<void>(ai::codeOf([&] {

@@ -272,3 +272,32 @@ TEST_CASE("without a document the panel keeps what is typed for the next axes") 
     CHECK(PanelInHand::textOf(kOriginX) == "0.000 pt");
     CHECK(session.host.user.alerts.empty());
 }
+
+TEST_CASE("what the user gives counts, also when the document has changed untold before") {
+    struct Row {
+        const char* what;
+        void (*give)();
+        bool (*counts)();
+    };
+    const Row rows[] = {
+        {"box", [] { PanelInHand::item(kOverlay).clicked(); },
+         [] { return thePlugin->preferences.useOverlay; }},
+        {"number",
+         [] {
+             PanelInHand::item(kCount).typed("7");
+             PanelInHand::item(kCount).commit();
+         },
+         [] { return thePlugin->tool.axes.axisCount == 7; }},
+        {"mode", [] { PanelInHand::item(kSelectionMode).clicked(); },
+         [] { return thePlugin->preferences.applyToSelection; }},
+    };
+    for (const Row& row : rows) {
+        INFO(std::string(row.what));
+        ToolInHand session;
+        session.dragFrom({400, -300}, {500, -260});
+        session.host.editToolOptions(); // the axes go on the layer, and there is no art to tell of
+        row.give();
+        CHECK(row.counts());
+        CHECK(PanelInHand::isEnabled(kCancel));
+    }
+}
