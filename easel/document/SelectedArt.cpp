@@ -43,4 +43,12 @@ void duplicateSelected(Document& document) {
     }
 }
 
+void restyleSelected(Document& document, const std::function<void(ArtStyle&)>& change) {
+    const Art& root = document.root();
+    for (Art* art = nextInPreorder(root, root); art != nullptr; art = nextInPreorder(*art, root))
+        if (art->type() == kPathArt && selectionOf(*art) != Selected::No)
+            change(styleCarrier(*art).write().style.write());
+    change(document.writeState().initialStyle.write());
+}
+
 } // namespace easel

@@ -2,6 +2,8 @@
 
 #include "easel/document/Document.h"
 
+#include <functional>
+
 /// What the host's own commands do with the selection. All of it can be edited: what is locked or
 /// hidden is never selected.
 
@@ -15,5 +17,7 @@ void deleteSelected(Document& document);
 void moveSelected(Document& document, double right, double up);
 /// Copies take the place of the originals in front of them, and the selection.
 void duplicateSelected(Document& document);
+/// Changes how the selected paths are painted, and what is drawn from now on.
+void restyleSelected(Document& document, const std::function<void(ArtStyle&)>& change);
 
 } // namespace easel

@@ -124,8 +124,12 @@ public:
     void track(const MousePoint& mouse) {
         act([&] { tools.track(mouse); });
     }
-    void press(const MousePoint& mouse) { tools.press(mouse); }
-    void drag(const MousePoint& mouse) { tools.drag(mouse); }
+    void press(const MousePoint& mouse) {
+        gesture([&] { tools.press(mouse); });
+    }
+    void drag(const MousePoint& mouse) {
+        gesture([&] { tools.drag(mouse); });
+    }
     void release(const MousePoint& mouse) {
         act([&] { tools.release(mouse); });
     }
@@ -204,6 +208,14 @@ private:
             idle();
             return result;
         }
+    }
+    /// A part of what the user does with the mouse: notifications wait for its end, but what has
+    /// become of the drawing is seen.
+    template <typename Act> void gesture(Act act) {
+        const std::pair before{session.lastStamp, session.exchanges};
+        act();
+        if (before != std::pair{session.lastStamp, session.exchanges}) redrawLater();
+        stale_ = stale_ || tools.marquee();
     }
     void noteViewMoved();
     void forgetRegistrations(SPPluginRef plugin);

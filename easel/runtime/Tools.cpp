@@ -16,8 +16,24 @@ namespace {
 
 /// The host's own tools, numbered from 1 in this order.
 constexpr const char* kBuiltInTools[] = {
-    "Adobe Select Tool", "Adobe Direct Select Tool", "Adobe Reflect Tool",
-    "Adobe Pen Tool",    "Adobe Zoom Tool",          "Adobe Scroll Tool",
+    "Adobe Select Tool",    "Adobe Direct Select Tool", "Adobe Reflect Tool", "Adobe Pen Tool",
+    "Adobe Zoom Tool",      "Adobe Scroll Tool",        "Easel Pencil Tool",  "Easel Line Tool",
+    "Easel Rectangle Tool", "Easel Ellipse Tool",
+};
+
+/// The own tools that do something, and how undo calls that.
+struct OwnTool {
+    AIToolType number;
+    const char* undoText;
+    std::optional<DrawingHand::Kind> kind; ///< Nothing: the pen.
+};
+constexpr OwnTool kOwnTools[] = {
+    {Tools::kSelectTool, "Move", DrawingHand::Kind::Select},
+    {Tools::kPenTool, "Pen", {}},
+    {7, "Pencil", DrawingHand::Kind::Pencil},
+    {8, "Line", DrawingHand::Kind::Line},
+    {9, "Rectangle", DrawingHand::Kind::Rectangle},
+    {10, "Ellipse", DrawingHand::Kind::Ellipse},
 };
 
 /// `AIEvent::what`.
@@ -105,7 +121,7 @@ void Tools::track(const MousePoint& mouse) {
 
 void Tools::press(const MousePoint& mouse) {
     if (gesture_ != nullptr) return;
-    if (current == nullptr) return pressPen(mouse);
+    if (current == nullptr) return pressOwn(mouse);
     const Tool& tool = tools.at(current);
     gesture_ = sender_.begin(tool.plugin);
     gestureTool_ = current; // keeps the gesture, whatever tool it chooses meanwhile
@@ -113,12 +129,17 @@ void Tools::press(const MousePoint& mouse) {
     send(kSelectorMouseDown, gestureTool_, &mouse, kDownEvent);
 }
 
-void Tools::pressPen(const MousePoint& mouse) {
-    if (currentBuiltIn != kPenTool) return;
+void Tools::pressOwn(const MousePoint& mouse) {
+    const auto* const tool = std::ranges::find(kOwnTools, currentBuiltIn, &OwnTool::number);
+    if (tool == std::end(kOwnTools)) return;
     Document& document = session_.document();
     gesture_ = sender_.begin(nullptr);
-    document.undo().setTexts("Undo Pen", "Redo Pen");
-    pen_.press(document, mouse.at);
+    document.undo().setTexts(std::string("Undo ") + tool->undoText,
+                             std::string("Redo ") + tool->undoText);
+    if (tool->kind)
+        hand_.press(*tool->kind, document, mouse.at, mouse.modifiers);
+    else
+        pen_.press(document, mouse.at);
 }
 
 void Tools::endPath() {
@@ -128,8 +149,10 @@ void Tools::endPath() {
 
 void Tools::drag(const MousePoint& mouse) {
     if (gesture_ == nullptr) return;
-    if (gestureTool_ == nullptr)
+    if (gestureTool_ == nullptr && currentBuiltIn == kPenTool)
         pen_.drag(mouse.at);
+    else if (gestureTool_ == nullptr)
+        hand_.drag(mouse.at, mouse.modifiers);
     else
         send(kSelectorMouseDrag, gestureTool_, &mouse, kDragEvent);
 }
@@ -137,6 +160,7 @@ void Tools::drag(const MousePoint& mouse) {
 void Tools::release(const MousePoint& mouse) {
     if (gesture_ == nullptr) return;
     if (gestureTool_ != nullptr) send(kSelectorMouseUp, gestureTool_, &mouse, kUpEvent);
+    hand_.release();
     gestureTool_ = nullptr;
     sender_.end(std::exchange(gesture_, nullptr));
 }

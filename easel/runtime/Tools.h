@@ -1,6 +1,7 @@
 #pragma once
 
 #include "easel/core/Registry.h"
+#include "easel/runtime/DrawingHand.h"
 #include "easel/runtime/Pen.h"
 #include "host/Handles.h"
 #include "host/Types.h"
@@ -49,7 +50,7 @@ public:
     Tools(Session& session, Sender& sender, Notifiers& notifiers, const Views& views,
           const Clock& clock)
         : session_(session), sender_(sender), notifiers_(notifiers), views_(views), clock_(clock),
-          pen_(session) {}
+          pen_(session), hand_(session) {}
 
     /// Null chooses the built-in tool `builtIn`.
     void select(AIToolHandle tool, AIToolType builtIn);
@@ -85,13 +86,17 @@ public:
     [[nodiscard]] AIToolHandle handleOf(AIToolType number) const;
     [[nodiscard]] AIToolHandle named(const std::string& name) const;
     [[nodiscard]] AIToolType currentNumber() const;
+    /// What the select tool drags around; nothing when it does not.
+    [[nodiscard]] const std::optional<AIRealRect>& marquee() const noexcept {
+        return hand_.marquee();
+    }
 
 private:
     /// Nothing happens when the tool is null or gone, or the mouse is over no window.
     void send(const char* selector, AIToolHandle tool, const MousePoint* mouse = nullptr,
               ai::uint16 what = 0);
     void changeDiameter(bool larger);
-    void pressPen(const MousePoint& mouse);
+    void pressOwn(const MousePoint& mouse);
 
     Session& session_;
     Sender& sender_;
@@ -99,8 +104,9 @@ private:
     const Views& views_;
     const Clock& clock_;
     AIAppContextHandle gesture_ = nullptr; ///< The context that spans press to release.
-    AIToolHandle gestureTool_ = nullptr;   ///< Null in a gesture of the host's own pen.
+    AIToolHandle gestureTool_ = nullptr;   ///< Null in a gesture of one of the host's own.
     Pen pen_;
+    DrawingHand hand_;
 };
 
 } // namespace easel

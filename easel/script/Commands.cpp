@@ -7,6 +7,7 @@
 #include "easel/document/SelectedArt.h"
 #include "easel/script/Deeds.h"
 #include "easel/script/System.h"
+#include "easel/svg/Colour.h"
 
 #include <algorithm>
 
@@ -187,6 +188,34 @@ Action readNudge(Arguments& arguments) {
         static_cast<void>(player.document());
         player.host().edit("Move",
                            [=](Document& document) { moveSelected(document, right, -down); });
+    };
+}
+
+/// Fill or stroke in one colour, or not at all.
+Action readPaint(Arguments& arguments) {
+    constexpr const char* kWhat[] = {"fill", "stroke", "width"};
+    const std::size_t what = arguments.choice("thing to paint", kWhat);
+    std::function<void(ArtStyle&)> change;
+    if (what == 2) {
+        const double width = arguments.number("width");
+        if (!(width >= 0 && width <= 1000)) throw Mistake("a stroke is 0 to 1000 points wide");
+        change = [width](ArtStyle& style) { style.path.stroke.width = static_cast<AIReal>(width); };
+    } else {
+        const std::string name = arguments.text("colour");
+        const auto colour = svg::parseColour(name);
+        if (!colour && name != "none")
+            throw Mistake('"' + name +
+                          "\" is no colour; one is written #rrggbb, by its name, or none");
+        change = [colour, isFill = what == 0](ArtStyle& style) {
+            (isFill ? style.path.fillPaint : style.path.strokePaint) = colour ? 1 : 0;
+            (isFill ? style.fillDefinition : style.strokeDefinition) = nullptr;
+            AIColor& ink = isFill ? style.path.fill.color : style.path.stroke.color;
+            if (colour) ink = rgbColor(colour->red, colour->green, colour->blue);
+        };
+    }
+    return [change](Player& player) {
+        static_cast<void>(player.document());
+        player.host().edit("Paint", [&](Document& document) { restyleSelected(document, change); });
     };
 }
 
@@ -418,6 +447,8 @@ constexpr CommandRow kCommands[] = {
      "Selects everything, nothing, or the art that has one of these ids or names", readSelect},
     {"delete", "ID", "Deletes the art of that id or name", readDelete},
     {"nudge", "RIGHT DOWN", "Moves what is selected by so many user units", readNudge},
+    {"paint", "fill|stroke COLOUR|none, or width NUMBER",
+     "Paints what is selected that way, and what the host's own tools draw from now on", readPaint},
     {"clear", "", "Deletes what is selected", readClear},
     {"tool", "NAME|options",
      "Takes that tool in hand, or double-clicks the icon of the one in hand", readTool},

@@ -276,6 +276,14 @@ void Canvas::paintSelection(const DocumentView& view, paint::Painter& painter) {
         painter.stroke({path}, paint::Pen{}, ink);
         painter.fill(anchors, paint::FillRule::NonZero, ink);
     }
+    if (const auto& area = hand_.host().tools.marquee()) {
+        const AIPoint from = toViewPixel(view, {area->left, area->top});
+        const AIPoint to = toViewPixel(view, {area->right, area->bottom});
+        paint::Pen dashed;
+        dashed.dashes = {3, 3};
+        painter.stroke(rectangle({from.h, from.v, to.h, to.v}), dashed,
+                       inkOf(LayerProperties{}.color));
+    }
 }
 
 } // namespace easel::window

@@ -1,6 +1,7 @@
 #include "easel/window/Frame.h"
 
 #include "easel/core/OutputFile.h"
+#include "easel/document/SelectedArt.h"
 #include "easel/paint/PaintDocument.h"
 #include "easel/svg/Numbers.h"
 #include "easel/svg/SvgFile.h"
@@ -106,6 +107,15 @@ std::size_t textOf(const Document& document) {
     return std::hash<std::string>{}(svg::svgText(document));
 }
 
+/// Where the copy of an unsaved drawing lies.
+std::filesystem::path copyOf(const std::filesystem::path& file) {
+    std::filesystem::path copy =
+        file.empty() ? std::filesystem::temp_directory_path() / "Untitled.svg" : file;
+    copy += ".unsaved";
+    return copy;
+}
+constexpr ULONGLONG kCopyMilliseconds = 20'000;
+
 script::PlayerSettings settingsOf(const WindowOptions& options) {
     script::PlayerSettings settings;
     settings.plugin = options.plugin;
@@ -119,7 +129,7 @@ script::PlayerSettings settingsOf(const WindowOptions& options) {
 
 Frame::Frame(Session& session, const WindowOptions& options)
     : options_(options), hand_(session, settingsOf(options)), menus_(hand_, kFirstPluginItem),
-      tools_(hand_), canvas_(hand_), dock_(hand_) {
+      tools_(hand_), swatches_(hand_), canvas_(hand_), dock_(hand_) {
     const HMENU bar = menus_.open();
     for (const OwnItem& item : kItems)
         AppendMenuW(menus_.at(item.place), item.text != nullptr ? MF_STRING : MF_SEPARATOR,
@@ -141,6 +151,7 @@ Frame::Frame(Session& session, const WindowOptions& options)
     canvas_.open(handle());
     status_ = makeControl(STATUSCLASSNAMEW, L"", SBARS_SIZEGRIP, handle(), kStatusId);
     tools_.open(handle(), kToolBarId, kFirstTool);
+    swatches_.open(handle());
     hand_.settled = [this] { follow(); };
     arrange();
 }
@@ -228,6 +239,7 @@ bool Frame::takesKey(const MSG& message) {
     constexpr LPARAM kRepeated = LPARAM{1} << 30;
     const bool down = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
     const bool repeated = down && (message.lParam & kRepeated) != 0;
+    if (hand_.hasDocument() && message.message == WM_KEYDOWN && nudge(message.wParam)) return true;
     if (!hand_.hasDocument() || !isNamedKey(message.wParam)) return false;
     constexpr WPARAM kSmaller = VK_OEM_4; // [
     constexpr WPARAM kLarger = VK_OEM_6;  // ]
@@ -238,6 +250,17 @@ bool Frame::takesKey(const MSG& message) {
     else if (!repeated)
         canvas_.tellKeys();
     return message.message == WM_KEYDOWN || message.message == WM_KEYUP;
+}
+
+/// The arrow keys move what is selected, with Shift ten times as far.
+bool Frame::nudge(WPARAM key) {
+    if (key < VK_LEFT || key > VK_DOWN || hand_.script.isBusy()) return false;
+    if (selectedArt(hand_.document()).empty()) return true;
+    constexpr int kWays[][2] = {{-1, 0}, {0, -1}, {1, 0}, {0, 1}}; // left, up, right, down
+    const auto& way = kWays[key - VK_LEFT];
+    const int times = isDown(VK_SHIFT) ? 10 : 1;
+    return hand_.act("nudge " + std::to_string(times * way[0]) + ' ' +
+                     std::to_string(times * way[1]));
 }
 
 void Frame::command(int id) {
@@ -300,7 +323,7 @@ void Frame::refreshMenu(HMENU menu) {
 }
 
 void Frame::arrange() {
-    if (status_ == nullptr || tools_.handle() == nullptr) return;
+    if (status_ == nullptr || swatches_.handle() == nullptr) return;
     SendMessageW(status_, WM_SIZE, 0, 0);
     RECT bottom{};
     GetWindowRect(status_, &bottom);
@@ -308,7 +331,9 @@ void Frame::arrange() {
     const LONG statusTop = area.cy - (bottom.bottom - bottom.top);
     const LONG top = tools_.height();
     const LONG dockLeft = std::max<LONG>(0, area.cx - dock_.width());
-    placeWindow(tools_.handle(), {0, 0, area.cx, top});
+    const LONG swatches = std::max<LONG>(0, area.cx - Swatches::width());
+    placeWindow(tools_.handle(), {0, 0, swatches, top});
+    swatches_.place({swatches, 0, area.cx, top});
     dock_.place({dockLeft, top, area.cx, statusTop});
     dock_.arrange();
     canvas_.place({0, top, dockLeft, std::max(top, statusTop)});
@@ -360,7 +385,9 @@ void Frame::tick() {
     hand_.passTime();
     canvas_.settle();
     if (GetActiveWindow() == handle() && GetFocus() == nullptr) SetFocus(canvas_.handle());
-    if (!hand_.script.isBusy()) keepRecord();
+    if (hand_.script.isBusy()) return;
+    keepRecord();
+    if (hand_.host().contexts.depth() == 0) keepCopies();
 }
 
 // What the menu items do
@@ -372,10 +399,26 @@ void Frame::makeNew() {
 }
 
 void Frame::open(const std::filesystem::path& file) {
-    const std::string name = utf8Path(std::filesystem::absolute(file));
-    if (!hand_.act("open " + script::quoted(name), "open " + script::quoted(nameInScript(file))))
+    const std::filesystem::path whole = std::filesystem::absolute(file);
+    const std::wstring question = L"\"" + whole.filename().wstring() +
+                                  L"\" was not closed properly. Open the copy with its last "
+                                  L"changes instead?";
+    const bool useCopy =
+        std::filesystem::exists(copyOf(whole)) &&
+        MessageBoxW(handle(), question.c_str(), kProgram, MB_YESNO | MB_ICONQUESTION) == IDYES;
+    const std::filesystem::path source = useCopy ? copyOf(whole) : whole;
+    if (!hand_.act("open " + script::quoted(utf8Path(source)),
+                   "open " + script::quoted(nameInScript(source))))
         return;
+    hand_.document().path = whole;
+    if (std::filesystem::exists(copyOf(whole))) copiedTexts_[&hand_.document()] = 0;
+    front_ = nullptr; // the title is another
     noteSaved();
+    if (useCopy) { // it differs from the file
+        savedTexts_.erase(&hand_.document());
+        hand_.document().setModified(true);
+    }
+    follow();
     canvas_.showAll();
 }
 
@@ -388,6 +431,7 @@ bool Frame::saveTo(const std::filesystem::path& file) {
     const std::string kept = utf8Path(file.filename());
     if (!hand_.act("save " + script::quoted(utf8Path(file)), "save " + script::quoted(kept)))
         return false;
+    dropCopy(hand_.document());
     hand_.document().path = file;
     noteSaved();
     front_ = nullptr; // the title has changed
@@ -435,10 +479,35 @@ void Frame::noteSaved() {
     if (hand_.hasDocument()) savedTexts_[&hand_.document()] = textOf(hand_.document());
 }
 
+void Frame::keepCopies() {
+    const ULONGLONG now = GetTickCount64();
+    if (now - copiedAt_ < kCopyMilliseconds) return;
+    copiedAt_ = now;
+    for (const auto& document : hand_.host().documents()) {
+        if (!document->isModified()) continue;
+        const std::string text = svg::svgText(*document);
+        const std::size_t hash = std::hash<std::string>{}(text);
+        if (hash == savedTexts_[document.get()] || hash == copiedTexts_[document.get()]) continue;
+        try {
+            writeFile(copyOf(document->path), text);
+            copiedTexts_[document.get()] = hash;
+        } catch (const std::exception& error) {
+            hand_.complain(error.what());
+        }
+    }
+}
+
+void Frame::dropCopy(const Document& document) {
+    if (copiedTexts_.erase(&document) == 0) return;
+    std::error_code ignored; // there may be none any more
+    std::filesystem::remove(copyOf(document.path), ignored);
+}
+
 void Frame::closeDocument() {
     if (!hand_.hasDocument()) return;
     Document& document = hand_.document();
     if (!mayClose(document)) return;
+    dropCopy(document);
     savedTexts_.erase(&document);
     hand_.act("close");
 }
@@ -451,6 +520,8 @@ void Frame::exit() {
         if (&document != &hand_.document()) hand_.act("switch " + std::to_string(i + 1));
         if (!mayClose(document)) return;
     }
+    for (const auto& document : hand_.host().documents())
+        dropCopy(*document);
     closing_ = true;
     PostMessageW(handle(), WM_NULL, 0, 0); // ends the loop's wait
 }

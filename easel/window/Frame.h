@@ -4,6 +4,7 @@
 #include "easel/window/DialogWatch.h"
 #include "easel/window/Dock.h"
 #include "easel/window/MenuBar.h"
+#include "easel/window/Swatches.h"
 #include "easel/window/ToolBar.h"
 #include "easel/window/Window.h"
 
@@ -41,6 +42,7 @@ private:
     void refreshMenu(HMENU menu);
     void command(int id);
     bool takesKey(const MSG& message);
+    bool nudge(WPARAM key);
     void follow();
     void showStatus();
     void tick();
@@ -49,6 +51,9 @@ private:
     /// Asks about unsaved changes; false when the user would rather go on.
     bool mayClose(Document& document);
     void noteSaved();
+    /// Writes changed drawings beside their files, so that a crash loses little.
+    void keepCopies();
+    void dropCopy(const Document& document);
     void keepRecord();
     [[nodiscard]] std::filesystem::path askForFile(bool toSave, const wchar_t* filter,
                                                    const wchar_t* extension) const;
@@ -60,12 +65,15 @@ private:
     DialogWatch watch_{hand_};
     MenuBar menus_;
     ToolBar tools_;
+    Swatches swatches_;
     Canvas canvas_;
     Dock dock_;
     HWND status_ = nullptr;
     HACCEL keys_ = nullptr;
     /// What each drawing was when it was opened or saved.
     std::map<const Document*, std::size_t> savedTexts_;
+    std::map<const Document*, std::size_t> copiedTexts_;
+    ULONGLONG copiedAt_ = 0;
     const Document* front_ = nullptr;
     std::size_t keptVersion_ = 0;
     std::wstring statusText_;

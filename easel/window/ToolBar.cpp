@@ -17,8 +17,9 @@ struct OwnTool {
     const wchar_t* title;
 };
 constexpr OwnTool kOwnTools[] = {
-    {"Adobe Select Tool", L"Select"},
-    {"Adobe Pen Tool", L"Pen"},
+    {"Adobe Select Tool", L"Select"},       {"Adobe Pen Tool", L"Pen"},
+    {"Easel Pencil Tool", L"Pencil"},       {"Easel Line Tool", L"Line"},
+    {"Easel Rectangle Tool", L"Rectangle"}, {"Easel Ellipse Tool", L"Ellipse"},
 };
 
 HIMAGELIST newImages() { return ImageList_Create(kIconSide, kIconSide, ILC_COLOR32, 8, 4); }

@@ -1,6 +1,9 @@
+#include "easel/document/FitCurve.h"
 #include "tests/easel/document/Plugin.h"
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace easel::tests {
 namespace {
@@ -82,6 +85,56 @@ TEST_CASE("hard and soft coordinates are inverse, flip y, and follow the ruler o
         CHECK(canvas.left == -origin.h);
         CHECK(canvas.bottom == origin.v - 16383);
     }
+}
+
+TEST_CASE("a stroke of the mouse becomes few curves, smooth and near to all its points") {
+    struct Row {
+        const char* what;
+        double (*x)(double);
+        double (*y)(double);
+        std::size_t mostCurves;
+    };
+    const Row rows[] = {
+        {"a line", [](double t) { return 100 * t; }, [](double t) { return 40 * t; }, 1},
+        {"half a circle", [](double t) { return 100 * std::cos(3.14 * t); },
+         [](double t) { return 100 * std::sin(3.14 * t); }, 3},
+        {"a wave", [](double t) { return 300 * t; }, [](double t) { return 40 * std::sin(12 * t); },
+         8},
+        {"there and back", [](double t) { return 100 - std::abs(100 - 200 * t); },
+         [](double) { return 0.0; }, 6},
+    };
+    constexpr int kPoints = 100;
+    constexpr double kTolerance = 1.0;
+    for (const Row& row : rows) {
+        INFO(row.what);
+        std::vector<CurvePoint> stroke;
+        for (int i = 0; i <= kPoints; ++i) {
+            const double t = static_cast<double>(i) / kPoints;
+            stroke.push_back({row.x(t), row.y(t)});
+            if (i % 7 == 0) stroke.push_back(stroke.back()); // the mouse rests
+        }
+        const std::vector<Curve> curves = fitCurves(stroke, kTolerance);
+        REQUIRE(!curves.empty());
+        CHECK(curves.size() <= row.mostCurves);
+        CHECK(curves.front()[0].x == stroke.front().x);
+        CHECK(curves.back()[3].y == stroke.back().y);
+        for (const CurvePoint point : stroke) {
+            double nearest = 1e9;
+            for (const Curve& curve : curves)
+                nearest = std::min(nearest, nearestPoint(curve, point).distance);
+            CHECK(nearest <= kTolerance + 1e-6);
+        }
+        for (std::size_t i = 1; i < curves.size(); ++i) {
+            const auto& [before, after] = std::pair{curves[i - 1], curves[i]};
+            CHECK(before[3].x == after[0].x);
+            const CurvePoint in{before[3].x - before[2].x, before[3].y - before[2].y};
+            const CurvePoint out{after[1].x - after[0].x, after[1].y - after[0].y};
+            CHECK(std::abs(in.x * out.y - in.y * out.x) <=
+                  1e-6 * std::hypot(in.x, in.y) * std::hypot(out.x, out.y));
+        }
+    }
+    CHECK(fitCurves({}, 1).empty());
+    CHECK(fitCurves(std::vector<CurvePoint>(3, CurvePoint{5, 5}), 1).empty());
 }
 
 } // namespace
