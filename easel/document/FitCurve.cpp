@@ -44,8 +44,7 @@ Curve leastSquares(Stroke stroke, const std::vector<double>& at, CurvePoint from
         c00 += dot(a1, a1);
         c01 += dot(a1, a2);
         c11 += dot(a2, a2);
-        const CurvePoint rest =
-            stroke[i] - ((u * u * u + b1) * first + (b2 + t * t * t) * last);
+        const CurvePoint rest = stroke[i] - ((u * u * u + b1) * first + (b2 + t * t * t) * last);
         x0 += dot(a1, rest);
         x1 += dot(a2, rest);
     }
@@ -103,8 +102,8 @@ void fit(Stroke stroke, CurvePoint fromStart, CurvePoint fromEnd, double toleran
     std::vector<double> at = chordParameters(stroke);
     Curve curve = leastSquares(stroke, at, fromStart, fromEnd);
     Worst worst = worstOf(stroke, curve, at);
-    for (int i = 0; i < kImprovements && worst.distance > tolerance &&
-                    worst.distance < kHopeless * tolerance;
+    for (int i = 0;
+         i < kImprovements && worst.distance > tolerance && worst.distance < kHopeless * tolerance;
          ++i) {
         improve(stroke, curve, at);
         curve = leastSquares(stroke, at, fromStart, fromEnd);

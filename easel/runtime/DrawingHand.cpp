@@ -16,9 +16,9 @@
 namespace easel {
 namespace {
 
-constexpr double kPixelsAround = 4;      ///< Of the mouse: what lies there is picked.
-constexpr double kStrokePixels = 1.5;    ///< That a stroke may lie beside the mouse's way.
-constexpr double kPixelsBeforeMove = 3;  ///< Less is a click by an unsteady hand.
+constexpr double kPixelsAround = 4;     ///< Of the mouse: what lies there is picked.
+constexpr double kStrokePixels = 1.5;   ///< That a stroke may lie beside the mouse's way.
+constexpr double kPixelsBeforeMove = 3; ///< Less is a click by an unsteady hand.
 
 /// The handle length that makes four cubics a circle of radius 1: 4/3 (sqrt(2) - 1).
 constexpr double kCircleHandle = 4.0 / 3.0 * (std::numbers::sqrt2 - 1.0);
@@ -53,8 +53,8 @@ Segments ellipse(AIRealPoint from, AIRealPoint to) {
         const double c = quarter % 2 == 0 ? 1 - quarter : 0;
         const double s = quarter % 2 == 1 ? 2 - quarter : 0;
         const auto at = [&](double side) {
-            return realPoint({x + rx * (c - side * kCircleHandle * s),
-                              y + ry * (s + side * kCircleHandle * c)});
+            return realPoint(
+                {x + rx * (c - side * kCircleHandle * s), y + ry * (s + side * kCircleHandle * c)});
         };
         segments.push_back({at(0), at(-1), at(1), false});
     }

@@ -16,9 +16,10 @@ struct Session;
 /// What the host's own tools besides the pen do from press to release, which is one undo step.
 ///
 ///   1. Line, rectangle and ellipse are drawn out from the press; Shift holds a line to steps of 45
-///      degrees and makes the others a square and a circle. The pencil follows the mouse, and at the
-///      end its stroke is made of as few curves as come near enough.
-///   2. The select tool picks what lies under the press, or with Shift adds it or takes it out; then
+///      degrees and makes the others a square and a circle. The pencil follows the mouse, and at
+///      the end its stroke is made of as few curves as come near enough.
+///   2. The select tool picks what lies under the press, or with Shift adds it or takes it out;
+///   then
 ///      it moves what is selected, or with Alt copies of that. From where nothing lies it drags a
 ///      marquee around what is to be selected.
 ///

@@ -257,8 +257,8 @@ void PanelWindow::setTitle(const std::u32string& title) {
 void PanelWindow::setSize(AISize size) { system_->setSize(size); }
 
 void PanelWindow::setButtons(PanelButtons buttons) {
-    system_->setButton(kStateButton, L"\u2195", buttons.states);
-    system_->setButton(kFlyoutButton, L"\u2261", buttons.flyout);
+    system_->setButton(kStateButton, L"\u00B1", buttons.states);
+    system_->setButton(kFlyoutButton, L"\u00BB", buttons.flyout);
     system_->setButton(kCloseButton, L"\u00D7", system_->isDocked());
     const bool strip = system_->isDocked() || buttons.states || buttons.flyout;
     system_->stripHeight = strip ? kStripHeight : 0;
