@@ -89,12 +89,16 @@ TEST_CASE("the edit reaches all of a layer from any of its sublayers") {
 TEST_CASE("Cancel passes over copies that the user has deleted meanwhile") {
     EditedLayer session;
     session.host.edit("Delete", [](easel::Document& document) {
-        easel::disposeArt(*document.state().currentLayer->firstChild());
+        easel::disposeArt(*document.state().currentLayer->firstChild()->next());
         easel::disposeArt(*document.state().currentLayer->lastChild());
     });
     session.click(session.onButton(DialogItem::Cancel));
     CHECK(session.host.user.alerts.empty());
     CHECK(axesOnLayer(session.tool()));
+    const easel::Art* copy = session.document().state().currentLayer->firstChild()->next();
+    REQUIRE(copy != nullptr);
+    for (; copy != nullptr; copy = copy->next())
+        CHECK(copy->has(kArtLocked)); // those that are left are copies again
 }
 
 TEST_CASE("guides along the axes of a layer go with them") {
