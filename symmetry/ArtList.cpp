@@ -5,6 +5,7 @@
 #include "host/Lent.h"
 #include "host/References.h"
 
+#include <array>
 #include <cstddef>
 
 namespace facetta {
@@ -48,6 +49,18 @@ std::vector<AIArtHandle> artOnLayer(AILayerHandle layer) {
     const ai::ArtSet set = newSet();
     ai::check(ai::suites.artSet->LayerArtSet(layer, set.get()));
     return membersOf(set.get());
+}
+
+std::vector<AIArtHandle> openArtOnLayer(AILayerHandle layer) {
+    const ai::ArtSet all = newSet();
+    ai::check(ai::suites.artSet->LayerArtSet(layer, all.get()));
+    const ai::ArtSet open = newSet();
+    std::array<AIArtSpec, 2> wanted{
+        {{kAnyArt, kArtLocked | kArtHidden, 0}, {kAnyArt, kArtHidden, kArtHidden}}};
+    ai::check(ai::suites.artSet->MatchingArtSet(wanted.data(), wanted.size(), open.get()));
+    const ai::ArtSet both = newSet();
+    ai::check(ai::suites.artSet->IntersectArtSet(all.get(), open.get(), both.get()));
+    return membersOf(both.get());
 }
 
 } // namespace facetta

@@ -21,4 +21,7 @@ namespace facetta {
 /// may be among them. Throws `ai::Error`.
 [[nodiscard]] std::vector<AIArtHandle> artOnLayer(AILayerHandle layer);
 
+/// Those of them that are hidden or not locked, in whatever order. Throws `ai::Error`.
+[[nodiscard]] std::vector<AIArtHandle> openArtOnLayer(AILayerHandle layer);
+
 } // namespace facetta

@@ -8,6 +8,8 @@
 #include "symmetry/LayerStamp.h"
 
 #include <cstdint>
+#include <deque>
+#include <optional>
 #include <vector>
 
 namespace facetta {
@@ -33,6 +35,9 @@ struct LiveLayerMemory {
     };
 
     std::vector<Layer> layers;
+    /// The stamps that were stored with axes since the host was started, the latest ones, oldest
+    /// first. A number that another run of the host has stored means nothing in this one.
+    std::deque<std::uint64_t> given;
     StampReach reach = StampReach::Unknown;
     /// Mirroring has just changed the document. Set by each regeneration; whoever has drawn
     /// conclusions from the art, and draws them again, clears it.
@@ -42,6 +47,10 @@ struct LiveLayerMemory {
     [[nodiscard]] Layer* find(AILayerHandle layer) noexcept;
     /// Made on demand.
     [[nodiscard]] Layer& at(AILayerHandle layer);
+
+    void noteGiven(std::uint64_t stamp);
+    /// The stamp of which `stored` is in the document, if it was given in this run of the host.
+    [[nodiscard]] std::optional<std::uint64_t> givenAs(ai::int32 stored) const noexcept;
 };
 
 } // namespace facetta

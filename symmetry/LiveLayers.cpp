@@ -89,11 +89,14 @@ Finding examine(LiveLayerMemory& memory, AILayerHandle layer, const UndoSteps& s
     return last.penDraws ? Finding::PenDraws : Finding::Changed;
 }
 
-/// What the stamps on a layer that has just been regenerated show. The last thing done there was to
-/// change a copy, if there is one, after the group had received it.
+/// What the stamps on a layer that has just been regenerated show. A copy was changed after the
+/// group had received it: a group that has the very stamp of a copy has it from there.
 StampReach reachShownBy(const LayerStamp& stamp, AILayerHandle layer) {
     if (stamp.group < stamp.newest) return StampReach::GroupOnly;
-    return contentsOfLayer(layer).copies.empty() ? StampReach::Unknown : StampReach::Descendants;
+    const bool fromCopy = std::ranges::any_of(contentsOfLayer(layer).copies, [&](AIArtHandle copy) {
+        return stampOfArt(copy) == stamp.group;
+    });
+    return fromCopy ? StampReach::Descendants : StampReach::Unknown;
 }
 
 /// Notes which paths were too long; whether there is one that the user was not told about.
@@ -117,6 +120,7 @@ LiveLayerMemory::Layer& stampLayer(LiveLayerMemory& memory, AILayerHandle layer)
     noted.fit = now;
     noted.couldRedo = false; // a change of art loses what could be redone
     noted.penDraws = false;
+    memory.noteGiven(now.newest);
     return noted;
 }
 
@@ -132,12 +136,23 @@ bool mirrorLayer(const MirrorEnvironment& environment, bool option, AILayerHandl
     return noteTooLong(noted, engine.pathsTooLong());
 }
 
-/// Makes the copies fit again after a change of the art. All are made anew, though some may fit
-/// still: those of art that is no newer than `memory.at(layer).fit.newest`.
+/// The same with the same outcome, but copies that fit as they are may stay.
+bool refreshLayer(const MirrorEnvironment& environment, AILayerHandle layer) {
+    LiveLayerMemory& memory = environment.live;
+    const std::optional<std::uint64_t> stamp = memory.givenAs(LayerAxesStore::stampOf(layer));
+    if (!stamp) return mirrorLayer(environment, /*option*/ false, layer);
+    MirrorEngine engine{environment};
+    engine.refresh(layer, {*stamp, memory.reach});
+    LiveLayerMemory::Layer& noted = stampLayer(memory, layer);
+    memory.mirrored = true;
+    return noteTooLong(noted, engine.pathsTooLong());
+}
+
+/// Makes the copies fit again after a change of the art.
 void mirrorAgain(const MirrorEnvironment& environment, AILayerHandle layer) {
     MirrorEnvironment silent = environment;
     silent.showMessage = {};
-    if (mirrorLayer(silent, /*option*/ false, layer) && environment.showMessage)
+    if (refreshLayer(silent, layer) && environment.showMessage)
         environment.showMessage(kPathsTooLong);
 }
 

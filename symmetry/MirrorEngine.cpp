@@ -19,25 +19,15 @@
 #include "symmetry/geometry/RemovePoints.h"
 
 #include <array>
+#include <cstddef>
+#include <optional>
+#include <span>
 #include <utility>
 
 namespace facetta {
 namespace {
 
 constexpr ai::int32 kSelectionAttributes = kArtSelected | kArtFullySelected;
-
-/// Puts a value back when the scope ends.
-template <typename Value> class Restore {
-public:
-    explicit Restore(Value& value) : value_(value), saved_(value) {}
-    ~Restore() { value_ = saved_; }
-    Restore(const Restore&) = delete;
-    Restore& operator=(const Restore&) = delete;
-
-private:
-    Value& value_;
-    Value saved_;
-};
 
 /// The distance in points within which open ends are moved onto an axis.
 double snapDistance() { return kSnapPixels / currentZoom(); }
@@ -74,6 +64,24 @@ public:
         : removePoints_(removePoints), copies_(mode), matrices_(axes),
           frame_(axes, snapDistance()) {}
 
+    void mirror(const std::vector<Unit>& units) {
+        for (const Unit& unit : units)
+            mirror(unit);
+    }
+
+    /// The maps by which copies of `unit` are made, if mirroring would leave it as it is.
+    [[nodiscard]] std::optional<std::span<AIRealMatrix>> imagesOfUnchanged(const Unit& unit) {
+        if (unit.kind == UnitKind::Path) {
+            transfer_.read(unit.art, /*selection*/ 0, source_);
+            return matricesIfUnchanged(facetta::mirror(frame_, source_, scratch_));
+        }
+        if (unit.kind == UnitKind::CompoundPath) return matricesIfUnchanged(mirrorMembers(unit));
+        return matrices_.of(Images::All);
+    }
+
+    [[nodiscard]] std::vector<AIArtHandle> takePathsTooLong() { return std::move(pathsTooLong_); }
+
+private:
     void mirror(const Unit& unit) {
         try {
             mirrorAs(unit);
@@ -84,9 +92,16 @@ public:
         }
     }
 
-    [[nodiscard]] std::vector<AIArtHandle>& pathsTooLong() { return pathsTooLong_; }
+    std::optional<std::span<AIRealMatrix>> matricesIfUnchanged(MirroredPath mirrored) {
+        std::optional<std::span<AIRealMatrix>> matrices;
+        if (mirrored.contours.empty())
+            matrices.emplace();
+        else if (mirrored.unchanged)
+            matrices = matrices_.of(mirrored.contours.front().images);
+        scratch_.giveBack(std::move(mirrored));
+        return matrices;
+    }
 
-private:
     void mirrorAs(const Unit& unit) {
         switch (unit.kind) {
         case UnitKind::Path:
@@ -111,13 +126,17 @@ private:
         scratch_.giveBack(std::move(mirrored));
     }
 
-    void mirrorCompound(const Unit& unit) {
+    MirroredPath mirrorMembers(const Unit& compound) {
         std::vector<PathShape> members;
-        const std::vector<AIArtHandle> paths = pathsInside(unit.art);
+        const std::vector<AIArtHandle> paths = pathsInside(compound.art);
         for (const AIArtHandle path : paths)
             transfer_.read(path, attributesOf(path, kSelectionAttributes), members.emplace_back());
         const FillRule rule = paths.empty() ? FillRule::NonZero : fillRuleOf(paths.front());
-        MirroredPath mirrored = facetta::mirrorCompound(frame_, members, rule, scratch_);
+        return facetta::mirrorCompound(frame_, members, rule, scratch_);
+    }
+
+    void mirrorCompound(const Unit& unit) {
+        MirroredPath mirrored = mirrorMembers(unit);
         if (mirrored.contours.empty()) return;
         finish(mirrored);
         makeCopies(unit, replaceMembers(unit, mirrored, frame_.fold(mirrored.sector), transfer_));
@@ -173,20 +192,34 @@ void MirrorEngine::run(bool selectionMode, bool keepCurrentAxes, bool option, AI
     const AILayerHandle top = selectionMode ? nullptr : topLevelLayer(layer);
     pathsTooLong_.clear();
     if (!selectionMode && top == nullptr) return;
-    {
-        const Restore saved{environment_.currentAxes};
-        if (!selectionMode && !keepCurrentAxes) LayerAxesStore::read(top, environment_.currentAxes);
-        if (environment_.currentAxes.axisCount < kFewestAxes) return;
-        // A live layer keeps the anchors on its axes: its joined paths are cut there again and
-        // again, and an anchor in place is a cut that moves nothing.
-        Run mirroring{pageAxes(environment_.currentAxes),
-                      selectionMode ? CopyMode::Plain : CopyMode::Live,
-                      selectionMode && environment_.removePoints};
-        for (const Unit& unit :
-             selectionMode ? unitsOfSelection() : deleteCopiesAndListSources(top))
-            mirroring.mirror(unit);
-        pathsTooLong_ = std::move(mirroring.pathsTooLong());
-    }
+    SymmetryAxes axes = environment_.currentAxes;
+    if (!selectionMode && !keepCurrentAxes) LayerAxesStore::read(top, axes);
+    if (axes.axisCount < kFewestAxes) return;
+    // A live layer keeps the anchors on its axes: its joined paths are cut there again and again,
+    // and an anchor in place is a cut that moves nothing.
+    Run mirroring{pageAxes(axes), selectionMode ? CopyMode::Plain : CopyMode::Live,
+                  selectionMode && environment_.removePoints};
+    mirroring.mirror(selectionMode ? unitsOfSelection() : deleteCopiesAndListSources(top));
+    finish(mirroring.takePathsTooLong(), option);
+}
+
+void MirrorEngine::refresh(AILayerHandle layer, const FitState& fit) {
+    pathsTooLong_.clear();
+    SymmetryAxes axes;
+    if (!LayerAxesStore::read(layer, axes)) return;
+    Run mirroring{pageAxes(axes), CopyMode::Live, /*removePoints*/ false};
+    const FreshCopies fresh{layer, fit};
+    const auto passOver = [&](const Unit& unit, std::span<const AIArtHandle> behind) {
+        if (!fresh.isOld(unit.art)) return std::optional<std::size_t>{};
+        const auto images = mirroring.imagesOfUnchanged(unit);
+        return images ? fresh.passedOver(unit, behind, *images) : std::nullopt;
+    };
+    mirroring.mirror(deleteCopiesAndListSources(layer, passOver));
+    finish(mirroring.takePathsTooLong(), /*option*/ false);
+}
+
+void MirrorEngine::finish(std::vector<AIArtHandle> pathsTooLong, bool option) {
+    pathsTooLong_ = std::move(pathsTooLong);
     restartPen(environment_.ownTool);
     if ((option || !pathsTooLong_.empty()) && environment_.showMessage)
         environment_.showMessage(kPathsTooLong);

@@ -7,6 +7,7 @@
 /// source art, each copy locked and tagged, so that the next run finds it.
 
 #include "host/Handles.h"
+#include "symmetry/FreshCopies.h"
 #include "symmetry/LiveLayerMemory.h"
 #include "symmetry/SymmetryAxes.h"
 
@@ -45,10 +46,16 @@ public:
     /// `ai::Error` when a host call fails; the host's undo then brings back the art as it was.
     void run(bool selectionMode, bool keepCurrentAxes, bool option, AILayerHandle layer);
 
+    /// Regenerates a top-level layer after an edit: as `run`, with the same outcome, but what is as
+    /// it was when the copies fitted is passed over (symmetry/FreshCopies.h).
+    void refresh(AILayerHandle layer, const FitState& fit);
+
     /// The paths that the last run has left as they were, because they would be too long.
     [[nodiscard]] const std::vector<AIArtHandle>& pathsTooLong() const { return pathsTooLong_; }
 
 private:
+    void finish(std::vector<AIArtHandle> pathsTooLong, bool option);
+
     MirrorEnvironment environment_;
     std::vector<AIArtHandle> pathsTooLong_;
 };

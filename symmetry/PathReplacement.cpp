@@ -12,6 +12,7 @@
 #include "symmetry/ArtTree.h"
 #include "symmetry/Draft.h"
 #include "symmetry/TransformedArt.h"
+#include "symmetry/Unlocked.h"
 
 #include <span>
 
@@ -149,8 +150,10 @@ PlacedArt replaceMembers(const Unit& compound, const MirroredPath& mirrored, con
     std::vector<Draft> members = newMembers(compound.art, mirrored.contours, transfer);
     styleMembers(members, pathsInside(compound.art).front());
     selectAll(members, mirrored.contours);
-    for (const AIArtHandle former : formerMembers)
+    for (const AIArtHandle former : formerMembers) {
+        unlockAll(former); // a member can be locked by itself
         ai::check(ai::suites.art->DisposeArt(former));
+    }
     keep(members);
     foldPaint(compound.art, fold);
     return placed;

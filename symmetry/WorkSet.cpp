@@ -11,7 +11,6 @@
 #include "symmetry/Unlocked.h"
 
 #include <algorithm>
-#include <span>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -128,22 +127,29 @@ UnitKind kindOf(ai::int16 type) {
 class UnitCollector {
 public:
     enum class Copies { AreArt, AreLeftOut };
+    enum class Found { Unit, Copy, Nothing };
 
     explicit UnitCollector(Copies copies) : copies_(copies) {}
 
-    void examine(AIArtHandle art) {
+    Found examine(AIArtHandle art) {
         const Inherited& around = containers_.around(art);
-        if (around.generated && copies_ != Copies::AreArt) return; // goes with its container
+        if (around.generated && copies_ != Copies::AreArt)
+            return Found::Nothing; // goes with its container
         const ArtMarks marks = marksOf(art, keys_);
         if (marks.mirror == MirrorTag::kCopy && copies_ != Copies::AreArt) {
             generated_.push_back(art);
-            return;
+            return Found::Copy;
         }
+        const std::size_t before = units_.size();
         if (around.unit == nullptr)
             consider(art, marks, around);
         else if (!seen_.contains(around.unit))
             consider(around.unit, marksOf(around.unit, keys_), containers_.around(around.unit));
+        return units_.size() > before ? Found::Unit : Found::Nothing;
     }
+
+    [[nodiscard]] const Unit& lastUnit() const { return units_.back(); }
+    void dropLastUnit() { units_.pop_back(); }
 
     /// Deletes the copies that were found; unlocking comes first, whether or not the host asks for
     /// it.
@@ -197,6 +203,29 @@ std::vector<Unit> unitsOfSelection() {
 
 std::vector<Unit> deleteCopiesAndListSources(AILayerHandle layer) {
     UnitCollector collector = collect(artOnLayer(layer), UnitCollector::Copies::AreLeftOut);
+    collector.deleteCopies();
+    return collector.takeUnits();
+}
+
+std::vector<Unit> deleteCopiesAndListSources(AILayerHandle layer, const PassOver& passOver) {
+    const std::vector<AIArtHandle> art = artOnLayer(layer);
+    UnitCollector collector{UnitCollector::Copies::AreLeftOut};
+    // A source without a copy behind it: those behind the next source may be its own.
+    bool lacksCopies = false;
+    for (std::span<const AIArtHandle> rest{art}; !rest.empty();) {
+        const AIArtHandle each = rest.front();
+        rest = rest.subspan(1);
+        const UnitCollector::Found found = collector.examine(each);
+        if (found == UnitCollector::Found::Copy) lacksCopies = false;
+        if (found != UnitCollector::Found::Unit) continue;
+        std::optional<std::size_t> passedOver;
+        if (!lacksCopies && collector.lastUnit().art == each)
+            passedOver = passOver(collector.lastUnit(), rest);
+        lacksCopies = !passedOver;
+        if (!passedOver) continue;
+        collector.dropLastUnit();
+        rest = rest.subspan(*passedOver);
+    }
     collector.deleteCopies();
     return collector.takeUnits();
 }

@@ -6,7 +6,11 @@
 #include "host/Types.h"
 #include "symmetry/ArtMarks.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
 #include <vector>
 
 namespace facetta {
@@ -36,6 +40,15 @@ struct Unit {
 /// The same for the source art of a layer and its sublayers. The copies of earlier runs on it, even
 /// locked and hidden ones, are DELETED from the document.
 [[nodiscard]] std::vector<Unit> deleteCopiesAndListSources(AILayerHandle layer);
+
+/// Tells of a unit, and of what lies behind it in the list of its layer's art, how many of these
+/// objects are as a run would leave them: its members and all its copies, or nothing.
+using PassOver = std::function<std::optional<std::size_t>(const Unit& unit,
+                                                          std::span<const AIArtHandle> behind)>;
+
+/// `deleteCopiesAndListSources` without the units that are passed over and their copies.
+[[nodiscard]] std::vector<Unit> deleteCopiesAndListSources(AILayerHandle layer,
+                                                           const PassOver& passOver);
 
 /// The same units; the document stays as it is.
 [[nodiscard]] std::vector<Unit> sourcesOnLayer(AILayerHandle layer);

@@ -114,6 +114,7 @@ void moveArt(Art& art, Position position) {
     if (position.behind == &art) position.behind = art.next();
     ArtTreeAccess::unlink(art);
     ArtTreeAccess::link(art, position);
+    if (art.session().switches.movingStamps) art.touch();
 }
 
 Art& duplicateArt(const Art& art, Position position) {

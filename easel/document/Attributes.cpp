@@ -106,8 +106,10 @@ void store(Art& art, ai::int32 mask, ai::int32 value) {
     const auto former = static_cast<ai::int32>(art.content().attributes) & mask;
     if (former == value) return;
     if ((value & kLocks) != 0) select(art, false); // what is locked or hidden is not selected
-    const bool onlyListState = (mask & ~(kArtExpanded | kArtTargeted)) == 0;
-    assign(art.write(onlyListState ? Edit::Quiet : Edit::Art), mask, value);
+    ai::int32 unstamped = kArtExpanded | kArtTargeted;
+    if (!art.session().switches.lockingStamps) unstamped |= kArtLocked;
+    const bool stamped = ((former ^ value) & ~unstamped) != 0;
+    assign(art.write(stamped ? Edit::Art : Edit::Quiet), mask, value);
     if (art.isLayer() && (mask & kLocks) != 0) art.document().note(&DocumentChanges::layerOptions);
 }
 

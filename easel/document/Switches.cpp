@@ -12,6 +12,8 @@ std::span<const SwitchName> switchNames() noexcept {
         {"sublayerGroupHasParent", &Switches::sublayerGroupHasParent},
         {"undoRestoresStamps", &Switches::undoRestoresStamps},
         {"stampsCoverDescendants", &Switches::stampsCoverDescendants},
+        {"lockingStamps", &Switches::lockingStamps},
+        {"movingStamps", &Switches::movingStamps},
         {"ownContextsNest", &Switches::ownContextsNest},
         {"notificationsComeSoon", &Switches::notificationsComeSoon},
         {"lockedMembersGoAlong", &Switches::lockedMembersGoAlong},

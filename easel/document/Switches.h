@@ -20,6 +20,11 @@ struct Switches {
     /// The time stamp of an object is the latest of its own and those of all that it contains;
     /// otherwise its own.
     bool stampsCoverDescendants = true;
+    /// Locking and unlocking an object gives it a new time stamp.
+    bool lockingStamps = true;
+    /// Moving an object to another place in the tree gives it a new time stamp; otherwise only its
+    /// former parent and its new one get one.
+    bool movingStamps = false;
     /// A context that a plug-in pushes while it answers a message is nested, so that the kind of
     /// the undo step cannot be chosen in it; otherwise it counts as the message's own.
     bool ownContextsNest = true;

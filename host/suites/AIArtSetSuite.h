@@ -28,7 +28,8 @@ struct AIArtSetSuite {
     AIErr (*LayerArtSet)(AILayerHandle layer, AIArtSet set);
     ReservedSlot NotArtSet;
     AIErr (*UnionArtSet)(AIArtSet, AIArtSet, AIArtSet);
-    AIErr (*IntersectArtSet)(AIArtSet, AIArtSet, AIArtSet);
+    /// Replaces the content of the third by the art that is in both of the others.
+    AIErr (*IntersectArtSet)(AIArtSet one, AIArtSet other, AIArtSet both);
     AIErr (*NextInArtSet)(AIArtSet, AIArtHandle, AIArtHandle*);
     /// Once only.
     AIErr (*AddArtToArtSet)(AIArtSet set, AIArtHandle art);

@@ -266,9 +266,15 @@ MirrorEnvironment EngineFixture::environment() {
             .showMessage = [this](std::string_view text) { messages.emplace_back(text); }};
 }
 
-void EngineFixture::reopen() {
-    easel::svg::OpenedDrawing again =
-        easel::svg::readSvgText(easel::session(), easel::svg::svgText(*document_), "again");
+void EngineFixture::reopen(Host host) {
+    const std::string saved = easel::svg::svgText(*document_);
+    if (host == Host::StartsAgain) {
+        easel::session().current = nullptr;
+        document_.reset();
+        easel::session().startStamps();
+        live = {};
+    }
+    easel::svg::OpenedDrawing again = easel::svg::readSvgText(easel::session(), saved, "again");
     document_ = std::move(again.document);
     easel::session().current = document_.get();
 }

@@ -59,8 +59,10 @@ public:
     void setAxes(int count, double angle = 0.0, Point origin = {});
     [[nodiscard]] MirrorEnvironment environment();
 
-    /// The document saved, closed and opened again.
-    void reopen();
+    enum class Host { Stays, StartsAgain };
+    /// The document saved, closed and opened again, perhaps in another run of the host, of which
+    /// the plug-in knows nothing yet.
+    void reopen(Host host = Host::Stays);
 
     /// One undo step, as a message of the host is.
     void step(const std::function<void()>& changes);

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <cstring>
+#include <unordered_set>
+#include <utility>
 
 namespace easel {
 namespace {
@@ -83,6 +85,15 @@ AIErr layerArtSet(AILayerHandle layer, AIArtSet set) {
     return kNoErr;
 }
 
+AIErr intersectArtSet(AIArtSet one, AIArtSet other, AIArtSet both) {
+    const Handles& kept = handlesOf(other);
+    const std::unordered_set<AIArtHandle> wanted{kept.begin(), kept.end()};
+    Handles found = handlesOf(one);
+    std::erase_if(found, [&](AIArtHandle art) { return !wanted.contains(art); });
+    handlesOf(both) = std::move(found);
+    return kNoErr;
+}
+
 AIErr addArtToArtSet(AIArtSet set, AIArtHandle art) {
     Handles& handles = handlesOf(set);
     if (std::ranges::find(handles, art) == handles.end()) handles.push_back(art);
@@ -101,6 +112,7 @@ void installArtSetSuite(SuiteServer& server) {
     expose<&S::SelectedArtSet, selectedArtSet>(table);
     expose<&S::MatchingArtSet, matchingArtSet>(table);
     expose<&S::LayerArtSet, layerArtSet>(table);
+    expose<&S::IntersectArtSet, intersectArtSet>(table);
     expose<&S::AddArtToArtSet, addArtToArtSet>(table);
 }
 
