@@ -4,6 +4,7 @@
 #include "host/Error.h"
 #include "host/Suites.h"
 #include "host/suites/AIArtSuite.h"
+#include "host/suites/AIPathSuite.h"
 #include "symmetry/ArtList.h"
 #include "symmetry/ArtTree.h"
 #include "symmetry/MirrorTag.h"
@@ -20,8 +21,29 @@ constexpr AIReal kSamePlace = 0.05F;
 
 bool isNear(AIReal one, AIReal other) { return std::abs(one - other) <= kSamePlace; }
 
-/// A host that cannot tell, tells that there is doubt.
-bool liesWhere(AIArtHandle copy, AIArtHandle source, AIRealMatrix& image) {
+bool isNear(AIRealPoint one, AIRealPoint other) {
+    return isNear(one.h, other.h) && isNear(one.v, other.v);
+}
+
+AIRealPoint mapped(const AIRealMatrix& map, AIRealPoint point) {
+    return {map.a * point.h + map.c * point.v + map.tx, map.b * point.h + map.d * point.v + map.ty};
+}
+
+// Whether the copy lies where `image` puts the source. A host that cannot tell, tells that there is
+// doubt.
+
+bool beginsWhere(AIArtHandle copy, AIArtHandle source, const AIRealMatrix& image) {
+    AIPathSegment is{};
+    AIPathSegment from{};
+    const auto& path = *ai::suites.path;
+    if (path.GetPathSegments(copy, 0, 1, &is) != kNoErr ||
+        path.GetPathSegments(source, 0, 1, &from) != kNoErr)
+        return false;
+    return isNear(is.p, mapped(image, from.p)) && isNear(is.in, mapped(image, from.in)) &&
+           isNear(is.out, mapped(image, from.out));
+}
+
+bool spansWhere(AIArtHandle copy, AIArtHandle source, AIRealMatrix& image) {
     AIRealRect is{};
     AIRealRect wanted{};
     const auto& art = *ai::suites.art;
@@ -36,9 +58,10 @@ bool isContainer(const Unit& unit) {
     return unit.kind != UnitKind::Path && unit.kind != UnitKind::Whole;
 }
 
-bool isLastImage(AIArtHandle copy, AIArtHandle source, AIRealMatrix& image) {
-    return MirrorTag::get(copy) == MirrorTag::kCopy && parentOf(copy) == parentOf(source) &&
-           liesWhere(copy, source, image);
+bool liesWhere(AIArtHandle copy, const Unit& source, AIRealMatrix& image) {
+    return parentOf(copy) == parentOf(source.art) &&
+           (source.kind == UnitKind::Path ? beginsWhere(copy, source.art, image)
+                                          : spansWhere(copy, source.art, image));
 }
 
 } // namespace
@@ -46,6 +69,10 @@ bool isLastImage(AIArtHandle copy, AIArtHandle source, AIRealMatrix& image) {
 FreshCopies::FreshCopies(AILayerHandle layer, const FitState& fit) : fit_(fit) {
     for (const AIArtHandle art : openArtOnLayer(layer))
         open_.insert(art);
+}
+
+bool FreshCopies::isCopy(AIArtHandle art) const {
+    return marksOf(art, keys_).mirror == MirrorTag::kCopy;
 }
 
 bool FreshCopies::isOld(AIArtHandle art) const { return stampOfArt(art) <= fit_.stamp; }
@@ -61,10 +88,9 @@ std::uint64_t FreshCopies::newestOf(std::span<const AIArtHandle> objectAndMember
 bool FreshCopies::locksAgree(std::span<const AIArtHandle> source,
                              std::span<const AIArtHandle> copy) const {
     return !isOpen(copy.front()) &&
-           std::ranges::equal(source, copy.subspan(1),
-                              [this](AIArtHandle one, AIArtHandle other) {
-                                  return isOpen(one) == isOpen(other);
-                              });
+           std::ranges::equal(source, copy.subspan(1), [this](AIArtHandle one, AIArtHandle other) {
+               return isOpen(one) == isOpen(other);
+           });
 }
 
 std::optional<std::size_t> FreshCopies::passedOver(const Unit& source,
@@ -92,9 +118,9 @@ std::optional<std::size_t> FreshCopies::passedOver(const Unit& source,
     if (stamp > fit_.stamp) return {};
     if (images.empty()) return length;
     const AIArtHandle last = behind[length - whole.size()];
-    if (!isLastImage(last, source.art, images.back())) return {};
-    const bool oneMore = behind.size() > length && !isOpen(behind[length]) &&
-                         MirrorTag::get(behind[length]) == MirrorTag::kCopy;
+    if (!isCopy(last) || !liesWhere(last, source, images.back())) return {};
+    const bool oneMore =
+        behind.size() > length && !isOpen(behind[length]) && isCopy(behind[length]);
     if (oneMore) return {};
     return length;
 }

@@ -25,11 +25,12 @@
 /// - The stamp of a container may or may not cover what it contains. Unless it is known to, the
 ///   members are asked.
 ///
-/// Three host calls an object are the budget: its place in the list, its stamp, and what the sources
-/// among them need beside, which their copies do not.
+/// Three host calls an object are the budget: its place in the list, its stamp, and what the
+/// sources among them need beside, which their copies do not.
 
 #include "host/Handles.h"
 #include "host/Types.h"
+#include "symmetry/ArtMarks.h"
 #include "symmetry/LayerStamp.h"
 #include "symmetry/WorkSet.h"
 
@@ -64,11 +65,13 @@ public:
 
 private:
     [[nodiscard]] bool isOpen(AIArtHandle art) const { return open_.contains(art); }
+    [[nodiscard]] bool isCopy(AIArtHandle art) const;
     [[nodiscard]] std::uint64_t newestOf(std::span<const AIArtHandle> objectAndMembers) const;
     [[nodiscard]] bool locksAgree(std::span<const AIArtHandle> source,
                                   std::span<const AIArtHandle> copy) const;
 
     FitState fit_;
+    MarkKeys keys_ = markKeys();
     std::unordered_set<AIArtHandle> open_; ///< On the layer and not locked, or hidden.
 };
 

@@ -19,6 +19,7 @@ Art::~Art() {
 ArtContent& Art::write(Edit edit) {
     document_->undo().keepContent(*this);
     if (edit == Edit::Art) stamp_ = ++session().lastStamp;
+    if (edit == Edit::Selection) ++session().selections;
     document_->note(edit == Edit::Selection ? &DocumentChanges::selection : &DocumentChanges::art);
     return content_;
 }

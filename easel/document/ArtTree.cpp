@@ -191,6 +191,7 @@ Art* layerOf(const Art& art) noexcept {
 }
 
 std::uint64_t subtreeStamp(const Art& art) {
+    if (art.firstChild() == nullptr) return art.stamp();
     Session& all = art.session();
     SubtreeStamps& known = all.subtreeStamps;
     if (known.lastStamp != all.lastStamp || known.exchanges != all.exchanges)

@@ -96,6 +96,10 @@ bool matches(const Met& one, const std::vector<Met>& met, const AIArtSpec& spec)
     return (attributes & mask) == (spec.attr & ~kSearchOptions);
 }
 
+bool asksForSelection(const AIArtSpec& spec) {
+    return (spec.whichAttr & (kSelection | kSpecialSelections)) != 0;
+}
+
 void check(std::span<const AIArtSpec> specs) {
     for (const AIArtSpec& spec : specs) {
         const ai::int32 mask = spec.whichAttr & ~kSearchOptions;
@@ -113,12 +117,24 @@ std::vector<Art*> matchingArt(const Document& document, std::span<const AIArtSpe
     for (const AIArtSpec& spec : specs)
         options |= spec.whichAttr & kSearchOptions;
     std::vector<Met> met = meetAll(document.root(), options);
-    settleSelections(met);
+    if (std::ranges::any_of(specs, asksForSelection)) settleSelections(met);
     std::vector<Art*> matching;
     for (const Met& one : met)
         if (std::ranges::any_of(specs, [&](const auto& spec) { return matches(one, met, spec); }))
             matching.push_back(one.art);
     return matching;
+}
+
+const std::vector<Art*>& selectedArt(const Document& document) {
+    Session& all = document.session();
+    KnownSelection& known = all.selection;
+    if (known.document != &document || known.lastStamp != all.lastStamp ||
+        known.exchanges != all.exchanges || known.selections != all.selections) {
+        const AIArtSpec selected{kAnyArt, kArtSelected, kArtSelected};
+        known = {&document, all.lastStamp, all.exchanges, all.selections,
+                 matchingArt(document, {&selected, 1})};
+    }
+    return known.art;
 }
 
 std::vector<Art*> artOfLayer(Art& layer) {

@@ -3,6 +3,7 @@
 #include "easel/document/ArtTree.h"
 
 #include <span>
+#include <vector>
 
 namespace easel {
 
@@ -10,6 +11,8 @@ namespace easel {
 /// are searched, result groups only when a spec asks for them. Takes time in proportion to the art.
 [[nodiscard]] std::vector<Art*> matchingArt(const Document& document,
                                             std::span<const AIArtSpec> specs);
+/// What is selected, by `matchingArt`; found anew only after a change.
+[[nodiscard]] const std::vector<Art*>& selectedArt(const Document& document);
 /// The layer's group and everything in it, sublayers and edit groups included, in pre-order; no
 /// result groups.
 [[nodiscard]] std::vector<Art*> artOfLayer(Art& layer);

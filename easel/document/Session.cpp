@@ -12,6 +12,7 @@ Session& session() noexcept {
 void Session::startStamps() noexcept {
     lastStamp = 0;
     subtreeStamps = {};
+    selection = {};
 }
 
 Document& Session::document() const {

@@ -9,6 +9,7 @@
 #include "easel/document/Switches.h"
 
 #include <unordered_map>
+#include <vector>
 
 namespace easel {
 
@@ -18,6 +19,15 @@ struct SubtreeStamps {
     std::uint64_t lastStamp = 0;
     std::uint64_t exchanges = 0;
     std::unordered_map<const Art*, std::uint64_t> answers;
+};
+
+/// The answer of `selectedArt`, good until art or selection changes: programs ask again and again.
+struct KnownSelection {
+    const Document* document = nullptr;
+    std::uint64_t lastStamp = 0;
+    std::uint64_t exchanges = 0;
+    std::uint64_t selections = 0;
+    std::vector<Art*> art;
 };
 
 class Host;
@@ -44,6 +54,9 @@ struct Session {
     /// States that undo has put back.
     std::uint64_t exchanges = 0;
     SubtreeStamps subtreeStamps;
+    /// Changes of the selection.
+    std::uint64_t selections = 0;
+    KnownSelection selection;
     /// The last epoch of any undo log.
     std::uint64_t lastEpoch = 0;
     /// Set by the current context: changes under locked or hidden parents are allowed.

@@ -56,8 +56,7 @@ std::string textOf(EngineFixture& fixture) {
 /// A user at random in a document with two live layers and one that is not.
 class Hand {
 public:
-    explicit Hand(std::uint64_t seed, int number)
-        : random_(seed), fixture_(switchesFor(number)) {
+    explicit Hand(std::uint64_t seed, int number) : random_(seed), fixture_(switchesFor(number)) {
         build();
     }
 
@@ -107,8 +106,8 @@ private:
 
     void build() {
         static constexpr const char* kDrawings[] = {
-            "a b g(d e) f", "c(a b) d l(e f) h", "k(!a b t) d", "g(a g(b d) #e) ~f h",
-            "t d s e", "-a b #d e g(f)", "a l(b l2(d)) e", "p(a) b k(!c(d e) f)"};
+            "a b g(d e) f", "c(a b) d l(e f) h", "k(!a b t) d",    "g(a g(b d) #e) ~f h",
+            "t d s e",      "-a b #d e g(f)",    "a l(b l2(d)) e", "p(a) b k(!c(d e) f)"};
         for (int i = 0; i < 3; ++i) {
             Art* layer = &fixture_.layer();
             if (i > 0)
@@ -190,9 +189,9 @@ private:
 
     void change() {
         static constexpr Change kChanges[] = {
-            &Hand::move,    &Hand::reshape,   &Hand::restyle, &Hand::add,    &Hand::remove,
-            &Hand::removeSome, &Hand::duplicate, &Hand::reorder, &Hand::swap, &Hand::group,
-            &Hand::ungroup, &Hand::lock,      &Hand::hide,    &Hand::spoil,  &Hand::unlockOnly,
+            &Hand::move,          &Hand::reshape,   &Hand::restyle, &Hand::add,   &Hand::remove,
+            &Hand::removeSome,    &Hand::duplicate, &Hand::reorder, &Hand::swap,  &Hand::group,
+            &Hand::ungroup,       &Hand::lock,      &Hand::hide,    &Hand::spoil, &Hand::unlockOnly,
             &Hand::reorderNearby, &Hand::makeGuide, &Hand::zoom};
         (this->*kChanges[integer(0, std::size(kChanges) - 1)])();
     }

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <unordered_set>
 #include <utility>
 
@@ -76,8 +77,8 @@ AIErr matchingArtSet(AIArtSpec* specs, ai::int16 count, AIArtSet set) {
 }
 
 AIErr selectedArtSet(AIArtSet set) {
-    AIArtSpec selected{kAnyArt, kArtSelected, kArtSelected};
-    return matchingArtSet(&selected, 1, set);
+    replace(handlesOf(set), selectedArt(session().document()));
+    return kNoErr;
 }
 
 AIErr layerArtSet(AILayerHandle layer, AIArtSet set) {
@@ -86,10 +87,14 @@ AIErr layerArtSet(AILayerHandle layer, AIArtSet set) {
 }
 
 AIErr intersectArtSet(AIArtSet one, AIArtSet other, AIArtSet both) {
-    const Handles& kept = handlesOf(other);
-    const std::unordered_set<AIArtHandle> wanted{kept.begin(), kept.end()};
-    Handles found = handlesOf(one);
-    std::erase_if(found, [&](AIArtHandle art) { return !wanted.contains(art); });
+    const Handles& first = handlesOf(one);
+    const Handles& second = handlesOf(other);
+    const auto& [few, many] = std::minmax(
+        first, second, [](const Handles& a, const Handles& b) { return a.size() < b.size(); });
+    const std::unordered_set<AIArtHandle> wanted{few.begin(), few.end()};
+    Handles found;
+    std::ranges::copy_if(many, std::back_inserter(found),
+                         [&](AIArtHandle art) { return wanted.contains(art); });
     handlesOf(both) = std::move(found);
     return kNoErr;
 }
