@@ -125,7 +125,7 @@ std::vector<Art*> matchingArt(const Document& document, std::span<const AIArtSpe
     return matching;
 }
 
-const std::vector<Art*>& selectedArt(const Document& document) {
+const std::vector<Art*>& selectedMatches(const Document& document) {
     Session& all = document.session();
     KnownSelection& known = all.selection;
     if (known.document != &document || known.lastStamp != all.lastStamp ||

@@ -12,7 +12,7 @@ namespace easel {
 [[nodiscard]] std::vector<Art*> matchingArt(const Document& document,
                                             std::span<const AIArtSpec> specs);
 /// What is selected, by `matchingArt`; found anew only after a change.
-[[nodiscard]] const std::vector<Art*>& selectedArt(const Document& document);
+[[nodiscard]] const std::vector<Art*>& selectedMatches(const Document& document);
 /// The layer's group and everything in it, sublayers and edit groups included, in pre-order; no
 /// result groups.
 [[nodiscard]] std::vector<Art*> artOfLayer(Art& layer);

@@ -21,7 +21,8 @@ struct SubtreeStamps {
     std::unordered_map<const Art*, std::uint64_t> answers;
 };
 
-/// The answer of `selectedArt`, good until art or selection changes: programs ask again and again.
+/// The answer of `selectedMatches`, good until art or selection changes: programs ask again and
+/// again.
 struct KnownSelection {
     const Document* document = nullptr;
     std::uint64_t lastStamp = 0;

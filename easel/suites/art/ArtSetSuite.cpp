@@ -77,7 +77,7 @@ AIErr matchingArtSet(AIArtSpec* specs, ai::int16 count, AIArtSet set) {
 }
 
 AIErr selectedArtSet(AIArtSet set) {
-    replace(handlesOf(set), selectedArt(session().document()));
+    replace(handlesOf(set), selectedMatches(session().document()));
     return kNoErr;
 }
 
