@@ -47,14 +47,17 @@ private:
 };
 
 /// Follows the document: no message need have told of its changes. What the panel shows stays, or
-/// the value that the user has just given would be gone before anybody has read it. True when the
-/// panel must be brought up to date afterwards.
+/// the value that the user has just given would be gone before anybody has read it; but in another
+/// document, or none, that value was not given. True when the panel must be brought up to date
+/// afterwards.
 bool followedUnseen(ToolSession& tool) {
     const Place before = tool.state.place;
     const auto updatePanel = std::exchange(tool.updatePanel, [] {});
     followDocument(tool);
     tool.updatePanel = updatePanel;
-    return tool.state.place != before;
+    if (tool.state.place.document == before.document) return tool.state.place != before;
+    updatePanel();
+    return false;
 }
 
 } // namespace
