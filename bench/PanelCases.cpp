@@ -59,8 +59,9 @@ constexpr Act kActs[] = {
     {"count_field", countUp},
 };
 
-/// What mirrors the layer or gives its art back: over a single path, because mirroring has its own
-/// cases and it is the handlers that are measured. The layer carries its axes at the end again.
+/// What mirrors the layer: over a single path, because mirroring has its own cases and it is the
+/// handlers that are measured. The layer carries its axes at the end again. Removing them is not
+/// among it: the copies would stay as art, to be mirrored in turn the next time.
 constexpr Act kMirroringActs[] = {
     {"active_off", [](Dialog& panel) { click(panel, kActiveBox); }},
     {"update", [](Dialog& panel) { click(panel, kUpdateButton); }},
@@ -69,8 +70,6 @@ constexpr Act kMirroringActs[] = {
     {"cancel_edit", [](Dialog& panel) { click(panel, kCancelButton); }},
     {"edit_again", countUp},
     {"apply_edit", [](Dialog& panel) { click(panel, kApplyButton); }},
-    {"remove", [](Dialog& panel) { click(panel, kCancelButton); }},
-    {"apply", [](Dialog& panel) { click(panel, kApplyButton); }},
 };
 
 /// A layer kept mirrored, with its mask and the panel in view.
