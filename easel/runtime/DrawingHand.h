@@ -34,6 +34,12 @@ public:
     void press(Kind kind, Document& document, AIRealPoint at, ai::uint16 modifiers);
     void drag(AIRealPoint to, ai::uint16 modifiers);
     void release();
+    /// `document` closes; a gesture in it ends with nothing more done.
+    void forget(const Document& document) noexcept {
+        if (document_ != &document) return;
+        document_ = nullptr;
+        marquee_.reset();
+    }
     /// What the select tool drags around, as long as it does; two corners.
     [[nodiscard]] const std::optional<AIRealRect>& marquee() const noexcept { return marquee_; }
 

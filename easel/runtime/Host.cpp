@@ -106,6 +106,7 @@ void Host::activate(Document& document) {
 }
 
 void Host::close(Document& document) {
+    tools.documentCloses(document);
     documents_.close(document);
     idle();
 }

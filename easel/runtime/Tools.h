@@ -60,6 +60,8 @@ public:
     void press(const MousePoint& mouse);
     void drag(const MousePoint& mouse);
     void release(const MousePoint& mouse);
+    /// A gesture of the host's own in `document` ends with nothing more done.
+    void documentCloses(const Document& document) noexcept { hand_.forget(document); }
     /// The user ends the path that the pen is drawing; tools are told to forget what they drew.
     void endPath();
     /// A double click on the tool's icon.

@@ -112,7 +112,7 @@ private:
                                          : std::initializer_list<Key>{});
         if (!hasWindow()) return;
         host.press({.at = target()});
-        buttonHeld = buttonHeld || host.tools.current != nullptr;
+        buttonHeld = true; // with any tool: the host tells of nothing before the release
     }
     void dragSomewhere() {
         static constexpr Key kKeys[] = {Key::Escape, Key::Shift,   Key::Space,
