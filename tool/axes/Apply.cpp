@@ -42,11 +42,15 @@ bool canApply(const ToolSession& session) {
 }
 
 void applyAxes(ToolSession& session) {
-    if (session.preferences.applyToSelection)
+    if (session.preferences.applyToSelection) {
+        // What follows the cursor from now on is read when that moves: what is selected now are all
+        // the copies.
         applyToSelection(session);
-    else
+        redrawOverlay(session.view);
+    } else {
         applyToLayer(session);
-    axesChanged(session);
+        axesChanged(session);
+    }
     session.updatePanel();
 }
 
