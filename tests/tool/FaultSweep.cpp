@@ -10,16 +10,10 @@ namespace {
 using easel::FaultPlan;
 using Mode = FaultPlan::Mode;
 
-std::vector<std::string> fallibleCalls(const FaultAction& action) {
+std::vector<std::string> callsOf(const FaultAction& action) {
     Drawing session(/*selected*/ true);
     action.prepare(session);
-    easel::session().calls.setRecording(true);
-    action.perform(session);
-    easel::session().calls.setRecording(false);
-    std::vector<std::string> names;
-    for (const easel::SlotRecord* slot : easel::session().calls.recorded())
-        if (slot->returnsError) names.push_back(slot->name);
-    return names;
+    return fallibleCalls([&] { action.perform(session); });
 }
 
 /// A whole gesture and a picture of it, without any failure.
@@ -83,7 +77,7 @@ void sweepFaults(std::span<const FaultAction> actions) {
     const MessagesAnswered answered;
 #endif
     for (const FaultAction& action : actions) {
-        const std::vector<std::string> names = fallibleCalls(action);
+        const std::vector<std::string> names = callsOf(action);
         REQUIRE(names.size() > 10);
         for (std::size_t call = 1; call <= names.size(); call += kStride) {
             if (givesBack(names[call - 1])) continue;

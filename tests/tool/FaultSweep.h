@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/FallibleCalls.h"
 #include "tests/tool/Drawing.h"
 
 #include <span>

@@ -40,6 +40,9 @@ void openPreferences(Drawing& session) {
     const KeysHeld held({Key::Shift});
     session.host.editToolOptions();
 }
+void openPreferencesByPanel(Drawing& session) {
+    session.host.chooseFlyoutItem(session.host.panels.named(U"Facetta"), 14); // the last entry
+}
 void openAbout(Drawing& session) {
     session.host.user.browserAvailable = true;
     session.host.chooseMenuItem(thePlugin->menuItems.about);
@@ -62,6 +65,7 @@ const DialogAction kActions[] = {
     {"a layer's axes with its art", onLayer, clickWithAlt, {entering(8, "45"), clicking(1)}},
     {"the same, cancelled", onLayer, clickWithAlt, {entering(4, "250"), clicking(2)}},
     {"preferences", nothing, openPreferences, {clicking(3), clicking(6), clicking(1)}},
+    {"preferences by the panel", nothing, openPreferencesByPanel, {clicking(3), clicking(1)}},
     {"help", nothing, openAbout, {clicking(5)}, /*lendsPaths*/ true},
     {"buy", nothing, openAbout, {clicking(1)}},
 };
@@ -108,13 +112,8 @@ Rehearsal rehearse(const DialogAction& action, Mode mode) {
     Drawing session(/*selected*/ true);
     action.prepare(session);
     const Outcome before(session, mode);
-    easel::session().calls.setRecording(true);
-    perform(action, session);
-    easel::session().calls.setRecording(false);
-    Rehearsal rehearsal{before, Outcome(session, mode), {}};
-    for (const easel::SlotRecord* slot : easel::session().calls.recorded())
-        if (slot->returnsError) rehearsal.calls.push_back(slot->name);
-    return rehearsal;
+    std::vector<std::string> calls = fallibleCalls([&] { perform(action, session); });
+    return {before, Outcome(session, mode), std::move(calls)};
 }
 
 /// The same dialog once more, without any failure.

@@ -124,13 +124,8 @@ struct Rehearsal {
 Rehearsal rehearse(const PanelAction& action) {
     PanelInHand session(/*selected*/ true);
     action.prepare(session);
-    easel::session().calls.setRecording(true);
-    action.perform(session);
-    easel::session().calls.setRecording(false);
-    Rehearsal rehearsal{{}, outcomeOf(session)};
-    for (const easel::SlotRecord* slot : easel::session().calls.recorded())
-        if (slot->returnsError) rehearsal.calls.push_back(slot->name);
-    return rehearsal;
+    std::vector<std::string> calls = fallibleCalls([&] { action.perform(session); });
+    return {std::move(calls), outcomeOf(session)};
 }
 
 /// A whole life of axes, without any failure.

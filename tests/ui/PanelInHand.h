@@ -12,14 +12,6 @@
 
 namespace facetta::tests {
 
-/// A text of the host's; those of the panel are ASCII.
-inline std::string toText(const std::u32string& text) {
-    std::string narrow;
-    for (const char32_t letter : text)
-        narrow += static_cast<char>(letter);
-    return narrow;
-}
-
 /// The panel beside a drawing of one line, with pending axes above it.
 class PanelInHand : public Drawing {
 public:
@@ -38,22 +30,20 @@ public:
     }
     [[nodiscard]] static std::string textOf(int id) { return item(id).text(); }
     [[nodiscard]] static bool isEnabled(int id) { return item(id).view().enabled; }
-    [[nodiscard]] static bool isOn(int id) { return item(id).isOn(); }
     [[nodiscard]] static bool isVisible(int id) { return item(id).view().visible; }
 
     // What a user does. A window would report what is thrown the same way.
     void click(int id) {
         act(host, [=] { item(id).clicked(); });
     }
-    static void userTypes(easel::Host& host, int id, const std::string& text) {
+    void type(int id, const std::string& text) {
         act(host, [&] {
             item(id).typed(text);
             item(id).commit();
         });
     }
-    void type(int id, const std::string& text) { userTypes(host, id, text); }
-    void slide(double value, NRDM::Phase phase = NRDM::Phase::Complete) {
-        act(host, [=] { item(panel_item::kOpacitySlider).slide(value, phase); });
+    void slide(double value) {
+        act(host, [=] { item(panel_item::kOpacitySlider).slide(value, NRDM::Phase::Complete); });
     }
 
     /// Can the entry at `position` of the flyout menu be chosen, as the menu opens now?
@@ -68,16 +58,17 @@ public:
         click(panel_item::kApply);
         if (withGuides) choose(6);
     }
+    void lockLayer() {
+        host.edit("Lock", [](easel::Document& page) {
+            page.state().currentLayer->write().attributes |= kArtLocked;
+        });
+    }
     [[nodiscard]] static SymmetryAxes stored() {
         SymmetryAxes axes;
         LayerAxesStore::read(nullptr, axes);
         return axes;
     }
     void notify(const char* type) { host.notifiers.notify(type); }
-    [[nodiscard]] ToolSession toolSession() const {
-        static const platform::KeyState noKeys;
-        return thePlugin->toolSession(noKeys);
-    }
     [[nodiscard]] Preferences& preferences() const { return thePlugin->preferences; }
 
 private:

@@ -1,5 +1,4 @@
 #include "tests/tool/KeysHeld.h"
-#include "tests/ui/DialogUser.h"
 #include "tests/ui/PanelInHand.h"
 
 #include <algorithm>
@@ -12,7 +11,6 @@ using namespace facetta::panel_item;
 namespace {
 
 enum Entry {
-    kToggleSize = 0,
     kCopy = 2,
     kPasteAsProvisional = 3,
     kPasteToLayer = 4,
@@ -20,7 +18,15 @@ enum Entry {
     kRemoveGuides = 7,
     kRemoveAll = 9,
     kCentre = 11,
-    kPreferences = 13,
+};
+
+/// Axes on the layer, copied; another layer without any is chosen.
+struct Copied : PanelInHand {
+    Copied() {
+        applyToLayer();
+        choose(kCopy);
+        newLayer();
+    }
 };
 
 } // namespace
@@ -33,102 +39,47 @@ TEST_CASE("the menu offers what can be done") {
     };
     const Row rows[] = {
         {"no axes", [](PanelInHand& s) { s.click(kCancel); }, {}},
-        {"pending axes", [](PanelInHand&) {}, {kCentre}},
         {"pending axes without the dialog",
          [](PanelInHand& s) { s.preferences().useAnnotationDialog = false; },
          {}},
-        {"a layer's axes",
-         [](PanelInHand& s) { s.applyToLayer(); },
-         {kCopy, kAddGuides, kRemoveAll}},
-        {"a layer's axes, copied",
-         [](PanelInHand& s) {
-             s.applyToLayer();
-             s.choose(kCopy);
-         },
-         {kCopy, kAddGuides, kRemoveAll}},
-        {"guides along them",
-         [](PanelInHand& s) { s.applyToLayer(/*withGuides*/ true); },
-         {kCopy, kRemoveGuides, kRemoveAll}},
         {"another layer, nothing copied",
          [](PanelInHand& s) {
              s.applyToLayer();
              s.newLayer();
          },
          {kRemoveAll}},
-        {"another layer, copied",
-         [](PanelInHand& s) {
-             s.applyToLayer();
-             s.choose(kCopy);
-             s.newLayer();
-         },
-         {kPasteAsProvisional, kPasteToLayer, kRemoveAll}},
         {"a locked layer's axes",
          [](PanelInHand& s) {
              s.applyToLayer();
-             s.host.edit("Lock", [](easel::Document& page) {
-                 page.state().currentLayer->write().attributes |= kArtLocked;
-             });
+             s.lockLayer();
          },
          {kCopy, kRemoveAll}},
-        {"axes moved along x alone",
-         [](PanelInHand& s) {
-             s.applyToLayer();
-             s.type(kOriginX, "250");
-         },
-         {}},
-        {"axes turned",
-         [](PanelInHand& s) {
-             s.applyToLayer();
-             s.type(kAngle, "10");
-         },
-         {kCentre}},
     };
     for (const Row& row : rows) {
         INFO(row.what);
         PanelInHand session;
         row.prepare(session);
-        for (const int entry : {kToggleSize, kCopy, kPasteAsProvisional, kPasteToLayer, kAddGuides,
-                                kRemoveGuides, kRemoveAll, kCentre, kPreferences}) {
+        for (const int entry : {kCopy, kPasteAsProvisional, kPasteToLayer, kAddGuides,
+                                kRemoveGuides, kRemoveAll, kCentre}) {
             INFO("entry ", entry);
-            const bool always = entry == kToggleSize || entry == kPreferences;
-            CHECK(session.offers(entry) ==
-                  (always || std::ranges::find(row.offered, entry) != row.offered.end()));
+            CHECK(session.offers(entry) == (std::ranges::count(row.offered, entry) != 0));
         }
     }
 }
 
-TEST_CASE("copied axes are pasted to wait, or onto another layer") {
-    PanelInHand session;
-    session.applyToLayer();
-    session.choose(kCopy);
-    const SymmetryAxes copied = session.axes();
-    session.newLayer();
+TEST_CASE("axes pasted as provisional wait to be applied, with the tool in hand") {
+    Copied session;
     session.host.selectTool(nullptr);
     session.choose(kPasteAsProvisional);
     CHECK(session.tool().toolSelected);
     CHECK(session.tool().activity == Activity::AxesPending);
     CHECK(axesModified(session.tool()));
-    CHECK_FALSE(axesOnLayer(session.tool()));
-    CHECK(session.axes().originX == copied.originX);
+    CHECK(near(session.origin(), {200, -200}));
     CHECK(session.isEnabled(kCancel));
-    session.click(kCancel);
-    session.choose(kPasteToLayer);
-    CHECK(session.host.undoText() == "Undo Paste Symmetry Axes to Layer");
-    CHECK(layerAxesActive(session.tool()));
-    CHECK(session.stored().originX == copied.originX);
-    CHECK(session.stored().angle == copied.angle);
-    session.host.undo();
-    CHECK(session.stored().axisCount == 0);
-    CHECK_FALSE(axesOnLayer(session.tool()));
-    session.host.redo();
-    CHECK(axesOnLayer(session.tool()));
 }
 
 TEST_CASE("pasting takes the place of what was pending") {
-    PanelInHand session;
-    session.applyToLayer();
-    session.choose(kCopy);
-    session.newLayer();
+    Copied session;
     session.dragFrom({500, -500}, {600, -500});
     session.choose(kPasteToLayer);
     CHECK(near(session.origin(), {200, -200}));
@@ -152,10 +103,7 @@ TEST_CASE("axes pasted in the middle of an edit are edited; Cancel brings back t
 }
 
 TEST_CASE("the licence may refuse pasting to a layer") {
-    PanelInHand session;
-    session.applyToLayer();
-    session.choose(kCopy);
-    session.newLayer();
+    Copied session;
     const std::string before = session.text();
     session.licence.refuse({GuardedAction::PasteToLayer});
     session.choose(kPasteToLayer);
@@ -163,37 +111,23 @@ TEST_CASE("the licence may refuse pasting to a layer") {
     CHECK_FALSE(axesOnLayer(session.tool()));
 }
 
-TEST_CASE("guides come and go along a layer's axes") {
-    PanelInHand session;
-    session.applyToLayer();
-    session.choose(kAddGuides);
-    CHECK(session.host.undoText() == "Undo Add Guides along Layer Axes");
-    CHECK(session.guideAngles() == std::vector{0, 60, 120});
-    session.choose(kRemoveGuides);
-    CHECK(session.host.undoText() == "Undo Remove Guides from Layer Axes");
-    CHECK(session.guideAngles().empty());
-}
-
-TEST_CASE("the axes of all layers are removed at once, with their guides") {
+TEST_CASE("the axes of all layers are removed at once, locked ones too; Shift leaves the guides") {
     for (const bool shift : {false, true}) {
         CAPTURE(shift);
         PanelInHand session;
         session.applyToLayer(/*withGuides*/ true);
         session.choose(kCopy);
-        easel::Art& upper = session.newLayer();
+        session.newLayer();
         session.choose(kPasteToLayer);
         session.choose(kAddGuides);
-        session.host.edit("Lock",
-                          [&](easel::Document&) { upper.write().attributes |= kArtLocked; });
+        session.lockLayer();
         REQUIRE(session.guideAngles().size() == 6);
         if (shift) holdKeys({platform::Key::Shift});
         session.choose(kRemoveAll);
         holdKeys({});
-        CHECK(session.host.undoText() == "Undo Remove All Layer Symmetry Axes");
         CHECK_FALSE(someLayerHasAxes());
         CHECK(session.guideAngles().size() == (shift ? 6U : 0U));
         CHECK(countPaths(session.document(), /*lockedOnes*/ true) == 0); // copies are let go
-        CHECK_FALSE(session.offers(kRemoveAll));
         CHECK_FALSE(axesOnLayer(session.tool()));
     }
 }
@@ -206,36 +140,4 @@ TEST_CASE("removing all axes drops those that were pending") {
     session.choose(kRemoveAll);
     CHECK(session.tool().activity == Activity::FollowingCursor);
     CHECK(session.axes().axisCount == session.preferences().count);
-}
-
-TEST_CASE("the on-canvas dialog is centred in the view") {
-    PanelInHand session;
-    session.tool().dialog = {10, 10};
-    session.choose(kCentre);
-    const AIRect view = thePlugin->view.pixels;
-    CHECK(session.tool().dialog.x == (view.right - view.left) / 2 - 96);
-    CHECK(session.tool().dialog.y == (view.bottom - view.top) / 2 - 50);
-    CHECK(session.preferences().dialogX == session.tool().dialog.x);
-    CHECK(session.preferences().dialogY == session.tool().dialog.y);
-}
-
-TEST_CASE("the last entry opens the preferences") {
-    PanelInHand session;
-    static int opened;
-    opened = 0;
-    thePlugin->dialogs.preferences = [](ToolSession&) {
-        ++opened;
-        return DialogResult::Cancel;
-    };
-    session.choose(kPreferences);
-    CHECK(opened == 1);
-}
-
-TEST_CASE("the host may quit while a dialog is open that the panel has opened") {
-    PanelInHand session;
-    DialogUser user([&](DialogUser&) { session.host.quit(); });
-    session.choose(kPreferences);
-    CHECK(user.met == 1);
-    CHECK(thePlugin == nullptr);
-    CHECK(session.host.user.alerts.empty());
 }
