@@ -19,6 +19,15 @@ inline ToolSession toolSession() {
     return thePlugin->toolSession(kNoKeys);
 }
 
+/// A draw message for the plug-in's annotator.
+inline AIAnnotatorMessage drawMessage(const Session& session, AIAnnotatorDrawer* drawer) {
+    AIAnnotatorMessage message{};
+    message.annotator = thePlugin->annotator;
+    message.view = session.host.currentView();
+    message.drawer = drawer;
+    return message;
+}
+
 /// All that is drawn at this moment.
 inline easel::DisplayList drawn(Session& session) { return session.host.drawAnnotations(nullptr); }
 

@@ -91,28 +91,6 @@ TEST_CASE("a dragged axis snaps to perpendiculars; Ctrl turns that about, Shift 
     }
 }
 
-TEST_CASE("Space takes new axes, or the origin of those there are, along with the cursor") {
-    for (const Dragged what : {Dragged::NewAxes, Dragged::Axis}) {
-        INFO(static_cast<int>(what));
-        Chain chain(what);
-        chain.dragTo(250, -100);
-        CHECK_FALSE(chain.found.moves);
-        chain.hold({Key::Space});
-        chain.dragTo(260, -105);
-        chain.dragTo(255, -85);
-        CHECK(chain.found.moves);
-        CHECK(near(chain.found.pivot, {205, -185}));
-        chain.hold({});
-        chain.dragTo(300, -50);
-        CHECK(near(chain.found.pivot, {205, -185}));
-    }
-    Chain chain(Dragged::Origin);
-    chain.hold({Key::Space});
-    chain.dragTo(260, -105);
-    CHECK_FALSE(chain.found.moves); // the origin has its own drag
-    CHECK(chain.hint == HintId::None);
-}
-
 TEST_CASE("the origin that Space moves stays on the canvas") {
     Chain chain(Dragged::Axis);
     const auto onCanvas = [&] {
@@ -133,9 +111,10 @@ TEST_CASE("Shift holds a dragged line to steps from the constrain angle, half-wa
         double dragged; ///< degrees
         double held;
     } rows[] = {
-        {"near the constrain angle", 10, 30, 10}, {"nearer the next", 10, 40, 55},
-        {"exactly half-way", -22.5, 0, 22.5},     {"below the constrain angle", 10, 355, 10},
-        {"in the last step", 10, 320, 325},
+        {"near the constrain angle", 10, 30, 10},     {"nearer the next", 10, 40, 55},
+        {"exactly half-way", -22.5, 0, 22.5},         {"below the constrain angle", 10, 355, 10},
+        {"in the last step", 10, 320, 325},           {"in the step round zero", 0, 359, 0},
+        {"a constrain angle below zero", -90, 10, 0}, {"one of more than a turn", 450, 80, 90},
     };
     for (const Dragged what : {Dragged::NewAxes, Dragged::Axis}) {
         for (const auto& row : rows) {

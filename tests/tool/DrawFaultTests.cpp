@@ -14,11 +14,7 @@ struct Drawn {
 
 Drawn draw(Session& session) {
     AIAnnotatorDrawer drawer;
-    AIAnnotatorMessage message{};
-    message.annotator = thePlugin->annotator;
-    message.view = session.host.currentView();
-    message.drawer = &drawer;
-    const SPErr answer = session.send("AI Annotation", "AI Draw", message);
+    const SPErr answer = session.send("AI Annotation", "AI Draw", drawMessage(session, &drawer));
     return {answer, easel::dump(drawer.list)};
 }
 
@@ -34,13 +30,9 @@ TEST_CASE("whichever host call fails, drawing answers its code, and the next pic
         return draw(session);
     };
     REQUIRE(drawAfresh().answer == kNoErr); // the first hint makes its timer
-    easel::session().calls.setRecording(true);
-    const Drawn whole = drawAfresh();
-    easel::session().calls.setRecording(false);
+    Drawn whole;
+    const std::vector<std::string> names = fallibleCalls([&] { whole = drawAfresh(); });
     REQUIRE(whole.answer == kNoErr);
-    std::vector<std::string> names;
-    for (const easel::SlotRecord* slot : easel::session().calls.recorded())
-        if (slot->returnsError) names.push_back(slot->name);
     REQUIRE(names.size() > 50);
 
     std::size_t answered = 0;

@@ -50,45 +50,34 @@ TEST_CASE("a hint stands right of the cursor and above it, moved as far as the v
     CHECK(cramped.v == 13);
 }
 
-TEST_CASE("a hint is whole at first and fades at the end of its life") {
-    struct Row {
-        ai::uint64 age;
-        double opacity;
-    };
-    for (const auto& row :
-         {Row{0, 1}, Row{1000, 1}, Row{1125, 0.5}, Row{1249, 0.004}, Row{1250, 0}, Row{99999, 0}}) {
-        INFO(row.age);
-        CHECK(hintOpacity({HintId::MoveOrigin, true, kShown}, kShown + row.age) ==
-              doctest::Approx(row.opacity));
-    }
-}
-
-TEST_CASE("the hint is a text in a box, inside the view, as opaque as its age leaves it") {
+TEST_CASE("the hint is a text in a box, inside the view, whole at first and fading at its end") {
     Session session; // texts are the host's
     session.host.start();
     ToolState state;
     state.cursor = {790, -4};
     showHint(state.hint, HintId::ConstrainAngle, kShown);
     const PixelRect view{0, 0, 800, 600};
-    const easel::DisplayList list = hintDrawn(state, kShown + 1125, view);
-    REQUIRE(list.size() == 3);
-    CHECK(list[2].text == U"Constrain Angle");
-    for (const easel::DrawCommand& each : list) {
-        CHECK(each.style.opacity == doctest::Approx(0.5F));
-        for (const AIPoint point : each.points)
-            CHECK(contains(view, at(point)));
+    struct Row {
+        ai::uint64 age;
+        double opacity;
+    };
+    for (const auto& row : {Row{0, 1}, Row{1000, 1}, Row{1125, 0.5}, Row{1249, 0.004}}) {
+        INFO(row.age);
+        const easel::DisplayList list = hintDrawn(state, kShown + row.age, view);
+        REQUIRE(list.size() == 3);
+        CHECK(list[0].fill);
+        CHECK_FALSE(list[1].fill);
+        CHECK(list[2].text == U"Constrain Angle");
+        for (const easel::DrawCommand& each : list) {
+            CHECK(each.style.opacity == doctest::Approx(row.opacity));
+            for (const AIPoint point : each.points)
+                CHECK(contains(view, at(point)));
+        }
     }
-    CHECK(list[0].fill);
-    CHECK_FALSE(list[1].fill);
     CHECK(hintDrawn(state, kShown + kHintLifetime, view).empty());
-}
+    CHECK(hintDrawn(state, kShown + 99'999, view).empty());
 
-TEST_CASE("no hint is drawn while cancelled new axes wait for the release") {
-    Session session;
-    session.host.start();
-    const PixelRect view{0, 0, 800, 600};
-    ToolState state;
-    showHint(state.hint, HintId::ConstrainAngle, kShown);
+    // None while cancelled new axes wait for the release.
     state.gesture.emplace().cancelled = true;
     state.zone = ToolZone::Canvas;
     CHECK(hintDrawn(state, kShown, view).empty());

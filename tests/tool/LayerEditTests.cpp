@@ -29,23 +29,6 @@ void checkIsApplied(const EditedLayer& session) {
 
 } // namespace
 
-TEST_CASE("a drag takes the axes off their layer; what was generated becomes ordinary art") {
-    EditedLayer session;
-    CHECK(near(session.axes().angle, 20 * kPi / 180));
-    CHECK(session.axes().provisional);
-    CHECK_FALSE(session.axes().onLayer);
-    CHECK_FALSE(axesOnLayer(session.tool()));
-    CHECK(layerEditInProgress(session.tool()));
-    CHECK(session.host.undoText() == "Undo Edit Symmetry Axes");
-    CHECK(countPaths(session.document(), /*lockedOnes*/ true) == 0);
-    CHECK(session.text().find("FacettaFT") == std::string::npos);
-    CHECK(session.text().find("FTMirroredv1") == std::string::npos);
-
-    // One more drag belongs to the same edit.
-    session.dragFrom(session.onRay(0, 200), session.onRay(0.5, 200));
-    CHECK(layerEditOf(session.tool())->layerBackup == session.applied);
-}
-
 TEST_CASE("Cancel gives an edited layer back its axes, its copies and its guides") {
     for (const bool withGuides : {false, true}) {
         for (const int drags : {1, 2}) {
@@ -108,27 +91,6 @@ TEST_CASE("guides along the axes of a layer go with them") {
     CHECK(session.guideAngles() == std::vector{50, 110, 170});
     session.click(session.onButton(DialogItem::Cancel));
     CHECK(session.guideAngles() == std::vector{0, 60, 120});
-}
-
-TEST_CASE("what else ends the edit of a layer's axes") {
-    SUBCASE("the tool is put away: the axes are dropped") {
-        EditedLayer session;
-        session.host.selectTool(nullptr);
-        CHECK_FALSE(hasAxes(session.tool()));
-        CHECK_FALSE(layerEditInProgress(session.tool()));
-    }
-    SUBCASE("the document is closed") {
-        EditedLayer session;
-        session.host.close(session.document());
-        CHECK_FALSE(layerEditInProgress(session.tool()));
-    }
-    SUBCASE("the selection is mirrored instead") {
-        EditedLayer session;
-        session.click(session.onButton(DialogItem::ApplyToSelection));
-        CHECK_FALSE(hasAxes(session.tool()));
-        CHECK_FALSE(layerEditInProgress(session.tool()));
-        CHECK(session.host.undoText() == "Undo Apply Symmetry Axes to Selection");
-    }
 }
 
 TEST_CASE("an edit waits while another layer or document is looked at") {

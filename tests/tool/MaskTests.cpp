@@ -107,19 +107,3 @@ TEST_CASE("the mask is right where the sector meets edges and corners of the are
             for (int eighth = 0; eighth < 16; ++eighth)
                 checkBySamples(axesAt(origin, eighth * kPi / 8, count), area, random);
 }
-
-TEST_CASE("an area inside the active sector has no mask; one outside is masked whole") {
-    const PixelRect area{100, 100, 200, 200};
-    const PixelAxes rightwards = axesAt({-1000, 150}, -0.3, 5); // its sector is 0.63 wide
-    CHECK(maskOf(rightwards, area).count == 0);
-    const PixelAxes leftwards = axesAt({-1000, 150}, kPi, 5);
-    const Mask whole = maskOf(leftwards, area);
-    REQUIRE(whole.count == 1);
-    CHECK(whole.polygons[0].corners().size() == 4);
-}
-
-TEST_CASE("a sector that runs across the area parts the mask in two") {
-    const PixelRect area{0, 0, 800, 600};
-    const Mask mask = maskOf(axesAt({-500, 300}, -0.02, 72), area);
-    CHECK(mask.count == 2);
-}

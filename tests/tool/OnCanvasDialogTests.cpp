@@ -32,35 +32,6 @@ bool sameColour(const AIRGBColor& a, const AIRGBColor& b) {
 
 } // namespace
 
-TEST_CASE("the dialog is hit to the pixel, a little lower than it is drawn") {
-    struct Row {
-        ai::int32 x;
-        ai::int32 y;
-        DialogItem item;
-    };
-    const Row rows[] = {
-        {0, -1, DialogItem::None},
-        {0, 0, DialogItem::None},
-        {0, 1, DialogItem::Title},
-        {191, 14, DialogItem::Title},
-        {192, 14, DialogItem::None},
-        {-1, 14, DialogItem::None},
-        {0, 15, DialogItem::ApplyToSelection},
-        {191, 44, DialogItem::ApplyToSelection},
-        {0, 45, DialogItem::ApplyToLayer},
-        {100, 74, DialogItem::ApplyToLayer},
-        {0, 75, DialogItem::Cancel},
-        {191, 104, DialogItem::Cancel},
-        {0, 105, DialogItem::None},
-        {192, 90, DialogItem::None},
-    };
-    for (const DialogPosition corner : {DialogPosition{0, 0}, DialogPosition{-50, 333}})
-        for (const auto& row : rows) {
-            INFO(row.x, ",", row.y);
-            CHECK(dialogItemAt(corner, {corner.x + row.x, corner.y + row.y}) == row.item);
-        }
-}
-
 TEST_CASE("the dialog is drawn row by row, title first") {
     Drawing session{/*selected*/ true};
     thePlugin->tool.dialog = {700, 90};
@@ -117,10 +88,7 @@ TEST_CASE("moving the dialog has both places drawn anew") {
 TEST_CASE("while the host scrolls under a drag the dialog is left out, the axes are not") {
     Drawing session{/*selected*/ true};
     AIAnnotatorDrawer drawer;
-    AIAnnotatorMessage message{};
-    message.annotator = thePlugin->annotator;
-    message.view = session.host.currentView();
-    message.drawer = &drawer;
+    AIAnnotatorMessage message = drawMessage(session, &drawer);
     message.updateData = reinterpret_cast<void*>(1);
     CHECK(session.send("AI Annotation", "AI Draw", message) == kNoErr);
     CHECK(textsIn(drawer.list).empty());

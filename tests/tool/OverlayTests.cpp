@@ -88,22 +88,6 @@ TEST_CASE("two triangles on the bounding rays point into the active sector") {
     }
 }
 
-TEST_CASE("the handle is dashed, along the bisector, and only there under the cursor") {
-    PendingAxes session{3};
-    const std::size_t withoutHandle = ofKind(drawn(session), Kind::Line).size();
-    const Point handle = Point{300, -250} + 150.0 * direction(kPi / 6);
-    session.host.track({.at = narrow(handle)});
-    std::vector<easel::DrawCommand> lines = ofKind(drawn(session), Kind::Line);
-    REQUIRE(lines.size() == withoutHandle + 1);
-    const easel::DrawCommand& dashed = lines.back();
-    CHECK(dashed.style.dashed);
-    CHECK(dashed.style.dashes == std::vector<AIFloat>{4, 4});
-    CHECK(distance(at(dashed.points[0]), pixelsOf(session, {300, -250})) < 0.71);
-    CHECK(offLine(dashed, pixelsOf(session, handle)) < 1.0);
-    session.host.track({.at = {300, -500}});
-    CHECK(ofKind(drawn(session), Kind::Line).size() == withoutHandle);
-}
-
 TEST_CASE("a broader line of another colour lies below each axis, while there is room for it") {
     struct Row {
         int count;
@@ -123,108 +107,76 @@ TEST_CASE("a broader line of another colour lies below each axis, while there is
     }
 }
 
-TEST_CASE("the origin is a small disc with an edge, drawn over all lines") {
-    PendingAxes session{3};
-    const easel::DisplayList list = drawn(session);
-    const std::vector<easel::DrawCommand> discs = ofKind(list, Kind::Ellipse);
-    REQUIRE(discs.size() == 2);
-    CHECK(discs[0].fill);
-    CHECK_FALSE(discs[1].fill);
-    const Point origin = pixelsOf(session, {300, -250});
-    for (const easel::DrawCommand& disc : discs) {
-        CHECK(at(disc.points[0]) == origin - Vector{4, 4});
-        CHECK(at(disc.points[1]) == origin + Vector{4, 4});
-    }
-    const auto isDisc = [](const easel::DrawCommand& each) { return each.kind == Kind::Ellipse; };
-    const auto isLine = [](const easel::DrawCommand& each) { return each.kind == Kind::Line; };
-    CHECK(std::ranges::find_if(list, isDisc) > std::ranges::find_if(list, isLine));
-}
-
 TEST_CASE("when axes, mask and dialog are drawn") {
+    using Session = ToolInHand;
+    static constexpr auto pin = [](Session& session) { session.click({300, -250}); };
+    static constexpr auto attach = [](Session& session) {
+        pin(session);
+        session.host.editToolOptions();
+    };
     struct Row {
         const char* when;
-        void (*arrange)(ToolInHand&);
+        void (*arrange)(Session&);
         int axes;
         bool mask;
         bool dialog;
     };
     const Row rows[] = {
-        {"the tool was never over the document", [](ToolInHand&) {}, 0, false, false},
+        {"the tool was never over the document", [](Session&) {}, 0, false, false},
         {"new axes follow the cursor",
-         [](ToolInHand& session) {
+         [](Session& session) {
              session.host.track({.at = {300, -250}});
          },
          3, false, false},
         {"the first drag turns them",
-         [](ToolInHand& session) {
+         [](Session& session) {
              session.press(300, -250);
              session.drag(400, -250);
          },
          3, true, false},
-        {"they are pending",
-         [](ToolInHand& session) {
-             session.press(300, -250);
-             session.release(300, -250);
-         },
-         3, true, true},
+        {"they are pending", pin, 3, true, true},
         {"pending, without the dialog in the settings",
-         [](ToolInHand& session) {
+         [](Session& session) {
              thePlugin->preferences.useAnnotationDialog = false;
-             session.press(300, -250);
-             session.release(300, -250);
+             pin(session);
          },
          3, true, false},
         {"pending, while a modal dialog is open",
-         [](ToolInHand& session) {
-             session.press(300, -250);
-             session.release(300, -250);
+         [](Session& session) {
+             pin(session);
              thePlugin->dialogs.open = true;
          },
          3, true, false},
         {"pending, the mask wholly transparent",
-         [](ToolInHand& session) {
+         [](Session& session) {
              thePlugin->preferences.opacity = 0.0;
-             session.press(300, -250);
-             session.release(300, -250);
+             pin(session);
          },
          3, false, true},
-        {"on a layer",
-         [](ToolInHand& session) {
-             session.press(300, -250);
-             session.release(300, -250);
-             session.host.editToolOptions();
-         },
-         3, false, false},
+        {"on a layer", attach, 3, false, false},
         {"on a layer, with its mask",
-         [](ToolInHand& session) {
+         [](Session& session) {
              thePlugin->preferences.useOverlay = true;
-             session.press(300, -250);
-             session.release(300, -250);
-             session.host.editToolOptions();
+             attach(session);
          },
          3, true, false},
         {"on a layer, another tool in hand",
-         [](ToolInHand& session) {
-             session.press(300, -250);
-             session.release(300, -250);
-             session.host.editToolOptions();
+         [](Session& session) {
+             attach(session);
              session.host.selectTool(nullptr);
          },
          3, false, false},
         {"on a layer that is hidden",
-         [](ToolInHand& session) {
-             session.press(300, -250);
-             session.release(300, -250);
-             session.host.editToolOptions();
+         [](Session& session) {
+             attach(session);
              session.host.edit("Hide", [](easel::Document& document) {
                  document.state().currentLayer->write().attributes |= kArtHidden;
              });
          },
          0, false, false},
         {"dropped with the tool",
-         [](ToolInHand& session) {
-             session.press(300, -250);
-             session.release(300, -250);
+         [](Session& session) {
+             pin(session);
              session.host.selectTool(nullptr);
          },
          0, false, false},
@@ -261,11 +213,9 @@ TEST_CASE("the mask is as opaque as the setting says, at most wholly") {
 
 TEST_CASE("a draw message that is not ours, or lends no drawer, is answered without drawing") {
     PendingAxes session{3};
-    AIAnnotatorMessage message{};
-    message.annotator = thePlugin->annotator;
-    message.view = session.host.currentView();
-    CHECK(session.send("AI Annotation", "AI Draw", message) == kNoErr);
     AIAnnotatorDrawer drawer;
+    AIAnnotatorMessage message = drawMessage(session, nullptr);
+    CHECK(session.send("AI Annotation", "AI Draw", message) == kNoErr);
     message.drawer = &drawer;
     CHECK(session.send("AI Annotation", "AI Draw", message) == kNoErr);
     CHECK_FALSE(drawer.list.empty());
@@ -279,10 +229,7 @@ TEST_CASE("the translucent mask is drawn only on what the host has erased") {
     PendingAxes session{3};
     AIAnnotatorDrawer drawer;
     const AIRealRect erased[] = {{10.5F, 20.5F, 30.5F, 40.5F}, {100, 260, 140, 200}};
-    AIAnnotatorMessage message{};
-    message.annotator = thePlugin->annotator;
-    message.view = session.host.currentView();
-    message.drawer = &drawer;
+    AIAnnotatorMessage message = drawMessage(session, &drawer);
     message.invalidationRects = erased;
     message.numInvalidationRects = 2;
     REQUIRE(session.send("AI Annotation", "AI Draw", message) == kNoErr);

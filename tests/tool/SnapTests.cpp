@@ -66,30 +66,30 @@ TEST_CASE("an axis snaps to a perpendicular nearer than the reach") {
 }
 
 TEST_CASE("only art that can be worked on attracts") {
-    using Change = void (*)(Page&);
-    constexpr auto kLock = [](Art& art) { easel::setUserAttributes(art, kArtLocked, kArtLocked); };
-    constexpr auto kHide = [](Art& art) { easel::setUserAttributes(art, kArtHidden, kArtHidden); };
-    static constexpr auto inGroup = [](Page& page) -> Art& {
-        Art& outer = easel::createArt(*page.host.documents().front(), kGroupArt,
-                                      easel::onTopOf(*page.line->parent()));
-        Art& inner =
-            easel::createArt(*page.host.documents().front(), kGroupArt, easel::onTopOf(outer));
+    static constexpr auto lock = [](Art& art) {
+        easel::setUserAttributes(art, kArtLocked, kArtLocked);
+    };
+    static constexpr auto hide = [](Art& art) {
+        easel::setUserAttributes(art, kArtHidden, kArtHidden);
+    };
+    static constexpr auto inGroups = [](Page& page) -> Art& {
+        easel::Document& document = *page.host.documents().front();
+        Art& outer = easel::createArt(document, kGroupArt, easel::onTopOf(*page.line->parent()));
+        Art& inner = easel::createArt(document, kGroupArt, easel::onTopOf(outer));
         easel::moveArt(*page.line, easel::onTopOf(inner));
         return outer;
     };
-    static constexpr auto lock = kLock;
-    static constexpr auto hide = kHide;
     const struct {
         std::string what;
-        Change change;
+        void (*change)(Page&);
         bool snaps;
     } rows[] = {
         {"locked", [](Page& page) { lock(*page.line); }, false},
         {"hidden", [](Page& page) { hide(*page.line); }, false},
         {"a guide", [](Page& page) { page.line->write().guide = true; }, true},
-        {"in a group in a group", [](Page& page) { inGroup(page); }, true},
-        {"in a group in a locked group", [](Page& page) { lock(inGroup(page)); }, false},
-        {"in a group in a hidden group", [](Page& page) { hide(inGroup(page)); }, false},
+        {"in a group in a group", [](Page& page) { inGroups(page); }, true},
+        {"in a group in a locked group", [](Page& page) { lock(inGroups(page)); }, false},
+        {"in a group in a hidden group", [](Page& page) { hide(inGroups(page)); }, false},
         {"on a locked layer", [](Page& page) { lock(*page.line->parent()); }, false},
         {"on a hidden layer", [](Page& page) { hide(*page.line->parent()); }, false},
     };

@@ -1,7 +1,9 @@
 #include "tests/tool/FaultSweep.h"
+#include "tests/tool/KeysHeld.h"
 
 using namespace facetta;
 using namespace facetta::tests;
+using platform::Key;
 
 namespace {
 
@@ -39,6 +41,26 @@ void takeAxesOffLayer(Drawing& session) {
     editLayer(session);
 }
 
+void repositionLayer(Drawing& session) {
+    const KeysHeld held({Key::Alt});
+    editLayer(session);
+}
+
+void chooseSector(Drawing& session) {
+    const KeysHeld held({Key::Alt});
+    session.click({88, -100});
+}
+
+void escapeFromDrag(Drawing& session) {
+    session.press(300, -26.8F);
+    session.drag(330, -26.8F);
+    {
+        const KeysHeld held({Key::Escape});
+        session.drag(331, -26.8F);
+    }
+    session.release(331, -26.8F);
+}
+
 void draw(Drawing& session) { static_cast<void>(session.host.drawAnnotations(nullptr)); }
 
 void chooseToolAndHover(Drawing& session) {
@@ -57,6 +79,9 @@ constexpr FaultAction kActions[] = {
     {"edit a layer's axes", makeLive, editLayer},
     {"edit them further", takeAxesOffLayer, editLayerFurther},
     {"press Cancel during the edit", takeAxesOffLayer, press<DialogItem::Cancel>},
+    {"reposition a layer's axes", makeLive, repositionLayer},
+    {"change their active sector", makeLive, chooseSector},
+    {"take a drag of theirs back", makeLive, escapeFromDrag},
     {"draw", nothing, draw},
     {"choose the tool and hover", makeLive, chooseToolAndHover},
 };
