@@ -1,3 +1,4 @@
+#include "tests/FallibleCalls.h"
 #include "tests/shell/Session.h"
 
 #include "host/MessageNames.h"
@@ -155,11 +156,7 @@ TEST_CASE("whichever host call fails, start-up ends tidily and at most one alert
     easel::HostCalls& calls = easel::session().calls;
     {
         Session session;
-        calls.setRecording(true);
-        session.host.start();
-        calls.setRecording(false);
-        for (const easel::SlotRecord* slot : calls.recorded())
-            if (slot->returnsError) fallible.push_back(slot->name);
+        fallible = fallibleCalls([&] { session.host.start(); });
     }
     REQUIRE(fallible.size() > 200);
     for (std::size_t call = 1; call <= fallible.size(); ++call) {

@@ -1,15 +1,14 @@
-#include "easel/core/HostCalls.h"
 #include "easel/document/Attributes.h"
 #include "easel/document/Dump.h"
 #include "easel/document/Session.h"
 #include "host/Error.h"
 #include "symmetry/LiveLayers.h"
+#include "tests/FallibleCalls.h"
 #include "tests/symmetry/EngineFixture.h"
 
 #include <doctest/doctest.h>
 
 #include <algorithm>
-#include <span>
 #include <string_view>
 #include <vector>
 
@@ -30,10 +29,6 @@ constexpr std::string_view kUnreported[] = {
     "AI Art Set Suite.DisposeArtSet",
     "AI Context Suite.AllowAllChanges",
 };
-
-bool isOneOf(std::span<const std::string_view> functions, std::string_view name) {
-    return std::ranges::find(functions, name) != functions.end();
-}
 
 struct Action {
     std::string what;
@@ -69,25 +64,18 @@ void prepare(EngineFixture& fixture) {
     fixture.step([&] { easel::selectAll(fixture.document()); });
 }
 
-/// The names of the calls that `action` makes and that can fail, in order.
-std::vector<std::string_view> fallibleCalls(const Action& action) {
+std::vector<std::string> callsOf(const Action& action) {
     EngineFixture fixture;
     prepare(fixture);
-    easel::session().calls.setRecording(true);
-    fixture.step([&] { action.act(fixture); });
-    std::vector<std::string_view> names;
-    for (const easel::SlotRecord* call : easel::session().calls.recorded())
-        if (call->returnsError) names.push_back(call->name);
-    easel::session().calls.setRecording(false);
-    return names;
+    return tests::fallibleCalls([&] { fixture.step([&] { action.act(fixture); }); });
 }
 
 using easel::FaultPlan;
 using Mode = FaultPlan::Mode;
 
 /// Runs `action` in a fresh document with calls failing as `plan` says, first one of `function`.
-void failAt(const Action& action, const FaultPlan& plan, std::string_view function) {
-    INFO(action.what, ", call ", plan.call, ": ", std::string(function),
+void failAt(const Action& action, const FaultPlan& plan, const std::string& function) {
+    INFO(action.what, ", call ", plan.call, ": ", function,
          ", all from then on: ", plan.mode == Mode::FromThenOn, ", and call ", plan.second);
     EngineFixture fixture;
     prepare(fixture);
@@ -105,7 +93,7 @@ void failAt(const Action& action, const FaultPlan& plan, std::string_view functi
     });
     CHECK(easel::session().calls.fired());
     easel::session().calls.disarm();
-    CHECK((code == plan.code || isOneOf(kUnreported, function)));
+    CHECK((code == plan.code || std::ranges::count(kUnreported, function) != 0));
     CHECK(fixture.axes.axisCount == axesBefore.axisCount);
     if (easel::dump(fixture.document()) != before) fixture.document().undo().undo();
     CHECK(easel::dump(fixture.document()) == before);
@@ -115,7 +103,7 @@ void failAt(const Action& action, const FaultPlan& plan, std::string_view functi
 
 TEST_CASE("whichever host call fails, its code comes back, nothing is kept, one undo mends all") {
     for (const Action& action : kActions) {
-        const std::vector<std::string_view> calls = fallibleCalls(action);
+        const std::vector<std::string> calls = callsOf(action);
         REQUIRE(calls.size() > 100); // the action does reach the host
         for (std::size_t i = 0; i < calls.size(); ++i) {
             const std::uint64_t call = i + 1;
