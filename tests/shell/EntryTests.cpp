@@ -67,29 +67,6 @@ TEST_CASE("nulls instead of a message are refused") {
           kSPBadParameterError);
 }
 
-TEST_CASE("pairs that nobody handles succeed and show nothing") {
-    Session session;
-    session.host.start();
-    struct Pair {
-        const char* caller;
-        const char* selector;
-    };
-    const Pair pairs[] = {
-        {"AI Menu", "AI Stop"},
-        {"AI Tool", "AI Mouse"},
-        {"Workspace Manager", "Write Workspace"},
-        {"AI Filter", "AI Go"},
-        {"AI Toolbox", "AI Go"},
-        {"SP Adapters", "Startup"},
-        {"AI Notifier", "AI Other"},
-    };
-    for (const Pair& pair : pairs) {
-        INFO(pair.caller, " / ", pair.selector);
-        CHECK(session.send(pair.caller, pair.selector, AIPluginGroupMessage{}) == kNoErr);
-    }
-    CHECK(session.host.user.alerts.empty());
-}
-
 TEST_CASE("whichever suite is refused, start-up fails with the host's code and gives all back") {
     // The toolkit's own eight come first. Of those only the notifiers are indispensable; of the
     // rest all but the overlay's drawer.

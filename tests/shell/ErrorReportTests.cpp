@@ -33,13 +33,8 @@ TEST_CASE("every message tells the code, so that it can be looked up") {
 }
 
 TEST_CASE("answers and cancelled work are no failures to show") {
-    constexpr char kSilent[][5] = {"FMT?", "RFSE", "AFTR", "VALD", "MOOT", "TRSH", "CHEK", "CHIT",
-                                   "TLTK", "pFls", "S!Fd", "!Acq", "dsRP", "skpE", "DONE", "STOP"};
-    for (const auto& code : kSilent) {
-        INFO(code);
-        CHECK(isSilent(fourCharacterCode(code)));
-    }
-    CHECK(isSilent(361));
+    for (const AIErr code : {kCanceledErr, kSPSuiteNotFoundError, fourCharacterCode("VALD"), 361})
+        CHECK(isSilent(code));
     for (const AIErr code : {kOutOfMemoryErr, kBadParameterErr, fourCharacterCode("stop"), -1, 362})
         CHECK_FALSE(isSilent(code));
 }

@@ -165,6 +165,7 @@ TEST_CASE("show all panels is broadcast to every plug-in, and other items do not
     };
     session.host.chooseMenuItem(thePlugin->menuItems.showAllPanels);
     CHECK(broadcasts() == 1);
+    CHECK(session.host.panels.at(session.host.panels.named(U"Facetta")).shown != 0);
     for (const AIMenuItemHandle item :
          {thePlugin->menuItems.help[3], thePlugin->menuItems.panel, thePlugin->menuItems.about})
         session.host.chooseMenuItem(item);

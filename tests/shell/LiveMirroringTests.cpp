@@ -127,22 +127,3 @@ TEST_CASE("nothing is regenerated while a mouse button is down; a timer makes up
     };
     CHECK_FALSE(running()); // nothing waits, and nobody asks
 }
-
-TEST_CASE("opening a drawing with a live layer leaves it as it was saved") {
-    for (const bool covers : {true, false}) {
-        easel::Switches switches;
-        switches.stampsCoverDescendants = covers;
-        LiveDrawing drawing{switches};
-        easel::Document& first = easel::session().document();
-        drawing.openDocument();
-        drawing.settle();
-        easel::Document& second = easel::session().document();
-        second.setModified(false);
-        drawing.host.activate(first);
-        drawing.settle();
-        CHECK(LiveDrawing::paths() == 6);
-        drawing.host.activate(second);
-        drawing.settle();
-        CHECK_FALSE(second.isModified());
-    }
-}
