@@ -157,14 +157,6 @@ TEST_CASE("guides belong to the top-level layer, and mirroring makes no copies o
     CHECK(fixture.notationOf(fixture.layer()) == "~ ~ ~ l(a a' a' a' a' a')");
 }
 
-TEST_CASE("without a document there are no guides") {
-    EngineFixture fixture;
-    easel::session().current = nullptr;
-    CHECK_FALSE(layerHasAxisGuides());
-    CHECK_FALSE(removeAxisGuides(nullptr, false));
-    easel::session().current = &fixture.document();
-}
-
 TEST_CASE("a guide inside what is mirrored whole leaves no mark in the copies") {
     for (const char* art : {"k(!a ~b)", "k(!a g(k(!b ~d)))", "p(b ~a)", "p(k(!a ~b))"}) {
         for (const bool live : {true, false}) {

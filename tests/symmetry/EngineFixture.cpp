@@ -3,6 +3,7 @@
 #include "easel/core/Expose.h"
 #include "easel/core/Ledger.h"
 #include "easel/document/Attributes.h"
+#include "easel/document/Dump.h"
 #include "easel/document/Layers.h"
 #include "easel/document/Session.h"
 #include "easel/suites/art/ArtSuites.h"
@@ -242,6 +243,14 @@ std::string EngineFixture::notationOf(const Art& parent) {
     return text;
 }
 
+std::string EngineFixture::text() const {
+    std::string text = easel::dump(*document_);
+    for (std::size_t at = text.find("entry \"ts\""); at != std::string::npos;
+         at = text.find("entry \"ts\""))
+        text.erase(at, text.find('\n', at) - at);
+    return text;
+}
+
 easel::Art& EngineFixture::addPath(Art& parent, const std::vector<Point>& points, bool closed) {
     Art& path = easel::createArt(*document_, kPathArt, easel::atBottomOf(parent));
     easel::ArtContent& content = path.write();
@@ -251,6 +260,15 @@ easel::Art& EngineFixture::addPath(Art& parent, const std::vector<Point>& points
         content.segments.write().push_back({at, at, at, true});
     }
     return path;
+}
+
+easel::Art& EngineFixture::addTooLongPath() {
+    std::vector<Point> points;
+    for (int i = 0; i < 16'002; ++i)
+        points.push_back({i * 0.1, 0.2 * (i % 7) * (i > 0)});
+    points.front() = {-5, 0};
+    points.back().y = 0.0;
+    return addPath(layer(), points, false);
 }
 
 void EngineFixture::setAxes(int count, double angle, Point origin) {

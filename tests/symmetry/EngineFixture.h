@@ -52,8 +52,14 @@ public:
     /// What `parent` holds, in the notation; selection is not shown.
     [[nodiscard]] std::string notationOf(const easel::Art& parent);
 
+    /// The whole document but for the stamps, which differ from run to run by design.
+    [[nodiscard]] std::string text() const;
+
     /// A path in `parent`, behind all, of straight pieces between `points`.
     easel::Art& addPath(easel::Art& parent, const std::vector<Point>& points, bool closed);
+    /// One on the layer that meets the axis y = 0 with both ends, and whose mirrored form would
+    /// have more segments than the host allows.
+    easel::Art& addTooLongPath();
 
     /// Axes with their origin at `origin` in page coordinates, current in `environment`.
     void setAxes(int count, double angle = 0.0, Point origin = {});

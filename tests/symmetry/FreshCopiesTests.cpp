@@ -1,5 +1,4 @@
 #include "easel/document/Attributes.h"
-#include "easel/document/Dump.h"
 #include "easel/document/Layers.h"
 #include "easel/document/Session.h"
 #include "symmetry/ArtSpace.h"
@@ -43,15 +42,6 @@ constexpr bool easel::Switches::*kSwitches[] = {
     &easel::Switches::lockedMembersGoAlong,   &easel::Switches::disposeRefusesLocked,
     &easel::Switches::silentFollowsStep,      &easel::Switches::countIs64Bits,
 };
-
-/// The document without the stamps, which are to differ.
-std::string textOf(EngineFixture& fixture) {
-    std::string text = easel::dump(fixture.document());
-    for (std::size_t at = text.find("entry \"ts\""); at != std::string::npos;
-         at = text.find("entry \"ts\""))
-        text.erase(at, text.find('\n', at) - at);
-    return text;
-}
 
 /// A user at random in a document with two live layers and one that is not.
 class Hand {
@@ -128,7 +118,7 @@ private:
             fixture_.attach();
         }
         fixture_.document().undo().clear();
-        seen_.insert(textOf(fixture_));
+        seen_.insert(fixture_.text());
     }
 
     void addPath(easel::Position position) {
@@ -334,7 +324,7 @@ private:
         if (!(fixture_.document().undo().*there)()) return;
         tell(name);
         CHECK(regenerate() == 0);
-        CHECK(seen_.contains(textOf(fixture_)));
+        CHECK(seen_.contains(fixture_.text()));
     }
 
     /// Saved and opened again, at times in another run of the host.
@@ -343,9 +333,9 @@ private:
         fixture_.reopen(coin() ? EngineFixture::Host::StartsAgain : EngineFixture::Host::Stays);
         unstamped_ = true;
         seen_.clear();
-        const std::string before = textOf(fixture_);
+        const std::string before = fixture_.text();
         CHECK(regenerate() == 0);
-        CHECK(textOf(fixture_) == before);
+        CHECK(fixture_.text() == before);
         seen_.insert(before);
     }
 
@@ -370,7 +360,7 @@ private:
                 if (isLive(*layer))
                     MirrorEngine{fixture_.environment()}.run(false, false, false,
                                                              easel::layerHandle(layer));
-            text = textOf(fixture_);
+            text = fixture_.text();
             fixture_.document().undo().revert();
         });
         easel::session().switches.undoRestoresStamps = restores;
@@ -388,7 +378,7 @@ private:
     void follow(bool allLayers) {
         const std::string wanted = afterFullRuns();
         const int layers = regenerate();
-        const std::string found = textOf(fixture_);
+        const std::string found = fixture_.text();
         seen_.insert(found);
         if (allLayers) CHECK(layers == 2);
         const bool same = found == wanted;

@@ -11,7 +11,6 @@
 
 #include <doctest/doctest.h>
 
-#include <array>
 #include <vector>
 
 using namespace facetta;
@@ -31,18 +30,6 @@ Regeneration follow(EngineFixture& fixture, Pen pen = Pen::IsWaitedFor) {
 }
 
 int afterChange(EngineFixture& fixture) { return follow(fixture).layers; }
-
-using Flipped = bool easel::Switches::*;
-
-/// Every combination of the other sides of these switches.
-template <std::size_t Count>
-std::vector<easel::Switches> combinations(const std::array<Flipped, Count>& switches) {
-    std::vector<easel::Switches> all(std::size_t{1} << Count);
-    for (std::size_t i = 0; i < all.size(); ++i)
-        for (std::size_t bit = 0; bit < Count; ++bit)
-            if ((i >> bit & 1) != 0) all[i].*switches[bit] = !(all[i].*switches[bit]);
-    return all;
-}
 
 } // namespace
 
@@ -111,44 +98,6 @@ TEST_CASE("a live layer is regenerated after each change of its art, once") {
             CHECK(afterChange(fixture) == 0); // its own changes call for nothing more
             CHECK(fixture.live.mirrored);
         }
-}
-
-TEST_CASE("undo takes back an edit with its copies, redo brings both, and neither mirrors anew") {
-    const auto hosts =
-        combinations<3>({&easel::Switches::undoRestoresStamps, &easel::Switches::silentFollowsStep,
-                         &easel::Switches::stampsCoverDescendants});
-    for (std::size_t i = 0; i < hosts.size(); ++i) {
-        INFO("host ", i);
-        EngineFixture fixture{hosts[i]};
-        easel::UndoLog& undo = fixture.document().undo();
-        fixture.build(fixture.layer(), "a");
-        fixture.setAxes(3);
-        fixture.attach();
-        const std::string before = easel::dump(fixture.document());
-        for (const char* const added : {"b", "d"}) {
-            fixture.build(fixture.layer(), added);
-            CHECK(afterChange(fixture) == 1);
-        }
-        const std::string after = easel::dump(fixture.document());
-        for (int times = 0; times < 10; ++times) {
-            for (int steps = 0; steps < 2; ++steps) {
-                CHECK(undo.undo());
-                CHECK(afterChange(fixture) == 0);
-            }
-            CHECK(easel::dump(fixture.document()) == before);
-            for (int steps = 0; steps < 2; ++steps) {
-                CHECK(undo.redo());
-                CHECK(afterChange(fixture) == 0);
-            }
-            CHECK(easel::dump(fixture.document()) == after);
-        }
-        CHECK(undo.undo());
-        CHECK(afterChange(fixture) == 0);
-        fixture.build(fixture.layer(), "e"); // now there is nothing to redo any more
-        CHECK(afterChange(fixture) == 1);
-        CHECK(fixture.notationOf(fixture.layer()) ==
-              "a a' a' a' a' a' b b' b' b' b' b' e e' e' e' e' e'");
-    }
 }
 
 TEST_CASE("an edit that follows an undo at once is not taken for the undo") {
@@ -272,14 +221,7 @@ TEST_CASE("of a path that is too long the user is told once, until it changes") 
     EngineFixture fixture;
     fixture.build(fixture.layer(), "a");
     Art* path = nullptr;
-    fixture.step([&] {
-        std::vector<Point> points;
-        for (int i = 0; i < 16002; ++i)
-            points.push_back({i * 0.1, 0.2 * (i % 7) * (i > 0)});
-        points.front() = {-5, 0};
-        points.back().y = 0.0;
-        path = &fixture.addPath(fixture.layer(), points, false);
-    });
+    fixture.step([&] { path = &fixture.addTooLongPath(); });
     fixture.setAxes(1);
     fixture.attach();
     CHECK(fixture.messages.size() == 1);
@@ -313,19 +255,6 @@ TEST_CASE("only live layers are touched, each with its own axes") {
     CHECK(afterChange(fixture) == 1);
     CHECK(fixture.notationOf(fixture.layer()) == "a e");
     CHECK(fixture.notationOf(*second) == "b b' b' b' d d' d' d'");
-}
-
-TEST_CASE("a layer attached without automatic mirroring is mirrored once and then on demand") {
-    EngineFixture fixture;
-    fixture.build(fixture.layer(), "a");
-    fixture.setAxes(1);
-    fixture.attach(/*autoMirror*/ false);
-    CHECK(fixture.axes.onLayer);
-    CHECK_FALSE(fixture.axes.autoMirror);
-    fixture.build(fixture.layer(), "b");
-    CHECK(afterChange(fixture) == 0);
-    fixture.regenerate();
-    CHECK(fixture.notationOf(fixture.layer()) == "a a' b b'");
 }
 
 TEST_CASE(

@@ -2,9 +2,9 @@
 #include "easel/document/Layers.h"
 #include "easel/document/Session.h"
 #include "host/suites/AIArtSuite.h"
+#include "symmetry/AxisGuides.h"
 #include "symmetry/GuideTag.h"
 #include "symmetry/LayerAxesStore.h"
-#include "symmetry/LayerStamp.h"
 #include "symmetry/MirrorTag.h"
 #include "symmetry/RealText.h"
 #include "tests/symmetry/EngineFixture.h"
@@ -155,25 +155,6 @@ TEST_CASE("axes belong to the top-level layer") {
     CHECK(axes.axisCount == 0);
 }
 
-TEST_CASE("a stamp tells whether art changed since, and goes with the next full write") {
-    EngineFixture fixture;
-    const AILayerHandle layer = fixture.layerHandle();
-    const auto now = [&] { return readLayerStamp(layer, StampReach::Unknown).stored(); };
-    fixture.build(fixture.layer(), "a");
-    fixture.step([&] { LayerAxesStore::stamp(layer); });
-    CHECK(LayerAxesStore::stampOf(layer) == 0); // no axes, nothing to stamp
-
-    fixture.step([&] {
-        LayerAxesStore::write({.axisCount = 2});
-        LayerAxesStore::stamp(layer);
-    });
-    CHECK(LayerAxesStore::stampOf(layer) == now());
-    fixture.build(fixture.layer(), "b");
-    CHECK(LayerAxesStore::stampOf(layer) != now());
-    fixture.step([&] { LayerAxesStore::write({.axisCount = 2}); });
-    CHECK(LayerAxesStore::stampOf(layer) == 0);
-}
-
 TEST_CASE("removing axes frees the copies of the layer that was given") {
     const struct {
         std::string before;
@@ -198,7 +179,7 @@ TEST_CASE("removing axes frees the copies of the layer that was given") {
     }
 }
 
-TEST_CASE("without a document or a group there is nothing to read or write") {
+TEST_CASE("without a document there is nothing to read or write") {
     EngineFixture fixture;
     easel::session().current = nullptr;
     SymmetryAxes axes{.axisCount = 5};
@@ -213,6 +194,8 @@ TEST_CASE("without a document or a group there is nothing to read or write") {
     GuideTag::set(nullptr);
     CHECK(MirrorTag::get(nullptr) == 0);
     CHECK_FALSE(GuideTag::has(nullptr));
+    CHECK_FALSE(layerHasAxisGuides());
+    CHECK_FALSE(removeAxisGuides(nullptr, false));
     easel::session().current = &fixture.document();
 }
 
