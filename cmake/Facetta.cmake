@@ -5,6 +5,9 @@
 #   facetta_tests(symmetry SOURCES GeometryTests.cpp ... DEPENDS symmetry)
 #       the doctest program symmetry_tests, known to CTest under that name; in the Windows presets
 #       it runs under Wine
+#   facetta_screen_test(toolkit gallery)
+#       the test toolkit_screen: the script screen/run of the folder uses the program gallery with the
+#       mouse and keyboard of an X server; Windows only
 #   facetta_program(easel SOURCES main.cpp DEPENDS easel facetta::cli11)
 #       a product of that name
 #   facetta_benchmarks(mirror SOURCES MirrorBenchmarks.cpp DEPENDS symmetry)
@@ -140,6 +143,16 @@ function(facetta_tests name)
     add_test(NAME ${name}_tests COMMAND ${name}_tests WORKING_DIRECTORY ${CMAKE_SOURCE_DIR})
     set_tests_properties(${name}_tests PROPERTIES TIMEOUT ${arg_TIMEOUT} LABELS "${arg_LABELS}")
     facetta_runs_program(${name}_tests)
+endfunction()
+
+function(facetta_screen_test name program)
+    if(NOT WIN32)
+        return()
+    endif()
+    add_test(NAME ${name}_screen WORKING_DIRECTORY ${CMAKE_SOURCE_DIR}
+        COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/screen/run $<TARGET_FILE:${program}>)
+    set_tests_properties(${name}_screen PROPERTIES TIMEOUT 600)
+    facetta_runs_program(${name}_screen)
 endfunction()
 
 # What every test needs that runs a program of ours.
