@@ -1,9 +1,7 @@
 #include "toolkit/ImplCommon/CursorMap.h"
-#include "toolkit/ImplCommon/Resources.h"
 
 #include <doctest/doctest.h>
 
-#include <clocale>
 #include <string>
 
 using namespace NRDM;
@@ -61,18 +59,4 @@ TEST_CASE("the picture that need not be enlarged is shown, the smallest of those
     for (int i = 0; i < 100; ++i)
         many += "<kPicture scale=\"1\" id=\"1\"/>";
     CHECK(readCursorMap(inMap(many)).pictures.size() == CursorMap::kMostPictures);
-}
-
-TEST_CASE("the cursors of the product: hot spot 15,15, and a picture for each scale") {
-    for (const int cursor : {16021, 16022, 16023, 16024}) {
-        INFO(cursor);
-        const Bytes document = findResource(nullptr, ResourceKind::CursorMap, cursor);
-        REQUIRE_FALSE(document.empty());
-        const CursorMap map =
-            readCursorMap({reinterpret_cast<const char*>(document.data()), document.size()});
-        CHECK(map.hotX == 15);
-        CHECK(map.hotY == 15);
-        CHECK(map.pictures ==
-              std::vector<CursorMap::Picture>{{1, cursor}, {1.5, cursor + 100}, {2, cursor + 200}});
-    }
 }

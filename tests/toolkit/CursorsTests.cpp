@@ -44,22 +44,6 @@ struct CursorsInUse {
 
 } // namespace
 
-TEST_CASE("the host shows the cursor that is asked for, until it closes") {
-    CursorsInUse use;
-    CHECK(use.host.user.cursor == kArrow);
-    use.show(kMove);
-    CHECK(use.host.user.cursor == kMove);
-    use.show(kFinger);
-    CHECK(use.host.user.cursor == kFinger);
-    CHECK(use.host.user.cursorManagers.handles().size() == 1); // one for all cursors
-    use.close();
-    CHECK(use.host.user.cursorManagers.handles().empty());
-    use.show(kMove);
-    CHECK(use.host.user.cursor == kFinger);
-    use.host.quit();
-    CHECK(use.host.complaints().empty());
-}
-
 TEST_CASE("a host that cannot show cursors is asked no further") {
     for (const char* broken : {"AI User Suite.GetDateAndTime", "AI User Suite.SetCursor",
                                "AI User Suite.CreateCursorResourceMgr"}) {

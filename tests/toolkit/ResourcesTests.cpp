@@ -18,14 +18,6 @@ std::string narrow(const std::u16string& text) { return {text.begin(), text.end(
 
 std::string stringResource(int id) { return narrow(readString(kThisProgram, id).value_or(u"")); }
 
-/// "text" of each line, "-" for a separator.
-std::vector<std::string> menuTexts(int id) {
-    std::vector<std::string> texts;
-    for (const MenuLine& line : readMenu(kThisProgram, id).value_or(std::vector<MenuLine>{}))
-        texts.push_back(line.separator ? "-" : narrow(line.text));
-    return texts;
-}
-
 Bytes bytesOf(const std::vector<unsigned char>& data) { return std::as_bytes(std::span(data)); }
 
 } // namespace
@@ -36,24 +28,6 @@ TEST_CASE("strings that are not there are nothing") {
     CHECK(stringResource(18009) == "Continue");
     for (const int id : {-1, 0, 17100, 17113, 18000, 18010, 70000})
         CHECK_FALSE(readString(kThisProgram, id).has_value());
-}
-
-TEST_CASE("the menus have their lines, in order, under their ids") {
-    CHECK(menuTexts(700) == std::vector<std::string>{"1", "2", "3", "4", "5", "6"});
-    CHECK(menuTexts(701) ==
-          std::vector<std::string>{"Compact Panel", "-", "Copy Axes", "Paste Axes as Provisional",
-                                   "Paste Axes to Layer", "-", "Add Guides along Axes",
-                                   "Remove Guides from Axes", "-", "Remove All Layer Axes", "-",
-                                   "Center Annotation Menu", "-", "Facetta Preferences..."});
-    for (const int menu : {700, 701}) {
-        const auto lines = readMenu(kThisProgram, menu).value();
-        for (std::size_t i = 0; i < lines.size(); ++i) {
-            CHECK(lines[i].enabled);
-            CHECK_FALSE(lines[i].checked);
-            if (!lines[i].separator) CHECK(lines[i].id == static_cast<int>(i));
-        }
-    }
-    CHECK_FALSE(readMenu(kThisProgram, 702).has_value());
 }
 
 TEST_CASE("the layout texts are there, with the line ends of the system they are for") {

@@ -5,7 +5,6 @@
 
 #include "easel/suites/Suites.h"
 #include "toolkit/ImplCommon/Exceptions.h"
-#include "toolkit/Toolkit.h"
 
 #include <array>
 #include <optional>
@@ -140,40 +139,6 @@ TEST_CASE("a panel's menu shows what its tracker made of it, and gives back what
     CHECK(menu.list()->chosen() == nullptr);
 }
 
-TEST_CASE("the toolkit hears of colours and of the host's end under names of its own") {
-    easel::Host host{easel::sessionWithSuites()};
-    TestPlugin plugin(host);
-    std::optional<Toolkit> toolkit;
-    plugin.on("SP Interface/Startup", [&](SPMessageData& message) {
-        ai::basicSuite = message.basic;
-        toolkit.emplace(plugin.self(), nullptr);
-        return kNoErr;
-    });
-    plugin.on("SP Interface/Shutdown", [&](SPMessageData&) {
-        toolkit.reset();
-        ai::basicSuite = nullptr;
-        return kNoErr;
-    });
-    host.start();
-    struct Name {
-        std::string own;
-        std::string host;
-    };
-    const Name expected[] = {
-        {"NRDMUIUpdate", "AI UI Brightness Changed Notifier"},
-        {"NRDMAppShutdown", "AI Application Shutdown Notifier"},
-        {"NRDMUIUpdate", "AI All Plug-ins Started Notifier"},
-    };
-    for (const Name& name : expected) {
-        INFO(name.host);
-        CHECK(host.notifiers.findIf([&](const easel::Notifier& each) {
-            return each.name == name.own && each.type == name.host;
-        }) != nullptr);
-    }
-    CHECK_FALSE(toolkit->serve(nullptr));
-    host.quit();
-}
-
 TEST_CASE("the dialogs of the resources have their items where the layout puts them") {
     struct Row {
         int resource;
@@ -228,31 +193,6 @@ TEST_CASE("the dialogs of the resources have their items where the layout puts t
         }
         CHECK(dialog->item(1)->view().isDefault);
     }
-}
-
-TEST_CASE("the dialog of the axes takes numbers typed and chosen") {
-    Hosted hosted;
-    CoADMDialog* const dialog = hosted.create(kADMModalDialogStyle, 16002);
-    REQUIRE(dialog != nullptr);
-    dialog->procedures.notify = dialogHears;
-    CoADMItem& count = *dialog->item(11);
-    CHECK(count.list()->count() == 6);
-    count.setLowest(1);
-    count.setHighest(72);
-    count.setValue(3);
-    hosted.stage->peers->user = [&] {
-        CHECK(dialog->active()->id() == 4);
-        dialog->key(DialogKey::Access, U'N');
-        CHECK(dialog->active() == &count);
-        count.choose(5);
-        CHECK(count.value() == 6);
-        dialog->item(8)->typed("450");
-        dialog->key(DialogKey::Enter, 0);
-        CHECK(dialog->item(8)->value() == 450);
-    };
-    hosted.plugin.run([&] { CHECK(dialog->run() == 1); });
-    CHECK(takeHeard() ==
-          Heard{"user 11 in dialog", "moving 8 in dialog", "user 8 in dialog", "user 1 in dialog"});
 }
 
 TEST_CASE("a modal dialog without its layout is none") {

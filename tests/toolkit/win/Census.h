@@ -2,7 +2,7 @@
 
 /// What dialogs cost the system, counted.
 
-#include "tests/toolkit/win/Stage.h"
+#include "tests/toolkit/win/Hands.h"
 
 #include <doctest/doctest.h>
 

@@ -1,332 +1,329 @@
-/// What native controls report when a user's hand is on them.
+/// Controls used by a hand: what the user does arrives at the client as the right notification with
+/// the right value.
 
 #include "tests/toolkit/win/Stage.h"
 
-#include "toolkit/ImplWin/CoADMDrawer.h"
+#include "toolkit/ImplCommon/Exceptions.h"
+#include "toolkit/ImplWin/WinPeers.h"
 
 #include <doctest/doctest.h>
 
 #include <algorithm>
-#include <stdexcept>
 
 using namespace NRDM;
 using namespace NRDM::tests;
 
 namespace {
 
-constexpr Bounds kWide{20, 20, 140, 42};
-constexpr Bounds kBelow{20, 60, 140, 82};
-
-ItemView listing(ControlKind kind, Bounds bounds = kWide) {
-    ItemView view = itemView(kind, bounds);
-    for (const char* const text : {"One", "Two", "-", "Three"}) {
-        EntryView entry;
-        entry.text = text;
-        entry.separator = entry.text == "-";
-        view.entries.push_back(entry);
-    }
-    view.chosen = 0;
-    return view;
+POINT arrowOf(HWND field, bool up) {
+    RECT area{};
+    GetClientRect(field, &area);
+    return {area.right - 8, up ? 5 : area.bottom - 5};
 }
 
-/// Without what only tells where the focus is.
-Log acts(const Log& log) {
-    Log kept;
-    std::copy_if(log.begin(), log.end(), std::back_inserter(kept),
-                 [](const std::string& entry) { return entry != "focus" && entry != "blur"; });
-    return kept;
+/// Fills a list with "One", "Two", a line and "Three", the first chosen.
+void fill(ADMItemRef item) {
+    ADMListRef list = kItemSuite.GetList(item);
+    for (const char* const text : {"One", "Two", "-", "Three"})
+        kEntrySuite.SetText(kListSuite.InsertEntry(list, 99), text);
+    kEntrySuite.MakeSeparator(kListSuite.IndexEntry(list, 2), true);
+    kEntrySuite.Select(kListSuite.IndexEntry(list, 0), true);
+}
+
+/// The index of the entry that is chosen, or -1.
+int chosenIn(ADMItemRef item) {
+    ADMEntryRef entry = kListSuite.GetActiveEntry(kItemSuite.GetList(item));
+    return entry != nullptr ? kEntrySuite.GetIndex(entry) : -1;
+}
+
+/// Clicks the last entry of the popup that is open.
+void clickLastOf(Stage& stage, ADMDialogRef dialog) {
+    const HWND popup = popupOf(Stage::window(dialog));
+    REQUIRE(popup != nullptr);
+    RECT area{};
+    GetClientRect(popup, &area);
+    stage.click(popup, {20, area.bottom - 12});
+    CHECK(popupOf(Stage::window(dialog)) == nullptr);
 }
 
 } // namespace
 
 TEST_CASE("a button is pressed by mouse and Space, and not when the mouse is let go beside it") {
     Stage stage;
-    StagedItem& button = stage.add(itemView(ControlKind::PushButton, kWide, "Apply"));
-    stage.open();
-    stage.clickMiddle(button.window());
-    CHECK(acts(stage.log) == Log{"click"});
-    stage.log.clear();
+    ADMDialogRef dialog = stage.dialog();
+    ADMItemRef button = stage.add(dialog, 3, kADMTextPushButtonType, "Apply");
+    stage.show(dialog);
+    const HWND window = Stage::window(button);
+    stage.clickMiddle(window);
     stage.key(VK_SPACE);
-    CHECK(acts(stage.log) == Log{"click"});
-    stage.log.clear();
-    stage.press(button.window(), {10, 10});
-    stage.move(button.window(), {10, 100});
+    CHECK(stage.takeHeard() == Log{"user 3 = 0", "user 3 = 0"});
+    stage.press(window, {10, 10});
+    stage.move(window, {10, 100});
     stage.release();
-    CHECK(acts(stage.log).empty());
-    button.view.enabled = false;
-    button.peer->changed(Aspect::Enabled);
-    stage.clickMiddle(button.window());
-    CHECK(acts(stage.log).empty());
+    kItemSuite.Enable(button, false);
+    stage.clickMiddle(window);
+    CHECK(stage.takeHeard().empty());
 }
 
-TEST_CASE("an item may go, and its dialog with it, while it reports a click") {
+TEST_CASE("what is typed is told as it comes, then taken over or refused") {
     Stage stage;
-    StagedItem& button = stage.add(itemView(ControlKind::PushButton, kWide, "Close"));
-    button.onClick = [&] { stage.close(); };
-    stage.open();
-    stage.clickMiddle(button.window());
-    CHECK(stage.peer == nullptr);
-    CHECK(stage.failures == 0);
-}
-
-TEST_CASE("what a handler throws is told once and goes no further") {
-    Stage stage;
-    StagedItem& button = stage.add(itemView(ControlKind::CheckBox, kWide, "Active"));
-    button.onClick = [] { throw std::runtime_error("a handler's own"); };
-    stage.open();
-    stage.clickMiddle(button.window());
-    CHECK(stage.failures == 1);
-}
-
-TEST_CASE("a field tells each change of its text, and that it is done with") {
-    Stage stage;
-    stage.usesKeys = true;
-    StagedItem& field = stage.add(itemView(ControlKind::Edit, kWide, "5"));
-    stage.open();
-    field.peer->focus();
-    stage.pump();
-    stage.log.clear();
-    stage.type(L"1in");
-    CHECK(stage.log == Log{"typed 1", "typed 1i", "typed 1in"}); // over what was selected
-    stage.log.clear();
-    SUBCASE("by Enter: the number first, then the dialog's key") {
-        stage.key(VK_RETURN);
-        CHECK(stage.log == Log{"commit", "key Enter"});
-    }
-    SUBCASE("by Tab") {
-        stage.key(VK_TAB);
-        CHECK(stage.log == Log{"commit", "key Tab"});
-    }
-    SUBCASE("refused: the key goes no further, the former text is back and selected") {
-        field.accepts = false;
-        stage.key(VK_RETURN);
-        CHECK(stage.log == Log{"commit"});
-        wchar_t text[8];
-        GetWindowTextW(field.field(), text, 8);
-        CHECK(std::wstring(text) == L"5");
-        CHECK(SendMessageW(field.field(), EM_GETSEL, 0, 0) == MAKELONG(0, 1));
-    }
-    SUBCASE("by Escape: nothing is taken over") {
-        stage.key(VK_ESCAPE);
-        CHECK(stage.log == Log{"revert", "key Escape"});
-    }
-    SUBCASE("a text that the model sets is told to nobody") {
-        field.view.text = "72";
-        field.view.typed.reset(); // the new value counts
-        field.peer->changed(Aspect::Text);
+    ADMDialogRef dialog = stage.dialog();
+    ADMItemRef field = stage.addNumber(dialog, 4, kADMTextEditType, 100, -1000, 1000);
+    kItemSuite.SetUnits(field, kADMPointUnits);
+    kItemSuite.SetPrecision(field, 3);
+    kItemSuite.ShowUnits(field, true);
+    ADMItemRef other = stage.add(dialog, 5, kADMTextEditType);
+    stage.show(dialog);
+    enum class Focus { Leaves, Stays };
+    struct Row {
+        std::wstring typed;
+        std::function<void()> end;
+        std::wstring shown;
+        Log told; ///< of what is complete
+        Focus focus;
+    };
+    const auto strike = [&](WORD key) { return [&stage, key] { stage.key(key); }; };
+    const Row rows[] = {
+        {L"1 in", strike(VK_RETURN), L"72.000 pt", {"user 4 = 72"}, Focus::Stays},
+        {L"10+5 mm", strike(VK_TAB), L"24.173 pt", {"user 4 = 24.173"}, Focus::Leaves},
+        {L"1001", strike(VK_RETURN), L"100.000 pt", {}, Focus::Stays},
+        {L"1001", [&] { stage.clickMiddle(Stage::field(other)); }, L"100.000 pt", {}, Focus::Stays},
+        {L"100.000", strike(VK_RETURN), L"100.000 pt", {}, Focus::Stays},
+        {L"72", strike(VK_ESCAPE), L"100.000 pt", {}, Focus::Stays},
+    };
+    for (const auto& row : rows) {
+        INFO(std::string(row.typed.begin(), row.typed.end()));
+        kItemSuite.SetFloatValue(field, 100);
+        kItemSuite.Activate(field, true);
         stage.pump();
-        CHECK(stage.log.empty());
-        stage.key(VK_RETURN);
-        CHECK(stage.log == Log{"key Enter"}); // nothing typed, nothing to take over
+        kItemSuite.SelectAll(field);
+        static_cast<void>(stage.takeHeard());
+        stage.type(row.typed); // over what is selected
+        const Log heard = stage.takeHeard();
+        CHECK(std::ranges::count(heard, "moving 4 = 100") == std::ssize(heard));
+        CHECK(heard.size() == row.typed.size());
+        row.end();
+        CHECK(stage.takeHeard() == row.told);
+        CHECK(Stage::shown(field) == row.shown);
+        CHECK((GetFocus() == Stage::field(field)) == (row.focus == Focus::Stays));
     }
-}
-
-TEST_CASE("a field that was refused when the focus left gets it back") {
-    Stage stage;
-    StagedItem& field = stage.add(itemView(ControlKind::Edit, kWide, "5"));
-    StagedItem& other = stage.add(itemView(ControlKind::Edit, kBelow, "6"));
-    stage.open();
-    field.peer->focus();
-    stage.type(L"400");
-    field.accepts = false;
-    stage.clickMiddle(other.field());
-    CHECK(GetFocus() == field.field());
+    CHECK(stage.failures == 0);
 }
 
 TEST_CASE("a field that is justified anew keeps its text and the focus") {
     Stage stage;
-    StagedItem& item = stage.add(itemView(ControlKind::Edit, {20, 20, 120, 42}, "5"));
-    stage.open();
-    item.peer->focus();
+    ADMDialogRef dialog = stage.dialog();
+    ADMItemRef item = stage.add(dialog, 4, kADMTextEditType, "5");
+    stage.show(dialog);
+    kItemSuite.Activate(item, true);
     stage.pump();
     const auto leftOfText = [&] {
-        return static_cast<short>(LOWORD(SendMessageW(item.field(), EM_POSFROMCHAR, 0, 0)));
+        return static_cast<short>(LOWORD(SendMessageW(Stage::field(item), EM_POSFROMCHAR, 0, 0)));
     };
     const int before = leftOfText();
-    item.view.justify = 2;
-    item.peer->changed(Aspect::Look);
+    kItemSuite.SetJustify(item, 2); // to the right
     stage.pump();
     CHECK(leftOfText() > before + 50);
-    CHECK(GetFocus() == item.field());
-    stage.log.clear();
+    CHECK(GetFocus() == Stage::field(item));
     stage.type(L"7");
-    CHECK(stage.log == Log{"typed 75"});
+    CHECK(Stage::shown(item) == L"75");
 }
 
 TEST_CASE("keys and the wheel step a number") {
-    struct Row {
-        WORD modifier;
-        WORD key;
-        const char* step;
-    };
-    const Row rows[] = {
-        {0, VK_UP, "step 1."},
-        {0, VK_DOWN, "step -1."},
-        {VK_SHIFT, VK_UP, "step 1 large."},
-        {0, VK_PRIOR, "step 1 large."},
-        {0, VK_NEXT, "step -1 large."},
-    };
     Stage stage;
-    StagedItem& field = stage.add(itemView(ControlKind::SpinEdit, kWide, "5"));
-    stage.open();
-    field.peer->focus();
+    ADMDialogRef dialog = stage.dialog();
+    ADMItemRef field = stage.addNumber(dialog, 4, kADMSpinEditType, 50, 1, 100);
+    stage.show(dialog);
+    kItemSuite.Activate(field, true);
     stage.pump();
-    for (const auto& [modifier, key, step] : rows) {
-        stage.log.clear();
-        if (modifier != 0)
-            stage.keyWith(modifier, key);
-        else
-            stage.key(key);
-        CHECK(acts(stage.log) == Log{step});
-    }
-    stage.log.clear();
-    stage.move(field.window(), {10, 10});
+    stage.key(VK_UP);
+    stage.keyWith(VK_SHIFT, VK_UP);
+    stage.key(VK_DOWN);
+    stage.key(VK_NEXT);
+    stage.key(VK_PRIOR);
+    stage.move(Stage::window(field), {10, 10});
     stage.wheel(2);
-    CHECK(acts(stage.log) == Log{"step 2."});
+    CHECK(stage.takeHeard() == Log{"user 4 = 51", "user 4 = 61", "user 4 = 60", "user 4 = 50",
+                                   "user 4 = 60", "user 4 = 62"});
 }
 
-TEST_CASE("an arrow that is held repeats, and says when it is let go") {
+TEST_CASE("an arrow that is held counts up to the limit and tells the end once") {
     Stage stage;
-    StagedItem& field = stage.add(itemView(ControlKind::SpinEdit, kWide, "5"));
-    stage.open();
-    RECT area{};
-    GetClientRect(field.window(), &area);
-    stage.press(field.window(), {area.right - 8, area.bottom - 5});
-    stage.pump(650);
+    ADMDialogRef dialog = stage.dialog();
+    ADMItemRef field = stage.addNumber(dialog, 4, kADMSpinEditType, 1, 1, 4);
+    stage.show(dialog);
+    stage.press(Stage::window(field), arrowOf(Stage::window(field), true));
+    CHECK(stage.takeHeard() == Log{"moving 4 = 2"});
+    for (int waits = 0; waits < 40 && kItemSuite.GetFloatValue(field) < 4; ++waits)
+        stage.pump(50);
+    stage.pump(200); // it goes on being held
+    CHECK(stage.takeHeard() == Log{"moving 4 = 3", "moving 4 = 4"});
     stage.release();
-    const Log told = acts(stage.log);
-    REQUIRE(told.size() >= 4);
-    CHECK(told.front() == "step -1..");
-    CHECK(told.back() == "step 0.");
-    CHECK(std::count(told.begin(), told.end(), "step -1..") == static_cast<long>(told.size()) - 1);
-    stage.log.clear();
-    stage.pump(200);
-    CHECK(acts(stage.log).empty());
+    CHECK(stage.takeHeard() == Log{"user 4 = 4"});
+    CHECK(Stage::shown(field) == L"4");
 }
 
-TEST_CASE("a slider tells every place on its way and the last one once more") {
+TEST_CASE("a slider tells its way and then its end, and steps by keys and beside its thumb") {
     Stage stage;
-    ItemView view = itemView(ControlKind::Slider, {20, 20, 130, 36});
-    view.value = 50;
-    StagedItem& slider = stage.add(view);
-    stage.open();
-    const int middle = 55; // the bar runs from 5 to 105
-    SUBCASE("dragged") {
-        stage.press(slider.window(), {middle, 8});
-        stage.move(slider.window(), {middle + 10, 8});
-        stage.move(slider.window(), {middle + 25, 8});
-        stage.move(slider.window(), {middle + 500, 8});
-        stage.release();
-        CHECK(acts(stage.log) == Log{"slide 60..", "slide 75..", "slide 100..", "slide 100."});
-    }
-    SUBCASE("pressed beside the thumb: a large step toward the pointer") {
-        stage.click(slider.window(), {90, 8});
-        stage.click(slider.window(), {20, 8});
-        CHECK(acts(stage.log) == Log{"slide 60.", "slide 50."});
-    }
-    SUBCASE("by keys, up to its ends") {
-        slider.peer->focus();
-        stage.pump();
-        stage.log.clear();
-        stage.key(VK_RIGHT);
-        stage.key(VK_PRIOR);
-        stage.key(VK_END);
-        stage.key(VK_RIGHT);
-        CHECK(acts(stage.log) == Log{"slide 51.", "slide 61.", "slide 100."});
-    }
+    ADMDialogRef dialog = stage.dialog();
+    ADMItemRef slider = stage.addNumber(dialog, 4, kADMSliderType, 50, 0, 100);
+    stage.show(dialog);
+    const HWND window = Stage::window(slider);
+    stage.click(window, {90, 11});
+    stage.click(window, {8, 11});
+    CHECK(stage.takeHeard() == Log{"user 4 = 60", "user 4 = 50"});
+    kItemSuite.Activate(slider, true);
+    stage.key(VK_RIGHT);
+    stage.key(VK_PRIOR);
+    stage.key(VK_END);
+    stage.key(VK_RIGHT); // at the end already
+    CHECK(stage.takeHeard() == Log{"user 4 = 51", "user 4 = 61", "user 4 = 100"});
+    kItemSuite.SetFloatValue(slider, 0);
+    stage.press(window, {5, 11});
+    stage.move(window, {50, 11});
+    stage.move(window, {200, 11});
+    stage.release();
+    CHECK(stage.takeHeard() == Log{"moving 4 = 50", "moving 4 = 100", "user 4 = 100"});
 }
 
 TEST_CASE("a popup list is chosen from by mouse and by keys") {
     Stage stage;
-    StagedItem& list = stage.add(listing(ControlKind::PopupList));
-    stage.open();
-    stage.clickMiddle(list.window());
-    const HWND popup = popupOf(stage.window());
-    REQUIRE(popup != nullptr);
+    ADMDialogRef dialog = stage.dialog();
+    ADMItemRef list = stage.add(dialog, 4, kADMPopupListType);
+    fill(list);
+    stage.show(dialog);
+    const HWND window = Stage::window(dialog);
+    stage.clickMiddle(Stage::window(list));
     SUBCASE("a click on an entry") {
-        RECT area{};
-        GetClientRect(popup, &area);
-        stage.click(popup, {20, area.bottom - 12});
-        CHECK(acts(stage.log) == Log{"choose 3"});
-        CHECK(popupOf(stage.window()) == nullptr);
+        clickLastOf(stage, dialog);
+        CHECK(chosenIn(list) == 3);
+        CHECK(stage.takeHeard() == Log{"user 4 = 0"});
     }
     SUBCASE("arrows pass over the separator, Enter chooses") {
         stage.key(VK_DOWN);
         stage.key(VK_DOWN);
         stage.key(VK_RETURN);
-        CHECK(acts(stage.log) == Log{"choose 3"});
+        CHECK(chosenIn(list) == 3);
+        CHECK(stage.takeHeard() == Log{"user 4 = 0"});
     }
     SUBCASE("Escape and a click elsewhere choose nothing") {
         stage.key(VK_ESCAPE);
-        CHECK(popupOf(stage.window()) == nullptr);
-        stage.clickMiddle(list.window());
-        REQUIRE(popupOf(stage.window()) != nullptr);
-        stage.click(stage.window(), {300, 200});
-        CHECK(popupOf(stage.window()) == nullptr);
-        CHECK(acts(stage.log).empty());
+        CHECK(popupOf(window) == nullptr);
+        stage.clickMiddle(Stage::window(list));
+        REQUIRE(popupOf(window) != nullptr);
+        stage.click(window, {300, 200});
+        CHECK(popupOf(window) == nullptr);
+        CHECK(stage.takeHeard().empty());
     }
     SUBCASE("the dialog goes while it is open") {
-        stage.close();
+        kDialogSuite.Destroy(dialog);
         stage.pump();
         CHECK(stage.failures == 0);
     }
 }
 
-TEST_CASE("an edit with a popup offers its list, a list box its rows") {
+TEST_CASE("a popup opened by a key leaves the choice to the keys, whatever the pointer rests on") {
     Stage stage;
-    StagedItem& field = stage.add(listing(ControlKind::SpinEditPopup));
-    StagedItem& box = stage.add(listing(ControlKind::ListBox, {160, 20, 300, 120}));
-    stage.open();
-    RECT area{};
-    GetClientRect(field.window(), &area);
-    stage.click(field.window(), {area.right - 8, 11});
-    REQUIRE(popupOf(stage.window()) != nullptr);
+    ADMDialogRef dialog = stage.dialog();
+    ADMItemRef list = stage.add(dialog, 4, kADMPopupListType);
+    fill(list);
+    stage.show(dialog);
+    stage.move(Stage::window(list), {20, 34}); // where its first entry will be
+    kItemSuite.Activate(list, true);
+    stage.key(VK_SPACE);
+    // What Windows sends when a window appears below a pointer at rest.
+    const HWND popup = GetCapture();
+    REQUIRE(popup != nullptr);
+    SendMessageW(popup, WM_MOUSEMOVE, 0, MAKELPARAM(20, 12));
     stage.key(VK_DOWN);
     stage.key(VK_RETURN);
-    CHECK(acts(stage.log) == Log{"choose 1"});
-    stage.log.clear();
-    stage.click(box.window(), {20, 32});
+    CHECK(chosenIn(list) == 1);
+}
+
+TEST_CASE("a field offers the numbers of its menu resource, a list box its rows") {
+    Stage stage;
+    ADMDialogRef dialog = stage.dialog();
+    ADMItemRef count = stage.addNumber(dialog, 11, kADMSpinEditPopupType, 3, 1, 72);
+    kListSuite.SetMenuID(kItemSuite.GetList(count), nullptr, 700, nullptr);
+    ADMItemRef box = stage.add(dialog, 4, kADMListBoxType);
+    kItemSuite.Size(box, 100, 100);
+    fill(box);
+    stage.show(dialog);
+    static_cast<void>(stage.takeHeard()); // of the new size
+    stage.click(Stage::window(count), arrowOf(Stage::window(count), true));
+    clickLastOf(stage, dialog);
+    CHECK(stage.takeHeard() == Log{"user 11 = 6"});
+    CHECK(Stage::shown(count) == L"6");
+    stage.click(Stage::window(box), {20, 32});
+    CHECK(chosenIn(box) == 1);
     stage.key(VK_DOWN);
-    CHECK(acts(stage.log) == Log{"choose 1", "choose 3"});
+    CHECK(chosenIn(box) == 3);
 }
 
-TEST_CASE("Tab, Enter, Escape and access keys reach the dialog from any control") {
-    for (const ControlKind kind :
-         {ControlKind::PushButton, ControlKind::CheckBox, ControlKind::Slider,
-          ControlKind::PopupList, ControlKind::Edit}) {
-        CAPTURE(static_cast<int>(kind));
-        Stage stage;
-        stage.usesKeys = true;
-        StagedItem& item = stage.add(itemView(kind, kWide, "Text"));
-        stage.open();
-        item.peer->focus();
-        stage.pump();
-        stage.log.clear();
-        stage.key(VK_TAB);
-        stage.keyWith(VK_SHIFT, VK_TAB);
-        stage.key(VK_RETURN);
-        stage.key(VK_ESCAPE);
-        stage.keyWith(VK_MENU, 'X');
-        CHECK(acts(stage.log) ==
-              Log{"key Tab", "key BackTab", "key Enter", "key Escape", "key Access X"});
-    }
+TEST_CASE("a menu shows what its resource and its client say, and gives back what is chosen") {
+    Stage stage;
+    ADMDialogRef dialog = stage.dialog();
+    ADMItemRef menu = stage.add(dialog, 4, kADMPopupMenuType, "Axes");
+    ADMListRef list = kItemSuite.GetList(menu);
+    kListSuite.SetMenuID(list, nullptr, 700, nullptr);
+    REQUIRE(kListSuite.NumberOfEntries(list) == 6);
+    kEntrySuite.Enable(kListSuite.IndexEntry(list, 1), false);
+    kEntrySuite.MakeSeparator(kListSuite.IndexEntry(list, 2), true);
+    stage.show(dialog);
+    stage.move(Stage::window(dialog), {300, 230}); // a pointer on the menu would choose as well
+    kItemSuite.Activate(menu, true);
+    stage.pump();
+    const auto choose = [&](const std::vector<WORD>& keys) {
+        stage.useMenu([&] { stage.key(VK_SPACE); }, keys);
+        return chosenIn(menu);
+    };
+    CHECK(choose({VK_ESCAPE}) == -1);
+    CHECK(stage.takeHeard().empty());
+    // The first, the disabled one, past the line: the fourth.
+    CHECK(choose({VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN}) == 3);
+    CHECK(stage.takeHeard() == Log{"user 4 = 0"});
 }
 
-TEST_CASE("a tip shows when the pointer rests on an item, a disabled one too") {
-    for (const bool enabled : {true, false}) {
+TEST_CASE("a click on a radio button switches its group, arrows go on in it") {
+    Stage stage;
+    ADMDialogRef dialog = stage.dialog();
+    ADMItemRef first = stage.add(dialog, 1, kADMTextRadioButtonType, "Each");
+    ADMItemRef second = stage.add(dialog, 2, kADMTextRadioButtonType, "All");
+    kItemSuite.SetBooleanValue(first, true);
+    stage.show(dialog);
+    stage.clickMiddle(Stage::window(second));
+    stage.clickMiddle(Stage::window(second)); // it is on
+    CHECK(stage.takeHeard() == Log{"user 2 = 1"});
+    stage.key(VK_DOWN);
+    CHECK(stage.takeHeard() == Log{"user 1 = 1"});
+    CHECK(kItemSuite.GetBooleanValue(second) == 0);
+}
+
+TEST_CASE("an item's tip shows when the pointer rests on it, unless tips are switched off") {
+    struct Row {
+        bool enabled;
+        bool tips;
+    };
+    for (const auto& [enabled, tips] : {Row{true, true}, Row{false, true}, Row{true, false}}) {
         CAPTURE(enabled);
+        CAPTURE(tips);
         Stage stage;
-        ItemView view = itemView(ControlKind::PushButton, kWide, "Apply");
-        view.tip = "Apply the symmetry axes to mirror the artwork";
-        view.enabled = enabled;
-        StagedItem& button = stage.add(view);
-        stage.open();
-        stage.move(stage.window(), {250, 200});
-        stage.move(button.window(), {30, 10});
-        stage.pump(1200);
-        const HWND tip = tipOf(stage.window());
-        REQUIRE(tip != nullptr);
-        CHECK(IsWindowVisible(tip) != FALSE);
+        ADMDialogRef dialog = stage.dialog();
+        ADMItemRef button = stage.add(dialog, 3, kADMTextPushButtonType, "Apply");
+        kItemSuite.Enable(button, enabled);
+        kItemSuite.SetTipString(button, "Apply the symmetry axes to mirror the artwork");
+        kBasicSuite.EnableToolTips(tips);
+        stage.show(dialog);
+        const HWND window = Stage::window(dialog);
+        stage.move(window, {300, 230});
+        stage.move(Stage::window(button), {30, 10});
+        const auto isShown = [&] {
+            const HWND tip = tipOf(window);
+            return tip != nullptr && IsWindowVisible(tip) != FALSE;
+        };
+        for (int waits = 0; waits < 24 && !isShown(); ++waits)
+            stage.pump(50);
+        CHECK(isShown() == tips);
     }
 }
 
@@ -342,55 +339,61 @@ TEST_CASE("the pointer over an item takes the cursor that the item is given") {
         {16999, arrow}, // no such resource
     };
     Stage stage;
-    stage.peers.screen().cursorOf = [=](int id) { return id == 16021 ? ours : nullptr; };
-    StagedItem& item = stage.add(itemView(ControlKind::PushButton, {20, 20, 120, 44}, "Item"));
-    stage.open();
+    ADMDialogRef dialog = stage.dialog();
+    ADMItemRef item = stage.add(dialog, 3, kADMTextPushButtonType, "Item");
+    stage.show(dialog);
+    WinPeers::current().screen().cursorOf = [=](int id) { return id == 16021 ? ours : nullptr; };
     for (const auto& row : rows) {
         CAPTURE(row.number);
-        item.view.cursor = row.number;
-        item.peer->changed(Aspect::Look);
-        stage.move(stage.window(), {200, 200});
-        stage.move(item.window(), {10, 10});
+        kItemSuite.SetCursorID(item, nullptr, row.number, nullptr);
+        stage.move(Stage::window(dialog), {200, 200});
+        stage.move(Stage::window(item), {10, 10});
         CHECK(GetCursor() == row.shown);
     }
 }
 
-TEST_CASE("a popup opened by a key leaves the choice to the keys, whatever the pointer rests on") {
+TEST_CASE("a user item is drawn by its owner, with images too, and told the mouse") {
     Stage stage;
-    ItemView view = itemView(ControlKind::PopupList, {20, 20, 140, 44});
-    for (const char* const text : {"Points", "Inches", "Millimetres"}) {
-        EntryView entry;
-        entry.text = text;
-        view.entries.push_back(entry);
-    }
-    view.chosen = 1;
-    StagedItem& popup = stage.add(view);
-    stage.open();
-    stage.move(stage.window(), {40, 56}); // where its first entry will be
-    popup.peer->focus();
-    stage.key(VK_SPACE);
-    // What Windows sends when a window appears below a pointer at rest.
-    const HWND list = GetCapture();
-    REQUIRE(list != nullptr);
-    SendMessageW(list, WM_MOUSEMOVE, 0, MAKELPARAM(20, 12));
-    stage.key(VK_DOWN);
-    stage.log.clear();
-    stage.key(VK_RETURN);
-    CHECK(stage.log == Log{"choose 2"});
-}
-
-TEST_CASE("a user item is drawn by its owner and told the mouse") {
-    Stage stage;
-    StagedItem& item = stage.add(itemView(ControlKind::User, {20, 20, 60, 60}));
-    item.onDraw = [](CoADMDrawer& drawer) {
-        drawer.setColour(Colour{200, 10, 20});
-        drawer.fillRect({10, 10, 20, 20});
-    };
-    stage.open();
-    CHECK(Stage::pixel(item.window(), {15, 15}) == RGB(200, 10, 20));
-    CHECK(Stage::pixel(item.window(), {25, 15}) != RGB(200, 10, 20));
-    stage.click(item.window(), {7, 9});
-    const Log told = acts(stage.log);
-    CHECK(std::count(told.begin(), told.end(), "track 2 at 7,9") == 1);
-    CHECK(std::count(told.begin(), told.end(), "track -2 at 7,9") == 1);
+    ADMDialogRef dialog = stage.dialog();
+    ADMItemRef item = stage.add(dialog, 4, kADMUserType);
+    ADMImageRef image = kImageSuite.Create(10, 6, 0);
+    ADMDrawerRef pixels = kImageSuite.BeginADMDrawer(image);
+    const ADMRect left{0, 0, 5, 6};
+    const ADMRGBColor red{65535, 0, 0};
+    kDrawerSuite.SetRGBColor(pixels, &red);
+    kDrawerSuite.FillRect(pixels, &left);
+    kImageSuite.EndADMDrawer(image);
+    kItemSuite.SetUserData(item, image);
+    kItemSuite.SetDrawProc(item, [](ADMItemRef drawn, ADMDrawerRef drawer) {
+        auto* const picture = static_cast<ADMImageRef>(kItemSuite.GetUserData(drawn));
+        const ADMPoint corner{2, 3};
+        kDrawerSuite.DrawADMImage(drawer, picture, &corner);
+        const ADMRect around{50, 0, 70, 20};
+        kDrawerSuite.DrawADMImageCentered(drawer, picture, &around);
+    });
+    static Log tracked;
+    tracked.clear();
+    kItemSuite.SetTrackProc(item, [](ADMItemRef, ADMTrackerRef tracker) -> ADMBoolean {
+        ADMPoint point{};
+        kTrackerSuite.GetPoint(tracker, &point);
+        tracked.push_back(std::to_string(kTrackerSuite.GetAction(tracker)) + " at " +
+                          std::to_string(point.h) + "," + std::to_string(point.v));
+        return true;
+    });
+    stage.show(dialog);
+    const HWND window = Stage::window(item);
+    const auto colour = [&](int x, int y) { return pixelOf(window, {x, y}); };
+    const COLORREF ground = colour(40, 10);
+    CHECK(colour(2, 3) == RGB(255, 0, 0));
+    CHECK(colour(6, 8) == RGB(255, 0, 0));
+    CHECK(colour(7, 8) == RGB(0, 0, 0));
+    CHECK(colour(12, 8) == ground);
+    CHECK(colour(55, 7) == RGB(255, 0, 0));
+    CHECK(colour(64, 12) == RGB(0, 0, 0));
+    CHECK(colour(64, 13) == ground);
+    stage.click(window, {7, 9});
+    CHECK(std::ranges::count(tracked, "2 at 7,9") == 1);
+    CHECK(std::ranges::count(tracked, "-2 at 7,9") == 1);
+    kImageSuite.Destroy(image);
+    CHECK_THROWS_AS(kImageSuite.Create(0, 5, 0), NRDMParameterException);
 }

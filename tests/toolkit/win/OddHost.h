@@ -2,7 +2,7 @@
 
 #include "host/Codes.h" // ahead of the system's headers, which have a name of its for themselves
 
-#include "tests/toolkit/win/Stage.h"
+#include "tests/toolkit/win/Hands.h"
 
 #include "toolkit/SuiteTables.h"
 #include "toolkit/Toolkit.h"

@@ -88,7 +88,7 @@ TEST_CASE("a panel that its host shows by itself is not blank, and has the colou
     const Shown shown;
     CHECK(IsWindowVisible(shown.host.child()) != FALSE);
     CHECK(IsWindowVisible(windowOf(shown.panel, kButton)) != FALSE);
-    CHECK(Stage::pixel(shown.host.child(), {3, 3}) == RGB(153, 204, 255));
+    CHECK(pixelOf(shown.host.child(), {3, 3}) == RGB(153, 204, 255));
 }
 
 TEST_CASE("a panel whose window the host has made anew is filled again when the host calls") {

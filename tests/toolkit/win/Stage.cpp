@@ -1,346 +1,161 @@
 #include "tests/toolkit/win/Stage.h"
 
-#include <winternl.h>
+#include "host/suites/AIAppContextSuite.h"
+#include "host/suites/SPAccessSuite.h"
+#include "toolkit/ImplWin/WinPeers.h"
+#include "toolkit/ImplWin/WindowClass.h"
 
-#include <algorithm>
+#include <array>
 #include <cstdio>
-#include <stdexcept>
-#include <thread>
-#include <utility>
+#include <string_view>
 
 namespace NRDM::tests {
 namespace {
 
-std::string number(double value) {
-    char text[32];
-    std::snprintf(text, sizeof text, "%g", value);
-    return text;
+/// Of the stage that there is; the host's functions are told nothing else.
+HWND hostWindow = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global*)
+
+SPErr resourcesInProgram(SPPluginRef, SPPlatformAccessRef* library) {
+    *library = nullptr;
+    return kNoErr;
+}
+AIErr appWindow(AIWindowRef* window) {
+    *window = reinterpret_cast<AIWindowRef>(hostWindow);
+    return kNoErr;
 }
 
-std::string tail(Phase phase) { return phase == Phase::Complete ? "." : ".."; }
-
-void send(INPUT input) { SendInput(1, &input, sizeof input); }
-
-INPUT keyInput(WORD key, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.dwFlags = flags;
-    return input;
+template <typename Suite, auto Slot, auto Function> constexpr Suite withOne() {
+    Suite functions{};
+    functions.*Slot = Function;
+    return functions;
 }
+constexpr auto kAccess =
+    withOne<SPAccessSuite, &SPAccessSuite::GetPluginResourceAccess, resourcesInProgram>();
+constexpr auto kContext =
+    withOne<AIAppContextSuite, &AIAppContextSuite::GetPlatformAppWindow, appWindow>();
 
-INPUT mouseInput(DWORD flags, DWORD data = 0) {
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flags;
-    input.mi.mouseData = data;
-    return input;
+SPErr acquire(const char* name, ai::int32, const void** functions) {
+    const std::string_view wanted = name;
+    *functions = wanted == kSPAccessSuite       ? static_cast<const void*>(&kAccess)
+                 : wanted == kAIAppContextSuite ? &kContext
+                                                : nullptr;
+    return *functions != nullptr ? kNoErr : kNotImplementedErr;
 }
+SPErr release(const char*, ai::int32) { return kNoErr; }
+
+constexpr SPBasicSuite basicSuite() {
+    SPBasicSuite functions{};
+    functions.AcquireSuite = acquire;
+    functions.ReleaseSuite = release;
+    return functions;
+}
+constexpr SPBasicSuite kBasic = basicSuite();
 
 } // namespace
 
-void StagedItem::clicked() {
-    log_.emplace_back("click");
-    if (onClick) onClick();
+Stage::Stage() {
+    hostWindow = host.window;
+    ai::basicSuite = offeringSuites(&kBasic);
+    dialogs.emplace(themes, makePeers, this);
 }
 
-void StagedItem::typed(const std::string& text) {
-    view.typed = text;
-    log_.push_back("typed " + text);
+Stage::~Stage() {
+    dialogs.reset();
+    ai::basicSuite = nullptr;
+    hostWindow = nullptr;
 }
 
-void StagedItem::revert() {
-    view.typed.reset();
-    log_.emplace_back("revert");
+std::unique_ptr<Peers> Stage::makePeers(void* stage) {
+    auto& self = *static_cast<Stage*>(stage);
+    auto peers = std::make_unique<WinPeers>(self.themes, picturesOf(WindowClass::library()));
+    peers->screen().fixedScale = Scale{1.0};
+    peers->screen().failed = [&self] { ++self.failures; };
+    return peers;
 }
 
-bool StagedItem::commit() {
-    view.typed.reset();
-    log_.emplace_back("commit");
-    return accepts;
+ADMDialogRef Stage::dialog() {
+    constexpr ADMDialogStyle kFloating = 2;
+    return make(kFloating);
 }
 
-void StagedItem::step(int steps, bool large, Phase phase) {
-    view.typed.reset();
-    log_.push_back("step " + std::to_string(steps) + (large ? " large" : "") + tail(phase));
+ADMDialogRef Stage::modalDialog() { return make(kADMModalDialogStyle); }
+
+ADMDialogRef Stage::make(ADMDialogStyle style) {
+    rows_ = 0;
+    ADMDialogRef made = kDialogSuite.Create(nullptr, "Stage", 0, style, nullptr, this, 0);
+    kDialogSuite.Size(made, 320, 240);
+    return made;
 }
 
-void StagedItem::slide(double value, Phase phase) {
-    view.value = value;
-    log_.push_back("slide " + number(value) + tail(phase));
-    peer->changed(Aspect::Value);
+ADMItemRef Stage::add(ADMDialogRef dialog, int id, const char* type, const char* text) {
+    const int top = 10 + 30 * rows_++;
+    const ADMRect place{20, top, 120, top + 22};
+    ADMItemRef item = kDialogSuite.CreateItem(dialog, id, type, &place, nullptr, nullptr, 0);
+    kItemSuite.SetText(item, text);
+    kItemSuite.SetNotifyProc(item, itemHears);
+    return item;
 }
 
-void StagedItem::choose(int entry) {
-    view.chosen = entry;
-    log_.push_back("choose " + std::to_string(entry));
-    peer->changed(Aspect::Value);
+ADMItemRef Stage::addNumber(ADMDialogRef dialog, int id, const char* type, float value,
+                            float lowest, float highest) {
+    ADMItemRef item = add(dialog, id, type);
+    kItemSuite.SetMinFloatValue(item, lowest);
+    kItemSuite.SetMaxFloatValue(item, highest);
+    kItemSuite.SetFloatValue(item, value);
+    return item;
 }
 
-void StagedItem::draw(CoADMDrawer& drawer) {
-    if (onDraw) onDraw(drawer);
+void Stage::itemHears(ADMItemRef item, ADMNotifierRef notifier) {
+    ADMDialogRef dialog = kItemSuite.GetDialog(item);
+    auto& self = *static_cast<Stage*>(kDialogSuite.GetUserData(dialog));
+    const bool complete = kNotifierSuite.IsNotifierType(notifier, kADMUserChangedNotifier) != 0;
+    std::array<char, 64> text{};
+    std::snprintf(text.data(), text.size(), "%s %d = %g", complete ? "user" : "moving",
+                  kItemSuite.GetID(item), static_cast<double>(kItemSuite.GetFloatValue(item)));
+    self.heard_.emplace_back(text.data());
+    kItemSuite.DefaultNotify(item, notifier);
 }
 
-bool StagedItem::track(const TrackInput& input) {
-    log_.push_back("track " + std::to_string(input.action) + " at " +
-                   std::to_string(input.place.x) + "," + std::to_string(input.place.y));
-    return true;
-}
-
-Stage::Stage(DialogKind kind, Extent size)
-    : peers(themes, [](int, PictureDensity) { return std::span<const std::byte>(); }) {
-    peers.screen().failed = [this] { ++failures; };
-    peers.screen().fixedScale = Scale{1.0};
-    view.kind = kind;
-    view.size = size;
-    view.title = "Stage";
-}
-
-Stage::~Stage() { close(); }
-
-StagedItem& Stage::add(ItemView itemView) {
-    items_.push_back(std::make_unique<StagedItem>(std::move(itemView), log));
-    return *items_.back();
-}
-
-void Stage::open() {
-    view.visible = true;
-    peer = peers.createDialog(view, *this);
-    for (const auto& item : items_)
-        item->peer = peer->createItem(item->view, *item);
-    peer->activate();
+void Stage::show(ADMDialogRef dialog) {
+    kDialogSuite.Show(dialog, true);
+    kDialogSuite.Activate(dialog, true);
     pump();
-    SetForegroundWindow(window());
-    pump();
-    log.clear();
-}
-
-void Stage::close() {
-    for (const auto& item : items_)
-        item->peer.reset();
-    peer.reset();
-}
-
-void Hands::pump(int milliseconds) {
-    const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
-    do {
-        MSG message;
-        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) {
-            if (message.message == WM_PAINT) ++paints_[message.hwnd];
-            TranslateMessage(&message);
-            DispatchMessageW(&message);
-        }
-        if (milliseconds > 0) Sleep(1);
-    } while (GetTickCount64() < end);
-}
-
-int Hands::paintsOf(HWND window) const {
-    const auto found = paints_.find(window);
-    return found == paints_.end() ? 0 : found->second;
-}
-
-int Hands::paints() const {
-    int all = 0;
-    for (const auto& [window, count] : paints_)
-        all += count;
-    return all;
-}
-
-void Hands::move(HWND window, POINT point) {
-    ClientToScreen(window, &point);
-    INPUT input = mouseInput(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE);
-    // In 65536ths of the screen, rounded so that the pixel comes out again.
-    input.mi.dx = (point.x * 65536 + 65535) / GetSystemMetrics(SM_CXSCREEN);
-    input.mi.dy = (point.y * 65536 + 65535) / GetSystemMetrics(SM_CYSCREEN);
-    send(input);
+    SetForegroundWindow(window(dialog));
     pump();
 }
 
-void Hands::press(HWND window, POINT point) {
-    move(window, point);
-    send(mouseInput(MOUSEEVENTF_LEFTDOWN));
+int Stage::run(ADMDialogRef dialog, std::function<void()> act) {
+    soon(std::move(act));
+    return kDialogSuite.DisplayAsModal(dialog);
+}
+
+HWND Stage::window(ADMDialogRef dialog) {
+    return static_cast<HWND>(kDialogSuite.GetWindowRef(dialog));
+}
+
+HWND Stage::window(ADMItemRef item) { return static_cast<HWND>(kItemSuite.GetWindowRef(item)); }
+
+HWND Stage::field(ADMItemRef item) {
+    return FindWindowExW(window(item), nullptr, L"EDIT", nullptr);
+}
+
+std::wstring Stage::shown(ADMItemRef item) {
+    std::array<wchar_t, 256> text{};
+    GetWindowTextW(field(item), text.data(), static_cast<int>(text.size()));
+    return text.data();
+}
+
+int Stage::activeId(ADMDialogRef dialog) {
+    for (ADMItemRef item = kDialogSuite.GetItem(dialog, kADMFirstItemID); item != nullptr;
+         item = kDialogSuite.GetNextItem(dialog, item))
+        if (kItemSuite.IsActive(item) != 0) return kItemSuite.GetID(item);
+    return 0;
+}
+
+void Stage::setTheme(const Theme& changed) {
+    themes = {changed, changed};
+    dialogs->themeChanged();
     pump();
-}
-
-void Hands::release() {
-    send(mouseInput(MOUSEEVENTF_LEFTUP));
-    pump();
-}
-
-void Hands::click(HWND window, POINT point) {
-    press(window, point);
-    release();
-}
-
-void Hands::clickMiddle(HWND window) {
-    RECT area{};
-    GetClientRect(window, &area);
-    click(window, {area.right / 2, area.bottom / 2});
-}
-
-void Hands::wheel(int notches) {
-    send(mouseInput(MOUSEEVENTF_WHEEL, static_cast<DWORD>(notches) * WHEEL_DELTA));
-    pump();
-}
-
-void Hands::key(WORD key) {
-    send(keyInput(key, 0));
-    send(keyInput(key, KEYEVENTF_KEYUP));
-    pump();
-}
-
-void Hands::keyWith(WORD modifier, WORD wanted) {
-    send(keyInput(modifier, 0));
-    pump();
-    key(wanted);
-    send(keyInput(modifier, KEYEVENTF_KEYUP));
-    pump();
-}
-
-void Hands::type(const std::wstring& text) {
-    for (const wchar_t letter : text) {
-        INPUT input = keyInput(0, KEYEVENTF_UNICODE);
-        input.ki.wScan = letter;
-        send(input);
-        input.ki.dwFlags |= KEYEVENTF_KEYUP;
-        send(input);
-        pump();
-    }
-}
-
-void Hands::useMenu(const std::function<void()>& open, const std::vector<WORD>& keys) {
-    // A menu has a loop of its own: another thread's hand is on the keys meanwhile.
-    std::thread hand([&keys] {
-        constexpr int kMostWaits = 200;
-        for (int waits = 0; waits < kMostWaits; ++waits, Sleep(25))
-            if (IsWindowVisible(FindWindowW(L"#32768", nullptr)) != FALSE) break;
-        for (const WORD key : keys) {
-            Sleep(150);
-            send(keyInput(key, 0));
-            send(keyInput(key, KEYEVENTF_KEYUP));
-        }
-    });
-    open();
-    hand.join();
-    pump();
-}
-
-COLORREF Stage::pixel(HWND window, POINT point) {
-    const HDC dc = GetDC(window);
-    const COLORREF colour = GetPixel(dc, point.x, point.y);
-    ReleaseDC(window, dc);
-    return colour;
-}
-
-bool Stage::key(DialogKey key, char32_t letter) {
-    constexpr const char* kNames[] = {"Tab",      "BackTab", "Enter", "Escape",
-                                      "Previous", "Next",    "Access"};
-    std::string entry = std::string("key ") + kNames[static_cast<int>(key)];
-    if (letter != 0) entry += std::string(" ") + static_cast<char>(letter);
-    log.push_back(entry);
-    return usesKeys;
-}
-
-void Stage::closeRequested() {
-    log.emplace_back("close");
-    if (onClose) onClose();
-}
-
-ItemView itemView(ControlKind kind, Bounds bounds, std::string text) {
-    ItemView view;
-    view.kind = kind;
-    view.bounds = bounds;
-    view.text = std::move(text);
-    return view;
-}
-
-void soon(std::function<void()> act) {
-    static std::function<void()> pending;
-    pending = std::move(act);
-    SetTimer(nullptr, 0, 30, [](HWND, UINT, UINT_PTR timer, DWORD) {
-        KillTimer(nullptr, timer);
-        const auto now = std::exchange(pending, nullptr);
-        now();
-    });
-}
-
-HWND popupOf(HWND dialog) {
-    struct Search {
-        HWND dialog;
-        HWND found;
-    } search{dialog, nullptr};
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM parameter) -> BOOL {
-            auto& sought = *reinterpret_cast<Search*>(parameter);
-            const bool popup = (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_NOACTIVATE) != 0;
-            if (popup && GetWindow(window, GW_OWNER) == sought.dialog) sought.found = window;
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&search));
-    return search.found;
-}
-
-HWND tipOf(HWND dialog) {
-    HWND tip = nullptr;
-    while ((tip = FindWindowExW(nullptr, tip, L"tooltips_class32", nullptr)) != nullptr)
-        if (GetWindow(tip, GW_OWNER) == dialog) return tip;
-    return nullptr;
-}
-
-int gdiObjects() {
-    // Windows keeps one table for all processes and shows each of them its entries.
-    constexpr std::size_t kTableInPeb = 0xF8;
-    constexpr int kEntries = 16384;
-    struct Entry {
-        std::uint64_t object;
-        std::uint32_t owner;
-        std::uint16_t generation; // stays when the object has gone
-        std::uint8_t type;
-        std::uint8_t flags;
-        std::uint64_t data;
-    };
-    static_assert(sizeof(Entry) == 24);
-    // Asked of the system, not read through the segment register: the optimiser takes that read
-    // for one outside an array and warns.
-    PROCESS_BASIC_INFORMATION process{};
-    if (NtQueryInformationProcess(GetCurrentProcess(), ProcessBasicInformation, &process,
-                                  sizeof process, nullptr) != 0)
-        throw std::runtime_error("the process cannot be asked for its environment block");
-    const auto* const peb = reinterpret_cast<const std::byte*>(process.PebBaseAddress);
-    const auto* const table = *reinterpret_cast<const Entry* const*>(peb + kTableInPeb);
-    return static_cast<int>(
-        std::count_if(table, table + kEntries, [](const Entry& entry) { return entry.type != 0; }));
-}
-
-int windows() {
-    int count = 0;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM counter) -> BOOL {
-            ++*reinterpret_cast<int*>(counter);
-            EnumChildWindows(
-                window,
-                [](HWND, LPARAM inner) -> BOOL {
-                    ++*reinterpret_cast<int*>(inner);
-                    return TRUE;
-                },
-                counter);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&count));
-    for (HWND window = nullptr;
-         (window = FindWindowExW(HWND_MESSAGE, window, nullptr, nullptr)) != nullptr;)
-        if (GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId()) ++count;
-    return count;
-}
-
-int menus() {
-    // A handle's low half alone names an object, too: as many names as there can be objects.
-    int count = 0;
-    for (std::uintptr_t name = 0x20; name < 0x10000; name += 2)
-        if (IsMenu(reinterpret_cast<HMENU>(name)) != FALSE) ++count;
-    return count;
 }
 
 } // namespace NRDM::tests
