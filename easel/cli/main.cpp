@@ -2,6 +2,7 @@
 #include "easel/cli/MirrorCommand.h"
 #include "easel/cli/PlayCommand.h"
 #include "easel/cli/Terminal.h"
+#include "easel/cli/ValidateCommand.h"
 #include "easel/script/Commands.h"
 #include "easel/suites/Suites.h"
 #include "easel/window/Window.h"
@@ -177,6 +178,37 @@ ExitStatus open(const OpenWords& words) {
     return problems.empty() ? ExitStatus::Done : ExitStatus::Fault;
 }
 
+struct ValidateWords {
+    std::string plugin;
+    easel::ValidateCommand command;
+};
+
+void addValidate(CLI::App& app, ValidateWords& words) {
+    easel::validate::Options& options = words.command.options;
+    CLI::App* const validate =
+        app.add_subcommand("validate", "Try every way in which a plug-in could go wrong");
+    validate->add_option("--plugin", words.plugin, "The plug-in's library")->type_name("FILE");
+    validate->add_option("--strictness", options.strictness, "How much is tried, 1 to 5")
+        ->check(CLI::Range(1, 5))
+        ->option_text("N");
+    validate->add_option("--seed", options.seed, "Of what is chosen at random")->type_name("N");
+    validate->add_option("--from", options.from, "The number of the first try of each check")
+        ->type_name("K");
+    validate->add_option("--count", options.count, "The most tries of each check")->type_name("N");
+    validate->add_option("--only", options.only, "This check alone")->type_name("CHECK");
+    auto* const json = validate->add_flag("--json", words.command.json, "Tell all as JSON");
+    validate
+        ->add_flag("--here", words.command.here,
+                   "In this process and line by line, for a debugger; needs --only")
+        ->needs("--only")
+        ->excludes(json);
+}
+
+ExitStatus validate(ValidateWords& words) {
+    words.command.options.plugin = easel::pathFromUtf8(words.plugin);
+    return easel::runValidate(easel::sessionWithSuites(), words.command, std::cout, std::cerr);
+}
+
 /// Takes the arguments without the program's name.
 int run(std::vector<std::string> arguments) {
     CLI::App app{"Easel opens drawings, mirrors them with the Facetta plug-in and saves them.",
@@ -192,6 +224,8 @@ int run(std::vector<std::string> arguments) {
     addPlay(app, playWords);
     OpenWords openWords;
     addOpen(app, openWords);
+    ValidateWords validateWords;
+    addValidate(app, validateWords);
     try {
         std::reverse(arguments.begin(), arguments.end()); // the parser takes them from the back
         app.parse(std::move(arguments));
@@ -200,6 +234,7 @@ int run(std::vector<std::string> arguments) {
     }
     if (app.got_subcommand("info")) return static_cast<int>(info(infoWords));
     if (app.got_subcommand("open")) return static_cast<int>(open(openWords));
+    if (app.got_subcommand("validate")) return static_cast<int>(validate(validateWords));
     if (app.got_subcommand("play")) return static_cast<int>(play(playWords));
     return static_cast<int>(mirror(mirrorWords));
 }

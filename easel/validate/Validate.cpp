@@ -1,0 +1,159 @@
+#include "easel/validate/Validate.h"
+
+#include "easel/validate/Child.h"
+
+#include <algorithm>
+#include <charconv>
+#include <chrono>
+#include <functional>
+#include <stdexcept>
+
+namespace easel::validate {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// A try that has told nothing for so long hangs.
+constexpr std::chrono::seconds kPatience{60};
+/// A check in which more children have ended badly is given up.
+constexpr int kMostCrashes = 10;
+/// More lines of what a process says are not kept.
+constexpr std::size_t kMostSaid = 100;
+
+const Check& checkNamed(const std::string& name) {
+    std::string known;
+    for (const Check& check : checks()) {
+        if (check.name == name) return check;
+        known += std::string(known.empty() ? "" : ", ") + check.name;
+    }
+    throw std::invalid_argument("there is no check \"" + name + "\"; there are " + known);
+}
+
+std::uint64_t numberIn(std::string_view text) {
+    std::uint64_t number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
+/// What belongs to the word that `line` begins with; nothing when it begins with another.
+std::optional<std::string_view> after(std::string_view word, std::string_view line) {
+    if (!line.starts_with(word) || line.size() == word.size() || line[word.size()] != '\t')
+        return std::nullopt;
+    return line.substr(word.size() + 1);
+}
+
+/// One check in as many children as it takes.
+class Watch {
+public:
+    Watch(const Options& options, const Check& check) : options_(options) {
+        result_.check = &check;
+    }
+
+    Result run() {
+        const auto began = Clock::now();
+        for (int crashes = 0; !runChild();) {
+            if (++crashes == kMostCrashes) {
+                note("given up: too many children have ended like this");
+                break;
+            }
+            options_.from = number_ + 1;
+            if (options_.count != 0 && result_.tries >= options_.count) break;
+        }
+        result_.seconds = std::chrono::duration<double>(Clock::now() - began).count();
+        return std::move(result_);
+    }
+
+private:
+    [[nodiscard]] std::vector<std::string> arguments(std::uint64_t from,
+                                                     std::uint64_t count) const {
+        std::vector<std::string> words{"validate",
+                                       "--plugin",
+                                       options_.plugin.string(),
+                                       "--strictness",
+                                       std::to_string(options_.strictness),
+                                       "--seed",
+                                       std::to_string(options_.seed),
+                                       "--only",
+                                       result_.check->name,
+                                       "--from",
+                                       std::to_string(from)};
+        if (count != 0) {
+            words.emplace_back("--count");
+            words.push_back(std::to_string(count));
+        }
+        return words;
+    }
+
+    /// False when it has not come to the end of the check.
+    bool runChild() {
+        std::vector<std::string> words =
+            arguments(options_.from, options_.count == 0 ? 0 : options_.count - result_.tries);
+        words.emplace_back("--here");
+        Child child(words);
+        bool ended = false;
+        std::string line;
+        for (;;) {
+            const Child::State state = child.read(line, kPatience);
+            if (state == Child::State::Silent) {
+                child.kill();
+                note("nothing has happened for " + std::to_string(kPatience.count()) + " s");
+                return false;
+            }
+            if (state == Child::State::Ended) break;
+            ended = take(line) || ended;
+        }
+        std::string how = child.end();
+        if (how.empty() && !ended) how = "ended in the middle of it";
+        if (how.empty()) return true;
+        note("the process " + how);
+        result_.faults.back().said = std::move(said_);
+        return false;
+    }
+
+    /// True at the last line of a check.
+    bool take(const std::string& line) {
+        if (const auto begun = after(Trials::kTry, line)) {
+            said_.clear();
+            ++result_.tries;
+            number_ = numberIn(*begun);
+            tried_ = begun->substr(std::min(begun->find('\t') + 1, begun->size()));
+        } else if (const auto found = after(Trials::kFinding, line)) {
+            note(std::string(*found));
+        } else if (after(Trials::kEnd, line)) {
+            return true;
+        } else if (said_.size() < kMostSaid) {
+            said_.push_back(line);
+        }
+        return false;
+    }
+
+    void note(const std::string& found) {
+        std::string command = "easel";
+        for (const std::string& word : arguments(number_, 1))
+            command += ' ' + word;
+        result_.faults.push_back({number_, tried_, found, {}, std::move(command)});
+    }
+
+    Options options_;
+    Result result_;
+    std::uint64_t number_ = 0; ///< Of the try under way, and what it is.
+    std::string tried_;
+    std::vector<std::string> said_; ///< In it: a plug-in's last words, or a sanitizer's.
+};
+
+} // namespace
+
+void runChecks(const Options& options, const std::function<void(const Result&)>& done) {
+    if (!options.only.empty()) return done(Watch(options, checkNamed(options.only)).run());
+    for (const Check& check : checks())
+        done(Watch(options, check).run());
+}
+
+void runInThisProcess(Session& session, const Options& options, std::ostream& out) {
+    crashQuietly();
+    Trials trials(options, out);
+    checkNamed(options.only).run(session, trials);
+    trials.end();
+}
+
+} // namespace easel::validate
