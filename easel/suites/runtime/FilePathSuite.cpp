@@ -85,7 +85,7 @@ AIErr getParent(const ai::FilePath& path, ai::FilePath& parent) {
 void installFilePathSuite(SuiteServer& server) {
     auto table = server.table<AIFilePathSuite>(kAIFilePathSuite, kAIFilePathSuiteVersion);
     expose<&AIFilePathSuite::NewFilePath, newPath>(table);
-    expose<&AIFilePathSuite::DeleteFilePath, deleteFilePath>(table);
+    exposeEnding<&AIFilePathSuite::DeleteFilePath, deleteFilePath>(table);
     expose<&AIFilePathSuite::Copy, copy>(table);
     expose<&AIFilePathSuite::AddComponent, addComponent>(table);
     expose<&AIFilePathSuite::Exists, exists>(table);
