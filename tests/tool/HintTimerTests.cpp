@@ -45,7 +45,14 @@ TEST_CASE("a hint beside a resting cursor stays, fades and goes by itself") {
     CHECK(contains(widen(fading[0]), pixelsOf(session, {300, -250}) + Vector{12, -9}));
 
     hintOfAge(kHintLifetime + 1);
+    easel::session().calls.arm({.mode = easel::FaultPlan::Mode::Once,
+                                .call = 1,
+                                .function = "AI Timer Suite.SetTimerActive"});
     CHECK(invalidAfterRest(session).size() == 1); // once more, to take it away
+    CHECK(easel::session().calls.fired());
+    easel::session().calls.disarm();
+    CHECK(onlyTimer(session)->active); // the host has not stopped it; it is told again
+    CHECK(invalidAfterRest(session).size() == 1);
     CHECK_FALSE(onlyTimer(session)->active);
     CHECK(invalidAfterRest(session).empty());
 

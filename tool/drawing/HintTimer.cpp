@@ -35,6 +35,7 @@ void HintTimer::stop() noexcept {
 
 bool HintTimer::isDue(AITimerHandle timer, const Hint& hint, ai::uint64 now) {
     if (timer == nullptr || timer != handle_) return false;
+    runs_ = true; // even if the host was told to stop it, and could not
     const double opacity = hintOpacity(hint, now);
     if (opacity == 0.0) stop();
     return opacity < 1.0;
