@@ -91,6 +91,14 @@ template <typename Fits> HWND topLevelWindow(Fits fits) {
     return search.found;
 }
 
+/// The system's own message, shown where the host could show none: the user reads it and closes it.
+/// False when there is none.
+bool closeSystemMessage() {
+    const HWND message = topLevelWindow([](HWND window) { return classOf(window) == L"#32770"; });
+    if (message != nullptr) PostMessageW(message, WM_CLOSE, 0, 0);
+    return message != nullptr;
+}
+
 /// The user whom a script describes, as far as message loops go. Each step may run into a modal
 /// loop: so before it a message is posted, which calls for the next step wherever it is taken from
 /// the queue. A step that comes back takes its message back.
@@ -104,6 +112,7 @@ public:
         RegisterClassW(&description);
         window_ = CreateWindowExW(0, kClass, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
                                   description.hInstance, nullptr);
+        SetTimer(window_, 1, kLookMilliseconds, nullptr);
         current = this;
     }
     ~User() {
@@ -143,6 +152,7 @@ public:
 private:
     static constexpr wchar_t kClass[] = L"EaselUser";
     static constexpr UINT kNext = WM_APP;
+    static constexpr UINT kLookMilliseconds = 10;
 
     void call() const { PostMessageW(window_, kNext, 0, 0); }
     void takeBack() {
@@ -161,7 +171,7 @@ private:
 
     /// In a modal loop.
     void stepInLoop() {
-        if (step())
+        if (closeSystemMessage() || step())
             call();
         else
             endLoop();
@@ -177,6 +187,7 @@ private:
     }
 
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM first, LPARAM second) {
+        if (message == WM_TIMER) closeSystemMessage(); // in a loop where no step is called for
         if (message != kNext || current == nullptr)
             return DefWindowProcW(window, message, first, second);
         if (current->pumping_)
