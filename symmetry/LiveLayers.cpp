@@ -174,10 +174,10 @@ void removeAxisPoints(const Unit& unit, const PageAxes& axes) {
 
 } // namespace
 
-void attachAxes(const MirrorEnvironment& environment, bool autoMirror) {
-    environment.currentAxes.onLayer = true;
-    environment.currentAxes.autoMirror = autoMirror;
-    LayerAxesStore::write(environment.currentAxes);
+void attachAxes(SymmetryAxes& axes, const MirrorEnvironment& environment, bool autoMirror) {
+    axes.onLayer = true;
+    axes.autoMirror = autoMirror;
+    LayerAxesStore::write(axes);
     regenerateLayer(environment, /*option*/ false, nullptr);
 }
 

@@ -26,9 +26,9 @@
 
 namespace facetta {
 
-/// Makes the current axes those of the current top-level layer, to be kept mirrored automatically
-/// or not, and regenerates it. Sets `onLayer` and `autoMirror` of the current axes.
-void attachAxes(const MirrorEnvironment& environment, bool autoMirror);
+/// Makes `axes` those of the current top-level layer, to be kept mirrored automatically or not, and
+/// regenerates it. Sets their `onLayer` and `autoMirror`.
+void attachAxes(SymmetryAxes& axes, const MirrorEnvironment& environment, bool autoMirror);
 
 /// Makes the copies on the top-level layer of `layer` (null: of the current layer) anew with the
 /// axes stored on it, all of them, and stamps it. `option` as in `MirrorEngine::run`. Returns

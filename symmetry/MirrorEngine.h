@@ -24,10 +24,10 @@ inline constexpr std::string_view kPathsTooLong =
 
 /// What a run takes from the plug-in.
 struct MirrorEnvironment {
-    SymmetryAxes& currentAxes;      ///< What the user sees; the same after a run as before.
-    LiveLayerMemory& live;          ///< Of live layers, from one message to the next.
-    bool removePoints = false;      ///< The preference "FTRemovePoints".
-    AIToolHandle ownTool = nullptr; ///< Selected for a moment to make the pen start afresh.
+    const SymmetryAxes& currentAxes; ///< What the user sees.
+    LiveLayerMemory& live;           ///< Written whenever a live layer is looked at.
+    bool removePoints = false;       ///< The preference "FTRemovePoints".
+    AIToolHandle ownTool = nullptr;  ///< Selected for a moment to make the pen start afresh.
     std::function<void(std::string_view text)> showMessage; ///< Shows one text to the user.
 };
 

@@ -58,12 +58,12 @@ public:
 
     virtual void applicationStarted(SPPluginRef self) const = 0;
     virtual void notified(const AINotifierMessage& message) const = 0;
-    /// `changed` is for a licence whose state is another one by now.
+    /// Calls `changed` if the state of the licence has changed in the meantime.
     virtual void timerWentOff(const AITimerMessage& message,
                               const std::function<void()>& changed) const = 0;
 
 protected:
-    ~Licensing() = default; // nobody who is lent one ends it
+    ~Licensing() = default; // whoever borrows a licence never destroys it
 };
 
 } // namespace facetta

@@ -25,7 +25,7 @@ public:
         draw();
         edit([&](easel::Document&) {
             thePlugin->tool.axes = {.originX = 8191, .originY = 8191, .axisCount = 3};
-            attachAxes(thePlugin->mirroring(), /*autoMirror*/ true);
+            attachAxes(thePlugin->tool.axes, thePlugin->mirroring(), /*autoMirror*/ true);
         });
     }
     ~LiveDrawing() {

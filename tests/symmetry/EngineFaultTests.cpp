@@ -36,7 +36,8 @@ struct Action {
 };
 
 const Action kActions[] = {
-    {"attach", [](EngineFixture& fixture) { attachAxes(fixture.environment(), true); }},
+    {"attach",
+     [](EngineFixture& fixture) { attachAxes(fixture.axes, fixture.environment(), true); }},
     {"regenerate",
      [](EngineFixture& fixture) {
          regenerateLayer(fixture.environment(), false, fixture.layerHandle());

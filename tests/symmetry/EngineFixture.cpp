@@ -316,7 +316,7 @@ void EngineFixture::mirrorSelection() {
 }
 
 void EngineFixture::attach(bool autoMirror) {
-    step([&] { attachAxes(environment(), autoMirror); });
+    step([&] { attachAxes(axes, environment(), autoMirror); });
 }
 
 void EngineFixture::regenerate() {

@@ -22,7 +22,7 @@ void attach(ToolSession& session, const SymmetryAxes& axes, bool autoMirror,
     try {
         if (const LayerEdit* const edit = layerEditOf(state)) reclaimCopies(*edit);
         state.axes = axes;
-        attachAxes(session.mirroring, autoMirror);
+        attachAxes(session.state.axes, session.mirroring, autoMirror);
         ai::nameUndoStep(action);
     } catch (...) {
         state.axes = before;

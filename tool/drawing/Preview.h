@@ -33,10 +33,11 @@ constexpr std::size_t kMostPreviewCurves = 10'000;
 /// Lines of one picture.
 constexpr std::size_t kMostPreviewLines = 40'000;
 
-/// The axes or the art have changed: reads the art if none has been read. Throws `ai::Error`.
+/// To be called when the axes or the art have changed: reads the art unless it has been read
+/// already. Throws `ai::Error`.
 void refreshPreview(ToolSession& session);
 
-/// Nothing is to be previewed any more, or the art is another.
+/// Forgets the art that has been read: it is no longer previewed, or has changed.
 void clearPreview(ToolState& state);
 
 /// Draws the images of the art that has been read across the axes of `session`. Throws `ai::Error`.

@@ -6,22 +6,22 @@
 
 namespace facetta {
 
-/// Everything is as it was at the press, in the document and in the state, and nothing more happens
-/// until the release. Throws `ai::Error`.
+/// Puts document and state back as they were at the press; nothing more happens until the release.
+/// Throws `ai::Error`.
 void takeBack(ToolSession& session);
 
 /// The same as far as the host allows it: for when a host call has failed.
 void abandonGesture(ToolSession& session) noexcept;
 
-/// Does the gesture's next message still concern what it began with? When the document, its layer
-/// or its history are others, or the layer has been locked or hidden, the gesture is taken back.
-/// Throws `ai::Error`.
+/// Whether the gesture can go on with its next message. It is taken back when another layer has
+/// become current, when the undo history has changed, or when the layer has been locked or hidden.
+/// When another document has come to the front, its axes wait in their own. Throws `ai::Error`.
 [[nodiscard]] bool gestureGoesOn(ToolSession& session);
 
-/// A gesture whose release never came is over.
+/// Ends a gesture whose release never came.
 void endLostGesture(ToolState& state);
 
-/// Runs one message of a gesture. When it fails the gesture is over, and the failure travels on.
+/// Runs one message of a gesture. A failure ends the gesture and travels on.
 template <typename Step> void inGesture(ToolSession& session, Step step) {
     try {
         step();
