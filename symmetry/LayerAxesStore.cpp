@@ -118,6 +118,18 @@ AILayerHandle topLevelLayer(AILayerHandle layer) {
     return top;
 }
 
+std::vector<AILayerHandle> topLevelLayers() {
+    ai::int32 count = 0;
+    ai::check(ai::suites.layer->CountLayers(&count));
+    std::vector<AILayerHandle> layers;
+    for (ai::int32 i = 0; i < count; ++i) {
+        AILayerHandle layer = nullptr;
+        ai::check(ai::suites.layer->GetNthLayer(i, &layer));
+        if (layer != nullptr) layers.push_back(layer);
+    }
+    return layers;
+}
+
 AIArtHandle groupArtOf(AILayerHandle layer) {
     const AILayerHandle existing = layerOrCurrent(layer);
     AIArtHandle group = nullptr;

@@ -11,6 +11,8 @@
 #include "host/Types.h"
 #include "symmetry/SymmetryAxes.h"
 
+#include <vector>
+
 namespace facetta {
 
 /// Null when there is none, as without a document.
@@ -18,6 +20,9 @@ namespace facetta {
 
 /// The layer without a parent above `layer`; null when there is no layer.
 [[nodiscard]] AILayerHandle topLevelLayer(AILayerHandle layer);
+
+/// All layers without a parent, those in front first. There must be a document.
+[[nodiscard]] std::vector<AILayerHandle> topLevelLayers();
 
 /// The group that holds the art of exactly this layer; null when there is none.
 [[nodiscard]] AIArtHandle groupArtOf(AILayerHandle layer);

@@ -3,7 +3,6 @@
 #include "host/Art.h"
 #include "host/Error.h"
 #include "host/Suites.h"
-#include "host/suites/AILayerSuite.h"
 #include "host/suites/AIUndoSuite.h"
 #include "symmetry/ArtSpace.h"
 #include "symmetry/ArtTree.h"
@@ -21,18 +20,6 @@
 
 namespace facetta {
 namespace {
-
-std::vector<AILayerHandle> topLevelLayers() {
-    ai::int32 count = 0;
-    ai::check(ai::suites.layer->CountLayers(&count));
-    std::vector<AILayerHandle> layers;
-    for (ai::int32 i = 0; i < count; ++i) {
-        AILayerHandle layer = nullptr;
-        ai::check(ai::suites.layer->GetNthLayer(i, &layer));
-        if (layer != nullptr) layers.push_back(layer);
-    }
-    return layers;
-}
 
 bool mirrorsAutomatically(AILayerHandle layer) {
     SymmetryAxes axes;

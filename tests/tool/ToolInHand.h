@@ -40,15 +40,12 @@ public:
         const double angle = axes().angle + sectors * sectorAngle(axes().axisCount);
         return narrow(origin() + radius * direction(angle));
     }
-    /// A place on the on-canvas dialog, in pixels from its corner.
-    [[nodiscard]] AIRealPoint onDialog(int x, int y) const {
-        const DialogPosition& dialog = thePlugin->tool.dialog;
-        const AIRealPoint pixel{static_cast<AIReal>(dialog.x + x),
-                                static_cast<AIReal>(dialog.y + y)};
-        return easel::toArtwork(host.view(nullptr), pixel);
-    }
+    /// The middle of a button of the on-canvas dialog.
     [[nodiscard]] AIRealPoint onButton(DialogItem item) const {
-        return onDialog(96, 30 * static_cast<int>(item) - 30);
+        const DialogPosition& dialog = thePlugin->tool.dialog;
+        const int y = 30 * static_cast<int>(item) - 30;
+        return easel::toArtwork(host.view(nullptr), {static_cast<AIReal>(dialog.x + 96),
+                                                     static_cast<AIReal>(dialog.y + y)});
     }
 
     [[nodiscard]] ToolState& tool() const { return thePlugin->tool; }

@@ -29,7 +29,6 @@ public:
     int met = 0; ///< dialogs so far
 
     // What is seen
-    [[nodiscard]] std::string title() const { return dialog_->title(); }
     [[nodiscard]] door::SeenItem item(int id) const {
         const std::vector<door::SeenItem> items = dialog_->items();
         const auto found = std::ranges::find(items, id, &door::SeenItem::id);
@@ -37,7 +36,6 @@ public:
         return found != items.end() ? *found : door::SeenItem{};
     }
     [[nodiscard]] std::string text(int id) const { return item(id).text; }
-    [[nodiscard]] std::vector<door::SeenItem> items() const { return dialog_->items(); }
 
     // What is done
     void click(int id) { dialog_->click(id); }
@@ -48,7 +46,6 @@ public:
         dialog_->press(door::Key::Tab, {});
     }
     void type(std::string_view text) { dialog_->type(text); }
-    void choose(int id, std::string_view entry) { dialog_->choose(id, entry); }
     void press(door::Key key, door::Modifiers modifiers = {}) { dialog_->press(key, modifiers); }
     void ok() { click(1); }
     void cancel() { click(2); }

@@ -3,7 +3,6 @@
 #include "host/Error.h"
 #include "host/Suites.h"
 #include "host/UndoText.h"
-#include "host/suites/AILayerSuite.h"
 #include "host/suites/AIToolSuite.h"
 #include "symmetry/AxisGuides.h"
 #include "symmetry/LayerAxesStore.h"
@@ -13,20 +12,9 @@
 #include "tool/axes/LayerEdit.h"
 
 #include <algorithm>
-#include <vector>
 
 namespace facetta {
 namespace {
-
-std::vector<AILayerHandle> topLevelLayers() {
-    std::vector<AILayerHandle> layers;
-    if (!documentIsOpen()) return layers;
-    ai::int32 count = 0;
-    ai::check(ai::suites.layer->CountLayers(&count));
-    for (ai::int32 i = 0; i < count; ++i)
-        ai::check(ai::suites.layer->GetNthLayer(i, &layers.emplace_back(nullptr)));
-    return layers;
-}
 
 void detachAxes(ToolSession& session, AILayerHandle layer, GuidesAlong guides) {
     releaseLayer(session.mirroring, layer, ResolveTopLevel::No);
@@ -89,6 +77,7 @@ void removeLayerAxes(ToolSession& session, GuidesAlong guides) {
 }
 
 void removeAllLayerAxes(ToolSession& session, GuidesAlong guides) {
+    if (!documentIsOpen()) return;
     for (const AILayerHandle layer : topLevelLayers())
         detachAxes(session, layer, guides);
     ai::nameUndoStep("Remove All Layer Symmetry Axes");
@@ -97,7 +86,9 @@ void removeAllLayerAxes(ToolSession& session, GuidesAlong guides) {
     showChange(session);
 }
 
-bool someLayerHasAxes() { return std::ranges::any_of(topLevelLayers(), LayerAxesStore::hasAxes); }
+bool someLayerHasAxes() {
+    return documentIsOpen() && std::ranges::any_of(topLevelLayers(), LayerAxesStore::hasAxes);
+}
 
 void pasteAsPending(ToolSession& session, const SymmetryAxes& copied) {
     takeTool(session);
