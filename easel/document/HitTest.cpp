@@ -13,47 +13,6 @@
 namespace easel {
 namespace {
 
-/// What a search takes notice of.
-enum Notice : unsigned {
-    kAnchors = 1U << 0,
-    kEndAnchors = 1U << 1, ///< First and last of open paths.
-    kHandles = 1U << 2,    ///< Of selected paths: others show none.
-    kCurves = 1U << 3,
-    kFills = 1U << 4,
-    kBoxes = 1U << 5, ///< Text, images and other art that is no path, by its box.
-    kText = 1U << 6,  ///< Text alone, by its box.
-    kGuides = 1U << 7,
-    kPlainPaths = 1U << 8, ///< Paths that are no guides.
-    kLocked = 1U << 9,
-    kUnselected = 1U << 10,
-    kPaintedWidth = 1U << 11, ///< Strokes are as wide as they are painted.
-    kUnfilled = 1U << 12,     ///< Closed shapes count as filled.
-
-    kAllPaths = kGuides | kPlainPaths,
-    kAnyState = kLocked | kUnselected,
-    kAnything = kAnchors | kHandles | kCurves | kFills | kBoxes | kAllPaths | kAnyState,
-    kPainted = kAnchors | kCurves | kPlainPaths | kAnyState,
-};
-
-/// By `AIHitRequest`.
-constexpr unsigned kRequests[] = {
-    kAnything,
-    kAnchors | kAllPaths | kAnyState,
-    kEndAnchors | kAllPaths | kAnyState,
-    kAnchors | kCurves | kGuides | kAnyState,
-    kAnchors | kCurves | kAllPaths | kAnyState,
-    kText | kAnyState,
-    kAnything & ~kAnyState,
-    kPainted | kFills | kBoxes,
-    kAnything & ~(kFills | kBoxes),
-    kPainted,
-    kAnything & ~kHandles,
-    (kPainted | kFills | kBoxes) & ~kLocked,
-    kAnchors | kHandles | kAllPaths | kAnyState,
-    kAnything | kUnfilled,
-    kCurves | kPlainPaths | kAnyState | kPaintedWidth,
-};
-
 double distance(CurvePoint a, CurvePoint b) { return std::hypot(a.x - b.x, a.y - b.y); }
 
 /// Does the box around the control points come near the point? Curves lie inside it.
@@ -93,7 +52,8 @@ int windingAround(const Art& path, CurvePoint point) {
 class Search {
 public:
     Search(CurvePoint point, double reach, ai::int32 request)
-        : point_(point), reach_(reach), notices_(kRequests[request]) {}
+        : point_(point), reach_(reach), noFills_(request == kAllNoFillHitRequest),
+          onlySelected_(request == kSelectionHitRequest) {}
 
     void visit(Art& art) {
         if (art.type() == kPathArt) return visitPath(art);
@@ -114,21 +74,17 @@ private:
         if (better) best = {&art, type, static_cast<ai::int16>(segment), t, point, away};
     }
 
-    [[nodiscard]] bool notices(unsigned what) const { return (notices_ & what) != 0; }
-
     [[nodiscard]] bool isWanted(const Art& art) const {
-        if (!notices(kUnselected) && selectionOf(art) == Selected::No) return false;
-        return notices(kLocked) || isEditable(art);
+        return !onlySelected_ || (selectionOf(art) != Selected::No && isEditable(art));
     }
 
     void visitPath(Art& path) {
-        const bool guide = path.content().guide;
-        if (!notices(guide ? kGuides : kPlainPaths) || !isWanted(path)) return;
-        if (notices(kAnchors | kEndAnchors)) visitAnchors(path);
-        if (notices(kHandles) && path.has(kArtSelected)) visitHandles(path);
-        if (notices(kCurves)) visitCurves(path);
+        if (!isWanted(path)) return;
+        visitAnchors(path);
+        if (path.has(kArtSelected)) visitHandles(path);
+        visitCurves(path);
         const bool isMember = &styleCarrier(path) != &path;
-        if (notices(kFills) && !guide && !isMember && isFilled(path) &&
+        if (!path.content().guide && !isMember && isFilled(path) &&
             isInside(path, windingAround(path, point_)))
             offer(path, kFillHit, 0, 0, point_);
     }
@@ -136,7 +92,7 @@ private:
     /// The members of a compound path are filled as one shape.
     void visitCompound(Art& compound) {
         const bool isWhole = &styleCarrier(compound) == &compound;
-        if (!notices(kFills) || !isWhole || !isWanted(compound) || !isFilled(compound)) return;
+        if (!isWhole || !isWanted(compound) || !isFilled(compound)) return;
         int winding = 0;
         for (Art* each = &compound; each != nullptr; each = nextInPreorder(*each, compound))
             if (each->type() == kPathArt) winding += windingAround(*each, point_);
@@ -144,7 +100,7 @@ private:
     }
 
     [[nodiscard]] bool isFilled(const Art& art) const {
-        return notices(kUnfilled) || art.style().path.fillPaint != 0;
+        return !noFills_ && art.style().path.fillPaint != 0;
     }
     static bool isInside(const Art& art, int winding) {
         return art.style().path.evenodd != 0 ? winding % 2 != 0 : winding != 0;
@@ -153,8 +109,6 @@ private:
     void visitAnchors(Art& path) {
         const auto segments = path.segments();
         for (std::size_t i = 0; i < segments.size(); ++i) {
-            const bool isEnd = !path.content().closed && (i == 0 || i + 1 == segments.size());
-            if (!notices(kAnchors) && !isEnd) continue;
             const CurvePoint anchor = curvePoint(segments[i].p);
             if (distance(anchor, point_) <= reach_) offer(path, kAnchorHit, i, 0, anchor);
         }
@@ -175,25 +129,18 @@ private:
     }
 
     void visitCurves(Art& path) {
-        const AIPathStyle& style = styleCarrier(path).style().path;
-        double reach = reach_;
-        if (notices(kPaintedWidth)) {
-            if (style.strokePaint == 0) return;
-            reach += style.stroke.width / 2.0;
-        }
         for (std::size_t i = 0; i < curveCount(path); ++i) {
             const Curve curve = curveFrom(path, i);
-            if (!isNear(curve, point_, reach)) continue;
+            if (!isNear(curve, point_, reach_)) continue;
             const NearestPoint nearest = nearestPoint(curve, point_);
-            if (nearest.distance <= reach)
+            if (nearest.distance <= reach_)
                 offer(path, kSegmentHit, (i + 1) % path.segments().size(), nearest.t,
                       pointAt(curve, nearest.t));
         }
     }
 
     void visitBox(Art& art) {
-        const bool sought = notices(kBoxes) || (notices(kText) && art.type() == kTextFrameArt);
-        if (!sought || !isWanted(art)) return;
+        if (noFills_ || !isWanted(art)) return;
         const auto& [left, top, right, bottom] = art.details().box;
         const AIRealMatrix& m = art.details().matrix;
         const double det = double{m.a} * m.d - double{m.b} * m.c;
@@ -209,13 +156,16 @@ private:
 
     CurvePoint point_;
     double reach_;
-    unsigned notices_;
+    bool noFills_;
+    bool onlySelected_;
 };
 
 } // namespace
 
 HitResult hitTest(Art& root, AIRealPoint point, double reach, ai::int32 request) {
-    if (request < 0 || request >= std::ssize(kRequests)) throw ai::Error{kBadParameterErr};
+    if (request != kAllHitRequest && request != kAllNoFillHitRequest &&
+        request != kSelectionHitRequest)
+        throw ai::Error{kNotImplementedErr};
     Search search(curvePoint(point), reach, request);
     if (!isVisible(root)) return search.best;
     Art* each = &root;

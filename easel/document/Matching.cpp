@@ -11,13 +11,11 @@ namespace easel {
 namespace {
 
 constexpr ai::int32 kSelection = kArtSelected | kArtFullySelected;
-constexpr ai::int32 kMatchChartArt = 0x00100000;
-/// What a spec may say of the search as a whole.
-constexpr ai::int32 kSearchOptions = kMatchDictionaryArt | kMatchGraphArt | kMatchResultArt |
-                                     kMatchTextPaths | kMatchNotIntoPluginGroups | kMatchChartArt;
-/// Questions that exclude each other and every other bit.
-constexpr ai::int32 kSpecialSelections =
-    kArtSelectedTopLevelGroups | kArtSelectedLeaves | kArtSelectedTopLevelWithPaint;
+/// Questions about the whole search or about topmost and innermost art, which are not answered.
+constexpr ai::int32 kMatchingOnly = kArtSelectedTopLevelGroups | kArtSelectedLeaves |
+                                    kArtSelectedTopLevelWithPaint | kMatchDictionaryArt |
+                                    kMatchGraphArt | kMatchResultArt | kMatchTextPaths |
+                                    kMatchNotIntoPluginGroups;
 
 /// One object met by the walk; containers learn their selection from what follows inside them.
 struct Met {
@@ -33,21 +31,15 @@ struct Met {
     }
 };
 
-bool isSkipped(const Art& art, ai::int32 options) {
-    if (isResultGroup(art)) return (options & kMatchResultArt) == 0;
-    const bool inPluginGroup = art.parent() != nullptr && art.parent()->type() == kPluginArt;
-    return inPluginGroup && (options & kMatchNotIntoPluginGroups) != 0;
-}
-
 /// Everything under `root`, without it, parents before children.
-std::vector<Met> meetAll(const Art& root, ai::int32 options) {
+std::vector<Met> meetAll(const Art& root) {
     std::vector<Met> met;
     std::vector<std::size_t> parents; // of the object at each depth
     Art* each = root.firstChild();
     while (each != nullptr) {
         while (!parents.empty() && met[parents.back()].art != each->parent())
             parents.pop_back();
-        if (isSkipped(*each, options)) {
+        if (isResultGroup(*each)) {
             each = nextSkippingChildren(*each, root);
             continue;
         }
@@ -76,51 +68,25 @@ void settleSelections(std::vector<Met>& met) {
     }
 }
 
-bool matchesSpecial(const Met& one, const std::vector<Met>& met, ai::int32 question) {
-    const Art& art = *one.art;
-    if (question == kArtSelectedLeaves) return !isContainer(art) && one.selected;
-    // Topmost: fully selected, in something that is not, or directly on a layer.
-    if (art.isLayer() || one.selection() != kSelection) return false;
-    const Met& parent = met[one.parent];
-    const bool isTopmost = parent.art->isLayer() || parent.selection() != kSelection;
-    if (question == kArtSelectedTopLevelGroups) return isTopmost;
-    const AIPathStyle& style = styleCarrier(art).style().path;
-    return isTopmost && (isContainer(art) || style.fillPaint != 0 || style.strokePaint != 0);
-}
-
-bool matches(const Met& one, const std::vector<Met>& met, const AIArtSpec& spec) {
+bool matches(const Met& one, const AIArtSpec& spec) {
     if (spec.type != kAnyArt && spec.type != one.art->type()) return false;
-    const ai::int32 mask = spec.whichAttr & ~kSearchOptions;
-    if ((mask & kSpecialSelections) != 0) return matchesSpecial(one, met, mask);
+    const ai::int32 mask = spec.whichAttr;
     const ai::int32 attributes = userAttributes(*one.art, mask & ~kSelection) | one.selection();
-    return (attributes & mask) == (spec.attr & ~kSearchOptions);
+    return (attributes & mask) == spec.attr;
 }
 
-bool asksForSelection(const AIArtSpec& spec) {
-    return (spec.whichAttr & (kSelection | kSpecialSelections)) != 0;
-}
-
-void check(std::span<const AIArtSpec> specs) {
-    for (const AIArtSpec& spec : specs) {
-        const ai::int32 mask = spec.whichAttr & ~kSearchOptions;
-        const ai::int32 special = mask & kSpecialSelections;
-        const bool isAlone = special == 0 || (special == mask && (special & (special - 1)) == 0);
-        if (!isAlone) throw ai::Error{kBadParameterErr};
-    }
-}
+bool asksForSelection(const AIArtSpec& spec) { return (spec.whichAttr & kSelection) != 0; }
 
 } // namespace
 
 std::vector<Art*> matchingArt(const Document& document, std::span<const AIArtSpec> specs) {
-    check(specs);
-    ai::int32 options = 0;
     for (const AIArtSpec& spec : specs)
-        options |= spec.whichAttr & kSearchOptions;
-    std::vector<Met> met = meetAll(document.root(), options);
+        if ((spec.whichAttr & kMatchingOnly) != 0) throw ai::Error{kNotImplementedErr};
+    std::vector<Met> met = meetAll(document.root());
     if (std::ranges::any_of(specs, asksForSelection)) settleSelections(met);
     std::vector<Art*> matching;
     for (const Met& one : met)
-        if (std::ranges::any_of(specs, [&](const auto& spec) { return matches(one, met, spec); }))
+        if (std::ranges::any_of(specs, [&](const auto& spec) { return matches(one, spec); }))
             matching.push_back(one.art);
     return matching;
 }

@@ -103,12 +103,6 @@ public:
     void showPanel(AIPanelRef panel, bool shown) {
         act([&] { panels.show(panel, shown); });
     }
-    void closePanel(AIPanelRef panel) {
-        act([&] { panels.close(panel); });
-    }
-    void resizePanel(AIPanelRef panel, AISize size) {
-        act([&] { panels.resize(panel, size); });
-    }
     void cyclePanel(AIPanelRef panel) {
         act([&] { panels.cycle(panel); });
     }

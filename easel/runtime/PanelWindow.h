@@ -12,7 +12,6 @@ namespace easel {
 
 /// What the user does to a panel's window.
 struct PanelWindowEvents {
-    std::function<void(AISize)> resized;
     std::function<void()> closed;
     std::function<void()> cycled; ///< pressed the arrow that goes from state to state
     std::function<void()> flyout; ///< pressed the button of the flyout menu
@@ -31,7 +30,6 @@ struct PopupLine {
     bool isSeparator = false;
     bool enabled = true;
     bool marked = false;
-    std::vector<PopupLine> submenu;
 };
 
 /// Where panels lie in the host's own window; without one they float.
@@ -44,7 +42,7 @@ struct PanelDock {
 class PanelWindow {
 public:
     /// Hidden at first. `dock` outlives it.
-    PanelWindow(const std::u32string& title, AISize size, bool resizable, PanelWindowEvents events,
+    PanelWindow(const std::u32string& title, AISize size, PanelWindowEvents events,
                 const PanelDock& dock);
     ~PanelWindow();
     PanelWindow(const PanelWindow&) = delete;

@@ -5,8 +5,7 @@ namespace easel {
 struct PanelWindow::System {};
 
 // NOLINTNEXTLINE(performance-unnecessary-value-param): where there are windows, they keep it
-PanelWindow::PanelWindow(const std::u32string&, AISize, bool, PanelWindowEvents, const PanelDock&) {
-}
+PanelWindow::PanelWindow(const std::u32string&, AISize, PanelWindowEvents, const PanelDock&) {}
 PanelWindow::~PanelWindow() = default;
 AIPanelPlatformWindow PanelWindow::client() const noexcept { return nullptr; }
 void PanelWindow::setTitle(const std::u32string&) {}

@@ -47,12 +47,7 @@ Menu popupMenu(const std::vector<PopupLine>& lines) {
         UINT flags = line.isSeparator ? MF_SEPARATOR : MF_STRING;
         if (!line.enabled) flags |= MF_GRAYED;
         if (line.marked) flags |= MF_CHECKED;
-        UINT_PTR id = line.id;
-        if (!line.submenu.empty()) {
-            flags |= MF_POPUP; // the menu owns its submenus
-            id = reinterpret_cast<UINT_PTR>(popupMenu(line.submenu).release());
-        }
-        AppendMenuW(menu.get(), flags, id, text.c_str());
+        AppendMenuW(menu.get(), flags, line.id, text.c_str());
     }
     return menu;
 }
@@ -76,7 +71,7 @@ void registerClass(const wchar_t* name, WNDPROC procedure) {
 /// A tool window, or a part of the dock, and inside it the client area as a child of its own: the
 /// plug-in never gets hold of the frame.
 struct PanelWindow::System {
-    System(const std::u32string& title, AISize initial, bool resizable, PanelWindowEvents handlers,
+    System(const std::u32string& title, AISize initial, PanelWindowEvents handlers,
            const PanelDock& itsDock);
     ~System() {
         events = {}; // what goes on from here is not the user's doing
@@ -102,16 +97,14 @@ struct PanelWindow::System {
     HWND client = nullptr;
     int stripHeight = 0;
     AISize size{};
-    bool settingSize = false; ///< the size changes by our own call, not by the user's mouse
 };
 
-PanelWindow::System::System(const std::u32string& title, AISize initial, bool resizable,
-                            PanelWindowEvents handlers, const PanelDock& itsDock)
+PanelWindow::System::System(const std::u32string& title, AISize initial, PanelWindowEvents handlers,
+                            const PanelDock& itsDock)
     : events(std::move(handlers)), dock(itsDock) {
     registerClass(kFrameClass, procedure);
     registerClass(kClientClass, DefWindowProcW);
-    const DWORD floating = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN |
-                           (resizable ? WS_THICKFRAME : DWORD{0});
+    const DWORD floating = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
     const DWORD style = isDocked() ? WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS : floating;
     const HINSTANCE program = GetModuleHandleW(nullptr);
     frame =
@@ -139,10 +132,8 @@ SIZE PanelWindow::System::frameFor(SIZE area) const {
 void PanelWindow::System::setSize(AISize wanted) {
     size = wanted;
     const SIZE outer = frameFor(pixels(size));
-    settingSize = true;
     SetWindowPos(frame, nullptr, 0, 0, outer.cx, outer.cy,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    settingSize = false;
     fitClient();
     tellDock();
 }
@@ -215,12 +206,6 @@ LRESULT CALLBACK PanelWindow::System::procedure(HWND window, UINT message, WPARA
 
 LRESULT PanelWindow::System::handle(UINT message, WPARAM first, LPARAM second) {
     switch (message) {
-    case WM_SIZE:
-        fitClient();
-        if (!settingSize)
-            tell(events.resized, AISize{static_cast<AIReal>(LOWORD(second)),
-                                        static_cast<AIReal>(HIWORD(second) - stripHeight)});
-        return 0;
     case WM_COMMAND:
         if (LOWORD(first) == kStateButton) tell(events.cycled);
         if (LOWORD(first) == kFlyoutButton) tell(events.flyout);
@@ -240,9 +225,9 @@ LRESULT PanelWindow::System::handle(UINT message, WPARAM first, LPARAM second) {
     return DefWindowProcW(frame, message, first, second);
 }
 
-PanelWindow::PanelWindow(const std::u32string& title, AISize size, bool resizable,
-                         PanelWindowEvents events, const PanelDock& dock)
-    : system_(std::make_unique<System>(title, size, resizable, std::move(events), dock)) {}
+PanelWindow::PanelWindow(const std::u32string& title, AISize size, PanelWindowEvents events,
+                         const PanelDock& dock)
+    : system_(std::make_unique<System>(title, size, std::move(events), dock)) {}
 
 PanelWindow::~PanelWindow() = default;
 

@@ -20,7 +20,6 @@ struct FlyoutItem {
     bool isSeparator = false;
     AIBoolean enabled = 1;
     AIPanelFlyoutMenuItemMark mark = AIPanelFlyoutMenuItemMark::None;
-    AIPanelFlyoutMenuRef submenu = nullptr;
 };
 
 struct FlyoutMenu {
@@ -35,32 +34,18 @@ struct PanelCallbacks {
     AIPanelVisibilityChangedNotifyProc visibility = nullptr;
     AIPanelSizeChangedNotifyProc size = nullptr;
     AIPanelStateChangedNotifyProc state = nullptr;
-    AIPanelClosedNotifyProc closed = nullptr;
-};
-
-/// How large a panel may be, in pixels of its client area.
-struct PanelSizes {
-    AISize least{};
-    AISize floating{}; ///< The interface calls it unconstrained.
-    AISize docked{};   ///< Constrained.
-    AISize greatest{};
-    AIReal step = 1; ///< A resizable one's height is the least and whole steps.
 };
 
 struct Panel {
     SPPluginRef plugin = nullptr;
     std::u32string id; ///< Its unique name.
     std::u32string title;
-    bool resizable = false;
-    AISize size{};
-    PanelSizes sizes;
+    AISize size{}; ///< Of its client area, in pixels; the user cannot change it.
     ai::int16 stateCount = 1;
     ai::int16 state = 1;
     AIBoolean shown = 0;
-    AIBoolean minimized = 0;
     AIPoint position{100, 100};
     AIPanelFlyoutMenuRef flyout = nullptr;
-    AIPanelUserData data = nullptr;
     PanelCallbacks callbacks;
     std::unique_ptr<PanelWindow> window;
 };
@@ -74,8 +59,8 @@ public:
     /// `userHasActed` is called after whatever the user does to a panel's window.
     explicit Panels(std::function<void()> userHasActed) : userHasActed_(std::move(userHasActed)) {}
 
-    /// Hidden, in state 1, as large as `panel.sizes.least`. Throws 'PARM' when its numbers make no
-    /// sense or a panel of that id exists.
+    /// Hidden, in state 1. Throws 'PARM' when its numbers make no sense or a panel of that id
+    /// exists.
     AIPanelRef add(Panel panel);
     void remove(AIPanelRef panel);
     /// Throws 'INVD'.
@@ -85,25 +70,19 @@ public:
     [[nodiscard]] const Registry<AIPanelRef, Panel>& all() const noexcept { return panels_; }
 
     AIPanelFlyoutMenuRef addMenu(SPPluginRef plugin) { return menus_.add({plugin, {}}); }
-    /// Panels and items that showed it have none from then on.
+    /// Panels that showed it have none from then on.
     void removeMenu(AIPanelFlyoutMenuRef menu);
     /// Throws 'INVD'.
     [[nodiscard]] FlyoutMenu& menu(AIPanelFlyoutMenuRef menu) const;
 
     // Each tells the plug-in when it changes something.
     void show(AIPanelRef panel, bool shown);
-    /// Brought within the panel's limits.
     void resize(AIPanelRef panel, AISize size);
     /// Throws 'PARM' unless it is one of the panel's states.
     void setState(AIPanelRef panel, ai::int16 state);
     /// The arrow in the panel's title: from state to state and round.
     void cycle(AIPanelRef panel);
-    void minimize(AIPanelRef panel, bool minimized);
-    /// The user closes it: it is hidden, and the plug-in is told both.
-    void close(AIPanelRef panel);
     void setFlyout(AIPanelRef panel, AIPanelFlyoutMenuRef menu);
-    /// Throws 'PARM' below 1.
-    void setStateCount(AIPanelRef panel, ai::int16 count);
 
     /// The menu as the plug-in has brought it up to date. Throws 'INVD' when the panel has none.
     const FlyoutMenu& openFlyout(AIPanelRef panel);
@@ -126,8 +105,6 @@ private:
         userHasActed_();
     }
     void chooseOnScreen(AIPanelRef panel);
-    [[nodiscard]] std::vector<PopupLine> popupLines(const FlyoutMenu& menu, int depth) const;
-    [[nodiscard]] bool canChoose(const FlyoutMenu& menu, ai::uint32 id, int depth) const;
 
     std::function<void()> userHasActed_;
     Registry<AIPanelRef, Panel> panels_;

@@ -223,7 +223,7 @@ Deed readClose(Arguments&) {
         if (where == Where::Dialog)
             dialog.clickCloseBox();
         else
-            player.host().panels.close(hostPanel(player));
+            player.host().panels.show(hostPanel(player), false);
         player.host().idle();
     };
 }

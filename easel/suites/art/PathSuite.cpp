@@ -127,13 +127,6 @@ AIErr setPathGuide(AIArtHandle handle, AIBoolean guide) {
     return kNoErr;
 }
 
-AIErr getPathIsClip(AIArtHandle handle, AIBoolean* isClip) {
-    const Art& art = session().artOf(handle);
-    const bool canClip = art.type() == kCompoundPathArt || countOf(pathOf(handle)) >= 2;
-    required(isClip) = canClip && art.has(kArtIsClipMask) ? 1 : 0;
-    return kNoErr;
-}
-
 // Selection.
 
 AIErr getPathSegmentSelected(AIArtHandle handle, ai::int16 index, ai::int16* selection) {
@@ -167,7 +160,6 @@ void installPathSuite(SuiteServer& server) {
     expose<&S::SetPathGuide, setPathGuide>(table);
     expose<&S::GetPathSegmentSelected, getPathSegmentSelected>(table);
     expose<&S::SetPathSegmentSelected, setPathSegmentSelected>(table);
-    expose<&S::GetPathIsClip, getPathIsClip>(table);
 }
 
 } // namespace easel

@@ -28,15 +28,6 @@ AIErr setKind(ai::int32 kind) {
     return kNoErr;
 }
 
-AIErr setSilent(AIBoolean silent) {
-    return setKind(silent != 0 ? kSilentUndoContext : kStandardUndoContext);
-}
-
-AIErr isSilent(AIBoolean* silent) {
-    required(silent) = log().kind() == kSilentUndoContext ? 1 : 0;
-    return kNoErr;
-}
-
 AIErr countTransactions(ai::int32* past, ai::int32* future) {
     if (past != nullptr) *past = log().pastSteps();
     if (future != nullptr) *future = log().futureSteps();
@@ -50,8 +41,6 @@ void installUndoSuite(SuiteServer& server) {
     auto table = server.table<S>(kAIUndoSuite, kAIUndoSuiteVersion);
     expose<&S::SetUndoTextUS, setUndoText>(table);
     expose<&S::UndoChanges, undoChanges>(table);
-    expose<&S::SetSilent, setSilent>(table);
-    expose<&S::IsSilent, isSilent>(table);
     expose<&S::SetKind, setKind>(table);
     expose<&S::CountTransactions, countTransactions>(table);
 }

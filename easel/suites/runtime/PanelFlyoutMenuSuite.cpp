@@ -69,13 +69,6 @@ AIErr setText(MenuRef menu, ai::uint32 index, const ai::UnicodeString& text) {
     return kNoErr;
 }
 
-AIErr setSubMenu(MenuRef menu, ai::uint32 index, MenuRef submenu) {
-    static_cast<void>(at(submenu));
-    if (submenu == menu) throw ai::Error{kBadParameterErr};
-    itemAt(menu, index).submenu = submenu;
-    return kNoErr;
-}
-
 } // namespace
 
 void installPanelFlyoutMenuSuite(SuiteServer& server) {
@@ -90,7 +83,6 @@ void installPanelFlyoutMenuSuite(SuiteServer& server) {
     expose<&Suite::SetItemEnabled, set<AIBoolean, &FlyoutItem::enabled>>(table);
     expose<&Suite::SetItemMark, set<Mark, &FlyoutItem::mark>>(table);
     expose<&Suite::SetItemText, setText>(table);
-    expose<&Suite::SetItemSubMenu, setSubMenu>(table);
 }
 
 } // namespace easel

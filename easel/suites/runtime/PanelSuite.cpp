@@ -10,8 +10,9 @@ namespace {
 Panel& at(AIPanelRef panel) { return host().panels.at(panel); }
 
 AIErr create(SPPluginRef plugin, const ai::UnicodeString& id, const ai::UnicodeString& title,
-             ai::int16 stateCount, const AISize& least, AIBoolean resizable,
-             AIPanelFlyoutMenuRef flyout, AIPanelUserData data, AIPanelRef& panel) {
+             ai::int16 stateCount, const AISize& size, AIBoolean resizable,
+             AIPanelFlyoutMenuRef flyout, AIPanelUserData /*data*/, AIPanelRef& panel) {
+    if (resizable != 0) return kNotImplementedErr; // the user gives no panel another size
     static_cast<void>(host().plugins.at(plugin));
     if (flyout != nullptr) static_cast<void>(host().panels.menu(flyout));
     Panel made;
@@ -19,10 +20,8 @@ AIErr create(SPPluginRef plugin, const ai::UnicodeString& id, const ai::UnicodeS
     made.id = readString(session().ledger, id);
     made.title = readString(session().ledger, title);
     made.stateCount = stateCount;
-    made.sizes.least = least;
-    made.resizable = resizable != 0;
+    made.size = size;
     made.flyout = flyout;
-    made.data = data;
     panel = host().panels.add(std::move(made));
     return kNoErr;
 }
@@ -53,24 +52,9 @@ template <typename Value, Value Panel::*Member> AIErr get(AIPanelRef panel, Valu
     return kNoErr;
 }
 
-AIErr setPreferredSizes(AIPanelRef panel, const AISize& size) {
-    PanelSizes& sizes = at(panel).sizes;
-    sizes.floating = sizes.docked = size;
+AIErr setSize(AIPanelRef panel, const AISize& size) {
     host().panels.resize(panel, size);
     return kNoErr;
-}
-
-AIErr setSizes(AIPanelRef panel, const AISize& least, const AISize& floating, const AISize& docked,
-               const AISize& greatest) {
-    const AIReal step = at(panel).sizes.step;
-    at(panel).sizes = {least, floating, docked, greatest, step};
-    host().panels.resize(panel, floating);
-    return kNoErr;
-}
-
-AIErr setSize(AIPanelRef panel, const AISize& size) {
-    if (!at(panel).resizable) return setSizes(panel, size, size, size, size);
-    return setPreferredSizes(panel, size);
 }
 
 AIErr setCurrentState(AIPanelRef panel, ai::int16 state) {
@@ -78,23 +62,8 @@ AIErr setCurrentState(AIPanelRef panel, ai::int16 state) {
     return kNoErr;
 }
 
-AIErr setStateCount(AIPanelRef panel, ai::int16 count) {
-    host().panels.setStateCount(panel, count);
-    return kNoErr;
-}
-
 AIErr setFlyoutMenu(AIPanelRef panel, AIPanelFlyoutMenuRef menu) {
     host().panels.setFlyout(panel, menu);
-    return kNoErr;
-}
-
-AIErr minimize(AIPanelRef panel, AIBoolean minimized) {
-    host().panels.minimize(panel, minimized != 0);
-    return kNoErr;
-}
-
-AIErr setUserData(AIPanelRef panel, AIPanelUserData data) {
-    at(panel).data = data;
     return kNoErr;
 }
 
@@ -105,12 +74,6 @@ AIErr setCallback(AIPanelRef panel, Callback callback) {
 }
 
 using Suite = AIPanelSuite;
-
-void exposeSizes(SuiteTable<Suite>& table) {
-    expose<&Suite::GetSize, get<AISize, &Panel::size>>(table);
-    expose<&Suite::SetSizes, setSizes>(table);
-    expose<&Suite::SetSize, setSize>(table);
-}
 
 void exposeCallbacks(SuiteTable<Suite>& table) {
     using Callbacks = PanelCallbacks;
@@ -124,8 +87,6 @@ void exposeCallbacks(SuiteTable<Suite>& table) {
            setCallback<AIPanelSizeChangedNotifyProc, &Callbacks::size>>(table);
     expose<&Suite::SetStateChangedNotifyProc,
            setCallback<AIPanelStateChangedNotifyProc, &Callbacks::state>>(table);
-    expose<&Suite::SetClosedNotifyProc, setCallback<AIPanelClosedNotifyProc, &Callbacks::closed>>(
-        table);
 }
 
 } // namespace
@@ -137,16 +98,12 @@ void installPanelSuite(SuiteServer& server) {
     expose<&Suite::GetPlatformWindow, getPlatformWindow>(table);
     expose<&Suite::Show, show>(table);
     expose<&Suite::IsShown, get<AIBoolean, &Panel::shown>>(table);
-    expose<&Suite::GetUserData, get<AIPanelUserData, &Panel::data>>(table);
-    expose<&Suite::SetUserData, setUserData>(table);
     expose<&Suite::SetTitle, setTitle>(table);
     expose<&Suite::SetCurrentState, setCurrentState>(table);
     expose<&Suite::GetCurrentState, get<ai::int16, &Panel::state>>(table);
-    expose<&Suite::SetStateCount, setStateCount>(table);
     expose<&Suite::SetFlyoutMenu, setFlyoutMenu>(table);
-    expose<&Suite::IsMinimized, get<AIBoolean, &Panel::minimized>>(table);
-    expose<&Suite::ChangeIsMinimized, minimize>(table);
-    exposeSizes(table);
+    expose<&Suite::GetSize, get<AISize, &Panel::size>>(table);
+    expose<&Suite::SetSize, setSize>(table);
     exposeCallbacks(table);
 }
 

@@ -61,33 +61,6 @@ TEST_CASE("what is locked or hidden, or lies in what is, refuses to be changed")
     }
 }
 
-TEST_CASE("locked art takes dictionary entries, and is unlocked first and locked last") {
-    const Drawing drawing;
-    const AIArtHandle made = drawing.makePath({{0, 0}, {1, 1}});
-    CHECK(art().SetArtUserAttr(made, kArtLocked, kArtLocked) == kNoErr);
-    AIDictionaryRef entries = nullptr;
-    CHECK(art().GetDictionary(made, &entries) == kNoErr);
-    CHECK(dictionary().SetIntegerEntry(entries, dictionary().Key("tag"), 1) == kNoErr);
-    dictionary().Release(entries);
-    CHECK(art().SetArtUserAttr(made, kArtLocked, 0) == kNoErr);
-    CHECK(art().DisposeArt(made) == kNoErr);
-}
-
-TEST_CASE("attributes that the plug-in may not set are refused") {
-    const Drawing drawing;
-    const AIArtHandle group = drawing.make(kGroupArt);
-    const AIArtHandle made = drawing.make(kPathArt, kPlaceInsideOnTop, group);
-    for (const ai::int32 attribute : {ai::int32{kArtHasSimpleStyle}, ai::int32{kArtHasActiveStyle},
-                                      ai::int32{kArtPartOfCompound}, ai::int32{kArtSelectedLeaves}})
-        CHECK(art().SetArtUserAttr(made, attribute, attribute) == kBadParameterErr);
-    // A clip mask needs a clip group around it.
-    CHECK(art().SetArtUserAttr(made, kArtIsClipMask, kArtIsClipMask) == kBadParameterErr);
-    const auto& groups = suite<AIGroupSuite>(kAIGroupSuite, kAIGroupSuiteVersion);
-    CHECK(groups.SetGroupClipped(group, 1) == kNoErr);
-    CHECK(art().SetArtUserAttr(made, kArtIsClipMask, kArtIsClipMask) == kNoErr);
-    CHECK(isAttribute(made, kArtIsClipMask));
-}
-
 TEST_CASE("time stamps tell edits of art and leave dictionaries and selection out") {
     const Drawing drawing;
     const AIArtHandle made = drawing.makePath({{0, 0}, {1, 1}});

@@ -17,21 +17,6 @@ struct OwnDictionary {
 
 AIDictKey key(const char* text) { return dictionary().Key(text); }
 
-TEST_CASE("absent entries say so, and leave nothing to rely on") {
-    const Drawing drawing;
-    const OwnDictionary own;
-    ai::int32 integer = 42;
-    const char* text = "preset";
-    CHECK(dictionary().IsKnown(own.ref, key("none")) == 0);
-    CHECK(dictionary().GetIntegerEntry(own.ref, key("none"), &integer) == kNoSuchKey);
-    CHECK(integer != 42);
-    CHECK(dictionary().Get(own.ref, key("none")) == nullptr);
-    const char* const before = text;
-    CHECK(entry().ToString(nullptr, &text) == kNoSuchEntry);
-    CHECK(text != before);
-    CHECK(dictionary().DeleteEntry(own.ref, key("none")) == kNoSuchKey);
-}
-
 TEST_CASE("entries are consumed by setting and reading, whether or not that works") {
     const Drawing drawing;
     const OwnDictionary own;
@@ -47,18 +32,6 @@ TEST_CASE("entries are consumed by setting and reading, whether or not that work
     CHECK(lent() == 1);
     CHECK(entry().Release(held) == 0);
     CHECK(lent() == 0);
-}
-
-TEST_CASE("a reference released too often, or used after, is refused and noted") {
-    const Drawing drawing;
-    AIDictionaryRef made = nullptr;
-    REQUIRE(dictionary().CreateDictionary(&made) == kNoErr);
-    CHECK(dictionary().Release(made) == 0);
-    const std::size_t noted = session().ledger.problems().size();
-    dictionary().Release(made);
-    CHECK(session().ledger.problems().size() == noted + 1);
-    CHECK(dictionary().SetIntegerEntry(made, key("a"), 1) == kBadParameterErr);
-    CHECK(session().ledger.problems().size() == noted + 2);
 }
 
 TEST_CASE("a nested dictionary is shared, and belongs to the art it hangs on") {

@@ -61,33 +61,6 @@ TEST_CASE("the selection of anchors makes that of the path") {
     CHECK(path().SetPathSegmentSelected(made, 3, 1) == kBadParameterErr);
 }
 
-/// The circle of four quarters, whose handles are the usual approximation.
-AIArtHandle makeCircle(const Drawing& drawing, AIReal radius) {
-    const AIReal k = radius * 0.5522848F;
-    const AIReal r = radius;
-    const AIPathSegment quarters[] = {
-        {{r, 0}, {r, -k}, {r, k}, 0},
-        {{0, r}, {k, r}, {-k, r}, 0},
-        {{-r, 0}, {-r, k}, {-r, -k}, 0},
-        {{0, -r}, {-k, -r}, {k, -r}, 0},
-    };
-    const AIArtHandle made = drawing.make(kPathArt);
-    REQUIRE(path().SetPathSegments(made, 0, 4, quarters) == kNoErr);
-    REQUIRE(path().SetPathClosed(made, 1) == kNoErr);
-    return made;
-}
-
-TEST_CASE("the bounds of a circle are those of a circle") {
-    const Drawing drawing;
-    const AIArtHandle circle = makeCircle(drawing, 100);
-    AIRealRect bounds{};
-    CHECK(art().GetArtTransformBounds(circle, nullptr, kNoStrokeBounds, &bounds) == kNoErr);
-    CHECK(bounds.left == -100);
-    CHECK(bounds.top == 100);
-    CHECK(art().GetArtBounds(circle, &bounds) == kNoErr); // with half of the stroke
-    CHECK(bounds.right == 100.5F);
-}
-
 TEST_CASE("bounds follow the curve, not its handles, unless they are asked for") {
     const Drawing drawing;
     const AIArtHandle made = drawing.make(kPathArt);
@@ -96,6 +69,8 @@ TEST_CASE("bounds follow the curve, not its handles, unless they are asked for")
     AIRealRect bounds{};
     CHECK(art().GetArtTransformBounds(made, nullptr, kNoStrokeBounds, &bounds) == kNoErr);
     CHECK(bounds.top == 3); // three quarters of the way to the handles
+    CHECK(art().GetArtBounds(made, &bounds) == kNoErr);
+    CHECK(bounds.top == 3.5F); // with half of the stroke
     CHECK(art().GetArtTransformBounds(made, nullptr, kControlBounds, &bounds) == kNoErr);
     CHECK(bounds.top == 4);
     AIRealMatrix twice{2, 0, 0, 2, 1, 1};
@@ -105,6 +80,20 @@ TEST_CASE("bounds follow the curve, not its handles, unless they are asked for")
     CHECK(path().SetPathGuide(made, 1) == kNoErr);
     CHECK(art().GetArtBounds(made, &bounds) == kNoErr);
     CHECK(bounds.top == 0); // guides are left out: nothing counts
+}
+
+TEST_CASE("opaque art has the bounds of its box as its matrix shows it") {
+    Drawing drawing;
+    Art& text = createArt(drawing.document, kTextFrameArt, onTopOf(drawing.layerGroup()));
+    ArtDetails& details = text.write().details.write();
+    details.box = {0, 10, 20, 0};
+    details.matrix = {0, 1, -1, 0, 100, 50}; // turned by a right angle, then moved
+    AIRealRect bounds{};
+    CHECK(art().GetArtBounds(text.handle(), &bounds) == kNoErr);
+    CHECK(bounds.left == 90);
+    CHECK(bounds.right == 100);
+    CHECK(bounds.top == 70);
+    CHECK(bounds.bottom == 50);
 }
 
 } // namespace

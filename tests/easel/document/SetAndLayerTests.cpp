@@ -62,9 +62,6 @@ TEST_CASE("matching finds art by type and attributes, in the order of the tree")
         {"locked", {kAnyArt, kArtLocked, kArtLocked}, "l"},
         {"selected", {kAnyArt, kArtSelected, kArtSelected}, "Lga"},
         {"fully selected", {kAnyArt, kArtFullySelected, kArtFullySelected}, "a"},
-        {"selected leaves", {kAnyArt, kArtSelectedLeaves, kArtSelectedLeaves}, "a"},
-        {"result art when asked for", {kPathArt, kMatchResultArt, 0}, "ablser"},
-        {"not into plug-in groups", {kPathArt, kMatchNotIntoPluginGroups, 0}, "abls"},
     };
     for (const auto& row : rows) {
         INFO(row.what);

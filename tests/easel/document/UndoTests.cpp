@@ -212,7 +212,7 @@ TEST_CASE("steps are counted, named and thrown away as the user expects") {
         const Record record(document);
         Art* const kept = drawing.layerGroup().firstChild();
         CHECK(path().SetPathClosed(kept->handle(), 1) == kNoErr);
-        CHECK(undo().SetSilent(1) == kNoErr);
+        CHECK(undo().SetKind(kSilentUndoContext) == kNoErr);
     }
     CHECK(counts() == std::pair(1, 1));
     document.undo().redo();
@@ -222,22 +222,6 @@ TEST_CASE("steps are counted, named and thrown away as the user expects") {
     CHECK(counts() == std::pair(2, 0));
     { const Record nothing(document); }
     CHECK(counts() == std::pair(2, 0));
-}
-
-TEST_CASE("nested contexts are one step, and only the outermost has a say in its kind") {
-    Drawing drawing;
-    {
-        const Record outer(drawing.document);
-        {
-            const Record inner(drawing.document);
-            drawing.make(kPathArt);
-            session().contextIsNested = true; // as the host's contexts have it
-            CHECK(undo().SetSilent(1) == kNoErr);
-            session().contextIsNested = false;
-        }
-        drawing.make(kPathArt);
-    }
-    CHECK(drawing.document.undo().pastSteps() == 1);
 }
 
 TEST_CASE("deleted art lives only as long as a step needs it") {

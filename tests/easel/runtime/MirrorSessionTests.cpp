@@ -1,16 +1,14 @@
 #include "easel/cli/MirrorCommand.h"
-#include "easel/cli/Statistics.h"
-#include "easel/document/Attributes.h"
-#include "easel/document/Dump.h"
-#include "easel/document/Layers.h"
+#include "easel/document/ArtTree.h"
 #include "easel/suites/Suites.h"
-#include "easel/svg/SvgFile.h"
 
 #include <doctest/doctest.h>
 
 #include <algorithm>
 #include <cmath>
 #include <fstream>
+#include <functional>
+#include <regex>
 #include <sstream>
 
 namespace facetta::tests {
@@ -105,6 +103,9 @@ TEST_CASE("a shape is mirrored into every sector about the origin asked for") {
         {"one axis across, in the middle", {.axes = 1}, {{310, 175}, {310, 225}}},
         {"one axis upright", {.axes = 1, .angleDegrees = 90}, {{90, 175}, {310, 175}}},
         {"two axes", {.axes = 2}, {{90, 175}, {90, 225}, {310, 175}, {310, 225}}},
+        {"two axes of the layer",
+         {.axes = 2, .mode = MirrorMode::Layer},
+         {{90, 175}, {90, 225}, {310, 175}, {310, 225}}},
         {"elsewhere", {.axes = 1, .origin = easel::DrawingPoint{0, 100}}, {{310, 25}, {310, 175}}},
     };
     for (const auto& row : rows) {
@@ -116,103 +117,44 @@ TEST_CASE("a shape is mirrored into every sector about the origin asked for") {
     }
 }
 
-TEST_CASE("applying is one step that undo takes back whole") {
-    const MirrorRequest request{.axes = 5, .angleDegrees = 12};
-    Opened opened{kSquare, request};
-    const std::string before = easel::svg::svgText(easel::session().document());
-    opened.session.mirror(request);
-    const std::string after = easel::svg::svgText(easel::session().document());
-    CHECK(before != after);
-    CHECK(opened.session.host.undoText().find("Apply Symmetry Axes to Selection") !=
-          std::string::npos);
-    CHECK(opened.session.host.undo());
-    CHECK(easel::svg::svgText(easel::session().document()) == before);
-    CHECK(opened.session.host.redo());
-    CHECK(easel::svg::svgText(easel::session().document()) == after);
-    CHECK(opened.session.finish().empty());
-}
-
-TEST_CASE("axes on a layer survive saving, and what is drawn later is mirrored as well") {
-    const MirrorRequest request{.axes = 2, .mode = MirrorMode::Layer};
-    TestFile saved{"saved.svg"};
-    {
-        Opened opened{kSquare, request};
-        opened.session.mirror(request);
-        CHECK(centres().size() == 4);
-        opened.session.save(saved.path);
-        CHECK(opened.session.finish().empty());
-    }
-    Opened again{contentOf(saved.path), request};
-    again.session.host.edit("Draw", [](easel::Document& document) {
-        easel::Art& path =
-            easel::createArt(document, kPathArt, easel::onTopOf(*document.state().currentLayer));
-        easel::ArtContent& content = path.write();
-        for (const AIRealPoint point : {AIRealPoint{350, -120}, {360, -120}, {355, -110}})
-            content.segments.write().push_back({point, point, point, 1});
-        content.closed = true;
-    });
-    CHECK(centres().size() == 8);
-    CHECK(again.session.finish().empty());
-}
-
-TEST_CASE("art that cannot be selected is an error that says what to do") {
-    const std::string locked =
-        R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9" )"
-        R"(xmlns:inkscape="http://www.inkscape.org/namespaces/inkscape" )"
-        R"(xmlns:sodipodi="http://sodipodi.sourceforge.net/DTD/sodipodi-0.dtd">)"
-        R"(<g inkscape:groupmode="layer" sodipodi:insensitive="true">)"
-        R"(<rect width="5" height="5"/></g></svg>)";
-    TestFile input{"locked.svg", locked};
-    TestFile output{"locked-out.svg"};
-    easel::MirrorCommand command;
-    command.input = input.path;
-    command.output = output.path;
-    command.plugin = FACETTA_LIBRARY;
-    const Outcome outcome = run(command);
-    CHECK(outcome.status == ExitStatus::Fault);
-    CHECK(outcome.error.find("nothing to select; art that is to be mirrored must be visible and "
-                             "not locked\n") != std::string::npos);
-    CHECK_FALSE(std::filesystem::exists(output.path));
-}
-
 TEST_CASE("the command tells what is wrong in one line and leaves no output") {
-    TestFile input{"square.svg", kSquare};
-    TestFile broken{"broken.svg", "<svg><g></svg>"};
-    TestFile output{"out.svg"};
+    const TestFile input{"square.svg", kSquare};
+    const TestFile locked{"locked.svg", std::regex_replace(kSquare, std::regex("<rect"),
+                                                           "<rect sodipodi:insensitive='true'")};
+    const TestFile broken{"broken.svg", "<svg><g></svg>"};
+    const TestFile output{"out.svg"};
     struct Row {
         std::string what;
-        easel::MirrorCommand command;
+        std::function<void(easel::MirrorCommand&)> change;
         std::string says;
     };
-    easel::MirrorCommand good;
-    good.input = input.path;
-    good.output = output.path;
-    good.plugin = FACETTA_LIBRARY;
-    std::vector<Row> rows(7, {"", good, ""});
-    rows[0].what = "no drawing";
-    rows[0].command.input = "no-such.svg";
-    rows[0].says = "no-such.svg";
-    rows[1].what = "a broken drawing";
-    rows[1].command.input = broken.path;
-    rows[1].says = "broken.svg:1:";
-    rows[2].what = "no plug-in";
-    rows[2].command.plugin = "no-such.plugin";
-    rows[2].says = "--plugin FILE names another";
-    rows[3].what = "no plug-in, but a file";
-    rows[3].command.plugin = input.path;
-    rows[3].says = "plug-in";
-    rows[4].what = "an unknown layer";
-    rows[4].command.request.layer = "Sky";
-    rows[4].says = "there is no layer \"Sky\"; its layers are \"";
-    rows[5].what = "an origin off the canvas";
-    rows[5].command.request.origin = easel::DrawingPoint{1e6, 0};
-    rows[5].says = "outside the canvas";
-    rows[6].what = "a picture that cannot be made";
-    rows[6].command.picture = input.path / "none" / "out.png";
-    rows[6].says = "the file cannot be made";
+    using Command = easel::MirrorCommand;
+    const Row rows[] = {
+        {"no drawing", [](Command& c) { c.input = "no-such.svg"; }, "no-such.svg"},
+        {"a broken drawing", [&](Command& c) { c.input = broken.path; }, "broken.svg:1:"},
+        {"nothing that can be selected", [&](Command& c) { c.input = locked.path; },
+         "nothing to select; art that is to be mirrored must be visible and not locked\n"},
+        {"no plug-in", [](Command& c) { c.plugin = "no-such.plugin"; },
+         "--plugin FILE names another"},
+        {"no plug-in, but a file", [](Command& c) { c.plugin = c.input; }, "plug-in"},
+        {"an unknown layer", [](Command& c) { c.request.layer = "Sky"; },
+         "there is no layer \"Sky\"; its layers are \""},
+        {"an origin off the canvas",
+         [](Command& c) {
+             c.request.origin = easel::DrawingPoint{1e6, 0};
+         },
+         "outside the canvas"},
+        {"a picture that cannot be made",
+         [](Command& c) { c.picture = c.input / "none" / "out.png"; }, "the file cannot be made"},
+    };
     for (const auto& row : rows) {
         INFO(row.what);
-        const Outcome outcome = run(row.command);
+        Command command;
+        command.input = input.path;
+        command.output = output.path;
+        command.plugin = FACETTA_LIBRARY;
+        row.change(command);
+        const Outcome outcome = run(command);
         INFO(outcome.error);
         CHECK(outcome.status == ExitStatus::Fault);
         CHECK(outcome.error.find(row.says) != std::string::npos);

@@ -8,7 +8,6 @@
 #include <doctest/doctest.h>
 
 #include <limits>
-#include <numbers>
 
 namespace facetta::tests {
 namespace {
@@ -83,21 +82,6 @@ TEST_CASE("numbers and booleans convert into each other, texts into neither") {
         CHECK(integer == row.asInteger);
         CHECK(real == row.asReal);
     }
-}
-
-TEST_CASE("a null prefix means the application's own values") {
-    Fixture fixture;
-    const auto& suite = *ai::suites.preference;
-    double cosine = 0;
-    AIBoolean fourth = 0;
-    ai::int32 units = 0;
-    suite.GetRealPreference(nullptr, "constrain/cos", &cosine);
-    suite.GetBooleanPreference(nullptr, "isRulerIn4thQuad", &fourth);
-    suite.GetIntegerPreference(nullptr, "rulerType", &units);
-    CHECK(cosine == 1);
-    CHECK(fourth == 1);
-    CHECK(units == 2);
-    CHECK(suite.PutIntegerPreference(kPrefix, nullptr, 1) == kBadParameterErr);
 }
 
 } // namespace facetta::tests

@@ -7,8 +7,6 @@
 #include "host/suites/AIDocumentSuite.h"
 #include "host/suites/AIDocumentViewSuite.h"
 #include "host/suites/AIFilePathSuite.h"
-#include "host/suites/AIToolSuite.h"
-#include "host/suites/AIUserSuite.h"
 #include "tests/easel/runtime/TestPlugin.h"
 
 #include "easel/core/HostPath.h"
@@ -188,60 +186,6 @@ TEST_CASE("file paths take and give native text") {
     suite.Set(ai::UnicodeString{std::u16string_view(folder.root_path().u16string())}, 0, root);
     suite.GetParent(root, root);
     CHECK(easel::readPath(easel::session().ledger, root).empty());
-}
-
-TEST_CASE("what would leave the host is recorded, questions get the prepared answers") {
-    Fixture fixture;
-    const auto& suite = *ai::suites.user;
-    easel::UserRecord& user = fixture.host.user;
-    user.answers = {0, 2};
-    CHECK(suite.QuestionAlert(text("Sure?")) == 0);
-    CHECK(suite.YesNoAlert(text("Really?")) == 2);
-    suite.ErrorAlert(text("No."));
-    REQUIRE(user.alerts.size() == 3);
-    CHECK(user.alerts[2].kind == "error");
-    CHECK(user.alerts[2].text == "No.");
-
-    ai::FilePath manual;
-    ai::suites.filePath->Set(text("manual.pdf"), 0, manual);
-    CHECK(suite.LaunchApp(manual, 0) == kNoErr);
-    REQUIRE(user.launched.size() == 1);
-    CHECK(user.launched[0] == "manual.pdf");
-
-    AIResourceManagerHandle cursors = nullptr;
-    CHECK(suite.CreateCursorResourceMgr(fixture.plugin.self(), &cursors) == kNoErr);
-    CHECK(suite.SetCursor(16012, cursors) == kNoErr);
-    CHECK(suite.SetCursor(-3, nullptr) == kNoErr);
-    CHECK(user.cursor == -3);
-    CHECK(suite.DisposeCursorResourceMgr(cursors) == kNoErr);
-    CHECK(suite.SetCursor(16012, cursors) == kBadParameterErr);
-}
-
-TEST_CASE("tools are known by name, the host's own among them") {
-    Fixture fixture;
-    const auto& suite = *ai::suites.tool;
-    AIAddToolData data{"Title", "Tip", 0, 2100, 3100, kNoTool, kNoTool};
-    AIToolHandle tool = nullptr;
-    REQUIRE(suite.AddTool(fixture.plugin.self(), "Mine", &data, 33, &tool) == kNoErr);
-    CHECK(suite.AddTool(fixture.plugin.self(), "Mine", &data, 33, nullptr) == kBadParameterErr);
-    const char* name = nullptr;
-    CHECK(suite.SetSelectedToolByName("None") == kBadParameterErr);
-    CHECK(fixture.host.tools.current == nullptr); // a built-in tool
-    CHECK(suite.SetSelectedTool(tool) == kNoErr);
-    CHECK(fixture.host.tools.current == tool);
-    CHECK(suite.GetCurrentToolName(&name) == kNoErr);
-    CHECK(std::string(name) == "Mine");
-    CHECK(suite.SetSelectedToolByName("Adobe Pen Tool") == kNoErr);
-    CHECK(suite.GetCurrentToolName(&name) == kNoErr);
-    CHECK(std::string(name) == "Adobe Pen Tool");
-
-    const ai::int32 variables[] = {15, 5, -1};
-    AIReal x = 12;
-    AIReal angle = 45;
-    void* values[] = {&x, &angle};
-    CHECK(suite.SetToolInfoVars(tool, variables) == kNoErr);
-    CHECK(suite.SetToolInfoVarValues(variables, values) == kNoErr);
-    CHECK(fixture.host.tools.infoValues.at(5) == 45);
 }
 
 } // namespace facetta::tests

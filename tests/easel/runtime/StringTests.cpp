@@ -74,16 +74,4 @@ TEST_CASE("malformed text is refused and leaves no string behind") {
     CHECK(easel::utf8FromUtf16(u"\xD800x") == "\xEF\xBF\xBDx");
 }
 
-TEST_CASE("a destroyed or foreign string is refused") {
-    Fixture fixture;
-    const auto& suite = *ai::suites.unicodeString;
-    int foreign = 0;
-    void* pointer = &foreign;
-    auto& string = reinterpret_cast<ai::UnicodeString&>(pointer);
-    ai::uint32 character = 0;
-    CHECK(suite.GetChar(string, 0, character) == kBadParameterErr);
-    CHECK(easel::session().ledger.problems().size() == 1);
-    CHECK(suite.Destroy(string) == kBadParameterErr);
-}
-
 } // namespace facetta::tests
