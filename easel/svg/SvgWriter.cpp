@@ -56,7 +56,9 @@ public:
           definitions_(source_, references_), servers_(tree_, document, offset_),
           written_(tree_.size(), false) {}
 
+    /// To be called once.
     std::string write() {
+        out_.reserve(expectedLength());
         const Element root{tree_, tree_.root()};
         TagText tag{root};
         const std::vector<AttributeText> now = documentAttributes(document_);
@@ -91,12 +93,10 @@ public:
                 declared += attributeText(attribute, space.name);
         }
         start.insert(start.size() - (empty ? 2 : 1), declared);
-        std::string text{tree_.prologue()};
-        text += start;
-        text += out_;
-        if (!empty) text += endTag(root.node());
-        text += tree_.epilogue();
-        return text;
+        out_.insert(0, std::string{tree_.prologue()} + start);
+        if (!empty) out_ += endTag(root.node());
+        out_ += tree_.epilogue();
+        return std::move(out_);
     }
 
     [[nodiscard]] const std::vector<std::string>& warnings() const { return warnings_; }
@@ -117,6 +117,27 @@ private:
         std::string clipId; ///< Of the clip mask last written.
         /// What members are written under; made when it is first asked for.
         std::shared_ptr<const Context> context;
+    };
+
+    /// Rather too much than too little: memory that is not written to costs nothing, and a text
+    /// that grows beyond it is for a while there twice.
+    [[nodiscard]] std::size_t expectedLength() const {
+        constexpr std::size_t kOfObject = 400;
+        constexpr std::size_t kOfSegment = 80;
+        std::size_t length = tree_.text().size();
+        const Art& root = document_.root();
+        for (const Art* art = &root; art != nullptr; art = nextInPreorder(*art, root))
+            if (source_.find(*art) == nullptr)
+                length += kOfObject + kOfSegment * art->content().segments->size();
+        return length;
+    }
+
+    /// The look last written, and what it was written under.
+    struct Look {
+        std::shared_ptr<const Context> place; ///< None: in a user space of its own.
+        bool isMask = false;
+        Cow<ArtStyle> style;
+        TagText tag{""};
     };
 
     // The text that is copied.
@@ -552,14 +573,28 @@ private:
         setId(tag, art);
         const UserSpace space = spaceFor(tag, art);
         setShape(tag, art, space);
-        Properties wanted = effectsOf(art);
-        for (const PropertyText& each : styleText(art.style(), space, serverText(space)))
-            wanted.try_emplace(each.name, each.text);
-        if (isClipMask(art)) wanted["clip-rule"] = wanted["fill-rule"];
-        wanted["visibility"] = "visible";
-        setProperties(tag, wanted, given("path"), false, hasSheet());
+        tag.add(look(art, space));
         describe(tag, art, nullptr, source_, layerTags_.named);
         out_ += tag.text(true, prefixes_);
+    }
+
+    /// What a new shape's tag says of its look. Copies have that of their source and are written in
+    /// a row, so what it came to serves the next.
+    const TagText& look(const Art& art, const UserSpace& space) {
+        const bool isOfPlace = space.toDrawing() == place().matrix;
+        const bool isMask = isClipMask(art);
+        const Cow<ArtStyle>& style = art.content().style;
+        if (isOfPlace && look_.place == frames_.back().context && look_.isMask == isMask &&
+            look_.style.sharesWith(style))
+            return look_.tag;
+        Properties wanted = effectsOf(art);
+        for (const PropertyText& each : styleText(*style, space, serverText(space)))
+            wanted.try_emplace(each.name, each.text);
+        if (isMask) wanted["clip-rule"] = wanted["fill-rule"];
+        wanted["visibility"] = "visible";
+        look_ = {isOfPlace ? frames_.back().context : nullptr, isMask, style, TagText{""}};
+        setProperties(look_.tag, wanted, given("path"), false, hasSheet());
+        return look_.tag;
     }
 
     /// Its element again, in another place.
@@ -621,6 +656,7 @@ private:
     std::vector<bool> written_; ///< By node: the element is in the result.
     std::string out_;           ///< What stands between the root's tags.
     std::vector<Frame> frames_;
+    Look look_;
     std::set<std::string, std::less<>> prefixes_; ///< Those that the result needs.
     std::vector<std::string> warnings_;
     int clipNumber_ = 0;

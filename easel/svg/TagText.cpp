@@ -51,6 +51,11 @@ void TagText::setProperty(std::string_view property, std::string_view value, boo
     set("style", text);
 }
 
+void TagText::add(const TagText& other) {
+    attributes_.insert(attributes_.end(), other.attributes_.begin(), other.attributes_.end());
+    changed_ = true;
+}
+
 std::string TagText::text(bool empty, std::set<std::string, std::less<>>& prefixes) const {
     std::string text = source_;
     if (changed_ || source_.empty()) {
@@ -62,7 +67,7 @@ std::string TagText::text(bool empty, std::set<std::string, std::less<>>& prefix
             }
             if (const std::size_t colon = each.name.find(':'); colon != std::string::npos)
                 prefixes.insert(each.name.substr(0, colon));
-            text += attributeText(each.name, each.value);
+            appendAttribute(text, each.name, each.value);
         }
     }
     return text += empty ? "/>" : ">";

@@ -23,6 +23,9 @@ public:
     /// over an attribute of its own. An empty value takes the property away.
     void setProperty(std::string_view property, std::string_view value, bool inStyle);
 
+    /// Puts the attributes of `other`, none of which may be there yet, behind those that are.
+    void add(const TagText& other);
+
     [[nodiscard]] const std::string& name() const { return name_; }
     [[nodiscard]] bool hasChanged() const { return changed_; }
     /// From "<" to ">", or to "/>" when the element is empty. Adds the prefixes of what was set.

@@ -107,6 +107,26 @@ void checkUtf8(std::string_view text) {
     }
 }
 
+/// What a character of an attribute's value is written as; empty: itself.
+constexpr std::string_view referenceFor(char c, char quote) {
+    switch (c) {
+    case '&':
+        return "&amp;";
+    case '<':
+        return "&lt;";
+    case '\'':
+        return quote == c ? "&apos;" : "";
+    case '\n':
+        return "&#10;";
+    case '\r':
+        return "&#13;";
+    case '\t':
+        return "&#9;";
+    default:
+        return {};
+    }
+}
+
 } // namespace
 
 /// Builds the tree in one walk over the text.
@@ -501,35 +521,28 @@ std::string XmlTree::textOf(NodeIndex node) const {
     return text;
 }
 
-std::string attributeText(std::string_view name, std::string_view value) {
+void appendAttribute(std::string& text, std::string_view name, std::string_view value) {
     const char quote = value.find('"') != std::string_view::npos ? '\'' : '"';
-    std::string text = " " + std::string{name} + '=' + quote;
-    text.reserve(text.size() + value.size() + 1);
-    for (const char c : value) {
-        switch (c) {
-        case '&':
-            text += "&amp;";
-            break;
-        case '<':
-            text += "&lt;";
-            break;
-        case '\'':
-            text += quote == c ? "&apos;" : "'";
-            break;
-        case '\n':
-            text += "&#10;";
-            break;
-        case '\r':
-            text += "&#13;";
-            break;
-        case '\t':
-            text += "&#9;";
-            break;
-        default:
-            text += c;
-        }
+    text += ' ';
+    text += name;
+    text += '=';
+    text += quote;
+    const auto* from = value.begin();
+    for (const auto* at = from; at != value.end(); ++at) {
+        const std::string_view reference = referenceFor(*at, quote);
+        if (reference.empty()) continue;
+        text.append(from, at);
+        text += reference;
+        from = at + 1;
     }
-    return text += quote;
+    text.append(from, value.end());
+    text += quote;
+}
+
+std::string attributeText(std::string_view name, std::string_view value) {
+    std::string text;
+    appendAttribute(text, name, value);
+    return text;
 }
 
 } // namespace easel::svg

@@ -130,5 +130,7 @@ inline constexpr Namespace kNamespaces[] = {
 
 /// " name=\"value\"", or in single quotes where the value holds double ones.
 [[nodiscard]] std::string attributeText(std::string_view name, std::string_view value);
+/// Puts the same at the end of `text`.
+void appendAttribute(std::string& text, std::string_view name, std::string_view value);
 
 } // namespace easel::svg
