@@ -6,6 +6,7 @@
 #include "symmetry/SymmetryAxes.h"
 #include "tool/Activity.h"
 #include "tool/axes/Place.h"
+#include "tool/axes/SelectedArt.h"
 #include "tool/axes/ToolMemory.h"
 #include "tool/drawing/DialogPlacement.h"
 #include "tool/drawing/Hint.h"
@@ -85,7 +86,7 @@ struct ToolState {
     SymmetryAxes repositionBackup; ///< the axes when the layer's art began to move with them,
     ai::ArtSet repositionArt;      ///< and that art; empty but for `Repositioning`
     Place place;                   ///< where the document was followed to last
-    bool selectionEmpty = true;    ///< no art is selected
+    SelectedArt selection;         ///< forgotten whenever the document is followed
     bool secondClick = false;      ///< the axes were clicked once without a drag
 
     AIRealPoint cursor{}; ///< on the page, in points, y up
@@ -156,7 +157,10 @@ void cancelPress(ToolState& state);
 [[nodiscard]] inline bool repositionMode(const ToolState& state) {
     return state.activity == Activity::Repositioning;
 }
-[[nodiscard]] inline bool selectionEmpty(const ToolState& state) { return state.selectionEmpty; }
+/// Is no art selected? Throws `ai::Error`.
+[[nodiscard]] inline bool selectionEmpty(const ToolState& state) {
+    return state.selection.isEmpty();
+}
 /// Of the on-canvas dialog: 0 while it cannot be there, 3 after an edit; the zone, that is.
 [[nodiscard]] inline ai::int32 annotationState(const ToolState& state) {
     return static_cast<ai::int32>(state.zone);

@@ -38,7 +38,8 @@ struct AILayerSuite {
     ReservedSlot GetLayerSelected, SetLayerSelected;
     AIErr (*GetLayerByTitle)(AILayerHandle*, const ai::UnicodeString&);
     AIErr (*LayerHasArt)(AILayerHandle, AIBoolean*);
-    AIErr (*LayerHasSelectedArt)(AILayerHandle, AIBoolean*);
+    /// Whether its sublayers' art counts is not known.
+    AIErr (*LayerHasSelectedArt)(AILayerHandle layer, AIBoolean* hasSelectedArt);
     AIErr (*DeselectArtOnLayer)(AILayerHandle);
     AIErr (*SelectArtOnLayer)(AILayerHandle);
     AIErr (*GetLayerIsTemplate)(AILayerHandle, AIBoolean*);

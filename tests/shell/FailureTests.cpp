@@ -15,7 +15,7 @@ TEST_CASE("a failure is shown once, and again for another code") {
     const auto failWith = [&](AIErr code) {
         easel::session().calls.arm({.mode = easel::FaultPlan::Mode::FromThenOn,
                                     .call = 1,
-                                    .function = "AI Art Set Suite.NewArtSet",
+                                    .function = "AI Layer Suite.GetCurrentLayer",
                                     .code = code});
         AIToolMessage message{};
         message.tool = thePlugin->toolHandle;

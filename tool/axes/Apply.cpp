@@ -57,7 +57,9 @@ void applyAxes(ToolSession& session) {
 void applyToSelection(ToolSession& session) {
     ToolState& state = session.state;
     if (state.axes.axisCount == 0 || axesOnLayer(state)) return;
-    if (!session.licence.allows(GuardedAction::ApplyToSelection) || selectionIsEmpty()) return;
+    if (!session.licence.allows(GuardedAction::ApplyToSelection)) return;
+    state.selection.forget(); // the host may tell of a change late
+    if (selectionEmpty(state)) return;
     MirrorEngine(session.mirroring)
         .run(/*selectionMode*/ true, /*keepCurrentAxes*/ false, /*option*/ false, nullptr);
     ai::nameUndoStep("Apply Symmetry Axes to Selection");

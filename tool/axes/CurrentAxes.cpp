@@ -1,8 +1,6 @@
 #include "tool/axes/CurrentAxes.h"
 
 #include "host/Error.h"
-#include "host/Lent.h"
-#include "host/References.h"
 #include "symmetry/ArtSpace.h"
 #include "tool/drawing/Preview.h"
 #include "tool/snapping/CursorSnap.h"
@@ -34,16 +32,6 @@ void rememberAsDefault(ToolSession& session) {
 
 AIRealPoint snapToAnything(ToolSession& session, const AIToolMessage& message) {
     return cursorSnap(session, message).snapped(message.cursor, kSnapToAnything);
-}
-
-bool selectionIsEmpty() {
-    if (!documentIsOpen()) return true;
-    ai::ArtSet selection;
-    ai::checkLent(ai::suites.artSet->NewArtSet(selection.put()), selection);
-    ai::check(ai::suites.artSet->SelectedArtSet(selection.get()));
-    std::size_t count = 0;
-    ai::check(ai::suites.artSet->CountArtSet(selection.get(), &count));
-    return count == 0;
 }
 
 } // namespace facetta

@@ -24,7 +24,4 @@ void rememberAsDefault(ToolSession& session);
 /// `ai::Error`.
 [[nodiscard]] AIRealPoint snapToAnything(ToolSession& session, const AIToolMessage& message);
 
-/// Is no art selected, or no document open? Throws `ai::Error`.
-[[nodiscard]] bool selectionIsEmpty();
-
 } // namespace facetta

@@ -8,6 +8,7 @@
 #include "tool/axes/CurrentAxes.h"
 #include "tool/drawing/OnCanvasDialog.h"
 
+#include <optional>
 #include <utility>
 
 namespace facetta {
@@ -106,8 +107,9 @@ void compare(ToolState& state, const Place& then, const Place& now) {
 
 /// The button that mirrors the selection is dimmed while there is none.
 void followSelection(ToolSession& session) {
-    const bool empty = selectionIsEmpty();
-    if (std::exchange(session.state.selectionEmpty, empty) != empty) redrawDialog(session);
+    const std::optional<bool> wasEmpty = session.state.selection.forget();
+    if (wasEmpty && dialogIsShown(session) && *wasEmpty != selectionEmpty(session.state))
+        redrawDialog(session);
 }
 
 void followFrom(ToolSession& session, const Place& now) {

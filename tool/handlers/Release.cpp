@@ -53,10 +53,6 @@ void releaseSector(ToolSession& session) {
     ai::nameUndoStep("Change Symmetry Axes Active Sector");
 }
 
-void pressApplyToSelection(ToolSession& session) {
-    if (!selectionEmpty(session.state)) applyToSelection(session);
-}
-
 void pressCancel(ToolSession& session) { cancelAxes(session, LayerCopies::AsTheyWere); }
 
 void pressNothing(ToolSession&) {}
@@ -64,11 +60,11 @@ void pressNothing(ToolSession&) {}
 using ReleaseStep = void (*)(ToolSession&);
 
 constexpr std::array<ReleaseStep, 5> kButtons{
-    pressNothing,          // None
-    pressNothing,          // Title
-    pressApplyToSelection, // ApplyToSelection
-    applyToLayer,          // ApplyToLayer
-    pressCancel,           // Cancel
+    pressNothing,     // None
+    pressNothing,     // Title
+    applyToSelection, // ApplyToSelection
+    applyToLayer,     // ApplyToLayer
+    pressCancel,      // Cancel
 };
 
 void releaseButton(ToolSession& session) {

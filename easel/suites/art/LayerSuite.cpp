@@ -49,6 +49,17 @@ template <AIArtUserAttr Attribute> AIErr getWithout(AILayerHandle layer, AIBoole
     return kNoErr;
 }
 
+AIErr layerHasSelectedArt(AILayerHandle layer, AIBoolean* value) {
+    required(value) = 0;
+    const Art& group = session().layerOf(layer);
+    for (const Art* art = group.firstChild(); art != nullptr; art = nextInPreorder(*art, group))
+        if (!isContainer(*art) && (art->has(kArtSelected) || art->has(kArtFullySelected))) {
+            *value = 1;
+            break;
+        }
+    return kNoErr;
+}
+
 } // namespace
 
 void installLayerSuite(SuiteServer& server) {
@@ -59,6 +70,7 @@ void installLayerSuite(SuiteServer& server) {
     expose<&S::GetCurrentLayer, getCurrentLayer>(table);
     expose<&S::GetLayerVisible, getWithout<kArtHidden>>(table);
     expose<&S::GetLayerEditable, getWithout<kArtLocked>>(table);
+    expose<&S::LayerHasSelectedArt, layerHasSelectedArt>(table);
     expose<&S::GetLayerParent, getLayerParent>(table);
 }
 
