@@ -2,6 +2,7 @@
 
 #include "easel/paint/Gradient.h"
 #include "easel/paint/Picture.h"
+#include "easel/paint/RunningGdiplus.h"
 
 #include <algorithm>
 #include <cmath>
@@ -23,21 +24,6 @@ constexpr Gdiplus::DashCap kDashCaps[] = {Gdiplus::DashCapFlat, Gdiplus::DashCap
                                           Gdiplus::DashCapFlat};
 constexpr Gdiplus::LineJoin kJoins[] = {Gdiplus::LineJoinMiterClipped, Gdiplus::LineJoinRound,
                                         Gdiplus::LineJoinBevel};
-
-/// Keeps GDI+ running while a picture is made.
-class Running {
-public:
-    Running() {
-        const Gdiplus::GdiplusStartupInput input;
-        Gdiplus::GdiplusStartup(&token_, &input, nullptr);
-    }
-    ~Running() { Gdiplus::GdiplusShutdown(token_); }
-    Running(const Running&) = delete;
-    Running& operator=(const Running&) = delete;
-
-private:
-    ULONG_PTR token_ = 0;
-};
 
 Gdiplus::PointF pointF(Point point) {
     return {static_cast<float>(std::clamp(point.x, -kFarthest, kFarthest)),
@@ -402,7 +388,7 @@ void GdiplusPainter::readRows(std::uint8_t* target) const {
 
 Picture render(int width, int height, const std::function<void(Painter&)>& paint) {
     checkPictureSize(width, height);
-    const Running running;
+    const RunningGdiplus running;
     Picture picture{width, height, {}};
     const auto stride = 4 * static_cast<std::size_t>(width);
     picture.pixels.resize(stride * static_cast<std::size_t>(height));
@@ -419,7 +405,7 @@ Picture render(int width, int height, const std::function<void(Painter&)>& paint
 }
 
 std::optional<Picture> readPng(std::span<const std::byte> png) {
-    const Running running;
+    const RunningGdiplus running;
     const auto bitmap = decodedPng(png);
     if (!bitmap) return std::nullopt;
     const auto width = static_cast<int>(bitmap->GetWidth());
@@ -440,7 +426,7 @@ std::optional<Picture> readPng(std::span<const std::byte> png) {
 }
 
 std::string pngText(const Picture& picture) {
-    const Running running;
+    const RunningGdiplus running;
     std::vector<std::uint8_t> swapped = picture.pixels; // GDI+ has blue first
     for (std::size_t i = 0; i + 3 < swapped.size(); i += 4)
         std::swap(swapped[i], swapped[i + 2]);

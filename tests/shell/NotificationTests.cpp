@@ -85,3 +85,19 @@ TEST_CASE("the current document is followed by whatever message tells of it firs
         if (!row.toolMessage) CHECK(thePlugin->view.handle == nullptr);
     }
 }
+
+TEST_CASE("what is kept of a document goes with it, closed behind another one") {
+    Session session;
+    session.host.start();
+    easel::Document& first = session.openDocument();
+    session.host.selectTool(thePlugin->toolHandle);
+    hold(thePlugin->tool, {Activity::AxesPending, {.axisCount = 5}});
+    const AIDocumentHandle handle = thePlugin->tool.place.document;
+    session.openDocument();
+    const auto isKept = [&] {
+        return std::ranges::count(thePlugin->tool.memory.documents(), handle) != 0;
+    };
+    CHECK(isKept());
+    session.host.close(first);
+    CHECK_FALSE(isKept());
+}

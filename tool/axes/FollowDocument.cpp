@@ -20,6 +20,7 @@ bool sameLines(const SymmetryAxes& a, const SymmetryAxes& b) {
            a.axisCount == b.axisCount;
 }
 
+/// At once, also of documents that were not in front: the next one may get the same handle.
 void forgetClosedDocuments(ToolMemory& memory) {
     for (const AIDocumentHandle document : memory.documents()) {
         AIBoolean exists = 0;
@@ -47,7 +48,6 @@ void leaveGesture(ToolState& state) {
 void leaveDocument(ToolState& state, const Place& then) {
     if (axesPending(state)) state.memory.setAside(then.document, holdingOf(state));
     happen(state, Event::DocumentLeft);
-    forgetClosedDocuments(state.memory);
 }
 
 void leaveLayer(ToolState& state, const Place& then) {
@@ -97,6 +97,7 @@ void compare(ToolState& state, const Place& then, const Place& now) {
     } else if (now.topLayer != then.topLayer) {
         leaveLayer(state, then);
     }
+    forgetClosedDocuments(state.memory);
     if (historyMoved(then, now)) followHistory(state, then, now);
     if (now.document != nullptr) followLayer(state, now);
     if (!now.editable) happen(state, Event::LayerLocked);
