@@ -52,30 +52,36 @@ TEST_CASE("the library holds the icons that the tool is registered with, and wha
     CHECK_FALSE(NRDM::findResource(plugin.library(), NRDM::ResourceKind::Layout, 16001).empty());
 }
 
-TEST_CASE("over the document the tool's cursor is shown, by the host when it can") {
-    {
+TEST_CASE("over the document the host shows the tool's cursor") {
+    PluginInHost plugin;
+    CHECK(plugin.host.user.cursor == kArrow);
+    plugin.host.selectTool(plugin.tool());
+    plugin.host.track({.at = {100, -100}});
+    CHECK(plugin.host.user.cursor == kBase);
+    CHECK(plugin.host.user.cursorManagers.count() == 1);
+    plugin.host.quit();
+    CHECK(plugin.host.user.cursorManagers.count() == 0);
+}
+
+TEST_CASE("a host that cannot show cursors is asked no further, and the system shows them") {
+    for (const char* broken :
+         {"AI User Suite.GetDateAndTime", // laid out otherwise, perhaps
+          "AI User Suite.SetCursor", "AI User Suite.CreateCursorResourceMgr"}) {
+        INFO(std::string(broken));
+        easel::session().calls.arm({easel::FaultPlan::Mode::FromThenOn, 1, broken});
         PluginInHost plugin;
-        CHECK(plugin.host.user.cursor == kArrow);
         plugin.host.selectTool(plugin.tool());
+#ifdef _WIN32
+        const HCURSOR before = SetCursor(nullptr);
         plugin.host.track({.at = {100, -100}});
-        CHECK(plugin.host.user.cursor == kBase);
-        CHECK(plugin.host.user.cursorManagers.count() == 1);
+        CHECK(GetCursor() != nullptr);
+        SetCursor(before);
+#else
+        plugin.host.track({.at = {100, -100}});
+#endif
+        CHECK(plugin.host.user.cursor == kArrow);
+        easel::session().calls.disarm();
         plugin.host.quit();
         CHECK(plugin.host.user.cursorManagers.count() == 0);
     }
-    // A host whose user suite is laid out otherwise never gets the call; the system shows it.
-    easel::session().calls.arm(
-        {easel::FaultPlan::Mode::FromThenOn, 1, "AI User Suite.GetDateAndTime"});
-    PluginInHost plugin;
-    easel::session().calls.disarm();
-    plugin.host.selectTool(plugin.tool());
-#ifdef _WIN32
-    const HCURSOR before = SetCursor(nullptr);
-    plugin.host.track({.at = {100, -100}});
-    CHECK(GetCursor() != nullptr);
-    SetCursor(before);
-#else
-    plugin.host.track({.at = {100, -100}});
-#endif
-    CHECK(plugin.host.user.cursor == kArrow);
 }

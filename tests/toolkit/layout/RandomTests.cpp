@@ -165,30 +165,6 @@ TEST_CASE("right and down are alike: the layout turned over gives the rectangles
     });
 }
 
-TEST_CASE("the guides that meet lie on one line") {
-    // In a column of items alone, all near: every first guide, seen from the dialog, is the same.
-    std::mt19937_64 random(facetta::tests::seed());
-    for (int i = 0; i < kTrees; ++i) {
-        Layout layout{"Column", {}};
-        for (int items = 0; items < 4; ++items) {
-            Element item{Kind::EditText, {}, {}, {}};
-            item.attributes[Key::Width] = 100.0;
-            item.attributes[Key::Hsnap] = static_cast<double>(random() % 120);
-            layout.dialog.children.push_back(item);
-        }
-        INFO(print(layout));
-        const engine::Nodes nodes = nodesOf(layout);
-        const auto lineOf = [&](std::size_t node) {
-            const engine::NodeOnAxis& x = nodes[node].on(Axis::X);
-            return x.position + x.guides.front();
-        };
-        for (const std::size_t child : nodes.front().children) {
-            REQUIRE(lineOf(child) == lineOf(1));
-            REQUIRE(nodes[child].on(Axis::X).position >= 0);
-        }
-    }
-}
-
 TEST_CASE("what is printed reads back as the same layout, and is placed the same") {
     forEachLayout(Guides::Yes, [](const Layout& layout) {
         const Parsed again = parse(print(layout));

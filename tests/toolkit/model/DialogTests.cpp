@@ -186,30 +186,6 @@ TEST_CASE("arrows step from what is typed, stop at the limits and end with one n
     CHECK(form.field.text() == "3");
 }
 
-TEST_CASE("a slider and a field that set each other tell one change once") {
-    Stage stage;
-    CoADMDialog& dialog = stage.dialog();
-    CoADMItem& slider = Stage::add(dialog, 18, kADMSliderType);
-    CoADMItem& field = Stage::add(dialog, 20, kADMSpinEditType);
-    slider.procedures.notify = [](ADMItemRef item, ADMNotifierRef notifier) {
-        itemHears(item, notifier);
-        item->dialog().item(20)->setValue(item->value());
-    };
-    field.procedures.notify = [](ADMItemRef item, ADMNotifierRef notifier) {
-        itemHears(item, notifier);
-        item->dialog().item(18)->setValue(item->value());
-    };
-    slider.slide(54.6, Phase::InProgress);
-    slider.slide(54.8, Phase::InProgress); // rounds to the same
-    slider.slide(54.8, Phase::Complete);
-    CHECK(field.value() == 55);
-    CHECK(takeHeard() == Heard{"moving 18", "user 18"});
-    field.typed("30");
-    field.commit();
-    CHECK(slider.value() == 30);
-    CHECK(takeHeard() == Heard{"moving 20", "user 20"});
-}
-
 TEST_CASE("of radio buttons with ids in a row, one is on") {
     Stage stage;
     CoADMDialog& dialog = stage.dialog();
@@ -287,20 +263,6 @@ TEST_CASE("Tab goes round in order, past what cannot have the focus") {
     };
     CHECK(stops(DialogKey::Tab) == std::vector{11, 21, 1, 11});
     CHECK(stops(DialogKey::BackTab) == std::vector{1, 21, 11, 1});
-}
-
-TEST_CASE("an access key presses its button, and leads from a label to its field") {
-    Stage stage;
-    CoADMDialog& dialog = stage.dialog();
-    Stage::add(dialog, 3, kADMTextStaticType).setText("Origin &X:");
-    Stage::add(dialog, 4, kADMSpinEditType);
-    Stage::add(dialog, 5, kADMTextCheckBoxType).setText("Salt && &pepper");
-    CHECK(dialog.key(DialogKey::Access, U'X'));
-    CHECK(dialog.active()->id() == 4);
-    CHECK(dialog.key(DialogKey::Access, U'P'));
-    CHECK(dialog.item(5)->isOn());
-    CHECK_FALSE(dialog.key(DialogKey::Access, U'Q'));
-    CHECK(takeHeard() == Heard{"user 5"});
 }
 
 TEST_CASE("a handler may destroy its item, and its dialog") {

@@ -103,42 +103,6 @@ TEST_CASE("a panel asks its host for pixels, and keeps its size when it gets non
     CHECK(hosted.host.panels.at(panel).size.height == 282);
 }
 
-TEST_CASE("a panel's menu shows what its tracker made of it, and gives back what is chosen") {
-    Hosted hosted;
-    CoADMDialog* const dialog = hosted.create(kADMTabbedFloatingDialogStyle, 16005);
-    REQUIRE(dialog != nullptr);
-    const AIPanelRef panel = hosted.host.panels.named(U"Facetta");
-    CoADMItem& menu = *dialog->item(kADMMenuItemID);
-    hosted.plugin.run([&] { menu.list()->setMenu(hosted.plugin.self(), 701); });
-    CHECK(menu.list()->count() == 14);
-    static int chosen = -1;
-    menu.procedures.notify = [](ADMItemRef item, ADMNotifierRef notifier) {
-        itemHears(item, notifier);
-        chosen = kEntrySuite.GetIndex(kListSuite.GetActiveEntry(kItemSuite.GetList(item)));
-    };
-    menu.procedures.track = [](ADMItemRef item, ADMTrackerRef tracker) -> ADMBoolean {
-        ADMListRef list = kItemSuite.GetList(item);
-        kEntrySuite.SetText(kListSuite.IndexEntry(list, 0), "Expand Panel");
-        kEntrySuite.Enable(kListSuite.IndexEntry(list, 2), false);
-        kEntrySuite.Check(kListSuite.IndexEntry(list, 3), true);
-        heard().push_back("opens " + std::to_string(kTrackerSuite.GetAction(tracker)));
-        return kItemSuite.DefaultTrack(item, tracker);
-    };
-    const easel::FlyoutMenu& shown = hosted.host.openFlyout(panel);
-    CHECK(takeHeard() == Heard{"opens 2"});
-    REQUIRE(shown.items.size() == 14);
-    CHECK(shown.items[0].text == U"Expand Panel");
-    CHECK(shown.items[1].isSeparator);
-    CHECK_FALSE(shown.items[2].enabled);
-    CHECK(shown.items[3].mark == AIPanelFlyoutMenuItemMark::Check);
-    hosted.host.chooseFlyoutItem(panel, 0); // closed without a choice
-    CHECK(takeHeard() == Heard{"opens 2"});
-    hosted.host.chooseFlyoutItem(panel, 14);
-    CHECK(chosen == 13);
-    CHECK(takeHeard() == Heard{"opens 2", "user -5"});
-    CHECK(menu.list()->chosen() == nullptr);
-}
-
 TEST_CASE("the dialogs of the resources have their items where the layout puts them") {
     struct Row {
         int resource;

@@ -397,3 +397,46 @@ TEST_CASE("a user item is drawn by its owner, with images too, and told the mous
     kImageSuite.Destroy(image);
     CHECK_THROWS_AS(kImageSuite.Create(0, 5, 0), NRDMParameterException);
 }
+
+TEST_CASE("a change paints what changed and no more") {
+    Stage stage;
+    ADMDialogRef dialog = stage.dialog();
+    ADMItemRef field = stage.addNumber(dialog, 4, kADMSpinEditType, 50, 0, 100);
+    ADMItemRef slider = stage.addNumber(dialog, 5, kADMSliderType, 50, 0, 100);
+    stage.add(dialog, 6, kADMTextPushButtonType, "Apply");
+    stage.add(dialog, 7, kADMTextCheckBoxType, "Snap");
+    stage.show(dialog);
+    kItemSuite.Activate(field, true);
+    stage.pump();
+    const HWND edit = Stage::field(field);
+    REQUIRE(GetFocus() == edit);
+    stage.forgetPaints();
+    SUBCASE("typing: the field's text, once a character") {
+        stage.type(L"72");
+        CHECK(stage.paintsOf(edit) == 2);
+        CHECK(stage.paints() == 2);
+    }
+    SUBCASE("stepping: the text once a step, the arrows with it at most") {
+        stage.key(VK_UP);
+        stage.key(VK_UP);
+        CHECK(stage.paintsOf(edit) == 2);
+        CHECK(stage.paints() <= stage.paintsOf(edit) + stage.paintsOf(Stage::window(field)));
+    }
+    SUBCASE("dragging: the slider once a move") {
+        const HWND bar = Stage::window(slider);
+        stage.press(bar, {50, 11});
+        stage.forgetPaints();
+        for (const LONG x : {60, 70, 80})
+            stage.move(bar, {x, 11});
+        CHECK(stage.paintsOf(bar) == 3);
+        CHECK(stage.paints() == 3);
+        stage.release();
+    }
+    SUBCASE("the value that it has: nothing") {
+        kItemSuite.SetFloatValue(slider, 50);
+        kItemSuite.SetFloatValue(field, 50);
+        kItemSuite.SetTipString(field, "A new tip");
+        stage.pump();
+        CHECK(stage.paints() == 0);
+    }
+}

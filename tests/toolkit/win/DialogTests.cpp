@@ -1,5 +1,6 @@
 /// Dialogs as a whole, in real windows: modal loops, focus, colours, and what handlers may do.
 
+#include "tests/toolkit/win/Census.h"
 #include "tests/toolkit/win/Stage.h"
 
 #include "toolkit/ImplCommon/Exceptions.h"
@@ -226,4 +227,40 @@ TEST_CASE("a client draws on a device context of its own") {
     ReleaseDC(window, port);
     CHECK_THROWS_AS(kDrawerSuite.Destroy(drawer), NRDMParameterException);
     CHECK_THROWS_AS(kDrawerSuite.Create(nullptr, &area, kADMDialogFont), NRDMParameterException);
+}
+
+TEST_CASE("a dialog with every type of item leaves nothing of the system's behind") {
+    constexpr const char* kTypes[] = {kADMTextPushButtonType,
+                                      kADMPicturePushButtonType,
+                                      kADMTextCheckBoxType,
+                                      kADMTextRadioButtonType,
+                                      kADMTextStaticType,
+                                      kADMPictureStaticType,
+                                      kADMTextEditType,
+                                      kADMTextEditPopupType,
+                                      kADMSpinEditType,
+                                      kADMSpinEditPopupType,
+                                      kADMPopupSpinEditControlType,
+                                      kADMPopupControlType,
+                                      kADMFrameType,
+                                      kADMSliderType,
+                                      kADMListBoxType,
+                                      kADMPopupListType,
+                                      kADMPopupMenuType,
+                                      kADMUserType};
+    Stage stage;
+    checkLeavesNothing("dialog", 24, [&] {
+        ADMDialogRef dialog = stage.dialog();
+        int id = 0;
+        for (const char* const type : kTypes) {
+            ADMItemRef item = stage.add(dialog, ++id, type, "&Item");
+            kItemSuite.SetPictureID(item, 2106, nullptr);
+            kItemSuite.SetTipString(item, "What this does");
+            if (ADMListRef list = kItemSuite.GetList(item))
+                kListSuite.SetMenuID(list, nullptr, 700, nullptr);
+        }
+        stage.show(dialog);
+        kDialogSuite.Destroy(dialog);
+        stage.pump();
+    });
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/Codes.h" // ahead of the system's headers, which have a name of its for themselves
+
 #include <windows.h>
 
 #include <functional>

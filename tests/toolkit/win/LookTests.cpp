@@ -104,26 +104,6 @@ TEST_CASE("shapes cover the area that geometry gives them") {
     }
 }
 
-TEST_CASE("an access key is the letter after the first single ampersand") {
-    struct Row {
-        const wchar_t* marked;
-        std::wstring text;
-        int accessKey;
-    };
-    const Row rows[] = {
-        {L"Origin &X:", L"Origin X:", 7},
-        {L"Cut && &Paste", L"Cut & Paste", 6},
-        {L"plain", L"plain", -1},
-        {L"ends with &", L"ends with &", -1},
-        {L"&A &B", L"A B", 0},
-    };
-    for (const auto& [marked, text, accessKey] : rows) {
-        const Caption caption = captionOf(marked);
-        CHECK(caption.text == text);
-        CHECK(caption.accessKey == accessKey);
-    }
-}
-
 TEST_CASE("a slider's pixels and values are each other's inverse") {
     const SliderScale scale{-360, 360, 5, 105};
     for (int pixel = 5; pixel <= 105; ++pixel)

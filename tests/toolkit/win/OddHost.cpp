@@ -212,11 +212,15 @@ BOOL CALLBACK hookInto(HWND window, LPARAM) {
 
 } // namespace
 
+void offerOddSuites(HWND window) {
+    mainWindow = window;
+    ai::basicSuite = offeringSuites(&kBasic);
+}
+
 OddHost::OddHost()
     : document(CreateWindowExW(0, L"STATIC", L"Document", WS_CHILD | WS_VISIBLE, 0, 0, 300, 200,
                                main.window, nullptr, nullptr, nullptr)) {
-    mainWindow = main.window;
-    ai::basicSuite = offeringSuites(&kBasic);
+    offerOddSuites(main.window);
     ai::suites.unicodeString = &kStrings;
     toolkit.emplace(nullptr, nullptr);
     SetForegroundWindow(main.window);

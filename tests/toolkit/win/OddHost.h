@@ -1,7 +1,5 @@
 #pragma once
 
-#include "host/Codes.h" // ahead of the system's headers, which have a name of its for themselves
-
 #include "tests/toolkit/win/Hands.h"
 
 #include "toolkit/SuiteTables.h"
@@ -10,6 +8,9 @@
 #include <optional>
 
 namespace NRDM::tests {
+
+/// Has the toolkit find the suites of a host with that main window. Resources are this program's.
+void offerOddSuites(HWND mainWindow);
 
 /// A host whose panels behave otherwise than Easel's, as its interface leaves it free to: it shows
 /// them by itself, destroys and remakes their windows without a word, hooks itself into windows

@@ -1,68 +1,22 @@
 #include "tests/toolkit/win/Stage.h"
 
-#include "host/suites/AIAppContextSuite.h"
-#include "host/suites/SPAccessSuite.h"
+#include "tests/toolkit/win/OddHost.h"
+
 #include "toolkit/ImplWin/WinPeers.h"
 #include "toolkit/ImplWin/WindowClass.h"
 
 #include <array>
 #include <cstdio>
-#include <string_view>
 
 namespace NRDM::tests {
-namespace {
-
-/// Of the stage that there is; the host's functions are told nothing else.
-HWND hostWindow = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global*)
-
-SPErr resourcesInProgram(SPPluginRef, SPPlatformAccessRef* library) {
-    *library = nullptr;
-    return kNoErr;
-}
-AIErr appWindow(AIWindowRef* window) {
-    *window = reinterpret_cast<AIWindowRef>(hostWindow);
-    return kNoErr;
-}
-
-template <typename Suite, auto Slot, auto Function> constexpr Suite withOne() {
-    Suite functions{};
-    functions.*Slot = Function;
-    return functions;
-}
-constexpr auto kAccess =
-    withOne<SPAccessSuite, &SPAccessSuite::GetPluginResourceAccess, resourcesInProgram>();
-constexpr auto kContext =
-    withOne<AIAppContextSuite, &AIAppContextSuite::GetPlatformAppWindow, appWindow>();
-
-SPErr acquire(const char* name, ai::int32, const void** functions) {
-    const std::string_view wanted = name;
-    *functions = wanted == kSPAccessSuite       ? static_cast<const void*>(&kAccess)
-                 : wanted == kAIAppContextSuite ? &kContext
-                                                : nullptr;
-    return *functions != nullptr ? kNoErr : kNotImplementedErr;
-}
-SPErr release(const char*, ai::int32) { return kNoErr; }
-
-constexpr SPBasicSuite basicSuite() {
-    SPBasicSuite functions{};
-    functions.AcquireSuite = acquire;
-    functions.ReleaseSuite = release;
-    return functions;
-}
-constexpr SPBasicSuite kBasic = basicSuite();
-
-} // namespace
-
 Stage::Stage() {
-    hostWindow = host.window;
-    ai::basicSuite = offeringSuites(&kBasic);
+    offerOddSuites(host.window);
     dialogs.emplace(themes, makePeers, this);
 }
 
 Stage::~Stage() {
     dialogs.reset();
     ai::basicSuite = nullptr;
-    hostWindow = nullptr;
 }
 
 std::unique_ptr<Peers> Stage::makePeers(void* stage) {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "host/Codes.h" // ahead of the system's headers, which have a name of its for themselves
-
 #include "tests/toolkit/win/Hands.h"
 
 #include "toolkit/ImplCommon/Dialogs.h"
