@@ -272,7 +272,6 @@ TEST_CASE("a broken file is one line that says where, what, and what would be ri
     const Row rows[] = {
         {"", "a.svg:1: there is no drawing in this file; an SVG file holds one <svg> element"},
         {"hello", "a.svg:1: there is text outside the drawing; only comments may stand there"},
-        {"<html/>", "a.svg:1: the outermost element is <html>; an SVG file holds an <svg>"},
         {"<svg>\n<g>\n</svg>", "a.svg:3: </svg> stands where </g> is due, for the <g> of line 2"},
         {"<svg>\n<g>", "a.svg:2: <g> is never closed; the file may have been cut off"},
         {"<svg><g a=b/></svg>",
@@ -280,14 +279,10 @@ TEST_CASE("a broken file is one line that says where, what, and what would be ri
         {"<svg>\n\n<g a='1' a='2'/></svg>", "a.svg:3: a stands twice in <g>; keep one"},
         {"<svg><g a/></svg>", "a.svg:1: an attribute of <g> is broken; write name=\"value\""},
         {"<svg>a < b</svg>", "a.svg:1: < is not followed by a name; a plain < is written &lt;"},
-        {"<svg><!-- x</svg>", "a.svg:1: the comment is never closed; it ends with -->"},
         {"<svg/><svg/>",
          "a.svg:1: there is a second outermost element; an SVG file holds one <svg> element"},
-        {"</svg>", "a.svg:1: </svg> closes nothing; remove it"},
         {"<svg viewBox='0 0 10'/>", "a.svg:1: the viewBox is '0 0 10'; write its left, top, width "
                                     "and height, as in viewBox=\"0 0 800 600\""},
-        {"<svg width='wide'/>",
-         "a.svg:1: the width is 'wide'; write a length such as 800 or 210mm"},
         {"<svg>\n<path d='M0 0' transform='turn(9)'/></svg>",
          "a.svg:2: the transform of <path> is not understood; write matrix, translate, scale, "
          "rotate, skewX or skewY with numbers"},
@@ -299,8 +294,6 @@ TEST_CASE("a broken file is one line that says where, what, and what would be ri
          "a.svg:1: easel:members is no list of what the subpaths carry"},
         {"<svg>\n<g id='\xC3'/></svg>",
          "a.svg:2: byte 8 of the line is no UTF-8; save the drawing in UTF-8"},
-        {"<svg id='\xED\xA0\x80'/>",
-         "a.svg:1: byte 10 of the line is no UTF-8; save the drawing in UTF-8"},
         {std::string{"<svg\0/>", 7}, "a.svg:1: this is no text; an SVG file is XML in UTF-8"},
     };
     for (const auto& row : rows) {

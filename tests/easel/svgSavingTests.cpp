@@ -257,22 +257,6 @@ TEST_CASE("a moved ruler origin is kept, and the drawing stays where it is") {
     checkStable(*opened.document);
 }
 
-TEST_CASE("a mirrored copy's gradient is mirrored with it, for others as well") {
-    const auto opened =
-        readSvgText(easel::session(),
-                    file("<linearGradient id='a' gradientUnits='userSpaceOnUse' x2='50'><stop/>"
-                         "<stop offset='1' stop-color='red'/></linearGradient>"
-                         "<path d='M0 0H50V50Z' fill='url(#a)'/>"),
-                    "x");
-    Art& path = firstArt(*opened.document);
-    Art& copy = duplicateArt(path, onTopOf(*path.parent()));
-    transformArt(copy, {-1, 0, 0, 1, 100, 0}, 1, kTransformObjects | kTransformFillGradients);
-    const std::string text = svgText(*opened.document);
-    CHECK(text.find(R"(x1="0" y1="0" x2="50" y2="0" gradientUnits="userSpaceOnUse" )"
-                    R"svg(gradientTransform="matrix(-1 0 0 1 100 0)")svg") != std::string::npos);
-    checkStable(*opened.document);
-}
-
 TEST_CASE("a document that no file was read for can be saved") {
     Document document{easel::session(), AISize{200, 100}};
     Art& path = createArt(document, kPathArt, onTopOf(*document.root().firstChild()));

@@ -88,24 +88,6 @@ TEST_CASE("places where art cannot go are refused and nothing changes") {
     CHECK(dump(drawing.document) == before);
 }
 
-TEST_CASE("a handle dies with its object, and no other object gets it") {
-    const Drawing drawing;
-    const AIArtHandle group = drawing.make(kGroupArt);
-    const AIArtHandle child = drawing.make(kPathArt, kPlaceInsideOnTop, group);
-    CHECK(art().DisposeArt(group) == kNoErr);
-    ai::int16 type = kAnyArt;
-    for (const AIArtHandle dead : {group, child}) {
-        CHECK(art().ValidArt(dead, 1) == 0);
-        CHECK(art().GetArtType(dead, &type) == kBadParameterErr);
-    }
-    for (int i = 0; i < 100; ++i) {
-        const AIArtHandle made = drawing.make(kPathArt);
-        CHECK(made != group);
-        CHECK(made != child);
-    }
-    CHECK(art().ValidArt(nullptr, 1) == 0);
-}
-
 TEST_CASE("a copy carries what the original has, all the way down") {
     const Drawing drawing;
     const AIArtHandle group = drawing.make(kGroupArt);

@@ -273,43 +273,6 @@ TEST_CASE("a change outside any record cannot be undone and ends the history bef
     CHECK_FALSE(document.undo().undo());
 }
 
-TEST_CASE("what has happened is told apart for those who announce it") {
-    struct Row {
-        const char* what;
-        void (*change)(Drawing&);
-        bool DocumentChanges::*noted;
-        bool art;
-    };
-    const Row rows[] = {
-        {"selecting", [](Drawing& d) { selectAll(d.document); }, &DocumentChanges::selection,
-         false},
-        {"drawing", [](Drawing& d) { d.make(kPathArt); }, &DocumentChanges::art, true},
-        {"a title",
-         [](Drawing& d) {
-             changeLayer(d.layerGroup(), [](LayerProperties& own) { own.title = "new"; });
-         },
-         &DocumentChanges::layerOptions, true},
-        {"the ruler origin",
-         [](Drawing& d) {
-             d.document.setRulerOrigin({1, 1});
-         },
-         &DocumentChanges::rulerOrigin, true},
-    };
-    for (const auto& row : rows) {
-        INFO(row.what);
-        Drawing drawing;
-        drawing.make(kPathArt);
-        static_cast<void>(drawing.document.takeChanges());
-        drawing.document.setModified(false);
-        row.change(drawing);
-        const DocumentChanges changes = drawing.document.takeChanges();
-        CHECK(changes.*row.noted);
-        CHECK(changes.art == row.art);
-        CHECK(drawing.document.isModified());
-        CHECK_FALSE(drawing.document.takeChanges().any());
-    }
-}
-
 TEST_CASE("a dictionary that outlives its document records nothing and harms nobody") {
     Ref<Dictionary> survivor;
     {

@@ -49,39 +49,4 @@ TEST_CASE("reading what was never written leaves the default in place") {
     }
 }
 
-TEST_CASE("numbers and booleans convert into each other, texts into neither") {
-    Fixture fixture;
-    const auto& suite = *ai::suites.preference;
-    suite.PutRealPreference(kPrefix, "real", 3.75);
-    suite.PutIntegerPreference(kPrefix, "integer", 2);
-    suite.PutBooleanPreference(kPrefix, "boolean", 55);
-    suite.PutStringPreference(kPrefix, "text", "1");
-    suite.PutRealPreference(kPrefix, "huge", 1e300);
-
-    struct Row {
-        std::string name;
-        AIBoolean asBoolean;
-        ai::int32 asInteger;
-        double asReal;
-    };
-    constexpr ai::int32 kMost = std::numeric_limits<ai::int32>::max();
-    const Row rows[] = {{"real", 1, 3, 3.75},
-                        {"integer", 1, 2, 2},
-                        {"boolean", 1, 1, 1},
-                        {"text", -9, -9, -9},
-                        {"huge", 1, kMost, 1e300}};
-    for (const auto& row : rows) {
-        INFO(row.name);
-        AIBoolean boolean = -9;
-        ai::int32 integer = -9;
-        double real = -9;
-        suite.GetBooleanPreference(kPrefix, row.name.c_str(), &boolean);
-        suite.GetIntegerPreference(kPrefix, row.name.c_str(), &integer);
-        suite.GetRealPreference(kPrefix, row.name.c_str(), &real);
-        CHECK(boolean == row.asBoolean);
-        CHECK(integer == row.asInteger);
-        CHECK(real == row.asReal);
-    }
-}
-
 } // namespace facetta::tests

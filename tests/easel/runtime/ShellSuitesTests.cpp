@@ -1,21 +1,14 @@
-#include "host/FilePath.h"
 #include "host/References.h"
-#include "host/UnicodeString.h"
 #include "host/suites/AIAnnotatorDrawerSuite.h"
 #include "host/suites/AIAnnotatorSuite.h"
 #include "host/suites/AICursorSnapSuite.h"
-#include "host/suites/AIDocumentSuite.h"
 #include "host/suites/AIDocumentViewSuite.h"
-#include "host/suites/AIFilePathSuite.h"
 #include "tests/easel/runtime/TestPlugin.h"
 
-#include "easel/core/HostPath.h"
 #include "easel/document/ArtTree.h"
 #include "easel/suites/Suites.h"
 
 #include <doctest/doctest.h>
-
-#include <fstream>
 
 namespace facetta::tests {
 namespace {
@@ -30,8 +23,6 @@ struct Fixture {
     easel::Host host{easel::sessionWithSuites()};
     TestPlugin plugin{host};
 };
-
-ai::UnicodeString text(const char* utf8) { return ai::UnicodeString{std::string_view(utf8)}; }
 
 AIPathSegment corner(AIReal h, AIReal v) { return {{h, v}, {h, v}, {h, v}, 1}; }
 
@@ -102,24 +93,6 @@ TEST_CASE("view pixels run down from the top left, whatever centre and zoom") {
     CHECK(zoom == 64);
 }
 
-TEST_CASE("the canvas stays where it is when the ruler origin moves") {
-    Fixture fixture;
-    const auto& suite = *ai::suites.document;
-    AIRealRect before{};
-    suite.GetDocumentMaxArtboardBounds(&before);
-    // A hundred to the right of the artboard's left edge, 150 above its lower one.
-    AIRealPoint origin = easel::session().document().state().rulerOrigin;
-    origin.h += 100;
-    origin.v += 400 - 150;
-    fixture.host.edit("Ruler", [&](easel::Document& drawing) { drawing.setRulerOrigin(origin); });
-    AIRealRect after{};
-    suite.GetDocumentMaxArtboardBounds(&after);
-    CHECK(after.right - after.left == 16383);
-    CHECK(after.top - after.bottom == 16383);
-    CHECK(after.left == before.left - 100);
-    CHECK(after.top == before.top + (400 - 150)); // it was at the top left corner before
-}
-
 TEST_CASE("snapping searches the sources of the control string in its order") {
     Fixture fixture;
     easel::Document& document = easel::session().document();
@@ -160,32 +133,6 @@ TEST_CASE("snapping searches the sources of the control string in its order") {
     AIRealPoint result{};
     ai::suites.cursorSnap->Track(nullptr, {102, -101}, nullptr, "A v", &result);
     CHECK(result.h == 102);
-}
-
-TEST_CASE("file paths take and give native text") {
-    Fixture fixture;
-    const auto& suite = *ai::suites.filePath;
-    const std::filesystem::path folder = std::filesystem::temp_directory_path();
-    const std::filesystem::path file = folder / "easel-path-test.txt";
-    std::ofstream(file) << "x";
-
-    ai::FilePath path;
-    CHECK(easel::readPath(easel::session().ledger, path).empty());
-    const ai::UnicodeString folderText{std::u16string_view(folder.u16string())};
-    REQUIRE(suite.Set(folderText, 0, path) == kNoErr);
-    REQUIRE(suite.AddComponent(text("easel-path-test.txt"), path) == kNoErr);
-    AIBool8 isFile = 0;
-    CHECK(suite.Exists(path, 1, nullptr, &isFile) == 1);
-    CHECK(isFile == 1);
-    std::filesystem::remove(file);
-    CHECK(suite.Exists(path, 1, nullptr, nullptr) == 0);
-
-    REQUIRE(suite.GetParent(path, path) == kNoErr); // the same object
-    CHECK(easel::readPath(easel::session().ledger, path) == file.parent_path());
-    ai::FilePath root;
-    suite.Set(ai::UnicodeString{std::u16string_view(folder.root_path().u16string())}, 0, root);
-    suite.GetParent(root, root);
-    CHECK(easel::readPath(easel::session().ledger, root).empty());
 }
 
 } // namespace facetta::tests

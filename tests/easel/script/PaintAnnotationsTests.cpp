@@ -123,27 +123,6 @@ TEST_CASE("a clip is all that is drawn between its marks, and ends when it is cl
     CHECK(red(picture, 37, 2) == 100);
 }
 
-TEST_CASE("text stands on its point") {
-    const auto redBox = [](const Picture& picture) {
-        AIRect box{40, 40, 0, 0};
-        for (int y = 0; y < 40; ++y)
-            for (int x = 0; x < 40; ++x)
-                if (red(picture, x, y) > 30) {
-                    box.left = std::min<ai::int32>(box.left, x);
-                    box.right = std::max<ai::int32>(box.right, x);
-                    box.top = std::min<ai::int32>(box.top, y);
-                    box.bottom = std::max<ai::int32>(box.bottom, y);
-                }
-        return box;
-    };
-    DrawCommand text = shape(Kind::Text, {{10, 25}});
-    text.text = U"HI";
-    const AIRect onPoint = redBox(painted({text}));
-    CHECK(std::abs(onPoint.bottom - 24) <= 1);
-    CHECK(std::abs(onPoint.top - 17) <= 2);
-    CHECK(std::abs(onPoint.left - 11) <= 2);
-}
-
 TEST_CASE("a text is as wide as it is told to be") {
     for (const char32_t* const words : {U"Constrain Angle", U"Specify Number of Axes", U"Illill"}) {
         DrawCommand text = shape(Kind::Text, {{10, 25}});
