@@ -123,7 +123,8 @@ SPErr SuiteServer::acquire(const char* name, ai::int32 version, const void** fun
     *functions = nullptr;
     const auto found = tables_.find({std::string(name), version});
     ++acquisitions_;
-    if (found == tables_.end() || acquisitions_ == refuse_) return kSPSuiteNotFoundError;
+    const bool refused = acquisitions_ == refuse_ || acquisitions_ == refuseToo_;
+    if (found == tables_.end() || refused) return kSPSuiteNotFoundError;
     ++found->second->acquired;
     *functions = found->second->slots();
     return kNoErr;

@@ -90,11 +90,14 @@ public:
     /// A new host begins: what was never released in the last one is no concern of its.
     void forgetAcquisitions() noexcept;
 
-    /// The acquisition to refuse, counted from 1 over all that follow; 0 refuses none.
-    void refuseAcquisition(int number) noexcept {
+    /// The acquisitions to refuse, counted from 1 over all that follow; 0 refuses none.
+    void refuseAcquisition(int number, int second = 0) noexcept {
         refuse_ = number;
+        refuseToo_ = second;
         acquisitions_ = 0;
     }
+    /// Since `refuseAcquisition`.
+    [[nodiscard]] int acquisitions() const noexcept { return acquisitions_; }
 
 private:
     [[nodiscard]] AnySuiteTable& at(std::string_view name, ai::int32 version);
@@ -102,6 +105,7 @@ private:
     std::map<std::pair<std::string, ai::int32>, std::unique_ptr<AnySuiteTable>, std::less<>>
         tables_;
     int refuse_ = 0;
+    int refuseToo_ = 0;
     int acquisitions_ = 0;
 };
 
