@@ -26,7 +26,7 @@ void tell(const validate::Result& result, std::ostream& out) {
     for (std::size_t i = 0; i < std::min(result.faults.size(), kMostShown); ++i) {
         const validate::Fault& fault = result.faults[i];
         out << "  " << fault.tried << ": " << fault.found << "\n    " << fault.command << '\n';
-        for (const std::string& line : fault.said)
+        for (const std::string& line : fault.more)
             out << "    | " << line << '\n';
     }
     out.flush();
@@ -38,7 +38,7 @@ Json jsonOf(const validate::Result& result) {
         faults.push_back({{"number", fault.number},
                           {"tried", fault.tried},
                           {"found", fault.found},
-                          {"said", fault.said},
+                          {"more", fault.more},
                           {"command", fault.command}});
     return {{"check", result.check->name},
             {"promise", result.check->promise},

@@ -171,6 +171,22 @@ const char* commonSettings() {
            "preference Facetta FTDlgPosY 30";
 }
 
+const char* lifeOfAxes() {
+    return "tool \"Adobe Select Tool\"\n"
+           "new 400 400\n"
+           "panel show\n"
+           "panel click 2\n"
+           "tool \"Facetta Tool\"\n"
+           "press 200,200\n"
+           "drag 300,200\n"
+           "release\n"
+           "wait 3000\n" // for what was left to a timer
+           "panel click 5\n"
+           "expect undo \"Undo Apply Symmetry Axes to Layer\"\n"
+           "undo\n"
+           "close";
+}
+
 const char* linesTo(Stage stage) {
     // Each goes on where the one before has ended.
     constexpr std::array kLines = {

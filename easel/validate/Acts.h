@@ -27,5 +27,7 @@ struct Act {
 /// The settings for every act, and the lines that lead to a stage from the opened drawing.
 [[nodiscard]] const char* commonSettings();
 [[nodiscard]] const char* linesTo(Stage stage);
+/// Axes are made, applied and taken back in a new drawing, as must be possible at any time.
+[[nodiscard]] const char* lifeOfAxes();
 
 } // namespace easel::validate

@@ -12,6 +12,19 @@ constexpr Check kChecks[] = {
      "Whatever call of the host fails in whatever is done, the drawing is as it was, is done, or "
      "is one Undo away, nothing stays lent, and the next act works",
      checkFailingHost},
+    {"hostile-entries",
+     "Whatever a drawing holds under the plug-in's keys, it is opened as it is, and each edit can "
+     "be undone",
+     checkHostileEntries},
+    {"hostile-settings",
+     "Whatever the store of settings holds, the plug-in starts, works and leaves values in their "
+     "range",
+     checkHostileSettings},
+    {"monkey",
+     "After any sequence of acts all can be undone and done again, copies lie only on layers with "
+     "axes, and the saved drawing is opened as it was",
+     checkMonkey},
+    {"time-limits", "No act in a large drawing takes longer than a second", checkTimeLimits},
 };
 
 } // namespace

@@ -19,5 +19,9 @@ struct Check {
 
 void checkLife(Session& session, Trials& trials);
 void checkFailingHost(Session& session, Trials& trials);
+void checkHostileEntries(Session& session, Trials& trials);
+void checkHostileSettings(Session& session, Trials& trials);
+void checkMonkey(Session& session, Trials& trials);
+void checkTimeLimits(Session& session, Trials& trials);
 
 } // namespace easel::validate

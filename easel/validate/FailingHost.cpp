@@ -26,21 +26,6 @@ bool cannotFail(const std::string& function) {
     return function.starts_with("AI Entry Suite.To") || function == "AI Dictionary Suite.Set";
 }
 
-/// The whole life of axes, which must go as ever.
-constexpr const char* kGoesOn = "tool \"Adobe Select Tool\"\n"
-                                "new 400 400\n"
-                                "panel show\n"
-                                "panel click 2\n"
-                                "tool \"Facetta Tool\"\n"
-                                "press 200,200\n"
-                                "drag 300,200\n"
-                                "release\n"
-                                "panel click 5\n"
-                                "wait 3000\n" // for what was left to a timer
-                                "expect undo \"Undo Apply Symmetry Axes to Layer\"\n"
-                                "undo\n"
-                                "close";
-
 /// An act in which nothing fails.
 struct Rehearsal {
     std::string before;
@@ -99,13 +84,16 @@ void judgeReactions(Trials& trials, const Rehearsal& rehearsal, const FaultPlan&
 }
 
 void judgeDocuments(Trials& trials, Sitting& sitting, const Rehearsal& rehearsal) {
+    std::string found;
     const auto fits = [&] {
-        const std::string found = sitting.documents();
+        found = sitting.documents();
         return found == rehearsal.before || found == rehearsal.after;
     };
     if (fits()) return;
     sitting.undo();
-    if (!fits()) trials.fail("the drawing is neither as before nor as after, nor one Undo away");
+    if (!fits())
+        trials.fail("the drawing is neither as before nor as after, nor one Undo away: " +
+                    difference(rehearsal.before, found));
 }
 
 void tryFault(Session& session, Trials& trials, const Case& which, const Rehearsal& rehearsal,
@@ -122,7 +110,7 @@ void tryFault(Session& session, Trials& trials, const Case& which, const Rehears
     try {
         sitting.player().host().idle();
         judgeDocuments(trials, sitting, rehearsal);
-        sitting.perform(kGoesOn);
+        sitting.perform(lifeOfAxes());
     } catch (const SessionError& error) {
         trials.fail("afterwards " + std::string(error.what()));
     }

@@ -41,27 +41,10 @@ constexpr std::array<Sample, 5> kSamplesWithWindows = {{{3, 0, 10, 10, 4},
                                                         {1000, 6, 2000, 5000, 1000}}};
 constexpr int kMessagesOfBatch = 1000;
 
-/// The whole life of axes.
-constexpr const char* kLife = "new 400 400\n"
-                              "panel show\n"
-                              "panel click 2\n"
-                              "tool \"Facetta Tool\"\n"
-                              "press 200,200\n"
-                              "drag 300,200\n"
-                              "release\n"
-                              "panel click 5\n"
-                              "expect undo \"Undo Apply Symmetry Axes to Layer\"\n"
-                              "panel hide";
-
-void finish(Trials& trials, Sitting& sitting) {
-    for (const std::string& complaint : sitting.finish())
-        trials.fail(complaint);
-}
-
 void live(Session& session, Trials& trials) {
     Sitting sitting(session, trials.options().plugin);
     try {
-        sitting.perform(kLife);
+        sitting.perform(lifeOfAxes());
     } catch (const SessionError& error) {
         trials.fail(error.what());
     }
@@ -136,7 +119,7 @@ void startAgainstOdds(Session& session, Trials& trials) {
     }
     session.calls.disarm();
     session.suites.refuseAcquisition(0);
-    if (started) sitting.attempt(kLife);
+    if (started) sitting.attempt(lifeOfAxes());
     const Sitting::Reactions reactions = sitting.takeReactions();
     if (reactions.alerts.size() > 2)
         trials.fail(std::to_string(reactions.alerts.size()) + " alerts, the first: \"" +
@@ -361,7 +344,7 @@ void sendBatch(Session& session, Trials& trials, Random random) {
     });
     static_cast<void>(sitting.takeReactions());
     try {
-        sitting.perform(kLife);
+        sitting.perform(lifeOfAxes());
     } catch (const SessionError& error) {
         trials.fail("afterwards " + std::string(error.what()));
     }

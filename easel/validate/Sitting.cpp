@@ -20,12 +20,49 @@ void take(script::Player& player, const script::Step& step) {
     if (!finding.met) throw SessionError("wanted " + finding.wanted + "; found " + finding.found);
 }
 
+/// Counts the lines that have not come back.
+class Under {
+public:
+    explicit Under(int& count) : count_(count) { ++count_; }
+    ~Under() { --count_; }
+    Under(const Under&) = delete;
+    Under& operator=(const Under&) = delete;
+
+private:
+    int& count_;
+};
+
 std::string lineOf(std::string_view lines, int number) {
     std::istringstream all{std::string(lines)};
     std::string line;
     for (int i = 0; i < number; ++i)
         std::getline(all, line);
     return line;
+}
+
+std::string withoutStamps(const std::string& text) {
+    std::istringstream lines(text);
+    std::string kept;
+    for (std::string line; std::getline(lines, line);)
+        if (line.find("entry \"ts\"") == std::string::npos) kept += line + '\n';
+    return kept;
+}
+
+/// The current layer is a kind of selection as well, which no step of undo changes by itself. Of a
+/// segment a number follows that says which of its points are selected.
+std::string withoutSelection(std::string text) {
+    constexpr std::string_view kCurrent = " current \"";
+    for (std::size_t at = 0; (at = text.find(kCurrent, at)) != std::string::npos;)
+        text.erase(at, text.find('\n', at) - at);
+    constexpr std::string_view kDigits = " 0123456789";
+    for (const std::string_view word : {" selected", " fully-selected"})
+        for (std::size_t at = 0; (at = text.find(word, at)) != std::string::npos;) {
+            const std::size_t end = at + word.size();
+            const std::size_t next = std::min(text.find_first_not_of(kDigits, end), text.size());
+            const bool isNumber = next > end + 1 && text[next] == '\n';
+            text.erase(at, (isNumber ? next : end) - at);
+        }
+    return text;
 }
 
 } // namespace
@@ -37,13 +74,17 @@ void Sitting::play(std::string_view lines, bool passOver) {
     const script::Script script = script::readScript(lines, "");
     if (!script.mistakes.empty()) throw SessionError(script.mistakes.front());
     std::size_t next = 0;
+    int underWay = 0;
     std::optional<std::string> wrong;
     // A line may open a dialog: those that follow are then done before it has come back.
     serveUser([&] {
         if (wrong || next == script.steps.size()) return false;
         const script::Step& step = script.steps[next++];
         std::string what;
+        const Under under(underWay);
         try {
+            if (underWay > 1 && step.underDialog == script::UnderDialog::Refused)
+                throw SessionError("a dialog keeps the user from this");
             take(player_, step);
             return true;
         } catch (const ai::Error& error) {
@@ -78,12 +119,14 @@ void Sitting::prepare(const Act& act, const std::string& drawing) {
 std::string Sitting::documents() const {
     std::string text;
     for (const std::unique_ptr<Document>& document : session_.host->documents())
-        text += dump(*document);
-    std::istringstream lines(text);
-    std::string kept;
-    for (std::string line; std::getline(lines, line);)
-        if (line.find("entry \"ts\"") == std::string::npos) kept += line + '\n';
-    return kept;
+        text += withoutStamps(dump(*document));
+    return text;
+}
+
+std::string Sitting::art() const { return withoutSelection(documents()); }
+
+std::string Sitting::artOf(const Document& document) {
+    return withoutSelection(withoutStamps(dump(document)));
 }
 
 void Sitting::undo() {
@@ -101,5 +144,30 @@ Sitting::Reactions Sitting::takeReactions() {
 }
 
 std::vector<std::string> Sitting::finish() { return player_.finish(); }
+
+std::string difference(const std::string& wanted, const std::string& found) {
+    std::istringstream wantedLines(wanted);
+    std::istringstream foundLines(found);
+    std::string one;
+    std::string other;
+    for (int line = 1;; ++line) {
+        const bool more = static_cast<bool>(std::getline(wantedLines, one));
+        const bool moreFound = static_cast<bool>(std::getline(foundLines, other));
+        if (!more && !moreFound) return "none";
+        if (more && moreFound && one == other) continue;
+        return "line " + std::to_string(line) + " should be \"" + (more ? one : "") +
+               "\" and is \"" + (moreFound ? other : "") + '"';
+    }
+}
+
+void finish(Trials& trials, Sitting& sitting) {
+    const Sitting::Reactions reactions = sitting.takeReactions();
+    for (const SPErr code : reactions.codes)
+        trials.fail("a message was answered with " + codeText(code));
+    for (const std::string& alert : reactions.alerts)
+        trials.fail("an alert: \"" + alert + '"');
+    for (const std::string& complaint : sitting.finish())
+        trials.fail(complaint);
+}
 
 } // namespace easel::validate

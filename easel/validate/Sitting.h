@@ -2,6 +2,7 @@
 
 #include "easel/script/Script.h"
 #include "easel/validate/Acts.h"
+#include "easel/validate/Trials.h"
 
 #include <filesystem>
 #include <optional>
@@ -25,6 +26,9 @@ public:
 
     /// All open drawings as text, but for stamps: taking a change back makes a later one.
     [[nodiscard]] std::string documents() const;
+    /// The same without what is selected; of all of them, or of one.
+    [[nodiscard]] std::string art() const;
+    [[nodiscard]] static std::string artOf(const Document& document);
     /// One step back, if there is one.
     void undo();
     /// What the plug-in has answered and shown in what was done since the last call: codes of
@@ -46,5 +50,12 @@ private:
     script::Player player_;
     std::size_t sentSeen_ = 0;
 };
+
+/// Where two drawings differ first, a line of each.
+[[nodiscard]] std::string difference(const std::string& wanted, const std::string& found);
+
+/// Ends a sitting that should have gone well: reports messages answered with errors, alerts, and
+/// what was wrong with the session as a whole.
+void finish(Trials& trials, Sitting& sitting);
 
 } // namespace easel::validate

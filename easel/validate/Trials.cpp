@@ -17,6 +17,14 @@ bool Trials::begin(std::uint64_t number, std::string_view what) {
 
 void Trials::fail(std::string_view what) { tell(kFinding, what); }
 
+void Trials::explain(std::string_view lines) {
+    while (!lines.empty()) {
+        const std::size_t end = std::min(lines.find('\n'), lines.size());
+        tell(kExplanation, lines.substr(0, end));
+        lines.remove_prefix(std::min(end + 1, lines.size()));
+    }
+}
+
 void Trials::end() { tell(kEnd, std::to_string(begun_)); }
 
 void Trials::tell(std::string_view word, std::string_view what) {

@@ -24,6 +24,7 @@ public:
     /// A line each: the word, a tab, and what belongs to it.
     static constexpr std::string_view kTry = "try";         ///< NUMBER WHAT
     static constexpr std::string_view kFinding = "finding"; ///< WHAT
+    static constexpr std::string_view kExplanation = "how"; ///< LINE
     static constexpr std::string_view kEnd = "end";         ///< NUMBER of tries
 
     Trials(const Options& options, std::ostream& out) : options_(options), out_(out) {}
@@ -41,6 +42,8 @@ public:
     [[nodiscard]] bool begin(std::uint64_t number, std::string_view what);
     /// In the try that was begun last.
     void fail(std::string_view what);
+    /// Goes with the next `fail`: how the try came about, a line each.
+    void explain(std::string_view lines);
     void end();
 
     /// For the choices of that try.

@@ -7,6 +7,7 @@
 #include <chrono>
 #include <functional>
 #include <stdexcept>
+#include <utility>
 
 namespace easel::validate {
 namespace {
@@ -106,7 +107,9 @@ private:
         if (how.empty() && !ended) how = "ended in the middle of it";
         if (how.empty()) return true;
         note("the process " + how);
-        result_.faults.back().said = std::move(said_);
+        result_.faults.back().more = std::move(explanation_);
+        result_.faults.back().more.insert(result_.faults.back().more.end(), said_.begin(),
+                                          said_.end());
         return false;
     }
 
@@ -114,11 +117,15 @@ private:
     bool take(const std::string& line) {
         if (const auto begun = after(Trials::kTry, line)) {
             said_.clear();
+            explanation_.clear();
             ++result_.tries;
             number_ = numberIn(*begun);
             tried_ = begun->substr(std::min(begun->find('\t') + 1, begun->size()));
         } else if (const auto found = after(Trials::kFinding, line)) {
             note(std::string(*found));
+            result_.faults.back().more = std::exchange(explanation_, {});
+        } else if (const auto how = after(Trials::kExplanation, line)) {
+            explanation_.emplace_back(*how);
         } else if (after(Trials::kEnd, line)) {
             return true;
         } else if (said_.size() < kMostSaid) {
@@ -138,6 +145,7 @@ private:
     Result result_;
     std::uint64_t number_ = 0; ///< Of the try under way, and what it is.
     std::string tried_;
+    std::vector<std::string> explanation_;
     std::vector<std::string> said_; ///< In it: a plug-in's last words, or a sanitizer's.
 };
 

@@ -14,8 +14,9 @@ struct Fault {
     std::uint64_t number = 0; ///< Of the try.
     std::string tried;
     std::string found;
-    std::vector<std::string> said; ///< What the process wrote before it ended; mostly nothing.
-    std::string command;           ///< That makes this try again, alone.
+    /// How it came about, or what the process wrote before it ended; mostly nothing.
+    std::vector<std::string> more;
+    std::string command; ///< That makes this try again, alone.
 };
 
 /// What came of a check.

@@ -1,0 +1,52 @@
+#include "easel/script/System.h"
+#include "easel/validate/Checks.h"
+#include "easel/validate/Drawings.h"
+#include "easel/validate/Sitting.h"
+
+#include <chrono>
+
+/// How long acts take in a drawing of many paths. The benchmarks have the figures; here nobody must
+/// have to wait.
+
+namespace easel::validate {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::chrono::milliseconds kLimit{1000};
+
+void time(Session& session, Trials& trials, const Act& act, const std::string& drawing) {
+    Sitting sitting(session, trials.options().plugin);
+    try {
+        sitting.prepare(act, drawing);
+        const Clock::time_point began = Clock::now();
+        sitting.perform(act.lines);
+        const auto took =
+            std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - began);
+        if (took > kLimit) trials.fail("it took " + std::to_string(took.count()) + " ms");
+    } catch (const SessionError& error) {
+        trials.fail(error.what());
+    }
+    static_cast<void>(sitting.takeReactions());
+    finish(trials, sitting);
+}
+
+} // namespace
+
+void checkTimeLimits(Session& session, Trials& trials) {
+    // Acts between which strictness chooses, and leaves in the drawing.
+    const auto every = trials.byStrictness<std::uint64_t>(
+        onWindows() ? std::array<std::uint64_t, 5>{20, 8, 4, 1, 1}
+                    : std::array<std::uint64_t, 5>{8, 2, 1, 1, 1});
+    const int leaves = trials.byStrictness<int>({100, 300, 1000, 1000, 2000});
+    const std::string drawing = manyLeaves(leaves);
+    std::uint64_t number = 0;
+    for (const Act& act : acts()) {
+        ++number;
+        if (number % every == 0 && trials.begin(number, std::string(act.name) + " on " +
+                                                            std::to_string(leaves) + " leaves"))
+            time(session, trials, act, drawing);
+    }
+}
+
+} // namespace easel::validate
