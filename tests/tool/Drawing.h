@@ -61,6 +61,14 @@ public:
         });
         return *made;
     }
+    /// Inside the current layer; it holds one line.
+    void newSublayer() {
+        host.edit("New Sublayer", [](easel::Document& page) {
+            easel::Art& top = *page.state().currentLayer;
+            easel::setCurrentLayer(page, easel::createLayer(page, "Inner", easel::onTopOf(top)));
+            drawLine(page, {320, -150}, {350, -140}, /*selected*/ false);
+        });
+    }
     void chooseLayer(easel::Art& layer) {
         host.edit(
             "Choose Layer", [&](easel::Document& page) { easel::setCurrentLayer(page, layer); },

@@ -54,12 +54,7 @@ TEST_CASE("Cancel gives an edited layer back its axes, its copies and its guides
 
 TEST_CASE("the edit reaches all of a layer from any of its sublayers") {
     Drawing session(/*selected*/ false);
-    session.host.edit("New Sublayer", [](easel::Document& document) {
-        easel::Art& top = *document.state().currentLayer;
-        easel::setCurrentLayer(document,
-                               easel::createLayer(document, "Inner", easel::onTopOf(top)));
-        drawLine(document, {320, -150}, {350, -140}, /*selected*/ false);
-    });
+    session.newSublayer();
     session.makeLive();
     const std::string before = session.textButStamp();
     REQUIRE(countPaths(session.document(), /*lockedOnes*/ true) == 10);

@@ -105,6 +105,14 @@ TEST_CASE("art drawn during an edit is mirrored when the panel cancels the edit"
     CHECK(copiesIn(session) == 10);
 }
 
+TEST_CASE("numbers given after a drag take the guides along") {
+    PanelInHand session;
+    session.applyToLayer(/*withGuides*/ true);
+    session.dragFrom(session.onRay(1, 200), session.onRay(1.25, 200));
+    session.type(kAngle, "30");
+    CHECK(session.guideAngles() == std::vector{30, 90, 150});
+}
+
 TEST_CASE("a layer that is locked keeps its axes as they are") {
     PanelInHand session;
     session.applyToLayer();

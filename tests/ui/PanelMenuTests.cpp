@@ -78,6 +78,17 @@ TEST_CASE("axes pasted as provisional wait to be applied, with the tool in hand"
     CHECK(session.isEnabled(kCancel));
 }
 
+TEST_CASE(
+    "a sublayer has the axes of its layer: none are pasted beside them, Cancel takes them off") {
+    PanelInHand session;
+    session.newSublayer();
+    session.applyToLayer();
+    session.choose(kCopy);
+    CHECK_FALSE(session.offers(kPasteToLayer));
+    session.click(kCancel);
+    CHECK_FALSE(someLayerHasAxes());
+}
+
 TEST_CASE("pasting takes the place of what was pending") {
     Copied session;
     session.dragFrom({500, -500}, {600, -500});

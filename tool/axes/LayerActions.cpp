@@ -44,11 +44,11 @@ void editAxes(ToolSession& session, const SymmetryAxes& changed, CountsAs counts
         ai::nameUndoStep("Edit Symmetry Axes");
         state.zone = ToolZone::Axis;
     }
+    hold(state, {state.activity, changed, state.edit});
     if (!ofLayer && layerEditInProgress(state) && layerHasAxisGuides()) {
-        renewGuides(state); // a drag before this has laid them along the axes
+        renewGuides(state); // a drag before this has laid them along the axes as they were
         ai::nameUndoStep("Edit Symmetry Axes");
     }
-    hold(state, {state.activity, changed, state.edit});
     if (ofLayer) {
         state.editCountsAs = countsAs;
         takeTool(session);
