@@ -44,6 +44,7 @@ bool beginsWhere(AIArtHandle copy, AIArtHandle source, const AIRealMatrix& image
 }
 
 bool spansWhere(AIArtHandle copy, AIArtHandle source, AIRealMatrix& image) {
+    if (typeOf(copy) != typeOf(source)) return false; // that of another one, which is gone
     AIRealRect is{};
     AIRealRect wanted{};
     const auto& art = *ai::suites.art;

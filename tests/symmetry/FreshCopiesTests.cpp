@@ -405,3 +405,20 @@ TEST_CASE("after an edit a live layer is as if all its copies had been made anew
             hand.edit();
     }
 }
+
+TEST_CASE("a copy of another kind than the object in front of it is made anew") {
+    EngineFixture fixture;
+    fixture.build(fixture.layer(), "t s");
+    fixture.setAxes(1, 0.5, {40, 60});
+    fixture.attach();
+    fixture.step([&] {
+        Art* const copyOfText = fixture.layer().firstChild()->next();
+        Art* const symbol = copyOfText->next();
+        easel::disposeArt(*copyOfText);
+        easel::disposeArt(*symbol);
+        fixture.layer().touch();
+    });
+    REQUIRE(fixture.notationOf(fixture.layer()) == "t s'");
+    fixture.step([&] { regenerateChangedLayers(fixture.environment()); });
+    CHECK(fixture.notationOf(fixture.layer()) == "t t'");
+}
