@@ -1,8 +1,8 @@
 # Short names for the scripts that do the work; docs/building.md tells what each does.
 
-.PHONY: demo check dist package bench format tidy open
+.PHONY: demo check validate dist package bench format tidy open
 
-demo check dist package bench format tidy:
+demo check validate dist package bench format tidy:
 	scripts/$@
 
 open:

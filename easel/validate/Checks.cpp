@@ -4,6 +4,10 @@ namespace easel::validate {
 namespace {
 
 constexpr Check kChecks[] = {
+    {"library",
+     "The file exports its entry alone, imports what every supported Windows has, cannot write its "
+     "own code, has every picture in all its variants, and runs at any address",
+     checkLibrary},
     {"life",
      "It starts and quits any number of times, wherever its library is loaded; refused suites and "
      "failures while it starts end tidily; messages that nobody expects do no harm",

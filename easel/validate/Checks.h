@@ -17,6 +17,7 @@ struct Check {
 /// In the order in which they run.
 [[nodiscard]] std::span<const Check> checks();
 
+void checkLibrary(Session& session, Trials& trials);
 void checkLife(Session& session, Trials& trials);
 void checkFailingHost(Session& session, Trials& trials);
 void checkHostileEntries(Session& session, Trials& trials);

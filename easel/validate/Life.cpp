@@ -113,7 +113,7 @@ void startAgainstOdds(Session& session, Trials& trials) {
     Sitting sitting(session, trials.options().plugin);
     bool started = true;
     try {
-        static_cast<void>(sitting.player().host());
+        sitting.perform("wait 1");
     } catch (const SessionError&) {
         started = false;
     }
