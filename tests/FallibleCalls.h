@@ -20,4 +20,15 @@ template <typename Act> std::vector<std::string> fallibleCalls(Act act) {
     return names;
 }
 
+/// Is this a call that gives something back, or an entry by reading or storing it? When the host
+/// fails these, it is left with what it lent.
+inline bool givesBack(const std::string& function) {
+    if (function.starts_with("AI Entry Suite.To") || function == "AI Dictionary Suite.Set")
+        return true;
+    for (const char* const end :
+         {"Destroy", "Release", "DisposeArtSet", "PopAppContext", "DeleteFilePath"})
+        if (function.ends_with(end)) return true;
+    return false;
+}
+
 } // namespace facetta::tests

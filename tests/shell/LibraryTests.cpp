@@ -45,7 +45,6 @@ struct Session {
         host.user.browserAvailable = false;
         host.addPlugins(installed.library());
         host.start();
-        plugin = host.plugins.handles().front();
     }
     void quit() {
         host.quit();
@@ -55,19 +54,9 @@ struct Session {
 
     Installed installed;
     Host host;
-    SPPluginRef plugin;
 };
 
 } // namespace
-
-TEST_CASE("the library is loaded at another address, and what was there before is gone") {
-    Session session;
-    const auto placeOf = [&] { return session.host.plugins.at(session.plugin).entry; };
-    const auto before = placeOf();
-    session.host.reload(session.plugin, /*evenIfHeld*/ true);
-    CHECK((placeOf() != before));
-    session.quit();
-}
 
 TEST_CASE("the manual is found beside the library") {
     Session session;

@@ -1,5 +1,6 @@
+#include "tests/FallibleCalls.h"
 #include "tests/tool/Annotated.h"
-#include "tests/tool/FaultSweep.h"
+#include "tests/tool/Drawing.h"
 
 using namespace facetta;
 using namespace facetta::tests;

@@ -1,4 +1,5 @@
-#include "tests/tool/FaultSweep.h"
+#include "tests/FallibleCalls.h"
+#include "tests/tool/Drawing.h"
 #include "tests/tool/KeysHeld.h"
 #include "tests/ui/DialogUser.h"
 

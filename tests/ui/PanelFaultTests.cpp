@@ -1,4 +1,4 @@
-#include "tests/tool/FaultSweep.h"
+#include "tests/FallibleCalls.h"
 #include "tests/ui/PanelInHand.h"
 
 using namespace facetta;
