@@ -29,6 +29,8 @@ public:
     int met = 0; ///< dialogs so far
 
     // What is seen
+    [[nodiscard]] std::string title() const { return dialog_->title(); }
+    [[nodiscard]] std::vector<door::SeenItem> items() const { return dialog_->items(); }
     [[nodiscard]] door::SeenItem item(int id) const {
         const std::vector<door::SeenItem> items = dialog_->items();
         const auto found = std::ranges::find(items, id, &door::SeenItem::id);
