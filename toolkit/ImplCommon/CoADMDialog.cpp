@@ -51,7 +51,10 @@ void CoADMDialog::closeWindow() {
 
 void CoADMDialog::followHost() {
     if (!panel_ || closed_) return;
-    const bool stands = peer() != nullptr && peer()->isAlive() && panel_->window() == view_.parent;
+    // A host that cannot tell just now has not moved it.
+    const void* const window = panel_->window();
+    const bool stands =
+        peer() != nullptr && peer()->isAlive() && (window == nullptr || window == view_.parent);
     if (stands) {
         changed();
     } else {

@@ -16,6 +16,7 @@ namespace {
 struct Panel {
     HWND frame = nullptr;
     HWND client = nullptr;
+    bool tellsWindow = true;
     AISize size{};
     ai::int16 state = 1;
     AIPanelVisibilityChangedNotifyProc visibility = nullptr;
@@ -58,6 +59,7 @@ AIErr destroyPanel(AIPanelRef) {
     return kNoErr;
 }
 AIErr platformWindow(AIPanelRef, AIPanelPlatformWindow& window) {
+    if (!thePanel.tellsWindow) return kBadParameterErr;
     window = reinterpret_cast<AIPanelPlatformWindow>(thePanel.client);
     return kNoErr;
 }
@@ -253,6 +255,7 @@ void OddHost::remakeWindow() {
     pump();
 }
 
+void OddHost::tellWindow(bool tells) { thePanel.tellsWindow = tells; }
 void OddHost::tellVisibility() { thePanel.visibility(reference(), 1); }
 void OddHost::tellSize() { thePanel.sizeChanged(reference()); }
 void OddHost::tellState(ai::int16 state) {

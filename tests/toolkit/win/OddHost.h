@@ -26,8 +26,9 @@ public:
     ADMDialogRef panel(ADMDialogInitProc fill);
 
     // What the host does to the panel.
-    void restore();      ///< shows it, as its workspace says
-    void remakeWindow(); ///< tells nobody
+    void restore();                     ///< shows it, as its workspace says
+    void remakeWindow();                ///< tells nobody
+    static void tellWindow(bool tells); ///< or answers an error instead
     void tellVisibility();
     void tellSize();
     void tellState(ai::int16 state);

@@ -126,6 +126,17 @@ TEST_CASE("a panel whose window the host has made anew is filled again when the 
     }
 }
 
+TEST_CASE("a panel stays as it is while its host cannot tell where it lies") {
+    Shown shown;
+    const HWND before = shown.host.child();
+    for (const bool tells : {false, true}) {
+        OddHost::tellWindow(tells);
+        shown.host.tellVisibility();
+        CHECK(shown.host.child() == before);
+        CHECK(IsWindowVisible(windowOf(shown.panel, kButton)) != FALSE);
+    }
+}
+
 TEST_CASE("windows of ours that somebody hooks into go on working, and end whole") {
     Shown shown;
     shown.host.hookWindows();
