@@ -28,6 +28,9 @@ constexpr Check kChecks[] = {
      "After any sequence of acts all can be undone and done again, copies lie only on layers with "
      "axes, and the saved drawing is opened as it was",
      checkMonkey},
+    {"steadiness",
+     "What is done thousands of times takes less than a megabyte, and no objects of the system's",
+     checkSteadiness},
     {"time-limits", "No act in a large drawing takes longer than a second", checkTimeLimits},
 };
 

@@ -23,6 +23,7 @@ void checkFailingHost(Session& session, Trials& trials);
 void checkHostileEntries(Session& session, Trials& trials);
 void checkHostileSettings(Session& session, Trials& trials);
 void checkMonkey(Session& session, Trials& trials);
+void checkSteadiness(Session& session, Trials& trials);
 void checkTimeLimits(Session& session, Trials& trials);
 
 } // namespace easel::validate
