@@ -26,6 +26,7 @@ TEST_CASE("the dialog is centred when it was never placed, and pulled into the v
         {"left of the view", scrolled, {99, 100}, {100, 100}},
         {"above: a little below the edge", scrolled, {300, 49}, {300, 66}},
         {"below", scrolled, {300, 600}, {300, 548}},
+        {"as far out as numbers go", screen, {2147483647, 2147483647}, {808, 698}},
         {"narrower than the dialog: the right edge wins", {0, 0, 150, 800}, {-20, 10}, {-42, 10}},
     };
     for (const auto& row : rows) {

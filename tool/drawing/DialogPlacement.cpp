@@ -14,13 +14,13 @@ DialogPosition centredIn(const AIRect& view) {
 
 DialogPosition placedIn(const AIRect& view, DialogPosition dialog) {
     if (dialog.x == kNeverPlaced) return centredIn(view);
-    if (dialog.x + kDialogWidth > view.right)
+    if (dialog.x > view.right - kDialogWidth) // a stored place may be any number
         dialog.x = view.right - kDialogWidth;
     else if (dialog.x < view.left)
         dialog.x = view.left;
     if (dialog.y < view.top)
         dialog.y = view.top + kTopMargin;
-    else if (dialog.y + kDialogHeight > view.bottom)
+    else if (dialog.y > view.bottom - kDialogHeight)
         dialog.y = view.bottom - kDialogHeight;
     return dialog;
 }
