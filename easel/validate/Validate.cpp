@@ -23,7 +23,7 @@ constexpr int kMostCrashes = 10;
 /// that is loaded a thousand times in one process.
 std::uint64_t triesOfChild() { return onWindows() ? 400 : 0; }
 /// More lines of what a process says are not kept.
-constexpr std::size_t kMostSaid = 100;
+constexpr std::size_t kMostSaid = 20;
 
 const Check& checkNamed(const std::string& name) {
     std::string known;
