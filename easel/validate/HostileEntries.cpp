@@ -121,7 +121,7 @@ void tryDrawing(Session& session, Trials& trials, std::span<const Change> change
     const std::size_t others = isMarked ? 1 : 2;
     const std::string drawing = drawingWith(changes);
     Sitting sitting(session, trials.options().plugin);
-    try {
+    toTheEnd(trials, sitting, [&] {
         sitting.perform(commonSettings());
         sitting.open(drawing);
         const std::string opened = sitting.art();
@@ -141,10 +141,7 @@ void tryDrawing(Session& session, Trials& trials, std::span<const Change> change
         editAndTakeBack("panel flyout \"Add Guides along Axes\"");
         editAndTakeBack("panel flyout \"Remove All Layer Axes\"");
         sitting.perform(lifeOfAxes());
-    } catch (const SessionError& error) {
-        trials.fail(error.what());
-    }
-    finish(trials, sitting);
+    });
 }
 
 } // namespace

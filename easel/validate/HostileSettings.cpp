@@ -81,14 +81,11 @@ void trySettings(Session& session, Trials& trials,
     Preferences& store = sitting.player().preferences();
     for (const auto& [key, value] : settings)
         store.put(key->prefix, key->name, *value);
-    try {
+    toTheEnd(trials, sitting, [&] {
         sitting.perform(lifeOfAxes());
         // A compact panel does not show the item.
         sitting.attempt("new 400 400\nmove 250,260\npanel click 16\nredraw\nzoom 2\nclose");
-    } catch (const SessionError& error) {
-        trials.fail(error.what());
-    }
-    finish(trials, sitting);
+    });
     for (const Range& range : kRanges) {
         const std::optional<double> left =
             sitting.player().preferences().number(kPrefix, range.name);

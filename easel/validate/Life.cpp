@@ -43,12 +43,7 @@ constexpr int kMessagesOfBatch = 1000;
 
 void live(Session& session, Trials& trials) {
     Sitting sitting(session, trials.options().plugin);
-    try {
-        sitting.perform(lifeOfAxes());
-    } catch (const SessionError& error) {
-        trials.fail(error.what());
-    }
-    finish(trials, sitting);
+    toTheEnd(trials, sitting, [&] { sitting.perform(lifeOfAxes()); });
 }
 
 void cycle(Session& session, Trials& trials, std::size_t cycles) {
@@ -82,14 +77,11 @@ void reloadBefore(Session& session, Trials& trials, const Act& act, const std::s
         finish(trials, sitting);
     }
     Sitting sitting(session, trials.options().plugin);
-    try {
+    toTheEnd(trials, sitting, [&] {
         if (leadsTo(sitting, act, drawing, "reload") != expected)
             trials.fail("the act leads to another drawing");
-    } catch (const SessionError& error) {
-        trials.fail(error.what());
-    }
-    static_cast<void>(sitting.takeReactions());
-    finish(trials, sitting);
+        static_cast<void>(sitting.takeReactions());
+    });
 }
 
 void reload(Session& session, Trials& trials, std::size_t most) {

@@ -38,7 +38,6 @@ constexpr const char* kBetween[] = {
     "panel show",
     "reload",
     "zoom 1",
-
 };
 
 /// Copies are only where axes are, and nowhere else does anything carry their tag.
@@ -111,7 +110,7 @@ Plan planned(Random random) {
 
 void play(Session& session, Trials& trials, const Plan& plan) {
     Sitting sitting(session, trials.options().plugin);
-    try {
+    toTheEnd(trials, sitting, [&] {
         sitting.perform(commonSettings());
         sitting.open(plan.drawing.text());
         const AIDocumentHandle first = session.document().handle();
@@ -133,10 +132,7 @@ void play(Session& session, Trials& trials, const Plan& plan) {
             judgeSaved(session, trials, sitting);
         }
         sitting.perform(lifeOfAxes());
-    } catch (const SessionError& error) {
-        trials.fail(error.what());
-    }
-    finish(trials, sitting);
+    });
 }
 
 } // namespace

@@ -170,4 +170,13 @@ void finish(Trials& trials, Sitting& sitting) {
         trials.fail(complaint);
 }
 
+void toTheEnd(Trials& trials, Sitting& sitting, const std::function<void()>& acts) {
+    try {
+        acts();
+    } catch (const SessionError& error) {
+        trials.fail(error.what());
+    }
+    finish(trials, sitting);
+}
+
 } // namespace easel::validate

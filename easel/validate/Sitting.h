@@ -5,6 +5,7 @@
 #include "easel/validate/Trials.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -57,5 +58,8 @@ private:
 /// Ends a sitting that should have gone well: reports messages answered with errors, alerts, and
 /// what was wrong with the session as a whole.
 void finish(Trials& trials, Sitting& sitting);
+
+/// The whole of a sitting that should go well: what `acts` throws is reported, then it is ended.
+void toTheEnd(Trials& trials, Sitting& sitting, const std::function<void()>& acts);
 
 } // namespace easel::validate

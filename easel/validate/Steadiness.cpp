@@ -48,16 +48,13 @@ template <typename Round> void repeat(Trials& trials, int rounds, Round round) {
 
 void repeatAct(Session& session, Trials& trials, const Act& act, int rounds) {
     Sitting sitting(session, trials.options().plugin);
-    try {
+    toTheEnd(trials, sitting, [&] {
         sitting.prepare(act, manyLeaves(10));
         repeat(trials, rounds, [&] {
             sitting.perform(act.lines);
             sitting.player().host().cursorSnap.calls = {}; // the host's own record
         });
-    } catch (const SessionError& error) {
-        trials.fail(error.what());
-    }
-    finish(trials, sitting);
+    });
 }
 
 void startAndQuit(Session& session, Trials& trials, int rounds) {

@@ -17,18 +17,15 @@ constexpr std::chrono::milliseconds kLimit{1000};
 
 void time(Session& session, Trials& trials, const Act& act, const std::string& drawing) {
     Sitting sitting(session, trials.options().plugin);
-    try {
+    toTheEnd(trials, sitting, [&] {
         sitting.prepare(act, drawing);
         const Clock::time_point began = Clock::now();
         sitting.perform(act.lines);
         const auto took =
             std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - began);
         if (took > kLimit) trials.fail("it took " + std::to_string(took.count()) + " ms");
-    } catch (const SessionError& error) {
-        trials.fail(error.what());
-    }
-    static_cast<void>(sitting.takeReactions());
-    finish(trials, sitting);
+        static_cast<void>(sitting.takeReactions());
+    });
 }
 
 } // namespace
