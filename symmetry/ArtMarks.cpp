@@ -7,6 +7,7 @@
 #include "symmetry/MirrorTag.h"
 
 #include <algorithm>
+#include <array>
 
 namespace facetta {
 
@@ -16,13 +17,22 @@ ai::Dictionary dictionaryOf(AIArtHandle art) {
     return entries;
 }
 
+bool wasRead(AIErr error) {
+    constexpr std::array kNothingToRead = {kNoSuchKey, kNoSuchEntry, kWrongEntryType,
+                                           kNoConversionErr, kBadParameterErr};
+    if (std::ranges::find(kNothingToRead, error) != kNothingToRead.end()) return false;
+    ai::check(error);
+    return true;
+}
+
 MarkKeys markKeys() { return {MirrorTag::key(), GuideTag::key()}; }
 
 ai::int32 mirrorMarkIn(AIDictionaryRef entries, AIDictKey key) {
     if (!ai::suites.dictionary->IsKnown(entries, key)) return MirrorTag::kSource;
     ai::int32 value = MirrorTag::kCopy;
-    const bool readable = ai::suites.dictionary->GetIntegerEntry(entries, key, &value) == kNoErr;
-    return readable ? std::clamp(value, MirrorTag::kCopy, MirrorTag::kKept) : MirrorTag::kCopy;
+    return wasRead(ai::suites.dictionary->GetIntegerEntry(entries, key, &value))
+               ? std::clamp(value, MirrorTag::kCopy, MirrorTag::kKept)
+               : MirrorTag::kCopy;
 }
 
 ArtMarks marksOf(AIArtHandle art, const MarkKeys& keys) {

@@ -9,6 +9,12 @@ namespace facetta {
 /// The dictionary of `art`; empty for null art. Throws `ai::Error`.
 [[nodiscard]] ai::Dictionary dictionaryOf(AIArtHandle art);
 
+/// Whether a reader of entries, which answered `error`, has given a value. There is none to give
+/// where the entry is missing or of another type. Any other failure is the host's and says nothing
+/// about the entry; it throws `ai::Error`, because a default in its place would have copies taken
+/// for outdated, kept objects for copies, or mirrored across other axes.
+[[nodiscard]] bool wasRead(AIErr error);
+
 /// The keys of both marks, looked up once for many objects.
 struct MarkKeys {
     AIDictKey mirror = nullptr;

@@ -49,7 +49,7 @@ ai::Dictionary axesEntryIn(const ai::Dictionary& entries) {
     AIDictionaryRef found = nullptr;
     const AIErr error = ai::suites.entry->ToDict(
         ai::suites.dictionary->Get(entries.get(), keyOf(key::kAxes)), &found);
-    return error == kNoErr ? ai::Dictionary{found} : ai::Dictionary{};
+    return wasRead(error) ? ai::Dictionary{found} : ai::Dictionary{};
 }
 
 double readReal(const ai::Dictionary& axes, const char* name) {
@@ -57,19 +57,21 @@ double readReal(const ai::Dictionary& axes, const char* name) {
     const char* text = nullptr;
     const AIErr error =
         ai::suites.entry->ToString(ai::suites.dictionary->Get(axes.get(), keyOf(name)), &text);
-    return error == kNoErr && text != nullptr ? parseReal(text) : 0.0;
+    return wasRead(error) && text != nullptr ? parseReal(text) : 0.0;
 }
 
 ai::int32 readInteger(const ai::Dictionary& axes, const char* name, ai::int32 otherwise) {
     ai::int32 value = otherwise;
-    const AIErr error = ai::suites.dictionary->GetIntegerEntry(axes.get(), keyOf(name), &value);
-    return error == kNoErr ? value : otherwise;
+    return wasRead(ai::suites.dictionary->GetIntegerEntry(axes.get(), keyOf(name), &value))
+               ? value
+               : otherwise;
 }
 
 bool readBoolean(const ai::Dictionary& axes, const char* name, bool otherwise) {
     AIBoolean value = otherwise;
-    const AIErr error = ai::suites.dictionary->GetBooleanEntry(axes.get(), keyOf(name), &value);
-    return error == kNoErr ? value != 0 : otherwise;
+    return wasRead(ai::suites.dictionary->GetBooleanEntry(axes.get(), keyOf(name), &value))
+               ? value != 0
+               : otherwise;
 }
 
 void writeReal(const ai::Dictionary& axes, const char* name, double value) {

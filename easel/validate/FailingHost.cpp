@@ -26,6 +26,15 @@ bool cannotFail(const std::string& function) {
     return function.starts_with("AI Entry Suite.To") || function == "AI Dictionary Suite.Set";
 }
 
+/// A reader of entries that answers "bad parameter" says that the entry is of another type, which
+/// is a state of the drawing and no failure.
+AIErr codeFor(const std::string& function, std::uint64_t choice) {
+    const AIErr code = kCodes.at(choice % kCodes.size());
+    const bool meansOtherType =
+        code == kBadParameterErr && function.starts_with("AI Dictionary Suite.Get");
+    return meansOtherType ? kOutOfMemoryErr : code;
+}
+
 /// An act in which nothing fails.
 struct Rehearsal {
     std::string before;
@@ -125,7 +134,7 @@ std::vector<FaultPlan> plansFor(const std::vector<std::string>& calls, std::size
     std::vector<FaultPlan> plans;
     for (std::uint64_t call = 1; call <= calls.size(); ++call) {
         if (cannotFail(calls[call - 1])) continue;
-        const AIErr code = kCodes.at(random() % kCodes.size());
+        const AIErr code = codeFor(calls[call - 1], random());
         plans.push_back({Mode::Once, call, {}, code});
         plans.push_back({Mode::FromThenOn, call, {}, code});
         if (call < calls.size())

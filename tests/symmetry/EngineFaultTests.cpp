@@ -19,13 +19,8 @@ namespace {
 
 constexpr AIErr kInjected = fourCharacterCode("FAIL");
 
-/// Stored values that cannot be read count as missing, by design; a scope that ends gives back and
-/// puts back what it took without looking at it.
+/// A scope that ends gives back and puts back what it took without looking at it.
 constexpr std::string_view kUnreported[] = {
-    "AI Dictionary Suite.GetIntegerEntry",
-    "AI Dictionary Suite.GetBooleanEntry",
-    "AI Entry Suite.ToDict",
-    "AI Entry Suite.ToString",
     "AI Art Set Suite.DisposeArtSet",
     "AI Context Suite.AllowAllChanges",
 };

@@ -176,8 +176,7 @@ TEST_CASE("whatever host call fails under a dialog, it is as if it had been left
             REQUIRE(rehearsal.calls.size() > 3);
             for (std::size_t call = 1; call <= rehearsal.calls.size(); ++call) {
                 const std::string& name = rehearsal.calls[call - 1];
-                // What is stored and cannot be read has its default, and is written so again.
-                if (givesBack(name) || name == "AI Dictionary Suite.GetIntegerEntry") continue;
+                if (givesBack(name)) continue;
                 INFO(name, ", host call ", call,
                      std::string(mode == Mode::Once ? "" : " and all after it"));
                 performWithFault(action, call, mode, rehearsal);
