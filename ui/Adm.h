@@ -43,4 +43,9 @@ inline void showNumber(const Adm& adm, ADMItemRef item, double value) {
     if (adm.item->GetFloatValue(item) != shown) adm.item->SetFloatValue(item, shown);
 }
 
+/// The same for a box or a radio button.
+inline void showChecked(const Adm& adm, ADMItemRef item, bool on) {
+    if ((adm.item->GetBooleanValue(item) != 0) != on) adm.item->SetBooleanValue(item, on);
+}
+
 } // namespace facetta

@@ -10,7 +10,7 @@ namespace {
 using namespace panel_item;
 
 void check(PanelSession& session, ADMInt32 id, bool on) {
-    session.adm.item->SetBooleanValue(session.item(id), on);
+    showChecked(session.adm, session.item(id), on);
 }
 
 void enable(PanelSession& session, ADMInt32 id, bool enabled) {

@@ -217,7 +217,10 @@ void SymmetryPanel::addMenu() const {
 
 void SymmetryPanel::checkLicence(const ToolSession& tool) {
     usable_ = tool.licence.allows(GuardedAction::UsePanel);
-    showUsable(adm_, dialog_, usable_, tool.licence.statusLine());
+    std::pair licence{usable_, tool.licence.statusLine()};
+    if (shownLicence_ == licence) return;
+    showUsable(adm_, dialog_, usable_, licence.second);
+    shownLicence_ = std::move(licence);
 }
 
 void SymmetryPanel::refresh(ToolSession& tool) {

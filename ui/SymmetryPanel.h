@@ -13,6 +13,9 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
+#include <utility>
 
 namespace facetta {
 
@@ -61,6 +64,9 @@ private:
     Adm adm_;
     ADMDialogRef dialog_ = nullptr;
     bool usable_ = true; ///< the licence allows the panel's use
+    /// What is shown of the licence; nothing before the first look at it. Most refreshes have no
+    /// other to show.
+    std::optional<std::pair<bool, std::string>> shownLicence_;
 };
 
 } // namespace facetta
