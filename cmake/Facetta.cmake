@@ -211,7 +211,10 @@ function(facetta_plugin name)
         set_target_properties(${name} PROPERTIES OUTPUT_NAME facetta SUFFIX .so
             LINK_DEPENDS ${CMAKE_SOURCE_DIR}/cmake/PluginMain.map)
         target_link_options(${name} PRIVATE
-            -Wl,--version-script=${CMAKE_SOURCE_DIR}/cmake/PluginMain.map -Wl,-z,defs)
+            -Wl,--version-script=${CMAKE_SOURCE_DIR}/cmake/PluginMain.map)
+        if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang") # whose sanitizers are in the program alone
+            target_link_options(${name} PRIVATE -Wl,-z,defs)
+        endif()
     endif()
     add_test(NAME ${name}_library COMMAND ${CMAKE_COMMAND} -D library=$<TARGET_FILE:${name}>
         -D objdump=${CMAKE_OBJDUMP} -P ${CMAKE_SOURCE_DIR}/cmake/CheckPlugin.cmake)

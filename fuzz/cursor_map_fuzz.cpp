@@ -1,22 +1,16 @@
 /// Any bytes as the description of a cursor: reading never fails, what comes of it is within the
 /// stated limits, and the picture shown is one of those described.
 
+#include "fuzz/Require.h"
 #include "toolkit/ImplCommon/CursorMap.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 
 namespace {
 
+using facetta::fuzz::require;
 using NRDM::CursorMap;
-
-void require(bool holds, const char* what) {
-    if (holds) return;
-    std::fprintf(stderr, "broken: %s\n", what);
-    std::abort();
-}
 
 bool isInside(int at) { return at >= 0 && at < CursorMap::kLargestSide; }
 

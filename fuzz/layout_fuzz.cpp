@@ -1,23 +1,18 @@
 /// Any bytes as a layout text: reading ends, limits hold, what is printed reads back, what is
 /// placed fits a window.
 
+#include "fuzz/Require.h"
 #include "toolkit/layout/Layout.h"
 #include "toolkit/layout/Limits.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 
 namespace {
 
+using facetta::fuzz::require;
 using namespace NRDM::layout;
-
-void require(bool holds, const char* what) {
-    if (holds) return;
-    std::fprintf(stderr, "broken: %s\n", what);
-    std::abort();
-}
 
 /// Sizes that differ from item to item and hang on nothing but the item.
 class SomeSizes : public ItemSizes {

@@ -1,21 +1,15 @@
 /// Any bytes as compiled resources: the walk ends, what it gives lies in the file, and reading each
 /// resource as a menu and as a table of strings makes nothing larger than its bytes.
 
+#include "fuzz/Require.h"
 #include "toolkit/ImplCommon/Resources.h"
 
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 
 namespace {
 
+using facetta::fuzz::require;
 using NRDM::Bytes;
-
-void require(bool holds, const char* what) {
-    if (holds) return;
-    std::fprintf(stderr, "broken: %s\n", what);
-    std::abort();
-}
 
 void checkMenu(Bytes bytes) {
     const auto menu = NRDM::parseMenu(bytes);

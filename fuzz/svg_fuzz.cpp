@@ -6,16 +6,16 @@
 #include "easel/document/TransformArt.h"
 #include "easel/paint/PaintDocument.h"
 #include "easel/svg/SvgFile.h"
+#include "fuzz/Require.h"
 
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
 namespace {
 
 using namespace easel;
+using facetta::fuzz::require;
 
 /// Paints nothing: what is tried is the way to the painter, and libraries have fuzzers of their
 /// own.
@@ -39,21 +39,15 @@ public:
     int groups = 0;
 };
 
-void require(bool holds, const char* what, const std::string& one, const std::string& other) {
-    if (holds) return;
-    std::fprintf(stderr, "broken: %s\n--- one\n%s\n--- other\n%s\n", what, one.c_str(),
-                 other.c_str());
-    std::abort();
-}
-
 void saveAndReopen(const Document& document) {
     const std::string saved = svg::svgText(document);
     try {
         const svg::OpenedDrawing again = svg::readSvgText(easel::session(), saved, "saved.svg");
         const std::string second = svg::svgText(*again.document);
-        require(saved == second, "the second save is another text", saved, second);
+        require(saved == second, "the second save is another text",
+                saved + "\n--- other\n" + second);
     } catch (const svg::FileError& error) {
-        require(false, "what was saved cannot be opened", saved, error.what());
+        require(false, "what was saved cannot be opened", saved + '\n' + error.what());
     }
 }
 
@@ -101,10 +95,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             easel::session(), {reinterpret_cast<const char*>(data), size}, "fuzz.svg");
         const std::string text{reinterpret_cast<const char*>(data), size};
         const std::string saved = svg::svgText(*opened.document);
-        require(saved == text, "an untouched drawing is saved otherwise", text, saved);
+        require(saved == text, "an untouched drawing is saved otherwise",
+                text + "\n--- other\n" + saved);
         NoPainter painter;
         paint::paintArt(*opened.document, painter);
-        require(painter.depth == 0 && painter.groups == 0, "saved states are left", {}, {});
+        require(painter.depth == 0 && painter.groups == 0, "saved states are left");
         changeArt(*opened.document);
         saveAndReopen(*opened.document);
     } catch (const svg::FileError&) {

@@ -65,7 +65,7 @@ SPErr beginOrEnd(const Licensing& licensing, const Call& call) {
 void refreshIdentity(FacettaPlugin& plugin, SPPluginRef self, const Licensing& licensing) {
     const FacettaPlugin model{self, licensing};
     // NOLINTNEXTLINE(bugprone-undefined-memory-manipulation): nothing but that pointer is copied
-    std::memcpy(static_cast<void*>(&plugin), &model, sizeof(void*));
+    std::memcpy(static_cast<void*>(&plugin), static_cast<const void*>(&model), sizeof(void*));
 }
 
 SPErr deliver(FacettaPlugin& plugin, const Call& call) {

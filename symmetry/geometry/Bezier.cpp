@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace facetta {
@@ -93,7 +94,8 @@ double rootBetween(const BernsteinCubic& function, double low, double high, doub
         t = next;
         if (moved <= kSmallestStep) break;
     }
-    return t;
+    constexpr double kBeforeEnd = 1.0 - 0.5 * std::numeric_limits<double>::epsilon();
+    return std::min(t, kBeforeEnd); // a zero that rounds to the end lies before it
 }
 
 } // namespace

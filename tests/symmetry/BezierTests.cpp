@@ -47,13 +47,16 @@ TEST_CASE("a function changes its sign where it crosses zero and nowhere else") 
         {"zero at the start", {0, 1, 1, 1}, {}},
         {"zero at the start and crossing later", {0, 1, 1, -1}, {(std::sqrt(21.0) - 3) / 2}},
         {"zero everywhere", {0, 0, 0, 0}, {}},
+        {"so close to the end that it rounds to it", {1, 1, 1, -1e-17}, {1}},
         {"not a number", {NAN, 1, -1, 1}, {}},
     };
     for (const auto& row : rows) {
         INFO(row.what);
         const Roots roots = signChanges(row.function);
-        for (const double root : roots.all())
+        for (const double root : roots.all()) {
             CHECK(std::abs(evaluate(row.function, root)) < 1e-14);
+            CHECK((root > 0 && root < 1));
+        }
         REQUIRE(roots.all().size() == row.expected.size());
         for (std::size_t i = 0; i < row.expected.size(); ++i)
             CHECK(roots.values[i] == doctest::Approx(row.expected[i]).epsilon(1e-12));

@@ -44,7 +44,8 @@ AIErr launchApp(const ai::FilePath& path, AIBoolean /*openDocument*/) {
 }
 
 AIAnswer ask(const char* kind, const ai::UnicodeString& text) {
-    const Alert alert = user().alerts.emplace_back(kind, readUtf8(session().ledger, text));
+    const Alert alert{kind, readUtf8(session().ledger, text)};
+    user().alerts.push_back(alert);
     if (user().showAlert) return user().showAlert(alert);
     if (user().answers.empty()) return kYes;
     const AIAnswer answer = user().answers.front();
@@ -53,7 +54,8 @@ AIAnswer ask(const char* kind, const ai::UnicodeString& text) {
 }
 
 void tell(const char* kind, const ai::UnicodeString& text) {
-    const Alert alert = user().alerts.emplace_back(kind, readUtf8(session().ledger, text));
+    const Alert alert{kind, readUtf8(session().ledger, text)};
+    user().alerts.push_back(alert);
     if (user().showAlert) static_cast<void>(user().showAlert(alert));
 }
 
