@@ -8,6 +8,7 @@
 #include "easel/document/Layers.h"
 #include "fuzz/Input.h"
 #include "fuzz/Require.h"
+#include "host/Error.h"
 #include "symmetry/ArtSpace.h"
 #include "tests/symmetry/EngineFixture.h"
 
@@ -130,7 +131,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     history.clear();
 
     const std::string before = fixture.text();
-    ofSelection ? fixture.mirrorSelection() : fixture.attach();
+    try {
+        ofSelection ? fixture.mirrorSelection() : fixture.attach();
+    } catch (const ai::Error& error) {
+        require(false, "a call of the host failed", std::to_string(error.code) + '\n' + before);
+    }
     const std::string after = fixture.text();
     const std::size_t objects = objectsIn(fixture.document());
     if (!ofSelection) {

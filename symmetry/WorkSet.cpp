@@ -38,6 +38,11 @@ bool isBlocked(AIArtHandle container, ai::int16 type) {
     return isLayerBlocked(layer);
 }
 
+/// A layer is nobody's copy, whatever a drawing says of its group: it cannot be made anew.
+bool isGenerated(AIArtHandle art, const ArtMarks& marks) {
+    return marks.mirror == MirrorTag::kCopy && (typeOf(art) != kGroupArt || !isLayerGroup(art));
+}
+
 /// Answers what surrounds an object, asking the host about each container once.
 class Containers {
 public:
@@ -79,7 +84,7 @@ private:
     Inherited entered(Inherited around, AIArtHandle container) const {
         const ai::int16 type = typeOf(container);
         around.blocked = around.blocked || isBlocked(container, type);
-        around.generated = around.generated || marksOf(container, keys_).mirror == MirrorTag::kCopy;
+        around.generated = around.generated || isGenerated(container, marksOf(container, keys_));
         if (around.unit == nullptr && !isPlainGroup(container, type)) around.unit = container;
         return around;
     }
@@ -136,7 +141,7 @@ public:
         if (around.generated && copies_ != Copies::AreArt)
             return Found::Nothing; // goes with its container
         const ArtMarks marks = marksOf(art, keys_);
-        if (marks.mirror == MirrorTag::kCopy && copies_ != Copies::AreArt) {
+        if (copies_ != Copies::AreArt && isGenerated(art, marks)) {
             generated_.push_back(art);
             return Found::Copy;
         }

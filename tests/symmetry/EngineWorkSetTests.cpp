@@ -33,6 +33,7 @@ const WorkSetRow kRows[] = {
     {"copies in a locked group are found", "#g(a a') b", "#g(a) b b'", "#g(a a') b b"},
     {"copies in a hidden sublayer are found", "-l(a a') b", "-l(a) b b'", "-l(a a') b b"},
     {"a sublayer is mirrored within itself", "l(a) b", "l(a a') b b'", "l(a a) b b"},
+    {"a sublayer is no copy, whatever it carries", "%l(a) b", "%l(a a') b b'", "%l(a a) b b"},
     {"in a locked sublayer nothing is", "#l(g(a)) b", "#l(g(a)) b b'", "#l(g(a)) b b"},
     {"guides stay alone", "~a b", "~a b b'", "~a b b"},
     {"and so does a compound of guides", "c(~a b) d", "c(~a b) d d'", "c(~a b) d d"},
