@@ -24,6 +24,10 @@ constexpr Check kChecks[] = {
      "Whatever the store of settings holds, the plug-in starts, works and leaves values in their "
      "range",
      checkHostileSettings},
+    {"hostile-resources",
+     "Whatever resource of the library is damaged, a dialog that cannot be made stays away with a "
+     "message, and all else works",
+     checkHostileResources},
     {"monkey",
      "After any sequence of acts all can be undone and done again, copies lie only on layers with "
      "axes, and the saved drawing is opened as it was",

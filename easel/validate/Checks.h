@@ -21,6 +21,7 @@ void checkLibrary(Session& session, Trials& trials);
 void checkLife(Session& session, Trials& trials);
 void checkFailingHost(Session& session, Trials& trials);
 void checkHostileEntries(Session& session, Trials& trials);
+void checkHostileResources(Session& session, Trials& trials);
 void checkHostileSettings(Session& session, Trials& trials);
 void checkMonkey(Session& session, Trials& trials);
 void checkSteadiness(Session& session, Trials& trials);

@@ -1,9 +1,13 @@
 #include "easel/script/System.h"
+#include "easel/svg/SvgFile.h"
 #include "easel/validate/Checks.h"
 #include "easel/validate/Drawings.h"
 #include "easel/validate/Sitting.h"
 
 #include <algorithm>
+#include <chrono>
+#include <ctime>
+#include <limits>
 #include <map>
 
 /// Drawings whose entries under the plug-in's keys are missing, of another type, or out of range.
@@ -114,6 +118,45 @@ std::size_t countOf(const std::string& what, const std::string& text) {
     return count;
 }
 
+/// The plug-in reads what it finds when the drawing is opened and when its tool looks at it.
+constexpr std::chrono::milliseconds kLimit{1};
+/// Of a build that is not optimised, or carries sanitizers.
+#if defined(__OPTIMIZE__) && !defined(__SANITIZE_ADDRESS__)
+constexpr int kSlowness = 1;
+#else
+constexpr int kSlowness = 20;
+#endif
+
+/// Processor time, so that what else the machine does is left out; the least of some tries, so that
+/// what it does to memory is.
+void judgeTime(Session& session, Trials& trials, Sitting& sitting, const std::string& drawing) {
+    struct Look {
+        const char* name;
+        std::clock_t least = std::numeric_limits<std::clock_t>::max();
+    };
+    std::array<Look, 2> looks{{{"opening it"}, {"looking at it with the tool"}}};
+    const auto time = [](Look& look, const auto& act) {
+        const std::clock_t began = std::clock();
+        act();
+        look.least = std::min(look.least, std::clock() - began);
+    };
+    const auto limit =
+        static_cast<std::clock_t>(kLimit.count() * CLOCKS_PER_SEC / 1000 * kSlowness);
+    const auto isOver = [=](const Look& look) { return look.least > limit; };
+    Host& host = sitting.player().host();
+    for (int left = trials.byStrictness<int>({4, 4, 6, 8, 8});
+         left > 0 && std::ranges::any_of(looks, isOver); --left) {
+        auto document = std::move(svg::readSvgText(session, drawing, "drawing").document);
+        time(looks[0], [&] { host.open(std::move(document)); });
+        time(looks[1], [&] { sitting.perform("move 250,260"); });
+        sitting.perform("close");
+    }
+    for (const Look& look : looks)
+        if (isOver(look))
+            trials.fail(std::string(look.name) + " took " +
+                        std::to_string(look.least * 1000 / CLOCKS_PER_SEC) + " ms");
+}
+
 void tryDrawing(Session& session, Trials& trials, std::span<const Change> changes) {
     // What is marked as a copy goes with the next run, and takes along what it carries.
     const bool isMarked = std::ranges::any_of(
@@ -140,6 +183,7 @@ void tryDrawing(Session& session, Trials& trials, std::span<const Change> change
         editAndTakeBack("select all\nnudge 3 4");
         editAndTakeBack("panel flyout \"Add Guides along Axes\"");
         editAndTakeBack("panel flyout \"Remove All Layer Axes\"");
+        if (!onWindows()) judgeTime(session, trials, sitting, drawing); // Wine's clock is coarse
         sitting.perform(lifeOfAxes());
     });
 }

@@ -9,8 +9,9 @@ namespace easel::validate {
 
 /// Something that a library carries beside code.
 struct Resource {
-    std::string type; ///< Types without a name are "#" and their number.
-    int id = 0;       ///< 0 for one that goes by a name.
+    std::string type;      ///< Types without a name are "#" and their number.
+    int id = 0;            ///< 0 for one that goes by a name.
+    std::size_t place = 0; ///< In the file.
     std::vector<std::byte> bytes;
 };
 

@@ -4,6 +4,7 @@
 #include "easel/session/DrawingSession.h"
 
 #include <algorithm>
+#include <span>
 
 #include <windows.h>
 
@@ -32,6 +33,22 @@ public:
     template <typename Record> [[nodiscard]] const Record* directory(int which) const {
         const DWORD place = headers().OptionalHeader.DataDirectory[which].VirtualAddress;
         return place != 0 ? at<Record>(place) : nullptr;
+    }
+    [[nodiscard]] std::span<const IMAGE_SECTION_HEADER> sections() const {
+        const IMAGE_NT_HEADERS64& all = headers();
+        return {reinterpret_cast<const IMAGE_SECTION_HEADER*>(
+                    reinterpret_cast<const char*>(&all.OptionalHeader) +
+                    all.FileHeader.SizeOfOptionalHeader),
+                all.FileHeader.NumberOfSections};
+    }
+    /// Where the file has what lies in memory at `laidOut`; 0 when it has not.
+    [[nodiscard]] std::size_t placeInFile(const void* laidOut) const {
+        const auto offset =
+            static_cast<std::size_t>(static_cast<const std::byte*>(laidOut) - at<std::byte>(0));
+        for (const IMAGE_SECTION_HEADER& each : sections())
+            if (offset >= each.VirtualAddress && offset - each.VirtualAddress < each.SizeOfRawData)
+                return each.PointerToRawData + offset - each.VirtualAddress;
+        return 0;
     }
     [[nodiscard]] HMODULE module() const noexcept { return module_; }
 
@@ -68,14 +85,10 @@ void readImports(const Layout& layout, LibraryFile& library) {
 
 void readSections(const Layout& layout, LibraryFile& library) {
     constexpr DWORD kBoth = IMAGE_SCN_MEM_WRITE | IMAGE_SCN_MEM_EXECUTE;
-    const IMAGE_NT_HEADERS64& headers = layout.headers();
-    const auto* const sections = reinterpret_cast<const IMAGE_SECTION_HEADER*>(
-        reinterpret_cast<const char*>(&headers.OptionalHeader) +
-        headers.FileHeader.SizeOfOptionalHeader);
-    for (WORD i = 0; i < headers.FileHeader.NumberOfSections; ++i) {
-        const auto* const name = reinterpret_cast<const char*>(sections[i].Name);
-        if ((sections[i].Characteristics & kBoth) == kBoth)
-            library.selfWriting.emplace_back(name, strnlen(name, sizeof sections[i].Name));
+    for (const IMAGE_SECTION_HEADER& each : layout.sections()) {
+        const auto* const name = reinterpret_cast<const char*>(each.Name);
+        if ((each.Characteristics & kBoth) == kBoth)
+            library.selfWriting.emplace_back(name, strnlen(name, sizeof each.Name));
     }
     struct Protection {
         WORD flag;
@@ -87,7 +100,7 @@ void readSections(const Layout& layout, LibraryFile& library) {
         {IMAGE_DLLCHARACTERISTICS_NX_COMPAT, "data that cannot be executed"},
     };
     for (const Protection& each : kProtections)
-        if ((headers.OptionalHeader.DllCharacteristics & each.flag) == 0)
+        if ((layout.headers().OptionalHeader.DllCharacteristics & each.flag) == 0)
             library.lacking.emplace_back(each.name);
 }
 
@@ -97,14 +110,22 @@ std::string nameOf(LPCWSTR type) {
     return utf8FromUtf16(std::u16string(wide.begin(), wide.end()));
 }
 
+struct ResourceWalk {
+    const Layout& layout;
+    std::vector<Resource>& found;
+};
+
 BOOL CALLBACK addResource(HMODULE module, LPCWSTR type, LPWSTR name, LONG_PTR context) {
     const HRSRC place = FindResourceW(module, name, type);
     const HGLOBAL data = place != nullptr ? LoadResource(module, place) : nullptr;
     if (data == nullptr) return TRUE;
     const auto* const bytes = static_cast<const std::byte*>(LockResource(data));
     const int id = IS_INTRESOURCE(name) ? static_cast<int>(reinterpret_cast<ULONG_PTR>(name)) : 0;
-    reinterpret_cast<LibraryFile*>(context)->resources.push_back(
-        {nameOf(type), id, {bytes, bytes + SizeofResource(module, place)}});
+    const ResourceWalk& walk = *reinterpret_cast<const ResourceWalk*>(context);
+    walk.found.push_back({nameOf(type),
+                          id,
+                          walk.layout.placeInFile(bytes),
+                          {bytes, bytes + SizeofResource(module, place)}});
     return TRUE;
 }
 
@@ -121,7 +142,8 @@ LibraryFile readLibraryFile(const std::filesystem::path& file) {
     readExports(layout, library);
     readImports(layout, library);
     readSections(layout, library);
-    EnumResourceTypesW(layout.module(), addType, reinterpret_cast<LONG_PTR>(&library));
+    ResourceWalk walk{layout, library.resources};
+    EnumResourceTypesW(layout.module(), addType, reinterpret_cast<LONG_PTR>(&walk));
     return library;
 }
 

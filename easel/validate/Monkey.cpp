@@ -1,4 +1,5 @@
 #include "easel/document/ArtTree.h"
+#include "easel/document/Attributes.h"
 #include "easel/document/Dump.h"
 #include "easel/script/System.h"
 #include "easel/session/Inventory.h"
@@ -6,6 +7,7 @@
 #include "easel/validate/Checks.h"
 #include "easel/validate/Drawings.h"
 #include "easel/validate/Sitting.h"
+#include "easel/validate/SymmetryOfLayer.h"
 
 #include <algorithm>
 #include <cstring>
@@ -50,6 +52,20 @@ void judgeCopies(Trials& trials, const Document& document) {
             if (isCopy(*each))
                 return trials.fail("a copy lies on the layer \"" + art->details().layer.title +
                                    "\", which has no axes");
+    }
+}
+
+/// The copies of each layer that mirrors by itself fit its art. While the pen is in hand a path may
+/// be under way, for which the layer waits; and what nobody can edit is left alone.
+void judgeLayers(Trials& trials, const Document& document, const Host& host) {
+    if (host.tools.currentNumber() == Tools::kPenTool) return;
+    constexpr std::size_t kMostAnchors = 200;
+    const Art& root = document.root();
+    for (const Art* art = root.firstChild(); art != nullptr; art = art->next()) {
+        const std::optional<LayerAxes> axes = art->isLayer() ? axesOn(*art) : std::nullopt;
+        if (!axes || !axes->automatic || !isEditable(*art)) continue;
+        for (const std::string& fault : {strayCopies(*art), asymmetryOf(*art, kMostAnchors)})
+            if (!fault.empty()) trials.fail('"' + art->details().layer.title + "\": " + fault);
     }
 }
 
@@ -125,6 +141,8 @@ void play(Session& session, Trials& trials, const Plan& plan) {
                 throw SessionError('"' + std::string(lines) + "\" leaves a context open");
             for (const auto& each : sitting.player().host().documents())
                 judgeCopies(trials, *each);
+            if (session.current != nullptr)
+                judgeLayers(trials, session.document(), sitting.player().host());
         }
         sitting.attempt("release");
         if (Document* const document = documentOf(sitting.player().host(), first)) {

@@ -76,9 +76,13 @@ void Sitting::play(std::string_view lines, bool passOver) {
     std::size_t next = 0;
     int underWay = 0;
     std::optional<std::string> wrong;
+    endedInDialog_ = false;
     // A line may open a dialog: those that follow are then done before it has come back.
     serveUser([&] {
-        if (wrong || next == script.steps.size()) return false;
+        if (wrong || next == script.steps.size()) {
+            endedInDialog_ = endedInDialog_ || modalDialog() != nullptr;
+            return false;
+        }
         const script::Step& step = script.steps[next++];
         std::string what;
         const Under under(underWay);

@@ -21,6 +21,8 @@ public:
     void perform(std::string_view lines);
     /// The same while the host fails: a line that cannot be done is passed over.
     void attempt(std::string_view lines);
+    /// Was a dialog open at the end of the lines done last? It is closed by now.
+    [[nodiscard]] bool endedInDialog() const noexcept { return endedInDialog_; }
     /// The act's settings and the drawing, then what leads to the act; throws as `perform`.
     void prepare(const Act& act, const std::string& drawing);
     void open(const std::string& drawing);
@@ -50,6 +52,7 @@ private:
     Session& session_;
     script::Player player_;
     std::size_t sentSeen_ = 0;
+    bool endedInDialog_ = false;
 };
 
 /// Where two drawings differ first, a line of each.
