@@ -9,7 +9,7 @@ namespace {
 
 /// `text` between quotes. There are no escapes: where it holds the quote itself, it is written in
 /// pieces between quotes of either kind, which the reader joins.
-std::string quoted(std::string_view text) {
+std::string inQuotes(std::string_view text) {
     std::string result;
     do {
         const char quote = text.starts_with('"') ? '\'' : '"';
@@ -47,7 +47,7 @@ std::string written(const Value& value) {
     assert(!std::holds_alternative<std::monostate>(value));
     if (const bool* truth = std::get_if<bool>(&value)) return *truth ? "yes" : "no";
     if (const double* number = std::get_if<double>(&value)) return writtenNumber(*number);
-    if (const auto* text = std::get_if<std::string>(&value)) return quoted(*text);
+    if (const auto* text = std::get_if<std::string>(&value)) return inQuotes(*text);
     return writtenList(std::get<std::vector<double>>(value));
 }
 
