@@ -74,6 +74,16 @@ bool readBoolean(const ai::Dictionary& axes, const char* name, bool otherwise) {
                : otherwise;
 }
 
+void readAxes(const ai::Dictionary& axes, SymmetryAxes& out) {
+    out.originX = readReal(axes, key::kOriginX);
+    out.originY = readReal(axes, key::kOriginY);
+    out.angle = readReal(axes, key::kAngle);
+    out.axisCount =
+        std::clamp(readInteger(axes, key::kAxisCount, kFewestAxes), kFewestAxes, kMostAxes);
+    out.autoMirror = readBoolean(axes, key::kAutoMirror, true);
+    out.onLayer = true;
+}
+
 void writeReal(const ai::Dictionary& axes, const char* name, double value) {
     ai::check(ai::suites.dictionary->Set(axes.get(), keyOf(name),
                                          ai::suites.entry->FromString(realText(value).c_str())));
@@ -143,14 +153,18 @@ bool LayerAxesStore::read(AILayerHandle layer, SymmetryAxes& out) {
     out.axisCount = 0;
     const ai::Dictionary axes = axesEntryIn(groupArtDictionary(topLevelLayer(layer)));
     if (!axes) return false;
-    out.originX = readReal(axes, key::kOriginX);
-    out.originY = readReal(axes, key::kOriginY);
-    out.angle = readReal(axes, key::kAngle);
-    out.axisCount =
-        std::clamp(readInteger(axes, key::kAxisCount, kFewestAxes), kFewestAxes, kMostAxes);
-    out.autoMirror = readBoolean(axes, key::kAutoMirror, true);
-    out.onLayer = true;
+    readAxes(axes, out);
     return true;
+}
+
+std::optional<LayerAxesStore::LiveAxes> LayerAxesStore::readLive(AILayerHandle layer) {
+    const ai::Dictionary axes = axesEntryIn(groupArtDictionary(topLevelLayer(layer)));
+    if (!axes) return std::nullopt;
+    LiveAxes live;
+    readAxes(axes, live.axes);
+    if (!live.axes.autoMirror) return std::nullopt;
+    live.stamp = readInteger(axes, key::kStamp, 0);
+    return live;
 }
 
 void LayerAxesStore::write(const SymmetryAxes& axes) {

@@ -11,6 +11,7 @@
 #include "host/Types.h"
 #include "symmetry/SymmetryAxes.h"
 
+#include <optional>
 #include <vector>
 
 namespace facetta {
@@ -34,6 +35,15 @@ namespace LayerAxesStore {
 /// angle 0, one axis, automatic mirroring on; the count is clamped to 1..72. Returns whether axes
 /// were found.
 bool read(AILayerHandle layer, SymmetryAxes& out);
+
+/// What keeps a layer mirrored: its axes, and the stamp noted last; 0: none was.
+struct LiveAxes {
+    SymmetryAxes axes;
+    ai::int32 stamp = 0;
+};
+
+/// Both of a layer that mirrors automatically, from one look at its entry; nothing for any other.
+[[nodiscard]] std::optional<LiveAxes> readLive(AILayerHandle layer);
 
 /// Stores `axes` on the top-level layer of the current layer. The entry is replaced as a whole, and
 /// with it goes the stamp.

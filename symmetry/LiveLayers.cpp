@@ -21,10 +21,7 @@
 namespace facetta {
 namespace {
 
-bool mirrorsAutomatically(AILayerHandle layer) {
-    SymmetryAxes axes;
-    return LayerAxesStore::read(layer, axes) && axes.autoMirror && !isLayerBlocked(layer);
-}
+using LayerAxesStore::LiveAxes;
 
 struct UndoSteps {
     ai::int32 past = 0;
@@ -56,8 +53,8 @@ bool fits(const LiveLayerMemory::Layer& last, ai::int32 stored, const LayerStamp
 
 enum class Finding : std::uint8_t { NothingToDo, Changed, PenDraws };
 
-Finding examine(LiveLayerMemory& memory, AILayerHandle layer, const UndoSteps& steps, Pen pen) {
-    const ai::int32 stored = LayerAxesStore::stampOf(layer);
+Finding examine(LiveLayerMemory& memory, AILayerHandle layer, ai::int32 stored,
+                const UndoSteps& steps, Pen pen) {
     // Without a stamp the axes were written and nothing was mirrored since.
     if (stored == 0) return steps.canBeJoined() ? Finding::Changed : Finding::NothingToDo;
     const LayerStamp now = readLayerStamp(layer, memory.reach);
@@ -124,22 +121,22 @@ bool mirrorLayer(const MirrorEnvironment& environment, bool option, AILayerHandl
 }
 
 /// The same with the same outcome, but copies that fit as they are may stay.
-bool refreshLayer(const MirrorEnvironment& environment, AILayerHandle layer) {
+bool refreshLayer(const MirrorEnvironment& environment, AILayerHandle layer, const LiveAxes& live) {
     LiveLayerMemory& memory = environment.live;
-    const std::optional<std::uint64_t> stamp = memory.givenAs(LayerAxesStore::stampOf(layer));
+    const std::optional<std::uint64_t> stamp = memory.givenAs(live.stamp);
     if (!stamp) return mirrorLayer(environment, /*option*/ false, layer);
     MirrorEngine engine{environment};
-    engine.refresh(layer, {*stamp, memory.reach});
+    engine.refresh(layer, live.axes, {*stamp, memory.reach});
     LiveLayerMemory::Layer& noted = stampLayer(memory, layer);
     memory.mirrored = true;
     return noteTooLong(noted, engine.pathsTooLong());
 }
 
 /// Makes the copies fit again after a change of the art.
-void mirrorAgain(const MirrorEnvironment& environment, AILayerHandle layer) {
+void mirrorAgain(const MirrorEnvironment& environment, AILayerHandle layer, const LiveAxes& live) {
     MirrorEnvironment silent = environment;
     silent.showMessage = {};
-    if (refreshLayer(silent, layer) && environment.showMessage)
+    if (refreshLayer(silent, layer, live) && environment.showMessage)
         environment.showMessage(kPathsTooLong);
 }
 
@@ -177,21 +174,22 @@ bool regenerateLayer(const MirrorEnvironment& environment, bool option, AILayerH
 
 Regeneration regenerateChangedLayers(const MirrorEnvironment& environment, Pen pen) {
     Regeneration done;
-    std::vector<AILayerHandle> due;
+    std::vector<std::pair<AILayerHandle, LiveAxes>> due;
     std::optional<UndoSteps> steps;
     for (const AILayerHandle layer : topLevelLayers()) {
-        if (!mirrorsAutomatically(layer)) continue;
+        const std::optional<LiveAxes> live = LayerAxesStore::readLive(layer);
+        if (!live || isLayerBlocked(layer)) continue;
         if (!steps) steps = countUndoSteps();
-        const Finding finding = examine(environment.live, layer, *steps, pen);
-        if (finding == Finding::Changed) due.push_back(layer);
+        const Finding finding = examine(environment.live, layer, live->stamp, *steps, pen);
+        if (finding == Finding::Changed) due.emplace_back(layer, *live);
         done.waits = done.waits || finding == Finding::PenDraws;
     }
     if (due.empty()) return done;
     // In a message that was sent from inside another the host does not listen, and need not: all
     // that happens there belongs to the step of the outer one.
     static_cast<void>(ai::suites.undo->SetKind(kAppendUndoContext));
-    for (const AILayerHandle layer : due)
-        mirrorAgain(environment, layer);
+    for (const auto& [layer, live] : due)
+        mirrorAgain(environment, layer, live);
     done.layers = static_cast<int>(due.size());
     return done;
 }

@@ -203,10 +203,8 @@ void MirrorEngine::run(bool selectionMode, bool keepCurrentAxes, bool option, AI
     finish(mirroring.takePathsTooLong(), option);
 }
 
-void MirrorEngine::refresh(AILayerHandle layer, const FitState& fit) {
+void MirrorEngine::refresh(AILayerHandle layer, const SymmetryAxes& axes, const FitState& fit) {
     pathsTooLong_.clear();
-    SymmetryAxes axes;
-    if (!LayerAxesStore::read(layer, axes)) return;
     Run mirroring{pageAxes(axes), CopyMode::Live, /*removePoints*/ false};
     const FreshCopies fresh{layer, fit};
     const auto passOver = [&](const Unit& unit, std::span<const AIArtHandle> behind) {

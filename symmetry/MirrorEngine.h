@@ -46,9 +46,10 @@ public:
     /// `ai::Error` when a host call fails; the host's undo then brings back the art as it was.
     void run(bool selectionMode, bool keepCurrentAxes, bool option, AILayerHandle layer);
 
-    /// Regenerates a top-level layer after an edit: as `run`, with the same outcome, but what is as
-    /// it was when the copies fitted is passed over (symmetry/FreshCopies.h).
-    void refresh(AILayerHandle layer, const FitState& fit);
+    /// Regenerates a top-level layer after an edit, `axes` being those stored on it: as `run`, with
+    /// the same outcome, but what is as it was when the copies fitted is passed over
+    /// (symmetry/FreshCopies.h).
+    void refresh(AILayerHandle layer, const SymmetryAxes& axes, const FitState& fit);
 
     /// The paths that the last run has left as they were, because they would be too long.
     [[nodiscard]] const std::vector<AIArtHandle>& pathsTooLong() const { return pathsTooLong_; }
