@@ -29,25 +29,6 @@ constexpr std::array<Utf8Form, 4> kUtf8Forms = {{
     {0xF8, 0xF0, kFirstSupplementary},
 }};
 
-/// The character at the start of `text`, which is cut off it.
-char32_t takeUtf8(std::string_view& text) {
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    for (std::size_t tail = 0; tail < kUtf8Forms.size(); ++tail) {
-        const Utf8Form& form = kUtf8Forms[tail];
-        if ((byte(0) & form.mask) != form.lead) continue;
-        if (text.size() <= tail) break;
-        char32_t character = byte(0) & static_cast<unsigned char>(~form.mask);
-        for (std::size_t i = 1; i <= tail; ++i) {
-            if ((byte(i) & 0xC0) != 0x80) throw ai::Error{kStringMalformedErr};
-            character = character << 6 | (byte(i) & 0x3F);
-        }
-        if (character < form.least || character > kLastCharacter || isSurrogate(character)) break;
-        text.remove_prefix(tail + 1);
-        return character;
-    }
-    throw ai::Error{kStringMalformedErr};
-}
-
 void appendUtf8(std::string& text, char32_t character) {
     if (character > kLastCharacter || isSurrogate(character)) character = kReplacement;
     std::size_t tail = kUtf8Forms.size() - 1;
@@ -60,11 +41,32 @@ void appendUtf8(std::string& text, char32_t character) {
 
 } // namespace
 
+std::optional<char32_t> takeUtf8(std::string_view& text) {
+    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+    for (std::size_t tail = 0; tail < kUtf8Forms.size(); ++tail) {
+        const Utf8Form& form = kUtf8Forms[tail];
+        if ((byte(0) & form.mask) != form.lead) continue;
+        if (text.size() <= tail) break;
+        char32_t character = byte(0) & static_cast<unsigned char>(~form.mask);
+        for (std::size_t i = 1; i <= tail; ++i) {
+            if ((byte(i) & 0xC0) != 0x80) return std::nullopt;
+            character = character << 6 | (byte(i) & 0x3F);
+        }
+        if (character < form.least || character > kLastCharacter || isSurrogate(character)) break;
+        text.remove_prefix(tail + 1);
+        return character;
+    }
+    return std::nullopt;
+}
+
 std::u32string utf32FromUtf8(std::string_view text) {
     std::u32string characters;
     characters.reserve(text.size());
-    while (!text.empty())
-        characters.push_back(takeUtf8(text));
+    while (!text.empty()) {
+        const auto character = takeUtf8(text);
+        if (!character) throw ai::Error{kStringMalformedErr};
+        characters.push_back(*character);
+    }
     return characters;
 }
 

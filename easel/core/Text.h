@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -8,6 +8,8 @@
 
 namespace easel {
 
+/// The character at the start of `text`, which is cut off it. Nothing where that is no UTF-8.
+[[nodiscard]] std::optional<char32_t> takeUtf8(std::string_view& text);
 /// Throws `ai::Error` 'US!F' when `text` is not valid UTF-8.
 [[nodiscard]] std::u32string utf32FromUtf8(std::string_view text);
 /// An unpaired surrogate is kept as it is: names of files may hold one.

@@ -11,7 +11,12 @@ namespace easel {
 struct CurvePoint {
     double x = 0;
     double y = 0;
+    bool operator==(const CurvePoint&) const = default;
 };
+
+constexpr CurvePoint operator+(CurvePoint a, CurvePoint b) { return {a.x + b.x, a.y + b.y}; }
+constexpr CurvePoint operator-(CurvePoint a, CurvePoint b) { return {a.x - b.x, a.y - b.y}; }
+constexpr CurvePoint operator*(double factor, CurvePoint p) { return {factor * p.x, factor * p.y}; }
 
 [[nodiscard]] constexpr CurvePoint curvePoint(AIRealPoint point) noexcept {
     return {point.h, point.v};

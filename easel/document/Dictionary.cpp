@@ -49,16 +49,21 @@ void attachValue(const Value& value, const std::shared_ptr<UndoLog>& log) {
     if (const auto* array = std::get_if<Ref<Array>>(&value)) (*array)->attach(log);
 }
 
+const Value& valueOf(const DictionaryItem& item) { return item.value; }
+const Value& valueOf(const Value& value) { return value; }
+
+DictionaryItem copyOf(const DictionaryItem& item) { return {item.key, deepCopy(item.value)}; }
+Value copyOf(const Value& value) { return deepCopy(value); }
+
 /// Exchanges what a dictionary or an array holds.
-template <typename Container, typename Item, void (Container::*Swap)(std::vector<Item>&) noexcept>
-class ContainerState final : public KeptState {
+template <typename Item> class ContainerState final : public KeptState {
 public:
-    ContainerState(Container& container, std::vector<Item> items)
+    ContainerState(Container<Item>& container, std::vector<Item> items)
         : container_(&container), items_(std::move(items)) {}
-    void exchange() override { ((*container_).*Swap)(items_); }
+    void exchange() override { container_->swapItems(items_); }
 
 private:
-    Ref<Container> container_;
+    Ref<Container<Item>> container_;
     std::vector<Item> items_;
 };
 
@@ -78,6 +83,39 @@ Key internKey(std::string_view text) {
 
 bool isTemporary(Key key) noexcept { return !key->empty() && key->front() == '-'; }
 
+template <typename Item> void Container<Item>::copyFrom(const Container& other) {
+    if (&other == this) return;
+    std::vector<Item> copies;
+    copies.reserve(other.items_.size());
+    for (const Item& item : other.items_)
+        copies.push_back(copyOf(item));
+    beginChange();
+    items_ = std::move(copies);
+    for (const Item& item : items_)
+        attachValue(valueOf(item), log_);
+}
+
+template <typename Item> void Container<Item>::attach(const std::shared_ptr<UndoLog>& log) {
+    if (log_ == log) return;
+    log_ = log;
+    for (const Item& item : items_)
+        attachValue(valueOf(item), log);
+}
+
+template <typename Item> void Container<Item>::beginChange() {
+    if (log_ != nullptr && log_->mustKeep(keptIn_))
+        log_->keep(std::make_unique<ContainerState<Item>>(*this, items_));
+}
+
+template <typename Item> void Container<Item>::beginChange(const Value& added) {
+    NestingCheck(*this).descend(added);
+    beginChange();
+    attachValue(added, log_);
+}
+
+template class Container<DictionaryItem>;
+template class Container<Value>;
+
 std::vector<DictionaryItem> Dictionary::sortedItems() const {
     std::vector<DictionaryItem> sorted = items_;
     std::ranges::sort(sorted, {}, [](const DictionaryItem& item) { return *item.key; });
@@ -90,9 +128,7 @@ const Value* Dictionary::find(Key key) const noexcept {
 }
 
 void Dictionary::set(Key key, Value value) {
-    NestingCheck(*this).descend(value);
-    keepFormerState();
-    attachValue(value, log_);
+    beginChange(value);
     const auto found = std::ranges::find(items_, key, &DictionaryItem::key);
     if (found != items_.end())
         found->value = std::move(value);
@@ -103,86 +139,32 @@ void Dictionary::set(Key key, Value value) {
 bool Dictionary::erase(Key key) {
     const auto found = std::ranges::find(items_, key, &DictionaryItem::key);
     if (found == items_.end()) return false;
-    keepFormerState();
+    beginChange();
     items_.erase(items_.begin() + (found - items_.begin()));
     return true;
 }
 
-void Dictionary::copyFrom(const Dictionary& other) {
-    if (&other == this) return;
-    std::vector<DictionaryItem> copies;
-    copies.reserve(other.items_.size());
-    for (const auto& [key, value] : other.items_)
-        copies.push_back({key, deepCopy(value)});
-    keepFormerState();
-    items_ = std::move(copies);
-    for (const DictionaryItem& item : items_)
-        attachValue(item.value, log_);
-}
-
-void Dictionary::attach(const std::shared_ptr<UndoLog>& log) {
-    if (log_ == log) return;
-    log_ = log;
-    for (const DictionaryItem& item : items_)
-        attachValue(item.value, log);
-}
-
-void Dictionary::keepFormerState() {
-    using State = ContainerState<Dictionary, DictionaryItem, &Dictionary::swapItems>;
-    if (log_ != nullptr && log_->mustKeep(keptIn_))
-        log_->keep(std::make_unique<State>(*this, items_));
-}
-
 const Value& Array::at(ai::int32 index) const {
-    if (index < 0 || index >= std::ssize(values_)) throw ai::Error{kNoSuchEntry};
-    return values_[static_cast<std::size_t>(index)];
+    if (index < 0 || index >= std::ssize(items_)) throw ai::Error{kNoSuchEntry};
+    return items_[static_cast<std::size_t>(index)];
 }
 
 void Array::set(ai::int32 index, Value value) {
     static_cast<void>(at(index));
-    NestingCheck(*this).descend(value);
-    keepFormerState();
-    attachValue(value, log_);
-    values_[static_cast<std::size_t>(index)] = std::move(value);
+    beginChange(value);
+    items_[static_cast<std::size_t>(index)] = std::move(value);
 }
 
 void Array::insert(ai::int32 index, Value value) {
-    if (index < 0 || index > std::ssize(values_)) throw ai::Error{kNoSuchEntry};
-    NestingCheck(*this).descend(value);
-    keepFormerState();
-    attachValue(value, log_);
-    values_.insert(values_.begin() + index, std::move(value));
+    if (index < 0 || index > std::ssize(items_)) throw ai::Error{kNoSuchEntry};
+    beginChange(value);
+    items_.insert(items_.begin() + index, std::move(value));
 }
 
 void Array::erase(ai::int32 index) {
     static_cast<void>(at(index));
-    keepFormerState();
-    values_.erase(values_.begin() + index);
-}
-
-void Array::copyFrom(const Array& other) {
-    if (&other == this) return;
-    std::vector<Value> copies;
-    copies.reserve(other.values_.size());
-    for (const Value& value : other.values_)
-        copies.push_back(deepCopy(value));
-    keepFormerState();
-    values_ = std::move(copies);
-    for (const Value& value : values_)
-        attachValue(value, log_);
-}
-
-void Array::attach(const std::shared_ptr<UndoLog>& log) {
-    if (log_ == log) return;
-    log_ = log;
-    for (const Value& value : values_)
-        attachValue(value, log);
-}
-
-void Array::keepFormerState() {
-    using State = ContainerState<Array, Value, &Array::swapValues>;
-    if (log_ != nullptr && log_->mustKeep(keptIn_))
-        log_->keep(std::make_unique<State>(*this, values_));
+    beginChange();
+    items_.erase(items_.begin() + index);
 }
 
 } // namespace easel

@@ -23,13 +23,36 @@ struct DictionaryItem {
     Value value;
 };
 
-/// Entries shared by whoever holds the dictionary. Once it belongs to a document (as the dictionary
-/// of art or of the document, or nested in one that does) its changes are recorded for undo.
-class Dictionary final : public Counted {
+/// What dictionaries and arrays have in common: items whose changes, once the container belongs to
+/// a document (as the dictionary of art or of the document, or nested in one that does), are
+/// recorded for undo.
+template <typename Item> class Container : public Counted {
 public:
-    Dictionary() noexcept : Counted(HandleKind::Dictionary, Lent::Dictionary) {}
+    using Counted::Counted;
 
-    [[nodiscard]] std::span<const DictionaryItem> items() const noexcept { return items_; }
+    [[nodiscard]] std::span<const Item> items() const noexcept { return items_; }
+    /// Takes over copies of the items of `other`; what was here is gone.
+    void copyFrom(const Container& other);
+    /// From now on changes are recorded there, those of nested dictionaries and arrays as well.
+    void attach(const std::shared_ptr<UndoLog>& log);
+    /// For the undo log: exchanges the items with kept ones.
+    void swapItems(std::vector<Item>& items) noexcept { items_.swap(items); }
+
+protected:
+    /// Before a change of any kind; the other also for what the change brings in.
+    void beginChange();
+    void beginChange(const Value& added);
+
+    std::vector<Item> items_;
+    std::shared_ptr<UndoLog> log_;
+    std::uint64_t keptIn_ = 0; ///< The epoch of the undo log in which the former state was kept.
+};
+
+/// Entries shared by whoever holds the dictionary.
+class Dictionary final : public Container<DictionaryItem> {
+public:
+    Dictionary() noexcept : Container(HandleKind::Dictionary, Lent::Dictionary) {}
+
     /// Ordered by the text of their keys, so that what is written does not depend on history.
     [[nodiscard]] std::vector<DictionaryItem> sortedItems() const;
     /// Null when absent.
@@ -39,11 +62,7 @@ public:
     void set(Key key, Value value);
     /// False when absent.
     bool erase(Key key);
-    /// Takes over copies of the entries of `other`; what was here is gone.
-    void copyFrom(const Dictionary& other);
 
-    /// From now on changes are recorded there, those of nested dictionaries and arrays as well.
-    void attach(const std::shared_ptr<UndoLog>& log);
     /// It came to be in that epoch of the undo log, together with what owns it: there is no former
     /// state to keep.
     void noteMadeIn(std::uint64_t epoch) noexcept { keptIn_ = epoch; }
@@ -51,41 +70,22 @@ public:
     [[nodiscard]] Art* owner() const noexcept { return owner_; }
     void setOwner(Art* art) noexcept { owner_ = art; }
 
-    /// For the undo log: exchanges the entries with kept ones.
-    void swapItems(std::vector<DictionaryItem>& items) noexcept { items_.swap(items); }
-
 private:
-    void keepFormerState();
-
-    std::vector<DictionaryItem> items_;
-    std::shared_ptr<UndoLog> log_;
     Art* owner_ = nullptr;
-    std::uint64_t keptIn_ = 0; ///< The epoch of the undo log in which the former state was kept.
 };
 
-/// A counted list of values, otherwise like a dictionary.
-class Array final : public Counted {
+/// A counted list of values.
+class Array final : public Container<Value> {
 public:
-    Array() noexcept : Counted(HandleKind::Array, Lent::Array) {}
+    Array() noexcept : Container(HandleKind::Array, Lent::Array) {}
 
-    [[nodiscard]] std::span<const Value> values() const noexcept { return values_; }
+    [[nodiscard]] std::span<const Value> values() const noexcept { return items(); }
     /// Throws 'EnNS' out of range.
     [[nodiscard]] const Value& at(ai::int32 index) const;
     void set(ai::int32 index, Value value);
     /// Before `index`; at the end when `index` is the count.
     void insert(ai::int32 index, Value value);
     void erase(ai::int32 index);
-    void copyFrom(const Array& other);
-
-    void attach(const std::shared_ptr<UndoLog>& log);
-    void swapValues(std::vector<Value>& values) noexcept { values_.swap(values); }
-
-private:
-    void keepFormerState();
-
-    std::vector<Value> values_;
-    std::shared_ptr<UndoLog> log_;
-    std::uint64_t keptIn_ = 0;
 };
 
 } // namespace easel

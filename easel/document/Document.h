@@ -4,7 +4,6 @@
 #include "easel/document/UndoLog.h"
 
 #include <filesystem>
-#include <string_view>
 
 namespace easel {
 

@@ -8,9 +8,6 @@ namespace {
 
 using Stroke = std::span<const CurvePoint>;
 
-CurvePoint operator+(CurvePoint a, CurvePoint b) { return {a.x + b.x, a.y + b.y}; }
-CurvePoint operator-(CurvePoint a, CurvePoint b) { return {a.x - b.x, a.y - b.y}; }
-CurvePoint operator*(double factor, CurvePoint a) { return {factor * a.x, factor * a.y}; }
 double dot(CurvePoint a, CurvePoint b) { return a.x * b.x + a.y * b.y; }
 double length(CurvePoint a) { return std::hypot(a.x, a.y); }
 CurvePoint direction(CurvePoint a) {

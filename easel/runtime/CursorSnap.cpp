@@ -1,9 +1,8 @@
 #include "easel/runtime/CursorSnap.h"
 
 #include "easel/document/Attributes.h"
-#include "easel/document/Bezier.h"
+#include "easel/document/PathMeasure.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <optional>
@@ -44,18 +43,12 @@ private:
 enum class Search { Anchors, Lines };
 
 void offerPath(const Art& path, Search search, Nearest& nearest) {
-    const auto segments = path.segments();
-    for (std::size_t i = 0; i < segments.size(); ++i) {
-        if (search == Search::Anchors) {
-            nearest.offerAnchor(segments[i].p);
-            continue;
-        }
-        const bool isLast = i + 1 == segments.size();
-        if (isLast && !path.content().closed) break;
-        const AIPathSegment& end = segments[isLast ? 0 : i + 1];
-        nearest.offerCurve({curvePoint(segments[i].p), curvePoint(segments[i].out),
-                            curvePoint(end.in), curvePoint(end.p)});
-    }
+    if (search == Search::Anchors)
+        for (const AIPathSegment& segment : path.segments())
+            nearest.offerAnchor(segment.p);
+    else
+        for (std::size_t i = 0; i < curveCount(path); ++i)
+            nearest.offerCurve(curveFrom(path, i));
 }
 
 void offerArt(const Document& document, Search search, Nearest& nearest) {

@@ -16,10 +16,7 @@ struct SessionError : std::runtime_error {
 };
 
 /// A place in the user units of a drawing: y downwards.
-struct DrawingPoint {
-    double x = 0;
-    double y = 0;
-};
+using DrawingPoint = CurvePoint;
 
 /// A user's sitting with drawings and plug-ins:
 ///

@@ -1,7 +1,6 @@
 #include "easel/svg/ArtBuilder.h"
 
 #include "easel/document/Layers.h"
-#include "easel/svg/DictionaryJson.h"
 #include "easel/svg/Numbers.h"
 #include "easel/svg/ViewBox.h"
 
@@ -18,19 +17,8 @@ namespace {
 /// single precision does to short handles far out.
 constexpr double kSmoothSine = 1e-3;
 
-bool isGroup(std::string_view element) {
-    return element == "g" || element == "a" || element == "switch" || element == "svg";
-}
-
 bool isOpaque(std::string_view element) {
     return element == "text" || element == "image" || element == "use";
-}
-
-bool isShape(std::string_view element) {
-    for (const std::string_view shape :
-         {"path", "rect", "circle", "ellipse", "line", "polyline", "polygon"})
-        if (shape == element) return true;
-    return false;
 }
 
 bool samePlace(AIRealPoint a, AIRealPoint b) { return a.h == b.h && a.v == b.v; }
@@ -63,7 +51,7 @@ void readEndHandles(const Element& element, Art& path, Point offset) {
 
 bool ArtBuilder::isArt(const Element& element) {
     const std::string_view name = element.name();
-    return isGroup(name) || isShape(name) || isOpaque(name) ||
+    return isGroupElement(name) || isShape(name) || isOpaque(name) ||
            (name == "clipPath" && element.isTrue("easel:clip"));
 }
 
@@ -92,7 +80,7 @@ Art* ArtBuilder::readElement(const Element& element, Art& parent, const Context&
     state_.countElement(element);
     const auto context = std::make_unique<const Context>(contextOf(element, parentContext));
     if (name == "clipPath") return readClipMembers(element, parent, *context);
-    if (isGroup(name)) return readGroup(element, parent, *context);
+    if (isGroupElement(name)) return readGroup(element, parent, *context);
 
     const std::string& clipPath = context->style.clipPath;
     Art* const clipGroup =
@@ -230,7 +218,7 @@ void ArtBuilder::readState(const Element& element, const Style& style, Art& art)
         for (Art* member = art.firstChild(); member != nullptr; member = member->next())
             member->write().guide = true;
     if (element.has("easel:dictionary"))
-        readDictionary(element, element.get("easel:dictionary"), art.dictionary());
+        readEntries(element, element.get("easel:dictionary"), art.dictionary());
     if (source_ != nullptr && element.has("id")) art.write().id = Cow{element.get("id")};
     if (element.has("easel:note")) art.write().details.write().note = element.get("easel:note");
     const std::string label = element.get("inkscape:label");
@@ -275,21 +263,11 @@ void ArtBuilder::readMembers(const Element& element, Art& compound) {
                 details.note = item.value("note", "");
             }
             if (item.contains("dictionary"))
-                readDictionary(element, item.value("dictionary", ""), member->dictionary());
+                readEntries(element, item.value("dictionary", ""), member->dictionary());
             member = member->previous();
         }
     } catch (const Json::exception&) {
         element.fail("easel:members is no list of what the subpaths carry");
-    }
-}
-
-void ArtBuilder::readDictionary(const Element& element, std::string_view text,
-                                Dictionary& dictionary) {
-    try {
-        readDictionaryJson(text, dictionary);
-    } catch (const std::invalid_argument& error) {
-        element.fail("the entries of <" + std::string{element.name()} +
-                     "> are broken: " + error.what());
     }
 }
 
@@ -298,9 +276,6 @@ void ArtBuilder::keepSource(const Element& element, const Art& art) {
     ArtSource& source = source_->art[art.handle()];
     source.node = element.node();
     source_->isArt[element.node()] = true;
-    if (art.type() != kCompoundPathArt) return;
-    for (const Art* member = art.lastChild(); member != nullptr; member = member->previous())
-        source.parts.push_back(member->handle());
 }
 
 } // namespace easel::svg

@@ -2,7 +2,6 @@
 
 #include "easel/svg/ReadingState.h"
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -50,7 +49,6 @@ private:
     void setSegments(Art& path, const Subpath& subpath, const Matrix& matrix);
     void readLayer(const Element& element, const std::string& title, LayerProperties& layer);
     void readMembers(const Element& element, Art& compound);
-    void readDictionary(const Element& element, std::string_view text, Dictionary& dictionary);
 
     // Styling.cpp
     /// What art of the element carries although it is not understood; null: nothing.

@@ -32,15 +32,8 @@ const ArtContent& AsRead::content(const Art& art) const {
 }
 
 bool AsRead::hasSameState(const Art& art, const ArtSource& source) const {
-    const auto texts = [](const std::vector<AttributeText>& attributes) {
-        std::vector<std::string> result;
-        for (const AttributeText& each : attributes)
-            result.push_back(each.text);
-        return result;
-    };
-    return texts(artAttributes(art, presentContent)) ==
-               texts(artAttributes(
-                   art, [&](const Art&) -> const ArtContent& { return source.content; })) &&
+    const ContentOf asRead = [&](const Art&) -> const ArtContent& { return source.content; };
+    return artAttributes(art, presentContent) == artAttributes(art, asRead) &&
            art.has(kArtHidden) == isHidden(source.content);
 }
 

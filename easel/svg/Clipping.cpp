@@ -2,8 +2,6 @@
 #include "easel/document/Bounds.h"
 #include "easel/svg/ArtBuilder.h"
 
-#include <algorithm>
-
 namespace easel::svg {
 namespace {
 
@@ -48,12 +46,9 @@ std::optional<Outline> ArtBuilder::clipOutline(const Element& clipPath, const Co
             if (target == kNoNode) continue;
             state_.countReference(child);
             used.emplace(state_.tree, target);
-            inner->matrix = inner->matrix * Matrix{1,
-                                                   0,
-                                                   0,
-                                                   1,
-                                                   child.length("x", inner->viewport.width, 0),
-                                                   child.length("y", inner->viewport.height, 0)};
+            inner->matrix =
+                inner->matrix * translation({child.length("x", inner->viewport.width, 0),
+                                             child.length("y", inner->viewport.height, 0)});
             *inner = contextOf(*used, *inner);
             shape = &*used;
         }
@@ -106,12 +101,7 @@ std::vector<LayerClip::Mask> ArtBuilder::clipMasks(const std::string& clipPath,
         Context start{Style{}, context.matrix, context.viewport};
         if (element.get("clipPathUnits") == "objectBoundingBox") {
             if (bounds.empty) return {};
-            start.matrix = start.matrix * Matrix{bounds.max.x - bounds.min.x,
-                                                 0,
-                                                 0,
-                                                 bounds.max.y - bounds.min.y,
-                                                 bounds.min.x,
-                                                 bounds.min.y};
+            start.matrix = start.matrix * fromUnitSquare(bounds);
         }
         const auto own = std::make_unique<Context>(contextOf(element, start));
         bool evenOdd = false;

@@ -121,6 +121,7 @@ struct ArtSource {
 struct AttributeText {
     std::string_view name;
     std::string text;
+    bool operator==(const AttributeText&) const = default;
 };
 
 /// What was read of the file as a whole: its text, to be written back where nothing has changed,

@@ -1,5 +1,6 @@
 #include "easel/svg/DictionaryJson.h"
 
+#include "easel/core/Text.h"
 #include "easel/svg/Base64.h"
 
 #include <nlohmann/json.hpp>
@@ -23,12 +24,9 @@ constexpr int kMostNesting = 32;
 // Text that is not UTF-8 cannot stand in JSON; it is kept byte by byte under another name.
 
 bool isUtf8(std::string_view text) {
-    try {
-        static_cast<void>(Json(text).dump());
-        return true;
-    } catch (const Json::type_error&) {
-        return false;
-    }
+    while (!text.empty())
+        if (!takeUtf8(text)) return false;
+    return true;
 }
 
 void putText(Json& item, const char* name, std::string_view text) {

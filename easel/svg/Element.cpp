@@ -45,7 +45,7 @@ Properties Element::properties(const StyleSheet& sheet,
                                const std::vector<ElementName>& path) const {
     Properties result;
     for (const XmlAttribute& attribute : attributes_)
-        if (isProperty(attribute.name))
+        if (!propertyNamed(attribute.name).name.empty())
             result[std::string{attribute.name}] = trimmed(tree_->decode(attribute.raw));
     const auto add = [&](const Declaration& declaration) {
         result[declaration.property] = declaration.value;
@@ -63,6 +63,10 @@ Properties Element::properties(const StyleSheet& sheet,
 }
 
 void Element::fail(const std::string& message) const { throw SvgError(line(), message); }
+
+bool isGroupElement(std::string_view name) {
+    return name == "g" || name == "a" || name == "switch" || name == "svg";
+}
 
 std::vector<NodeIndex> childElements(const XmlTree& tree, NodeIndex node) {
     std::vector<NodeIndex> elements;

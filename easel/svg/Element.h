@@ -49,7 +49,10 @@ private:
     std::vector<XmlAttribute> attributes_;
 };
 
-/// The lengths and fractions of one element's children, in document order.
+/// Does an element of that name hold others that are drawn?
+[[nodiscard]] bool isGroupElement(std::string_view name);
+
+/// In document order.
 [[nodiscard]] std::vector<NodeIndex> childElements(const XmlTree& tree, NodeIndex node);
 
 /// What CSS calls a declaration list; empty for no properties.

@@ -38,10 +38,6 @@ bool isInUse(const XmlTree& tree, NodeIndex generated, const Ids& used) {
 
 } // namespace
 
-bool isGroupElement(std::string_view name) {
-    return name == "g" || name == "a" || name == "switch" || name == "svg";
-}
-
 void GeneratedDefinitions::keepLost(NodeIndex node) {
     const Element element{tree_, node};
     if (element.isTrue("easel:clip")) return;

@@ -40,6 +40,4 @@ private:
     std::set<NodeIndex> kept_;
 };
 
-[[nodiscard]] bool isGroupElement(std::string_view name);
-
 } // namespace easel::svg

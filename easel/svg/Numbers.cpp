@@ -115,18 +115,6 @@ std::optional<double> parseFraction(std::string_view text) {
 void appendNumber(std::string& text, float value) { appendShortest(text, value); }
 void appendNumber(std::string& text, double value) { appendShortest(text, value); }
 
-std::string formatNumber(float value) {
-    std::string text;
-    appendNumber(text, value);
-    return text;
-}
-
-std::string formatNumber(double value) {
-    std::string text;
-    appendNumber(text, value);
-    return text;
-}
-
 std::string_view trimmed(std::string_view text) {
     const std::size_t first = text.find_first_not_of(kBlanks);
     if (first == std::string_view::npos) return {};

@@ -60,8 +60,11 @@ struct NumberList {
 /// longer than a few digits. Negative zero is written as 0.
 void appendNumber(std::string& text, float value);
 void appendNumber(std::string& text, double value);
-[[nodiscard]] std::string formatNumber(float value);
-[[nodiscard]] std::string formatNumber(double value);
+template <typename Real> [[nodiscard]] std::string formatNumber(Real value) {
+    std::string text;
+    appendNumber(text, value);
+    return text;
+}
 
 [[nodiscard]] std::string_view trimmed(std::string_view text);
 /// `a` and `b` are the same but for the case of ASCII letters.

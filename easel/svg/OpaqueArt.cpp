@@ -191,7 +191,7 @@ Art* ArtBuilder::readUse(const Element& element, Art& parent, const Context& con
     std::string variant = inheritedText(context.style);
     for (const double number : {corner.x, corner.y, size.x, size.y})
         variant += ' ' + formatNumber(number);
-    Context inner{context.style, Matrix{1, 0, 0, 1, corner.x, corner.y}, viewport};
+    Context inner{context.style, translation(corner), viewport};
     inner.style.opacity = 1.0;
     inner.style.clipPath.clear();
     inner.style.others.clear();

@@ -1,7 +1,6 @@
 #include "easel/svg/Outline.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <numbers>
 #include <optional>
@@ -9,29 +8,11 @@
 namespace easel::svg {
 namespace {
 
-/// The parameters in (0, 1) at which one coordinate of a cubic has a zero derivative.
-std::array<double, 2> extremes(double p0, double p1, double p2, double p3) {
-    constexpr double kNone = -1.0;
-    const double a = -p0 + 3 * p1 - 3 * p2 + p3;
-    const double b = 2 * (p0 - 2 * p1 + p2);
-    const double c = p1 - p0;
-    if (std::abs(a) < 1e-12 * (std::abs(b) + std::abs(c))) return {b == 0 ? kNone : -c / b, kNone};
-    const double discriminant = b * b - 4 * a * c;
-    if (!(discriminant >= 0)) return {kNone, kNone};
-    const double root = std::sqrt(discriminant);
-    return {(-b + root) / (2 * a), (-b - root) / (2 * a)};
-}
-
-Point onCubic(const Anchor& from, const Anchor& to, double t) {
-    const double s = 1 - t;
-    return s * s * s * from.p + 3 * s * s * t * from.out + 3 * s * t * t * to.in + t * t * t * to.p;
-}
-
 void addCurve(Box& box, const Anchor& from, const Anchor& to) {
-    box.add(to.p);
-    for (double Point::*axis : {&Point::x, &Point::y})
-        for (const double t : extremes(from.p.*axis, from.out.*axis, to.in.*axis, to.p.*axis))
-            if (t > 0 && t < 1) box.add(onCubic(from, to, t));
+    const Extent across = extentOf(from.p.x, from.out.x, to.in.x, to.p.x);
+    const Extent down = extentOf(from.p.y, from.out.y, to.in.y, to.p.y);
+    box.add({across.low, down.low});
+    box.add({across.high, down.high});
 }
 
 /// One piece of an ellipse that `place` makes of the unit circle, from angle `from` by `step`.
@@ -113,6 +94,10 @@ void Box::add(Point point) {
     }
     min = {std::min(min.x, point.x), std::min(min.y, point.y)};
     max = {std::max(max.x, point.x), std::max(max.y, point.y)};
+}
+
+Matrix fromUnitSquare(const Box& box) {
+    return {box.max.x - box.min.x, 0, 0, box.max.y - box.min.y, box.min.x, box.min.y};
 }
 
 Box boundsOf(const Outline& outline) {

@@ -51,6 +51,9 @@ struct Box {
     void add(Point point);
 };
 
+/// What brings the unit square over the box, as units of "objectBoundingBox" ask.
+[[nodiscard]] Matrix fromUnitSquare(const Box& box);
+
 /// The exact extremes of the curves, without stroke.
 [[nodiscard]] Box boundsOf(const Outline& outline);
 

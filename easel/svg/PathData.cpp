@@ -2,6 +2,7 @@
 
 #include "easel/svg/Numbers.h"
 
+#include <array>
 #include <cmath>
 #include <optional>
 #include <utility>
@@ -89,21 +90,17 @@ private:
     }
 
     bool moveTo() {
-        const auto target = point();
-        if (!target) return false;
+        const auto given = points<1>();
+        if (!given) return false;
         finishSubpath();
-        current_ = start_ = *target;
+        current_ = start_ = given->front();
         subpath_.anchors.push_back(cornerAt(current_));
         return true;
     }
 
     bool lineTo() {
-        const auto target = point();
-        if (!target) return false;
-        beginIfNeeded();
-        appendLine(subpath_, *target);
-        current_ = *target;
-        return true;
+        const auto given = points<1>();
+        return given && line(given->front());
     }
 
     bool alongAxis(double Point::*axis) {
@@ -111,41 +108,29 @@ private:
         if (!value) return false;
         Point target = current_;
         target.*axis = relative_ ? current_.*axis + *value : *value;
-        if (!isSane(target)) return failRange();
-        beginIfNeeded();
-        appendLine(subpath_, target);
-        current_ = target;
-        return true;
+        return isSane(target) ? line(target) : failRange();
     }
 
     bool curveTo() {
-        const auto control1 = point();
-        const auto control2 = control1 ? point() : std::nullopt;
-        const auto target = control2 ? point() : std::nullopt;
-        if (!target) return false;
-        return curve(*control1, *control2, *target);
+        const auto given = points<3>();
+        return given && curve((*given)[0], (*given)[1], (*given)[2]);
     }
 
     bool smoothCurveTo() {
-        const auto control2 = point();
-        const auto target = control2 ? point() : std::nullopt;
-        if (!target) return false;
+        const auto given = points<2>();
         const bool smooth = previous_ == 'C' || previous_ == 'S';
-        return curve(smooth ? mirroredAt(current_, control_) : current_, *control2, *target);
+        return given && curve(goingOn(smooth), (*given)[0], (*given)[1]);
     }
 
     bool quadraticTo() {
-        const auto control = point();
-        const auto target = control ? point() : std::nullopt;
-        if (!target) return false;
-        return quadratic(*control, *target);
+        const auto given = points<2>();
+        return given && quadratic((*given)[0], (*given)[1]);
     }
 
     bool smoothQuadraticTo() {
-        const auto target = point();
-        if (!target) return false;
+        const auto given = points<1>();
         const bool smooth = previous_ == 'Q' || previous_ == 'T';
-        return quadratic(smooth ? mirroredAt(current_, control_) : current_, *target);
+        return given && quadratic(goingOn(smooth), given->front());
     }
 
     bool arcTo() {
@@ -163,6 +148,18 @@ private:
         appendArc(subpath_, {*radiusX, *radiusY}, *rotation, *largeArc, *sweep, *target);
         current_ = *target;
         return true;
+    }
+
+    bool line(Point target) {
+        beginIfNeeded();
+        appendLine(subpath_, target);
+        current_ = target;
+        return true;
+    }
+
+    /// The control point of a curve that goes on as the one before it ended.
+    [[nodiscard]] Point goingOn(bool smooth) const {
+        return smooth ? mirroredAt(current_, control_) : current_;
     }
 
     bool curve(Point control1, Point control2, Point target) {
@@ -196,6 +193,16 @@ private:
         if (isSane(result)) return result;
         failRange();
         return std::nullopt;
+    }
+
+    template <std::size_t Count> std::optional<std::array<Point, Count>> points() {
+        std::array<Point, Count> result;
+        for (Point& each : result) {
+            const auto next = point();
+            if (!next) return std::nullopt;
+            each = *next;
+        }
+        return result;
     }
 
     /// What is drawn on after Z starts where the closed subpath started.

@@ -1,9 +1,11 @@
 #include "easel/svg/ReadingState.h"
 
+#include "easel/svg/DictionaryJson.h"
 #include "easel/svg/Numbers.h"
 
 #include <algorithm>
 #include <cmath>
+#include <stdexcept>
 
 namespace easel::svg {
 namespace {
@@ -60,6 +62,15 @@ Context rootContext(const Element& root, const StyleSheet& sheet, Point size) {
     const Viewport viewport{size.x, size.y};
     const Properties properties = root.properties(sheet, {root.selectorName()});
     return {styleOf(properties, Style{}, viewport.diagonal()), Matrix{}, viewport};
+}
+
+void readEntries(const Element& element, std::string_view json, Dictionary& target) {
+    try {
+        readDictionaryJson(json, target);
+    } catch (const std::invalid_argument& error) {
+        element.fail("the entries of <" + std::string{element.name()} +
+                     "> are broken: " + error.what());
+    }
 }
 
 Deeper::Deeper(ReadingState& state, const Element& element) : state_(state) {

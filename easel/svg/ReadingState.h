@@ -7,7 +7,6 @@
 #include <map>
 #include <memory>
 #include <string>
-#include <tuple>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -69,6 +68,9 @@ private:
 
 /// What the root hands down; `size` is that of its view box.
 [[nodiscard]] Context rootContext(const Element& root, const StyleSheet& sheet, Point size);
+
+/// Adds the entries that an attribute of the element holds. Throws SvgError where they are broken.
+void readEntries(const Element& element, std::string_view json, Dictionary& target);
 
 /// Something put back when a scope ends.
 template <typename Container> class Pushed {

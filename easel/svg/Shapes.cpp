@@ -140,6 +140,11 @@ constexpr Row kShapes[] = {
 
 } // namespace
 
+bool isShape(std::string_view element) {
+    return element == "path" || element == "polyline" || element == "polygon" ||
+           std::ranges::find(kShapes, element, &Row::element) != std::end(kShapes);
+}
+
 double Viewport::diagonal() const { return std::hypot(width, height) / std::sqrt(2.0); }
 
 std::optional<ShapeOutline> shapeOutline(std::string_view element, const AttributeLookup& attribute,

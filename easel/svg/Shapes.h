@@ -24,6 +24,8 @@ struct ShapeOutline {
     std::string error; ///< What of its attributes is wrong; what came before it is drawn.
 };
 
+[[nodiscard]] bool isShape(std::string_view element);
+
 /// The outline of a rect, circle, ellipse, line, polyline, polygon or path. Nothing for any other
 /// element.
 [[nodiscard]] std::optional<ShapeOutline> shapeOutline(std::string_view element,

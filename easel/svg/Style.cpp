@@ -3,7 +3,6 @@
 #include "easel/svg/Numbers.h"
 
 #include <algorithm>
-#include <cmath>
 #include <optional>
 
 namespace easel::svg {
@@ -12,15 +11,8 @@ namespace {
 /// A dash pattern with more parts is no pattern any more.
 constexpr std::size_t kMostDashes = 1024;
 
-/// Properties by name, in alphabetical order for a binary search.
-struct PropertyRow {
-    std::string_view name;
-    bool understood;
-    bool inherited;
-    bool text; ///< Of text alone.
-    std::string_view initial;
-};
-constexpr PropertyRow kProperties[] = {
+/// In alphabetical order, for a binary search.
+constexpr Property kProperties[] = {
     {"alignment-baseline", false, false, true, ""},
     {"baseline-shift", false, false, true, ""},
     {"clip-path", true, false, false, "none"},
@@ -88,13 +80,8 @@ constexpr PropertyRow kProperties[] = {
     {"word-spacing", false, true, true, "normal"},
     {"writing-mode", false, true, true, ""},
 };
-static_assert(std::ranges::is_sorted(kProperties, {}, &PropertyRow::name));
-
-const PropertyRow* rowOf(std::string_view name) {
-    const PropertyRow* const row =
-        std::ranges::lower_bound(kProperties, name, {}, &PropertyRow::name);
-    return row != std::end(kProperties) && row->name == name ? row : nullptr;
-}
+static_assert(std::ranges::is_sorted(kProperties, {}, &Property::name));
+constexpr Property kNoProperty;
 
 std::optional<Paint> parsePaint(std::string_view text, const Colour& current) {
     text = trimmed(text);
@@ -272,7 +259,7 @@ constexpr Setter kSetters[] = {
 /// Can the property be written in a declaration list, among others, and be read again? What cannot
 /// is invalid to all readers and has no effect.
 bool isOneDeclaration(const std::string& property, const std::string& value) {
-    if (isUnderstood(property)) return true; // never kept in a declaration list
+    if (propertyNamed(property).understood) return true; // never kept in a declaration list
     const auto isNamed = [](char c) { return (c >= 'a' && c <= 'z') || c == '-' || c == '_'; };
     if (!std::ranges::all_of(property, isNamed)) return false;
     const std::vector<Declaration> read = parseDeclarations(property + ':' + value + ";x:y");
@@ -290,7 +277,8 @@ Style handedDown(const Style& parent) {
     style.stopColour = initial.stopColour;
     style.stopOpacity = initial.stopOpacity;
     style.others.clear();
-    std::erase_if(style.unknown, [](const auto& each) { return !isInherited(each.first); });
+    std::erase_if(style.unknown,
+                  [](const auto& each) { return !propertyNamed(each.first).inherited; });
     return style;
 }
 
@@ -303,39 +291,22 @@ constexpr std::string_view kGeometry[] = {"transform", "translate", "rotate", "s
 bool apply(Style& style, const Style& parent, std::string_view property, std::string_view value,
            double viewport) {
     value = trimmed(value);
-    const PropertyRow* const row = rowOf(property);
-    if (row == nullptr) return std::ranges::find(kGeometry, property) == std::end(kGeometry);
-    const bool asParent = value == "inherit" || (value == "unset" && row->inherited);
-    if (asParent) return row->inherited; // what is handed down is there already
-    if (value == "initial" || value == "unset") value = row->initial;
+    const Property& known = propertyNamed(property);
+    if (known.name.empty()) return std::ranges::find(kGeometry, property) == std::end(kGeometry);
+    const bool asParent = value == "inherit" || (value == "unset" && known.inherited);
+    if (asParent) return known.inherited; // what is handed down is there already
+    if (value == "initial" || value == "unset") value = known.initial;
     for (const Setter& setter : kSetters)
         if (setter.property == property)
-            return setter.set({style, parent, value, viewport}) || row->text;
+            return setter.set({style, parent, value, viewport}) || known.text;
     return true;
 }
 
 } // namespace
 
-bool isProperty(std::string_view name) { return rowOf(name) != nullptr; }
-
-bool isUnderstood(std::string_view property) {
-    const PropertyRow* const row = rowOf(property);
-    return row != nullptr && row->understood;
-}
-
-bool isInherited(std::string_view property) {
-    const PropertyRow* const row = rowOf(property);
-    return row != nullptr && row->inherited;
-}
-
-bool isTextProperty(std::string_view property) {
-    const PropertyRow* const row = rowOf(property);
-    return row != nullptr && row->text;
-}
-
-std::string_view initialValue(std::string_view property) {
-    const PropertyRow* const row = rowOf(property);
-    return row != nullptr ? row->initial : std::string_view{};
+const Property& propertyNamed(std::string_view name) {
+    const Property* const row = std::ranges::lower_bound(kProperties, name, {}, &Property::name);
+    return row != std::end(kProperties) && row->name == name ? *row : kNoProperty;
 }
 
 Style styleOf(const Properties& properties, const Style& parent, double viewport) {
@@ -352,7 +323,8 @@ Style styleOf(const Properties& properties, const Style& parent, double viewport
         else
             style.unknown[property] = value;
         if (!isOneDeclaration(property, value)) continue;
-        if (isInherited(property)) {
+        const Property& known = propertyNamed(property);
+        if (known.inherited) {
             if (value == "inherit" || value == "unset") continue;
             if (!inherited)
                 inherited = style.inherited ? std::make_shared<Properties>(*style.inherited)
@@ -360,7 +332,7 @@ Style styleOf(const Properties& properties, const Style& parent, double viewport
             // A size relative to an ancestor's means something else without the ancestor.
             (*inherited)[property] =
                 property == "font-size" ? formatNumber(style.font.size) : value;
-        } else if (!isUnderstood(property) && !style.unknown.contains(property)) {
+        } else if (!known.understood && !style.unknown.contains(property)) {
             style.others[property] = value;
         }
     }

@@ -71,15 +71,16 @@ struct Style {
     Properties unknown;
 };
 
-/// Is `name` a presentation attribute, a property that may stand as an attribute of its own?
-[[nodiscard]] bool isProperty(std::string_view name);
-/// Do we understand it, so that it is written anew and not copied?
-[[nodiscard]] bool isUnderstood(std::string_view property);
-[[nodiscard]] bool isInherited(std::string_view property);
-/// Does it matter to text alone?
-[[nodiscard]] bool isTextProperty(std::string_view property);
-/// What it is where nothing says otherwise; empty where that matters to nobody.
-[[nodiscard]] std::string_view initialValue(std::string_view property);
+/// A property that may stand as an attribute of its own.
+struct Property {
+    std::string_view name;
+    bool understood = false; ///< Written anew, not copied.
+    bool inherited = false;
+    bool text = false;        ///< Matters to text alone.
+    std::string_view initial; ///< Where nothing says otherwise; empty where that matters to nobody.
+};
+/// One without a name where there is none of that name.
+[[nodiscard]] const Property& propertyNamed(std::string_view name);
 
 /// The style of an element with these properties, a child of one with style `parent`. `viewport` is
 /// what percentages of lengths refer to.

@@ -9,7 +9,7 @@ std::string valueIn(const Style& style, const std::string& property) {
     if (property == "opacity") return formatNumber(style.opacity);
     for (const Properties* known : {style.inherited.get(), &style.others, &style.unknown})
         if (known != nullptr && known->contains(property)) return known->at(property);
-    return std::string{initialValue(property)};
+    return std::string{propertyNamed(property).initial};
 }
 
 } // namespace
@@ -18,13 +18,13 @@ void setProperties(TagText& tag, const Properties& wanted, const Style& here, bo
                    bool inStyle) {
     for (const auto& [property, value] : wanted)
         if (valueIn(here, property) != value)
-            tag.setProperty(property, value, inStyle || !isProperty(property));
+            tag.setProperty(property, value, inStyle || propertyNamed(property).name.empty());
     if (!here.inherited) return;
     for (const auto& [property, value] : *here.inherited) {
-        const std::string initial{initialValue(property)};
-        if (wanted.contains(property) || initial.empty() || value == initial) continue;
-        if (isTextProperty(property) ? isText : !isUnderstood(property) || isText)
-            tag.setProperty(property, initial, inStyle);
+        const Property& known = propertyNamed(property);
+        if (wanted.contains(property) || known.initial.empty() || value == known.initial) continue;
+        if (known.text ? isText : !known.understood || isText)
+            tag.setProperty(property, known.initial, inStyle);
     }
 }
 

@@ -5,7 +5,6 @@
 #include "easel/svg/ViewBox.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace easel::svg {
 namespace {
@@ -32,11 +31,6 @@ void setDashes(const Style& style, double scale, ArtStyle& target) {
 constexpr std::string_view kSpatial[] = {"filter",     "mask",       "clip-path",   "marker",
                                          "marker-end", "marker-mid", "marker-start"};
 
-Matrix boundsMatrix(const Box& bounds) {
-    return {
-        bounds.max.x - bounds.min.x, 0, 0, bounds.max.y - bounds.min.y, bounds.min.x, bounds.min.y};
-}
-
 } // namespace
 
 std::shared_ptr<Effects> ArtBuilder::effectsOf(const Element& element,
@@ -44,15 +38,13 @@ std::shared_ptr<Effects> ArtBuilder::effectsOf(const Element& element,
     const Style& style = context.style;
     auto effects = std::make_shared<Effects>();
     Properties& properties = effects->properties;
-    const bool isLeaf = shapeOutline(
-                            element.name(), [](auto) { return std::string{}; }, {}, 1)
-                            .has_value();
+    const bool isLeaf = isShape(element.name());
     properties = style.others;
     if (const auto shape = style.unknown.find("clip-path"); shape != style.unknown.end())
         properties.insert(*shape);
     if (isLeaf && style.inherited)
         for (const auto& [property, value] : *style.inherited)
-            if (!isUnderstood(property) && !isTextProperty(property))
+            if (!propertyNamed(property).understood && !propertyNamed(property).text)
                 properties.try_emplace(property, value);
     effects->spatial = std::ranges::any_of(
         kSpatial, [&](std::string_view each) { return properties.contains(std::string{each}); });
@@ -149,7 +141,7 @@ ArtBuilder::serverFor(const std::string& id, const Context& context, const Outli
     Definition& known = definition(Definition::Kind::Gradient, id, gradient, {});
     if (!gradient) return ServerUse{&known, unplaced};
     if (!gradient->overBounds) return ServerUse{&known, plain};
-    const Matrix overBounds = boundsMatrix(bounds);
+    const Matrix overBounds = fromUnitSquare(bounds);
     if (bounds.empty || !inverse(overBounds)) return std::nullopt; // SVG: such a shape has no paint
     return ServerUse{&known, toSoft(context.matrix * overBounds, offset_)};
 }

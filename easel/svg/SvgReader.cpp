@@ -1,6 +1,5 @@
 #include "easel/document/Layers.h"
 #include "easel/svg/ArtBuilder.h"
-#include "easel/svg/DictionaryJson.h"
 #include "easel/svg/Numbers.h"
 #include "easel/svg/PaintServers.h"
 #include "easel/svg/SvgFile.h"
@@ -171,8 +170,10 @@ private:
     }
 
     void readDocumentState(const Element& root) {
-        readEntries(root, "easel:document", document_->recordedDictionary());
-        readEntries(root, "easel:unrecorded", document_->otherDictionary());
+        if (root.has("easel:document"))
+            readEntries(root, root.get("easel:document"), document_->recordedDictionary());
+        if (root.has("easel:unrecorded"))
+            readEntries(root, root.get("easel:unrecorded"), document_->otherDictionary());
         if (const auto units = parseNumber(root.get("easel:ruler-units")))
             document_->rulerUnits = static_cast<ai::int16>(std::clamp(*units, 0.0, 10.0));
         if (const auto model = parseNumber(root.get("easel:color-model")))
@@ -182,15 +183,6 @@ private:
                                  ? numberedLayer(*document_, static_cast<int>(*number))
                                  : nullptr;
         setCurrentLayer(*document_, current != nullptr ? *current : startingLayer(*document_));
-    }
-
-    static void readEntries(const Element& root, std::string_view attribute, Dictionary& target) {
-        if (!root.has(attribute)) return;
-        try {
-            readDictionaryJson(root.get(attribute), target);
-        } catch (const std::invalid_argument& error) {
-            root.fail("the entries of the document are broken: " + std::string{error.what()});
-        }
     }
 
     ReadingState state_;

@@ -17,8 +17,6 @@ constexpr double kRadiansPerDegree = std::numbers::pi / 180.0;
 
 using Arguments = std::span<const double>;
 
-Matrix translated(double x, double y) { return {1, 0, 0, 1, x, y}; }
-
 Matrix rotated(double degrees) {
     const double angle = degrees * kRadiansPerDegree;
     return {std::cos(angle), std::sin(angle), -std::sin(angle), std::cos(angle), 0, 0};
@@ -33,13 +31,16 @@ struct Form {
 
 constexpr Form kForms[] = {
     {"matrix", 6, 6, [](Arguments n) { return Matrix{n[0], n[1], n[2], n[3], n[4], n[5]}; }},
-    {"translate", 1, 2, [](Arguments n) { return translated(n[0], n.size() > 1 ? n[1] : 0.0); }},
+    {"translate", 1, 2,
+     [](Arguments n) {
+         return translation({n[0], n.size() > 1 ? n[1] : 0.0});
+     }},
     {"scale", 1, 2,
      [](Arguments n) { return Matrix{n[0], 0, 0, n.size() > 1 ? n[1] : n[0], 0, 0}; }},
     {"rotate", 1, 3,
      [](Arguments n) {
          if (n.size() < 3) return rotated(n[0]);
-         return translated(n[1], n[2]) * rotated(n[0]) * translated(-n[1], -n[2]);
+         return translation({n[1], n[2]}) * rotated(n[0]) * translation({-n[1], -n[2]});
      }},
     {"skewX", 1, 1,
      [](Arguments n) { return Matrix{1, 0, std::tan(n[0] * kRadiansPerDegree), 1, 0, 0}; }},

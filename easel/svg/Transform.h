@@ -1,5 +1,7 @@
 #pragma once
 
+#include "easel/document/Bezier.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -7,15 +9,7 @@
 /// Points and affine matrices of SVG: x to the right, y downwards, in user units.
 namespace easel::svg {
 
-struct Point {
-    double x = 0.0;
-    double y = 0.0;
-    bool operator==(const Point&) const = default;
-};
-
-constexpr Point operator+(Point a, Point b) { return {a.x + b.x, a.y + b.y}; }
-constexpr Point operator-(Point a, Point b) { return {a.x - b.x, a.y - b.y}; }
-constexpr Point operator*(double factor, Point p) { return {factor * p.x, factor * p.y}; }
+using Point = CurvePoint;
 
 /// x' = a x + c y + e, y' = b x + d y + f, as in SVG's matrix(a b c d e f).
 struct Matrix {
@@ -27,6 +21,8 @@ struct Matrix {
     double f = 0.0;
     bool operator==(const Matrix&) const = default;
 };
+
+[[nodiscard]] constexpr Matrix translation(Point way) { return {1, 0, 0, 1, way.x, way.y}; }
 
 [[nodiscard]] Point operator*(const Matrix& matrix, Point point);
 

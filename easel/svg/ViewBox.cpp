@@ -61,7 +61,7 @@ void enterViewBox(const Element& element, Context& context, Point given) {
             context.matrix * fitted(*box, corner, size, element.get("preserveAspectRatio"));
         context.viewport = {box->size.x, box->size.y};
     } else {
-        context.matrix = context.matrix * Matrix{1, 0, 0, 1, corner.x, corner.y};
+        context.matrix = context.matrix * translation(corner);
         context.viewport = {size.x, size.y};
     }
 }

@@ -1,5 +1,6 @@
 #include "easel/svg/XmlTree.h"
 
+#include "easel/core/Text.h"
 #include "easel/svg/Numbers.h"
 
 #include <algorithm>
@@ -37,25 +38,6 @@ struct Entity {
 constexpr Entity kEntities[] = {
     {"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}};
 
-void appendUtf8(std::string& text, std::uint32_t code) {
-    const auto byte = [&](std::uint32_t value) { text += static_cast<char>(value); };
-    if (code < 0x80) {
-        byte(code);
-    } else if (code < 0x800) {
-        byte(0xC0 | code >> 6);
-        byte(0x80 | (code & 0x3F));
-    } else if (code < 0x10000) {
-        byte(0xE0 | code >> 12);
-        byte(0x80 | (code >> 6 & 0x3F));
-        byte(0x80 | (code & 0x3F));
-    } else {
-        byte(0xF0 | code >> 18);
-        byte(0x80 | (code >> 12 & 0x3F));
-        byte(0x80 | (code >> 6 & 0x3F));
-        byte(0x80 | (code & 0x3F));
-    }
-}
-
 /// "#65" or "#x41"; false when it is no character.
 bool appendCharacter(std::string& text, std::string_view reference) {
     reference.remove_prefix(1);
@@ -67,43 +49,23 @@ bool appendCharacter(std::string& text, std::string_view reference) {
     const bool surrogate = code >= 0xD800 && code < 0xE000;
     if (result.ec != std::errc{} || result.ptr != end || code == 0 || code > 0x10FFFF || surrogate)
         return false;
-    appendUtf8(text, code);
+    const auto character = static_cast<char32_t>(code);
+    text += utf8FromUtf32({&character, 1});
     return true;
-}
-
-/// How long the character of UTF-8 is that `text` begins with; 0: it begins with none.
-std::size_t characterLength(std::string_view text) {
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const unsigned first = byte(0);
-    const std::size_t length = first < 0x80   ? 1
-                               : first < 0xC2 ? 0
-                               : first < 0xE0 ? 2
-                               : first < 0xF0 ? 3
-                               : first < 0xF5 ? 4
-                                              : 0;
-    if (length > text.size()) return 0;
-    for (std::size_t i = 1; i < length; ++i)
-        if ((byte(i) & 0xC0) != 0x80) return 0;
-    // Written longer than need be, half of a pair of UTF-16, beyond the last character.
-    const unsigned second = length > 2 ? byte(1) : 0;
-    const bool odd = (first == 0xE0 && second < 0xA0) || (first == 0xED && second >= 0xA0) ||
-                     (first == 0xF0 && second < 0x90) || (first == 0xF4 && second >= 0x90);
-    return odd ? 0 : length;
 }
 
 void checkUtf8(std::string_view text) {
     std::size_t line = 1;
-    std::size_t lineStart = 0;
-    for (std::size_t at = 0; at < text.size();) {
-        if (text[at] == '\n') {
-            ++line;
-            lineStart = at + 1;
-        }
-        const std::size_t length = characterLength(text.substr(at));
-        if (length == 0)
-            throw SvgError(line, "byte " + std::to_string(at - lineStart + 1) +
+    std::size_t place = 1; // in the line
+    for (std::string_view rest = text; !rest.empty();) {
+        const std::string_view here = rest;
+        const auto character = takeUtf8(rest);
+        if (!character)
+            throw SvgError(line, "byte " + std::to_string(place) +
                                      " of the line is no UTF-8; save the drawing in UTF-8");
-        at += length;
+        const bool lineEnds = *character == U'\n';
+        line += lineEnds ? 1 : 0;
+        place = lineEnds ? 1 : place + here.size() - rest.size();
     }
 }
 
@@ -335,7 +297,7 @@ private:
         if (open_.size() >= kMostNesting)
             fail("elements are nested more than " + std::to_string(kMostNesting) +
                  " deep; remove groups that hold only a group");
-        if (++tree_.elementCount_ > kMostElements)
+        if (++elementCount_ > kMostElements)
             fail("there are more than 1,000,000 elements; divide the drawing");
         const std::size_t nameStart = position_ + 1;
         std::size_t at = nameStart;
@@ -419,6 +381,7 @@ private:
     std::size_t counted_ = 0;
     std::uint32_t line_ = 1;
     std::vector<Open> open_;
+    std::size_t elementCount_ = 0;
     std::size_t entityBytes_ = 0;
     std::string_view default_; ///< The namespace of names without a prefix; empty: none was given.
     std::set<std::string_view> svgPrefixes_;

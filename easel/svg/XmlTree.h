@@ -69,7 +69,6 @@ public:
     [[nodiscard]] const Node& at(NodeIndex node) const { return nodes_[node]; }
     /// All nodes, in the order of the text, are numbered from 0.
     [[nodiscard]] std::size_t size() const { return nodes_.size(); }
-    [[nodiscard]] std::size_t elementCount() const { return elementCount_; }
 
     /// Everything before and after the root element.
     [[nodiscard]] std::string_view prologue() const;
@@ -108,7 +107,6 @@ private:
     std::string text_;
     std::vector<Node> nodes_;
     NodeIndex root_ = kNoNode;
-    std::size_t elementCount_ = 0;
     std::unordered_map<std::string, NodeIndex> ids_;
     std::unordered_map<std::string_view, std::string_view> entities_;
     /// Names of attributes under the usual prefix, by the name under which they stand.

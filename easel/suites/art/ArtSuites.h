@@ -7,22 +7,12 @@ namespace easel {
 
 class SuiteServer;
 
-void installArtSuite(SuiteServer& server);
-void installArtSetSuite(SuiteServer& server);
-void installDictionarySuite(SuiteServer& server);
-void installEntrySuite(SuiteServer& server);
-void installArraySuite(SuiteServer& server);
-void installLayerSuite(SuiteServer& server);
-void installPathSuite(SuiteServer& server);
-void installPathStyleSuite(SuiteServer& server);
-void installGroupSuite(SuiteServer& server);
-void installPluginGroupSuite(SuiteServer& server);
-void installSymbolSuite(SuiteServer& server);
-void installRealMathSuite(SuiteServer& server);
-void installTransformArtSuite(SuiteServer& server);
-void installHardSoftSuite(SuiteServer& server);
-void installHitTestSuite(SuiteServer& server);
-void installUndoSuite(SuiteServer& server);
+using SuiteInstaller = void(SuiteServer& server);
+
+SuiteInstaller installArtSuite, installArtSetSuite, installDictionarySuite, installEntrySuite,
+    installArraySuite, installLayerSuite, installPathSuite, installPathStyleSuite,
+    installGroupSuite, installPluginGroupSuite, installSymbolSuite, installRealMathSuite,
+    installTransformArtSuite, installHardSoftSuite, installHitTestSuite, installUndoSuite;
 
 /// All of them.
 void installArtSuites(SuiteServer& server);

@@ -4,8 +4,6 @@
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIAnnotatorSuite.h"
 
-#include <algorithm>
-
 namespace easel {
 namespace {
 

@@ -57,8 +57,7 @@ AIErr destroy(String& string) {
 
 /// A copy shares nothing with its original. One of an unset string is unset or empty: the same.
 AIErr assign(String& string, const String& other) {
-    if (stringObject(session().ledger, other) != nullptr ||
-        stringObject(session().ledger, string) != nullptr)
+    if (isSet(session().ledger, other) || isSet(session().ledger, string))
         writeString(session().ledger, string, readString(session().ledger, other));
     return kNoErr;
 }
