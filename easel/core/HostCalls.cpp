@@ -3,7 +3,6 @@
 #include <cassert>
 #include <chrono>
 #include <thread>
-#include <utility>
 
 namespace easel {
 namespace {

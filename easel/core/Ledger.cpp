@@ -3,7 +3,6 @@
 #include "host/Error.h"
 
 #include <algorithm>
-#include <functional>
 #include <map>
 #include <utility>
 

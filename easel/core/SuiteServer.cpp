@@ -3,7 +3,6 @@
 #include "easel/core/Expose.h"
 #include "easel/core/SlotTables.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdio>

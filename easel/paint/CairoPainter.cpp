@@ -4,7 +4,6 @@
 #include "easel/paint/Picture.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstring>
 #include <new>
 

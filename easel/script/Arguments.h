@@ -3,8 +3,6 @@
 #include "easel/script/ScriptText.h"
 #include "easel/script/System.h"
 
-#include <initializer_list>
-#include <optional>
 #include <span>
 
 namespace easel::script {
@@ -37,6 +35,13 @@ public:
     [[nodiscard]] Place place(const char* what);
     /// Which of `choices` stands here.
     [[nodiscard]] std::size_t choice(const char* what, std::span<const char* const> choices);
+    /// The row whose name stands here.
+    template <typename Rows> [[nodiscard]] const auto& row(const char* what, const Rows& rows) {
+        std::vector<const char*> names;
+        for (const auto& each : rows)
+            names.push_back(each.name);
+        return rows[choice(what, names)];
+    }
     /// The keys that "with" names, which end the line; none when it does not stand here.
     [[nodiscard]] HeldKeys keys();
 

@@ -103,8 +103,7 @@ constexpr LayerDeed kLayerDeeds[] = {
 Action readRename(Arguments& arguments) {
     const std::string title = arguments.text("title");
     return [title, name = arguments.text("new title")](Player& player) {
-        static_cast<void>(player.document());
-        player.host().edit("Rename Layer", [&](Document& document) {
+        player.edit("Rename Layer", [&](Document& document) {
             changeLayer(layerNamed(document, title),
                         [&](LayerProperties& layer) { layer.title = name; });
         });
@@ -113,14 +112,10 @@ Action readRename(Arguments& arguments) {
 
 Action readLayer(Arguments& arguments) {
     if (arguments.take("rename")) return readRename(arguments);
-    std::vector<const char*> names;
-    for (const LayerDeed& deed : kLayerDeeds)
-        names.push_back(deed.name);
-    const LayerDeed& deed = kLayerDeeds[arguments.choice("deed with layers", names)];
+    const LayerDeed& deed = arguments.row("deed with layers", kLayerDeeds);
     return [&deed, title = arguments.text("title")](Player& player) {
-        static_cast<void>(player.document());
         const bool isChoice = &deed == &kLayerDeeds[0];
-        player.host().edit(
+        player.edit(
             deed.undoText, [&](Document& document) { deed.change(document, title); },
             isChoice ? kSilentUndoContext : kStandardUndoContext);
     };
@@ -142,23 +137,19 @@ std::vector<Art*> artNamed(const Document& document, const std::string& id) {
 
 Action readSelect(Arguments& arguments) {
     if (arguments.take("all"))
-        return [](Player& player) {
-            static_cast<void>(player.document());
-            player.host().edit("Select All", selectAll, kSilentUndoContext);
-        };
+        return [](Player& player) { player.edit("Select All", selectAll, kSilentUndoContext); };
     std::vector<std::string> ids;
     if (!arguments.take("none")) do
             ids.push_back(arguments.text("id"));
         while (!arguments.atEnd());
     return [ids](Player& player) {
-        static_cast<void>(player.document());
         const auto change = [&](Document& document) {
             deselectAll(document);
             for (const std::string& id : ids)
                 for (Art* const art : artNamed(document, id))
                     select(*art, true);
         };
-        player.host().edit("Select", change, kSilentUndoContext);
+        player.edit("Select", change, kSilentUndoContext);
     };
 }
 
@@ -167,7 +158,7 @@ Action readDelete(Arguments& arguments) {
         const std::vector<Art*> named = artNamed(player.document(), id);
         if (!std::ranges::all_of(named, [](const Art* art) { return isEditable(*art); }))
             throw SessionError('"' + id + "\" is locked or hidden");
-        player.host().edit("Clear", [&](Document&) {
+        player.edit("Clear", [&](Document&) {
             for (Art* const art : named)
                 disposeArt(*art);
         });
@@ -175,19 +166,14 @@ Action readDelete(Arguments& arguments) {
 }
 
 Action readClear(Arguments&) {
-    return [](Player& player) {
-        static_cast<void>(player.document());
-        player.host().edit("Clear", deleteSelected);
-    };
+    return [](Player& player) { player.edit("Clear", deleteSelected); };
 }
 
 Action readNudge(Arguments& arguments) {
     const double right = arguments.number("way to the right");
     const double down = arguments.number("way down");
     return [=](Player& player) {
-        static_cast<void>(player.document());
-        player.host().edit("Move",
-                           [=](Document& document) { moveSelected(document, right, -down); });
+        player.edit("Move", [=](Document& document) { moveSelected(document, right, -down); });
     };
 }
 
@@ -214,8 +200,7 @@ Action readPaint(Arguments& arguments) {
         };
     }
     return [change](Player& player) {
-        static_cast<void>(player.document());
-        player.host().edit("Paint", [&](Document& document) { restyleSelected(document, change); });
+        player.edit("Paint", [&](Document& document) { restyleSelected(document, change); });
     };
 }
 
@@ -394,10 +379,7 @@ Action readReload(Arguments&) {
 }
 
 Action readHost(Arguments& arguments) {
-    std::vector<const char*> names;
-    for (const SwitchName& each : switchNames())
-        names.push_back(each.name);
-    const SwitchName& named = switchNames()[arguments.choice("thing that hosts differ in", names)];
+    const SwitchName& named = arguments.row("thing that hosts differ in", switchNames());
     const bool on = arguments.choice("state", kSwitch) == 1;
     return [&named, on](Player& player) { player.switches().*named.value = on; };
 }

@@ -1,7 +1,6 @@
 #include "easel/script/Dialogs.h"
 
 #include <algorithm>
-#include <utility>
 #include <vector>
 
 namespace easel {

@@ -33,6 +33,10 @@ Finding compare(const std::string& wanted, const std::string& found) {
     return {wanted == found, wanted, found};
 }
 
+std::string noneOr(Arguments& arguments, const char* what) {
+    return arguments.take(kNone) ? kNone : quoted(arguments.text(what));
+}
+
 // What the menus say
 
 Check readUndoText(Arguments& arguments) {
@@ -165,9 +169,9 @@ std::string shownHint(Player& player) {
 }
 
 Check readHint(Arguments& arguments) {
-    const std::string wanted =
-        arguments.take(kNone) ? std::string(kNone) : quoted(arguments.text("text"));
-    return [wanted](Player& player) { return compare(wanted, shownHint(player)); };
+    return [wanted = noneOr(arguments, "text")](Player& player) {
+        return compare(wanted, shownHint(player));
+    };
 }
 
 Check readTextShown(Arguments& arguments) {
@@ -200,10 +204,7 @@ constexpr DrawnKind kDrawnKinds[] = {
 
 Check readDrawn(Arguments& arguments) {
     const int count = arguments.whole("number", 0, 1'000'000);
-    std::vector<const char*> names;
-    for (const DrawnKind& kind : kDrawnKinds)
-        names.push_back(kind.name);
-    const DrawnKind& kind = kDrawnKinds[arguments.choice("kind of drawn things", names)];
+    const DrawnKind& kind = arguments.row("kind of drawn things", kDrawnKinds);
     return [count, &kind](Player& player) {
         const auto drawn = std::count_if(player.shown().begin(), player.shown().end(), kind.is);
         return compare(std::to_string(count) + ' ' + kind.name,
@@ -289,10 +290,7 @@ constexpr Countable kCountables[] = {
 
 Check readArt(Arguments& arguments) {
     const int count = arguments.whole("number", 0, 1'000'000);
-    std::vector<const char*> names;
-    for (const Countable& each : kCountables)
-        names.push_back(each.name);
-    const Countable& what = kCountables[arguments.choice("kind of art", names)];
+    const Countable& what = arguments.row("kind of art", kCountables);
     return [count, &what](Player& player) {
         return compare(std::to_string(count) + ' ' + what.name,
                        std::to_string(what.count(player.document())) + ' ' + what.name);
@@ -380,10 +378,7 @@ constexpr InfoVariable kInfoVariables[] = {{"x", 15},     {"y", 16},       {"wid
                                            {"height", 3}, {"distance", 4}, {"angle", 5}};
 
 Check readInfo(Arguments& arguments) {
-    std::vector<const char*> names;
-    for (const InfoVariable& each : kInfoVariables)
-        names.push_back(each.name);
-    const InfoVariable& variable = kInfoVariables[arguments.choice("info variable", names)];
+    const InfoVariable& variable = arguments.row("info variable", kInfoVariables);
     const double wanted = arguments.number("value");
     const double tolerance = arguments.take("within") ? arguments.number("tolerance") : 0.001;
     return [=, &variable](Player& player) -> Finding {
@@ -410,9 +405,7 @@ Check readPreferenceValue(Arguments& arguments) {
 }
 
 Check readAlert(Arguments& arguments) {
-    const std::string wanted =
-        arguments.take(kNone) ? std::string(kNone) : quoted(arguments.text("text"));
-    return [wanted](Player& player) {
+    return [wanted = noneOr(arguments, "text")](Player& player) {
         const auto alert = player.takeAlert();
         return compare(wanted, alert ? quoted(*alert) : kNone);
     };
@@ -420,9 +413,7 @@ Check readAlert(Arguments& arguments) {
 
 /// Names are compared, not folders: where a manual lies depends on the installation.
 Check readOpened(Arguments& arguments) {
-    const std::string wanted =
-        arguments.take(kNone) ? std::string(kNone) : quoted(arguments.text("file"));
-    return [wanted](Player& player) {
+    return [wanted = noneOr(arguments, "file")](Player& player) {
         auto& launched = player.host().user.launched;
         if (launched.empty()) return compare(wanted, kNone);
         const std::string name = launched.front().filename().string();

@@ -6,7 +6,6 @@
 #include "easel/svg/Content.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace easel::script {
 namespace {
@@ -64,6 +63,12 @@ Document& Player::document() {
 DocumentView& Player::view() {
     static_cast<void>(document());
     return host().view(nullptr);
+}
+
+void Player::edit(const std::string& undoText, const std::function<void(Document&)>& change,
+                  AIUndoContextKind kind) {
+    static_cast<void>(document());
+    host().edit(undoText, change, kind);
 }
 
 void Player::reload() {

@@ -48,6 +48,9 @@ public:
     /// Throws SessionError when none is open.
     [[nodiscard]] Document& document();
     [[nodiscard]] DocumentView& view();
+    /// A change of the user's in the drawing in front.
+    void edit(const std::string& undoText, const std::function<void(Document&)>& change,
+              AIUndoContextKind kind = kStandardUndoContext);
 
     /// Around every command: from now on these keys are down.
     void beginCommand(const HeldKeys& keys);

@@ -4,8 +4,6 @@
 #include "easel/script/Dialogs.h"
 #include "easel/svg/SvgFile.h"
 
-#include <algorithm>
-
 namespace easel::script {
 namespace {
 
