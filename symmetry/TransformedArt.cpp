@@ -8,6 +8,7 @@
 #include "host/suites/AITransformArtSuite.h"
 #include "symmetry/ArtSpace.h"
 #include "symmetry/ArtTree.h"
+#include "symmetry/Unlocked.h"
 
 #include <cstddef>
 #include <span>
@@ -94,8 +95,10 @@ void ContainerTransform::apply(AIArtHandle art, AIRealMatrix& matrix, Transform 
     transformArt(art, matrix, parts);
     if (anchor) hostReachesMembers_ = anchor->hasMoved();
     if (hostReachesMembers_ != false) return;
+    Unlocked shown{inside, kArtHidden};
     for (const AIArtHandle member : inside)
         transformArt(member, matrix, parts);
+    shown.lockAgain();
 }
 
 } // namespace facetta

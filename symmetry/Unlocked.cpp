@@ -23,11 +23,11 @@ void unlockAll(AIArtHandle art) {
 }
 
 /// From the outside in, and back: in a locked group a host need not change anything.
-Unlocked::Unlocked(const std::vector<AIArtHandle>& art) {
+Unlocked::Unlocked(const std::vector<AIArtHandle>& art, AIArtUserAttr state) : state_(state) {
     try {
         for (const AIArtHandle each : art) {
-            if (attributesOf(each, kArtLocked) == 0) continue;
-            ai::check(ai::suites.art->SetArtUserAttr(each, kArtLocked, 0));
+            if (attributesOf(each, state_) == 0) continue;
+            ai::check(ai::suites.art->SetArtUserAttr(each, state_, 0));
             unlocked_.push_back(each);
         }
     } catch (...) {
@@ -40,14 +40,14 @@ Unlocked::~Unlocked() { lockWhatCanBe(); }
 
 void Unlocked::lockAgain() {
     while (!unlocked_.empty()) {
-        ai::check(ai::suites.art->SetArtUserAttr(unlocked_.back(), kArtLocked, kArtLocked));
+        ai::check(ai::suites.art->SetArtUserAttr(unlocked_.back(), state_, state_));
         unlocked_.pop_back();
     }
 }
 
 void Unlocked::lockWhatCanBe() const noexcept {
     for (auto each = unlocked_.rbegin(); each != unlocked_.rend(); ++each)
-        ai::suites.art->SetArtUserAttr(*each, kArtLocked, kArtLocked);
+        ai::suites.art->SetArtUserAttr(*each, state_, state_);
 }
 
 } // namespace facetta

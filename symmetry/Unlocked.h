@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/Art.h"
 #include "host/Handles.h"
 
 #include <vector>
@@ -12,12 +13,12 @@ namespace facetta {
 /// Shows `art` and unlocks it with all inside it, to dispose of it. Throws `ai::Error`.
 void unlockAll(AIArtHandle art);
 
-/// While it lives, those of some objects that were locked are not: a host need not change what is
-/// locked, nor what contains something locked. None may be disposed of meanwhile. The constructor
-/// throws `ai::Error`.
+/// While it lives, those of some objects that were locked, or hidden, are not: a host need not
+/// change what is, nor what contains something locked. None may be disposed of meanwhile. The
+/// constructor throws `ai::Error`.
 class Unlocked {
 public:
-    explicit Unlocked(const std::vector<AIArtHandle>& art);
+    explicit Unlocked(const std::vector<AIArtHandle>& art, AIArtUserAttr state = kArtLocked);
     /// Locks what `lockAgain` has not, as far as the host does it.
     ~Unlocked();
     Unlocked(const Unlocked&) = delete;
@@ -29,6 +30,7 @@ public:
 private:
     void lockWhatCanBe() const noexcept;
 
+    AIArtUserAttr state_;
     std::vector<AIArtHandle> unlocked_;
 };
 

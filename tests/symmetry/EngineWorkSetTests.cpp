@@ -97,8 +97,8 @@ TEST_CASE("what is in a container goes with it, locked or not, whatever the host
         {"a container holds what is locked in it", &easel::Switches::lockedMembersGoAlong},
         {"it is transformed without its members", &easel::Switches::transformReachesMembers},
     };
-    for (const char* const drawing :
-         {"k(!a #b)", "k(#!a #g(#b t))", "p(#a)", "p(g(a b))", "c(a #b)"}) {
+    for (const char* const drawing : {"k(!a #b)", "k(#!a #g(#b t))", "p(#a)", "p(g(a b))",
+                                      "c(a #b)", "k(!a -b)", "k(!a -g(-b t))"}) {
         INFO(drawing);
         const auto drawn = [&](easel::Switches switches) {
             EngineFixture fixture{switches};
