@@ -88,6 +88,10 @@ TEST_CASE("the feet of perpendiculars, by hand") {
          {0, 0},
          {0.0, between, 0.5, 1.0 - between, 1.0}},
         {"the tip of a cusp and its sides", cusp, {50, 0}, {besideTip, 0.5, 1.0 - besideTip}},
+        {"three in one, from the middle of the circle that fits a vertex",
+         {{-3, 3}, {-1, -1}, {1, -1}, {3, 3}},
+         {0, 1.5},
+         {0.5}},
         {"a point", {{7, 7}, {7, 7}, {7, 7}, {7, 7}}, {0, 0}, {}},
         {"not a number", {{0, 0}, {NAN, 1}, {2, 2}, {3, 0}}, {5, 5}, {}},
     };
