@@ -132,7 +132,7 @@ void checkHostileResources(Session& session, Trials& trials) {
     }
 
     const auto every = trials.byStrictness<std::uint64_t>(
-        onWindows() ? std::array<std::uint64_t, 5>{60, 20, 10, 1, 1}
+        onWindows() ? std::array<std::uint64_t, 5>{60, 30, 20, 1, 1}
                     : std::array<std::uint64_t, 5>{20, 4, 1, 1, 1});
     std::uint64_t number = 1;
     for (const Resource& resource : resources)
@@ -152,7 +152,7 @@ void checkHostileResources(Session& session, Trials& trials) {
         }
 
     const auto random = trials.byStrictness<std::uint64_t>(
-        onWindows() ? std::array<std::uint64_t, 5>{1, 5, 20, 500, 2000}
+        onWindows() ? std::array<std::uint64_t, 5>{1, 5, 10, 500, 2000}
                     : std::array<std::uint64_t, 5>{20, 200, 1000, 10'000, 50'000});
     for (std::uint64_t i = 0; i < random && !resources.empty(); ++i) {
         Random choices = trials.random(kRandom + i);

@@ -36,7 +36,7 @@ constexpr std::array<Sample, 5> kSamples = {{{20, 1, 40, 60, 10},
                                              {10'000, 6, 50'000, 100'000, 1000}}};
 constexpr std::array<Sample, 5> kSamplesWithWindows = {{{3, 0, 10, 10, 4},
                                                         {20, 0, 60, 40, 10},
-                                                        {100, 1, 150, 100, 40},
+                                                        {30, 1, 80, 60, 20},
                                                         {1000, 6, 1000, 1000, 300},
                                                         {1000, 6, 2000, 5000, 1000}}};
 constexpr int kMessagesOfBatch = 1000;
