@@ -103,6 +103,10 @@ function(facetta_room name)
     add_library(facetta_${name} STATIC ${arg_SOURCES})
     add_library(facetta::${name} ALIAS facetta_${name})
     target_link_libraries(facetta_${name} PUBLIC facetta_flags ${depends})
+    if(name IN_LIST FACETTA_COVERAGE) # as scripts/coverage asks for it
+        target_compile_options(facetta_${name} PRIVATE --coverage -O0)
+        target_link_options(facetta_${name} PUBLIC --coverage)
+    endif()
 endfunction()
 
 add_custom_target(products)
