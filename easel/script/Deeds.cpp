@@ -297,28 +297,44 @@ std::optional<double> valueOf(const SeenItem& item) {
 }
 
 /// The two words for something that either is or is not.
-struct StateWords {
+template <typename Seen> struct StateWords {
     const char* yes;
     const char* no;
-    bool SeenItem::*is;
+    bool Seen::*is;
 };
-constexpr StateWords kStates[] = {{"on", "off", &SeenItem::on},
-                                  {"enabled", "disabled", &SeenItem::enabled},
-                                  {"shown", "hidden", &SeenItem::shown},
-                                  {"focused", "unfocused", &SeenItem::focused}};
+template <typename Seen> using WantedStates = std::vector<std::pair<const StateWords<Seen>*, bool>>;
+
+void note(Finding& finding, bool met, const std::string& wanted, const std::string& found) {
+    finding.met = finding.met && met;
+    finding.wanted += (finding.wanted.empty() ? "" : " ") + wanted;
+    finding.found += (finding.found.empty() ? "" : " ") + found;
+}
+
+template <typename Seen>
+void noteStates(Finding& finding, const WantedStates<Seen>& wanted, const Seen& seen) {
+    for (const auto& [words, yes] : wanted) {
+        const bool is = seen.*words->is;
+        note(finding, is == yes, yes ? words->yes : words->no, is ? words->yes : words->no);
+    }
+}
+
+constexpr StateWords<SeenItem> kStates[] = {{"on", "off", &SeenItem::on},
+                                            {"enabled", "disabled", &SeenItem::enabled},
+                                            {"shown", "hidden", &SeenItem::shown},
+                                            {"focused", "unfocused", &SeenItem::focused}};
 
 struct WantedItem {
     std::optional<std::string> text;
     std::optional<std::string> tip;
     std::optional<double> value;
     double tolerance = 0;
-    std::vector<std::pair<const StateWords*, bool>> states;
+    WantedStates<SeenItem> states;
 };
 
 WantedItem readWantedItem(Arguments& arguments) {
     WantedItem wanted;
     const auto takeState = [&] {
-        for (const StateWords& words : kStates) {
+        for (const StateWords<SeenItem>& words : kStates) {
             for (const bool yes : {true, false}) {
                 if (!arguments.take(yes ? words.yes : words.no)) continue;
                 wanted.states.emplace_back(&words, yes);
@@ -347,26 +363,19 @@ WantedItem readWantedItem(Arguments& arguments) {
 Finding compare(const WantedItem& wanted, const SeenItem& item) {
     constexpr double kRounding = 1e-9;
     Finding finding{true, {}, {}};
-    const auto note = [&](bool met, const std::string& want, const std::string& found) {
-        finding.met = finding.met && met;
-        finding.wanted += (finding.wanted.empty() ? "" : " ") + want;
-        finding.found += (finding.found.empty() ? "" : " ") + found;
-    };
     if (wanted.text)
-        note(item.text == *wanted.text, "text " + inQuotes(*wanted.text),
+        note(finding, item.text == *wanted.text, "text " + inQuotes(*wanted.text),
              "text " + inQuotes(item.text));
     if (wanted.value) {
         const std::optional<double> value = valueOf(item);
-        note(value && std::abs(*value - *wanted.value) <= wanted.tolerance + kRounding,
+        note(finding, value && std::abs(*value - *wanted.value) <= wanted.tolerance + kRounding,
              "value " + svg::formatNumber(*wanted.value),
              value ? "value " + svg::formatNumber(*value) : "no value");
     }
     if (wanted.tip)
-        note(item.tip == *wanted.tip, "tip " + inQuotes(*wanted.tip), "tip " + inQuotes(item.tip));
-    for (const auto& [words, yes] : wanted.states) {
-        const bool is = item.*words->is;
-        note(is == yes, yes ? words->yes : words->no, is ? words->yes : words->no);
-    }
+        note(finding, item.tip == *wanted.tip, "tip " + inQuotes(*wanted.tip),
+             "tip " + inQuotes(item.tip));
+    noteStates(finding, wanted.states, item);
     return finding;
 }
 
@@ -377,20 +386,15 @@ struct MenuState {
     bool checked = false;
 };
 
-struct MenuWords {
-    const char* yes;
-    const char* no;
-    bool MenuState::*is;
-};
-constexpr MenuWords kMenuWords[] = {{"enabled", "disabled", &MenuState::enabled},
-                                    {"checked", "unchecked", &MenuState::checked}};
+constexpr StateWords<MenuState> kMenuWords[] = {{"enabled", "disabled", &MenuState::enabled},
+                                                {"checked", "unchecked", &MenuState::checked}};
 
 /// A look at an entry by its text; nothing when there is none.
 using Look = std::optional<MenuState> (*)(Player&, const std::string&);
 
 Check readEntryState(Arguments& arguments, Look look) {
     const std::string text = arguments.text("entry");
-    std::vector<std::pair<const MenuWords*, bool>> wanted;
+    WantedStates<MenuState> wanted;
     const bool absent = arguments.take("absent");
     while (!absent && (wanted.empty() || !arguments.atEnd())) {
         constexpr const char* kWords[] = {"enabled", "disabled", "checked", "unchecked"};
@@ -403,14 +407,7 @@ Check readEntryState(Arguments& arguments, Look look) {
             return {!state && absent, absent ? "no entry " + inQuotes(text) : "it in the menu",
                     state ? "one" : "no entry " + inQuotes(text)};
         Finding finding{true, {}, {}};
-        for (const auto& [words, yes] : wanted) {
-            const bool is = *state.*words->is;
-            finding.met = finding.met && is == yes;
-            finding.wanted +=
-                (finding.wanted.empty() ? "" : " ") + std::string(yes ? words->yes : words->no);
-            finding.found +=
-                (finding.found.empty() ? "" : " ") + std::string(is ? words->yes : words->no);
-        }
+        noteStates(finding, wanted, *state);
         return finding;
     };
 }

@@ -277,15 +277,9 @@ private:
 
     void close() {
         Frame frame = std::move(frames_.back());
-        if (frame.loose) {
+        if (frame.loose || frame.node == kNoNode) {
             frames_.pop_back();
             if (!frame.endTag.empty()) newLine();
-            out_ += frame.endTag;
-            return;
-        }
-        if (frame.node == kNoNode) {
-            frames_.pop_back();
-            newLine();
             out_ += frame.endTag;
             return;
         }
