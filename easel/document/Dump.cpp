@@ -26,30 +26,20 @@ constexpr struct {
     {kArtStyleIsDirty, "style-dirty"},
 };
 
+constexpr struct {
+    ai::int16 type;
+    const char* name;
+} kTypeNames[] = {
+    {kGroupArt, "group"},   {kPathArt, "path"},      {kCompoundPathArt, "compound"},
+    {kPlacedArt, "placed"}, {kRasterArt, "raster"},  {kPluginArt, "plugin-group"},
+    {kMeshArt, "mesh"},     {kTextFrameArt, "text"}, {kSymbolArt, "symbol"},
+};
+
 const char* typeName(const Art& art) {
     if (art.isLayer()) return "layer";
-    switch (art.type()) {
-    case kGroupArt:
-        return "group";
-    case kPathArt:
-        return "path";
-    case kCompoundPathArt:
-        return "compound";
-    case kPlacedArt:
-        return "placed";
-    case kRasterArt:
-        return "raster";
-    case kPluginArt:
-        return "plugin-group";
-    case kMeshArt:
-        return "mesh";
-    case kTextFrameArt:
-        return "text";
-    case kSymbolArt:
-        return "symbol";
-    default:
-        return "opaque";
-    }
+    for (const auto& [type, name] : kTypeNames)
+        if (type == art.type()) return name;
+    return "opaque";
 }
 
 class Dumper {

@@ -2,6 +2,7 @@
 
 #include "easel/svg/Numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <optional>
@@ -67,26 +68,18 @@ private:
     }
 
     bool readArguments(char command) {
-        switch (command) {
-        case 'M':
-            return moveTo();
-        case 'L':
-            return lineTo();
-        case 'H':
-            return alongAxis(&Point::x);
-        case 'V':
-            return alongAxis(&Point::y);
-        case 'C':
-            return curveTo();
-        case 'S':
-            return smoothCurveTo();
-        case 'Q':
-            return quadraticTo();
-        case 'T':
-            return smoothQuadraticTo();
-        default:
-            return arcTo();
-        }
+        struct Row {
+            char command;
+            bool (PathReader::*read)();
+        };
+        static constexpr Row kRows[] = {
+            {'M', &PathReader::moveTo},      {'L', &PathReader::lineTo},
+            {'H', &PathReader::across},      {'V', &PathReader::down},
+            {'C', &PathReader::curveTo},     {'S', &PathReader::smoothCurveTo},
+            {'Q', &PathReader::quadraticTo}, {'T', &PathReader::smoothQuadraticTo},
+            {'A', &PathReader::arcTo},
+        };
+        return (this->*std::ranges::find(kRows, command, &Row::command)->read)();
     }
 
     bool moveTo() {
@@ -102,6 +95,9 @@ private:
         const auto given = points<1>();
         return given && line(given->front());
     }
+
+    bool across() { return alongAxis(&Point::x); }
+    bool down() { return alongAxis(&Point::y); }
 
     bool alongAxis(double Point::*axis) {
         const auto value = number();
