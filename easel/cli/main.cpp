@@ -123,6 +123,8 @@ void addOpen(CLI::App& app, easel::window::WindowOptions& options) {
         ->type_name("FILE.svg");
     addFile(open, "--record", options.record, "Keep what is done as a script for \"play\"")
         ->type_name("FILE.play");
+    addFile(open, "--figures", options.figures, "Tell four times a second what the window costs")
+        ->type_name("FILE");
     addPlugin(open, options.plugin);
 }
 

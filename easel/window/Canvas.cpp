@@ -181,6 +181,7 @@ LRESULT Canvas::handleMessage(UINT message, WPARAM first, LPARAM second) {
         press(at);
         return 0;
     case WM_MOUSEMOVE:
+        figures_.heard();
         move(at);
         return 0;
     case WM_LBUTTONUP:
@@ -208,6 +209,8 @@ LRESULT Canvas::handleMessage(UINT message, WPARAM first, LPARAM second) {
 }
 
 void Canvas::paint() {
+    const Figures::Clock::time_point since = Figures::Clock::now();
+    bool withPage = false;
     PAINTSTRUCT request{};
     const HDC dc = BeginPaint(handle(), &request);
     const SIZE area = size();
@@ -226,7 +229,7 @@ void Canvas::paint() {
         try {
             hand_.player.redraw();
             const DocumentView& view = hand_.player.view();
-            paintPage(view);
+            withPage = paintPage(view);
             screen_.copyFrom(page_, part);
             paint::GdiplusPainter painter(screen_.data(), area.cx, area.cy);
             painter.clip(rectangle(part), paint::FillRule::NonZero);
@@ -239,16 +242,18 @@ void Canvas::paint() {
         screen_.show(dc, part);
     }
     EndPaint(handle(), &request);
+    figures_.painted(since, withPage);
 }
 
-void Canvas::paintPage(const DocumentView& view) {
+bool Canvas::paintPage(const DocumentView& view) {
     const std::uint64_t version = hand_.host().pageVersion() + 1;
-    if (paintedVersion_ == version) return;
+    if (paintedVersion_ == version) return false;
     paintedVersion_ = version;
     isDraft_ = true;
     draftSince_ = GetTickCount64();
     paint::GdiplusPainter painter(page_.data(), page_.width(), page_.height());
     paint::paintPage(view, painter, {.darkTheme = hand_.host().user.darkTheme});
+    return true;
 }
 
 /// Outlines and anchors of what is selected, in the colour of its layer.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "easel/window/Figures.h"
 #include "easel/window/Hand.h"
 #include "easel/window/NativeWindow.h"
 #include "easel/window/Pictures.h"
@@ -15,7 +16,7 @@ namespace easel::window {
 ///      waits: no message to the plug-in waits for pixels.
 class Canvas : public NativeWindow {
 public:
-    explicit Canvas(Hand& hand) : hand_(hand) {}
+    Canvas(Hand& hand, Figures& figures) : hand_(hand), figures_(figures) {}
 
     void open(HWND parent);
     /// Has the system ask for what the host says is to be painted.
@@ -35,7 +36,8 @@ public:
 private:
     LRESULT handleMessage(UINT message, WPARAM first, LPARAM second) override;
     void paint();
-    void paintPage(const DocumentView& view);
+    /// True when it was not up to date.
+    bool paintPage(const DocumentView& view);
     void paintSelection(const DocumentView& view, paint::Painter& painter);
     void press(POINT at);
     void move(POINT at);
@@ -46,6 +48,7 @@ private:
     enum class Held { Nothing, Tool, Paper };
 
     Hand& hand_;
+    Figures& figures_;
     Cursors cursors_;
     Pixels page_;
     Pixels screen_;

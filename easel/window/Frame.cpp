@@ -129,7 +129,7 @@ script::PlayerSettings settingsOf(const WindowOptions& options) {
 
 Frame::Frame(Session& session, const WindowOptions& options)
     : options_(options), hand_(session, settingsOf(options)), menus_(hand_, kFirstPluginItem),
-      tools_(hand_), swatches_(hand_), canvas_(hand_), dock_(hand_) {
+      tools_(hand_), swatches_(hand_), canvas_(hand_, figures_), dock_(hand_) {
     const HMENU bar = menus_.open();
     for (const OwnItem& item : kItems)
         AppendMenuW(menus_.at(item.place), item.text != nullptr ? MF_STRING : MF_SEPARATOR,
@@ -163,14 +163,13 @@ Frame::~Frame() {
 }
 
 std::vector<std::string> Frame::run() {
+    ShowWindow(handle(), SW_SHOWNORMAL); // first: opening may have a question
+    SetFocus(canvas_.handle());
+    SetTimer(handle(), kTickTimer, kTickMilliseconds, nullptr);
     if (options_.file.empty())
         makeNew();
     else
         open(options_.file);
-    ShowWindow(handle(), SW_SHOWNORMAL);
-    canvas_.showAll();
-    SetFocus(canvas_.handle());
-    SetTimer(handle(), kTickTimer, kTickMilliseconds, nullptr);
     MSG message;
     while (!closing_ && GetMessageW(&message, nullptr, 0, 0) > 0) {
         if (takesKey(message)) continue;
@@ -178,6 +177,7 @@ std::vector<std::string> Frame::run() {
         DispatchMessageW(&message);
     }
     KillTimer(handle(), kTickTimer);
+    keepAgainAt_ = 0;
     keepRecord();
     return hand_.player.finish();
 }
@@ -382,6 +382,7 @@ void Frame::showStatus() {
 }
 
 void Frame::tick() {
+    figures_.tell(handle(), canvas_.handle());
     hand_.passTime();
     canvas_.settle();
     if (GetActiveWindow() == handle() && GetFocus() == nullptr) SetFocus(canvas_.handle());
@@ -560,13 +561,17 @@ std::string Frame::nameInScript(const std::filesystem::path& file) const {
 }
 
 void Frame::keepRecord() {
-    if (options_.record.empty() || keptVersion_ == hand_.script.version()) return;
+    const ULONGLONG now = GetTickCount64();
+    if (options_.record.empty() || keptVersion_ == hand_.script.version() || now < keepAgainAt_)
+        return;
     keptVersion_ = hand_.script.version();
     try {
         writeFile(options_.record, hand_.script.text());
     } catch (const std::exception& error) {
         hand_.complain(error.what());
     }
+    constexpr ULONGLONG kRestAfter = 50; // a long script takes its time, but not the window's
+    keepAgainAt_ = now + kRestAfter * (GetTickCount64() - now);
 }
 
 } // namespace easel::window

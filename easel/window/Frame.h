@@ -61,6 +61,7 @@ private:
     [[nodiscard]] std::string nameInScript(const std::filesystem::path& file) const;
 
     WindowOptions options_;
+    Figures figures_{options_.figures};
     Hand hand_;
     DialogWatch watch_{hand_};
     MenuBar menus_;
@@ -75,7 +76,8 @@ private:
     std::map<const Document*, std::size_t> copiedTexts_;
     ULONGLONG copiedAt_ = 0;
     const Document* front_ = nullptr;
-    std::size_t keptVersion_ = 0;
+    std::size_t keptVersion_ = 0; ///< Of the script, on disk.
+    ULONGLONG keepAgainAt_ = 0;
     std::wstring statusText_;
     bool closing_ = false;
 };

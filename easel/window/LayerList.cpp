@@ -137,7 +137,8 @@ void LayerList::click(int index, int column) {
 bool LayerList::hear(const NMHDR& note, LRESULT& answer) {
     if (note.hwndFrom != list_) return false;
     answer = 0;
-    if (note.code == static_cast<UINT>(NM_CLICK)) {
+    // Of two clicks soon after one another each counts.
+    if (note.code == static_cast<UINT>(NM_CLICK) || note.code == static_cast<UINT>(NM_DBLCLK)) {
         const auto& clicked = reinterpret_cast<const NMITEMACTIVATE&>(note);
         LVHITTESTINFO hit{};
         hit.pt = clicked.ptAction;

@@ -67,8 +67,10 @@ HWND makeControl(const wchar_t* className, const wchar_t* text, DWORD style, HWN
 }
 
 void placeWindow(HWND window, const RECT& area) {
+    // While windows are placed one by one they lie over each other, and pixels that are carried
+    // along may be a neighbour's.
     SetWindowPos(window, nullptr, area.left, area.top, area.right - area.left,
-                 area.bottom - area.top, SWP_NOZORDER | SWP_NOACTIVATE);
+                 area.bottom - area.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
 }
 
 std::wstring wide(std::string_view text) {

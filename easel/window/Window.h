@@ -14,9 +14,10 @@
 namespace easel::window {
 
 struct WindowOptions {
-    std::filesystem::path file;   ///< The drawing to begin with; empty: an empty one.
-    std::filesystem::path record; ///< Where what is done is kept as a script; empty: nowhere.
-    std::filesystem::path plugin; ///< The library.
+    std::filesystem::path file;    ///< The drawing to begin with; empty: an empty one.
+    std::filesystem::path record;  ///< Where what is done is kept as a script; empty: nowhere.
+    std::filesystem::path figures; ///< Where what the window costs is told; empty: nowhere.
+    std::filesystem::path plugin;  ///< The library.
 };
 
 /// Shows the window until its user closes it. Returns what the plug-in did wrong in the session,
