@@ -34,8 +34,8 @@ std::ptrdiff_t gdiObjects() {
     if (const DWORD told = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS)) return told;
     constexpr std::ptrdiff_t kTableInBlock = 0xF8;
     constexpr int kEntries = 0x4000;
-    const auto find = reinterpret_cast<const char* (*)()>(reinterpret_cast<void*>(
-        GetProcAddress(GetModuleHandleW(L"ntdll"), "RtlGetCurrentPeb")));
+    const auto find = reinterpret_cast<const char* (*)()>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll"), "RtlGetCurrentPeb")));
     if (find == nullptr) return 0;
     const auto* const table = *reinterpret_cast<const GdiEntry* const*>(find() + kTableInBlock);
     return table == nullptr ? 0 : std::count_if(table, table + kEntries, [](const GdiEntry& each) {
@@ -72,8 +72,10 @@ std::string dialogInFront(HWND frame) {
 Figures::Figures(const std::filesystem::path& file) {
     if (file.empty()) return;
     file_.open(file, std::ios::binary);
-    file_ << "milliseconds processor paints pages messages longest-paint longest-wait gdi user left top right bottom dialog"
-          << '\n' << std::flush;
+    file_ << "milliseconds processor paints pages messages longest-paint longest-wait gdi user "
+             "left top right bottom dialog"
+          << '\n'
+          << std::flush;
 }
 
 void Figures::painted(Clock::time_point since, bool withPage) {
@@ -96,9 +98,9 @@ void Figures::tell(HWND frame, HWND canvas) {
     GetWindowRect(canvas, &area);
     file_ << std::lround(Milliseconds(now - began_).count()) << ' ' << processorMilliseconds()
           << ' ' << paints_ << ' ' << pages_ << ' ' << messages_ << ' '
-          << std::lround(longestPaint_) << ' ' << longestWait_ << ' '
-          << gdiObjects() << ' ' << userObjects() << ' ' << area.left << ' ' << area.top
- << ' ' << area.right << ' ' << area.bottom << ' ' << dialogInFront(frame) << '\n'
+          << std::lround(longestPaint_) << ' ' << longestWait_ << ' ' << gdiObjects() << ' '
+          << userObjects() << ' ' << area.left << ' ' << area.top << ' ' << area.right << ' '
+          << area.bottom << ' ' << dialogInFront(frame) << '\n'
           << std::flush;
     longestPaint_ = 0;
     longestWait_ = 0;

@@ -8,9 +8,9 @@
 
 namespace easel::window {
 
-/// What the window costs, where its canvas lies and whether it answers, for whoever watches it from outside: four
-/// lines a second in a file, under the names of its columns. Times and counts are those since the beginning,
-/// the longest paint and wait those since the line before.
+/// What the window costs, where its canvas lies and whether it answers, for whoever watches it from
+/// outside: four lines a second in a file, under the names of its columns. Times and counts are
+/// those since the beginning, the longest paint and wait those since the line before.
 class Figures {
 public:
     using Clock = std::chrono::steady_clock;

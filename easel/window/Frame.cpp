@@ -175,6 +175,11 @@ std::vector<std::string> Frame::run() {
         if (takesKey(message)) continue;
         TranslateMessage(&message);
         DispatchMessageW(&message);
+        // The system thinks of paint and timers when there is no input left, and a quick mouse has
+        // more.
+        if (GetTickCount64() - tickedAt_ <= kTickMilliseconds) continue;
+        tick();
+        UpdateWindow(canvas_.handle());
     }
     KillTimer(handle(), kTickTimer);
     keepAgainAt_ = 0;
@@ -382,6 +387,7 @@ void Frame::showStatus() {
 }
 
 void Frame::tick() {
+    tickedAt_ = GetTickCount64();
     figures_.tell(handle(), canvas_.handle());
     hand_.passTime();
     canvas_.settle();

@@ -75,6 +75,7 @@ private:
     std::map<const Document*, std::size_t> savedTexts_;
     std::map<const Document*, std::size_t> copiedTexts_;
     ULONGLONG copiedAt_ = 0;
+    ULONGLONG tickedAt_ = 0;
     const Document* front_ = nullptr;
     std::size_t keptVersion_ = 0; ///< Of the script, on disk.
     ULONGLONG keepAgainAt_ = 0;
