@@ -47,8 +47,9 @@ constexpr double kMostChords = 2000;
 /// Adds the chords of a curve that begins at the last of `points`. GDI+ takes curves too, but some
 /// of its implementations flatten them by recursion, which a cusp of coinciding points never ends.
 void addChords(std::vector<Gdiplus::PointF>& points, Point p0, Point p1, Point p2, Point p3) {
-    const double bend = std::max(std::hypot(p0.x - 2 * p1.x + p2.x, p0.y - 2 * p1.y + p2.y),
-                                 std::hypot(p1.x - 2 * p2.x + p3.x, p1.y - 2 * p2.y + p3.y));
+    const auto size = [](double x, double y) { return std::sqrt(x * x + y * y); };
+    const double bend = std::max(size(p0.x - 2 * p1.x + p2.x, p0.y - 2 * p1.y + p2.y),
+                                 size(p1.x - 2 * p2.x + p3.x, p1.y - 2 * p2.y + p3.y));
     // The second derivative is at most 6 times the bend; a chord over h is off by h^2 / 8 of it.
     const double wanted = std::ceil(std::sqrt(0.75 * bend / kFlatness));
     const int chords = static_cast<int>(std::clamp(wanted, 1.0, kMostChords));
@@ -111,21 +112,6 @@ std::uint32_t premultiplied(const Colour& colour, double alpha) {
            byte(colour.blue * whole);
 }
 
-/// `over`, made `part` / 255 as strong, over `under`; both multiplied by alpha.
-std::uint32_t composed(std::uint32_t under, std::uint32_t over, std::uint32_t part) {
-    const auto scaled = [](std::uint32_t value, std::uint32_t by) {
-        return (value * by + 127) / 255;
-    };
-    const std::uint32_t rest = 255 - scaled(over >> 24, part);
-    std::uint32_t result = 0;
-    for (const int shift : {24, 16, 8, 0}) {
-        const std::uint32_t sum =
-            scaled(over >> shift & 255, part) + scaled(under >> shift & 255, rest);
-        result |= std::min(sum, 255U) << shift;
-    }
-    return result;
-}
-
 } // namespace
 
 GdiplusPainter::Layer::Layer(int width, int height) : Layer(nullptr, width, height) {}
@@ -154,10 +140,12 @@ GdiplusPainter::GdiplusPainter(std::uint32_t* pixels, int width, int height)
     layers_.push_back(std::make_unique<Layer>(pixels, width, height));
     graphics().SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
     graphics().SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAlias);
+    raster_ = std::make_unique<Raster>(width, height);
+    clip_.push_back({0, 0, width, height});
 }
 
 void GdiplusPainter::save() {
-    State state{matrix_, std::make_unique<Gdiplus::Region>()};
+    State state{matrix_, std::make_unique<Gdiplus::Region>(), clip_};
     graphics().GetClip(state.clip.get());
     saved_.push_back(std::move(state));
 }
@@ -165,6 +153,7 @@ void GdiplusPainter::save() {
 void GdiplusPainter::restore() {
     matrix_ = saved_.back().matrix;
     graphics().SetClip(saved_.back().clip.get());
+    clip_ = std::move(saved_.back().areas);
     saved_.pop_back();
 }
 
@@ -172,15 +161,20 @@ void GdiplusPainter::transform(const Matrix& matrix) { matrix_ = matrix_ * matri
 
 void GdiplusPainter::clip(const Outline& outline, FillRule rule) {
     graphics().SetClip(pathOf(outline, rule).get(), Gdiplus::CombineModeIntersect);
+    readClip();
 }
 
 void GdiplusPainter::fill(const Outline& outline, FillRule rule, const Ink& ink) {
+    if (direct_ && ink.gradient == nullptr) return paintPlain(outline, rule, 0, ink);
     paint(*pathOf(outline, rule), nullptr, ink);
 }
 
 void GdiplusPainter::stroke(const Outline& outline, const Pen& pen, const Ink& ink) {
     const double scale = svg::meanScale(matrix_);
     const auto width = static_cast<float>(std::min(pen.width * scale, kFarthest));
+    constexpr float kThin = 1.5F; // needs no joins
+    if (direct_ && ink.gradient == nullptr && pen.dashes.empty() && width <= kThin)
+        return paintPlain(outline, FillRule::NonZero, std::max(width, 1.0F), ink);
     Gdiplus::Pen line{Gdiplus::Color{}, width};
     line.SetStartCap(kCaps[static_cast<std::size_t>(pen.cap)]);
     line.SetEndCap(kCaps[static_cast<std::size_t>(pen.cap)]);
@@ -194,7 +188,11 @@ void GdiplusPainter::stroke(const Outline& outline, const Pen& pen, const Ink& i
         line.SetDashPattern(dashes.data(), static_cast<INT>(dashes.size()));
         line.SetDashOffset(static_cast<float>(pen.dashOffset / pen.width));
     }
-    paint(*pathOf(outline, FillRule::NonZero), &line, ink);
+    const auto path = pathOf(outline, FillRule::NonZero);
+    if (direct_ && ink.gradient == nullptr && path->Widen(&line) == Gdiplus::Ok &&
+        path->Flatten() == Gdiplus::Ok)
+        return paintFlat(*path, ink);
+    paint(*path, &line, ink);
 }
 
 void GdiplusPainter::paint(const Gdiplus::GraphicsPath& path, const Gdiplus::Pen* pen,
@@ -341,10 +339,9 @@ void GdiplusPainter::image(std::span<const std::byte> png, Point corner, Point s
                          static_cast<float>(image_->GetHeight()), Gdiplus::UnitPixel, &attributes);
 }
 
-std::unique_ptr<Gdiplus::GraphicsPath> GdiplusPainter::pathOf(const Outline& outline,
-                                                              FillRule rule) const {
-    auto path = std::make_unique<Gdiplus::GraphicsPath>(
-        rule == FillRule::EvenOdd ? Gdiplus::FillModeAlternate : Gdiplus::FillModeWinding);
+void GdiplusPainter::eachFigure(
+    const Outline& outline,
+    const std::function<void(const std::vector<Gdiplus::PointF>&, bool closed)>& use) const {
     std::vector<Gdiplus::PointF> points;
     for (const svg::Subpath& subpath : outline) {
         const auto& anchors = subpath.anchors;
@@ -356,11 +353,64 @@ std::unique_ptr<Gdiplus::GraphicsPath> GdiplusPainter::pathOf(const Outline& out
             addChords(points, matrix_ * anchors[i].p, matrix_ * anchors[i].out, matrix_ * to.in,
                       matrix_ * to.p);
         }
+        use(points, subpath.closed);
+    }
+}
+
+std::unique_ptr<Gdiplus::GraphicsPath> GdiplusPainter::pathOf(const Outline& outline,
+                                                              FillRule rule) const {
+    auto path = std::make_unique<Gdiplus::GraphicsPath>(
+        rule == FillRule::EvenOdd ? Gdiplus::FillModeAlternate : Gdiplus::FillModeWinding);
+    eachFigure(outline, [&](const std::vector<Gdiplus::PointF>& points, bool closed) {
         path->StartFigure();
         path->AddLines(points.data(), static_cast<INT>(points.size()));
-        if (subpath.closed) path->CloseFigure();
-    }
+        if (closed) path->CloseFigure();
+    });
     return path;
+}
+
+/// A plain shape, or a thin line, straight on the pixels.
+void GdiplusPainter::paintPlain(const Outline& outline, FillRule rule, double lineWidth,
+                                const Ink& ink) {
+    std::vector<Point> exact;
+    eachFigure(outline, [&](const std::vector<Gdiplus::PointF>& points, bool) {
+        exact.clear();
+        for (const Gdiplus::PointF& point : points)
+            exact.push_back({point.X, point.Y});
+        if (lineWidth > 0) return raster_->addLine(exact, lineWidth);
+        for (std::size_t i = 0; i < exact.size(); ++i)
+            raster_->addEdge(exact[i], exact[(i + 1) % exact.size()]);
+    });
+    raster_->paint(layers_.back()->samples, clip_, rule, premultiplied(ink.colour, 1));
+}
+
+void GdiplusPainter::paintFlat(const Gdiplus::GraphicsPath& path, const Ink& ink) {
+    Gdiplus::PathData data;
+    path.GetPathData(&data);
+    const auto at = [&](INT i) { return Point{data.Points[i].X, data.Points[i].Y}; };
+    INT first = 0;
+    for (INT i = 0; i < data.Count; ++i) {
+        const bool ends = i + 1 == data.Count || data.Types[i + 1] == Gdiplus::PathPointTypeStart;
+        raster_->addEdge(at(i), at(ends ? first : i + 1));
+        if (ends) first = i + 1;
+    }
+    raster_->paint(layers_.back()->samples, clip_, FillRule::NonZero, premultiplied(ink.colour, 1));
+}
+
+void GdiplusPainter::readClip() {
+    if (!direct_) return;
+    Gdiplus::Region region;
+    graphics().GetClip(&region);
+    const Gdiplus::Matrix same;
+    std::vector<Gdiplus::Rect> areas(region.GetRegionScansCount(&same));
+    INT count = static_cast<INT>(areas.size());
+    if (count > 0) region.GetRegionScans(&same, areas.data(), &count);
+    clip_.clear();
+    for (INT i = 0; i < count; ++i) {
+        const Gdiplus::Rect& area = areas[static_cast<std::size_t>(i)];
+        clip_.push_back({std::max(area.X, 0), std::max(area.Y, 0),
+                         std::min(area.GetRight(), width_), std::min(area.GetBottom(), height_)});
+    }
 }
 
 void GdiplusPainter::readRows(std::uint8_t* target) const {

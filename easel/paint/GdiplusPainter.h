@@ -1,6 +1,7 @@
 #pragma once
 
 #include "easel/paint/Painter.h"
+#include "easel/paint/Raster.h"
 
 #include <windows.h>
 
@@ -9,6 +10,7 @@
 #include <gdiplus.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -59,11 +61,20 @@ private:
     struct State {
         Matrix matrix;
         std::unique_ptr<Gdiplus::Region> clip;
+        std::vector<PixelRect> areas;
     };
 
     [[nodiscard]] Gdiplus::Graphics& graphics() { return *layers_.back()->graphics; }
     [[nodiscard]] std::unique_ptr<Gdiplus::GraphicsPath> pathOf(const Outline& outline,
                                                                 FillRule rule) const;
+    /// The outline's chords in samples, figure by figure.
+    void eachFigure(
+        const Outline& outline,
+        const std::function<void(const std::vector<Gdiplus::PointF>&, bool closed)>& use) const;
+    void paintPlain(const Outline& outline, FillRule rule, double lineWidth, const Ink& ink);
+    /// Of straight edges alone.
+    void paintFlat(const Gdiplus::GraphicsPath& path, const Ink& ink);
+    void readClip();
     void paint(const Gdiplus::GraphicsPath& path, const Gdiplus::Pen* pen, const Ink& ink);
     void paintGradient(const Gdiplus::GraphicsPath& path, const Gdiplus::Pen* pen, const Ink& ink);
     std::unique_ptr<Layer> newLayer();
@@ -73,6 +84,10 @@ private:
     int height_;          ///< In samples.
     Matrix matrix_;
     std::vector<State> saved_;
+    /// When painting straight on somebody's pixels, where GDI+ takes a picture as large as each
+    /// shape.
+    std::unique_ptr<Raster> raster_;
+    std::vector<PixelRect> clip_;
     std::vector<std::unique_ptr<Layer>> layers_;
     /// The image last painted: copies of it tend to follow.
     std::shared_ptr<Gdiplus::Bitmap> image_;

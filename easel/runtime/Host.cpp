@@ -80,7 +80,8 @@ void Host::collectChanges() {
     const DocumentChanges changes = documents_.collectChanges();
     if (!changes.any()) return;
     stale_ = true;
-    if (changes.art || changes.layerSet || changes.layerOptions || changes.rulerOrigin)
+    if (changes.art || changes.selection || changes.layerSet || changes.layerOptions ||
+        changes.rulerOrigin)
         ++pageVersion_;
 }
 

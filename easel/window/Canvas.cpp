@@ -14,7 +14,6 @@
 namespace easel::window {
 namespace {
 
-constexpr ULONGLONG kRestBeforeSmooth = 300; ///< Milliseconds.
 constexpr double kWheelStep = 1.25;
 constexpr int kMarginAround = 24; ///< Of the artboard, when all of it is shown.
 
@@ -54,26 +53,6 @@ void Canvas::follow() {
         const RECT pixels{area.left, area.top, area.right + 1, area.bottom + 1};
         InvalidateRect(handle(), &pixels, FALSE);
     }
-}
-
-void Canvas::settle() {
-    if (!isDraft_ || held_ != Held::Nothing) return;
-    if (GetTickCount64() - draftSince_ < kRestBeforeSmooth) return;
-    if (!hand_.hasDocument()) return;
-    const DocumentView& view = hand_.player.view();
-    const bool dark = hand_.host().user.darkTheme;
-    const paint::Picture smooth =
-        paint::render(page_.width(), page_.height(), [&](paint::Painter& painter) {
-            paint::paintPage(view, painter, {.darkTheme = dark});
-        });
-    const std::size_t count = smooth.pixels.size() / 4;
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::uint8_t* const from = &smooth.pixels[4 * i];
-        page_.data()[i] = 0xFF000000U | std::uint32_t{from[0]} << 16 | std::uint32_t{from[1]} << 8 |
-                          std::uint32_t{from[2]};
-    }
-    isDraft_ = false;
-    InvalidateRect(handle(), nullptr, FALSE);
 }
 
 void Canvas::fitView() {
@@ -229,11 +208,11 @@ void Canvas::paint() {
         try {
             hand_.player.redraw();
             const DocumentView& view = hand_.player.view();
-            withPage = paintPage(view);
+            withPage = paintPage();
             screen_.copyFrom(page_, part);
             paint::GdiplusPainter painter(screen_.data(), area.cx, area.cy);
             painter.clip(rectangle(part), paint::FillRule::NonZero);
-            paintSelection(view, painter);
+            paintMarquee(view, painter);
             paint::paintAnnotations(hand_.player.shown(), painter);
         } catch (const std::exception& error) {
             hand_.complain(error.what());
@@ -245,14 +224,14 @@ void Canvas::paint() {
     figures_.painted(since, withPage);
 }
 
-bool Canvas::paintPage(const DocumentView& view) {
+bool Canvas::paintPage() {
     const std::uint64_t version = hand_.host().pageVersion() + 1;
     if (paintedVersion_ == version) return false;
     paintedVersion_ = version;
-    isDraft_ = true;
-    draftSince_ = GetTickCount64();
     paint::GdiplusPainter painter(page_.data(), page_.width(), page_.height());
+    const DocumentView& view = hand_.player.view();
     paint::paintPage(view, painter, {.darkTheme = hand_.host().user.darkTheme});
+    paintSelection(view, painter);
     return true;
 }
 
@@ -281,14 +260,16 @@ void Canvas::paintSelection(const DocumentView& view, paint::Painter& painter) {
         painter.stroke({path}, paint::Pen{}, ink);
         painter.fill(anchors, paint::FillRule::NonZero, ink);
     }
-    if (const auto& area = hand_.host().tools.marquee()) {
-        const AIPoint from = toViewPixel(view, {area->left, area->top});
-        const AIPoint to = toViewPixel(view, {area->right, area->bottom});
-        paint::Pen dashed;
-        dashed.dashes = {3, 3};
-        painter.stroke(rectangle({from.h, from.v, to.h, to.v}), dashed,
-                       inkOf(LayerProperties{}.color));
-    }
+}
+
+void Canvas::paintMarquee(const DocumentView& view, paint::Painter& painter) {
+    const auto& area = hand_.host().tools.marquee();
+    if (!area) return;
+    const AIPoint from = toViewPixel(view, {area->left, area->top});
+    const AIPoint to = toViewPixel(view, {area->right, area->bottom});
+    paint::Pen dashed;
+    dashed.dashes = {3, 3};
+    painter.stroke(rectangle({from.h, from.v, to.h, to.v}), dashed, inkOf(LayerProperties{}.color));
 }
 
 } // namespace easel::window

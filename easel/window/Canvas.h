@@ -9,9 +9,10 @@ namespace easel::window {
 
 /// Where the drawing is seen and drawn. Its pixels are those of the document's view.
 ///
-///   1. What lies below the annotations is kept as a picture, painted again only when the host says
-///      that it has changed: at once and quickly, and once more, smoothly, when the hand rests.
-///   2. Over it come the selection and what annotators draw, within the area that is to be painted.
+///   1. What lies below the annotations, with the selection, is kept as a picture, painted again
+///   only
+///      when the host says that it has changed.
+///   2. Over it comes what annotators draw, within the area that is to be painted.
 ///   3. Annotators are asked when the system asks to be painted, which it does when nothing else
 ///      waits: no message to the plug-in waits for pixels.
 class Canvas : public NativeWindow {
@@ -21,8 +22,6 @@ public:
     void open(HWND parent);
     /// Has the system ask for what the host says is to be painted.
     void follow();
-    /// Called now and then: paints smoothly what has rested for a while.
-    void settle();
     /// Tells the view how large the canvas is: after a document has come to the front.
     void fitView();
     /// The whole artboard in the middle.
@@ -37,8 +36,9 @@ private:
     LRESULT handleMessage(UINT message, WPARAM first, LPARAM second) override;
     void paint();
     /// True when it was not up to date.
-    bool paintPage(const DocumentView& view);
+    bool paintPage();
     void paintSelection(const DocumentView& view, paint::Painter& painter);
+    void paintMarquee(const DocumentView& view, paint::Painter& painter);
     void press(POINT at);
     void move(POINT at);
     void release();
@@ -53,8 +53,6 @@ private:
     Pixels page_;
     Pixels screen_;
     std::uint64_t paintedVersion_ = 0; ///< Of the page; 0: never.
-    bool isDraft_ = false;
-    ULONGLONG draftSince_ = 0;
     Held held_ = Held::Nothing;
     POINT mouse_{};
 };

@@ -390,7 +390,6 @@ void Frame::tick() {
     tickedAt_ = GetTickCount64();
     figures_.tell(handle(), canvas_.handle());
     hand_.passTime();
-    canvas_.settle();
     if (GetActiveWindow() == handle() && GetFocus() == nullptr) SetFocus(canvas_.handle());
     if (hand_.script.isBusy()) return;
     keepRecord();
