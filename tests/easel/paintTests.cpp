@@ -2,6 +2,7 @@
 #include "easel/document/Session.h"
 #include "easel/document/TransformArt.h"
 #include "easel/paint/PaintDocument.h"
+#include "easel/paint/Raster.h"
 #include "easel/svg/SvgFile.h"
 
 #include <doctest/doctest.h>
@@ -195,4 +196,63 @@ TEST_CASE("a picture beyond the limits is refused") {
     options.scale = 1e6;
     CHECK_THROWS_AS(static_cast<void>(paintDocument(*open("").document, options)),
                     std::length_error);
+}
+
+TEST_CASE("a raster covers as much of each pixel as the shape does") {
+    constexpr int kSide = 16;
+    constexpr std::uint32_t kBlack = 0xFF000000;
+    const PixelRect all[] = {{0, 0, kSide, kSide}};
+    const PixelRect corner[] = {{0, 0, 8, 3}, {0, 3, 4, 8}};
+    using Points = std::vector<Point>;
+    const Points square{{2, 2}, {12, 2}, {12, 12}, {2, 12}};
+    const Points inner{{4, 4}, {8, 4}, {8, 8}, {4, 8}};
+    const Points backwards{{4, 4}, {4, 8}, {8, 8}, {8, 4}};
+    struct Row {
+        const char* what;
+        std::vector<Points> figures;
+        double width; ///< Of a line; 0: a shape.
+        FillRule rule;
+        std::span<const PixelRect> clip;
+        double area;
+    };
+    const Row rows[] = {
+        {"a square", {square}, 0, FillRule::NonZero, all, 100},
+        {"two that overlap", {square, inner}, 0, FillRule::NonZero, all, 100},
+        {"one within the other", {square, inner}, 0, FillRule::EvenOdd, all, 84},
+        {"a hole", {square, backwards}, 0, FillRule::NonZero, all, 84},
+        {"edges within pixels",
+         {{{2.25, 2.5}, {5, 2.5}, {5, 4}, {2.25, 4}}},
+         0,
+         FillRule::NonZero,
+         all,
+         4.125},
+        {"flat and steep edges", {{{1, 1}, {15, 2.5}, {3, 14}}}, 0, FillRule::NonZero, all, 89.5},
+        {"beyond all sides",
+         {{{-1e7, -1e7}, {1e7, -1e7}, {1e7, 1e7}, {-1e7, 1e7}}},
+         0,
+         FillRule::NonZero,
+         all,
+         256},
+        {"no number", {{{std::nan(""), 1}, {5, 9}, {1, 9}}}, 0, FillRule::NonZero, all, 0},
+        {"within a clip", {square}, 0, FillRule::NonZero, corner, 16},
+        {"a line with a corner", {{{2, 3}, {12, 3}, {12, 13}}}, 1, FillRule::NonZero, all, 20},
+    };
+    Raster raster(kSide, kSide); // each shape is forgotten before the next
+    for (const Row& row : rows) {
+        CAPTURE(row.what);
+        std::vector<std::uint32_t> pixels(kSide * kSide);
+        for (const Points& figure : row.figures)
+            if (row.width > 0)
+                raster.addLine(figure, row.width);
+            else
+                for (std::size_t i = 0; i < figure.size(); ++i)
+                    raster.addEdge(figure[i], figure[(i + 1) % figure.size()]);
+        raster.paint(pixels.data(), row.clip, row.rule, kBlack);
+        double area = 0;
+        for (const std::uint32_t pixel : pixels)
+            area += (pixel >> 24) / 255.0;
+        CHECK(area == doctest::Approx(row.area).epsilon(0.005));
+    }
+    CHECK(composed(0xFF0000FF, 0x80800000, 255) == 0xFF80007F);
+    CHECK(composed(0xFF0000FF, 0x80800000, 0) == 0xFF0000FF);
 }
