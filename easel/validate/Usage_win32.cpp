@@ -1,5 +1,7 @@
 #include "easel/validate/Usage.h"
 
+#include "easel/core/SystemObjects.h"
+
 #include <windows.h>
 
 #include <psapi.h>
@@ -8,11 +10,10 @@ namespace easel::validate {
 
 Usage usage() {
     PROCESS_MEMORY_COUNTERS_EX memory{};
-    const HANDLE process = GetCurrentProcess();
-    GetProcessMemoryInfo(process, reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&memory),
+    GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&memory),
                          sizeof memory);
-    return {memory.PrivateUsage,
-            GetGuiResources(process, GR_GDIOBJECTS) + GetGuiResources(process, GR_USEROBJECTS)};
+    const SystemObjects objects = systemObjects();
+    return {memory.PrivateUsage, objects.gdi + objects.user};
 }
 
 } // namespace easel::validate

@@ -1,5 +1,7 @@
 #include "easel/window/Figures.h"
 
+#include "easel/core/SystemObjects.h"
+
 #include <algorithm>
 #include <cmath>
 #include <string>
@@ -17,46 +19,6 @@ long processorMilliseconds() {
     GetProcessTimes(GetCurrentProcess(), &made, &ended, reinterpret_cast<FILETIME*>(&kernel),
                     reinterpret_cast<FILETIME*>(&user));
     return static_cast<long>((kernel.QuadPart + user.QuadPart) / 10'000);
-}
-
-/// An entry of the table in which GDI keeps what a process has made.
-struct GdiEntry {
-    std::uint64_t object;
-    std::uint32_t owner;
-    std::uint16_t generation;
-    std::uint8_t type; ///< 0: the entry is free.
-    std::uint8_t flags;
-    std::uint64_t pointer;
-};
-
-/// Wine does not count GDI objects for a program, so that its table is counted.
-std::ptrdiff_t gdiObjects() {
-    if (const DWORD told = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS)) return told;
-    constexpr std::ptrdiff_t kTableInBlock = 0xF8;
-    constexpr int kEntries = 0x4000;
-    const auto find = reinterpret_cast<const char* (*)()>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll"), "RtlGetCurrentPeb")));
-    if (find == nullptr) return 0;
-    const auto* const table = *reinterpret_cast<const GdiEntry* const*>(find() + kTableInBlock);
-    return table == nullptr ? 0 : std::count_if(table, table + kEntries, [](const GdiEntry& each) {
-        return each.type != 0;
-    });
-}
-
-/// Nor does it count USER objects: here are the windows and the menus among them.
-std::ptrdiff_t userObjects() {
-    if (const DWORD told = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS)) return told;
-    std::ptrdiff_t count = 0;
-    const auto countOwn = [](HWND window, LPARAM sum) -> BOOL {
-        if (GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId())
-            ++*reinterpret_cast<std::ptrdiff_t*>(sum);
-        return TRUE;
-    };
-    EnumChildWindows(GetDesktopWindow(), countOwn, reinterpret_cast<LPARAM>(&count));
-    constexpr std::uintptr_t kHandles = 0x10000;
-    for (std::uintptr_t each = 2; each < kHandles; each += 2)
-        if (IsMenu(reinterpret_cast<HMENU>(each)) != FALSE) ++count;
-    return count;
 }
 
 /// The title of the dialog that has taken the keyboard from the frame; "-" when none has.
@@ -96,10 +58,11 @@ void Figures::tell(HWND frame, HWND canvas) {
     told_ = now;
     RECT area{};
     GetWindowRect(canvas, &area);
+    const SystemObjects objects = systemObjects();
     file_ << std::lround(Milliseconds(now - began_).count()) << ' ' << processorMilliseconds()
           << ' ' << paints_ << ' ' << pages_ << ' ' << messages_ << ' '
-          << std::lround(longestPaint_) << ' ' << longestWait_ << ' ' << gdiObjects() << ' '
-          << userObjects() << ' ' << area.left << ' ' << area.top << ' ' << area.right << ' '
+          << std::lround(longestPaint_) << ' ' << longestWait_ << ' ' << objects.gdi << ' '
+          << objects.user << ' ' << area.left << ' ' << area.top << ' ' << area.right << ' '
           << area.bottom << ' ' << dialogInFront(frame) << '\n'
           << std::flush;
     longestPaint_ = 0;

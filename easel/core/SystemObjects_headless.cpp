@@ -1,0 +1,7 @@
+#include "easel/core/SystemObjects.h"
+
+namespace easel {
+
+SystemObjects systemObjects() { return {}; }
+
+} // namespace easel
