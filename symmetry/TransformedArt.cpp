@@ -95,12 +95,10 @@ void ContainerTransform::apply(AIArtHandle art, AIRealMatrix& matrix, Transform 
     transformArt(art, matrix, parts);
     if (anchor) hostReachesMembers_ = anchor->hasMoved();
     if (hostReachesMembers_ != false) return;
-    Unlocked shown{inside, kArtHidden};
-    Unlocked unlocked{inside};
-    for (const AIArtHandle member : inside)
-        transformArt(member, matrix, parts);
-    unlocked.lockAgain();
-    shown.lockAgain();
+    whileUnlocked(inside, [&] {
+        for (const AIArtHandle member : inside)
+            transformArt(member, matrix, parts);
+    });
 }
 
 } // namespace facetta

@@ -22,13 +22,14 @@ void unlockAll(AIArtHandle art) {
             ai::check(ai::suites.art->SetArtUserAttr(member, kArtLocked, 0));
 }
 
-/// From the outside in, and back: in a locked group a host need not change anything.
-Unlocked::Unlocked(const std::vector<AIArtHandle>& art, AIArtUserAttr state) : state_(state) {
+/// From the outside in, and back: in a locked or hidden group a host need not change anything.
+Unlocked::Unlocked(const std::vector<AIArtHandle>& art) {
     try {
         for (const AIArtHandle each : art) {
-            if (attributesOf(each, state_) == 0) continue;
-            ai::check(ai::suites.art->SetArtUserAttr(each, state_, 0));
-            unlocked_.push_back(each);
+            const ai::int32 state = attributesOf(each, kArtLocked | kArtHidden);
+            if (state == 0) continue;
+            ai::check(ai::suites.art->SetArtUserAttr(each, state, 0));
+            former_.push_back({each, state});
         }
     } catch (...) {
         lockWhatCanBe();
@@ -39,15 +40,16 @@ Unlocked::Unlocked(const std::vector<AIArtHandle>& art, AIArtUserAttr state) : s
 Unlocked::~Unlocked() { lockWhatCanBe(); }
 
 void Unlocked::lockAgain() {
-    while (!unlocked_.empty()) {
-        ai::check(ai::suites.art->SetArtUserAttr(unlocked_.back(), state_, state_));
-        unlocked_.pop_back();
+    while (!former_.empty()) {
+        const auto& [art, state] = former_.back();
+        ai::check(ai::suites.art->SetArtUserAttr(art, state, state));
+        former_.pop_back();
     }
 }
 
 void Unlocked::lockWhatCanBe() const noexcept {
-    for (auto each = unlocked_.rbegin(); each != unlocked_.rend(); ++each)
-        ai::suites.art->SetArtUserAttr(*each, state_, state_);
+    for (auto each = former_.rbegin(); each != former_.rend(); ++each)
+        ai::suites.art->SetArtUserAttr(each->art, each->state, each->state);
 }
 
 } // namespace facetta
