@@ -20,6 +20,18 @@ namespace {
 
 constexpr int kActsOfSession = 40;
 
+/// Each mirroring multiplies a drawing, by up to 144. Nobody works on in what has become of it
+/// then.
+constexpr std::ptrdiff_t kMostObjects = 3000;
+
+bool isTooLarge(const Document& document) {
+    const Art& root = document.root();
+    std::ptrdiff_t objects = 0;
+    for (const Art* art = root.firstChild(); art != nullptr; art = nextInPreorder(*art, root))
+        if (++objects > kMostObjects) return true;
+    return false;
+}
+
 /// What nobody but the host does, between acts.
 constexpr const char* kBetween[] = {
     "undo",
@@ -141,8 +153,9 @@ void play(Session& session, Trials& trials, const Plan& plan) {
                 throw SessionError('"' + std::string(lines) + "\" leaves a context open");
             for (const auto& each : sitting.player().host().documents())
                 judgeCopies(trials, *each);
-            if (session.current != nullptr)
-                judgeLayers(trials, session.document(), sitting.player().host());
+            if (session.current == nullptr) continue;
+            judgeLayers(trials, session.document(), sitting.player().host());
+            if (isTooLarge(session.document())) break;
         }
         sitting.attempt("release");
         if (Document* const document = documentOf(sitting.player().host(), first)) {
