@@ -10,8 +10,7 @@ namespace easel::window {
 /// Where the drawing is seen and drawn. Its pixels are those of the document's view.
 ///
 ///   1. What lies below the annotations, with the selection, is kept as a picture, painted again
-///   only
-///      when the host says that it has changed.
+///      only when the host says that it has changed.
 ///   2. Over it comes what annotators draw, within the area that is to be painted.
 ///   3. Annotators are asked when the system asks to be painted, which it does when nothing else
 ///      waits: no message to the plug-in waits for pixels.
