@@ -1,11 +1,14 @@
 #pragma once
 
+#include "easel/core/Arguments.h"
 #include "easel/core/HostCalls.h"
 #include "easel/core/SuiteServer.h"
 #include "host/Error.h"
 
 #include <cstring>
+#include <tuple>
 #include <type_traits>
+#include <utility>
 
 /// Puts a function of Easel into a slot of a suite: `expose<&AIArtSuite::NewArt, newArt>(table)`.
 ///
@@ -13,6 +16,10 @@
 /// says so, and turns an exception into the host's error code, so that none crosses the interface.
 /// A call that fails leaves nothing of use in what it would have written.
 /// A function whose result is no error code answers a zero result instead.
+///
+/// Where the slot answers a code, the function may be written without it, since what goes wrong is
+/// thrown: it returns nothing, or it returns what the last argument of the slot leads to and goes
+/// without that argument, which is then checked before it runs.
 
 namespace easel {
 
@@ -55,6 +62,11 @@ struct FailsWithPresets {
     static void fail(auto&&...) {}
 };
 
+/// For calls whose last argument, which says where to put what was made, may be null.
+struct OutputMayBeNull : FailsUntouched {
+    static constexpr bool kMayBeNull = true;
+};
+
 /// For calls that end a loan: made to fail, such a call ends it all the same and only answers a
 /// code. What a host does is not published. But a plug-in cannot give a reference back twice, and
 /// one left over would count as its leak, so that no other choice lets every call be tried.
@@ -66,7 +78,7 @@ template <auto Function> struct FailsWhenDone {
 template <auto Slot, auto Function, typename Failing> struct Exposed;
 
 template <typename Suite, typename Result, typename... Arguments,
-          Result (*Suite::*Slot)(Arguments...), Result (*Function)(Arguments...), typename Failing>
+          Result (*Suite::*Slot)(Arguments...), auto Function, typename Failing>
 struct Exposed<Slot, Function, Failing> {
     static inline SlotRecord* record = nullptr;
 
@@ -94,10 +106,37 @@ private:
                 Failing::fail(arguments...);
                 return record->counter->faultCode();
             }
-            return Function(arguments...);
+            return answer(arguments...);
         } catch (...) {
             const AIErr code = ai::currentErrorCode();
             return record->returnsError ? code : 0;
+        }
+    }
+
+    static AIErr answer(Arguments... arguments) {
+        if constexpr (!std::is_invocable_v<decltype(Function), Arguments...>) {
+            give(std::make_index_sequence<sizeof...(Arguments) - 1>{},
+                 std::forward_as_tuple(arguments...));
+        } else if constexpr (std::is_void_v<decltype(Function(arguments...))>) {
+            Function(arguments...);
+        } else {
+            return Function(arguments...);
+        }
+        return kNoErr;
+    }
+
+    template <std::size_t... Index, typename All>
+    static void give(std::index_sequence<Index...> /*indexes*/, const All& arguments) {
+        auto& last = std::get<sizeof...(Index)>(arguments);
+        using Last = std::tuple_element_t<sizeof...(Index), std::tuple<Arguments...>>;
+        if constexpr (std::is_reference_v<Last>) {
+            last = Function(std::get<Index>(arguments)...);
+        } else if constexpr (requires { Failing::kMayBeNull; }) {
+            const auto made = Function(std::get<Index>(arguments)...);
+            if (last != nullptr) *last = made;
+        } else {
+            auto& output = required(last);
+            output = Function(std::get<Index>(arguments)...);
         }
     }
 

@@ -34,23 +34,21 @@ void replace(Handles& handles, const std::vector<Art*>& art) {
         handles.push_back(each->handle());
 }
 
-AIErr newArtSet(AIArtSet* set) {
-    required(set) = nullptr;
-    *set = static_cast<AIArtSet>(session().handles.add(HandleKind::ArtSet, new Handles));
-    session().ledger.lend(Lent::ArtSet, *set);
-    return kNoErr;
+AIArtSet newArtSet() {
+    void* const set = session().handles.add(HandleKind::ArtSet, new Handles);
+    session().ledger.lend(Lent::ArtSet, set);
+    return static_cast<AIArtSet>(set);
 }
 
-AIErr disposeArtSet(AIArtSet* set) {
+void disposeArtSet(AIArtSet* set) {
     const Handles* handles = &handlesOf(required(set));
     session().ledger.takeBack(Lent::ArtSet, *set);
     session().handles.remove(*set);
     delete handles;
     *set = nullptr;
-    return kNoErr;
 }
 
-AIErr countArtSet(AIArtSet set, std::size_t* count) {
+void countArtSet(AIArtSet set, std::size_t* count) {
     const std::size_t size = handlesOf(set).size();
     if (session().switches.countIs64Bits) {
         required(count) = size;
@@ -58,35 +56,29 @@ AIErr countArtSet(AIArtSet set, std::size_t* count) {
         const auto low = static_cast<std::uint32_t>(size);
         std::memcpy(&required(count), &low, sizeof low);
     }
-    return kNoErr;
 }
 
-AIErr indexArtSet(AIArtSet set, std::size_t index, AIArtHandle* art) {
-    required(art) = nullptr;
+AIArtHandle indexArtSet(AIArtSet set, std::size_t index) {
     const Handles& handles = handlesOf(set);
-    if (index >= handles.size()) return kBadParameterErr;
-    *art = handles[index];
-    return kNoErr;
+    if (index >= handles.size()) throw ai::Error{kBadParameterErr};
+    return handles[index];
 }
 
-AIErr matchingArtSet(AIArtSpec* specs, ai::int16 count, AIArtSet set) {
+void matchingArtSet(AIArtSpec* specs, ai::int16 count, AIArtSet set) {
     Handles& handles = handlesOf(set);
-    if (count < 0 || (specs == nullptr && count != 0)) return kBadParameterErr;
+    if (count < 0 || (specs == nullptr && count != 0)) throw ai::Error{kBadParameterErr};
     replace(handles, matchingArt(session().document(), {specs, static_cast<std::size_t>(count)}));
-    return kNoErr;
 }
 
-AIErr selectedArtSet(AIArtSet set) {
+void selectedArtSet(AIArtSet set) {
     replace(handlesOf(set), selectedMatches(session().document()));
-    return kNoErr;
 }
 
-AIErr layerArtSet(AILayerHandle layer, AIArtSet set) {
+void layerArtSet(AILayerHandle layer, AIArtSet set) {
     replace(handlesOf(set), artOfLayer(session().layerOf(layer)));
-    return kNoErr;
 }
 
-AIErr intersectArtSet(AIArtSet one, AIArtSet other, AIArtSet both) {
+void intersectArtSet(AIArtSet one, AIArtSet other, AIArtSet both) {
     const Handles& first = handlesOf(one);
     const Handles& second = handlesOf(other);
     const auto& [few, many] = std::minmax(
@@ -96,13 +88,11 @@ AIErr intersectArtSet(AIArtSet one, AIArtSet other, AIArtSet both) {
     std::ranges::copy_if(many, std::back_inserter(found),
                          [&](AIArtHandle art) { return wanted.contains(art); });
     handlesOf(both) = std::move(found);
-    return kNoErr;
 }
 
-AIErr addArtToArtSet(AIArtSet set, AIArtHandle art) {
+void addArtToArtSet(AIArtSet set, AIArtHandle art) {
     Handles& handles = handlesOf(set);
     if (std::ranges::find(handles, art) == handles.end()) handles.push_back(art);
-    return kNoErr;
 }
 
 } // namespace

@@ -26,66 +26,49 @@ bool isFixed(const Art& art) {
 
 // Making and removing.
 
-AIErr newArt(ai::int16 type, ai::int16 order, AIArtHandle reference, AIArtHandle* made) {
-    required(made) = nullptr;
+AIArtHandle newArt(ai::int16 type, ai::int16 order, AIArtHandle reference) {
     const bool canBeMade =
         type == kGroupArt || type == kPathArt || type == kCompoundPathArt || type == kPluginArt;
-    if (!canBeMade) return kUnknownArtTypeErr;
+    if (!canBeMade) throw ai::Error{kUnknownArtTypeErr};
     const Position place = placeFor(session().document(), order, artOrNull(reference));
     checkPlace(place, type);
-    *made = createArt(place.parent->document(), type, place).handle();
-    return kNoErr;
+    return createArt(place.parent->document(), type, place).handle();
 }
 
-AIErr disposeArtObject(AIArtHandle handle) {
+void disposeArtObject(AIArtHandle handle) {
     Art& art = session().artOf(handle);
-    if (isFixed(art)) return kUntouchableArtObjectErr;
+    if (isFixed(art)) throw ai::Error{kUntouchableArtObjectErr};
     if (session().switches.disposeRefusesLocked) checkEditable(art);
     checkContents(art);
     disposeArt(art);
-    return kNoErr;
 }
 
-AIErr duplicateArtObject(AIArtHandle handle, ai::int16 order, AIArtHandle reference,
-                         AIArtHandle* made) {
-    required(made) = nullptr;
+AIArtHandle duplicateArtObject(AIArtHandle handle, ai::int16 order, AIArtHandle reference) {
     const Art& art = session().artOf(handle);
-    if (art.isLayer()) return kUntouchableArtObjectErr;
+    if (art.isLayer()) throw ai::Error{kUntouchableArtObjectErr};
     const Position place = placeFor(session().document(), order, artOrNull(reference));
     checkPlace(place, art);
-    *made = duplicateArt(art, place).handle();
-    return kNoErr;
+    return duplicateArt(art, place).handle();
 }
 
 // Walking the tree.
 
-AIErr getFirstArtOfLayer(AILayerHandle layer, AIArtHandle* group) {
-    required(group) = nullptr;
+AIArtHandle getFirstArtOfLayer(AILayerHandle layer) {
     const Art* found =
         layer != nullptr ? &session().layerOf(layer) : session().document().state().currentLayer;
-    *group = handleOf(found);
-    return kNoErr;
+    return handleOf(found);
 }
 
-AIErr getLayerOfArt(AIArtHandle art, AILayerHandle* layer) {
-    required(layer) = nullptr;
-    *layer = layerHandle(layerOf(session().artOf(art)));
-    return kNoErr;
-}
+AILayerHandle getLayerOfArt(AIArtHandle art) { return layerHandle(layerOf(session().artOf(art))); }
 
-AIErr getArtType(AIArtHandle art, ai::int16* type) {
-    required(type) = session().artOf(art).type();
-    return kNoErr;
-}
+ai::int16 getArtType(AIArtHandle art) { return session().artOf(art).type(); }
 
-AIErr getArtParent(AIArtHandle handle, AIArtHandle* parent) {
-    required(parent) = nullptr;
+AIArtHandle getArtParent(AIArtHandle handle) {
     const Art& art = session().artOf(handle);
     const Art* found = art.parent();
     const bool isTopmost = found == &art.document().root() ||
                            (art.isLayer() && !session().switches.sublayerGroupHasParent);
-    *parent = isTopmost ? nullptr : handleOf(found);
-    return kNoErr;
+    return isTopmost ? nullptr : handleOf(found);
 }
 
 /// Edit and result art are no children of their plug-in group, as far as a plug-in is told.
@@ -93,51 +76,39 @@ const Art* tellChild(const Art& parent, const Art* child) {
     return parent.type() == kPluginArt ? nullptr : child;
 }
 
-AIErr getArtFirstChild(AIArtHandle art, AIArtHandle* child) {
-    required(child) = nullptr;
-    *child = handleOf(tellChild(session().artOf(art), session().artOf(art).firstChild()));
-    return kNoErr;
+AIArtHandle getArtFirstChild(AIArtHandle art) {
+    return handleOf(tellChild(session().artOf(art), session().artOf(art).firstChild()));
 }
 
 bool hasSiblings(const Art& art) {
     return art.parent() != &art.document().root() && art.parent()->type() != kPluginArt;
 }
 
-AIErr getArtSibling(AIArtHandle handle, AIArtHandle* sibling) {
-    required(sibling) = nullptr;
+AIArtHandle getArtSibling(AIArtHandle handle) {
     const Art& art = session().artOf(handle);
-    *sibling = hasSiblings(art) ? handleOf(art.next()) : nullptr;
-    return kNoErr;
+    return hasSiblings(art) ? handleOf(art.next()) : nullptr;
 }
 
-AIBoolean validArt(AIArtHandle art, AIBoolean /*allLists*/) {
-    return session().findArt(art) != nullptr ? 1 : 0;
-}
+bool validArt(AIArtHandle art, AIBoolean /*allLists*/) { return session().findArt(art) != nullptr; }
 
-AIErr getInsertionPoint(AIArtHandle* art, ai::int16* order, AIBoolean* editable) {
+void getInsertionPoint(AIArtHandle* art, ai::int16* order, AIBoolean* editable) {
     Art& group = insertionGroup(session().document());
     required(art) = group.handle();
     required(order) = kPlaceInsideOnTop;
     if (editable != nullptr) *editable = isEditable(group) ? 1 : 0;
-    return kNoErr;
 }
 
 // Attributes.
 
-AIErr getArtUserAttr(AIArtHandle art, ai::int32 mask, ai::int32* attributes) {
-    required(attributes) = userAttributes(session().artOf(art), mask);
-    return kNoErr;
+ai::int32 getArtUserAttr(AIArtHandle art, ai::int32 mask) {
+    return userAttributes(session().artOf(art), mask);
 }
 
-AIErr setArtUserAttr(AIArtHandle art, ai::int32 mask, ai::int32 attributes) {
+void setArtUserAttr(AIArtHandle art, ai::int32 mask, ai::int32 attributes) {
     setUserAttributes(session().artOf(art), mask, attributes);
-    return kNoErr;
 }
 
-AIErr isArtLayerGroup(AIArtHandle art, AIBoolean* isLayer) {
-    required(isLayer) = session().artOf(art).isLayer() ? 1 : 0;
-    return kNoErr;
-}
+bool isArtLayerGroup(AIArtHandle art) { return session().artOf(art).isLayer(); }
 
 enum TransferredAttributes : ai::uint32 {
     kTransferName = 1U << 0,
@@ -159,7 +130,7 @@ void transferName(const Art& source, Art& destination) {
     if (!source.content().id->empty()) destination.write(Edit::Quiet).id = source.content().id;
 }
 
-AIErr transferAttributes(AIArtHandle from, AIArtHandle to, ai::uint32 which) {
+void transferAttributes(AIArtHandle from, AIArtHandle to, ai::uint32 which) {
     Art& source = session().artOf(from);
     Art& destination = session().artOf(to);
     checkEditable(destination);
@@ -171,7 +142,6 @@ AIErr transferAttributes(AIArtHandle from, AIArtHandle to, ai::uint32 which) {
     if ((which & kTransferHidden) != 0) bits |= kArtHidden;
     const ai::int32 wanted = userAttributes(source, bits);
     if (wanted != userAttributes(destination, bits)) setUserAttributes(destination, bits, wanted);
-    return kNoErr;
 }
 
 // Geometry.
@@ -189,43 +159,35 @@ AIRealRect rounded(const AIDoubleRect& rect) {
             static_cast<AIReal>(rect.right), static_cast<AIReal>(rect.bottom)};
 }
 
-AIErr getArtTransformBounds(AIArtHandle art, AIRealMatrix* matrix, ai::int32 flags,
-                            AIRealRect* bounds) {
-    required(bounds) = rounded(checkedBounds(art, matrix, flags));
-    return kNoErr;
+AIRealRect getArtTransformBounds(AIArtHandle art, AIRealMatrix* matrix, ai::int32 flags) {
+    return rounded(checkedBounds(art, matrix, flags));
 }
 
-AIErr getArtBounds(AIArtHandle art, AIRealRect* bounds) {
-    return getArtTransformBounds(art, nullptr, kExcludeGuideBounds, bounds);
+AIRealRect getArtBounds(AIArtHandle art) {
+    return getArtTransformBounds(art, nullptr, kExcludeGuideBounds);
 }
 
 // Notes, dictionary, time stamp.
 
-AIErr getDictionary(AIArtHandle art, AIDictionaryRef* dictionary) {
-    required(dictionary) = nullptr;
-    *dictionary = static_cast<AIDictionaryRef>(session().artOf(art).dictionary().lend(session()));
-    return kNoErr;
+AIDictionaryRef getDictionary(AIArtHandle art) {
+    return static_cast<AIDictionaryRef>(session().artOf(art).dictionary().lend(session()));
 }
 
-AIErr setNote(AIArtHandle handle, const ai::UnicodeString& note) {
+void setNote(AIArtHandle handle, const ai::UnicodeString& note) {
     Art& art = session().artOf(handle);
     checkEditable(art);
     art.write(Edit::Quiet).details.write().note = readUtf8(session().ledger, note);
-    return kNoErr;
 }
 
-AIErr getNote(AIArtHandle art, ai::UnicodeString& note) {
+void getNote(AIArtHandle art, ai::UnicodeString& note) {
     writeUtf8(session().ledger, note, session().artOf(art).details().note);
-    return kNoErr;
 }
 
-AIBoolean hasNote(AIArtHandle art) { return session().artOf(art).details().note.empty() ? 0 : 1; }
+bool hasNote(AIArtHandle art) { return !session().artOf(art).details().note.empty(); }
 
-AIErr getArtTimeStamp(AIArtHandle art, std::size_t* stamp) {
+std::size_t getArtTimeStamp(AIArtHandle art) {
     const Art& found = session().artOf(art);
-    required(stamp) =
-        session().switches.stampsCoverDescendants ? subtreeStamp(found) : found.stamp();
-    return kNoErr;
+    return session().switches.stampsCoverDescendants ? subtreeStamp(found) : found.stamp();
 }
 
 } // namespace

@@ -33,24 +33,18 @@ template <typename T> const T& typedAt(ConstAIDictionaryRef dictionary, AIDictKe
     return valueAs<T>(valueAt(dictionary, key));
 }
 
-AIErr put(AIDictionaryRef dictionary, AIDictKey key, Value value) {
+void put(AIDictionaryRef dictionary, AIDictKey key, Value value) {
     called(dictionary).set(keyOf(key), std::move(value));
-    return kNoErr;
 }
 
-AIErr createDictionary(AIDictionaryRef* dictionary) {
-    required(dictionary) = nullptr;
-    *dictionary = lend(Ref<Dictionary>(new Dictionary));
-    return kNoErr;
-}
+AIDictionaryRef createDictionary() { return lend(Ref<Dictionary>(new Dictionary)); }
 
 ai::int32 release(AIDictionaryRef dictionary) {
     return dictionaryOf(dictionary).takeBack(session());
 }
 
-AIErr copy(AIDictionaryRef target, ConstAIDictionaryRef source) {
+void copy(AIDictionaryRef target, ConstAIDictionaryRef source) {
     called(target).copyFrom(dictionaryOf(source));
-    return kNoErr;
 }
 
 ai::uint32 size(ConstAIDictionaryRef dictionary) {
@@ -65,12 +59,12 @@ AIDictKey key(const char* text) {
     return static_cast<AIDictKey>(handle);
 }
 
-AIBoolean isKnown(ConstAIDictionaryRef dictionary, AIDictKey key) {
-    return called(dictionary).find(keyOf(key)) != nullptr ? 1 : 0;
+bool isKnown(ConstAIDictionaryRef dictionary, AIDictKey key) {
+    return called(dictionary).find(keyOf(key)) != nullptr;
 }
 
-AIErr deleteEntry(AIDictionaryRef dictionary, AIDictKey key) {
-    return called(dictionary).erase(keyOf(key)) ? kNoErr : kNoSuchKey;
+void deleteEntry(AIDictionaryRef dictionary, AIDictKey key) {
+    if (!called(dictionary).erase(keyOf(key))) throw ai::Error{kNoSuchKey};
 }
 
 AIEntryRef get(ConstAIDictionaryRef dictionary, AIDictKey key) {
@@ -78,26 +72,24 @@ AIEntryRef get(ConstAIDictionaryRef dictionary, AIDictKey key) {
     return value != nullptr ? lendEntry(*value) : nullptr;
 }
 
-AIErr set(AIDictionaryRef dictionary, AIDictKey key, AIEntryRef entry) {
-    return put(dictionary, key, consume(entry)); // consumed, whatever happens next
+void set(AIDictionaryRef dictionary, AIDictKey key, AIEntryRef entry) {
+    put(dictionary, key, consume(entry)); // consumed, whatever happens next
 }
 
-AIErr getBoolean(ConstAIDictionaryRef dictionary, AIDictKey key, AIBoolean* value) {
-    required(value) = typedAt<Boolean>(dictionary, key).value ? 1 : 0;
-    return kNoErr;
+bool getBoolean(ConstAIDictionaryRef dictionary, AIDictKey key) {
+    return typedAt<Boolean>(dictionary, key).value;
 }
 
-AIErr setBoolean(AIDictionaryRef dictionary, AIDictKey key, AIBoolean value) {
-    return put(dictionary, key, Boolean{value != 0});
+void setBoolean(AIDictionaryRef dictionary, AIDictKey key, AIBoolean value) {
+    put(dictionary, key, Boolean{value != 0});
 }
 
-AIErr getInteger(ConstAIDictionaryRef dictionary, AIDictKey key, ai::int32* value) {
-    required(value) = typedAt<ai::int32>(dictionary, key);
-    return kNoErr;
+ai::int32 getInteger(ConstAIDictionaryRef dictionary, AIDictKey key) {
+    return typedAt<ai::int32>(dictionary, key);
 }
 
-AIErr setInteger(AIDictionaryRef dictionary, AIDictKey key, ai::int32 value) {
-    return put(dictionary, key, value);
+void setInteger(AIDictionaryRef dictionary, AIDictKey key, ai::int32 value) {
+    put(dictionary, key, value);
 }
 
 /// A host that has no functions for pointers has everything after them two slots earlier.

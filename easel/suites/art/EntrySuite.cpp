@@ -15,16 +15,14 @@ ai::int32 release(AIEntryRef entry) { return entryOf(entry).takeBack(session());
 
 template <typename T> T consumeAs(AIEntryRef entry) { return valueAs<T>(consume(entry)); }
 
-AIErr toString(AIEntryRef entry, const char** value) {
+void toString(AIEntryRef entry, const char** value) {
     const auto content = consumeAs<SharedText>(entry);
     required(value) = session().messageLoans.characters(content);
-    return kNoErr;
 }
 
-AIErr toDict(AIEntryRef entry, AIDictionaryRef* value) {
+void toDict(AIEntryRef entry, AIDictionaryRef* value) {
     const auto content = consumeAs<Ref<Dictionary>>(entry);
     required(value) = lend(content);
-    return kNoErr;
 }
 
 AIEntryRef fromString(const char* value) { return lendEntry(textValue(&required(value))); }

@@ -14,10 +14,7 @@ Art& groupOf(AIArtHandle handle) {
     return art;
 }
 
-AIErr getGroupClipped(AIArtHandle group, AIBoolean* clipped) {
-    required(clipped) = groupOf(group).content().clipped ? 1 : 0;
-    return kNoErr;
-}
+bool getGroupClipped(AIArtHandle group) { return groupOf(group).content().clipped; }
 
 } // namespace
 

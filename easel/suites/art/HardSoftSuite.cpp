@@ -11,14 +11,12 @@ namespace {
 
 // Source and destination may be one point.
 
-AIErr pointHarden(AIRealPoint* source, AIRealPoint* destination) {
-    required(destination) = harden(session().document(), required(source));
-    return kNoErr;
+AIRealPoint pointHarden(AIRealPoint* source) {
+    return harden(session().document(), required(source));
 }
 
-AIErr pointSoften(AIRealPoint* source, AIRealPoint* destination) {
-    required(destination) = soften(session().document(), required(source));
-    return kNoErr;
+AIRealPoint pointSoften(AIRealPoint* source) {
+    return soften(session().document(), required(source));
 }
 
 } // namespace

@@ -21,18 +21,17 @@ HitResult resultOf(AIHitRef hit) { return hit != nullptr ? hitOf(hit).result : H
 
 AIArtHandle artIn(AIHitRef hit) { return hit != nullptr ? hitOf(hit).art : nullptr; }
 
-AIErr hitTestAt(AIArtHandle root, const AIRealPoint* point, ai::int32 request, AIHitRef* hit) {
-    required(hit) = nullptr;
+AIHitRef hitTestAt(AIArtHandle root, const AIRealPoint* point, ai::int32 request) {
     Art& searched = root != nullptr ? session().artOf(root) : session().document().root();
     const double reach = double{kTolerance} / searched.document().viewZoom;
     const HitResult found = hitTest(searched, required(point), reach, request);
-    if (found.art == nullptr && !session().switches.missIsHitObject) return kNoErr;
+    if (found.art == nullptr && !session().switches.missIsHitObject) return nullptr;
     // What the plug-in leaves is dropped when the message ends, so that no term runs out before.
     session().ledger.setTerm(Lent::Hit, LoanTerm::Life);
     Ref<Hit> object(new Hit(found));
-    *hit = static_cast<AIHitRef>(object->lend(session()));
+    const auto hit = static_cast<AIHitRef>(object->lend(session()));
     session().messageLoans.keep(std::move(object));
-    return kNoErr;
+    return hit;
 }
 
 ai::int32 release(AIHitRef handle) {
@@ -43,7 +42,7 @@ ai::int32 release(AIHitRef handle) {
     return left;
 }
 
-AIBoolean isHit(AIHitRef hit) { return artIn(hit) != nullptr ? 1 : 0; }
+bool isHit(AIHitRef hit) { return artIn(hit) != nullptr; }
 ai::int32 getType(AIHitRef hit) { return resultOf(hit).type; }
 AIArtHandle getArt(AIHitRef hit) { return artIn(hit); }
 ai::int16 getPathSegment(AIHitRef hit) { return resultOf(hit).segment; }

@@ -9,55 +9,41 @@
 namespace easel {
 namespace {
 
-AIErr give(AILayerHandle* out, const Art* layer) {
-    *out = layerHandle(layer);
-    return kNoErr;
-}
-
 Art* topmostLayer() { return firstSublayer(session().document().root()); }
 
-AIErr countLayers(ai::int32* count) {
-    required(count) = 0;
-    if (session().current == nullptr) return kNoErr;
+ai::int32 countLayers() {
+    ai::int32 count = 0;
+    if (session().current == nullptr) return count;
     for (Art* layer = topmostLayer(); layer != nullptr; layer = layerFrom(layer->next()))
-        ++*count;
-    return kNoErr;
+        ++count;
+    return count;
 }
 
-AIErr getNthLayer(ai::int32 index, AILayerHandle* out) {
-    required(out) = nullptr;
-    if (index < 0) return kBadParameterErr;
-    Art* layer = topmostLayer();
+AILayerHandle getNthLayer(ai::int32 index) {
+    Art* layer = index >= 0 ? topmostLayer() : nullptr;
     for (; layer != nullptr && index > 0; --index)
         layer = layerFrom(layer->next());
-    return layer != nullptr ? give(out, layer) : kBadParameterErr;
+    if (layer == nullptr) throw ai::Error{kBadParameterErr};
+    return layerHandle(layer);
 }
 
-AIErr getCurrentLayer(AILayerHandle* out) {
-    required(out) = nullptr;
-    return give(out, session().document().state().currentLayer);
-}
+AILayerHandle getCurrentLayer() { return layerHandle(session().document().state().currentLayer); }
 
-AIErr getLayerParent(AILayerHandle layer, AILayerHandle* out) {
-    required(out) = nullptr;
-    return give(out, parentLayer(session().layerOf(layer)));
+AILayerHandle getLayerParent(AILayerHandle layer) {
+    return layerHandle(parentLayer(session().layerOf(layer)));
 }
 
 /// A flag that is the opposite of an attribute of the layer's group.
-template <AIArtUserAttr Attribute> AIErr getWithout(AILayerHandle layer, AIBoolean* value) {
-    required(value) = session().layerOf(layer).has(Attribute) ? 0 : 1;
-    return kNoErr;
+template <AIArtUserAttr Attribute> bool getWithout(AILayerHandle layer) {
+    return !session().layerOf(layer).has(Attribute);
 }
 
-AIErr layerHasSelectedArt(AILayerHandle layer, AIBoolean* value) {
-    required(value) = 0;
+bool layerHasSelectedArt(AILayerHandle layer) {
     const Art& group = session().layerOf(layer);
     for (const Art* art = group.firstChild(); art != nullptr; art = nextInPreorder(*art, group))
-        if (!isContainer(*art) && (art->has(kArtSelected) || art->has(kArtFullySelected))) {
-            *value = 1;
-            break;
-        }
-    return kNoErr;
+        if (!isContainer(*art) && (art->has(kArtSelected) || art->has(kArtFullySelected)))
+            return true;
+    return false;
 }
 
 } // namespace

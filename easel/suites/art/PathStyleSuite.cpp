@@ -44,13 +44,12 @@ void tellDefinition(AIColor& color, const Definition* definition, const AIRealMa
     }
 }
 
-AIErr getPathStyle(AIArtHandle art, AIPathStyle* style) {
+AIPathStyle getPathStyle(AIArtHandle art) {
     const ArtStyle& own = styledArt(art).style();
     AIPathStyle told = own.path;
     tellDefinition(told.fill.color, own.fillDefinition, own.fillMatrix);
     tellDefinition(told.stroke.color, own.strokeDefinition, own.strokeMatrix);
-    required(style) = told;
-    return kNoErr;
+    return told;
 }
 
 } // namespace

@@ -62,32 +62,30 @@ void checkLength(std::size_t count) {
 
 // Segments.
 
-AIErr getPathSegmentCount(AIArtHandle path, ai::int16* count) {
-    required(count) = static_cast<ai::int16>(countOf(pathOf(path)));
-    return kNoErr;
+ai::int16 getPathSegmentCount(AIArtHandle path) {
+    return static_cast<ai::int16>(countOf(pathOf(path)));
 }
 
-AIErr setPathSegmentCount(AIArtHandle handle, ai::int16 count) {
+void setPathSegmentCount(AIArtHandle handle, ai::int16 count) {
     Art& path = editablePath(handle);
-    if (count < 0) return kBadParameterErr;
+    if (count < 0) throw ai::Error{kBadParameterErr};
     checkLength(static_cast<std::size_t>(count));
     ArtContent& content = path.write();
     content.segments.write().resize(static_cast<std::size_t>(count));
     settleSelection(content);
-    return kNoErr;
 }
 
-AIErr getPathSegments(AIArtHandle path, ai::int16 first, ai::int16 count, AIPathSegment* segments) {
+void getPathSegments(AIArtHandle path, ai::int16 first, ai::int16 count, AIPathSegment* segments) {
     const auto wanted = part(pathOf(path), first, count);
     if (!wanted.empty()) std::ranges::copy(wanted, &required(segments));
-    return kNoErr;
 }
 
-AIErr setPathSegments(AIArtHandle handle, ai::int16 first, ai::int16 count,
-                      const AIPathSegment* segments) {
+void setPathSegments(AIArtHandle handle, ai::int16 first, ai::int16 count,
+                     const AIPathSegment* segments) {
     Art& path = editablePath(handle);
     const auto fresh = given(segments, count);
-    if (first < 0 || static_cast<std::size_t>(first) > countOf(path)) return kBadParameterErr;
+    if (first < 0 || static_cast<std::size_t>(first) > countOf(path))
+        throw ai::Error{kBadParameterErr};
     const auto start = static_cast<std::size_t>(first);
     const std::size_t end = start + fresh.size();
     checkLength(end);
@@ -100,49 +98,38 @@ AIErr setPathSegments(AIArtHandle handle, ai::int16 first, ai::int16 count,
         std::ranges::copy(fresh, all.begin() + first);
     }
     settleSelection(content);
-    return kNoErr;
 }
 
 // Flags.
 
-AIErr getPathClosed(AIArtHandle path, AIBoolean* closed) {
-    required(closed) = pathOf(path).content().closed ? 1 : 0;
-    return kNoErr;
-}
+bool getPathClosed(AIArtHandle path) { return pathOf(path).content().closed; }
 
-AIErr setPathClosed(AIArtHandle handle, AIBoolean closed) {
+void setPathClosed(AIArtHandle handle, AIBoolean closed) {
     Art& path = editablePath(handle);
     if (path.content().closed != (closed != 0)) path.write().closed = closed != 0;
-    return kNoErr;
 }
 
-AIErr getPathGuide(AIArtHandle path, AIBoolean* guide) {
-    required(guide) = pathOf(path).content().guide ? 1 : 0;
-    return kNoErr;
-}
+bool getPathGuide(AIArtHandle path) { return pathOf(path).content().guide; }
 
-AIErr setPathGuide(AIArtHandle handle, AIBoolean guide) {
+void setPathGuide(AIArtHandle handle, AIBoolean guide) {
     Art& path = editablePath(handle);
     if (path.content().guide != (guide != 0)) path.write().guide = guide != 0;
-    return kNoErr;
 }
 
 // Selection.
 
-AIErr getPathSegmentSelected(AIArtHandle handle, ai::int16 index, ai::int16* selection) {
+ai::int16 getPathSegmentSelected(AIArtHandle handle, ai::int16 index) {
     const Art& path = pathOf(handle);
-    required(selection) = segmentSelection(path, anchorIndex(path, index));
-    return kNoErr;
+    return segmentSelection(path, anchorIndex(path, index));
 }
 
-AIErr setPathSegmentSelected(AIArtHandle handle, ai::int16 index, ai::int16 selection) {
+void setPathSegmentSelected(AIArtHandle handle, ai::int16 index, ai::int16 selection) {
     Art& path = pathOf(handle);
     const std::size_t anchor = anchorIndex(path, index);
     if (selection < kSegmentNotSelected || selection > kSegmentInAndOutSelected)
-        return kBadParameterErr;
+        throw ai::Error{kBadParameterErr};
     if (selection == kSegmentNotSelected || maySelect(path))
         setSegmentSelection(path, anchor, selection);
-    return kNoErr;
 }
 
 } // namespace

@@ -14,16 +14,10 @@ Art& pluginGroupOf(AIArtHandle handle) {
     return art;
 }
 
-AIErr getPluginArtEditArt(AIArtHandle art, AIArtHandle* group) {
-    required(group) = nullptr;
-    *group = editArt(pluginGroupOf(art))->handle();
-    return kNoErr;
-}
+AIArtHandle getPluginArtEditArt(AIArtHandle art) { return editArt(pluginGroupOf(art))->handle(); }
 
-AIErr getPluginArtResultArt(AIArtHandle art, AIArtHandle* group) {
-    required(group) = nullptr;
-    *group = resultArt(pluginGroupOf(art))->handle();
-    return kNoErr;
+AIArtHandle getPluginArtResultArt(AIArtHandle art) {
+    return resultArt(pluginGroupOf(art))->handle();
 }
 
 } // namespace

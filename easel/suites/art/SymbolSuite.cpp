@@ -18,9 +18,8 @@ Art& instanceOf(AIArtHandle handle) {
     return art;
 }
 
-AIErr getSymbolOfArt(AIArtHandle instance, AIPatternHandle* symbol) {
-    required(symbol) = handleOf(instanceOf(instance).details().symbol);
-    return kNoErr;
+AIPatternHandle getSymbolOfArt(AIArtHandle instance) {
+    return handleOf(instanceOf(instance).details().symbol);
 }
 
 } // namespace

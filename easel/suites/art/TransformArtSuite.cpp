@@ -18,14 +18,13 @@ bool isFinite(const AIRealMatrix& m) {
                                [](AIReal number) { return std::isfinite(number); });
 }
 
-AIErr transform(AIArtHandle handle, AIRealMatrix* matrix, AIReal lineScale, ai::int32 flags) {
+void transform(AIArtHandle handle, AIRealMatrix* matrix, AIReal lineScale, ai::int32 flags) {
     Art& art = session().artOf(handle);
-    if (!isFinite(required(matrix)) || !std::isfinite(lineScale)) return kBadParameterErr;
+    if (!isFinite(required(matrix)) || !std::isfinite(lineScale)) throw ai::Error{kBadParameterErr};
     checkEditable(art);
     if (!session().switches.transformReachesMembers) flags &= ~kTransformChildren;
     if ((flags & kTransformChildren) != 0) checkContents(art);
     transformArt(art, *matrix, lineScale, flags);
-    return kNoErr;
 }
 
 } // namespace

@@ -11,27 +11,21 @@ namespace {
 
 UndoLog& log() { return session().document().undo(); }
 
-AIErr setUndoText(const ai::UnicodeString& undo, const ai::UnicodeString& redo) {
+void setUndoText(const ai::UnicodeString& undo, const ai::UnicodeString& redo) {
     log().setTexts(readUtf8(session().ledger, undo), readUtf8(session().ledger, redo));
-    return kNoErr;
 }
 
-AIErr undoChanges() {
-    log().revert();
-    return kNoErr;
-}
+void undoChanges() { log().revert(); }
 
-AIErr setKind(ai::int32 kind) {
-    if (kind < kStandardUndoContext || kind > kAppendUndoContext) return kBadParameterErr;
+void setKind(ai::int32 kind) {
+    if (kind < kStandardUndoContext || kind > kAppendUndoContext) throw ai::Error{kBadParameterErr};
     // Asked for in a nested context it has no effect, which is no error.
     if (!session().contextIsNested) log().setKind(static_cast<AIUndoContextKind>(kind));
-    return kNoErr;
 }
 
-AIErr countTransactions(ai::int32* past, ai::int32* future) {
+void countTransactions(ai::int32* past, ai::int32* future) {
     if (past != nullptr) *past = log().pastSteps();
     if (future != nullptr) *future = log().futureSteps();
-    return kNoErr;
 }
 
 } // namespace

@@ -20,9 +20,8 @@ constexpr ai::uint32 kSmoothOption = 1;
 template <AIReal DrawStyle::*Member> void setReal(AIAnnotatorDrawer* drawer, AIReal value) {
     required(drawer).style.*Member = value;
 }
-AIErr setOpacity(AIAnnotatorDrawer* drawer, AIReal opacity) {
+void setOpacity(AIAnnotatorDrawer* drawer, AIReal opacity) {
     required(drawer).style.opacity = std::clamp(opacity, AIReal{0}, AIReal{1});
-    return kNoErr;
 }
 
 void setColour(AIAnnotatorDrawer* drawer, const AIRGBColor& colour) {
@@ -33,65 +32,60 @@ void setDashed(AIAnnotatorDrawer* drawer, AIBoolean dashed) {
     required(drawer).style.dashed = dashed != 0;
 }
 
-AIErr add(AIAnnotatorDrawer* drawer, DrawCommand command) {
+void add(AIAnnotatorDrawer* drawer, DrawCommand command) {
     required(drawer).add(std::move(command));
-    return kNoErr;
 }
 
 std::vector<AIPoint> cornersOf(const AIRect& rect) {
     return {{rect.left, rect.top}, {rect.right, rect.bottom}};
 }
 
-AIErr drawLine(AIAnnotatorDrawer* drawer, const AIPoint& start, const AIPoint& end) {
-    return add(drawer, {.kind = Kind::Line, .style = {}, .points = {start, end}});
+void drawLine(AIAnnotatorDrawer* drawer, const AIPoint& start, const AIPoint& end) {
+    add(drawer, {.kind = Kind::Line, .style = {}, .points = {start, end}});
 }
 
-AIErr drawRect(AIAnnotatorDrawer* drawer, const AIRect& rect, AIBoolean fill) {
-    return add(drawer,
-               {.kind = Kind::Rect, .style = {}, .points = cornersOf(rect), .fill = fill != 0});
+void drawRect(AIAnnotatorDrawer* drawer, const AIRect& rect, AIBoolean fill) {
+    add(drawer, {.kind = Kind::Rect, .style = {}, .points = cornersOf(rect), .fill = fill != 0});
 }
 
-AIErr drawPolygon(AIAnnotatorDrawer* drawer, const AIPoint* points, ai::uint32 count,
-                  AIBoolean fill) {
-    return add(drawer, {.kind = Kind::Polygon,
-                        .style = {},
-                        .points = {&required(points), points + count},
-                        .fill = fill != 0});
+void drawPolygon(AIAnnotatorDrawer* drawer, const AIPoint* points, ai::uint32 count,
+                 AIBoolean fill) {
+    add(drawer, {.kind = Kind::Polygon,
+                 .style = {},
+                 .points = {&required(points), points + count},
+                 .fill = fill != 0});
 }
 
-AIErr drawEllipse(AIAnnotatorDrawer* drawer, const AIRect& rect, AIBoolean fill) {
-    return add(drawer,
-               {.kind = Kind::Ellipse, .style = {}, .points = cornersOf(rect), .fill = fill != 0});
+void drawEllipse(AIAnnotatorDrawer* drawer, const AIRect& rect, AIBoolean fill) {
+    add(drawer, {.kind = Kind::Ellipse, .style = {}, .points = cornersOf(rect), .fill = fill != 0});
 }
 
-AIErr drawBezier(AIAnnotatorDrawer* drawer, const AIPoint& start, const AIPoint (*sets)[3],
-                 ai::uint32 count, AIBoolean fill) {
+void drawBezier(AIAnnotatorDrawer* drawer, const AIPoint& start, const AIPoint (*sets)[3],
+                ai::uint32 count, AIBoolean fill) {
     std::vector<AIPoint> points{start};
     points.reserve(1 + 3 * std::size_t{count});
     const AIPoint* const first = &required(sets)[0];
     points.insert(points.end(), first, first + 3 * std::ptrdiff_t{count});
-    return add(drawer,
-               {.kind = Kind::Bezier, .style = {}, .points = std::move(points), .fill = fill != 0});
+    add(drawer,
+        {.kind = Kind::Bezier, .style = {}, .points = std::move(points), .fill = fill != 0});
 }
 
-AIErr setDashes(AIAnnotatorDrawer* drawer, AIFloat* dashes, ai::int32 count) {
+void setDashes(AIAnnotatorDrawer* drawer, AIFloat* dashes, ai::int32 count) {
     if (count < 1) throw ai::Error{kBadParameterErr};
     if (count > kMostDashes) throw ai::Error{kDashTooBig};
     required(drawer).style.dashes.assign(&required(dashes), dashes + count);
     drawer->style.dashed = true;
-    return kNoErr;
 }
 
-AIErr drawText(AIAnnotatorDrawer* drawer, const ai::UnicodeString& text,
-               const AIPoint& bottomLeft) {
-    return add(drawer, {.kind = Kind::Text,
-                        .style = {},
-                        .points = {bottomLeft},
-                        .text = readString(session().ledger, text)});
+void drawText(AIAnnotatorDrawer* drawer, const ai::UnicodeString& text, const AIPoint& bottomLeft) {
+    add(drawer, {.kind = Kind::Text,
+                 .style = {},
+                 .points = {bottomLeft},
+                 .text = readString(session().ledger, text)});
 }
 
-AIErr getTextBounds(AIAnnotatorDrawer* drawer, const ai::UnicodeString& text, AIPoint* location,
-                    AIBoolean /*useFallback*/, AIRect& bounds) {
+void getTextBounds(AIAnnotatorDrawer* drawer, const ai::UnicodeString& text, AIPoint* location,
+                   AIBoolean /*useFallback*/, AIRect& bounds) {
     const DrawStyle& style = required(drawer).style;
     const std::u32string letters = readString(session().ledger, text);
     const auto& measured = host().annotators.textWidth;
@@ -102,16 +96,14 @@ AIErr getTextBounds(AIAnnotatorDrawer* drawer, const ai::UnicodeString& text, AI
         size = {location->h, location->v - size.bottom, location->h + size.right, location->v};
     }
     bounds = size;
-    return kNoErr;
 }
 
 template <Kind Which> void addMark(AIAnnotatorDrawer* drawer) {
-    static_cast<void>(add(drawer, {.kind = Which, .style = {}}));
+    add(drawer, {.kind = Which, .style = {}});
 }
 
-AIErr setPortOptions(AIAnnotatorDrawer* drawer, ai::uint32 mask, ai::uint32 options) {
+void setPortOptions(AIAnnotatorDrawer* drawer, ai::uint32 mask, ai::uint32 options) {
     if ((mask & kSmoothOption) != 0) required(drawer).style.smooth = (options & kSmoothOption) != 0;
-    return kNoErr;
 }
 
 } // namespace

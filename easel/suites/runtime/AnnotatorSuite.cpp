@@ -7,33 +7,28 @@
 namespace easel {
 namespace {
 
-AIErr addAnnotator(SPPluginRef plugin, const char* name, AIAnnotatorHandle* annotator) {
+AIAnnotatorHandle addAnnotator(SPPluginRef plugin, const char* name) {
     static_cast<void>(host().plugins.at(plugin));
-    const AIAnnotatorHandle added =
-        host().annotators.annotators.add({.plugin = plugin, .name = &required(name)});
-    if (annotator != nullptr) *annotator = added;
-    return kNoErr;
+    return host().annotators.annotators.add({.plugin = plugin, .name = &required(name)});
 }
 
-AIErr invalidate(AIDocumentViewHandle handle, const AIRect* rect) {
+void invalidate(AIDocumentViewHandle handle, const AIRect* rect) {
     const DocumentView& view = host().view(handle);
     AIRect area = rect == nullptr ? AIRect{0, 0, view.width, view.height} : *rect;
     // Plug-ins disagree on which way is up; both mean the same pixels.
     if (area.top > area.bottom) std::swap(area.top, area.bottom);
     host().annotators.invalid.push_back(area);
-    return kNoErr;
 }
 
-AIErr setOptions(AIAnnotatorHandle annotator, AIAnnotatorOptionsFlags options) {
+void setOptions(AIAnnotatorHandle annotator, AIAnnotatorOptionsFlags options) {
     host().annotators.annotators.at(annotator).options = options;
-    return kNoErr;
 }
 
 } // namespace
 
 void installAnnotatorSuite(SuiteServer& server) {
     auto table = server.table<AIAnnotatorSuite>(kAIAnnotatorSuite, kAIAnnotatorSuiteVersion);
-    expose<&AIAnnotatorSuite::AddAnnotator, addAnnotator>(table);
+    expose<&AIAnnotatorSuite::AddAnnotator, addAnnotator, OutputMayBeNull>(table);
     expose<&AIAnnotatorSuite::InvalAnnotationRect, invalidate>(table);
     expose<&AIAnnotatorSuite::SetAnnotatorOptions, setOptions>(table);
 }

@@ -7,22 +7,18 @@
 namespace easel {
 namespace {
 
-AIErr getPlatformAppWindow(AIWindowRef* window) {
-    required(window) = host().user.appWindow;
-    return kNoErr;
-}
+AIWindowRef getPlatformAppWindow() { return host().user.appWindow; }
 
-AIErr pushAppContext(SPPluginRef plugin, AIAppContextHandle* context) {
-    AIAppContextHandle& result = required(context);
+AIAppContextHandle pushAppContext(SPPluginRef plugin) {
     static_cast<void>(host().plugins.at(plugin));
-    result = host().contexts.push(plugin, kStandardUndoContext,
-                                  session().switches.ownContextsNest ? Contexts::Nested::Yes
-                                                                     : Contexts::Nested::No);
-    session().ledger.lend(Lent::AppContext, result);
-    return kNoErr;
+    const AIAppContextHandle context = host().contexts.push(
+        plugin, kStandardUndoContext,
+        session().switches.ownContextsNest ? Contexts::Nested::Yes : Contexts::Nested::No);
+    session().ledger.lend(Lent::AppContext, context);
+    return context;
 }
 
-AIErr popAppContext(AIAppContextHandle context) {
+void popAppContext(AIAppContextHandle context) {
     session().ledger.require(Lent::AppContext, context);
     if (host().contexts.top() != context)
         session().ledger.report("a context is popped that is not the innermost one");
@@ -30,14 +26,12 @@ AIErr popAppContext(AIAppContextHandle context) {
     session().ledger.takeBack(Lent::AppContext, context);
     // A context outside any message is what its plug-in did on its own, in a window or a timer.
     if (host().contexts.depth() == 0) host().collectChanges();
-    return kNoErr;
 }
 
-AIErr allowAllChanges(AIBoolean allow, AIBoolean* previous) {
+bool allowAllChanges(AIBoolean allow) {
     const bool before = host().contexts.allowAllChanges();
-    if (previous != nullptr) *previous = before ? 1 : 0;
     host().contexts.setAllowAllChanges(allow != 0);
-    return kNoErr;
+    return before;
 }
 
 } // namespace
@@ -47,7 +41,7 @@ void installContextSuite(SuiteServer& server) {
     expose<&AIAppContextSuite::GetPlatformAppWindow, getPlatformAppWindow>(table);
     expose<&AIAppContextSuite::PushAppContext, pushAppContext>(table);
     exposeEnding<&AIAppContextSuite::PopAppContext, popAppContext>(table);
-    expose<&AIAppContextSuite::AllowAllChanges, allowAllChanges>(table);
+    expose<&AIAppContextSuite::AllowAllChanges, allowAllChanges, OutputMayBeNull>(table);
 }
 
 } // namespace easel

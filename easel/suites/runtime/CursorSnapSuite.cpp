@@ -11,9 +11,9 @@ namespace {
 
 CursorSnap& snapping() { return host().cursorSnap; }
 
-AIBoolean useSmartGuides(AIDocumentViewHandle view) {
+bool useSmartGuides(AIDocumentViewHandle view) {
     static_cast<void>(host().view(view));
-    return snapping().enabled ? 1 : 0;
+    return snapping().enabled;
 }
 
 /// Where hosts take the point by value, its two floats stand in the register that otherwise holds
@@ -23,13 +23,12 @@ AIRealPoint pointOf(const AIRealPoint& argument) {
     return std::bit_cast<AIRealPoint>(reinterpret_cast<std::uintptr_t>(&argument));
 }
 
-AIErr track(AIDocumentViewHandle view, const AIRealPoint& argument, const AIEvent* /*event*/,
-            const char* control, AIRealPoint* result) {
+AIRealPoint track(AIDocumentViewHandle view, const AIRealPoint& argument, const AIEvent* /*event*/,
+                  const char* control) {
     const AIRealPoint point = pointOf(argument);
     const char& letters = required(control);
     snapping().calls.push_back({point, &letters});
-    required(result) = snapping().enabled ? snapTo(host().view(view), point, &letters) : point;
-    return kNoErr;
+    return snapping().enabled ? snapTo(host().view(view), point, &letters) : point;
 }
 
 } // namespace

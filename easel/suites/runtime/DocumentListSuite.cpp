@@ -8,10 +8,7 @@ namespace easel {
 namespace {
 
 /// Every document has one window, so that counting windows counts documents.
-AIErr count(ai::int32* number) {
-    required(number) = static_cast<ai::int32>(host().documents().size());
-    return kNoErr;
-}
+ai::int32 count() { return static_cast<ai::int32>(host().documents().size()); }
 
 } // namespace
 

@@ -9,35 +9,24 @@
 namespace easel {
 namespace {
 
-AIErr getRulerUnits(ai::int16* units) {
-    required(units) = session().document().rulerUnits;
-    return kNoErr;
-}
+ai::int16 getRulerUnits() { return session().document().rulerUnits; }
 
 /// The painting comes later, when the message has been answered.
-AIErr redraw() {
+void redraw() {
     static_cast<void>(session().document());
     host().redrawLater();
-    return kNoErr;
 }
 
-AIErr getDocument(AIDocumentHandle* document) {
-    required(document) = session().document().handle();
-    return kNoErr;
-}
+AIDocumentHandle getDocument() { return session().document().handle(); }
 
-AIErr getMaxArtboardBounds(AIRealRect* bounds) {
-    required(bounds) = session().document().canvas();
-    return kNoErr;
-}
+AIRealRect getMaxArtboardBounds() { return session().document().canvas(); }
 
-AIErr documentExists(AIDocumentHandle handle, AIBoolean* exists) {
+bool documentExists(AIDocumentHandle handle) {
     const auto& open = host().documents();
     const bool found = std::any_of(open.begin(), open.end(), [&](const auto& document) {
         return document->handle() == handle;
     });
-    required(exists) = found ? 1 : 0;
-    return kNoErr;
+    return found;
 }
 
 } // namespace

@@ -13,32 +13,23 @@ using ViewRef = AIDocumentViewHandle;
 
 DocumentView& at(ViewRef view) { return host().view(view); }
 
-AIErr getBounds(ViewRef view, AIRealRect* bounds) {
-    required(bounds) = visibleArtwork(at(view));
-    return kNoErr;
+AIRealRect getBounds(ViewRef view) { return visibleArtwork(at(view)); }
+
+AIReal getZoom(ViewRef view) { return at(view).zoom; }
+
+AIPoint artworkToView(ViewRef view, const AIRealPoint* artwork) {
+    return toViewPixel(at(view), required(artwork));
 }
 
-AIErr getZoom(ViewRef view, AIReal* zoom) {
-    required(zoom) = at(view).zoom;
-    return kNoErr;
-}
-
-AIErr artworkToView(ViewRef view, const AIRealPoint* artwork, AIPoint* pixel) {
-    required(pixel) = toViewPixel(at(view), required(artwork));
-    return kNoErr;
-}
-
-AIErr exactArtworkToView(ViewRef view, const AIRealPoint* artwork, AIRealPoint* pixels) {
-    required(pixels) = toView(at(view), required(artwork));
-    return kNoErr;
+AIRealPoint exactArtworkToView(ViewRef view, const AIRealPoint* artwork) {
+    return toView(at(view), required(artwork));
 }
 
 /// 0 is the current view, and so is 1: every document has one.
-AIErr nth(ai::int32 number, ViewRef* view) {
+ViewRef nth(ai::int32 number) {
     static_cast<void>(session().document());
     if (number < 0 || number > 1) throw ai::Error{kBadParameterErr};
-    required(view) = host().currentView();
-    return kNoErr;
+    return host().currentView();
 }
 
 } // namespace

@@ -21,21 +21,16 @@ Path pathOf(const ai::UnicodeString& text) {
     return {utf16FromUtf32(readString(session().ledger, text))};
 }
 
-AIErr newPath(ai::FilePath& path) {
+void newPath(ai::FilePath& path) {
     // What a new object holds so far is of no account: it may never have been set to anything.
     reinterpret_cast<void*&>(path) = nullptr;
     writePath(session().ledger, path, {});
-    return kNoErr;
 }
 
-AIErr deleteFilePath(ai::FilePath& path) {
-    deletePath(session().ledger, path);
-    return kNoErr;
-}
+void deleteFilePath(ai::FilePath& path) { deletePath(session().ledger, path); }
 
-AIErr copy(const ai::FilePath& source, ai::FilePath& destination) {
+void copy(const ai::FilePath& source, ai::FilePath& destination) {
     writePath(session().ledger, destination, readPath(session().ledger, source));
-    return kNoErr;
 }
 
 Path resolved(const Path& path, bool resolveLinks) {
@@ -45,10 +40,9 @@ Path resolved(const Path& path, bool resolveLinks) {
 }
 
 /// An empty addend leaves a delimiter at the end.
-AIErr addComponent(const ai::UnicodeString& addend, ai::FilePath& path) {
+void addComponent(const ai::UnicodeString& addend, ai::FilePath& path) {
     writePath(session().ledger, path,
               (readPath(session().ledger, path) / pathOf(addend)).make_preferred());
-    return kNoErr;
 }
 
 AIBool8 exists(const ai::FilePath& object, AIBool8 resolveLinks, ai::UnicodeString* longPath,
@@ -62,22 +56,19 @@ AIBool8 exists(const ai::FilePath& object, AIBool8 resolveLinks, ai::UnicodeStri
     return 1;
 }
 
-AIErr set(const ai::UnicodeString& text, AIBool8 /*expandName*/, ai::FilePath& path) {
+void set(const ai::UnicodeString& text, AIBool8 /*expandName*/, ai::FilePath& path) {
     writePath(session().ledger, path, pathOf(text).make_preferred());
-    return kNoErr;
 }
 
-AIErr getFullPath(const ai::FilePath& path, AIBool8 /*displayName*/, ai::UnicodeString& text) {
+void getFullPath(const ai::FilePath& path, AIBool8 /*displayName*/, ai::UnicodeString& text) {
     writeString(session().ledger, text, textOf(readPath(session().ledger, path)));
-    return kNoErr;
 }
 
 /// Of a volume: empty.
-AIErr getParent(const ai::FilePath& path, ai::FilePath& parent) {
+void getParent(const ai::FilePath& path, ai::FilePath& parent) {
     const Path child = readPath(session().ledger, path);
     const Path above = child.parent_path();
     writePath(session().ledger, parent, above == child ? Path{} : above);
-    return kNoErr;
 }
 
 } // namespace

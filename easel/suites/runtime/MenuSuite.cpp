@@ -11,8 +11,8 @@ namespace {
 Menus& menus() { return host().menus; }
 MenuItem& at(AIMenuItemHandle item) { return menus().items.at(item); }
 
-AIErr addMenuItem(SPPluginRef plugin, const char* key, AIPlatformAddMenuItemDataUS* data,
-                  AIMenuItemOption options, AIMenuItemHandle* item) {
+AIMenuItemHandle addMenuItem(SPPluginRef plugin, const char* key, AIPlatformAddMenuItemDataUS* data,
+                             AIMenuItemOption options) {
     static_cast<void>(host().plugins.at(plugin));
     const AIMenuGroup group = menus().groupNamed(&required(required(data).groupName));
     static_cast<void>(menus().groups.at(group)); // an unknown group is refused
@@ -22,78 +22,48 @@ AIErr addMenuItem(SPPluginRef plugin, const char* key, AIPlatformAddMenuItemData
     added.text = readString(session().ledger, data->itemText);
     added.group = group;
     added.options = options;
-    const AIMenuItemHandle handle = menus().items.add(std::move(added));
-    if (item != nullptr) *item = handle;
-    return kNoErr;
+    return menus().items.add(std::move(added));
 }
 
-AIErr getKey(AIMenuItemHandle item, const char** key) {
+const char* getKey(AIMenuItemHandle item) {
     const auto& name = at(item).key;
-    required(key) = name ? name->c_str() : nullptr;
-    return kNoErr;
+    return name ? name->c_str() : nullptr;
 }
 
-AIErr countItems(ai::int32* count) {
-    required(count) = menus().items.count();
-    return kNoErr;
-}
+ai::int32 countItems() { return menus().items.count(); }
 
-AIErr nthItem(ai::int32 index, AIMenuItemHandle* item) {
-    required(item) = menus().items.nth(index);
-    return kNoErr;
-}
+AIMenuItemHandle nthItem(ai::int32 index) { return menus().items.nth(index); }
 
-AIErr enableItem(AIMenuItemHandle item) {
-    at(item).enabled = true;
-    return kNoErr;
-}
+void enableItem(AIMenuItemHandle item) { at(item).enabled = true; }
 
-AIErr disableItem(AIMenuItemHandle item) {
+void disableItem(AIMenuItemHandle item) {
     MenuItem& disabled = at(item);
     if ((disabled.options & kItemAlwaysEnabled) == 0) disabled.enabled = false;
-    return kNoErr;
 }
 
-AIErr setText(AIMenuItemHandle item, const ai::UnicodeString& text) {
+void setText(AIMenuItemHandle item, const ai::UnicodeString& text) {
     at(item).text = readString(session().ledger, text);
-    return kNoErr;
 }
 
-AIErr checkItem(AIMenuItemHandle item, AIBoolean check) {
-    at(item).checked = check != 0;
-    return kNoErr;
-}
+void checkItem(AIMenuItemHandle item, AIBoolean check) { at(item).checked = check != 0; }
 
-AIErr addSubMenu(const char* name, AIMenuGroupOption options, AIMenuItemHandle opener,
-                 AIMenuGroup* group) {
+AIMenuGroup addSubMenu(const char* name, AIMenuGroupOption options, AIMenuItemHandle opener) {
     static_cast<void>(at(opener));
     if (menus().groupNamed(&required(name)) != nullptr) throw ai::Error{kBadParameterErr};
-    const AIMenuGroup added =
-        menus().groups.add({.name = name, .options = options, .opener = opener});
-    if (group != nullptr) *group = added;
-    return kNoErr;
+    return menus().groups.add({.name = name, .options = options, .opener = opener});
 }
 
-AIErr getGroupName(AIMenuGroup group, const char** name) {
-    required(name) = menus().groups.at(group).name.c_str();
-    return kNoErr;
-}
+const char* getGroupName(AIMenuGroup group) { return menus().groups.at(group).name.c_str(); }
 
-AIErr countGroups(ai::int32* count) {
-    required(count) = menus().groups.count();
-    return kNoErr;
-}
+ai::int32 countGroups() { return menus().groups.count(); }
 
-AIErr nthGroup(ai::int32 index, AIMenuGroup* group) {
-    required(group) = menus().groups.nth(index);
-    return kNoErr;
-}
+AIMenuGroup nthGroup(ai::int32 index) { return menus().groups.nth(index); }
 
 } // namespace
 
 void installMenuSuite(SuiteServer& server) {
     auto table = server.table<AIMenuSuite>(kAIMenuSuite, kAIMenuSuiteVersion);
-    expose<&AIMenuSuite::AddMenuItem, addMenuItem>(table);
+    expose<&AIMenuSuite::AddMenuItem, addMenuItem, OutputMayBeNull>(table);
     expose<&AIMenuSuite::GetMenuItemKeyboardShortcutDictionaryKey, getKey>(table);
     expose<&AIMenuSuite::CountMenuItems, countItems>(table);
     expose<&AIMenuSuite::GetNthMenuItem, nthItem>(table);
@@ -101,7 +71,7 @@ void installMenuSuite(SuiteServer& server) {
     expose<&AIMenuSuite::DisableItem, disableItem>(table);
     expose<&AIMenuSuite::SetItemText, setText>(table);
     expose<&AIMenuSuite::CheckItem, checkItem>(table);
-    expose<&AIMenuSuite::AddMenuGroupAsSubMenu, addSubMenu>(table);
+    expose<&AIMenuSuite::AddMenuGroupAsSubMenu, addSubMenu, OutputMayBeNull>(table);
     expose<&AIMenuSuite::GetMenuGroupName, getGroupName>(table);
     expose<&AIMenuSuite::CountMenuGroups, countGroups>(table);
     expose<&AIMenuSuite::GetNthMenuGroup, nthGroup>(table);

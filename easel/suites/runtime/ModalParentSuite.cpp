@@ -8,15 +8,11 @@ namespace {
 
 /// Easel's alerts are recorded, not shown, so that it matters to none of them who owns it; but a
 /// plug-in that sets an owner and leaves it there is at fault.
-AIErr setParent(const AIWindowRef& window) {
-    host().user.modalParents.push_back(window);
-    return kNoErr;
-}
+void setParent(const AIWindowRef& window) { host().user.modalParents.push_back(window); }
 
-AIErr removeParent() {
+void removeParent() {
     if (host().user.modalParents.empty()) throw ai::Error{kBadParameterErr};
     host().user.modalParents.pop_back();
-    return kNoErr;
 }
 
 } // namespace

@@ -7,24 +7,18 @@
 namespace easel {
 namespace {
 
-AIErr addNotifier(SPPluginRef plugin, const char* name, const char* type,
-                  AINotifierHandle* notifier) {
+AINotifierHandle addNotifier(SPPluginRef plugin, const char* name, const char* type) {
     static_cast<void>(host().plugins.at(plugin));
-    const AINotifierHandle added = host().notifiers.add({plugin, &required(name), &required(type)});
-    if (notifier != nullptr) *notifier = added;
-    return kNoErr;
+    return host().notifiers.add({plugin, &required(name), &required(type)});
 }
 
-AIErr notify(const char* type, void* data) {
-    host().notify(&required(type), data);
-    return kNoErr;
-}
+void notify(const char* type, void* data) { host().notify(&required(type), data); }
 
 } // namespace
 
 void installNotifierSuite(SuiteServer& server) {
     auto table = server.table<AINotifierSuite>(kAINotifierSuite, kAINotifierSuiteVersion);
-    expose<&AINotifierSuite::AddNotifier, addNotifier>(table);
+    expose<&AINotifierSuite::AddNotifier, addNotifier, OutputMayBeNull>(table);
     expose<&AINotifierSuite::Notify, notify>(table);
 }
 

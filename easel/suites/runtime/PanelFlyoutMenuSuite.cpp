@@ -31,42 +31,31 @@ void append(MenuRef menu, FlyoutItem item) {
     at(menu).items.push_back(std::move(item));
 }
 
-AIErr create(MenuRef& menu) {
-    menu = host().panels.addMenu(host().sender.receiver());
-    return kNoErr;
-}
+MenuRef create() { return host().panels.addMenu(host().sender.receiver()); }
 
-AIErr destroy(MenuRef menu) {
-    host().panels.removeMenu(menu);
-    return kNoErr;
-}
+void destroy(MenuRef menu) { host().panels.removeMenu(menu); }
 
-AIErr appendItem(MenuRef menu, ai::uint32 id, const ai::UnicodeString& text) {
+void appendItem(MenuRef menu, ai::uint32 id, const ai::UnicodeString& text) {
     append(menu, {.id = id, .text = readString(session().ledger, text)});
-    return kNoErr;
 }
 
-AIErr appendSeparator(MenuRef menu, ai::uint32 id) {
+void appendSeparator(MenuRef menu, ai::uint32 id) {
     append(menu, {.id = id, .text = {}, .isSeparator = true});
-    return kNoErr;
 }
 
-AIErr removeItem(MenuRef menu, ai::uint32 index) {
+void removeItem(MenuRef menu, ai::uint32 index) {
     static_cast<void>(itemAt(menu, index));
     auto& items = at(menu).items;
     items.erase(items.begin() + static_cast<std::ptrdiff_t>(index));
-    return kNoErr;
 }
 
 template <typename Value, Value FlyoutItem::*Member>
-AIErr set(MenuRef menu, ai::uint32 index, Value value) {
+void set(MenuRef menu, ai::uint32 index, Value value) {
     itemAt(menu, index).*Member = value;
-    return kNoErr;
 }
 
-AIErr setText(MenuRef menu, ai::uint32 index, const ai::UnicodeString& text) {
+void setText(MenuRef menu, ai::uint32 index, const ai::UnicodeString& text) {
     itemAt(menu, index).text = readString(session().ledger, text);
-    return kNoErr;
 }
 
 } // namespace

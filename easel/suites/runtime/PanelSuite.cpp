@@ -9,10 +9,10 @@ namespace {
 
 Panel& at(AIPanelRef panel) { return host().panels.at(panel); }
 
-AIErr create(SPPluginRef plugin, const ai::UnicodeString& id, const ai::UnicodeString& title,
-             ai::int16 stateCount, const AISize& size, AIBoolean resizable,
-             AIPanelFlyoutMenuRef flyout, AIPanelUserData /*data*/, AIPanelRef& panel) {
-    if (resizable != 0) return kNotImplementedErr; // the user gives no panel another size
+AIPanelRef create(SPPluginRef plugin, const ai::UnicodeString& id, const ai::UnicodeString& title,
+                  ai::int16 stateCount, const AISize& size, AIBoolean resizable,
+                  AIPanelFlyoutMenuRef flyout, AIPanelUserData /*data*/) {
+    if (resizable != 0) throw ai::Error{kNotImplementedErr}; // the user gives no panel another size
     static_cast<void>(host().plugins.at(plugin));
     if (flyout != nullptr) static_cast<void>(host().panels.menu(flyout));
     Panel made;
@@ -22,72 +22,37 @@ AIErr create(SPPluginRef plugin, const ai::UnicodeString& id, const ai::UnicodeS
     made.stateCount = stateCount;
     made.size = size;
     made.flyout = flyout;
-    panel = host().panels.add(std::move(made));
-    return kNoErr;
+    return host().panels.add(std::move(made));
 }
 
-AIErr destroy(AIPanelRef panel) {
-    host().panels.remove(panel);
-    return kNoErr;
-}
+void destroy(AIPanelRef panel) { host().panels.remove(panel); }
 
-AIErr getPlatformWindow(AIPanelRef panel, AIPanelPlatformWindow& window) {
-    window = at(panel).window->client();
-    return kNoErr;
-}
+AIPanelPlatformWindow getPlatformWindow(AIPanelRef panel) { return at(panel).window->client(); }
 
-AIErr show(AIPanelRef panel, AIBoolean shown) {
-    host().panels.show(panel, shown != 0);
-    return kNoErr;
-}
+void show(AIPanelRef panel, AIBoolean shown) { host().panels.show(panel, shown != 0); }
 
-AIErr setTitle(AIPanelRef panel, const ai::UnicodeString& title) {
+void setTitle(AIPanelRef panel, const ai::UnicodeString& title) {
     at(panel).title = readString(session().ledger, title);
     at(panel).window->setTitle(at(panel).title);
-    return kNoErr;
 }
 
-template <typename Value, Value Panel::*Member> AIErr get(AIPanelRef panel, Value& value) {
-    value = at(panel).*Member;
-    return kNoErr;
-}
+template <auto Member> auto get(AIPanelRef panel) { return at(panel).*Member; }
 
-AIErr setSize(AIPanelRef panel, const AISize& size) {
-    host().panels.resize(panel, size);
-    return kNoErr;
-}
+void setSize(AIPanelRef panel, const AISize& size) { host().panels.resize(panel, size); }
 
-AIErr setCurrentState(AIPanelRef panel, ai::int16 state) {
-    host().panels.setState(panel, state);
-    return kNoErr;
-}
+void setCurrentState(AIPanelRef panel, ai::int16 state) { host().panels.setState(panel, state); }
 
-AIErr setFlyoutMenu(AIPanelRef panel, AIPanelFlyoutMenuRef menu) {
+void setFlyoutMenu(AIPanelRef panel, AIPanelFlyoutMenuRef menu) {
     host().panels.setFlyout(panel, menu);
-    return kNoErr;
 }
 
-template <typename Callback, Callback PanelCallbacks::*Member>
-AIErr setCallback(AIPanelRef panel, Callback callback) {
-    at(panel).callbacks.*Member = callback;
-    return kNoErr;
-}
+template <auto Member> struct Callback;
+template <typename Type, Type PanelCallbacks::*Member> struct Callback<Member> {
+    static void set(AIPanelRef panel, Type callback) { at(panel).callbacks.*Member = callback; }
+};
 
 using Suite = AIPanelSuite;
-
-void exposeCallbacks(SuiteTable<Suite>& table) {
-    using Callbacks = PanelCallbacks;
-    expose<&Suite::SetFlyoutMenuPreVisibilityProc,
-           setCallback<AIPanelFlyoutMenuPreVisibilityProc, &Callbacks::flyoutOpens>>(table);
-    expose<&Suite::SetFlyoutMenuProc, setCallback<AIPanelFlyoutMenuProc, &Callbacks::flyoutChosen>>(
-        table);
-    expose<&Suite::SetVisibilityChangedNotifyProc,
-           setCallback<AIPanelVisibilityChangedNotifyProc, &Callbacks::visibility>>(table);
-    expose<&Suite::SetSizeChangedNotifyProc,
-           setCallback<AIPanelSizeChangedNotifyProc, &Callbacks::size>>(table);
-    expose<&Suite::SetStateChangedNotifyProc,
-           setCallback<AIPanelStateChangedNotifyProc, &Callbacks::state>>(table);
-}
+using Callbacks = PanelCallbacks;
 
 } // namespace
 
@@ -97,14 +62,18 @@ void installPanelSuite(SuiteServer& server) {
     exposeEnding<&Suite::Destroy, destroy>(table);
     expose<&Suite::GetPlatformWindow, getPlatformWindow>(table);
     expose<&Suite::Show, show>(table);
-    expose<&Suite::IsShown, get<AIBoolean, &Panel::shown>>(table);
+    expose<&Suite::IsShown, get<&Panel::shown>>(table);
     expose<&Suite::SetTitle, setTitle>(table);
     expose<&Suite::SetCurrentState, setCurrentState>(table);
-    expose<&Suite::GetCurrentState, get<ai::int16, &Panel::state>>(table);
+    expose<&Suite::GetCurrentState, get<&Panel::state>>(table);
     expose<&Suite::SetFlyoutMenu, setFlyoutMenu>(table);
-    expose<&Suite::GetSize, get<AISize, &Panel::size>>(table);
+    expose<&Suite::GetSize, get<&Panel::size>>(table);
     expose<&Suite::SetSize, setSize>(table);
-    exposeCallbacks(table);
+    expose<&Suite::SetFlyoutMenuPreVisibilityProc, Callback<&Callbacks::flyoutOpens>::set>(table);
+    expose<&Suite::SetFlyoutMenuProc, Callback<&Callbacks::flyoutChosen>::set>(table);
+    expose<&Suite::SetVisibilityChangedNotifyProc, Callback<&Callbacks::visibility>::set>(table);
+    expose<&Suite::SetSizeChangedNotifyProc, Callback<&Callbacks::size>::set>(table);
+    expose<&Suite::SetStateChangedNotifyProc, Callback<&Callbacks::state>::set>(table);
 }
 
 } // namespace easel

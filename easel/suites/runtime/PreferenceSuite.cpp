@@ -26,10 +26,9 @@ const Preferences::Value* find(const Name& name) {
     return host().preferences.find(name.prefix, name.suffix);
 }
 
-AIErr put(const char* prefix, const char* suffix, Preferences::Value value) {
+void put(const char* prefix, const char* suffix, Preferences::Value value) {
     const Name name = nameOf(prefix, suffix);
     host().preferences.put(name.prefix, name.suffix, std::move(value));
-    return kNoErr;
 }
 
 /// The answer of a getter. What cannot be read leaves the output as the plug-in preset it; a value
@@ -60,8 +59,8 @@ template <typename Number> AIErr getNumber(const char* prefix, const char* suffi
     return answer(name);
 }
 
-template <typename Number> AIErr putNumber(const char* prefix, const char* suffix, Number value) {
-    return put(prefix, suffix, value);
+template <typename Number> void putNumber(const char* prefix, const char* suffix, Number value) {
+    put(prefix, suffix, value);
 }
 
 AIErr getBoolean(const char* prefix, const char* suffix, AIBoolean* value) {
@@ -72,8 +71,8 @@ AIErr getBoolean(const char* prefix, const char* suffix, AIBoolean* value) {
     return answer(name);
 }
 
-AIErr putBoolean(const char* prefix, const char* suffix, AIBoolean value) {
-    return put(prefix, suffix, value != 0);
+void putBoolean(const char* prefix, const char* suffix, AIBoolean value) {
+    put(prefix, suffix, value != 0);
 }
 
 /// The buffer has no length; the interface asks for 1024 bytes.
@@ -88,8 +87,8 @@ AIErr getString(const char* prefix, const char* suffix, char* value) {
     return answer(name);
 }
 
-AIErr putString(const char* prefix, const char* suffix, const char* value) {
-    return put(prefix, suffix, std::string(&required(value)));
+void putString(const char* prefix, const char* suffix, const char* value) {
+    put(prefix, suffix, std::string(&required(value)));
 }
 
 } // namespace

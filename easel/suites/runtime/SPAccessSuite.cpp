@@ -16,28 +16,24 @@ Plugin& accessed(SPAccessRef access) {
     return plugins.at(found);
 }
 
-SPErr acquirePlugin(SPPluginRef ref, SPAccessRef* access) {
-    SPAccessRef& result = required(access);
+SPAccessRef acquirePlugin(SPPluginRef ref) {
     host().plugins.load(host().sender, ref, kAccessAtRunTime);
     Plugin& plugin = host().plugins.at(ref);
     ++plugin.accessCount;
     session().ledger.lend(Lent::PluginAccess, plugin.access);
-    result = plugin.access;
-    return kNoErr;
+    return plugin.access;
 }
 
-SPErr releasePlugin(SPAccessRef access) {
+void releasePlugin(SPAccessRef access) {
     Plugin& plugin = accessed(access);
-    if (plugin.accessCount == 0) return kSPPluginAlreadyReleasedError;
+    if (plugin.accessCount == 0) throw ai::Error{kSPPluginAlreadyReleasedError};
     --plugin.accessCount;
     session().ledger.takeBack(Lent::PluginAccess, access);
-    return kNoErr;
 }
 
-SPErr getPluginResourceAccess(SPPluginRef ref, SPPlatformAccessRef* library) {
+SPPlatformAccessRef getPluginResourceAccess(SPPluginRef ref) {
     const Plugin& plugin = host().plugins.at(ref);
-    required(library) = plugin.library == nullptr ? nullptr : plugin.library->native();
-    return kNoErr;
+    return plugin.library == nullptr ? nullptr : plugin.library->native();
 }
 
 } // namespace

@@ -31,15 +31,9 @@ SPErr releaseSuite(const char* name, ai::int32 version) {
     return result;
 }
 
-SPErr allocate(std::size_t size, void** block) {
-    required(block) = allocateBlock(session().ledger, size);
-    return kNoErr;
-}
+void* allocate(std::size_t size) { return allocateBlock(session().ledger, size); }
 
-SPErr release(void* block) {
-    freeBlock(session().ledger, block);
-    return kNoErr;
-}
+void release(void* block) { freeBlock(session().ledger, block); }
 
 } // namespace
 

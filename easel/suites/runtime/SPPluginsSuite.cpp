@@ -8,10 +8,7 @@
 namespace easel {
 namespace {
 
-SPErr getName(SPPluginRef ref, const char** name) {
-    required(name) = host().plugins.at(ref).name.c_str();
-    return kNoErr;
-}
+const char* getName(SPPluginRef ref) { return host().plugins.at(ref).name.c_str(); }
 
 } // namespace
 

@@ -15,17 +15,16 @@ constexpr Theme kDark = {0.325F, 0.86F, 0.4F, 0.9F, 0.27F};
 
 constexpr ai::int32 kThemes = 2; ///< Dialogs and panels, alike here.
 
-AIErr getThemeColor(ai::int32 theme, ai::int32 component, AIUIThemeColor& color) {
+AIUIThemeColor getThemeColor(ai::int32 theme, ai::int32 component) {
     const Theme& greys = host().user.darkTheme ? kDark : kLight;
     const bool known = theme >= 0 && theme < kThemes && component >= 0 &&
                        component < static_cast<ai::int32>(greys.size());
     if (!known) throw ai::Error{kBadParameterErr};
     const AIReal grey = greys[static_cast<std::size_t>(component)];
-    color = {1, grey, grey, grey};
-    return kNoErr;
+    return {1, grey, grey, grey};
 }
 
-AIBoolean isThemeDark() { return host().user.darkTheme ? 1 : 0; }
+bool isThemeDark() { return host().user.darkTheme; }
 
 } // namespace
 

@@ -9,26 +9,22 @@ namespace {
 
 Timer& at(AITimerHandle timer) { return host().timers.at(timer); }
 
-AIErr addTimer(SPPluginRef plugin, const char* name, ai::int32 period, AITimerHandle* timer) {
+AITimerHandle addTimer(SPPluginRef plugin, const char* name, ai::int32 period) {
     static_cast<void>(host().plugins.at(plugin));
-    const AITimerHandle added =
-        host().timers.add({plugin, &required(name), period, host().clock.ticks() + period});
-    if (timer != nullptr) *timer = added;
-    return kNoErr;
+    return host().timers.add({plugin, &required(name), period, host().clock.ticks() + period});
 }
 
-AIErr setActive(AITimerHandle handle, AIBoolean active) {
+void setActive(AITimerHandle handle, AIBoolean active) {
     Timer& timer = at(handle);
     if (active != 0 && !timer.active) timer.next = host().clock.ticks() + timer.period;
     timer.active = active != 0;
-    return kNoErr;
 }
 
 } // namespace
 
 void installTimerSuite(SuiteServer& server) {
     auto table = server.table<AITimerSuite>(kAITimerSuite, kAITimerSuiteVersion);
-    expose<&AITimerSuite::AddTimer, addTimer>(table);
+    expose<&AITimerSuite::AddTimer, addTimer, OutputMayBeNull>(table);
     expose<&AITimerSuite::SetTimerActive, setActive>(table);
 }
 

@@ -22,8 +22,7 @@ Tool& at(AIToolHandle tool) { return box().tools.at(tool); }
 
 const char* textOf(const char* text) { return text == nullptr ? kNoText : text; }
 
-AIErr addTool(SPPluginRef plugin, const char* name, AIAddToolData* data, ai::int32 options,
-              AIToolHandle* tool) {
+AIToolHandle addTool(SPPluginRef plugin, const char* name, AIAddToolData* data, ai::int32 options) {
     static_cast<void>(host().plugins.at(plugin));
     if (box().named(&required(name)) != nullptr) throw ai::Error{kBadParameterErr};
     const AIAddToolData& given = required(data);
@@ -31,44 +30,34 @@ AIErr addTool(SPPluginRef plugin, const char* name, AIAddToolData* data, ai::int
     for (const auto& [handle, other] : box().tools)
         number = std::max(number, static_cast<AIToolType>(other->number + 1));
     const auto own = [number](AIToolType joined) { return joined == kNoTool ? number : joined; };
-    const AIToolHandle added = box().tools.add({.plugin = plugin,
-                                                .name = name,
-                                                .title = textOf(given.title),
-                                                .tooltip = textOf(given.tooltip),
-                                                .helpID = given.helpID,
-                                                .lightIcon = given.normalIconResID,
-                                                .darkIcon = given.darkIconResID,
-                                                .group = own(given.sameGroupAs),
-                                                .toolset = own(given.sameToolsetAs),
-                                                .options = options,
-                                                .number = number});
-    if (tool != nullptr) *tool = added;
-    return kNoErr;
+    return box().tools.add({.plugin = plugin,
+                            .name = name,
+                            .title = textOf(given.title),
+                            .tooltip = textOf(given.tooltip),
+                            .helpID = given.helpID,
+                            .lightIcon = given.normalIconResID,
+                            .darkIcon = given.darkIconResID,
+                            .group = own(given.sameGroupAs),
+                            .toolset = own(given.sameToolsetAs),
+                            .options = options,
+                            .number = number});
 }
 
 /// The suite hands texts out as `char*`, but they are the host's and not to be changed.
-AIErr getName(AIToolHandle tool, char** name) {
-    required(name) = at(tool).name.data();
-    return kNoErr;
-}
+char* getName(AIToolHandle tool) { return at(tool).name.data(); }
 
-AIErr getOptions(AIToolHandle tool, ai::int32* options) {
-    required(options) = at(tool).options;
-    return kNoErr;
-}
+ai::int32 getOptions(AIToolHandle tool) { return at(tool).options; }
 
-AIErr setSelected(AIToolHandle tool) {
+void setSelected(AIToolHandle tool) {
     static_cast<void>(at(tool));
     host().selectTool(tool);
-    return kNoErr;
 }
 
-AIErr setInfoVariables(AIToolHandle tool, const ai::int32* variables) {
+void setInfoVariables(AIToolHandle tool, const ai::int32* variables) {
     const ai::int32* end = &required(variables);
     while (*end != kEndOfVariables)
         ++end;
     at(tool).infoVariables.assign(variables, end);
-    return kNoErr;
 }
 
 bool isNumber(ai::int32 variable) {
@@ -76,32 +65,27 @@ bool isNumber(ai::int32 variable) {
            variable == kDocumentX || variable == kDocumentY;
 }
 
-AIErr setInfoValues(const ai::int32* variables, void** values) {
+void setInfoValues(const ai::int32* variables, void** values) {
     static_cast<void>(required(variables));
     static_cast<void>(required(values));
     for (std::size_t i = 0; variables[i] != kEndOfVariables; ++i)
         if (isNumber(variables[i]) && values[i] != nullptr)
             box().infoValues[variables[i]] = *static_cast<const AIReal*>(values[i]);
-    return kNoErr;
 }
 
-AIErr getCurrentName(const char** name) {
-    required(name) = box().nameOf(box().currentNumber());
-    return kNoErr;
-}
+const char* getCurrentName() { return box().nameOf(box().currentNumber()); }
 
-AIErr setSelectedByName(const char* name) {
+void setSelectedByName(const char* name) {
     const AIToolType number = box().numberOf(&required(name));
     const AIToolHandle tool = box().handleOf(number);
     host().selectTool(tool, tool == nullptr ? number : Tools::kSelectTool);
-    return kNoErr;
 }
 
 } // namespace
 
 void installToolSuite(SuiteServer& server) {
     auto table = server.table<AIToolSuite>(kAIToolSuite, kAIToolSuiteVersion);
-    expose<&AIToolSuite::AddTool, addTool>(table);
+    expose<&AIToolSuite::AddTool, addTool, OutputMayBeNull>(table);
     expose<&AIToolSuite::GetToolName, getName>(table);
     // What a table without the slot before it has there, for whoever asks which of both this is.
     expose<&AIToolSuite::GetToolOptions, getOptions>(table);

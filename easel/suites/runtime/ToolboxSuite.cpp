@@ -7,10 +7,7 @@
 namespace easel {
 namespace {
 
-AIErr getCurrentToolType(AIToolType* number) {
-    required(number) = host().tools.currentNumber();
-    return kNoErr;
-}
+AIToolType getCurrentToolType() { return host().tools.currentNumber(); }
 
 } // namespace
 

@@ -28,17 +28,15 @@ std::size_t checkedLength(ai::int64 length) {
     return static_cast<std::size_t>(length);
 }
 
-AIErr initializeUtf16(String& string, const ASUnicode* units, ai::int64 count) {
+void initializeUtf16(String& string, const ASUnicode* units, ai::int64 count) {
     const auto* const first = reinterpret_cast<const char16_t*>(units);
     if (count != 0) static_cast<void>(required(units));
     const std::size_t length =
         count == kUntilZero ? std::char_traits<char16_t>::length(first) : checkedLength(count);
     writeString(session().ledger, string, utf32FromUtf16({first, length}));
-    return kNoErr;
 }
 
-AIErr initialize(String& string, const char* bytes, ai::int64 length,
-                 AICharacterEncoding encoding) {
+void initialize(String& string, const char* bytes, ai::int64 length, AICharacterEncoding encoding) {
     if (encoding == kUtf16)
         return initializeUtf16(string, reinterpret_cast<const ASUnicode*>(bytes),
                                length / static_cast<ai::int64>(sizeof(ASUnicode)));
@@ -47,26 +45,20 @@ AIErr initialize(String& string, const char* bytes, ai::int64 length,
     const std::size_t size =
         length == kUntilZero ? std::char_traits<char>::length(bytes) : checkedLength(length);
     writeString(session().ledger, string, utf32FromUtf8({bytes, size}));
-    return kNoErr;
 }
 
-AIErr destroy(String& string) {
-    destroyString(session().ledger, string);
-    return kNoErr;
-}
+void destroy(String& string) { destroyString(session().ledger, string); }
 
 /// A copy shares nothing with its original. One of an unset string is unset or empty: the same.
-AIErr assign(String& string, const String& other) {
+void assign(String& string, const String& other) {
     if (isSet(session().ledger, other) || isSet(session().ledger, string))
         writeString(session().ledger, string, readString(session().ledger, other));
-    return kNoErr;
 }
 
-AIErr getChar(const String& string, std::size_t position, ai::uint32& character) {
+char32_t getChar(const String& string, std::size_t position) {
     const std::u32string& text = readString(session().ledger, string);
     if (position >= text.size()) throw ai::Error{kStringIndexErr};
-    character = text[position];
-    return kNoErr;
+    return text[position];
 }
 
 } // namespace

@@ -7,7 +7,7 @@
 namespace easel {
 namespace {
 
-AIBoolean isBrowserAvailable() { return host().user.browserAvailable ? 1 : 0; }
+bool isBrowserAvailable() { return host().user.browserAvailable; }
 
 } // namespace
 

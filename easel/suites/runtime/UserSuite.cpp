@@ -38,9 +38,8 @@ void realToString(AIReal value, ai::int16 precision, ai::UnicodeString& text) {
     writeUtf8(session().ledger, text, textOf(value, precision));
 }
 
-AIErr launchApp(const ai::FilePath& path, AIBoolean /*openDocument*/) {
+void launchApp(const ai::FilePath& path, AIBoolean /*openDocument*/) {
     user().launched.push_back(readPath(session().ledger, path));
-    return kNoErr;
 }
 
 AIAnswer ask(const char* kind, const ai::UnicodeString& text) {
@@ -66,29 +65,23 @@ void errorAlert(const ai::UnicodeString& text) { tell("error", text); }
 void messageAlert(const ai::UnicodeString& text) { tell("message", text); }
 
 /// Opaque to plug-ins: seconds of the session's own clock, from 1, so that it is never nothing.
-AIErr getDateAndTime(AIUserDateTime* now) {
+AIUserDateTime getDateAndTime() {
     constexpr AIUserDateTime kTicksInSecond = 60;
-    required(now) = 1 + static_cast<AIUserDateTime>(host().clock.ticks()) / kTicksInSecond;
-    return kNoErr;
+    return 1 + static_cast<AIUserDateTime>(host().clock.ticks()) / kTicksInSecond;
 }
 
-AIErr createCursors(SPPluginRef plugin, AIResourceManagerHandle* manager) {
+AIResourceManagerHandle createCursors(SPPluginRef plugin) {
     static_cast<void>(host().plugins.at(plugin));
-    required(manager) = user().cursorManagers.add(plugin);
-    return kNoErr;
+    return user().cursorManagers.add(plugin);
 }
 
-AIErr setCursor(ai::int32 cursor, AIResourceManagerHandle manager) {
+void setCursor(ai::int32 cursor, AIResourceManagerHandle manager) {
     // The host's own cursors, the negative ones, belong to no manager.
     user().cursorOwner = cursor >= 0 ? user().cursorManagers.at(manager) : nullptr;
     user().cursor = cursor;
-    return kNoErr;
 }
 
-AIErr disposeCursors(AIResourceManagerHandle manager) {
-    user().cursorManagers.remove(manager);
-    return kNoErr;
-}
+void disposeCursors(AIResourceManagerHandle manager) { user().cursorManagers.remove(manager); }
 
 } // namespace
 
