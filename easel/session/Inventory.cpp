@@ -48,6 +48,7 @@ std::optional<LayerAxes> axesOn(const Art& layer) {
                    numberIn(entries, "cy") - ruler.v + offset.y};
     if (const Boolean* const automatic = find<Boolean>(&entries, "au"))
         axes.automatic = automatic->value;
+    if (const ai::int32* const stamp = find<ai::int32>(&entries, "ts")) axes.stamp = *stamp;
     return axes;
 }
 

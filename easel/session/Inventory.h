@@ -33,6 +33,7 @@ struct LayerAxes {
     double angleDegrees = 0.0;
     svg::Point origin; ///< In user units.
     bool automatic = true;
+    ai::int32 stamp = 0; ///< The layer's art was mirrored when its time stamp was this.
 };
 /// Nothing when the layer has none.
 [[nodiscard]] std::optional<LayerAxes> axesOn(const Art& layer);

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <set>
 
 /// Acts in any order, with undo, redo and changes of the host's own in between, as nobody would
 /// write them down.
@@ -67,17 +68,29 @@ void judgeCopies(Trials& trials, const Document& document) {
     }
 }
 
+/// Whose edit of its axes was cancelled, by the stamps that the layers have kept from there: what
+/// was drawn during the edit is mirrored with the next change, which gives another stamp.
+using CancelledEdits = std::set<std::pair<const Document*, ai::int32>>;
+
 /// The copies of each layer that mirrors by itself fit its art. While the pen is in hand a path may
 /// be under way, for which the layer waits; and what nobody can edit is left alone.
-void judgeLayers(Trials& trials, const Document& document, const Host& host) {
+void judgeLayers(Trials& trials, const Document& document, const Host& host,
+                 CancelledEdits& cancelled) {
     if (host.tools.currentNumber() == Tools::kPenTool) return;
     constexpr std::size_t kMostAnchors = 200;
+    std::vector<std::pair<const Art*, ai::int32>> live;
     const Art& root = document.root();
     for (const Art* art = root.firstChild(); art != nullptr; art = art->next()) {
         const std::optional<LayerAxes> axes = art->isLayer() ? axesOn(*art) : std::nullopt;
-        if (!axes || !axes->automatic || !isEditable(*art)) continue;
-        for (const std::string& fault : {strayCopies(*art), asymmetryOf(*art, kMostAnchors)})
-            if (!fault.empty()) trials.fail('"' + art->details().layer.title + "\": " + fault);
+        if (axes && axes->automatic && isEditable(*art)) live.emplace_back(art, axes->stamp);
+    }
+    constexpr auto kStamp = &decltype(live)::value_type::second;
+    if (!live.empty() && host.undoText() == "Undo Cancel Edit Symmetry Axes")
+        cancelled.emplace(&document, std::ranges::max(live, {}, kStamp).second);
+    for (const auto& [layer, stamp] : live) {
+        if (cancelled.contains({&document, stamp})) continue;
+        for (const std::string& fault : {strayCopies(*layer), asymmetryOf(*layer, kMostAnchors)})
+            if (!fault.empty()) trials.fail('"' + layer->details().layer.title + "\": " + fault);
     }
 }
 
@@ -143,6 +156,7 @@ void play(Session& session, Trials& trials, const Plan& plan) {
         sitting.open(plan.drawing.text());
         const AIDocumentHandle first = session.document().handle();
         const std::string opened = sitting.artOf(session.document());
+        CancelledEdits cancelled;
         for (const char* const lines : plan.acts) {
             if (session.current == nullptr) sitting.perform("new 400 400");
             sitting.attempt(lines);
@@ -154,7 +168,7 @@ void play(Session& session, Trials& trials, const Plan& plan) {
             for (const auto& each : sitting.player().host().documents())
                 judgeCopies(trials, *each);
             if (session.current == nullptr) continue;
-            judgeLayers(trials, session.document(), sitting.player().host());
+            judgeLayers(trials, session.document(), sitting.player().host(), cancelled);
             if (isTooLarge(session.document())) break;
         }
         sitting.attempt("release");
