@@ -143,6 +143,7 @@ public:
         const ArtMarks marks = marksOf(art, keys_);
         if (copies_ != Copies::AreArt && isGenerated(art, marks)) {
             generated_.push_back(art);
+            copyInUnit_ = copyInUnit_ || around.unit != nullptr;
             return Found::Copy;
         }
         const std::size_t before = units_.size();
@@ -168,6 +169,10 @@ public:
         generated_.clear();
     }
 
+    /// Whether a unit may be another without what was deleted: a clip group without its mask is a
+    /// plain one.
+    [[nodiscard]] bool foundCopyInUnit() const { return copyInUnit_; }
+
     [[nodiscard]] std::vector<Unit> takeUnits() { return std::move(units_); }
     [[nodiscard]] std::vector<AIArtHandle> takeCopies() { return std::move(generated_); }
 
@@ -190,6 +195,7 @@ private:
     Containers containers_{keys_};
     std::unordered_set<AIArtHandle> seen_;
     std::vector<AIArtHandle> generated_; ///< the copies found, unless they are art
+    bool copyInUnit_ = false;            ///< one of them inside a unit
     std::vector<Unit> units_;
 };
 
@@ -200,6 +206,12 @@ UnitCollector collect(std::span<const AIArtHandle> art, UnitCollector::Copies co
     return collector;
 }
 
+/// Deletes the copies that `collector` has found on `layer`.
+std::vector<Unit> sourcesWithoutCopies(AILayerHandle layer, UnitCollector collector) {
+    collector.deleteCopies();
+    return collector.foundCopyInUnit() ? deleteCopiesAndListSources(layer) : collector.takeUnits();
+}
+
 } // namespace
 
 std::vector<Unit> unitsOfSelection() {
@@ -207,9 +219,8 @@ std::vector<Unit> unitsOfSelection() {
 }
 
 std::vector<Unit> deleteCopiesAndListSources(AILayerHandle layer) {
-    UnitCollector collector = collect(artOnLayer(layer), UnitCollector::Copies::AreLeftOut);
-    collector.deleteCopies();
-    return collector.takeUnits();
+    return sourcesWithoutCopies(layer,
+                                collect(artOnLayer(layer), UnitCollector::Copies::AreLeftOut));
 }
 
 std::vector<Unit> deleteCopiesAndListSources(AILayerHandle layer, const PassOver& passOver) {
@@ -231,8 +242,7 @@ std::vector<Unit> deleteCopiesAndListSources(AILayerHandle layer, const PassOver
         collector.dropLastUnit();
         rest = rest.subspan(*passedOver);
     }
-    collector.deleteCopies();
-    return collector.takeUnits();
+    return sourcesWithoutCopies(layer, std::move(collector));
 }
 
 std::vector<Unit> sourcesOnLayer(AILayerHandle layer) { return contentsOfLayer(layer).sources; }

@@ -44,6 +44,7 @@ const WorkSetRow kRows[] = {
      "k(!a g(b k2(!d t))) k(!a g(b k2(!d t)))"},
     {"a clip group without a mask clips nothing", "k(a b)", "k(a a' b b')", "k(a a b b)"},
     {"a copy that came into a clip group goes", "k(!a b')", "k(!a) k'(!a)", "k(!a b') k(!a b')"},
+    {"even a mask, and nothing is clipped then", "k(!%a b)", "k(b b')", "k(!%a b) k(!%a b)"},
     {"a plug-in group is one unit", "p(a) b", "p(a) p'(a) b b'", "p(a) p(a) b b"},
     {"text, symbols and pictures", "t s i", "t t' s s' i i'", "t t s s i i"},
     {"art tagged 2 is source art", "^a", "^a a'", "^a a"},
