@@ -151,7 +151,7 @@ PlacedArt replaceMembers(const Unit& compound, const MirroredPath& mirrored, con
     styleMembers(members, pathsInside(compound.art).front());
     selectAll(members, mirrored.contours);
     for (const AIArtHandle former : formerMembers) {
-        unlockAll(former); // a member can be locked by itself
+        unlockAll(former, typeOf(former)); // a member can be locked by itself
         ai::check(ai::suites.art->DisposeArt(former));
     }
     keep(members);

@@ -15,8 +15,9 @@ bool holdsLocked(AIArtHandle art) {
         artInside(art), [](AIArtHandle member) { return attributesOf(member, kArtLocked) != 0; });
 }
 
-void unlockAll(AIArtHandle art) {
+void unlockAll(AIArtHandle art, ai::int16 type) {
     ai::check(ai::suites.art->SetArtUserAttr(art, kArtLocked | kArtHidden, 0));
+    if (type == kPathArt) return;
     for (const AIArtHandle member : artInside(art))
         if (attributesOf(member, kArtLocked) != 0)
             ai::check(ai::suites.art->SetArtUserAttr(member, kArtLocked, 0));

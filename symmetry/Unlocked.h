@@ -10,8 +10,9 @@ namespace facetta {
 /// Whether anything inside `art` is locked. Throws `ai::Error`.
 [[nodiscard]] bool holdsLocked(AIArtHandle art);
 
-/// Shows `art` and unlocks it with all inside it, to dispose of it. Throws `ai::Error`.
-void unlockAll(AIArtHandle art);
+/// Shows `art`, which is of `type`, and unlocks it with all inside it, to dispose of it. Throws
+/// `ai::Error`.
+void unlockAll(AIArtHandle art, ai::int16 type);
 
 /// While it lives, those of some objects that were locked or hidden are neither: a host need not
 /// change what is, nor what contains something locked, nor what lies in it. The objects are given

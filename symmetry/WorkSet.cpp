@@ -39,9 +39,7 @@ bool isBlocked(AIArtHandle container, ai::int16 type) {
 }
 
 /// A layer is nobody's copy, whatever a drawing says of its group: it cannot be made anew.
-bool isGenerated(AIArtHandle art, const ArtMarks& marks) {
-    return marks.mirror == MirrorTag::kCopy && (typeOf(art) != kGroupArt || !isLayerGroup(art));
-}
+bool canBeCopy(AIArtHandle art, ai::int16 type) { return type != kGroupArt || !isLayerGroup(art); }
 
 /// Answers what surrounds an object, asking the host about each container once.
 class Containers {
@@ -84,7 +82,9 @@ private:
     Inherited entered(Inherited around, AIArtHandle container) const {
         const ai::int16 type = typeOf(container);
         around.blocked = around.blocked || isBlocked(container, type);
-        around.generated = around.generated || isGenerated(container, marksOf(container, keys_));
+        around.generated =
+            around.generated ||
+            (marksOf(container, keys_).mirror == MirrorTag::kCopy && canBeCopy(container, type));
         if (around.unit == nullptr && !isPlainGroup(container, type)) around.unit = container;
         return around;
     }
@@ -141,11 +141,12 @@ public:
         if (around.generated && copies_ != Copies::AreArt)
             return Found::Nothing; // goes with its container
         const ArtMarks marks = marksOf(art, keys_);
-        if (copies_ != Copies::AreArt && isGenerated(art, marks)) {
-            generated_.push_back(art);
-            copyInUnit_ = copyInUnit_ || around.unit != nullptr;
-            return Found::Copy;
-        }
+        if (copies_ != Copies::AreArt && marks.mirror == MirrorTag::kCopy)
+            if (const ai::int16 type = typeOf(art); canBeCopy(art, type)) {
+                generated_.push_back({art, type});
+                copyInUnit_ = copyInUnit_ || around.unit != nullptr;
+                return Found::Copy;
+            }
         const std::size_t before = units_.size();
         if (around.unit == nullptr)
             consider(art, marks, around);
@@ -163,8 +164,8 @@ public:
         if (generated_.empty()) return;
         const AllChangesAllowed evenInLockedGroups;
         for (auto copy = generated_.rbegin(); copy != generated_.rend(); ++copy) {
-            unlockAll(*copy);
-            ai::check(ai::suites.art->DisposeArt(*copy));
+            unlockAll(copy->art, copy->type);
+            ai::check(ai::suites.art->DisposeArt(copy->art));
         }
         generated_.clear();
     }
@@ -174,9 +175,19 @@ public:
     [[nodiscard]] bool foundCopyInUnit() const { return copyInUnit_; }
 
     [[nodiscard]] std::vector<Unit> takeUnits() { return std::move(units_); }
-    [[nodiscard]] std::vector<AIArtHandle> takeCopies() { return std::move(generated_); }
+    [[nodiscard]] std::vector<AIArtHandle> copies() const {
+        std::vector<AIArtHandle> art;
+        for (const Copy& copy : generated_)
+            art.push_back(copy.art);
+        return art;
+    }
 
 private:
+    struct Copy {
+        AIArtHandle art;
+        ai::int16 type; ///< Asked for once: there may be many.
+    };
+
     void consider(AIArtHandle art, const ArtMarks& marks, const Inherited& around) {
         const ai::int16 type = typeOf(art);
         // What has members is met again with each of them.
@@ -194,8 +205,8 @@ private:
     MarkKeys keys_ = markKeys();
     Containers containers_{keys_};
     std::unordered_set<AIArtHandle> seen_;
-    std::vector<AIArtHandle> generated_; ///< the copies found, unless they are art
-    bool copyInUnit_ = false;            ///< one of them inside a unit
+    std::vector<Copy> generated_; ///< the copies found, unless they are art
+    bool copyInUnit_ = false;     ///< one of them inside a unit
     std::vector<Unit> units_;
 };
 
@@ -249,7 +260,7 @@ std::vector<Unit> sourcesOnLayer(AILayerHandle layer) { return contentsOfLayer(l
 
 LayerContents contentsOfLayer(AILayerHandle layer) {
     UnitCollector collector = collect(artOnLayer(layer), UnitCollector::Copies::AreLeftOut);
-    return {collector.takeUnits(), collector.takeCopies()};
+    return {collector.takeUnits(), collector.copies()};
 }
 
 } // namespace facetta
