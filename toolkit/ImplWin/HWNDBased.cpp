@@ -3,6 +3,7 @@
 #include "toolkit/ImplCommon/Exceptions.h"
 #include "toolkit/ImplWin/WindowClass.h"
 
+#include <unordered_map>
 #include <utility>
 
 namespace NRDM {
@@ -14,14 +15,19 @@ std::wstring windowTextOf(HWND window) {
     return text;
 }
 
-/// What a window of ours has as its property, from its creation to its end; the object may go
-/// before, and the window still gets its last messages.
+/// What is known of a window of ours from its creation to its end; the object may go before, and
+/// the window still gets its last messages. All windows are of one thread.
 struct HWNDBased::Bond {
     HWNDBased* object;
     WNDPROC classProcedure;
 
+    static std::unordered_map<HWND, Bond>& all() {
+        static std::unordered_map<HWND, Bond> bonds;
+        return bonds;
+    }
     static Bond* of(HWND window) noexcept {
-        return static_cast<Bond*>(GetPropW(window, WindowClass::ofLibrary().property()));
+        const auto found = all().find(window);
+        return found != all().end() ? &found->second : nullptr;
     }
 };
 
@@ -43,12 +49,12 @@ void HWNDBased::create(const Plan& plan) {
     if (window_ == nullptr) throw NRDMResourceException();
     if (systemClass)
         classProcedure_ = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(window_, GWLP_WNDPROC));
-    auto bond = std::make_unique<Bond>(Bond{this, classProcedure_});
-    if (SetPropW(window_, WindowClass::ofLibrary().property(), bond.get()) == FALSE) {
+    try {
+        Bond::all().insert_or_assign(window_, Bond{this, classProcedure_});
+    } catch (...) {
         DestroyWindow(std::exchange(window_, nullptr));
-        throw NRDMResourceException();
+        throw;
     }
-    static_cast<void>(bond.release()); // the window's last message ends it
     if (systemClass)
         SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
 }
@@ -64,8 +70,7 @@ LRESULT CALLBACK HWNDBased::procedure(HWND window, UINT message, WPARAM wide, LP
     const WNDPROC classProcedure = bond->classProcedure;
     HWNDBased* const self = bond->object;
     if (message == WM_NCDESTROY) { // also when its parent takes it along
-        const std::unique_ptr<Bond> ended(bond);
-        RemovePropW(window, WindowClass::ofLibrary().property());
+        Bond::all().erase(window);
         if (self != nullptr) self->window_ = nullptr;
         return CallWindowProcW(classProcedure, window, message, wide, lengthy);
     }

@@ -38,16 +38,10 @@ WindowClass::WindowClass() {
     description.hInstance = library();
     description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     description.lpszClassName = className.data();
-    property_ = GlobalAddAtomW(className.data());
-    class_ = property_ != 0 ? RegisterClassExW(&description) : ATOM{0};
-    if (class_ != 0) return;
-    if (property_ != 0) GlobalDeleteAtom(property_);
-    throw NRDMResourceException();
+    class_ = RegisterClassExW(&description);
+    if (class_ == 0) throw NRDMResourceException();
 }
 
-WindowClass::~WindowClass() {
-    UnregisterClassW(name(), library());
-    GlobalDeleteAtom(property_);
-}
+WindowClass::~WindowClass() { UnregisterClassW(name(), library()); }
 
 } // namespace NRDM

@@ -4,10 +4,10 @@
 
 namespace NRDM {
 
-/// The one window class of the toolkit, and what its windows are told apart by. There from the
-/// first window on, for as long as the library is loaded.
+/// The one window class of the toolkit. There from the first window on, for as long as the library
+/// is loaded.
 ///
-/// The names hold the address of a variable of this library: each library that carries the toolkit
+/// Its name holds the address of a variable of this library: each library that carries the toolkit
 /// in the same process has a class of its own.
 class WindowClass {
 public:
@@ -15,9 +15,6 @@ public:
     [[nodiscard]] static const WindowClass& ofLibrary();
 
     [[nodiscard]] const wchar_t* name() const noexcept { return MAKEINTATOM(class_); }
-
-    /// The property that windows of ours have, those of the system's classes included.
-    [[nodiscard]] const wchar_t* property() const noexcept { return MAKEINTATOM(property_); }
 
     /// The library that the class and its windows belong to.
     [[nodiscard]] static HINSTANCE library() noexcept;
@@ -29,7 +26,6 @@ private:
     WindowClass();
     ~WindowClass();
 
-    ATOM property_ = 0;
     ATOM class_ = 0;
 };
 
