@@ -57,13 +57,17 @@ bool isCopy(const Art& art) {
     return copy != nullptr && *copy == 1;
 }
 
+bool isMarkedAsAxisGuide(const Art& art) {
+    return find(art.dictionaryIfAny(), kGuideEntry) != nullptr;
+}
+
 void Inventory::add(const Art& art) {
     for (std::size_t i = 0; i < std::size(kKinds); ++i)
         if (kKinds[i].type == art.type()) ++kinds[i];
     segments += static_cast<int>(art.segments().size());
     if (art.content().guide) ++guides;
     if (isCopy(art)) ++copies;
-    if (find(art.dictionaryIfAny(), kGuideEntry) != nullptr) ++axisGuides;
+    if (isMarkedAsAxisGuide(art)) ++axisGuides;
 }
 
 void Inventory::add(const Inventory& other) {

@@ -50,6 +50,8 @@ struct Inventory {
 };
 /// Is `art` a copy that a plug-in has generated?
 [[nodiscard]] bool isCopy(const Art& art);
+/// Has a plug-in marked `art` as a guide along axes?
+[[nodiscard]] bool isMarkedAsAxisGuide(const Art& art);
 
 /// Of all art on `layer`, its sublayers' left out.
 [[nodiscard]] Inventory inventoryOf(const Art& layer);

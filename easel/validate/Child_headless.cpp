@@ -6,6 +6,7 @@
 #include <cstring>
 #include <system_error>
 
+#include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -38,13 +39,12 @@ struct Child::Process {
 
 Child::Child(const std::vector<std::string>& arguments) : process_(std::make_unique<Process>()) {
     std::array<int, 2> ends{};
-    if (pipe(ends.data()) != 0) fail(errno, "pipe");
+    // Another child that is started at the same time must not keep this one's end open.
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) fail(errno, "pipe2");
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, ends[1], STDOUT_FILENO);
     posix_spawn_file_actions_adddup2(&actions, ends[1], STDERR_FILENO);
-    posix_spawn_file_actions_addclose(&actions, ends[0]);
-    posix_spawn_file_actions_addclose(&actions, ends[1]);
     std::vector<std::string> words{kThisProgram};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> pointers;

@@ -153,8 +153,9 @@ struct Sample {
 };
 constexpr std::array<Sample, 5> kSamples = {
     {{1, 4}, {3, 10}, {6, 120}, {6, 1000}, {6, kBlock - 1}}};
-/// Where the plug-in has real windows, a start of it takes a hundred times as long.
-constexpr std::array<Sample, 5> kSamplesWithWindows = {{{1, 1}, {3, 1}, {6, 1}, {6, 20}, {6, 200}}};
+/// Where the plug-in has real windows, a start of it takes a hundred times as long; and each act in
+/// each drawing is rehearsed, which is another start.
+constexpr std::array<Sample, 5> kSamplesWithWindows = {{{1, 1}, {3, 1}, {3, 2}, {6, 20}, {6, 200}}};
 
 } // namespace
 

@@ -55,16 +55,20 @@ constexpr const char* kBetween[] = {
     "zoom 1",
 };
 
-/// Copies are only where axes are, and nowhere else does anything carry their tag.
-void judgeCopies(Trials& trials, const Document& document) {
+/// Copies are only where axes are, nowhere else does anything carry their tag, and what is tagged
+/// as a guide along axes is a guide.
+void judgeTags(Trials& trials, const Document& document) {
     const Art& root = document.root();
-    for (const Art* art = root.firstChild(); art != nullptr; art = art->next()) {
-        if (!art->isLayer() || axesOn(*art)) continue;
-        for (const Art* each = art->firstChild(); each != nullptr;
-             each = nextInPreorder(*each, *art))
-            if (isCopy(*each))
-                return trials.fail("a copy lies on the layer \"" + art->details().layer.title +
+    for (const Art* layer = root.firstChild(); layer != nullptr; layer = layer->next()) {
+        const bool hasAxes = !layer->isLayer() || axesOn(*layer).has_value();
+        for (const Art* art = nextInPreorder(*layer, *layer); art != nullptr;
+             art = nextInPreorder(*art, *layer)) {
+            if (!hasAxes && isCopy(*art))
+                return trials.fail("a copy lies on the layer \"" + layer->details().layer.title +
                                    "\", which has no axes");
+            if (isMarkedAsAxisGuide(*art) && !art->content().guide)
+                return trials.fail("what is no guide is tagged as one along axes");
+        }
     }
 }
 
@@ -166,7 +170,7 @@ void play(Session& session, Trials& trials, const Plan& plan) {
             if (const std::size_t open = sitting.player().host().contexts.depth(); open != 0)
                 throw SessionError('"' + std::string(lines) + "\" leaves a context open");
             for (const auto& each : sitting.player().host().documents())
-                judgeCopies(trials, *each);
+                judgeTags(trials, *each);
             if (session.current == nullptr) continue;
             judgeLayers(trials, session.document(), sitting.player().host(), cancelled);
             if (isTooLarge(session.document())) break;

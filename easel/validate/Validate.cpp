@@ -4,10 +4,14 @@
 #include "easel/validate/Child.h"
 
 #include <algorithm>
+#include <atomic>
 #include <charconv>
 #include <chrono>
 #include <functional>
+#include <future>
+#include <span>
 #include <stdexcept>
+#include <thread>
 #include <utility>
 
 namespace easel::validate {
@@ -22,6 +26,11 @@ constexpr int kMostCrashes = 10;
 /// The most tries of a child where there are windows; 0: all. Wine does not get over a library
 /// that is loaded a thousand times in one process.
 std::uint64_t triesOfChild() { return onWindows() ? 400 : 0; }
+/// How many checks run at once. Under Wine two programs with windows can wait for each other for
+/// ever.
+unsigned checksAtOnce() {
+    return onWindows() ? 1 : std::max(1U, std::thread::hardware_concurrency());
+}
 /// More lines of what a process says are not kept.
 constexpr std::size_t kMostSaid = 20;
 
@@ -173,8 +182,22 @@ private:
 
 void runChecks(const Options& options, const std::function<void(const Result&)>& done) {
     if (!options.only.empty()) return done(Watch(options, checkNamed(options.only)).run());
-    for (const Check& check : checks())
-        done(Watch(options, check).run());
+    const std::span<const Check> all = checks();
+    std::vector<std::promise<Result>> results(all.size());
+    std::atomic<std::size_t> next = 0;
+    const auto watchOneAfterTheOther = [&] {
+        for (std::size_t i = next++; i < all.size(); i = next++)
+            try {
+                results[i].set_value(Watch(options, all[i]).run());
+            } catch (...) {
+                results[i].set_exception(std::current_exception());
+            }
+    };
+    std::vector<std::jthread> watchers;
+    for (unsigned i = 0; i < checksAtOnce(); ++i)
+        watchers.emplace_back(watchOneAfterTheOther);
+    for (std::promise<Result>& result : results)
+        done(result.get_future().get());
 }
 
 void runInThisProcess(Session& session, const Options& options, std::ostream& out) {

@@ -27,8 +27,9 @@ struct Result {
     std::vector<Fault> faults;
 };
 
-/// Runs each check in a child process; one that crashes or hangs is a fault, and its check goes on
-/// behind it in another child. `done` is told of each check when it has ended. Throws
+/// Runs each check in a child process, natively as many at once as there are processors; one that
+/// crashes or hangs is a fault, and its check goes on behind it in another child. `done` is told of
+/// each check, in the order of `checks`, when it and those before it have ended. Throws
 /// std::invalid_argument when no check has the name in `options.only`.
 void runChecks(const Options& options, const std::function<void(const Result&)>& done);
 
