@@ -14,14 +14,6 @@ namespace {
 
 double distance(CurvePoint a, CurvePoint b) { return std::hypot(a.x - b.x, a.y - b.y); }
 
-/// Does the box around the control points come near the point? Curves lie inside it.
-bool isNear(std::span<const CurvePoint> points, CurvePoint to, double reach) {
-    const auto [left, right] = std::ranges::minmax(points, {}, &CurvePoint::x);
-    const auto [low, high] = std::ranges::minmax(points, {}, &CurvePoint::y);
-    return to.x >= left.x - reach && to.x <= right.x + reach && to.y >= low.y - reach &&
-           to.y <= high.y + reach;
-}
-
 /// How often the path turns around the point; its ends are joined.
 int windingAround(const Art& path, CurvePoint point) {
     constexpr int kPieces = 32;
@@ -130,7 +122,7 @@ private:
     void visitCurves(Art& path) {
         for (std::size_t i = 0; i < curveCount(path); ++i) {
             const Curve curve = curveFrom(path, i);
-            if (!isNear(curve, point_, reach_)) continue;
+            if (!mayReach(curve, point_, reach_)) continue;
             const NearestPoint nearest = nearestPoint(curve, point_);
             if (nearest.distance <= reach_)
                 offer(path, kSegmentHit, (i + 1) % path.segments().size(), nearest.t,

@@ -25,6 +25,7 @@ public:
         offer(place, std::hypot(place.x - point_.x, place.y - point_.y));
     }
     void offerCurve(const Curve& curve) {
+        if (!mayReach(curve, point_, distance_)) return;
         const NearestPoint nearest = nearestPoint(curve, point_);
         offer(pointAt(curve, nearest.t), nearest.distance);
     }

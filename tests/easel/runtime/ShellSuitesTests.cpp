@@ -99,6 +99,10 @@ TEST_CASE("snapping searches the sources of the control string in its order") {
     easel::Art& path =
         easel::createArt(document, kPathArt, easel::onTopOf(*document.state().currentLayer));
     path.write().segments.write() = {corner(100, -100), corner(200, -100)};
+    easel::Art& arch =
+        easel::createArt(document, kPathArt, easel::onTopOf(*document.state().currentLayer));
+    arch.write().segments.write() = {{{300, -300}, {300, -300}, {300, -200}, 1},
+                                     {{400, -300}, {400, -200}, {400, -300}, 1}};
     struct Row {
         std::string what;
         const char* control;
@@ -109,6 +113,7 @@ TEST_CASE("snapping searches the sources of the control string in its order") {
         {"an anchor", "A v", {102, -101}, {100, -100}},
         {"the anchor before the line", "A v o", {103, -101}, {100, -100}},
         {"the line where no anchor is near", "A v o", {150, -102}, {150, -100}},
+        {"a curve far from its ends", "A v o", {350, -222}, {350, -225}},
         {"nothing near", "A v o", {150, -110}, {150, -110}},
         {"no source opened", "v o", {102, -101}, {102, -101}},
         {"nothing searched", "AP", {102, -101}, {102, -101}},
