@@ -25,9 +25,13 @@ constexpr Gdiplus::DashCap kDashCaps[] = {Gdiplus::DashCapFlat, Gdiplus::DashCap
 constexpr Gdiplus::LineJoin kJoins[] = {Gdiplus::LineJoinMiterClipped, Gdiplus::LineJoinRound,
                                         Gdiplus::LineJoinBevel};
 
+Point inReach(Point point) {
+    return {std::clamp(point.x, -kFarthest, kFarthest), std::clamp(point.y, -kFarthest, kFarthest)};
+}
+
 Gdiplus::PointF pointF(Point point) {
-    return {static_cast<float>(std::clamp(point.x, -kFarthest, kFarthest)),
-            static_cast<float>(std::clamp(point.y, -kFarthest, kFarthest))};
+    const Point inside = inReach(point);
+    return {static_cast<float>(inside.x), static_cast<float>(inside.y)};
 }
 
 std::wstring wide(const std::string& text) {
@@ -46,7 +50,7 @@ constexpr double kMostChords = 2000;
 
 /// Adds the chords of a curve that begins at the last of `points`. GDI+ takes curves too, but some
 /// of its implementations flatten them by recursion, which a cusp of coinciding points never ends.
-void addChords(std::vector<Gdiplus::PointF>& points, Point p0, Point p1, Point p2, Point p3) {
+void addChords(std::vector<Point>& points, Point p0, Point p1, Point p2, Point p3) {
     const auto size = [](double x, double y) { return std::sqrt(x * x + y * y); };
     const double bend = std::max(size(p0.x - 2 * p1.x + p2.x, p0.y - 2 * p1.y + p2.y),
                                  size(p1.x - 2 * p2.x + p3.x, p1.y - 2 * p2.y + p3.y));
@@ -60,10 +64,9 @@ void addChords(std::vector<Gdiplus::PointF>& points, Point p0, Point p1, Point p
         const double b1 = 3 * u * u * t;
         const double b2 = 3 * u * t * t;
         const double b3 = t * t * t;
-        points.push_back(pointF({b0 * p0.x + b1 * p1.x + b2 * p2.x + b3 * p3.x,
-                                 b0 * p0.y + b1 * p1.y + b2 * p2.y + b3 * p3.y}));
+        points.push_back(inReach(b0 * p0 + b1 * p1 + b2 * p2 + b3 * p3));
     }
-    points.push_back(pointF(p3));
+    points.push_back(inReach(p3));
 }
 
 std::unique_ptr<Gdiplus::FontFamily> familyOf(const svg::Font& font) {
@@ -341,17 +344,20 @@ void GdiplusPainter::image(std::span<const std::byte> png, Point corner, Point s
 
 void GdiplusPainter::eachFigure(
     const Outline& outline,
-    const std::function<void(const std::vector<Gdiplus::PointF>&, bool closed)>& use) const {
-    std::vector<Gdiplus::PointF> points;
+    const std::function<void(const std::vector<Point>&, bool closed)>& use) const {
+    std::vector<Point> points;
     for (const svg::Subpath& subpath : outline) {
         const auto& anchors = subpath.anchors;
         if (anchors.size() < 2 && !subpath.closed) continue;
-        points.assign(1, pointF(matrix_ * anchors.front().p));
+        points.assign(1, inReach(matrix_ * anchors.front().p));
         const std::size_t pieces = anchors.size() - (subpath.closed ? 0 : 1);
         for (std::size_t i = 0; i < pieces; ++i) {
             const svg::Anchor& to = anchors[(i + 1) % anchors.size()];
-            addChords(points, matrix_ * anchors[i].p, matrix_ * anchors[i].out, matrix_ * to.in,
-                      matrix_ * to.p);
+            if (anchors[i].out == anchors[i].p && to.in == to.p)
+                points.push_back(inReach(matrix_ * to.p));
+            else
+                addChords(points, matrix_ * anchors[i].p, matrix_ * anchors[i].out, matrix_ * to.in,
+                          matrix_ * to.p);
         }
         use(points, subpath.closed);
     }
@@ -361,9 +367,12 @@ std::unique_ptr<Gdiplus::GraphicsPath> GdiplusPainter::pathOf(const Outline& out
                                                               FillRule rule) const {
     auto path = std::make_unique<Gdiplus::GraphicsPath>(
         rule == FillRule::EvenOdd ? Gdiplus::FillModeAlternate : Gdiplus::FillModeWinding);
-    eachFigure(outline, [&](const std::vector<Gdiplus::PointF>& points, bool closed) {
+    std::vector<Gdiplus::PointF> rounded;
+    eachFigure(outline, [&](const std::vector<Point>& points, bool closed) {
+        rounded.resize(points.size());
+        std::ranges::transform(points, rounded.begin(), pointF);
         path->StartFigure();
-        path->AddLines(points.data(), static_cast<INT>(points.size()));
+        path->AddLines(rounded.data(), static_cast<INT>(rounded.size()));
         if (closed) path->CloseFigure();
     });
     return path;
@@ -372,14 +381,10 @@ std::unique_ptr<Gdiplus::GraphicsPath> GdiplusPainter::pathOf(const Outline& out
 /// A plain shape, or a thin line, straight on the pixels.
 void GdiplusPainter::paintPlain(const Outline& outline, FillRule rule, double lineWidth,
                                 const Ink& ink) {
-    std::vector<Point> exact;
-    eachFigure(outline, [&](const std::vector<Gdiplus::PointF>& points, bool) {
-        exact.clear();
-        for (const Gdiplus::PointF& point : points)
-            exact.push_back({point.X, point.Y});
-        if (lineWidth > 0) return raster_->addLine(exact, lineWidth);
-        for (std::size_t i = 0; i < exact.size(); ++i)
-            raster_->addEdge(exact[i], exact[(i + 1) % exact.size()]);
+    eachFigure(outline, [&](const std::vector<Point>& points, bool) {
+        if (lineWidth > 0) return raster_->addLine(points, lineWidth);
+        for (std::size_t i = 0; i < points.size(); ++i)
+            raster_->addEdge(points[i], points[(i + 1) % points.size()]);
     });
     raster_->paint(layers_.back()->samples, clip_, rule, premultiplied(ink.colour, 1));
 }

@@ -68,9 +68,8 @@ private:
     [[nodiscard]] std::unique_ptr<Gdiplus::GraphicsPath> pathOf(const Outline& outline,
                                                                 FillRule rule) const;
     /// The outline's chords in samples, figure by figure.
-    void eachFigure(
-        const Outline& outline,
-        const std::function<void(const std::vector<Gdiplus::PointF>&, bool closed)>& use) const;
+    void eachFigure(const Outline& outline,
+                    const std::function<void(const std::vector<Point>&, bool closed)>& use) const;
     void paintPlain(const Outline& outline, FillRule rule, double lineWidth, const Ink& ink);
     /// Of straight edges alone.
     void paintFlat(const Gdiplus::GraphicsPath& path, const Ink& ink);

@@ -23,14 +23,11 @@ Point middleOf(AIPoint pixel) { return {pixel.h + kPixelMiddle, pixel.v + kPixel
 
 Outline polygon(const std::vector<AIPoint>& points, bool closed) {
     svg::Subpath subpath;
+    subpath.anchors.reserve(points.size());
     for (const AIPoint point : points)
         subpath.anchors.push_back(svg::cornerAt(middleOf(point)));
     subpath.closed = closed;
     return {std::move(subpath)};
-}
-
-Outline rectangle(AIPoint from, AIPoint to) {
-    return polygon({from, {to.h, from.v}, to, {from.h, to.v}}, true);
 }
 
 Outline ellipse(AIPoint from, AIPoint to) {
@@ -51,6 +48,7 @@ Outline ellipse(AIPoint from, AIPoint to) {
 
 Outline bezier(const std::vector<AIPoint>& points) {
     svg::Subpath subpath;
+    subpath.anchors.reserve(1 + points.size() / 3);
     subpath.anchors.push_back(svg::cornerAt(middleOf(points.front())));
     for (std::size_t i = 1; i + 2 < points.size(); i += 3)
         svg::appendCurve(subpath, middleOf(points[i]), middleOf(points[i + 1]),
@@ -64,7 +62,7 @@ Outline outlineOf(const DrawCommand& command) {
     case Kind::Line:
         return polygon(command.points, false);
     case Kind::Rect:
-        return rectangle(command.points[0], command.points[1]);
+        return rectangle(middleOf(command.points[0]), middleOf(command.points[1]));
     case Kind::Polygon:
         return polygon(command.points, true);
     case Kind::Ellipse:

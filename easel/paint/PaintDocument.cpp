@@ -289,13 +289,9 @@ private:
     void paintTile(const svg::PatternContent& pattern, const Matrix& place) {
         if (++instances_ > kMostInstances) return;
         const Point from = pattern.tileCorner;
-        const Point to = from + pattern.tileSize;
         painter_.save();
         painter_.transform(place);
-        painter_.clip({{{svg::cornerAt(from), svg::cornerAt({to.x, from.y}), svg::cornerAt(to),
-                         svg::cornerAt({from.x, to.y})},
-                        true}},
-                      FillRule::NonZero);
+        painter_.clip(rectangle(from, from + pattern.tileSize), FillRule::NonZero);
         painter_.transform(pattern.contentMatrix * kFlip);
         paint(*pattern.drawing->drawing);
         painter_.restore();
@@ -355,11 +351,8 @@ private:
         Point size = image.size;
         const Point pixels = image.pixels;
         if (pixels.x <= 0 || pixels.y <= 0) {
-            const Point far = corner + size;
-            const Outline frame{{{svg::cornerAt(corner), svg::cornerAt({far.x, corner.y}),
-                                  svg::cornerAt(far), svg::cornerAt({corner.x, far.y})},
-                                 true}};
-            return painter_.stroke(frame, Pen{}, {{0.5F, 0.5F, 0.5F, 1.0F}, nullptr, {}});
+            return painter_.stroke(rectangle(corner, corner + size), Pen{},
+                                   {{0.5F, 0.5F, 0.5F, 1.0F}, nullptr, {}});
         }
         if (size.x <= 0) size.x = pixels.x;
         if (size.y <= 0) size.y = pixels.y;
@@ -397,10 +390,8 @@ Picture paintDocument(const Document& document, const PaintOptions& options) {
                           options.scale * artboard.top};
     const auto all = [&](Painter& painter) {
         if (options.background) {
-            const Outline everything{{{svg::cornerAt({0, 0}), svg::cornerAt({width, 0}),
-                                       svg::cornerAt({width, height}), svg::cornerAt({0, height})},
-                                      true}};
-            painter.fill(everything, FillRule::NonZero, {*options.background, nullptr, {}});
+            painter.fill(rectangle({0, 0}, {width, height}), FillRule::NonZero,
+                         {*options.background, nullptr, {}});
         }
         painter.save();
         painter.transform(toPixels);

@@ -14,12 +14,6 @@ constexpr Colour kDarkPasteboard{0.26F, 0.26F, 0.26F, 1.0F};
 constexpr Colour kPaper{1.0F, 1.0F, 1.0F, 1.0F};
 constexpr Colour kPaperEdge{0.0F, 0.0F, 0.0F, 1.0F};
 
-Outline rectangle(Point from, Point to) {
-    return {{{svg::cornerAt(from), svg::cornerAt({to.x, from.y}), svg::cornerAt(to),
-              svg::cornerAt({from.x, to.y})},
-             true}};
-}
-
 /// From soft coordinates to pixels of the view, whose whole numbers lie in the middles of pixels.
 Matrix toPixels(const DocumentView& view) {
     const AIRealPoint corner = toView(view, {0, 0});

@@ -14,6 +14,12 @@ using svg::Matrix;
 using svg::Outline;
 using svg::Point;
 
+[[nodiscard]] inline Outline rectangle(Point from, Point to) {
+    return {{{svg::cornerAt(from), svg::cornerAt({to.x, from.y}), svg::cornerAt(to),
+              svg::cornerAt({from.x, to.y})},
+             true}};
+}
+
 enum class FillRule { NonZero, EvenOdd };
 
 /// What a shape is painted with: a plain colour, or a gradient.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace easel::paint {
 namespace {
@@ -32,7 +33,8 @@ std::uint32_t composed(std::uint32_t under, std::uint32_t over, std::uint32_t pa
 Raster::Raster(int width, int height)
     : width_(width), height_(height), stride_(static_cast<std::size_t>(width) + 2),
       growth_(stride_ * static_cast<std::size_t>(height)),
-      covered_(static_cast<std::size_t>(width)), touched_{width, height, 0, 0} {}
+      covered_(static_cast<std::size_t>(width)), touched_(static_cast<std::size_t>(height)),
+      top_(height) {}
 
 void Raster::addEdge(Point from, Point to) {
     const float turns = from.y < to.y ? 1.0F : -1.0F;
@@ -41,46 +43,42 @@ void Raster::addEdge(Point from, Point to) {
     const double last = std::min(to.y, static_cast<double>(height_));
     if (!(first < last) || std::isnan(from.x + to.x)) return;
     const double slope = (to.x - from.x) / (to.y - from.y);
+    const double width = width_;
     double x = from.x + slope * (first - from.y);
     const int top = static_cast<int>(first);
     const int bottom = ceiling(last);
-    const auto inside = [this](double value) {
-        return std::clamp(value, 0.0, static_cast<double>(width_));
-    };
+    top_ = std::min(top_, top);
+    bottom_ = std::max(bottom_, bottom);
     for (int y = top; y < bottom; ++y) {
         const double height = std::min(y + 1.0, last) - std::max<double>(y, first);
         const double next = x + slope * height;
-        const double left = inside(std::min(x, next));
-        const double right = inside(std::max(x, next));
+        const double left = std::min(std::max(std::min(x, next), 0.0), width);
+        const double right = std::min(std::max(std::max(x, next), 0.0), width);
         x = next;
         const int column = static_cast<int>(left);
-        const int end = ceiling(right);
+        const int end = std::max(ceiling(right), column + 1);
+        Span& touched = touched_[static_cast<std::size_t>(y)];
+        touched = {std::min(touched.left, column), std::max(touched.right, end + 1)};
         float* const cells = &growth_[static_cast<std::size_t>(y) * stride_];
-        const auto grow = [&](int at, double part) {
-            cells[at] += turns * static_cast<float>(height * part);
-        };
-        touched_.left = std::min(touched_.left, column);
-        touched_.right = std::max(touched_.right, std::max(end, column + 1) + 1);
-        if (end <= column + 1) { // within a pixel
-            const double beside = (left + right) / 2 - column;
-            grow(column, 1 - beside);
-            grow(column + 1, beside);
+        const float whole = turns * static_cast<float>(height);
+        if (end == column + 1) { // within a pixel
+            const auto beside = static_cast<float>((left + right) / 2 - column);
+            cells[column] += whole * (1 - beside);
+            cells[end] += whole * beside;
             continue;
         }
         // What lies right of the edge up to each pixel's right side, less that of the pixel before.
+        const double steepness = 0.5 / (right - left);
         double before = 0;
         double formerGrowth = 0;
         for (int at = column; at <= end; ++at) {
-            const double reached = std::clamp(at + 1.0, left, right);
-            const double covered = (reached - left) * (reached - left) / (2 * (right - left)) +
-                                   std::max(0.0, at + 1.0 - right);
-            grow(at, covered - before - formerGrowth);
+            const double reached = std::min(at + 1.0, right) - left;
+            const double covered = reached * reached * steepness + std::max(0.0, at + 1.0 - right);
+            cells[at] += whole * static_cast<float>(covered - before - formerGrowth);
             formerGrowth = covered - before;
             before = covered;
         }
     }
-    touched_.top = std::min(touched_.top, top);
-    touched_.bottom = std::max(touched_.bottom, bottom);
 }
 
 void Raster::addLine(std::span<const Point> points, double width) {
@@ -116,29 +114,32 @@ void Raster::addLine(std::span<const Point> points, double width) {
 
 void Raster::paint(std::uint32_t* pixels, std::span<const PixelRect> clip, FillRule rule,
                    std::uint32_t colour) {
-    const int right = std::min(touched_.right, width_);
-    for (int y = touched_.top; y < touched_.bottom; ++y) {
+    for (int y = top_; y < bottom_; ++y) {
+        const Span touched = std::exchange(touched_[static_cast<std::size_t>(y)], {});
+        const int right = std::min(touched.right, width_);
         float* const cells = &growth_[static_cast<std::size_t>(y) * stride_];
         float turns = 0;
-        for (int x = touched_.left; x < right; ++x) {
-            turns += cells[x];
+        for (int x = touched.left; x < right; ++x) {
+            turns += std::exchange(cells[x], 0.0F);
             float part = std::abs(turns);
             if (rule == FillRule::EvenOdd) part = std::abs(part - 2 * std::round(part / 2));
             covered_[static_cast<std::size_t>(x)] =
                 static_cast<std::uint8_t>(std::min(part, 1.0F) * 255 + 0.5F);
         }
-        std::fill(cells + touched_.left, cells + std::min(touched_.right + 1, width_ + 2), 0.0F);
+        for (int x = right; x < touched.right; ++x)
+            cells[x] = 0;
         std::uint32_t* const row = pixels + std::ptrdiff_t{y} * width_;
         auto each = std::ranges::partition_point(
             clip, [y](const PixelRect& area) { return area.bottom <= y; });
         for (; each != clip.end() && each->top <= y; ++each) {
             const int end = std::min(right, each->right);
-            for (int x = std::max(touched_.left, each->left); x < end; ++x)
+            for (int x = std::max(touched.left, each->left); x < end; ++x)
                 if (const std::uint32_t part = covered_[static_cast<std::size_t>(x)]; part != 0)
                     row[x] = composed(row[x], colour, part);
         }
     }
-    touched_ = {width_, height_, 0, 0};
+    top_ = height_;
+    bottom_ = 0;
 }
 
 } // namespace easel::paint

@@ -3,6 +3,7 @@
 #include "easel/paint/Painter.h"
 
 #include <cstdint>
+#include <limits>
 #include <span>
 #include <vector>
 
@@ -30,12 +31,20 @@ public:
                std::uint32_t colour);
 
 private:
+    /// The cells of a row that edges have run through, and one more.
+    struct Span {
+        int left = std::numeric_limits<int>::max();
+        int right = 0;
+    };
+
     int width_;
     int height_;
     std::size_t stride_;
     std::vector<float> growth_;
     std::vector<std::uint8_t> covered_; ///< Of a row.
-    PixelRect touched_{};
+    std::vector<Span> touched_;         ///< Of each row,
+    int top_;                           ///< and the rows
+    int bottom_ = 0;                    ///< that any edge has.
 };
 
 /// `over`, made `part` / 255 as strong, over `under`; both multiplied by alpha.

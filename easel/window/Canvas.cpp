@@ -19,14 +19,7 @@ constexpr int kMarginAround = 24; ///< Of the artboard, when all of it is shown.
 
 bool same(POINT a, POINT b) { return a.x == b.x && a.y == b.y; }
 
-svg::Outline rectangle(const RECT& area) {
-    const auto corner = [](LONG x, LONG y) {
-        return svg::cornerAt({static_cast<double>(x), static_cast<double>(y)});
-    };
-    return {{{corner(area.left, area.top), corner(area.right, area.top),
-              corner(area.right, area.bottom), corner(area.left, area.bottom)},
-             true}};
-}
+svg::Point corner(LONG x, LONG y) { return {static_cast<double>(x), static_cast<double>(y)}; }
 
 svg::Point viewPoint(const DocumentView& view, AIRealPoint at) {
     const AIRealPoint exact = toView(view, at);
@@ -211,7 +204,9 @@ void Canvas::paint() {
             withPage = paintPage();
             screen_.copyFrom(page_, part);
             paint::GdiplusPainter painter(screen_.data(), area.cx, area.cy);
-            painter.clip(rectangle(part), paint::FillRule::NonZero);
+            painter.clip(
+                paint::rectangle(corner(part.left, part.top), corner(part.right, part.bottom)),
+                paint::FillRule::NonZero);
             paintMarquee(view, painter);
             paint::paintAnnotations(hand_.player.shown(), painter);
         } catch (const std::exception& error) {
@@ -237,7 +232,7 @@ bool Canvas::paintPage() {
 
 /// Outlines and anchors of what is selected, in the colour of its layer.
 void Canvas::paintSelection(const DocumentView& view, paint::Painter& painter) {
-    constexpr double kAnchorHalf = 2;
+    constexpr svg::Point kAnchor{2, 2}; // from the middle
     const Art& root = view.document->root();
     for (const Art* art = nextInPreorder(root, root); art != nullptr;
          art = nextInPreorder(*art, root)) {
@@ -249,10 +244,7 @@ void Canvas::paintSelection(const DocumentView& view, paint::Painter& painter) {
             const svg::Anchor anchor{viewPoint(view, segment.p), viewPoint(view, segment.in),
                                      viewPoint(view, segment.out)};
             path.anchors.push_back(anchor);
-            const auto corner = [&](double x, double y) {
-                return svg::cornerAt({anchor.p.x + x * kAnchorHalf, anchor.p.y + y * kAnchorHalf});
-            };
-            anchors.push_back({{corner(-1, -1), corner(1, -1), corner(1, 1), corner(-1, 1)}, true});
+            anchors.push_back(paint::rectangle(anchor.p - kAnchor, anchor.p + kAnchor).front());
         }
         const Art* const layer = layerOf(*art);
         const paint::Ink ink =
@@ -269,7 +261,8 @@ void Canvas::paintMarquee(const DocumentView& view, paint::Painter& painter) {
     const AIPoint to = toViewPixel(view, {area->right, area->bottom});
     paint::Pen dashed;
     dashed.dashes = {3, 3};
-    painter.stroke(rectangle({from.h, from.v, to.h, to.v}), dashed, inkOf(LayerProperties{}.color));
+    painter.stroke(paint::rectangle(corner(from.h, from.v), corner(to.h, to.v)), dashed,
+                   inkOf(LayerProperties{}.color));
 }
 
 } // namespace easel::window
