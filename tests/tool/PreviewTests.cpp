@@ -103,14 +103,13 @@ TEST_CASE("the preview of a layer is made of its sources, however many copies th
 }
 
 TEST_CASE("what is far too large for the view is cut at its edge, and drawn nowhere else") {
-    Drawing session{/*selected*/ true};
+    Drawing session{/*selected*/ false};
     session.host.edit("Draw", [](easel::Document& document) {
         drawLine(document, {1500, -168}, {-500, -172}, /*selected*/ true);
     });
     session.host.view(nullptr).centre = {320, -165};
     easel::setZoom(session.host.view(nullptr), 40);
-    std::vector<easel::DrawCommand> preview = previewIn(drawn(session));
-    std::erase_if(preview, [](const auto& each) { return each.kind == Kind::Bezier; });
+    const std::vector<easel::DrawCommand> preview = previewIn(drawn(session));
     REQUIRE_FALSE(preview.empty());
     const PixelRect visible{-3, -3, 1283, 803};
     for (const easel::DrawCommand& each : preview)
@@ -130,12 +129,20 @@ TEST_CASE("few curves are drawn as curves, many as lines") {
         session.host.edit("Draw", [&](easel::Document& document) {
             for (int i = 0; i < row.paths; ++i) {
                 const AIReal x = 300 + 0.01F * static_cast<AIReal>(i);
-                drawLine(document, {x, -170}, {x + 40, -160}, /*selected*/ true);
+                easel::Art& path = drawLine(document, {x, -170}, {x + 40, -160}, /*selected*/ true);
+                path.write().segments.write()[0].out = {x, -160};
             }
         });
         const std::vector<easel::DrawCommand> preview = previewIn(drawn(session));
         REQUIRE(std::ssize(preview) == kCopies * row.paths);
-        for (const easel::DrawCommand& each : preview)
-            CHECK((each.kind == Kind::Bezier) == row.curves);
+        for (const easel::DrawCommand& each : preview) { // open, and so not as polygons
+            REQUIRE(each.kind == Kind::Bezier);
+            CHECK((each.points.size() == 4) == row.curves);
+            bool straight = true;
+            for (std::size_t i = 0; i + 3 < each.points.size(); i += 3)
+                straight = straight && at(each.points[i]) == at(each.points[i + 1]) &&
+                           at(each.points[i + 2]) == at(each.points[i + 3]);
+            CHECK(straight != row.curves);
+        }
     }
 }

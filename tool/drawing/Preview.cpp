@@ -12,6 +12,7 @@
 #include "tool/ToolSession.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace facetta {
@@ -64,10 +65,10 @@ void build(Preview& preview, const PageAxes& axes, double zoom) {
     }
     preview.paths.limit(kMostPreviewLines);
     preview.asCurves = preview.paths.curveCount() <= kMostPreviewCurves;
-    // Drawn open, a path is run through there and back.
-    constexpr std::size_t kEnds = 4; // where it is cut by the edge of the view, and its closing
+    // Drawn open, each point has two handles.
+    constexpr std::size_t kEnds = 2; // where it is cut by the edge of the view, and its closing
     preview.pixels.resize(
-        std::max(2 * preview.paths.mostPoints() + kEnds, preview.paths.mostControls()));
+        std::max(3 * (preview.paths.mostPoints() + kEnds), preview.paths.mostControls()));
 }
 
 /// Draws one path after the other, point by point.
@@ -79,9 +80,7 @@ public:
     void curves(std::span<const Point> controls, const Matrix& map) {
         std::ranges::transform(controls, pixels_.begin(),
                                [&](Point control) { return nearestPixel(apply(map, control)); });
-        const auto* const sets = reinterpret_cast<const AIPoint(*)[3]>(pixels_.data() + 1);
-        ai::check(ai::suites.annotatorDrawer->DrawBezier(
-            drawer_, pixels_.front(), sets, static_cast<ai::uint32>(controls.size() / 3), 0));
+        drawCurves(controls.size());
     }
 
     // Pieces of a path as lines.
@@ -93,26 +92,32 @@ public:
         pixels_[count_++] = pixel;
     }
 
-    /// The host draws closed polygons only: an open line is run through there and back.
+    /// The host closes every polygon, so an open line is curves with their handles on their
+    /// anchors.
     void endOpen() {
         if (count_ > 1) {
-            std::size_t total = count_;
-            for (std::size_t i = count_ - 1; i-- > 1;)
-                pixels_[total++] = pixels_[i];
-            draw(total);
+            for (std::size_t i = count_ - 1; i > 0; --i) { // where they move to was read before
+                const AIPoint from = pixels_[i - 1];
+                const AIPoint to = pixels_[i];
+                std::ranges::copy(std::array{from, to, to}, &pixels_[3 * i - 2]);
+            }
+            drawCurves(3 * count_ - 2);
         }
         count_ = 0;
     }
 
     void endClosed() {
-        if (count_ > 1) draw(count_);
+        if (count_ > 1)
+            ai::check(ai::suites.annotatorDrawer->DrawPolygon(drawer_, pixels_.data(),
+                                                              static_cast<ai::uint32>(count_), 0));
         count_ = 0;
     }
 
 private:
-    void draw(std::size_t count) const {
-        ai::check(ai::suites.annotatorDrawer->DrawPolygon(drawer_, pixels_.data(),
-                                                          static_cast<ai::uint32>(count), 0));
+    void drawCurves(std::size_t controls) const {
+        const auto* const sets = reinterpret_cast<const AIPoint(*)[3]>(pixels_.data() + 1);
+        ai::check(ai::suites.annotatorDrawer->DrawBezier(drawer_, pixels_.front(), sets,
+                                                         static_cast<ai::uint32>(controls / 3), 0));
     }
 
     AIAnnotatorDrawer* drawer_;
