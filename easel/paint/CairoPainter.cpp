@@ -1,10 +1,11 @@
-#include "easel/paint/CairoPainter.h"
-
 #include "easel/paint/Gradient.h"
 #include "easel/paint/Picture.h"
 
+#include <cairo.h>
+
 #include <algorithm>
 #include <cstring>
+#include <memory>
 #include <new>
 
 // NOLINTBEGIN(bugprone-reserved-identifier): the leak checker's name for it
@@ -74,10 +75,14 @@ Surface decodedPng(std::span<const std::byte> png) {
 }
 
 /// Cairo keeps colours multiplied by alpha, in one native word a pixel.
-void unpack(const cairo_surface_t* surface, Picture& picture) {
-    auto* const image = const_cast<cairo_surface_t*>(surface); // Cairo's readers ask for it
-    const unsigned char* const data = cairo_image_surface_get_data(image);
-    const int stride = cairo_image_surface_get_stride(image);
+Picture pictureOf(cairo_surface_t* surface) {
+    cairo_surface_flush(surface);
+    const unsigned char* const data = cairo_image_surface_get_data(surface);
+    const int stride = cairo_image_surface_get_stride(surface);
+    Picture picture{
+        cairo_image_surface_get_width(surface), cairo_image_surface_get_height(surface), {}};
+    picture.pixels.resize(4 * static_cast<std::size_t>(picture.width) *
+                          static_cast<std::size_t>(picture.height));
     std::size_t target = 0;
     for (int y = 0; y < picture.height; ++y) {
         const unsigned char* pixel = data + static_cast<std::ptrdiff_t>(y) * stride;
@@ -93,6 +98,7 @@ void unpack(const cairo_surface_t* surface, Picture& picture) {
             picture.pixels[target++] = static_cast<std::uint8_t>(alpha);
         }
     }
+    return picture;
 }
 
 void pack(const Picture& picture, cairo_surface_t* surface) {
@@ -113,134 +119,147 @@ void pack(const Picture& picture, cairo_surface_t* surface) {
     cairo_surface_mark_dirty(surface);
 }
 
+class CairoPainter final : public Painter {
+public:
+    /// `context` must outlive the painter.
+    explicit CairoPainter(cairo_t* context) : context_(context) {}
+
+    void save() override { cairo_save(context_); }
+    void restore() override { cairo_restore(context_); }
+
+    /// A matrix that flattens the plane would put Cairo into an error that nothing ends; what is
+    /// painted under it has no area and may as well be far away.
+    void transform(const Matrix& matrix) override {
+        cairo_matrix_t change = cairoMatrix(matrix);
+        if (!svg::inverse(matrix)) change = {1, 0, 0, 1, 1e6, 1e6};
+        cairo_transform(context_, &change);
+    }
+
+    void clip(const Outline& outline, FillRule rule) override {
+        trace(outline);
+        cairo_set_fill_rule(context_, cairoRule(rule));
+        cairo_clip(context_);
+    }
+
+    void fill(const Outline& outline, FillRule rule, const Ink& ink) override {
+        trace(outline);
+        choose(ink);
+        cairo_set_fill_rule(context_, cairoRule(rule));
+        cairo_fill(context_);
+    }
+
+    void stroke(const Outline& outline, const Pen& pen, const Ink& ink) override {
+        trace(outline);
+        choose(ink);
+        cairo_set_line_width(context_, pen.width);
+        cairo_set_line_cap(context_, kCaps[static_cast<std::size_t>(pen.cap)]);
+        cairo_set_line_join(context_, kJoins[static_cast<std::size_t>(pen.join)]);
+        cairo_set_miter_limit(context_, pen.miterLimit);
+        cairo_set_dash(context_, pen.dashes.data(), static_cast<int>(pen.dashes.size()),
+                       pen.dashOffset);
+        cairo_stroke(context_);
+    }
+
+    void beginGroup() override {
+        cairo_surface_t* const target = cairo_get_target(context_);
+        checkGroups(++groups_, cairo_image_surface_get_width(target),
+                    cairo_image_surface_get_height(target));
+        cairo_push_group(context_);
+    }
+
+    void endGroup(double opacity) override {
+        --groups_;
+        cairo_pop_group_to_source(context_);
+        cairo_paint_with_alpha(context_, opacity);
+    }
+
+    void text(const std::string& text, const svg::Font& font, Point start,
+              const Ink& ink) override {
+        choose(font);
+        cairo_new_path(context_);
+        cairo_move_to(context_, start.x, start.y);
+        cairo_text_path(context_, text.c_str());
+        choose(ink);
+        cairo_set_fill_rule(context_, CAIRO_FILL_RULE_WINDING);
+        cairo_fill(context_);
+    }
+
+    [[nodiscard]] double textWidth(const std::string& text, const svg::Font& font) override {
+        choose(font);
+        cairo_text_extents_t extents{};
+        cairo_text_extents(context_, text.c_str(), &extents);
+        return extents.x_advance;
+    }
+
+    void image(std::span<const std::byte> png, Point corner, Point size) override {
+        if (imageBytes_ != png.data()) {
+            image_ = decodedPng(png);
+            imageBytes_ = png.data();
+        }
+        if (!image_) return;
+        const int width = cairo_image_surface_get_width(image_.get());
+        const int height = cairo_image_surface_get_height(image_.get());
+        if (width == 0 || height == 0) return;
+        save();
+        transform({size.x / width, 0, 0, size.y / height, corner.x, corner.y});
+        cairo_set_source_surface(context_, image_.get(), 0, 0);
+        cairo_pattern_set_extend(cairo_get_source(context_), CAIRO_EXTEND_PAD); // edges do not fade
+        cairo_rectangle(context_, 0, 0, width, height);
+        cairo_fill(context_);
+        restore();
+    }
+
+private:
+    void trace(const Outline& outline) {
+        cairo_new_path(context_);
+        const auto curve = [&](const svg::Anchor& from, const svg::Anchor& to) {
+            if (from.out == from.p && to.in == to.p)
+                cairo_line_to(context_, to.p.x, to.p.y);
+            else
+                cairo_curve_to(context_, from.out.x, from.out.y, to.in.x, to.in.y, to.p.x, to.p.y);
+        };
+        for (const svg::Subpath& subpath : outline) {
+            const auto& anchors = subpath.anchors;
+            if (anchors.empty()) continue;
+            cairo_move_to(context_, anchors.front().p.x, anchors.front().p.y);
+            for (std::size_t i = 1; i < anchors.size(); ++i)
+                curve(anchors[i - 1], anchors[i]);
+            if (!subpath.closed) continue;
+            curve(anchors.back(), anchors.front());
+            cairo_close_path(context_);
+        }
+    }
+
+    void choose(const Ink& ink) {
+        const Colour& colour = ink.colour;
+        const auto plain = [&](const Colour& c, double alpha) {
+            cairo_set_source_rgba(context_, c.red, c.green, c.blue, alpha);
+        };
+        if (ink.gradient == nullptr) return plain(colour, colour.alpha);
+        const std::optional<Matrix> back = svg::inverse(ink.gradientMatrix);
+        if (const auto single = singleColour(*ink.gradient); single || !back) {
+            const Colour all = single.value_or(Colour{0, 0, 0, 0});
+            return plain(all, all.alpha * colour.alpha);
+        }
+        const Pattern pattern = gradientPattern(*ink.gradient, *back, colour.alpha);
+        cairo_set_source(context_, pattern.get());
+    }
+
+    void choose(const svg::Font& font) {
+        cairo_select_font_face(context_, font.family.c_str(),
+                               font.italic ? CAIRO_FONT_SLANT_ITALIC : CAIRO_FONT_SLANT_NORMAL,
+                               font.bold ? CAIRO_FONT_WEIGHT_BOLD : CAIRO_FONT_WEIGHT_NORMAL);
+        cairo_set_font_size(context_, font.size);
+    }
+
+    cairo_t* context_;
+    int groups_ = 0; ///< Open ones, each a picture of its own.
+    /// The image last painted: copies of it tend to follow.
+    Surface image_;
+    const std::byte* imageBytes_ = nullptr;
+};
+
 } // namespace
-
-void CairoPainter::save() { cairo_save(context_); }
-void CairoPainter::restore() { cairo_restore(context_); }
-
-/// A matrix that flattens the plane would put Cairo into an error that nothing ends; what is
-/// painted under it has no area and may as well be far away.
-void CairoPainter::transform(const Matrix& matrix) {
-    cairo_matrix_t change = cairoMatrix(matrix);
-    if (!svg::inverse(matrix)) change = {1, 0, 0, 1, 1e6, 1e6};
-    cairo_transform(context_, &change);
-}
-
-void CairoPainter::clip(const Outline& outline, FillRule rule) {
-    trace(outline);
-    cairo_set_fill_rule(context_, cairoRule(rule));
-    cairo_clip(context_);
-}
-
-void CairoPainter::fill(const Outline& outline, FillRule rule, const Ink& ink) {
-    trace(outline);
-    choose(ink);
-    cairo_set_fill_rule(context_, cairoRule(rule));
-    cairo_fill(context_);
-}
-
-void CairoPainter::stroke(const Outline& outline, const Pen& pen, const Ink& ink) {
-    trace(outline);
-    choose(ink);
-    cairo_set_line_width(context_, pen.width);
-    cairo_set_line_cap(context_, kCaps[static_cast<std::size_t>(pen.cap)]);
-    cairo_set_line_join(context_, kJoins[static_cast<std::size_t>(pen.join)]);
-    cairo_set_miter_limit(context_, pen.miterLimit);
-    cairo_set_dash(context_, pen.dashes.data(), static_cast<int>(pen.dashes.size()),
-                   pen.dashOffset);
-    cairo_stroke(context_);
-}
-
-void CairoPainter::beginGroup() {
-    cairo_surface_t* const target = cairo_get_target(context_);
-    checkGroups(++groups_, cairo_image_surface_get_width(target),
-                cairo_image_surface_get_height(target));
-    cairo_push_group(context_);
-}
-
-void CairoPainter::endGroup(double opacity) {
-    --groups_;
-    cairo_pop_group_to_source(context_);
-    cairo_paint_with_alpha(context_, opacity);
-}
-
-void CairoPainter::text(const std::string& text, const svg::Font& font, Point start,
-                        const Ink& ink) {
-    choose(font);
-    cairo_new_path(context_);
-    cairo_move_to(context_, start.x, start.y);
-    cairo_text_path(context_, text.c_str());
-    choose(ink);
-    cairo_set_fill_rule(context_, CAIRO_FILL_RULE_WINDING);
-    cairo_fill(context_);
-}
-
-double CairoPainter::textWidth(const std::string& text, const svg::Font& font) {
-    choose(font);
-    cairo_text_extents_t extents{};
-    cairo_text_extents(context_, text.c_str(), &extents);
-    return extents.x_advance;
-}
-
-void CairoPainter::image(std::span<const std::byte> png, Point corner, Point size) {
-    if (imageBytes_ != png.data()) {
-        image_ = decodedPng(png);
-        imageBytes_ = png.data();
-    }
-    if (!image_) return;
-    const int width = cairo_image_surface_get_width(image_.get());
-    const int height = cairo_image_surface_get_height(image_.get());
-    if (width == 0 || height == 0) return;
-    save();
-    transform({size.x / width, 0, 0, size.y / height, corner.x, corner.y});
-    cairo_set_source_surface(context_, image_.get(), 0, 0);
-    cairo_pattern_set_extend(cairo_get_source(context_), CAIRO_EXTEND_PAD); // edges do not fade
-    cairo_rectangle(context_, 0, 0, width, height);
-    cairo_fill(context_);
-    restore();
-}
-
-void CairoPainter::trace(const Outline& outline) {
-    cairo_new_path(context_);
-    const auto curve = [&](const svg::Anchor& from, const svg::Anchor& to) {
-        if (from.out == from.p && to.in == to.p)
-            cairo_line_to(context_, to.p.x, to.p.y);
-        else
-            cairo_curve_to(context_, from.out.x, from.out.y, to.in.x, to.in.y, to.p.x, to.p.y);
-    };
-    for (const svg::Subpath& subpath : outline) {
-        const auto& anchors = subpath.anchors;
-        if (anchors.empty()) continue;
-        cairo_move_to(context_, anchors.front().p.x, anchors.front().p.y);
-        for (std::size_t i = 1; i < anchors.size(); ++i)
-            curve(anchors[i - 1], anchors[i]);
-        if (!subpath.closed) continue;
-        curve(anchors.back(), anchors.front());
-        cairo_close_path(context_);
-    }
-}
-
-void CairoPainter::choose(const Ink& ink) {
-    const Colour& colour = ink.colour;
-    const auto plain = [&](const Colour& c, double alpha) {
-        cairo_set_source_rgba(context_, c.red, c.green, c.blue, alpha);
-    };
-    if (ink.gradient == nullptr) return plain(colour, colour.alpha);
-    const std::optional<Matrix> back = svg::inverse(ink.gradientMatrix);
-    if (const auto single = singleColour(*ink.gradient); single || !back) {
-        const Colour all = single.value_or(Colour{0, 0, 0, 0});
-        return plain(all, all.alpha * colour.alpha);
-    }
-    const Pattern pattern = gradientPattern(*ink.gradient, *back, colour.alpha);
-    cairo_set_source(context_, pattern.get());
-}
-
-void CairoPainter::choose(const svg::Font& font) {
-    cairo_select_font_face(context_, font.family.c_str(),
-                           font.italic ? CAIRO_FONT_SLANT_ITALIC : CAIRO_FONT_SLANT_NORMAL,
-                           font.bold ? CAIRO_FONT_WEIGHT_BOLD : CAIRO_FONT_WEIGHT_NORMAL);
-    cairo_set_font_size(context_, font.size);
-}
 
 Picture render(int width, int height, const std::function<void(Painter&)>& paint) {
     checkPictureSize(width, height);
@@ -248,11 +267,7 @@ Picture render(int width, int height, const std::function<void(Painter&)>& paint
     const Context context{cairo_create(surface.get())};
     CairoPainter painter{context.get()};
     paint(painter);
-    cairo_surface_flush(surface.get());
-    Picture picture{width, height, {}};
-    picture.pixels.resize(4 * static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
-    unpack(surface.get(), picture);
-    return picture;
+    return pictureOf(surface.get());
 }
 
 std::optional<Picture> readPng(std::span<const std::byte> png) {
@@ -265,11 +280,7 @@ std::optional<Picture> readPng(std::span<const std::byte> png) {
     const Context context{cairo_create(whole.get())};
     cairo_set_source_surface(context.get(), surface.get(), 0, 0);
     cairo_paint(context.get());
-    cairo_surface_flush(whole.get());
-    Picture picture{width, height, {}};
-    picture.pixels.resize(4 * static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
-    unpack(whole.get(), picture);
-    return picture;
+    return pictureOf(whole.get());
 }
 
 std::string pngText(const Picture& picture) {
