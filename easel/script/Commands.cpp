@@ -18,6 +18,15 @@ constexpr const char* kSwitch[] = {"off", "on"};
 constexpr const char* kThemes[] = {"light", "dark"};
 constexpr int kMostSteps = 100'000;
 
+// What many commands read: nothing, or a place.
+
+template <auto Do> Action plain(Arguments&) {
+    return [](Player& player) { std::invoke(Do, player); };
+}
+template <auto Do> Action atPlace(Arguments& arguments) {
+    return [place = arguments.place("place")](Player& player) { std::invoke(Do, player, place); };
+}
+
 // Drawings
 
 Action readOpen(Arguments& arguments) {
@@ -50,9 +59,7 @@ Action readSave(Arguments& arguments) {
     };
 }
 
-Action readClose(Arguments&) {
-    return [](Player& player) { player.host().close(player.document()); };
-}
+void close(Player& player) { player.host().close(player.document()); }
 
 Action readSwitch(Arguments& arguments) {
     constexpr int kMostDrawings = 100;
@@ -165,9 +172,7 @@ Action readDelete(Arguments& arguments) {
     };
 }
 
-Action readClear(Arguments&) {
-    return [](Player& player) { player.edit("Clear", deleteSelected); };
-}
+void clear(Player& player) { player.edit("Clear", deleteSelected); }
 
 Action readNudge(Arguments& arguments) {
     const double right = arguments.number("way to the right");
@@ -232,19 +237,9 @@ Action readKey(Arguments& arguments) {
     };
 }
 
-Action readFinish(Arguments&) {
-    return [](Player& player) { player.host().endPath(); };
-}
+void finish(Player& player) { player.host().endPath(); }
 
 // The mouse
-
-Action readMove(Arguments& arguments) {
-    return [place = arguments.place("place")](Player& player) { player.moveTo(place); };
-}
-
-Action readPress(Arguments& arguments) {
-    return [place = arguments.place("place")](Player& player) { player.pressAt(place); };
-}
 
 Action readDrag(Arguments& arguments) {
     const Place place = arguments.place("place");
@@ -258,11 +253,9 @@ Action readRelease(Arguments& arguments) {
     return [place](Player& player) { player.releaseAt(place); };
 }
 
-Action readClick(Arguments& arguments) {
-    return [place = arguments.place("place")](Player& player) {
-        player.pressAt(place);
-        player.releaseAt(place);
-    };
+void click(Player& player, Place place) {
+    player.pressAt(place);
+    player.releaseAt(place);
 }
 
 // Menus and history
@@ -280,26 +273,20 @@ Action readMenu(Arguments& arguments) {
 }
 
 /// Walks through the history, as far as "[COUNT|all]" says.
-Action readWalk(Arguments& arguments, bool (Host::*step)(), const char* nothing) {
+template <bool (Host::*Step)()> Action readWalk(Arguments& arguments) {
+    const bool isUndo = Step == &Host::undo;
     const bool all = arguments.take("all");
     const int count =
         all || arguments.atEnd() ? 1 : arguments.whole("number of steps", 1, kMostSteps);
     return [=](Player& player) {
         static_cast<void>(player.document());
         for (int i = 0; all || i < count; ++i)
-            if (!(player.host().*step)()) {
+            if (!(player.host().*Step)()) {
                 if (all) return;
-                throw SessionError(nothing);
+                throw SessionError(isUndo ? "there is nothing to undo"
+                                          : "there is nothing to redo");
             }
     };
-}
-
-Action readUndo(Arguments& arguments) {
-    return readWalk(arguments, &Host::undo, "there is nothing to undo");
-}
-
-Action readRedo(Arguments& arguments) {
-    return readWalk(arguments, &Host::redo, "there is nothing to redo");
 }
 
 Action readRemember(Arguments& arguments) {
@@ -329,11 +316,7 @@ Action readZoom(Arguments& arguments) {
     };
 }
 
-Action readCentre(Arguments& arguments) {
-    return [place = arguments.place("place")](Player& player) {
-        player.host().centreOn(player.soft(place));
-    };
-}
+void centre(Player& player, Place place) { player.host().centreOn(player.soft(place)); }
 
 Action readSmartGuides(Arguments& arguments) {
     const bool on = arguments.choice("state", kSwitch) == 1;
@@ -370,14 +353,6 @@ Action readPreference(Arguments& arguments) {
     };
 }
 
-Action readRestart(Arguments&) {
-    return [](Player& player) { player.restart(); };
-}
-
-Action readReload(Arguments&) {
-    return [](Player& player) { player.reload(); };
-}
-
 Action readHost(Arguments& arguments) {
     const SwitchName& named = arguments.row("thing that hosts differ in", switchNames());
     const bool on = arguments.choice("state", kSwitch) == 1;
@@ -399,11 +374,9 @@ Action readWait(Arguments& arguments) {
     };
 }
 
-Action readRedraw(Arguments&) {
-    return [](Player& player) {
-        static_cast<void>(player.document());
-        player.host().redrawLater();
-    };
+void redraw(Player& player) {
+    static_cast<void>(player.document());
+    player.host().redrawLater();
 }
 
 Action readPicture(Arguments& arguments) {
@@ -422,7 +395,7 @@ constexpr CommandRow kCommands[] = {
      "Brings an open drawing to the front: 1 is the one that was opened first of those left",
      readSwitch, UnderDialog::Done},
     {"close", "", "Closes the drawing in front; the first of those left comes to the front",
-     readClose, UnderDialog::Done},
+     plain<close>, UnderDialog::Done},
     {"layer", "choose|add|delete|lock|unlock|hide|show TITLE, or rename TITLE NEW",
      "Does that to the layer of that title; a new one lies on top and is current", readLayer},
     {"select", "all|none|ID...",
@@ -431,27 +404,28 @@ constexpr CommandRow kCommands[] = {
     {"nudge", "RIGHT DOWN", "Moves what is selected by so many user units", readNudge},
     {"paint", "fill|stroke COLOUR|none, or width NUMBER",
      "Paints what is selected that way, and what the host's own tools draw from now on", readPaint},
-    {"clear", "", "Deletes what is selected", readClear},
+    {"clear", "", "Deletes what is selected", plain<clear>},
     {"tool", "NAME|options",
      "Takes that tool in hand, or double-clicks the icon of the one in hand", readTool},
     {"key", "[|] [COUNT]", "Taps that key between drags, COUNT times", readKey},
-    {"finish", "", "Ends the path that the pen is drawing", readFinish},
-    {"move", "X,Y", "Moves the mouse there, its button up", readMove},
-    {"press", "X,Y", "Moves the mouse there and presses the button", readPress},
+    {"finish", "", "Ends the path that the pen is drawing", plain<finish>},
+    {"move", "X,Y", "Moves the mouse there, its button up", atPlace<&Player::moveTo>},
+    {"press", "X,Y", "Moves the mouse there and presses the button", atPlace<&Player::pressAt>},
     {"drag", "X,Y [in COUNT]", "Moves it there with the button down, in COUNT messages, or one",
      readDrag},
     {"release", "[X,Y]", "Lets the button go, there or where the mouse is", readRelease},
-    {"click", "X,Y", "Presses and releases there", readClick},
+    {"click", "X,Y", "Presses and releases there", atPlace<click>},
     {"menu", "ITEM", "Chooses the menu item of that name or text", readMenu},
-    {"undo", "[COUNT|all]", "Takes the last step back, or COUNT steps, or all", readUndo},
+    {"undo", "[COUNT|all]", "Takes the last step back, or COUNT steps, or all",
+     readWalk<&Host::undo>},
     {"redo", "[COUNT|all]", "Does the step again that was last taken back, or COUNT steps, or all",
-     readRedo},
+     readWalk<&Host::redo>},
     {"remember", "NAME", "Keeps the whole drawing as it is, to be compared with later",
      readRemember, UnderDialog::Done},
     {"window", "WIDTH HEIGHT", "Makes the view that large, in pixels; at first it is 1280 by 800",
      readWindow},
     {"zoom", "FACTOR", "Shows a point as that many pixels, 1/32 to 64; the middle stays", readZoom},
-    {"centre", "X,Y", "Scrolls that place into the middle of the view", readCentre},
+    {"centre", "X,Y", "Scrolls that place into the middle of the view", atPlace<centre>},
     {"smart-guides", "on|off", "Turns the host's cursor snapping on or off; at first it is on",
      readSmartGuides, UnderDialog::Done},
     {"theme", "light|dark", "Changes the brightness of the interface", readTheme,
@@ -463,10 +437,10 @@ constexpr CommandRow kCommands[] = {
      readPreference, UnderDialog::Done},
     {"restart", "",
      "Quits host and plug-in and starts them again; settings and open panels stay, drawings do not",
-     readRestart},
+     plain<&Player::restart>},
     {"reload", "",
      "Unloads the plug-in's library, held or not, and loads it again at another address",
-     readReload},
+     plain<&Player::reload>},
     {"host", "NAME on|off",
      "Has the host be this way or the other where its interface does not say; the names are those "
      "in "
@@ -475,7 +449,7 @@ constexpr CommandRow kCommands[] = {
     {"answer", "yes|no|cancel", "Answers the next question that is asked; otherwise it is yes",
      readAnswer, UnderDialog::Done},
     {"wait", "MILLISECONDS", "Lets time pass", readWait, UnderDialog::Done},
-    {"redraw", "", "Uncovers the window, so that it is painted anew", readRedraw,
+    {"redraw", "", "Uncovers the window, so that it is painted anew", plain<redraw>,
      UnderDialog::Done},
     {"picture", "FILE [scale N]",
      "Keeps what the window shows among the results, with N pixels to one of the view", readPicture,

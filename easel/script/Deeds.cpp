@@ -193,9 +193,9 @@ Deed readKey(Arguments& arguments) {
 // Deeds with the whole
 
 /// Does something with the host's panel.
-template <typename Work> Deed withPanel(Work work) {
-    return [=](Player& player, Where) {
-        work(player.host().panels, hostPanel(player));
+template <auto Do, auto Value> Deed withPanel(Arguments&) {
+    return [](Player& player, Where) {
+        (player.host().panels.*Do)(hostPanel(player), Value);
         player.host().idle();
     };
 }
@@ -203,19 +203,6 @@ template <typename Work> Deed withPanel(Work work) {
 /// The states that the plug-in gives its panel, as the host counts them.
 constexpr ai::int16 kCompact = 1;
 constexpr ai::int16 kFull = 2;
-
-Deed readShow(Arguments&) {
-    return withPanel([](Panels& panels, AIPanelRef panel) { panels.show(panel, true); });
-}
-Deed readHide(Arguments&) {
-    return withPanel([](Panels& panels, AIPanelRef panel) { panels.show(panel, false); });
-}
-Deed readCollapse(Arguments&) {
-    return withPanel([](Panels& panels, AIPanelRef panel) { panels.setState(panel, kCompact); });
-}
-Deed readExpand(Arguments&) {
-    return withPanel([](Panels& panels, AIPanelRef panel) { panels.setState(panel, kFull); });
-}
 
 Deed readClose(Arguments&) {
     return [](Player& player, Where where) {
@@ -273,11 +260,12 @@ constexpr DeedRow kDeeds[] = {
      "page-up, page-down, home, end; with alt a letter is an access key",
      readKey},
     {"close", "", "Clicks on the close box", readClose},
-    {"show", "", "Has the host show the panel, as its workspace does", readShow, Where::Panel},
-    {"hide", "", "Has the host hide it", readHide, Where::Panel},
-    {"collapse", "", "Has the host make it compact, as its arrow in the title does", readCollapse,
-     Where::Panel},
-    {"expand", "", "Has the host make it full", readExpand, Where::Panel},
+    {"show", "", "Has the host show the panel, as its workspace does",
+     withPanel<&Panels::show, true>, Where::Panel},
+    {"hide", "", "Has the host hide it", withPanel<&Panels::show, false>, Where::Panel},
+    {"collapse", "", "Has the host make it compact, as its arrow in the title does",
+     withPanel<&Panels::setState, kCompact>, Where::Panel},
+    {"expand", "", "Has the host make it full", withPanel<&Panels::setState, kFull>, Where::Panel},
     {"flyout", "ENTRY", "Opens the flyout menu and chooses the entry of that text", readFlyout,
      Where::Panel},
 };

@@ -369,16 +369,91 @@ public:
     [[nodiscard]] bool isModal() const override {
         return (GetWindowLongW(window_, GWL_STYLE) & WS_CHILD) == 0;
     }
+
     [[nodiscard]] std::string title() const override { return utf8(textOf(window_)); }
-    [[nodiscard]] std::vector<SeenItem> items() const override;
-    void click(int id) override;
-    bool type(std::string_view text) override;
-    bool press(Key key, Modifiers modifiers) override;
-    bool spin(int id, bool up, bool large) override;
-    bool slide(int id, double value, int moves) override;
-    bool choose(int id, std::string_view entry) override;
+    [[nodiscard]] std::vector<SeenItem> items() const override {
+        std::vector<SeenItem> items;
+        for (HWND item = GetWindow(window_, GW_CHILD); item != nullptr;
+             item = GetWindow(item, GW_HWNDNEXT))
+            items.push_back(seen(window_, item));
+        std::reverse(items.begin(), items.end()); // the last that was made lies above
+        return items;
+    }
+
+    void click(int id) override {
+        const HWND field = fieldIn(item(id));
+        const HWND clicked = field != nullptr ? field : item(id);
+        clickAt(clicked, middleOf(clientOf(clicked)));
+    }
+
+    bool type(std::string_view text) override {
+        constexpr WPARAM kControlA = 1;
+        const HWND field = GetFocus();
+        if (classOf(field) != L"Edit" || !hasKeyboard()) return false;
+        SendMessageW(field, WM_CHAR, kControlA, 0);
+        if (text.empty()) SendMessageW(field, WM_KEYDOWN, VK_DELETE, 0);
+        for (const wchar_t character : wide(text))
+            if (IsWindow(field)) SendMessageW(field, WM_CHAR, character, 0);
+        serveWhatWaits();
+        return true;
+    }
+
+    bool press(Key key, Modifiers modifiers) override {
+        if (!isModal() && !hasKeyboard()) return false;
+        strike(hasKeyboard() ? GetFocus() : window_, static_cast<WPARAM>(key), modifiers.alt);
+        return true;
+    }
+
+    /// Whether in large steps the control finds out from the keyboard.
+    bool spin(int id, bool up, bool) override {
+        const HWND field = fieldIn(item(id));
+        const int columns = field != nullptr ? arrowColumns(item(id), field) : 0;
+        if (columns == 0) return false;
+        clickAt(item(id), arrowIn(item(id), columns - 1, up ? 1 : 3));
+        return true;
+    }
+
+    bool slide(int id, double value, int moves) override {
+        const HWND slider = item(id);
+        const auto least = static_cast<double>(SendMessageW(slider, TBM_GETRANGEMIN, 0, 0));
+        const auto most = static_cast<double>(SendMessageW(slider, TBM_GETRANGEMAX, 0, 0));
+        if (!(most > least)) return false;
+        RECT thumb{};
+        RECT bar{};
+        SendMessageW(slider, TBM_GETTHUMBRECT, 0, reinterpret_cast<LPARAM>(&thumb));
+        SendMessageW(slider, TBM_GETCHANNELRECT, 0, reinterpret_cast<LPARAM>(&bar));
+        const double part = std::clamp((value - least) / (most - least), 0.0, 1.0);
+        const POINT from = middleOf(thumb);
+        const LONG to = bar.left + std::lround(part * (bar.right - bar.left));
+        pressButton(slider, from);
+        for (int move = 1; move <= moves; ++move)
+            sendCaptured(slider, WM_MOUSEMOVE, MK_LBUTTON,
+                         {from.x + (to - from.x) * move / moves, from.y});
+        sendCaptured(slider, WM_LBUTTONUP, 0, {to, from.y});
+        serveWhatWaits();
+        return true;
+    }
+
+    bool choose(int id, std::string_view entry) override {
+        const HWND control = item(id);
+        const std::wstring text = wide(entry);
+        if (SendMessageW(control, LB_GETCOUNT, 0, 0) > 0) return clickEntry(control, text);
+        const bool isField = fieldIn(control) != nullptr;
+        clickAt(control, isField ? arrowIn(control, 0, 2) : middleOf(clientOf(control)));
+        const HWND list = openList();
+        if (list == nullptr) return false;
+        const bool found = clickEntry(list, text);
+        const bool chosen = found && openList() == nullptr;
+        if (!chosen)
+            strike(GetFocus(), VK_ESCAPE, false); // an entry that cannot be chosen is dimmed
+        return chosen;
+    }
+
     void clickCloseBox() override { SendMessageW(window_, WM_SYSCOMMAND, SC_CLOSE, 0); }
-    void leave() override;
+    void leave() override {
+        if (hasKeyboard()) SetFocus(nullptr);
+        serveWhatWaits();
+    }
 
 private:
     [[nodiscard]] HWND item(int id) const { return GetDlgItem(window_, id); }
@@ -388,89 +463,6 @@ private:
 
     HWND window_;
 };
-
-std::vector<SeenItem> DialogWindow::items() const {
-    std::vector<SeenItem> items;
-    for (HWND item = GetWindow(window_, GW_CHILD); item != nullptr;
-         item = GetWindow(item, GW_HWNDNEXT))
-        items.push_back(seen(window_, item));
-    std::reverse(items.begin(), items.end()); // the last that was made lies above
-    return items;
-}
-
-void DialogWindow::click(int id) {
-    const HWND field = fieldIn(item(id));
-    const HWND clicked = field != nullptr ? field : item(id);
-    clickAt(clicked, middleOf(clientOf(clicked)));
-}
-
-bool DialogWindow::type(std::string_view text) {
-    constexpr WPARAM kControlA = 1;
-    const HWND field = GetFocus();
-    if (classOf(field) != L"Edit" || !hasKeyboard()) return false;
-    SendMessageW(field, WM_CHAR, kControlA, 0);
-    if (text.empty()) SendMessageW(field, WM_KEYDOWN, VK_DELETE, 0);
-    for (const wchar_t character : wide(text))
-        if (IsWindow(field)) SendMessageW(field, WM_CHAR, character, 0);
-    serveWhatWaits();
-    return true;
-}
-
-bool DialogWindow::press(Key key, Modifiers modifiers) {
-    if (!isModal() && !hasKeyboard()) return false;
-    strike(hasKeyboard() ? GetFocus() : window_, static_cast<WPARAM>(key), modifiers.alt);
-    return true;
-}
-
-/// Whether in large steps the control finds out from the keyboard.
-bool DialogWindow::spin(int id, bool up, bool) {
-    const HWND field = fieldIn(item(id));
-    const int columns = field != nullptr ? arrowColumns(item(id), field) : 0;
-    if (columns == 0) return false;
-    clickAt(item(id), arrowIn(item(id), columns - 1, up ? 1 : 3));
-    return true;
-}
-
-bool DialogWindow::slide(int id, double value, int moves) {
-    const HWND slider = item(id);
-    const auto least = static_cast<double>(SendMessageW(slider, TBM_GETRANGEMIN, 0, 0));
-    const auto most = static_cast<double>(SendMessageW(slider, TBM_GETRANGEMAX, 0, 0));
-    if (!(most > least)) return false;
-    RECT thumb{};
-    RECT bar{};
-    SendMessageW(slider, TBM_GETTHUMBRECT, 0, reinterpret_cast<LPARAM>(&thumb));
-    SendMessageW(slider, TBM_GETCHANNELRECT, 0, reinterpret_cast<LPARAM>(&bar));
-    const double part = std::clamp((value - least) / (most - least), 0.0, 1.0);
-    const POINT from = middleOf(thumb);
-    const LONG to = bar.left + std::lround(part * (bar.right - bar.left));
-    pressButton(slider, from);
-    for (int move = 1; move <= moves; ++move)
-        sendCaptured(slider, WM_MOUSEMOVE, MK_LBUTTON,
-                     {from.x + (to - from.x) * move / moves, from.y});
-    sendCaptured(slider, WM_LBUTTONUP, 0, {to, from.y});
-    serveWhatWaits();
-    return true;
-}
-
-bool DialogWindow::choose(int id, std::string_view entry) {
-    const HWND control = item(id);
-    const std::wstring text = wide(entry);
-    if (SendMessageW(control, LB_GETCOUNT, 0, 0) > 0) return clickEntry(control, text);
-    const bool isField = fieldIn(control) != nullptr;
-    clickAt(control, isField ? arrowIn(control, 0, 2) : middleOf(clientOf(control)));
-    const HWND list = openList();
-    if (list == nullptr) return false;
-    const bool found = clickEntry(list, text);
-    const bool chosen = found && openList() == nullptr;
-    if (!chosen) strike(GetFocus(), VK_ESCAPE, false); // an entry that cannot be chosen is dimmed
-    return chosen;
-}
-
-void DialogWindow::leave() {
-    if (hasKeyboard()) SetFocus(nullptr);
-    serveWhatWaits();
-}
-
 /// Where the windows that were found last are kept.
 Dialog* found(HWND window, std::unique_ptr<DialogWindow>& place) {
     place = window != nullptr ? std::make_unique<DialogWindow>(window) : nullptr;

@@ -2,7 +2,6 @@
 
 #include "easel/script/Deeds.h"
 #include "easel/script/Dialogs.h"
-#include "easel/svg/SvgFile.h"
 
 namespace easel::script {
 namespace {
