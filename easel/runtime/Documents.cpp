@@ -9,14 +9,6 @@
 #include <algorithm>
 
 namespace easel {
-namespace {
-
-std::string commandNotifier(const char* when, const char* command) {
-    return std::string("AI Command Notifier: ") + when + ' ' + command;
-}
-
-} // namespace
-
 Documents::~Documents() { session_.current = nullptr; }
 
 Document& Documents::open(std::unique_ptr<Document> opened) {
@@ -57,17 +49,10 @@ void Documents::afterSaving() {
     notifiers_.queue("AI Document Saved Notifier");
 }
 
-bool Documents::undo() {
-    notifiers_.notify(commandNotifier("Before", "Undo"));
-    const bool done = session_.document().undo().undo();
-    notifiers_.queue(commandNotifier("After", "Undo"));
-    return done;
-}
-
-bool Documents::redo() {
-    notifiers_.notify(commandNotifier("Before", "Redo"));
-    const bool done = session_.document().undo().redo();
-    notifiers_.queue(commandNotifier("After", "Redo"));
+bool Documents::walk(const std::string& command, bool (UndoLog::*step)()) {
+    notifiers_.notify("AI Command Notifier: Before " + command);
+    const bool done = (session_.document().undo().*step)();
+    notifiers_.queue("AI Command Notifier: After " + command);
     return done;
 }
 

@@ -35,8 +35,8 @@ public:
     void beforeSaving();
     void afterSaving();
     /// False when there was nothing to undo.
-    bool undo();
-    bool redo();
+    bool undo() { return walk("Undo", &UndoLog::undo); }
+    bool redo() { return walk("Redo", &UndoLog::redo); }
     /// One undo step with that menu text. Choosing what is selected is a silent one.
     void edit(const std::string& undoText, const std::function<void(Document&)>& change,
               AIUndoContextKind kind);
@@ -44,6 +44,8 @@ public:
     DocumentChanges collectChanges();
 
 private:
+    bool walk(const std::string& command, bool (UndoLog::*step)());
+
     Session& session_;
     Contexts& contexts_;
     Notifiers& notifiers_;

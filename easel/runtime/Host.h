@@ -76,36 +76,22 @@ public:
         return documents_.all();
     }
     void beforeSaving() { documents_.beforeSaving(); }
-    void afterSaving() {
-        act([&] { documents_.afterSaving(); });
-    }
+    void afterSaving() { act(&Documents::afterSaving, documents_); }
     /// False when there was nothing to undo.
-    bool undo() {
-        return act([&] { return documents_.undo(); });
-    }
-    bool redo() {
-        return act([&] { return documents_.redo(); });
-    }
+    bool undo() { return act(&Documents::undo, documents_); }
+    bool redo() { return act(&Documents::redo, documents_); }
     /// What the Undo item of the menu would say.
     [[nodiscard]] std::string undoText() const;
     void edit(const std::string& undoText, const std::function<void(Document&)>& change,
               AIUndoContextKind kind = kStandardUndoContext) {
-        act([&] { documents_.edit(undoText, change, kind); });
+        act(&Documents::edit, documents_, undoText, change, kind);
     }
 
     // Menus and panels
-    void openMenus() {
-        act([&] { menus.open(sender); });
-    }
-    void chooseMenuItem(AIMenuItemHandle item) {
-        act([&] { menus.choose(sender, item); });
-    }
-    void showPanel(AIPanelRef panel, bool shown) {
-        act([&] { panels.show(panel, shown); });
-    }
-    void cyclePanel(AIPanelRef panel) {
-        act([&] { panels.cycle(panel); });
-    }
+    void openMenus() { act(&Menus::open, menus, sender); }
+    void chooseMenuItem(AIMenuItemHandle item) { act(&Menus::choose, menus, sender, item); }
+    void showPanel(AIPanelRef panel, bool shown) { act(&Panels::show, panels, panel, shown); }
+    void cyclePanel(AIPanelRef panel) { act(&Panels::cycle, panels, panel); }
     /// The menu as the plug-in has brought it up to date. Throws 'INVD' when the panel has none.
     const FlyoutMenu& openFlyout(AIPanelRef panel) { return panels.openFlyout(panel); }
     /// Opens the flyout menu and chooses the item, or nothing when it cannot be chosen.
@@ -113,32 +99,16 @@ public:
 
     // Tools: see `Tools`
     void selectTool(AIToolHandle tool, AIToolType builtIn = Tools::kSelectTool) {
-        act([&] { tools.select(tool, builtIn); });
+        act(&Tools::select, tools, tool, builtIn);
     }
-    void track(const MousePoint& mouse) {
-        act([&] { tools.track(mouse); });
-    }
-    void press(const MousePoint& mouse) {
-        gesture([&] { tools.press(mouse); });
-    }
-    void drag(const MousePoint& mouse) {
-        gesture([&] { tools.drag(mouse); });
-    }
-    void release(const MousePoint& mouse) {
-        act([&] { tools.release(mouse); });
-    }
-    void endPath() {
-        act([&] { tools.endPath(); });
-    }
-    void editToolOptions() {
-        act([&] { tools.editOptions(); });
-    }
-    void decreaseDiameter() {
-        act([&] { tools.decreaseDiameter(); });
-    }
-    void increaseDiameter() {
-        act([&] { tools.increaseDiameter(); });
-    }
+    void track(const MousePoint& mouse) { act(&Tools::track, tools, mouse); }
+    void press(const MousePoint& mouse) { gesture(&Tools::press, mouse); }
+    void drag(const MousePoint& mouse) { gesture(&Tools::drag, mouse); }
+    void release(const MousePoint& mouse) { act(&Tools::release, tools, mouse); }
+    void endPath() { act(&Tools::endPath, tools); }
+    void editToolOptions() { act(&Tools::editOptions, tools); }
+    void decreaseDiameter() { act(&Tools::decreaseDiameter, tools); }
+    void increaseDiameter() { act(&Tools::increaseDiameter, tools); }
 
     // The window
     void zoom(AIReal factor);
@@ -192,22 +162,24 @@ public:
     std::vector<SentMessage>& sent; ///< Of `sender`.
 
 private:
-    /// What the user does, and what comes of it.
-    template <typename Act> std::invoke_result_t<Act&> act(Act act) {
-        if constexpr (std::is_void_v<std::invoke_result_t<Act&>>) {
-            act();
+    /// What the user does with a part of the host, and what comes of it.
+    template <typename Deed, typename Part, typename... Arguments>
+    std::invoke_result_t<Deed, Part&, Arguments&...> act(Deed deed, Part& part,
+                                                         Arguments&&... arguments) {
+        if constexpr (std::is_void_v<decltype(std::invoke(deed, part, arguments...))>) {
+            std::invoke(deed, part, arguments...);
             idle();
         } else {
-            const auto result = act();
+            const auto result = std::invoke(deed, part, arguments...);
             idle();
             return result;
         }
     }
     /// A part of what the user does with the mouse: notifications wait for its end, but what has
     /// become of the drawing is seen.
-    template <typename Act> void gesture(Act act) {
+    void gesture(void (Tools::*deed)(const MousePoint&), const MousePoint& mouse) {
         const std::pair before{session.lastStamp, session.exchanges};
-        act();
+        (tools.*deed)(mouse);
         if (before != std::pair{session.lastStamp, session.exchanges}) redrawLater();
         stale_ = stale_ || tools.marquee();
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/Types.h"
+#include "host/suites/AIPanelFlyoutMenuSuite.h"
 #include "host/suites/AIPanelSuite.h"
 
 #include <functional>
@@ -23,13 +24,13 @@ struct PanelButtons {
     bool flyout = false;
 };
 
-/// One line of a menu that pops up.
-struct PopupLine {
+/// One line of the menu that pops up under the flyout button.
+struct FlyoutItem {
     ai::uint32 id = 0;
     std::u32string text;
     bool isSeparator = false;
-    bool enabled = true;
-    bool marked = false;
+    AIBoolean enabled = 1;
+    AIPanelFlyoutMenuItemMark mark = AIPanelFlyoutMenuItemMark::None;
 };
 
 /// Where panels lie in the host's own window; without one they float.
@@ -57,7 +58,7 @@ public:
     /// Screen pixels; a panel in a dock lies where the dock puts it.
     void move(AIPoint topLeft);
     /// Lets the user choose from a menu under the flyout button; 0: chose nothing.
-    [[nodiscard]] ai::uint32 popUp(const std::vector<PopupLine>& lines);
+    [[nodiscard]] ai::uint32 popUp(const std::vector<FlyoutItem>& items);
 
 private:
     struct System;

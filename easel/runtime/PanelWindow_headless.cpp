@@ -11,7 +11,7 @@ AIPanelPlatformWindow PanelWindow::client() const noexcept { return nullptr; }
 void PanelWindow::setTitle(const std::u32string&) {}
 void PanelWindow::setSize(AISize) {}
 void PanelWindow::setButtons(PanelButtons) {}
-ai::uint32 PanelWindow::popUp(const std::vector<PopupLine>&) { return 0; }
+ai::uint32 PanelWindow::popUp(const std::vector<FlyoutItem>&) { return 0; }
 void PanelWindow::show(bool) {}
 void PanelWindow::move(AIPoint) {}
 

@@ -118,19 +118,11 @@ void Panels::chooseFromFlyout(AIPanelRef ref, ai::uint32 id) {
 }
 
 void Panels::chooseOnScreen(AIPanelRef ref) {
-    const ai::uint32 id = popUpFlyout(ref);
+    const ai::uint32 id = at(ref).window->popUp(openFlyout(ref).items);
     std::string deed;
     for (const FlyoutItem& item : menu(at(ref).flyout).items)
         if (id != 0 && item.id == id) deed = "flyout \"" + utf8FromUtf32(item.text) + '"';
     act(deed, [&] { chooseFromFlyout(ref, id); });
-}
-
-ai::uint32 Panels::popUpFlyout(AIPanelRef ref) {
-    std::vector<PopupLine> lines;
-    for (const FlyoutItem& item : openFlyout(ref).items)
-        lines.push_back({item.id, item.text, item.isSeparator, item.enabled != 0,
-                         item.mark != AIPanelFlyoutMenuItemMark::None});
-    return at(ref).window->popUp(lines);
 }
 
 std::vector<std::string> Panels::removeAllOf(SPPluginRef plugin) {

@@ -3,8 +3,6 @@
 #include "easel/core/Registry.h"
 #include "easel/runtime/PanelWindow.h"
 #include "host/Handles.h"
-#include "host/suites/AIPanelFlyoutMenuSuite.h"
-#include "host/suites/AIPanelSuite.h"
 
 #include <functional>
 #include <memory>
@@ -13,14 +11,6 @@
 #include <vector>
 
 namespace easel {
-
-struct FlyoutItem {
-    ai::uint32 id = 0;
-    std::u32string text;
-    bool isSeparator = false;
-    AIBoolean enabled = 1;
-    AIPanelFlyoutMenuItemMark mark = AIPanelFlyoutMenuItemMark::None;
-};
 
 struct FlyoutMenu {
     SPPluginRef plugin = nullptr; ///< That was answering when it was made; null: none was.
@@ -88,8 +78,6 @@ public:
     const FlyoutMenu& openFlyout(AIPanelRef panel);
     /// The open menu closes: tells what was chosen, or nothing when that cannot be.
     void chooseFromFlyout(AIPanelRef panel, ai::uint32 id);
-    /// The user opens the flyout menu on the screen and chooses; 0: nothing.
-    [[nodiscard]] ai::uint32 popUpFlyout(AIPanelRef panel);
 
     PanelDock dock; ///< Of the panels that are made from now on.
     /// Hears what the user does to a panel's window, in a script's words, before it is done.
@@ -104,6 +92,7 @@ private:
         act();
         userHasActed_();
     }
+    /// The user opens the flyout menu on the screen and chooses, or chooses nothing.
     void chooseOnScreen(AIPanelRef panel);
 
     std::function<void()> userHasActed_;

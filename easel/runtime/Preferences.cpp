@@ -7,15 +7,10 @@ namespace {
 
 using Value = Preferences::Value;
 
-struct Default {
-    const char* suffix;
-    Value value;
-};
-
 } // namespace
 
 Preferences::Preferences() {
-    const Default defaults[] = {
+    const std::pair<const char*, Value> defaults[] = {
         {"constrain/angle", 0.0},
         {"constrain/cos", 1.0},
         {"constrain/sin", 0.0},
@@ -24,8 +19,8 @@ Preferences::Preferences() {
         {"snapToPoint", true},
         {"selectionTolerance", ai::int32{3}},
     };
-    for (const Default& each : defaults)
-        put("", each.suffix, each.value);
+    for (const auto& [suffix, value] : defaults)
+        put("", suffix, value);
 }
 
 void Preferences::put(std::string_view prefix, std::string_view suffix, Value value) {
