@@ -4,7 +4,6 @@
 #include "easel/cli/Statistics.h"
 #include "easel/cli/Terminal.h"
 #include "easel/paint/PaintDocument.h"
-#include "easel/svg/SvgFile.h"
 
 #include <optional>
 
@@ -44,10 +43,10 @@ void mirrorDrawing(MirrorSession& session, const MirrorCommand& command, Report&
     report.begin("read", "Reading");
     for (const std::string& warning : session.open(command.input))
         report.error << warning << '\n';
-    report.statistics.before = countArt(session.host.session.document());
+    report.statistics.before = inventoryOf(session.host.session.document());
     report.begin("mirror", "Mirroring");
     session.mirror(command.request);
-    report.statistics.after = countArt(session.host.session.document());
+    report.statistics.after = inventoryOf(session.host.session.document());
     // The picture first: if it cannot be made, no drawing is written either.
     std::optional<OutputFile> picture;
     if (!command.picture.empty()) {
@@ -90,7 +89,7 @@ ExitStatus runMirror(Session& session, const MirrorCommand& command, std::ostrea
         statistics.hostCalls = session.calls.total();
         if (command.statistics) out << toJson(statistics) << '\n';
         return status;
-    } catch (const svg::FileError& wrong) {
+    } catch (const FileError& wrong) {
         error << wrong.what() << '\n';
     } catch (const ai::Error& wrong) {
         error << "easel: " << command.input.string() << ": failed with " << codeText(wrong.code)

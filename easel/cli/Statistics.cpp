@@ -2,30 +2,22 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <numeric>
+
 namespace easel {
 namespace {
 
 using Json = nlohmann::ordered_json;
 
-Json toJson(const ArtCounts& counts) {
-    return {{"art", counts.art}, {"paths", counts.paths}, {"segments", counts.segments}};
+Json toJson(const Inventory& counts) {
+    const auto* const paths = std::ranges::find(kKinds, kPathArt, &KindName::type);
+    return {{"art", std::accumulate(counts.kinds.begin(), counts.kinds.end(), 0)},
+            {"paths", counts.kinds[static_cast<std::size_t>(paths - kKinds)]},
+            {"segments", counts.segments}};
 }
 
 } // namespace
-
-ArtCounts countArt(const Document& document) {
-    ArtCounts counts;
-    const Art& root = document.root();
-    for (const Art* art = nextInPreorder(root, root); art != nullptr;
-         art = nextInPreorder(*art, root)) {
-        if (art->isLayer()) continue;
-        ++counts.art;
-        if (art->type() != kPathArt) continue;
-        ++counts.paths;
-        counts.segments += art->segments().size();
-    }
-    return counts;
-}
 
 void Stopwatch::begin(std::string phase) {
     end();

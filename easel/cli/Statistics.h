@@ -1,6 +1,6 @@
 #pragma once
 
-#include "easel/document/Document.h"
+#include "easel/session/Inventory.h"
 
 #include <chrono>
 #include <string>
@@ -8,14 +8,6 @@
 #include <vector>
 
 namespace easel {
-
-/// How much a document holds.
-struct ArtCounts {
-    std::size_t art = 0; ///< Layers left out.
-    std::size_t paths = 0;
-    std::size_t segments = 0;
-};
-[[nodiscard]] ArtCounts countArt(const Document& document);
 
 /// Seconds spent in the phases of a command, in the order in which they began.
 class Stopwatch {
@@ -35,8 +27,8 @@ private:
 };
 
 struct Statistics {
-    ArtCounts before;
-    ArtCounts after;
+    Inventory before;
+    Inventory after;
     std::uint64_t hostCalls = 0;
     Stopwatch time;
 };
