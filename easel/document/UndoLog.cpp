@@ -142,21 +142,16 @@ ai::int32 UndoLog::futureSteps() const noexcept {
     return static_cast<ai::int32>(std::ranges::count(future_, kStandardUndoContext, &Record::kind));
 }
 
-const UndoLog::Record* UndoLog::step(const std::deque<Record>& records, ai::int32 back) noexcept {
-    for (auto record = records.rbegin(); record != records.rend(); ++record)
-        if (record->kind == kStandardUndoContext && back-- == 0) return &*record;
-    return nullptr;
+std::string UndoLog::lastText(const std::deque<Record>& records, std::string Record::*text) {
+    const auto last = std::find_if(records.rbegin(), records.rend(), [](const Record& record) {
+        return record.kind == kStandardUndoContext;
+    });
+    return last != records.rend() ? (*last).*text : std::string();
 }
 
-std::string UndoLog::undoText() const {
-    const Record* next = step(past_, 0);
-    return next != nullptr ? next->undoText : std::string();
-}
+std::string UndoLog::undoText() const { return lastText(past_, &Record::undoText); }
 
-std::string UndoLog::redoText() const {
-    const Record* next = step(future_, 0);
-    return next != nullptr ? next->redoText : std::string();
-}
+std::string UndoLog::redoText() const { return lastText(future_, &Record::redoText); }
 
 void UndoLog::clear() {
     discardFuture();

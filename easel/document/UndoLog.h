@@ -93,9 +93,9 @@ private:
     struct LinksState;
 
     [[nodiscard]] bool isOwnStep(const Record& record) const noexcept;
-    /// The standard record that lies `back` standard records before the end; null when none does.
-    [[nodiscard]] static const Record* step(const std::deque<Record>& records,
-                                            ai::int32 back) noexcept;
+    /// That of the last standard record; empty when there is none.
+    [[nodiscard]] static std::string lastText(const std::deque<Record>& records,
+                                              std::string Record::*text);
     [[nodiscard]] bool recording();
     void keepLife(Art& art);
     static void releaseLife(Art& art);

@@ -50,15 +50,13 @@ Properties Element::properties(const StyleSheet& sheet,
     const auto add = [&](const Declaration& declaration) {
         result[declaration.property] = declaration.value;
     };
-    for (const Declaration* declaration : sheet.matching(path, false))
-        add(*declaration);
     const std::vector<Declaration> own = parseDeclarations(get("style"));
-    for (const Declaration& declaration : own)
-        if (!declaration.important) add(declaration);
-    for (const Declaration* declaration : sheet.matching(path, true))
-        add(*declaration);
-    for (const Declaration& declaration : own)
-        if (declaration.important) add(declaration);
+    for (const bool important : {false, true}) {
+        for (const Declaration* declaration : sheet.matching(path, important))
+            add(*declaration);
+        for (const Declaration& declaration : own)
+            if (declaration.important == important) add(declaration);
+    }
     return result;
 }
 

@@ -1,8 +1,9 @@
 #include "easel/svg/LayerTags.h"
 
 #include "easel/document/Layers.h"
-#include "easel/svg/ArtAttributes.h"
 #include "easel/svg/Element.h"
+
+#include <utility>
 
 namespace easel::svg {
 
@@ -17,23 +18,19 @@ LayerTags layerTags(const Document& document, const DrawingSource& source, const
         const std::string& title = layer->details().layer.title;
         shown.push_back(title);
         titles.push_back(title);
-        const bool isLoose = read != nullptr && read->node == kNoNode;
-        if (read == nullptr) {
-            belowIsLoose = false;
-            continue;
-        }
-        const bool sameTitle = title == read->content.details->layer.title;
-        if (!isLoose) {
+        const bool wasBelow = std::exchange(belowIsLoose, false);
+        if (read == nullptr) continue;
+        if (read->node != kNoNode) {
+            const bool sameTitle = title == read->content.details->layer.title;
             const Element element{*source.tree, read->node};
             if (sameTitle && element.get("inkscape:label").empty() && element.get("id").empty())
                 titles.back().clear();
-            belowIsLoose = false;
             continue;
         }
         const bool isOnlyOne = root.firstChild() == root.lastChild();
         const bool same = asRead.hasSameState(*layer, *read) &&
                           layer->dictionaryIfAny() == nullptr && layer->style().opacity == 1 &&
-                          !layer->content().clipped && !belowIsLoose &&
+                          !layer->content().clipped && !wasBelow &&
                           (layer->firstChild() != nullptr || isOnlyOne);
         if (same)
             titles.back().clear();

@@ -11,78 +11,6 @@ namespace {
 /// A dash pattern with more parts is no pattern any more.
 constexpr std::size_t kMostDashes = 1024;
 
-/// In alphabetical order, for a binary search.
-constexpr Property kProperties[] = {
-    {"alignment-baseline", false, false, true, ""},
-    {"baseline-shift", false, false, true, ""},
-    {"clip-path", true, false, false, "none"},
-    {"clip-rule", true, true, false, "nonzero"},
-    {"color", true, true, false, "black"},
-    {"color-interpolation", false, true, false, "sRGB"},
-    {"color-interpolation-filters", false, true, false, "linearRGB"},
-    {"color-rendering", false, true, false, "auto"},
-    {"cursor", false, true, false, ""},
-    {"direction", false, true, true, "ltr"},
-    {"display", true, false, false, "inline"},
-    {"dominant-baseline", false, true, true, "auto"},
-    {"enable-background", false, false, false, ""},
-    {"fill", true, true, false, "#000000"},
-    {"fill-opacity", true, true, false, "1"},
-    {"fill-rule", true, true, false, "nonzero"},
-    {"filter", false, false, false, "none"},
-    {"font", false, true, true, ""},
-    {"font-family", false, true, true, ""},
-    {"font-feature-settings", false, true, true, ""},
-    {"font-kerning", false, true, true, ""},
-    {"font-size", false, true, true, "medium"},
-    {"font-size-adjust", false, true, true, ""},
-    {"font-stretch", false, true, true, "normal"},
-    {"font-style", false, true, true, "normal"},
-    {"font-variant", false, true, true, "normal"},
-    {"font-weight", false, true, true, "normal"},
-    {"glyph-orientation-vertical", false, true, true, ""},
-    {"image-rendering", false, true, false, "auto"},
-    {"isolation", false, false, false, ""},
-    {"kerning", false, true, true, ""},
-    {"letter-spacing", false, true, true, "normal"},
-    {"line-height", false, true, true, ""},
-    {"marker", false, true, false, "none"},
-    {"marker-end", false, true, false, "none"},
-    {"marker-mid", false, true, false, "none"},
-    {"marker-start", false, true, false, "none"},
-    {"mask", false, false, false, "none"},
-    {"mix-blend-mode", false, false, false, "normal"},
-    {"opacity", true, false, false, "1"},
-    {"overflow", false, false, false, ""},
-    {"paint-order", false, true, false, "normal"},
-    {"pointer-events", false, true, false, ""},
-    {"shape-rendering", false, true, false, "auto"},
-    {"stop-color", true, false, false, "black"},
-    {"stop-opacity", true, false, false, "1"},
-    {"stroke", true, true, false, "none"},
-    {"stroke-dasharray", true, true, false, "none"},
-    {"stroke-dashoffset", true, true, false, "0"},
-    {"stroke-linecap", true, true, false, "butt"},
-    {"stroke-linejoin", true, true, false, "miter"},
-    {"stroke-miterlimit", true, true, false, "4"},
-    {"stroke-opacity", true, true, false, "1"},
-    {"stroke-width", true, true, false, "1"},
-    {"text-align", false, true, true, ""},
-    {"text-anchor", false, true, true, "start"},
-    {"text-decoration", false, false, true, ""},
-    {"text-indent", false, true, true, ""},
-    {"text-rendering", false, true, true, ""},
-    {"text-transform", false, true, true, ""},
-    {"unicode-bidi", false, false, true, ""},
-    {"vector-effect", false, false, false, "none"},
-    {"visibility", true, true, false, "visible"},
-    {"white-space", false, true, true, ""},
-    {"word-spacing", false, true, true, "normal"},
-    {"writing-mode", false, true, true, ""},
-};
-static_assert(std::ranges::is_sorted(kProperties, {}, &Property::name));
-constexpr Property kNoProperty;
-
 std::optional<Paint> parsePaint(std::string_view text, const Colour& current) {
     text = trimmed(text);
     if (text == "none") return Paint{};
@@ -103,7 +31,10 @@ std::optional<Paint> parsePaint(std::string_view text, const Colour& current) {
     return std::nullopt;
 }
 
-struct Context {
+} // namespace
+
+/// What a property says where it stands.
+struct PropertyValue {
     Style& style;
     const Style& parent;
     std::string_view value;
@@ -114,6 +45,8 @@ struct Context {
     }
 };
 
+namespace {
+
 // Setters: false for a value that is not understood, which changes nothing.
 
 template <typename T> bool assign(T& target, const std::optional<T>& value) {
@@ -121,8 +54,8 @@ template <typename T> bool assign(T& target, const std::optional<T>& value) {
     return value.has_value();
 }
 
-bool setFraction(double& target, std::string_view value) {
-    return assign(target, parseFraction(value));
+template <double Style::*Member> bool setFraction(const PropertyValue& c) {
+    return assign(c.style.*Member, parseFraction(c.value));
 }
 
 template <typename T> struct Word {
@@ -131,14 +64,18 @@ template <typename T> struct Word {
 };
 
 template <typename T, std::size_t N>
-bool setWord(T& target, std::string_view value, const Word<T> (&words)[N]) {
+bool setByWord(T& target, std::string_view value, const Word<T> (&words)[N]) {
     const auto* const word = std::ranges::find(words, value, &Word<T>::text);
     if (word == std::end(words)) return false;
     target = word->value;
     return true;
 }
 
-bool setDashes(const Context& c) {
+template <auto Member, const auto& Words> bool setWord(const PropertyValue& c) {
+    return setByWord(c.style.*Member, c.value, Words);
+}
+
+bool setDashes(const PropertyValue& c) {
     if (c.value == "none") {
         c.style.dashes.clear();
         return true;
@@ -159,7 +96,7 @@ bool setDashes(const Context& c) {
     return true;
 }
 
-bool setFontSize(const Context& c) {
+bool setFontSize(const PropertyValue& c) {
     constexpr Word<double> kSizes[] = {{"xx-small", 9}, {"x-small", 10}, {"small", 13},
                                        {"medium", 16},  {"large", 18},   {"x-large", 24},
                                        {"xx-large", 32}};
@@ -168,13 +105,13 @@ bool setFontSize(const Context& c) {
     if (c.value == "larger") size = 1.2 * parentSize;
     if (c.value == "smaller") size = parentSize / 1.2;
     double known = 0.0;
-    if (setWord(known, c.value, kSizes)) size = known;
+    if (setByWord(known, c.value, kSizes)) size = known;
     if (!size || !(*size >= 0 && *size <= kLargestCoordinate)) return false;
     c.style.font.size = *size;
     return true;
 }
 
-bool setFontFamily(const Context& c) {
+bool setFontFamily(const PropertyValue& c) {
     std::string_view first = trimmed(c.value.substr(0, c.value.find(',')));
     if (first.size() >= 2 && (first.front() == '\'' || first.front() == '"'))
         first = first.substr(1, first.size() - 2);
@@ -182,20 +119,41 @@ bool setFontFamily(const Context& c) {
     return true;
 }
 
-bool setStrokeWidth(const Context& c) {
+bool setStrokeWidth(const PropertyValue& c) {
     const auto width = c.length();
     if (!width || !(*width >= 0 && *width <= kLargestCoordinate)) return false;
     c.style.strokeWidth = *width;
     return true;
 }
 
-bool setClipPath(const Context& c) {
+bool setClipPath(const PropertyValue& c) {
     c.style.clipPath = referenceIn(c.value);
     return !c.style.clipPath.empty() || c.value == "none";
 }
 
-bool setPaint(Paint& target, const Context& c) {
-    return assign(target, parsePaint(c.value, c.style.color));
+template <Paint Style::*Member> bool setPaint(const PropertyValue& c) {
+    return assign(c.style.*Member, parsePaint(c.value, c.style.color));
+}
+
+bool setColor(const PropertyValue& c) { return assign(c.style.color, parseColour(c.value)); }
+
+bool setStopColour(const PropertyValue& c) {
+    const auto paint = parsePaint(c.value, c.style.color);
+    if (!paint || paint->kind != Paint::Kind::Plain) return false;
+    c.style.stopColour = paint->colour;
+    return true;
+}
+
+bool setMiterLimit(const PropertyValue& c) {
+    const auto limit = parseNumber(c.value);
+    return limit && *limit >= 1 && assign(c.style.miterLimit, limit);
+}
+
+bool setDashOffset(const PropertyValue& c) { return assign(c.style.dashOffset, c.length()); }
+
+bool setDisplay(const PropertyValue& c) {
+    c.style.displayed = c.value != "none";
+    return true;
 }
 
 constexpr Word<bool> kRules[] = {{"nonzero", false}, {"evenodd", true}};
@@ -209,52 +167,86 @@ constexpr Word<TextAnchor> kAnchors[] = {
     {"start", TextAnchor::Start}, {"middle", TextAnchor::Middle}, {"end", TextAnchor::End}};
 constexpr Word<bool> kVisibility[] = {{"visible", true}, {"hidden", false}, {"collapse", false}};
 
-struct Setter {
-    std::string_view property;
-    bool (*set)(const Context&);
+bool setFontWeight(const PropertyValue& c) {
+    if (const auto weight = parseNumber(c.value)) c.style.font.bold = *weight >= 600;
+    return setByWord(c.style.font.bold, c.value, kWeights);
+}
+
+bool setFontStyle(const PropertyValue& c) {
+    return setByWord(c.style.font.italic, c.value, kSlants);
+}
+
+/// In alphabetical order, for a binary search.
+constexpr Property kProperties[] = {
+    {"alignment-baseline", false, false, true, ""},
+    {"baseline-shift", false, false, true, ""},
+    {"clip-path", true, false, false, "none", setClipPath},
+    {"clip-rule", true, true, false, "nonzero", setWord<&Style::clipEvenOdd, kRules>},
+    {"color", true, true, false, "black", setColor},
+    {"color-interpolation", false, true, false, "sRGB"},
+    {"color-interpolation-filters", false, true, false, "linearRGB"},
+    {"color-rendering", false, true, false, "auto"},
+    {"cursor", false, true, false, ""},
+    {"direction", false, true, true, "ltr"},
+    {"display", true, false, false, "inline", setDisplay},
+    {"dominant-baseline", false, true, true, "auto"},
+    {"enable-background", false, false, false, ""},
+    {"fill", true, true, false, "#000000", setPaint<&Style::fill>},
+    {"fill-opacity", true, true, false, "1", setFraction<&Style::fillOpacity>},
+    {"fill-rule", true, true, false, "nonzero", setWord<&Style::evenOdd, kRules>},
+    {"filter", false, false, false, "none"},
+    {"font", false, true, true, ""},
+    {"font-family", false, true, true, "", setFontFamily},
+    {"font-feature-settings", false, true, true, ""},
+    {"font-kerning", false, true, true, ""},
+    {"font-size", false, true, true, "medium", setFontSize},
+    {"font-size-adjust", false, true, true, ""},
+    {"font-stretch", false, true, true, "normal"},
+    {"font-style", false, true, true, "normal", setFontStyle},
+    {"font-variant", false, true, true, "normal"},
+    {"font-weight", false, true, true, "normal", setFontWeight},
+    {"glyph-orientation-vertical", false, true, true, ""},
+    {"image-rendering", false, true, false, "auto"},
+    {"isolation", false, false, false, ""},
+    {"kerning", false, true, true, ""},
+    {"letter-spacing", false, true, true, "normal"},
+    {"line-height", false, true, true, ""},
+    {"marker", false, true, false, "none"},
+    {"marker-end", false, true, false, "none"},
+    {"marker-mid", false, true, false, "none"},
+    {"marker-start", false, true, false, "none"},
+    {"mask", false, false, false, "none"},
+    {"mix-blend-mode", false, false, false, "normal"},
+    {"opacity", true, false, false, "1", setFraction<&Style::opacity>},
+    {"overflow", false, false, false, ""},
+    {"paint-order", false, true, false, "normal"},
+    {"pointer-events", false, true, false, ""},
+    {"shape-rendering", false, true, false, "auto"},
+    {"stop-color", true, false, false, "black", setStopColour},
+    {"stop-opacity", true, false, false, "1", setFraction<&Style::stopOpacity>},
+    {"stroke", true, true, false, "none", setPaint<&Style::stroke>},
+    {"stroke-dasharray", true, true, false, "none", setDashes},
+    {"stroke-dashoffset", true, true, false, "0", setDashOffset},
+    {"stroke-linecap", true, true, false, "butt", setWord<&Style::cap, kCaps>},
+    {"stroke-linejoin", true, true, false, "miter", setWord<&Style::join, kJoins>},
+    {"stroke-miterlimit", true, true, false, "4", setMiterLimit},
+    {"stroke-opacity", true, true, false, "1", setFraction<&Style::strokeOpacity>},
+    {"stroke-width", true, true, false, "1", setStrokeWidth},
+    {"text-align", false, true, true, ""},
+    {"text-anchor", false, true, true, "start", setWord<&Style::anchor, kAnchors>},
+    {"text-decoration", false, false, true, ""},
+    {"text-indent", false, true, true, ""},
+    {"text-rendering", false, true, true, ""},
+    {"text-transform", false, true, true, ""},
+    {"unicode-bidi", false, false, true, ""},
+    {"vector-effect", false, false, false, "none"},
+    {"visibility", true, true, false, "visible", setWord<&Style::visible, kVisibility>},
+    {"white-space", false, true, true, ""},
+    {"word-spacing", false, true, true, "normal"},
+    {"writing-mode", false, true, true, ""},
 };
-constexpr Setter kSetters[] = {
-    {"color", [](const Context& c) { return assign(c.style.color, parseColour(c.value)); }},
-    {"fill", [](const Context& c) { return setPaint(c.style.fill, c); }},
-    {"stroke", [](const Context& c) { return setPaint(c.style.stroke, c); }},
-    {"fill-opacity", [](const Context& c) { return setFraction(c.style.fillOpacity, c.value); }},
-    {"stroke-opacity",
-     [](const Context& c) { return setFraction(c.style.strokeOpacity, c.value); }},
-    {"opacity", [](const Context& c) { return setFraction(c.style.opacity, c.value); }},
-    {"stroke-width", setStrokeWidth},
-    {"stroke-miterlimit",
-     [](const Context& c) {
-         const auto limit = parseNumber(c.value);
-         return limit && *limit >= 1 && assign(c.style.miterLimit, limit);
-     }},
-    {"stroke-dasharray", setDashes},
-    {"stroke-dashoffset", [](const Context& c) { return assign(c.style.dashOffset, c.length()); }},
-    {"stroke-linecap", [](const Context& c) { return setWord(c.style.cap, c.value, kCaps); }},
-    {"stroke-linejoin", [](const Context& c) { return setWord(c.style.join, c.value, kJoins); }},
-    {"fill-rule", [](const Context& c) { return setWord(c.style.evenOdd, c.value, kRules); }},
-    {"clip-rule", [](const Context& c) { return setWord(c.style.clipEvenOdd, c.value, kRules); }},
-    {"visibility", [](const Context& c) { return setWord(c.style.visible, c.value, kVisibility); }},
-    {"display",
-     [](const Context& c) { return assign(c.style.displayed, std::optional{c.value != "none"}); }},
-    {"clip-path", setClipPath},
-    {"stop-color",
-     [](const Context& c) {
-         Paint paint;
-         if (!setPaint(paint, c) || paint.kind != Paint::Kind::Plain) return false;
-         c.style.stopColour = paint.colour;
-         return true;
-     }},
-    {"stop-opacity", [](const Context& c) { return setFraction(c.style.stopOpacity, c.value); }},
-    {"font-family", setFontFamily},
-    {"font-size", setFontSize},
-    {"font-weight",
-     [](const Context& c) {
-         if (const auto weight = parseNumber(c.value)) c.style.font.bold = *weight >= 600;
-         return setWord(c.style.font.bold, c.value, kWeights);
-     }},
-    {"font-style", [](const Context& c) { return setWord(c.style.font.italic, c.value, kSlants); }},
-    {"text-anchor", [](const Context& c) { return setWord(c.style.anchor, c.value, kAnchors); }},
-};
+static_assert(std::ranges::is_sorted(kProperties, {}, &Property::name));
+constexpr Property kNoProperty;
 
 /// Can the property be written in a declaration list, among others, and be read again? What cannot
 /// is invalid to all readers and has no effect.
@@ -296,10 +288,7 @@ bool apply(Style& style, const Style& parent, std::string_view property, std::st
     const bool asParent = value == "inherit" || (value == "unset" && known.inherited);
     if (asParent) return known.inherited; // what is handed down is there already
     if (value == "initial" || value == "unset") value = known.initial;
-    for (const Setter& setter : kSetters)
-        if (setter.property == property)
-            return setter.set({style, parent, value, viewport}) || known.text;
-    return true;
+    return known.set == nullptr || known.set({style, parent, value, viewport}) || known.text;
 }
 
 } // namespace

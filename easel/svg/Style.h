@@ -71,6 +71,8 @@ struct Style {
     Properties unknown;
 };
 
+struct PropertyValue;
+
 /// A property that may stand as an attribute of its own.
 struct Property {
     std::string_view name;
@@ -78,6 +80,8 @@ struct Property {
     bool inherited = false;
     bool text = false;        ///< Matters to text alone.
     std::string_view initial; ///< Where nothing says otherwise; empty where that matters to nobody.
+    /// False for a value that is not understood, which changes nothing; null: it is kept as text.
+    bool (*set)(const PropertyValue&) = nullptr;
 };
 /// One without a name where there is none of that name.
 [[nodiscard]] const Property& propertyNamed(std::string_view name);

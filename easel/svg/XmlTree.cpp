@@ -20,12 +20,6 @@ constexpr std::size_t kMostEntityBytes = 16'000'000;
 /// A reference's end is looked for no further, so that a text of ampersands takes linear time.
 constexpr std::size_t kLongestReference = 64;
 
-bool isBlank(char c) { return kBlanks.find(c) != std::string_view::npos; }
-
-bool endsName(char c) {
-    return isBlank(c) || std::string_view{">/=<\"'"}.find(c) != std::string_view::npos;
-}
-
 bool startsName(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == ':' ||
            static_cast<unsigned char>(c) >= 128;
@@ -71,22 +65,13 @@ void checkUtf8(std::string_view text) {
 
 /// What a character of an attribute's value is written as; empty: itself.
 constexpr std::string_view referenceFor(char c, char quote) {
-    switch (c) {
-    case '&':
-        return "&amp;";
-    case '<':
-        return "&lt;";
-    case '\'':
-        return quote == c ? "&apos;" : "";
-    case '\n':
-        return "&#10;";
-    case '\r':
-        return "&#13;";
-    case '\t':
-        return "&#9;";
-    default:
-        return {};
-    }
+    return c == '&'                  ? "&amp;"
+           : c == '<'                ? "&lt;"
+           : c == '\'' && quote == c ? "&apos;"
+           : c == '\n'               ? "&#10;"
+           : c == '\r'               ? "&#13;"
+           : c == '\t'               ? "&#9;"
+                                     : std::string_view{};
 }
 
 } // namespace
@@ -299,11 +284,8 @@ private:
                  " deep; remove groups that hold only a group");
         if (++elementCount_ > kMostElements)
             fail("there are more than 1,000,000 elements; divide the drawing");
-        const std::size_t nameStart = position_ + 1;
-        std::size_t at = nameStart;
-        while (at < text_.size() && !endsName(text_[at]))
-            ++at;
-        const std::string_view name = text_.substr(nameStart, at - nameStart);
+        std::size_t at = position_ + 1;
+        const std::string_view name = nameFrom(at);
         if (name.empty() || !startsName(name.front()))
             fail("< is not followed by a name; a plain < is written &lt;");
 
@@ -323,13 +305,23 @@ private:
         }
     }
 
+    void skipBlanks(std::size_t& at) const {
+        at = std::min(text_.find_first_not_of(kBlanks, at), text_.size());
+    }
+
+    /// Moves `at` past the name that begins there, if any does.
+    std::string_view nameFrom(std::size_t& at) const {
+        const std::size_t start = at;
+        at = std::min(text_.find_first_of(" \t\r\n>/=<\"'", at), text_.size());
+        return text_.substr(start, at - start);
+    }
+
     /// Checks the attributes from `at` on and moves past the tag. True for an empty element.
     bool scanAttributes(NodeIndex index, std::size_t at) {
         const auto tag = [&] { return "<" + std::string{tree_.nodes_[index].name} + ">"; };
         std::vector<std::string_view> names;
         for (;;) {
-            while (at < text_.size() && isBlank(text_[at]))
-                ++at;
+            skipBlanks(at);
             if (at >= text_.size() || text_[at] == '<')
                 fail(tag() + " is cut off; a tag ends with >");
             if (text_[at] == '>') {
@@ -340,18 +332,12 @@ private:
                 position_ = at + 2;
                 return true;
             }
-            const std::size_t nameStart = at;
-            while (at < text_.size() && !endsName(text_[at]))
-                ++at;
-            const std::string_view name = text_.substr(nameStart, at - nameStart);
-            while (at < text_.size() && isBlank(text_[at]))
-                ++at;
+            const std::string_view name = nameFrom(at);
+            skipBlanks(at);
             const bool equals = at < text_.size() && text_[at] == '=';
             if (name.empty() || !startsName(name.front()) || !equals)
                 fail("an attribute of " + tag() + " is broken; write name=\"value\"");
-            ++at;
-            while (at < text_.size() && isBlank(text_[at]))
-                ++at;
+            skipBlanks(++at);
             const char quote = at < text_.size() ? text_[at] : '\0';
             const std::size_t end =
                 quote == '"' || quote == '\'' ? text_.find(quote, at + 1) : std::string_view::npos;
@@ -390,27 +376,8 @@ private:
 
 XmlTree::XmlTree(std::string text) : text_(std::move(text)) { XmlScanner{*this}.scan(); }
 
-std::string_view XmlTree::prologue() const {
-    return std::string_view{text_}.substr(0, nodes_[root_].start);
-}
-
-std::string_view XmlTree::epilogue() const {
-    return std::string_view{text_}.substr(nodes_[root_].end);
-}
-
-std::string_view XmlTree::source(NodeIndex node) const {
-    return std::string_view{text_}.substr(at(node).start, at(node).end - at(node).start);
-}
-
-std::string_view XmlTree::content(NodeIndex node) const {
-    const Node& n = at(node);
-    return std::string_view{text_}.substr(n.contentStart, n.contentEnd - n.contentStart);
-}
-
 std::vector<XmlAttribute> XmlTree::attributes(NodeIndex index) const {
-    const Node& node = at(index);
-    std::string_view rest =
-        std::string_view{text_}.substr(node.start, node.contentStart - node.start);
+    std::string_view rest = startTag(index);
     rest.remove_prefix(1 + tagName(index).size());
     std::vector<XmlAttribute> result;
     for (;;) { // The tag was checked when the tree was built.

@@ -71,26 +71,33 @@ public:
     [[nodiscard]] std::size_t size() const { return nodes_.size(); }
 
     /// Everything before and after the root element.
-    [[nodiscard]] std::string_view prologue() const;
-    [[nodiscard]] std::string_view epilogue() const;
+    [[nodiscard]] std::string_view prologue() const { return slice(0, at(root_).start); }
+    [[nodiscard]] std::string_view epilogue() const { return slice(at(root_).end, text_.size()); }
 
     /// The node's text, from "<" to ">".
-    [[nodiscard]] std::string_view source(NodeIndex node) const;
+    [[nodiscard]] std::string_view source(NodeIndex node) const {
+        return slice(at(node).start, at(node).end);
+    }
     [[nodiscard]] bool isSelfClosing(NodeIndex node) const {
         return startTag(node).ends_with("/>");
     }
     [[nodiscard]] std::string_view startTag(NodeIndex node) const {
-        return source(node).substr(0, at(node).contentStart - at(node).start);
+        return slice(at(node).start, at(node).contentStart);
     }
     /// What stands between the start and the end tag.
-    [[nodiscard]] std::string_view content(NodeIndex node) const;
+    [[nodiscard]] std::string_view content(NodeIndex node) const {
+        return slice(at(node).contentStart, at(node).contentEnd);
+    }
     [[nodiscard]] std::vector<XmlAttribute> attributes(NodeIndex node) const;
 
     /// The element with this id, the first of several; kNoNode when there is none.
     [[nodiscard]] NodeIndex find(std::string_view id) const;
 
-    /// All of the text that was read.
+    /// All of the text that was read, and a part of it.
     [[nodiscard]] std::string_view text() const { return text_; }
+    [[nodiscard]] std::string_view slice(std::size_t from, std::size_t to) const {
+        return text().substr(from, to - from);
+    }
     /// The element's name as it stands.
     [[nodiscard]] std::string_view tagName(NodeIndex node) const;
     /// "svg:" where the root element's own name has a prefix, to be put before new names; or empty.
