@@ -1,6 +1,5 @@
 #pragma once
 
-#include "easel/core/Arguments.h"
 #include "easel/core/HostCalls.h"
 #include "easel/core/SuiteServer.h"
 #include "host/Error.h"
@@ -10,7 +9,7 @@
 #include <type_traits>
 #include <utility>
 
-/// Puts a function of Easel into a slot of a suite: `expose<&AIArtSuite::NewArt, newArt>(table)`.
+/// Puts a function of Easel into a slot of a suite: `expose<&AIArtSuite::NewArt, newArt>(server)`.
 ///
 /// What the plug-in then calls is a thunk that counts the call, makes it fail when a fault plan
 /// says so, and turns an exception into the host's error code, so that none crosses the interface.
@@ -22,6 +21,12 @@
 /// without that argument, which is then checked before it runs.
 
 namespace easel {
+
+/// What a pointer argument that must not be null leads to; throws 'PARM' when it is null.
+template <typename Value> [[nodiscard]] Value& required(Value* argument) {
+    if (argument == nullptr) throw ai::Error{kBadParameterErr};
+    return *argument;
+}
 
 /// Counts one call from entry to exit.
 class HostCallScope {
@@ -80,6 +85,7 @@ template <auto Slot, auto Function, typename Failing> struct Exposed;
 template <typename Suite, typename Result, typename... Arguments,
           Result (*Suite::*Slot)(Arguments...), auto Function, typename Failing>
 struct Exposed<Slot, Function, Failing> {
+    using Owner = Suite;
     static inline SlotRecord* record = nullptr;
 
     static Result call(Arguments... arguments) {
@@ -150,15 +156,20 @@ private:
 };
 
 template <auto Slot, auto Function, typename Failing = FailsUntouched, typename Suite>
-void expose(SuiteTable<Suite>& table) {
+void expose(SuiteTable<Suite> table) {
     using Thunk = Exposed<Slot, Function, Failing>;
     Thunk::record = &table.record(Slot);
     table.functions().*Slot = &Thunk::call;
 }
+template <auto Slot, auto Function, typename Failing = FailsUntouched>
+void expose(SuiteServer& server) {
+    expose<Slot, Function, Failing>(
+        server.table<typename Exposed<Slot, Function, Failing>::Owner>());
+}
 
 /// For a function that gives back what the plug-in was lent.
-template <auto Slot, auto Function, typename Suite> void exposeEnding(SuiteTable<Suite>& table) {
-    expose<Slot, Function, FailsWhenDone<Function>>(table);
+template <auto Slot, auto Function> void exposeEnding(auto& where) {
+    expose<Slot, Function, FailsWhenDone<Function>>(where);
 }
 
 } // namespace easel

@@ -13,11 +13,9 @@ namespace {
 constexpr std::size_t kEndedKept = 256;
 
 constexpr std::array<const char*, kLentKinds> kKindNames = {
-    "dictionary",     "dictionary iterator",
-    "entry",          "array",
-    "art set",        "hit",
-    "string",         "file path",
-    "block",          "application context",
+    "dictionary",     "entry", "array",
+    "art set",        "hit",   "string",
+    "file path",      "block", "application context",
     "plug-in access", "suite",
 };
 

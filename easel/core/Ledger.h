@@ -16,7 +16,6 @@ namespace easel {
 /// What the host lends and wants back.
 enum class Lent : std::uint8_t {
     Dictionary,
-    DictionaryIterator,
     Entry,
     Array,
     ArtSet,

@@ -1,7 +1,6 @@
 #include "easel/core/OutputFile.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <system_error>

@@ -11,7 +11,13 @@ namespace easel {
 
 /// The next handle value of this process. No two handles of any kind are ever equal, so that a
 /// stale or foreign one is always recognised.
-[[nodiscard]] std::uintptr_t nextHandleValue() noexcept;
+[[nodiscard]] inline std::uintptr_t nextHandleValue() noexcept {
+    // Unaligned and far from any real address, so that following one faults at once.
+    constexpr std::uintptr_t kFirst = 0x5EA5E10000000001;
+    constexpr std::uintptr_t kStep = 16;
+    static std::uintptr_t issued = 0;
+    return kFirst + kStep * issued++;
+}
 
 /// What plug-ins have registered, in the order of registration: notifiers, menu items, tools.
 /// A handle is a number in the guise of a pointer and leads nowhere.

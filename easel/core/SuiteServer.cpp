@@ -111,6 +111,12 @@ AnySuiteTable& SuiteServer::at(std::string_view name, ai::int32 version) {
     return *tables_.at({std::string(name), version});
 }
 
+AnySuiteTable* SuiteServer::find(const char* name, ai::int32 version) const {
+    if (name == nullptr) return nullptr;
+    const auto found = tables_.find({std::string(name), version});
+    return found == tables_.end() ? nullptr : found->second.get();
+}
+
 void SuiteServer::renumber(std::string_view name, ai::int32 from, ai::int32 to) {
     auto table = tables_.extract({std::string(name), from});
     table.key().second = to;
@@ -120,27 +126,26 @@ void SuiteServer::renumber(std::string_view name, ai::int32 from, ai::int32 to) 
 SPErr SuiteServer::acquire(const char* name, ai::int32 version, const void** functions) {
     if (name == nullptr || functions == nullptr) return kSPBadParameterError;
     *functions = nullptr;
-    const auto found = tables_.find({std::string(name), version});
+    AnySuiteTable* const found = find(name, version);
     ++acquisitions_;
     const bool refused = acquisitions_ == refuse_ || acquisitions_ == refuseToo_;
-    if (found == tables_.end() || refused) return kSPSuiteNotFoundError;
-    ++found->second->acquired;
-    *functions = found->second->slots();
+    if (found == nullptr || refused) return kSPSuiteNotFoundError;
+    ++found->acquired;
+    *functions = found->slots();
     return kNoErr;
 }
 
 const void* SuiteServer::functions(const char* name, ai::int32 version) const {
-    if (name == nullptr) return nullptr;
-    const auto found = tables_.find({std::string(name), version});
-    return found == tables_.end() ? nullptr : found->second->slots();
+    AnySuiteTable* const found = find(name, version);
+    return found == nullptr ? nullptr : found->slots();
 }
 
 SPErr SuiteServer::release(const char* name, ai::int32 version) {
     if (name == nullptr) return kSPBadParameterError;
-    const auto found = tables_.find({std::string(name), version});
-    if (found == tables_.end()) return kSPSuiteNotFoundError;
-    if (found->second->acquired == 0) return kSPSuiteAlreadyReleasedError;
-    --found->second->acquired;
+    AnySuiteTable* const found = find(name, version);
+    if (found == nullptr) return kSPSuiteNotFoundError;
+    if (found->acquired == 0) return kSPSuiteAlreadyReleasedError;
+    --found->acquired;
     return kNoErr;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "easel/core/HostCalls.h"
+#include "host/SuiteId.h"
 
 #include <algorithm>
 #include <map>
@@ -74,6 +75,10 @@ public:
         return SuiteTable<Suite>(at(name, version));
     }
 
+    template <typename Suite> [[nodiscard]] SuiteTable<Suite> table() {
+        return table<Suite>(ai::SuiteId<Suite>::name, ai::SuiteId<Suite>::version);
+    }
+
     /// Offers a suite under another version than it has, as a host of another generation does.
     /// Nobody may hold it.
     void renumber(std::string_view name, ai::int32 from, ai::int32 to);
@@ -101,6 +106,7 @@ public:
 
 private:
     [[nodiscard]] AnySuiteTable& at(std::string_view name, ai::int32 version);
+    [[nodiscard]] AnySuiteTable* find(const char* name, ai::int32 version) const;
 
     std::map<std::pair<std::string, ai::int32>, std::unique_ptr<AnySuiteTable>, std::less<>>
         tables_;

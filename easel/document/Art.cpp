@@ -11,10 +11,7 @@ Art::Art(Document& document, ai::int16 type)
 
 Session& Art::session() const noexcept { return document_->session(); }
 
-Art::~Art() {
-    session().handles.remove(handle_);
-    if (dictionary_) dictionary_->setOwner(nullptr);
-}
+Art::~Art() { session().handles.remove(handle_); }
 
 ArtContent& Art::write(Edit edit) {
     document_->undo().keepContent(*this);
@@ -33,7 +30,6 @@ void Art::touch() {
 Dictionary& Art::dictionary() {
     if (!dictionary_) {
         dictionary_ = Ref<Dictionary>(new Dictionary);
-        dictionary_->setOwner(this);
         dictionary_->attach(document_->sharedUndo());
         dictionary_->noteMadeIn(madeIn_);
     }

@@ -37,9 +37,7 @@ struct ArtDetails {
     AIRealRect box{0, 0, 0, 0};
     const Definition* symbol = nullptr; ///< Of a symbol instance.
     std::shared_ptr<const ForeignContent> foreign;
-    LayerProperties layer;             ///< Of a layer's group.
-    std::string pluginName;            ///< Of a plug-in group.
-    std::vector<std::byte> pluginData; ///< Of a plug-in group.
+    LayerProperties layer; ///< Of a layer's group.
 };
 
 using Segments = std::vector<AIPathSegment>;
@@ -55,7 +53,6 @@ struct ArtContent {
     bool closed = false;  ///< Of a path.
     bool guide = false;   ///< Of a path.
     bool clipped = false; ///< Of a group: its clip masks clip it.
-    bool centerVisible = false;
     bool isLayerGroup = false;
     Cow<Segments> segments;
     /// Of a path that is selected in part; all others have none, their attributes say all.

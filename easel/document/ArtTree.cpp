@@ -148,10 +148,7 @@ Art* nextSkippingChildren(const Art& art, const Art& root) noexcept {
 }
 
 bool isInside(const Art& art, const Art& ancestor) noexcept {
-    const Art* up = &art;
-    while (up != nullptr && up != &ancestor)
-        up = up->parent();
-    return up != nullptr;
+    return nearestUp(art, [&](const Art& each) { return &each == &ancestor; }) != nullptr;
 }
 
 const Art& styleCarrier(const Art& art) noexcept {
@@ -179,15 +176,19 @@ Art* resultArt(const Art& art) noexcept {
     return art.type() == kPluginArt ? art.lastChild() : nullptr;
 }
 
+const Art* lastShown(const Art& group) noexcept {
+    if (group.type() != kPluginArt) return group.lastChild();
+    const Art* const result = resultArt(group)->lastChild();
+    return result != nullptr ? result : editArt(group)->lastChild();
+}
+
 bool isResultGroup(const Art& art) noexcept {
     return art.parent() != nullptr && resultArt(*art.parent()) == &art;
 }
 
 Art* layerOf(const Art& art) noexcept {
-    const Art* up = &art;
-    while (up != nullptr && !up->isLayer())
-        up = up->parent();
-    return const_cast<Art*>(up); // the tree is not const where its objects are
+    const Art* const layer = nearestUp(art, [](const Art& each) { return each.isLayer(); });
+    return const_cast<Art*>(layer); // the tree is not const where its objects are
 }
 
 std::uint64_t subtreeStamp(const Art& art) {

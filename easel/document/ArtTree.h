@@ -42,12 +42,22 @@ void freeTree(Art& root);
 /// The same, without going into `art`.
 [[nodiscard]] Art* nextSkippingChildren(const Art& art, const Art& root) noexcept;
 [[nodiscard]] bool isInside(const Art& art, const Art& ancestor) noexcept;
+/// `art`, or the nearest above it, for which `is` holds; null when it holds for none.
+template <typename Is> [[nodiscard]] const Art* nearestUp(const Art& art, Is is) {
+    const Art* up = &art;
+    while (up != nullptr && !is(*up))
+        up = up->parent();
+    return up;
+}
 
 /// Holds children of its own: groups, compound paths and plug-in groups.
 [[nodiscard]] bool isContainer(const Art& art) noexcept;
 /// Both null unless `art` is a plug-in group.
 [[nodiscard]] Art* editArt(const Art& art) noexcept;
 [[nodiscard]] Art* resultArt(const Art& art) noexcept;
+/// The bottom-most of what a group shows: of a plug-in group what its result holds, or its edit art
+/// while it has none.
+[[nodiscard]] const Art* lastShown(const Art& group) noexcept;
 /// Is `art` in the result art of a plug-in group, which is painted but neither selected nor edited?
 [[nodiscard]] bool isResultGroup(const Art& art) noexcept;
 

@@ -153,18 +153,10 @@ void checkOpen(const Art& container) {
         if (isLockedOrHidden(*up)) refuse(*up);
 }
 
-bool isEditable(const Art& art) noexcept {
-    const Art* up = &art;
-    while (up != nullptr && !isLockedOrHidden(*up))
-        up = up->parent();
-    return up == nullptr;
-}
+bool isEditable(const Art& art) noexcept { return nearestUp(art, isLockedOrHidden) == nullptr; }
 
 bool isVisible(const Art& art) noexcept {
-    const Art* up = &art;
-    while (up != nullptr && !up->has(kArtHidden))
-        up = up->parent();
-    return up == nullptr;
+    return nearestUp(art, [](const Art& each) { return each.has(kArtHidden); }) == nullptr;
 }
 
 Selected selectionOf(const Art& art) noexcept {

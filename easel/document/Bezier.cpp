@@ -11,29 +11,6 @@ CurvePoint mix(CurvePoint a, CurvePoint b, double t) {
     return {a.x + (b.x - a.x) * t, a.y + (b.y - a.y) * t};
 }
 
-double distance(CurvePoint a, CurvePoint b) { return std::hypot(a.x - b.x, a.y - b.y); }
-
-double speedAt(const Curve& curve, double t) {
-    const CurvePoint tangent = tangentAt(curve, t);
-    return std::hypot(tangent.x, tangent.y);
-}
-
-/// Length between two parameters, by Gauss-Legendre quadrature with five points.
-double lengthBetween(const Curve& curve, double from, double to) {
-    constexpr double kPlaces[] = {0, 0.5384693101056831, 0.9061798459386640};
-    constexpr double kWeights[] = {0.5688888888888889, 0.4786286704993665, 0.2369268850561891};
-    const double half = (to - from) / 2;
-    const double middle = (to + from) / 2;
-    double sum = kWeights[0] * speedAt(curve, middle);
-    for (const int i : {1, 2})
-        sum += kWeights[i] * (speedAt(curve, middle - half * kPlaces[i]) +
-                              speedAt(curve, middle + half * kPlaces[i]));
-    return sum * half;
-}
-
-/// Pieces in which the speed of a curve changes little enough for the quadrature.
-constexpr int kLengthPieces = 16;
-
 /// Where the derivative of a cubic with these values vanishes, in 0..1. Returns how many.
 int extremes(double p0, double p1, double p2, double p3, std::span<double, 2> roots) {
     // B'(t) / 3 = a t^2 + b t + c
@@ -76,16 +53,9 @@ std::array<Curve, 2> splitAt(const Curve& curve, double t) noexcept {
     return {Curve{curve[0], a, ab, middle}, Curve{middle, bc, c, curve[3]}};
 }
 
-double lengthOf(const Curve& curve) noexcept {
-    double length = 0;
-    for (int i = 0; i < kLengthPieces; ++i)
-        length += lengthBetween(curve, double(i) / kLengthPieces, double(i + 1) / kLengthPieces);
-    return length;
-}
-
 NearestPoint nearestPoint(const Curve& curve, CurvePoint point) noexcept {
     constexpr int kSamples = 32;
-    const auto away = [&](double t) { return distance(pointAt(curve, t), point); };
+    const auto away = [&](double t) { return length(pointAt(curve, t) - point); };
     NearestPoint best{0, away(0)};
     for (int i = 1; i <= kSamples; ++i) {
         const double t = double(i) / kSamples;

@@ -3,6 +3,7 @@
 #include "host/Types.h"
 
 #include <array>
+#include <cmath>
 
 /// Cubic curves in double precision, for what the host itself computes.
 
@@ -18,12 +19,19 @@ constexpr CurvePoint operator+(CurvePoint a, CurvePoint b) { return {a.x + b.x, 
 constexpr CurvePoint operator-(CurvePoint a, CurvePoint b) { return {a.x - b.x, a.y - b.y}; }
 constexpr CurvePoint operator*(double factor, CurvePoint p) { return {factor * p.x, factor * p.y}; }
 
+constexpr double dot(CurvePoint a, CurvePoint b) { return a.x * b.x + a.y * b.y; }
+[[nodiscard]] inline double length(CurvePoint way) { return std::hypot(way.x, way.y); }
+
 [[nodiscard]] constexpr CurvePoint curvePoint(AIRealPoint point) noexcept {
     return {point.h, point.v};
 }
 /// Rounded once to the host's precision.
 [[nodiscard]] constexpr AIRealPoint realPoint(CurvePoint point) noexcept {
     return {static_cast<AIReal>(point.x), static_cast<AIReal>(point.y)};
+}
+
+[[nodiscard]] constexpr bool same(AIRealPoint a, AIRealPoint b) noexcept {
+    return a.h == b.h && a.v == b.v;
 }
 
 /// Four control points; the curve runs from the first to the last as t goes from 0 to 1.
@@ -34,8 +42,6 @@ using Curve = std::array<CurvePoint, 4>;
 [[nodiscard]] CurvePoint tangentAt(const Curve& curve, double t) noexcept;
 /// The parts before and after t.
 [[nodiscard]] std::array<Curve, 2> splitAt(const Curve& curve, double t) noexcept;
-/// Within about a ten-thousandth of a point for curves of ordinary size.
-[[nodiscard]] double lengthOf(const Curve& curve) noexcept;
 
 struct NearestPoint {
     double t;

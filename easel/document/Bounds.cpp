@@ -2,7 +2,6 @@
 
 #include "easel/document/ArtTree.h"
 #include "easel/document/Bezier.h"
-#include "host/Error.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "easel/document/Counted.h"
+
 #include <cstdint>
 #include <utility>
 
@@ -10,27 +12,14 @@ namespace easel {
 template <typename T> class Cow {
 public:
     Cow() noexcept = default;
-    explicit Cow(T value) : node_(new Node{std::move(value), 1}) {}
-    Cow(const Cow& other) noexcept : node_(other.node_) {
-        if (node_ != nullptr) ++node_->owners;
-    }
-    Cow(Cow&& other) noexcept : node_(std::exchange(other.node_, nullptr)) {}
-    Cow& operator=(Cow other) noexcept {
-        std::swap(node_, other.node_);
-        return *this;
-    }
-    ~Cow() {
-        if (node_ != nullptr && --node_->owners == 0) delete node_;
-    }
+    explicit Cow(T value) : node_(new Node{std::move(value)}) {}
 
-    [[nodiscard]] const T& operator*() const noexcept {
-        return node_ != nullptr ? node_->value : unwritten();
-    }
+    [[nodiscard]] const T& operator*() const noexcept { return node_ ? node_->value : unwritten(); }
     [[nodiscard]] const T* operator->() const noexcept { return &**this; }
 
     /// The value for writing, no longer shared. Valid until the next copy is made.
     [[nodiscard]] T& write() {
-        if (node_ == nullptr)
+        if (!node_)
             *this = Cow(T{});
         else if (node_->owners > 1)
             *this = Cow(node_->value);
@@ -42,14 +31,18 @@ public:
 private:
     struct Node {
         T value;
-        std::uint32_t owners;
+        std::uint32_t owners = 0;
+        void retain() noexcept { ++owners; }
+        void release() noexcept {
+            if (--owners == 0) delete this;
+        }
     };
     [[nodiscard]] static const T& unwritten() noexcept {
         static const T value{};
         return value;
     }
 
-    Node* node_ = nullptr;
+    Ref<Node> node_;
 };
 
 } // namespace easel

@@ -144,27 +144,23 @@ bool Dictionary::erase(Key key) {
     return true;
 }
 
-const Value& Array::at(ai::int32 index) const {
-    if (index < 0 || index >= std::ssize(items_)) throw ai::Error{kNoSuchEntry};
-    return items_[static_cast<std::size_t>(index)];
-}
-
-void Array::set(ai::int32 index, Value value) {
-    static_cast<void>(at(index));
+void Array::append(Value value) {
     beginChange(value);
-    items_[static_cast<std::size_t>(index)] = std::move(value);
+    items_.push_back(std::move(value));
 }
 
-void Array::insert(ai::int32 index, Value value) {
-    if (index < 0 || index > std::ssize(items_)) throw ai::Error{kNoSuchEntry};
-    beginChange(value);
-    items_.insert(items_.begin() + index, std::move(value));
-}
-
-void Array::erase(ai::int32 index) {
-    static_cast<void>(at(index));
-    beginChange();
-    items_.erase(items_.begin() + index);
+Value deepCopy(const Value& value) {
+    if (const auto* dictionary = std::get_if<Ref<Dictionary>>(&value)) {
+        Ref<Dictionary> copy(new Dictionary);
+        copy->copyFrom(**dictionary);
+        return copy;
+    }
+    if (const auto* array = std::get_if<Ref<Array>>(&value)) {
+        Ref<Array> copy(new Array);
+        copy->copyFrom(**array);
+        return copy;
+    }
+    return value; // texts and bytes never change, so they are shared
 }
 
 } // namespace easel

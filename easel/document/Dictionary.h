@@ -8,7 +8,6 @@
 namespace easel {
 
 class UndoLog;
-class Art;
 
 /// An interned key: equal texts have equal keys, for the life of the process.
 using Key = const std::string*;
@@ -66,12 +65,6 @@ public:
     /// It came to be in that epoch of the undo log, together with what owns it: there is no former
     /// state to keep.
     void noteMadeIn(std::uint64_t epoch) noexcept { keptIn_ = epoch; }
-    /// The art whose dictionary this is; null for any other. Cleared when the art is gone.
-    [[nodiscard]] Art* owner() const noexcept { return owner_; }
-    void setOwner(Art* art) noexcept { owner_ = art; }
-
-private:
-    Art* owner_ = nullptr;
 };
 
 /// A counted list of values.
@@ -80,12 +73,7 @@ public:
     Array() noexcept : Container(HandleKind::Array, Lent::Array) {}
 
     [[nodiscard]] std::span<const Value> values() const noexcept { return items(); }
-    /// Throws 'EnNS' out of range.
-    [[nodiscard]] const Value& at(ai::int32 index) const;
-    void set(ai::int32 index, Value value);
-    /// Before `index`; at the end when `index` is the count.
-    void insert(ai::int32 index, Value value);
-    void erase(ai::int32 index);
+    void append(Value value);
 };
 
 } // namespace easel

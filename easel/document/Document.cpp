@@ -1,5 +1,6 @@
 #include "easel/document/Document.h"
 
+#include "easel/document/Bezier.h"
 #include "easel/document/Layers.h"
 #include "easel/document/Session.h"
 #include "easel/document/TransformArt.h"
@@ -89,7 +90,7 @@ AIRealRect Document::canvas() const noexcept {
 
 void Document::setRulerOrigin(AIRealPoint origin) {
     const AIRealPoint before = state_.rulerOrigin;
-    if (origin.h == before.h && origin.v == before.v) return;
+    if (same(origin, before)) return;
     const AIRealMatrix shift{1, 0, 0, 1, before.h - origin.h, origin.v - before.v};
     constexpr ai::int32 kEverything = kTransformObjects | kTransformFillGradients |
                                       kTransformFillPatterns | kTransformStrokePatterns |
@@ -109,6 +110,16 @@ DocumentChanges Document::takeChanges() noexcept { return std::exchange(changes_
 void Document::note(bool DocumentChanges::*what) noexcept {
     changes_.*what = true;
     modified_ = true;
+}
+
+AIRealPoint harden(const Document& document, AIRealPoint soft) noexcept {
+    const AIRealPoint origin = document.state().rulerOrigin;
+    return {origin.h + soft.h, origin.v - soft.v};
+}
+
+AIRealPoint soften(const Document& document, AIRealPoint hard) noexcept {
+    const AIRealPoint origin = document.state().rulerOrigin;
+    return {hard.h - origin.h, origin.v - hard.v};
 }
 
 } // namespace easel

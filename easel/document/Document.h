@@ -139,4 +139,10 @@ private:
     bool modified_ = false;
 };
 
+// Between soft (page, y up, from the ruler origin) and hard (canvas, y down, from its top left
+// corner) coordinates.
+
+[[nodiscard]] AIRealPoint harden(const Document& document, AIRealPoint soft) noexcept;
+[[nodiscard]] AIRealPoint soften(const Document& document, AIRealPoint hard) noexcept;
+
 } // namespace easel

@@ -8,8 +8,6 @@ namespace {
 
 using Stroke = std::span<const CurvePoint>;
 
-double dot(CurvePoint a, CurvePoint b) { return a.x * b.x + a.y * b.y; }
-double length(CurvePoint a) { return std::hypot(a.x, a.y); }
 CurvePoint direction(CurvePoint a) {
     const double size = length(a);
     return size > 0 ? (1 / size) * a : CurvePoint{1, 0};

@@ -13,7 +13,6 @@ enum class HandleKind : std::uint8_t {
     Layer, ///< A layer is its group art: its handle is that of the art with this kind.
     Document,
     Dictionary,
-    DictionaryIterator,
     Array,
     Entry,
     Key,

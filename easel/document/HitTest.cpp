@@ -6,13 +6,10 @@
 #include "host/Error.h"
 
 #include <algorithm>
-#include <cmath>
 #include <tuple>
 
 namespace easel {
 namespace {
-
-double distance(CurvePoint a, CurvePoint b) { return std::hypot(a.x - b.x, a.y - b.y); }
 
 /// How often the path turns around the point; its ends are joined.
 int windingAround(const Art& path, CurvePoint point) {
@@ -59,7 +56,7 @@ private:
     using Rank = std::tuple<AIHitType, double>;
 
     void offer(Art& art, AIHitType type, std::size_t segment, double t, CurvePoint point) {
-        const double away = distance(point, point_);
+        const double away = length(point - point_);
         const bool better =
             best.art == nullptr || Rank{type, away} < Rank{best.type, best.distance};
         if (better) best = {&art, type, static_cast<ai::int16>(segment), t, point, away};
@@ -101,7 +98,7 @@ private:
         const auto segments = path.segments();
         for (std::size_t i = 0; i < segments.size(); ++i) {
             const CurvePoint anchor = curvePoint(segments[i].p);
-            if (distance(anchor, point_) <= reach_) offer(path, kAnchorHit, i, 0, anchor);
+            if (length(anchor - point_) <= reach_) offer(path, kAnchorHit, i, 0, anchor);
         }
     }
 
@@ -111,7 +108,7 @@ private:
             const CurvePoint anchor = curvePoint(segments[i].p);
             const auto visit = [&](AIRealPoint handle, AIHitType type) {
                 const CurvePoint point = curvePoint(handle);
-                if (distance(point, anchor) > 0 && distance(point, point_) <= reach_)
+                if (length(point - anchor) > 0 && length(point - point_) <= reach_)
                     offer(path, type, i, 0, point);
             };
             visit(segments[i].in, kInHandleHit);

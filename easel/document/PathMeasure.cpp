@@ -29,11 +29,4 @@ bool mayReach(const Curve& curve, CurvePoint point, double reach) noexcept {
            point.y <= high.y + reach;
 }
 
-double pathLength(const Art& path) noexcept {
-    double length = 0;
-    for (std::size_t i = 0; i < curveCount(path); ++i)
-        length += lengthOf(curveFrom(path, i));
-    return length;
-}
-
 } // namespace easel

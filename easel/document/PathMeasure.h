@@ -13,6 +13,5 @@ namespace easel {
 /// False only when the curve stays farther away than `reach`: it lies in the box around its
 /// control points. Much quicker to tell than how near it comes.
 [[nodiscard]] bool mayReach(const Curve& curve, CurvePoint point, double reach) noexcept;
-[[nodiscard]] double pathLength(const Art& path) noexcept;
 
 } // namespace easel

@@ -38,10 +38,8 @@ Art& outermostLayer(Art* layer) {
 }
 
 bool isInCompound(const Art& art) {
-    const Art* up = &art;
-    while (up != nullptr && up->type() != kCompoundPathArt)
-        up = up->parent();
-    return up != nullptr;
+    const auto isCompound = [](const Art& each) { return each.type() == kCompoundPathArt; };
+    return nearestUp(art, isCompound) != nullptr;
 }
 
 bool mayBeInCompound(ai::int16 type) {

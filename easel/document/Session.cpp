@@ -32,6 +32,12 @@ Art& Session::artOf(AIArtHandle handle) const {
     return *art;
 }
 
+Art& Session::artOf(AIArtHandle handle, ai::int16 type) const {
+    Art& art = artOf(handle);
+    if (art.type() != type) throw ai::Error{kBadParameterErr};
+    return art;
+}
+
 Art& Session::layerOf(AILayerHandle handle) const {
     if (HandleTable::kindOf(handle) != HandleKind::Layer) throw ai::Error{kBadParameterErr};
     const void* group = HandleTable::withKind(handle, HandleKind::Art);

@@ -78,6 +78,8 @@ struct Session {
     /// The live object behind a handle. A null, stale, dead or invented one is refused: throws
     /// 'PARM'.
     [[nodiscard]] Art& artOf(AIArtHandle handle) const;
+    /// The same of one type; others are refused as well.
+    [[nodiscard]] Art& artOf(AIArtHandle handle, ai::int16 type) const;
     /// Null unless `handle` is that of a live object.
     [[nodiscard]] Art* findArt(AIArtHandle handle) const noexcept;
     /// The layer's group; throws 'PARM'.

@@ -30,7 +30,11 @@ using Value = std::variant<std::monostate, ai::int32, Boolean, AIReal, SharedTex
 /// A copy that shares nothing that can change.
 [[nodiscard]] Value deepCopy(const Value& value);
 
-[[nodiscard]] Value textValue(std::string text);
-[[nodiscard]] Value unicodeValue(std::u16string text);
+[[nodiscard]] inline Value textValue(std::string text) {
+    return std::make_shared<const std::string>(std::move(text));
+}
+[[nodiscard]] inline Value unicodeValue(std::u16string text) {
+    return std::make_shared<const std::u16string>(std::move(text));
+}
 
 } // namespace easel

@@ -6,8 +6,6 @@
 namespace easel::paint {
 namespace {
 
-double dot(Point a, Point b) { return a.x * b.x + a.y * b.y; }
-
 /// How far along the gradient a point lies: 0 at the start, 1 at the end.
 double positionAlong(const svg::GradientContent& gradient, Point point) {
     const Point axis = gradient.end - gradient.start;

@@ -1,7 +1,5 @@
 #include "easel/paint/PaintAnnotations.h"
 
-#include "easel/svg/Png.h"
-
 #include "easel/core/Text.h"
 #include "easel/paint/Picture.h"
 

@@ -1,5 +1,6 @@
 #include "easel/paint/PaintDocument.h"
 
+#include "easel/svg/ArtAttributes.h"
 #include "easel/svg/Ink.h"
 
 #include <algorithm>
@@ -20,8 +21,7 @@ constexpr double kMostDashes = 1'000'000;
 constexpr Colour kGuideColour{0.29F, 0.65F, 1.0F, 1.0F};
 constexpr Matrix kFlip{1, 0, 0, -1, 0, 0};
 
-Matrix matrixOf(const AIRealMatrix& m) { return {m.a, m.b, m.c, m.d, m.tx, m.ty}; }
-Point pointOf(AIRealPoint p) { return {p.h, p.v}; }
+using svg::matrixOf;
 
 void appendOutline(const Art& art, Outline& outline) {
     if (art.type() == kPathArt) {
@@ -30,7 +30,7 @@ void appendOutline(const Art& art, Outline& outline) {
         subpath.anchors.reserve(art.segments().size());
         for (const AIPathSegment& segment : art.segments())
             subpath.anchors.push_back(
-                {pointOf(segment.p), pointOf(segment.in), pointOf(segment.out)});
+                {curvePoint(segment.p), curvePoint(segment.in), curvePoint(segment.out)});
         outline.push_back(std::move(subpath));
         return;
     }
@@ -128,28 +128,17 @@ private:
     }
 
     void paint(const Art& art) {
-        if (art.has(kArtHidden)) return;
-        const bool isMask =
-            art.has(kArtIsClipMask) && art.parent() != nullptr && art.parent()->content().clipped;
-        if (isMask) return;
+        if (art.has(kArtHidden) || svg::isClipMask(art)) return;
         switch (art.type()) {
         case kGroupArt:
-            return enter(art, art.lastChild());
         case kPluginArt:
-            return enter(art, pluginContent(art));
+            return enter(art, lastShown(art));
         case kPathArt:
         case kCompoundPathArt:
             return paintShape(art);
         default:
             return paintOpaque(art);
         }
-    }
-
-    /// What a plug-in group shows is its result, or its edit art while it has none.
-    static const Art* pluginContent(const Art& art) {
-        const Art* const result = resultArt(art);
-        if (result != nullptr && result->lastChild() != nullptr) return result->lastChild();
-        return editArt(art) != nullptr ? editArt(art)->lastChild() : nullptr;
     }
 
     void enter(const Art& group, const Art* content) {
@@ -204,10 +193,7 @@ private:
     void fill(const Outline& outline, const ArtStyle& style, double alpha) {
         const Definition* const definition = style.fillDefinition;
         const double whole = alpha * style.fillOpacity;
-        const auto* const pattern =
-            definition != nullptr
-                ? dynamic_cast<const svg::PatternContent*>(definition->content.get())
-                : nullptr;
+        const auto* const pattern = contentOf<svg::PatternContent>(definition);
         if (pattern != nullptr && style.path.fill.color.kind == kPattern)
             return tile(outline, ruleOf(style), *pattern, matrixOf(style.fillMatrix), whole);
         const auto ink = inkOf(style.path.fill.color, definition, style.fillMatrix, whole);
@@ -218,7 +204,7 @@ private:
         const auto ink = inkOf(style.path.stroke.color, style.strokeDefinition, style.strokeMatrix,
                                alpha * style.strokeOpacity);
         if (!ink) return;
-        const auto* const effects = dynamic_cast<const svg::Effects*>(style.foreign.get());
+        const svg::Effects* const effects = svg::effectsIn(style);
         const bool squeezed =
             effects != nullptr && !svg::isConformal(effects->space) && !effects->hasFixedStroke();
         if (squeezed)
@@ -244,6 +230,12 @@ private:
         painter_.restore();
     }
 
+    /// Null when the definition is none of that kind.
+    template <typename Content> static const Content* contentOf(const Definition* definition) {
+        return definition != nullptr ? dynamic_cast<const Content*>(definition->content.get())
+                                     : nullptr;
+    }
+
     /// Nothing when the paint is not understood. A pattern along a stroke shows as grey.
     static std::optional<Ink> inkOf(const AIColor& color, const Definition* definition,
                                     const AIRealMatrix& matrix, double alpha) {
@@ -251,10 +243,7 @@ private:
         if (const auto plain = svg::plainColour(color))
             return Ink{{plain->red, plain->green, plain->blue, opaque}, nullptr, {}};
         if (color.kind == kPattern) return Ink{{0.5F, 0.5F, 0.5F, opaque}, nullptr, {}};
-        const auto* const gradient =
-            definition != nullptr
-                ? dynamic_cast<const svg::GradientContent*>(definition->content.get())
-                : nullptr;
+        const auto* const gradient = contentOf<svg::GradientContent>(definition);
         if (color.kind != kGradient || gradient == nullptr) return std::nullopt;
         return Ink{{0, 0, 0, opaque}, gradient, matrixOf(matrix) * gradient->transform};
     }
@@ -309,13 +298,12 @@ private:
         else if (const auto* image = dynamic_cast<const svg::ImageContent*>(details.foreign.get()))
             paintImage(*image);
         else if (details.symbol != nullptr)
-            paintSymbol(*details.symbol);
+            paintSymbol(contentOf<svg::DrawingContent>(details.symbol));
         if (opacity < 1) painter_.endGroup(opacity);
         painter_.restore();
     }
 
-    void paintSymbol(const Definition& symbol) {
-        const auto* const content = dynamic_cast<const svg::DrawingContent*>(symbol.content.get());
+    void paintSymbol(const svg::DrawingContent* content) {
         if (content == nullptr || ++instances_ > kMostInstances) return;
         painter_.transform(kFlip);
         paint(*content->drawing);

@@ -44,7 +44,7 @@ void paintPaper(const DocumentView& view, Painter& painter) {
 
 void paintPage(const DocumentView& view, Painter& painter, const ViewPictureOptions& options) {
     PaintOptions art;
-    art.guides = view.showGuides;
+    art.guides = true;
     art.scale = static_cast<double>(view.zoom) * options.scale;
     const Point far{static_cast<double>(view.width), static_cast<double>(view.height)};
     painter.fill(rectangle({0, 0}, far), FillRule::NonZero,

@@ -13,12 +13,7 @@ using svg::Colour;
 using svg::Matrix;
 using svg::Outline;
 using svg::Point;
-
-[[nodiscard]] inline Outline rectangle(Point from, Point to) {
-    return {{{svg::cornerAt(from), svg::cornerAt({to.x, from.y}), svg::cornerAt(to),
-              svg::cornerAt({from.x, to.y})},
-             true}};
-}
+using svg::rectangle;
 
 enum class FillRule { NonZero, EvenOdd };
 

@@ -3,7 +3,6 @@
 #include "easel/core/OutputFile.h"
 #include "easel/svg/Numbers.h"
 
-#include <cstdlib>
 #include <stdexcept>
 
 namespace easel::paint {

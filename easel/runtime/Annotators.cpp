@@ -17,7 +17,7 @@ DisplayList Annotators::draw(Sender& sender, AIDocumentViewHandle view) {
     DisplayList all;
     for (const AIAnnotatorHandle each : annotators.handles()) {
         const Annotator* const annotator = annotators.find(each);
-        if (annotator == nullptr || !annotator->active) continue;
+        if (annotator == nullptr) continue;
         AIAnnotatorDrawer drawer; // a new one: no state leaks from one annotator to the next
         AIAnnotatorMessage message{};
         message.annotator = each;

@@ -16,7 +16,6 @@ class Sender;
 struct Annotator {
     SPPluginRef plugin;
     std::string name;
-    bool active = true;
     AIAnnotatorOptionsFlags options = 0; ///< Hints for hosts that draw with the graphics card.
 };
 
@@ -27,7 +26,7 @@ struct Annotators {
     /// Areas of the current view, in its pixels, to be painted anew by the next draw pass.
     std::vector<AIRect> invalid;
 
-    /// Asks all active ones to draw into `view`; then no area is invalid.
+    /// Asks all of them to draw into `view`; then no area is invalid.
     [[nodiscard]] DisplayList draw(Sender& sender, AIDocumentViewHandle view);
 };
 

@@ -36,15 +36,11 @@ AIAppContextHandle Contexts::top() const noexcept {
     return stack_.empty() ? nullptr : stack_.back().handle;
 }
 
-bool Contexts::allowAllChanges() const {
+bool Contexts::allowAllChanges(bool allow) {
     if (stack_.empty()) throw ai::Error{kSelectorClashErr};
-    return stack_.back().allowAllChanges;
-}
-
-void Contexts::setAllowAllChanges(bool allow) {
-    if (stack_.empty()) throw ai::Error{kSelectorClashErr};
-    stack_.back().allowAllChanges = allow;
+    const bool before = std::exchange(stack_.back().allowAllChanges, allow);
     applyTop();
+    return before;
 }
 
 void Contexts::switchTo(Document* document) {

@@ -41,10 +41,9 @@ public:
     /// The innermost context; null when there is none.
     [[nodiscard]] AIAppContextHandle top() const noexcept;
 
-    /// Whether changes under locked or hidden parents are allowed in the innermost context. Throws
-    /// 'CLSH' when there is none.
-    [[nodiscard]] bool allowAllChanges() const;
-    void setAllowAllChanges(bool allow);
+    /// Whether changes under locked or hidden parents are allowed in the innermost context; returns
+    /// whether they were. Throws 'CLSH' when there is none.
+    bool allowAllChanges(bool allow);
 
     /// Makes `document` current; what was done so far in the former one becomes a step of its own.
     void switchTo(Document* document);

@@ -1,10 +1,8 @@
 #include "easel/runtime/CursorSnap.h"
 
-#include "easel/document/Attributes.h"
 #include "easel/document/PathMeasure.h"
 
 #include <array>
-#include <cmath>
 #include <optional>
 
 namespace easel {
@@ -22,7 +20,7 @@ public:
     }
     void offerAnchor(AIRealPoint anchor) {
         const CurvePoint place = curvePoint(anchor);
-        offer(place, std::hypot(place.x - point_.x, place.y - point_.y));
+        offer(place, length(place - point_));
     }
     void offerCurve(const Curve& curve) {
         if (!mayReach(curve, point_, distance_)) return;

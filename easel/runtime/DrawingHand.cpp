@@ -92,7 +92,6 @@ void DrawingHand::press(Kind kind, Document& document, AIRealPoint at, ai::uint1
 }
 
 void DrawingHand::pick(bool adds) {
-    adds_ = adds;
     const double reach = kPixelsAround / static_cast<double>(document_->viewZoom);
     const HitResult hit = hitTest(document_->root(), start_, reach, kAllHitRequest);
     if (hit.art == nullptr || !isEditable(*hit.art)) {

@@ -57,7 +57,6 @@ private:
     AIArtHandle path_ = nullptr;   ///< That is drawn; dead: the plug-in has taken it away.
     AIRealPoint start_{};
     AIRealPoint last_{};
-    bool adds_ = false;
     bool moved_ = false;
     std::optional<AIRealRect> marquee_;
     std::vector<CurvePoint> stroke_;

@@ -13,7 +13,6 @@ struct DocumentView {
     AIReal zoom = 1;    ///< Pixels per point.
     ai::int32 width = 1280;
     ai::int32 height = 800;
-    bool showGuides = true;
 };
 
 /// The windows, one a document.

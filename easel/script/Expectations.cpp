@@ -33,24 +33,30 @@ Finding compare(const std::string& wanted, const std::string& found) {
     return {wanted == found, wanted, found};
 }
 
+Finding compareNumbers(double wanted, double tolerance, std::optional<double> found) {
+    return {found && std::abs(*found - wanted) <= tolerance, rounded(wanted),
+            found ? rounded(*found) : kNone};
+}
+
 std::string noneOr(Arguments& arguments, const char* what) {
     return arguments.take(kNone) ? kNone : quoted(arguments.text(what));
 }
 
 // What the menus say
 
-Check readUndoText(Arguments& arguments) {
+/// A text that is to be just that one.
+template <std::string (*Found)(Player&)> Check readText(Arguments& arguments) {
     return [text = arguments.text("text")](Player& player) {
-        static_cast<void>(player.document());
-        return compare(quoted(text), quoted(player.host().undoText()));
+        return compare(quoted(text), quoted(Found(player)));
     };
 }
 
-Check readRedoText(Arguments& arguments) {
-    return [text = arguments.text("text")](Player& player) {
-        return compare(quoted(text), quoted(player.document().undo().redoText()));
-    };
+std::string undoText(Player& player) {
+    static_cast<void>(player.document());
+    return player.host().undoText();
 }
+
+std::string redoText(Player& player) { return player.document().undo().redoText(); }
 
 // Axes
 
@@ -78,8 +84,6 @@ WantedAxes readWantedAxes(Arguments& arguments) {
 /// Of two directions, degrees.
 double anglesApart(double a, double b) { return std::abs(std::remainder(a - b, 360.0)); }
 
-double distance(svg::Point a, svg::Point b) { return std::hypot(a.x - b.x, a.y - b.y); }
-
 Finding compareShown(Player& player, const WantedAxes& wanted) {
     constexpr double kPixels = 1.0;   // drawn places are whole pixels
     constexpr double kDegrees = 0.25; // which is what that does to a line across a window
@@ -89,7 +93,7 @@ Finding compareShown(Player& player, const WantedAxes& wanted) {
     const bool sameAngle =
         !wanted.angle || (angle && anglesApart(*wanted.angle, *angle) < kDegrees);
     const bool sameOrigin =
-        !wanted.origin || distance(player.pixels(*wanted.origin), shown->origin) <= kPixels;
+        !wanted.origin || length(player.pixels(*wanted.origin) - shown->origin) <= kPixels;
     const std::string found = std::to_string(shown->count) +
                               (angle ? " angle " + rounded(*angle) : " without a first axis") +
                               " origin " + textOf(player.userUnits(shown->origin)) + " (" +
@@ -126,7 +130,7 @@ Check readLayerAxes(Arguments& arguments) {
         const bool same =
             axes->count == wanted.count &&
             (!wanted.angle || anglesApart(*wanted.angle, axes->angleDegrees) <= tolerance) &&
-            (!wanted.origin || distance(origin, axes->origin) <= tolerance);
+            (!wanted.origin || length(origin - axes->origin) <= tolerance);
         return {same, wanted.text(),
                 std::to_string(axes->count) + " angle " + rounded(axes->angleDegrees) + " origin " +
                     textOf(axes->origin)};
@@ -162,8 +166,8 @@ std::string shownHint(Player& player) {
     for (const DrawCommand& command : player.shown()) {
         if (command.kind != Kind::Text) continue;
         const AIPoint at = command.points.front();
-        if (distance({static_cast<double>(at.h), static_cast<double>(at.v)}, mouse) < kBeside)
-            return quoted(utf8FromUtf32(command.text));
+        const svg::Point place{static_cast<double>(at.h), static_cast<double>(at.v)};
+        if (length(place - mouse) < kBeside) return quoted(utf8FromUtf32(command.text));
     }
     return kNone;
 }
@@ -384,9 +388,8 @@ Check readInfo(Arguments& arguments) {
     return [=, &variable](Player& player) -> Finding {
         const auto& values = player.host().tools.infoValues;
         const auto value = values.find(variable.code);
-        if (value == values.end()) return {false, rounded(wanted), kNone};
-        return {std::abs(value->second - wanted) <= tolerance, rounded(wanted),
-                rounded(value->second)};
+        return compareNumbers(wanted, tolerance,
+                              value != values.end() ? std::optional{value->second} : std::nullopt);
     };
 }
 
@@ -397,10 +400,8 @@ Check readPreferenceValue(Arguments& arguments) {
                           : arguments.take("off") ? 0.0
                                                   : arguments.number("value");
     const double tolerance = arguments.take("within") ? arguments.number("tolerance") : 1e-6;
-    return [=](Player& player) -> Finding {
-        const auto value = player.preferences().number(prefix, name);
-        if (!value) return {false, rounded(wanted), kNone};
-        return {std::abs(*value - wanted) <= tolerance, rounded(wanted), rounded(*value)};
+    return [=](Player& player) {
+        return compareNumbers(wanted, tolerance, player.preferences().number(prefix, name));
     };
 }
 
@@ -453,8 +454,8 @@ Check readPictureLike(Arguments& arguments) {
 }
 
 constexpr ExpectationRow kExpectations[] = {
-    {"undo", "TEXT", "the text of the Undo item of the menu", readUndoText},
-    {"redo", "TEXT", "the text of the Redo item", readRedoText},
+    {"undo", "TEXT", "the text of the Undo item of the menu", readText<undoText>},
+    {"redo", "TEXT", "the text of the Redo item", readText<redoText>},
     {"axes", "none|COUNT [angle DEGREES] [origin X,Y]",
      "axes drawn over the art: lines through the origin's mark, the first by the active sector's "
      "triangles; within a pixel and a quarter of a degree",

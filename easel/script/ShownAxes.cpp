@@ -16,7 +16,6 @@ Point pointAt(AIPoint pixel) {
 }
 
 double cross(Point a, Point b) { return a.x * b.y - a.y * b.x; }
-double length(Point p) { return std::hypot(p.x, p.y); }
 
 struct Line {
     Point from;

@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <stdexcept>
 
 namespace easel::svg {
 namespace {
@@ -21,10 +20,8 @@ bool isOpaque(std::string_view element) {
     return element == "text" || element == "image" || element == "use";
 }
 
-bool samePlace(AIRealPoint a, AIRealPoint b) { return a.h == b.h && a.v == b.v; }
-
 AIBoolean isCorner(const AIPathSegment& segment) {
-    if (samePlace(segment.p, segment.in) || samePlace(segment.p, segment.out)) return 1;
+    if (same(segment.p, segment.in) || same(segment.p, segment.out)) return 1;
     const double inX = static_cast<double>(segment.p.h) - segment.in.h;
     const double inY = static_cast<double>(segment.p.v) - segment.in.v;
     const double outX = static_cast<double>(segment.out.h) - segment.p.h;
@@ -75,8 +72,8 @@ Context ArtBuilder::contextOf(const Element& element, const Context& parent) {
 Art* ArtBuilder::readElement(const Element& element, Art& parent, const Context& parentContext) {
     if (!isArt(element)) return nullptr;
     const std::string_view name = element.name();
-    const Deeper deeper{state_, element};
-    const Pushed pushed{state_.path, element.selectorName()};
+    const auto nested = deeper(state_, element);
+    const auto here = pushed(state_.path, element.selectorName());
     state_.countElement(element);
     const auto context = std::make_unique<const Context>(contextOf(element, parentContext));
     if (name == "clipPath") return readClipMembers(element, parent, *context);

@@ -1,10 +1,12 @@
 #include "easel/svg/ArtTag.h"
 
-#include "easel/document/Layers.h"
 #include "easel/svg/ArtAttributes.h"
 #include "easel/svg/AsRead.h"
 #include "easel/svg/DictionaryJson.h"
-#include "easel/svg/Element.h"
+#include "easel/svg/Numbers.h"
+
+#include <algorithm>
+#include <set>
 
 namespace easel::svg {
 namespace {
@@ -32,6 +34,37 @@ void describeEntries(TagText& tag, const Art& art, const ArtSource* source, cons
     if (members != membersThen) tag.set("easel:members", members);
 }
 
+/// Attributes of a shape's element that say where it lies, and those by which drawing programs make
+/// the outline anew.
+bool isGeometry(std::string_view name) {
+    constexpr std::string_view kPlaces[] = {"x",  "y",  "width",  "height",    "rx", "ry",
+                                            "cx", "cy", "r",      "x1",        "y1", "x2",
+                                            "y2", "d",  "points", "pathLength"};
+    constexpr std::string_view kMakings[] = {"inkscape:original-d", "inkscape:path-effect",
+                                             "inkscape:rounded", "inkscape:randomized",
+                                             "inkscape:flatsided"};
+    if (name.starts_with("sodipodi:")) return name != "sodipodi:insensitive";
+    return std::ranges::find(kPlaces, name) != std::end(kPlaces) ||
+           std::ranges::find(kMakings, name) != std::end(kMakings);
+}
+
+/// An open path's outermost handles draw nothing and so have no place in path data.
+std::string endsText(const Art& path, const UserSpace& space) {
+    const auto segments = path.segments();
+    if (segments.empty() || path.content().closed) return {};
+    const AIPathSegment& first = segments.front();
+    const AIPathSegment& last = segments.back();
+    if (same(first.in, first.p) && same(last.out, last.p)) return {};
+    return space.point(first.in) + ' ' + space.point(last.out);
+}
+
+std::string valueIn(const Style& style, const std::string& property) {
+    if (property == "opacity") return formatNumber(style.opacity);
+    for (const Properties* known : {style.inherited.get(), &style.others, &style.unknown})
+        if (known != nullptr && known->contains(property)) return known->at(property);
+    return std::string{propertyNamed(property).initial};
+}
+
 } // namespace
 
 void describe(TagText& tag, const Art& art, const ArtSource* source, const DrawingSource& drawing,
@@ -56,6 +89,53 @@ void describe(TagText& tag, const Art& art, const ArtSource* source, const Drawi
     if (!wasHidden || hides) return;
     if (hasSheet) tag.setProperty("display", "inline", true);
     if (!isContainer(art)) tag.setProperty("visibility", "visible", hasSheet);
+}
+
+void setShape(TagText& tag, const Art& art, const UserSpace& space) {
+    std::string data;
+    for (const Art* member : membersOf(art))
+        data += space.path(member->segments(), member->content().closed);
+    tag.set("d", data.empty() ? " " : data);
+    tag.set("easel:ends", art.type() == kPathArt ? endsText(art, space) : std::string{});
+}
+
+void reshape(TagText& tag, const Element& element, const Art& art, const UserSpace& space) {
+    for (const XmlAttribute& attribute : element.attributes())
+        if (isGeometry(attribute.name)) tag.set(attribute.name, {});
+    tag.rename(std::string{element.tree().prefix()} + "path");
+    setShape(tag, art, space);
+}
+
+void restyle(TagText& tag, const ArtStyle& now, const ArtStyle& then, const UserSpace& space,
+             const ServerText& servers, bool inStyle) {
+    const ServerText compared = [](const Definition& definition, const AIRealMatrix& m) {
+        std::string text = definition.id();
+        for (const AIReal entry : {m.a, m.b, m.c, m.d, m.tx, m.ty})
+            text += ' ' + formatNumber(entry);
+        return text;
+    };
+    const auto before = styleText(then, space, compared);
+    const auto after = styleText(now, space, compared);
+    std::set<int> changed;
+    for (std::size_t i = 0; i < after.size(); ++i)
+        if (after[i].text != before[i].text) changed.insert(after[i].kind);
+    if (changed.empty()) return;
+    for (const PropertyText& each : styleText(now, space, servers))
+        if (changed.contains(each.kind)) tag.setProperty(each.name, each.text, inStyle);
+}
+
+void setProperties(TagText& tag, const Properties& wanted, const Style& here, bool isText,
+                   bool inStyle) {
+    for (const auto& [property, value] : wanted)
+        if (valueIn(here, property) != value)
+            tag.setProperty(property, value, inStyle || propertyNamed(property).name.empty());
+    if (!here.inherited) return;
+    for (const auto& [property, value] : *here.inherited) {
+        const Property& known = propertyNamed(property);
+        if (wanted.contains(property) || known.initial.empty() || value == known.initial) continue;
+        if (known.text ? isText : !known.understood || isText)
+            tag.setProperty(property, known.initial, inStyle);
+    }
 }
 
 } // namespace easel::svg

@@ -8,14 +8,9 @@ namespace easel::svg {
 namespace {
 
 bool sameSegments(const Segments& a, const Segments& b) {
-    const auto same = [](AIRealPoint p, AIRealPoint q) { return p.h == q.h && p.v == q.v; };
     return std::ranges::equal(a, b, [&](const AIPathSegment& p, const AIPathSegment& q) {
         return same(p.p, q.p) && same(p.in, q.in) && same(p.out, q.out);
     });
-}
-
-bool sameMatrix(const AIRealMatrix& a, const AIRealMatrix& b) {
-    return a.a == b.a && a.b == b.b && a.c == b.c && a.d == b.d && a.tx == b.tx && a.ty == b.ty;
 }
 
 } // namespace
@@ -51,7 +46,7 @@ bool AsRead::hasSameShape(const Art& art) const {
     if (source->stamp == art.stamp()) return true;
     return art.content().closed == source->content.closed &&
            sameSegments(*art.content().segments, *source->content.segments) &&
-           sameMatrix(art.details().matrix, source->content.details->matrix);
+           matrixOf(art.details().matrix) == matrixOf(source->content.details->matrix);
 }
 
 bool AsRead::hasSameMasks(const Art& group, const ArtSource& source) const {
@@ -90,9 +85,9 @@ const Art* AsRead::onlyShown(const Art& group, const ArtSource& source) const {
 }
 
 const Effects* movedEffects(const Art& art) {
-    const auto* const effects = dynamic_cast<const Effects*>(art.style().foreign.get());
-    const bool moved = effects != nullptr && effects->spatial &&
-                       !sameMatrix(art.style().foreignMatrix, kIdentityMatrix);
+    const Effects* const effects = effectsIn(art.style());
+    const bool moved =
+        effects != nullptr && effects->spatial && matrixOf(art.style().foreignMatrix) != Matrix{};
     return moved ? effects : nullptr;
 }
 

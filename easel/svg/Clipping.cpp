@@ -35,7 +35,7 @@ std::optional<Outline> ArtBuilder::clipOutline(const Element& clipPath, const Co
     bool first = true;
     for (const NodeIndex node : childElements(state_.tree, clipPath.node())) {
         const Element child{state_.tree, node};
-        const Pushed pushed{state_.path, child.selectorName()};
+        const auto here = pushed(state_.path, child.selectorName());
         state_.countElement(child);
         const auto inner = std::make_unique<Context>(contextOf(child, context));
         if (!inner->style.displayed || !inner->style.visible) continue;

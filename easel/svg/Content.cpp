@@ -111,10 +111,6 @@ AIRealMatrix toSoft(const Matrix& matrix, Point offset) {
             narrowed(m.d), narrowed(m.e), narrowed(m.f)};
 }
 
-Matrix fromSoft(const AIRealMatrix& m, Point offset) {
-    return drawingMatrix({m.a, m.b, m.c, m.d, m.tx, m.ty}, offset);
-}
-
 Matrix softMatrix(const Matrix& m, Point offset) {
     return {m.a, -m.b, m.c, -m.d, m.e - offset.x, -(m.f - offset.y)};
 }

@@ -109,6 +109,11 @@ struct Effects : ForeignContent {
     }
 };
 
+/// Null where all of the element was understood.
+[[nodiscard]] inline const Effects* effectsIn(const ArtStyle& style) {
+    return dynamic_cast<const Effects*>(style.foreign.get());
+}
+
 /// What one object was read as. It has been left alone while it is the same.
 struct ArtSource {
     NodeIndex node = kNoNode; ///< The element it came from; none: a part of what another one made.
@@ -161,9 +166,11 @@ void fillInTitles(std::vector<std::string>& titles);
 /// Soft coordinates are the drawing's, less this, with y negated: how far the ruler origin lies
 /// from where it was when the drawing was read.
 [[nodiscard]] Point rulerOffset(const Document& document);
+[[nodiscard]] inline Matrix matrixOf(const AIRealMatrix& m) {
+    return {m.a, m.b, m.c, m.d, m.tx, m.ty};
+}
 [[nodiscard]] AIRealPoint toSoft(Point point, Point offset);
 [[nodiscard]] AIRealMatrix toSoft(const Matrix& matrix, Point offset);
-[[nodiscard]] Matrix fromSoft(const AIRealMatrix& matrix, Point offset);
 /// The same without rounding, for a matrix from any space.
 [[nodiscard]] Matrix softMatrix(const Matrix& matrix, Point offset);
 [[nodiscard]] Matrix drawingMatrix(const Matrix& soft, Point offset);

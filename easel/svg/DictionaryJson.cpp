@@ -50,13 +50,6 @@ void fromJson(const Json& json, Dictionary& dictionary, int depth);
 Json valueJson(const Value& value);
 Value jsonValue(const Json& item, int depth);
 
-Json arrayJson(const Array& array) {
-    Json list = Json::array();
-    for (const Value& value : array.values())
-        list.push_back(valueJson(value));
-    return list;
-}
-
 struct Writer {
     Json operator()(std::monostate) const { return {{"type", "unknown"}}; }
     Json operator()(ai::int32 value) const { return {{"type", "integer"}, {"value", value}}; }
@@ -71,7 +64,10 @@ struct Writer {
         return {{"type", "dictionary"}, {"value", toJson(*value)}};
     }
     Json operator()(const Ref<Array>& value) const {
-        return {{"type", "array"}, {"value", arrayJson(*value)}};
+        Json list = Json::array();
+        for (const Value& each : value->values())
+            list.push_back(valueJson(each));
+        return {{"type", "array"}, {"value", std::move(list)}};
     }
     Json operator()(const Binary& value) const {
         return {{"type", "binary"}, {"value", encodeBase64(*value)}};
@@ -132,7 +128,7 @@ template <std::size_t N> std::array<AIReal, N> reals(const Json& item) {
 Value arrayValue(const Json& item, int depth) {
     Ref<Array> array{new Array};
     for (const Json& element : item.at("value"))
-        array->insert(static_cast<ai::int32>(array->values().size()), jsonValue(element, depth));
+        array->append(jsonValue(element, depth));
     return array;
 }
 

@@ -88,11 +88,11 @@ std::string GeneratedDefinitions::text(std::string added, std::string_view conte
     for (NodeIndex child = tree_.at(node).firstChild; child != kNoNode;
          child = tree_.at(child).nextSibling) {
         const std::size_t end = tree_.at(child).end;
-        if (isInUse(tree_, child, used)) text += tree_.text().substr(from, end - from);
+        if (isInUse(tree_, child, used)) text += tree_.slice(from, end);
         from = end;
     }
     text += added;
-    return text += tree_.text().substr(from, tree_.at(node).end - from);
+    return text += tree_.slice(from, tree_.at(node).end);
 }
 
 /// Has nothing at all changed beside these definitions?

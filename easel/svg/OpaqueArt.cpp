@@ -2,7 +2,6 @@
 #include "easel/svg/ArtBuilder.h"
 #include "easel/svg/Base64.h"
 #include "easel/svg/Numbers.h"
-#include "easel/svg/Png.h"
 #include "easel/svg/ViewBox.h"
 
 #include <algorithm>
@@ -53,7 +52,7 @@ public:
     TextReader(ReadingState& state, TextContent& content) : state_(state), content_(content) {}
 
     void read(const Element& element, const Context& context) {
-        const Deeper deeper{state_, element};
+        const auto nested = deeper(state_, element);
         move(element, context);
         for (NodeIndex node = state_.tree.at(element.node()).firstChild; node != kNoNode;
              node = state_.tree.at(node).nextSibling) {
@@ -70,7 +69,7 @@ public:
 private:
     void readSpan(const Element& element, const Context& parent) {
         if (element.name() != "tspan" && element.name() != "a") return;
-        const Pushed pushed{state_.path, element.selectorName()};
+        const auto here = pushed(state_.path, element.selectorName());
         state_.countElement(element);
         Context context = parent;
         context.style = styleOf(element.properties(state_.sheet, state_.path), parent.style,
@@ -121,6 +120,23 @@ std::vector<std::byte> pngOf(const Element& element) {
     if (!source.starts_with(kPrefix)) return {};
     return decodeBase64(std::string_view{source}.substr(kPrefix.size()))
         .value_or(std::vector<std::byte>{});
+}
+
+/// How many pixels a PNG file has across and down, from its head alone; 0, 0: it is none.
+Point pngSize(std::span<const std::byte> png) {
+    constexpr std::size_t kHead = 24;
+    constexpr std::string_view kMark = "\x89PNG\r\n\x1A\n";
+    const auto byteAt = [&](std::size_t i) { return std::to_integer<unsigned char>(png[i]); };
+    if (png.size() < kHead) return {};
+    for (std::size_t i = 0; i < kMark.size(); ++i)
+        if (byteAt(i) != static_cast<unsigned char>(kMark[i])) return {};
+    const auto number = [&](std::size_t at) {
+        double value = 0.0;
+        for (std::size_t i = at; i < at + 4; ++i)
+            value = 256.0 * value + byteAt(i);
+        return value;
+    };
+    return {number(16), number(20)};
 }
 
 std::string inheritedText(const Style& style) {
@@ -224,14 +240,15 @@ ArtBuilder::drawingOf(const Element& referring, NodeIndex target, const Context&
     const auto known = state_.drawings.find({target, variant});
     if (known != state_.drawings.end()) return known->second;
 
-    const Deeper deeper{state_, referring};
-    const Pushed pushed{state_.referring, target};
+    const auto nested = deeper(state_, referring);
+    const auto here = pushed(state_.referring, target);
     std::vector<ElementName> ancestors;
     for (NodeIndex node = state_.tree.at(target).parent; node != kNoNode;
          node = state_.tree.at(node).parent)
         ancestors.push_back(Element{state_.tree, node}.selectorName());
     std::ranges::reverse(ancestors);
-    const Exchanged exchanged{state_.path, std::move(ancestors)};
+    state_.path.swap(ancestors);
+    const PutBack former{[&] { state_.path.swap(ancestors); }};
 
     auto content = std::make_shared<DrawingContent>();
     content->drawing = std::make_unique<Document>(state_.session, AISize{1, 1}, FirstLayer::Yes);
@@ -241,7 +258,7 @@ ArtBuilder::drawingOf(const Element& referring, NodeIndex target, const Context&
     const bool hasContentOnly =
         entered == Entered::Content || element.name() == "symbol" || element.name() == "svg";
     if (hasContentOnly) {
-        const Pushed own{state_.path, element.selectorName()};
+        const auto own = pushed(state_.path, element.selectorName());
         builder.readChildren(target, layer, context);
     } else {
         builder.readElement(element, layer, context);

@@ -69,6 +69,11 @@ void appendArc(Subpath& subpath, Point radii, double rotationDegrees, bool large
     subpath.anchors.back() = {end, subpath.anchors.back().in, end};
 }
 
+Outline rectangle(Point from, Point to) {
+    return {
+        {{cornerAt(from), cornerAt({to.x, from.y}), cornerAt(to), cornerAt({from.x, to.y})}, true}};
+}
+
 void close(Subpath& subpath) {
     subpath.closed = true;
     Anchor& first = subpath.anchors.front();

@@ -39,6 +39,8 @@ void appendArc(Subpath& subpath, Point radii, double rotationDegrees, bool large
 void appendLine(Subpath& subpath, Point end);
 void appendCurve(Subpath& subpath, Point control1, Point control2, Point end);
 
+[[nodiscard]] Outline rectangle(Point from, Point to);
+
 /// Closes a subpath; where it ends on its first anchor, the two become one.
 void close(Subpath& subpath);
 

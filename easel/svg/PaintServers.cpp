@@ -20,8 +20,8 @@ std::vector<GradientStop> readStops(ReadingState& state, const Element& gradient
     for (const NodeIndex node : childElements(state.tree, gradient.node())) {
         const Element element{state.tree, node};
         if (element.name() != "stop" || stops.size() >= kMostStops) continue;
-        const Pushed outer{state.path, gradient.selectorName()};
-        const Pushed inner{state.path, element.selectorName()};
+        const auto outer = pushed(state.path, gradient.selectorName());
+        const auto inner = pushed(state.path, element.selectorName());
         state.countElement(element);
         const Style style = styleOf(element.properties(state.sheet, state.path), Style{}, 0.0);
         GradientStop stop;

@@ -9,8 +9,6 @@
 namespace easel::svg {
 namespace {
 
-bool same(AIRealPoint a, AIRealPoint b) { return a.h == b.h && a.v == b.v; }
-
 /// The number that the few digits of a single-precision real stand for.
 double brief(double value) {
     return parseNumber(formatNumber(static_cast<AIReal>(value))).value_or(value);
@@ -48,9 +46,7 @@ Matrix UserSpace::transformTo(const Matrix& soft) const {
                      brief(exact.d), brief(exact.e), brief(exact.f)};
     const AIRealMatrix one = toSoft(toDrawing_ * few, offset_);
     const AIRealMatrix other = toSoft(drawingMatrix(soft, offset_), offset_);
-    const bool reads = one.a == other.a && one.b == other.b && one.c == other.c &&
-                       one.d == other.d && one.tx == other.tx && one.ty == other.ty;
-    return reads ? few : exact;
+    return matrixOf(one) == matrixOf(other) ? few : exact;
 }
 
 std::string UserSpace::length(AIReal soft) const {

@@ -73,10 +73,9 @@ void readEntries(const Element& element, std::string_view json, Dictionary& targ
     }
 }
 
-Deeper::Deeper(ReadingState& state, const Element& element) : state_(state) {
-    if (++state.nesting <= static_cast<int>(kMostNesting)) return;
-    --state.nesting;
-    element.fail("elements and references are nested more than 500 deep; use fewer levels");
+void ReadingState::checkNesting(const Element& element) const {
+    if (nesting >= static_cast<int>(kMostNesting))
+        element.fail("elements and references are nested more than 500 deep; use fewer levels");
 }
 
 } // namespace easel::svg

@@ -34,6 +34,8 @@ public:
 
     /// Counts one more element; throws SvgError where the limits are passed.
     void countElement(const Element& element);
+    /// Throws SvgError where nothing can be nested deeper.
+    void checkNesting(const Element& element) const;
     /// Counts one more reference.
     void countReference(const Element& element);
     /// Says each thing about an element once.
@@ -72,44 +74,30 @@ private:
 /// Adds the entries that an attribute of the element holds. Throws SvgError where they are broken.
 void readEntries(const Element& element, std::string_view json, Dictionary& target);
 
-/// Something put back when a scope ends.
-template <typename Container> class Pushed {
+/// Puts something back when a scope ends.
+template <typename Back> class [[nodiscard]] PutBack {
 public:
-    Pushed(Container& container, typename Container::value_type value) : container_(container) {
-        container_.push_back(std::move(value));
-    }
-    ~Pushed() { container_.pop_back(); }
-    Pushed(const Pushed&) = delete;
-    Pushed& operator=(const Pushed&) = delete;
+    explicit PutBack(Back back) : back_(std::move(back)) {}
+    ~PutBack() { back_(); }
+    PutBack(const PutBack&) = delete;
+    PutBack& operator=(const PutBack&) = delete;
 
 private:
-    Container& container_;
+    Back back_;
 };
 
-/// Another value until a scope ends.
-template <typename T> class Exchanged {
-public:
-    Exchanged(T& target, T value)
-        : target_(target), former_(std::exchange(target, std::move(value))) {}
-    ~Exchanged() { target_ = std::move(former_); }
-    Exchanged(const Exchanged&) = delete;
-    Exchanged& operator=(const Exchanged&) = delete;
-
-private:
-    T& target_;
-    T former_;
-};
+/// One more at the end of the container.
+template <typename Container>
+auto pushed(Container& container, typename Container::value_type value) {
+    container.push_back(std::move(value));
+    return PutBack{[&container] { container.pop_back(); }};
+}
 
 /// One level deeper; throws SvgError beyond the limit.
-class Deeper {
-public:
-    Deeper(ReadingState& state, const Element& element);
-    ~Deeper() { --state_.nesting; }
-    Deeper(const Deeper&) = delete;
-    Deeper& operator=(const Deeper&) = delete;
-
-private:
-    ReadingState& state_;
-};
+inline auto deeper(ReadingState& state, const Element& element) {
+    state.checkNesting(element);
+    ++state.nesting;
+    return PutBack{[&state] { --state.nesting; }};
+}
 
 } // namespace easel::svg

@@ -29,11 +29,11 @@ std::string withoutIds(const XmlTree& tree, NodeIndex node, std::size_t from, st
         for (const XmlAttribute& attribute : tree.attributes(each)) {
             if (attribute.name != "id") continue;
             const auto at = static_cast<std::size_t>(attribute.source.data() - tree.text().data());
-            text += tree.text().substr(from, at - from);
+            text += tree.slice(from, at);
             from = at + attribute.source.size();
         }
     }
-    return text += tree.text().substr(from, to - from);
+    return text += tree.slice(from, to);
 }
 
 } // namespace easel::svg

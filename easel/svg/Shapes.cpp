@@ -63,13 +63,8 @@ Outline rect(Lengths& lengths) {
     const Point radii{std::clamp(rx.value_or(ry.value_or(0)), 0.0, size.x / 2),
                       std::clamp(ry.value_or(rx.value_or(0)), 0.0, size.y / 2)};
     const Point far = corner + size;
+    if (radii.x <= 0 || radii.y <= 0) return rectangle(corner, far);
     Subpath subpath;
-    if (radii.x <= 0 || radii.y <= 0) {
-        subpath.anchors = {cornerAt(corner), cornerAt({far.x, corner.y}), cornerAt(far),
-                           cornerAt({corner.x, far.y})};
-        subpath.closed = true;
-        return {subpath};
-    }
     const auto lineTo = [&](Point end) {
         if (end != subpath.anchors.back().p) appendLine(subpath, end);
     };

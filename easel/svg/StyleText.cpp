@@ -94,8 +94,7 @@ std::string DerivedServers::reference(const Definition& definition, const AIReal
     const bool dependsOnBounds =
         (gradient != nullptr && gradient->overBounds) || (pattern != nullptr && pattern->resolved);
     const bool understood = gradient != nullptr || pattern != nullptr;
-    const Matrix inSpace =
-        space.transformTo({matrix.a, matrix.b, matrix.c, matrix.d, matrix.tx, matrix.ty});
+    const Matrix inSpace = space.transformTo(matrixOf(matrix));
     if (!understood || !space.isPlane() || (!dependsOnBounds && inSpace == Matrix{}))
         return "url(#" + definition.id() + ")";
     std::string text = attributeText("xlink:href", '#' + definition.id());
@@ -125,7 +124,7 @@ std::vector<PropertyText> styleText(const ArtStyle& style, const UserSpace& spac
     enum Kind { kFill, kFillRule, kStroke, kPen, kDash, kWhole };
     const AIPathStyle& path = style.path;
     const AIStrokeStyle& stroke = path.stroke;
-    const auto* const effects = dynamic_cast<const Effects*>(style.foreign.get());
+    const Effects* const effects = effectsIn(style);
     const bool fixed = effects != nullptr && effects->hasFixedStroke();
     const UserSpace screen{Matrix{}, Point{}};
     const UserSpace& pen = fixed ? screen : space;

@@ -1,14 +1,12 @@
 #include "easel/document/Layers.h"
 #include "easel/svg/ArtBuilder.h"
 #include "easel/svg/Numbers.h"
-#include "easel/svg/PaintServers.h"
 #include "easel/svg/SvgFile.h"
 #include "easel/svg/ViewBox.h"
 
 #include <algorithm>
 #include <fstream>
 #include <iterator>
-#include <string_view>
 
 namespace easel::svg {
 namespace {
@@ -74,7 +72,7 @@ public:
         placeRuler(root, artboard);
 
         ArtBuilder builder{state_, *document_, source_, rulerOffset(*document_)};
-        const Pushed pushed{state_.path, root.selectorName()};
+        const auto here = pushed(state_.path, root.selectorName());
         const auto context =
             std::make_unique<const Context>(rootContext(root, state_.sheet, artboard.size));
         readLayers(builder, root, *context);
@@ -147,8 +145,8 @@ private:
     }
 
     void readLayer(ArtBuilder& builder, const Element& element, const Context& context) {
-        const Deeper deeper{state_, element};
-        const Pushed pushed{state_.path, element.selectorName()};
+        const auto nested = deeper(state_, element);
+        const auto here = pushed(state_.path, element.selectorName());
         state_.countElement(element);
         Art& layer = createLayer(*document_, {}, onTopOf(document_->root()));
         const auto inner = std::make_unique<const Context>(builder.contextOf(element, context));

@@ -7,8 +7,6 @@
 #include "easel/svg/Numbers.h"
 #include "easel/svg/PaintServers.h"
 #include "easel/svg/ReadingState.h"
-#include "easel/svg/ShapeTag.h"
-#include "easel/svg/StyleHere.h"
 #include "easel/svg/SvgFile.h"
 #include "easel/svg/TagText.h"
 #include "easel/svg/ViewBox.h"
@@ -65,12 +63,7 @@ public:
         for (std::size_t i = 0; i < now.size(); ++i)
             if (now[i].text != source_.attributes[i].text) tag.set(now[i].name, now[i].text);
 
-        Frame frame;
-        frame.next = document_.root().lastChild();
-        frame.node = root.node();
-        frame.child = tree_.at(root.node()).firstChild;
-        frame.at = tree_.at(root.node()).contentStart;
-        frame.name = root.selectorName();
+        Frame frame = frameOf(document_.root(), root);
         frame.context =
             std::make_shared<const Context>(rootContext(root, source_.sheet, source_.viewBoxSize));
         frames_.push_back(std::move(frame));
@@ -119,6 +112,18 @@ private:
         std::shared_ptr<const Context> context;
     };
 
+    /// Of an element that is copied with `container` in it.
+    [[nodiscard]] Frame frameOf(const Art& container, const Element& element) const {
+        Frame frame;
+        frame.next = container.lastChild();
+        frame.node = element.node();
+        frame.child = tree_.at(element.node()).firstChild;
+        frame.at = tree_.at(element.node()).contentStart;
+        frame.start = out_.size();
+        frame.name = element.selectorName();
+        return frame;
+    }
+
     /// Rather too much than too little: memory that is not written to costs nothing, and a text
     /// that grows beyond it is for a while there twice.
     [[nodiscard]] std::size_t expectedLength() const {
@@ -144,8 +149,7 @@ private:
 
     [[nodiscard]] std::string endTag(NodeIndex node) const {
         if (tree_.isSelfClosing(node)) return "</" + std::string{tree_.tagName(node)} + '>';
-        return std::string{tree_.text().substr(tree_.at(node).contentEnd,
-                                               tree_.at(node).end - tree_.at(node).contentEnd)};
+        return std::string{tree_.slice(tree_.at(node).contentEnd, tree_.at(node).end)};
     }
 
     void newLine() {
@@ -171,7 +175,7 @@ private:
         if (target != kNoNode && (frame.child == kNoNode || target < frame.child)) return newLine();
         while (frame.child != target) {
             const XmlTree::Node& child = tree_.at(frame.child);
-            const std::string_view text = tree_.text().substr(frame.at, child.end - frame.at);
+            const std::string_view text = tree_.slice(frame.at, child.end);
             if (isGenerated(tree_, frame.child)) {
                 out_ += text.substr(0, child.start - frame.at);
                 generatedAt_ = out_.size();
@@ -183,7 +187,7 @@ private:
         }
         const std::size_t end =
             target != kNoNode ? tree_.at(target).start : tree_.at(frame.node).contentEnd;
-        out_ += tree_.text().substr(frame.at, end - frame.at);
+        out_ += tree_.slice(frame.at, end);
         frame.at = end;
     }
 
@@ -209,10 +213,15 @@ private:
 
     // What members are written under.
 
-    [[nodiscard]] std::vector<ElementName> path(ElementName last) const {
+    /// From the root to the element that `depth` frames lead to.
+    [[nodiscard]] std::vector<ElementName> path(std::size_t depth) const {
         std::vector<ElementName> names;
-        for (const Frame& frame : frames_)
-            if (!frame.loose) names.push_back(frame.name);
+        for (std::size_t i = 0; i < depth; ++i)
+            if (!frames_[i].loose) names.push_back(frames_[i].name);
+        return names;
+    }
+    [[nodiscard]] std::vector<ElementName> path(ElementName last) const {
+        std::vector<ElementName> names = path(frames_.size());
         names.push_back(last);
         return names;
     }
@@ -236,10 +245,7 @@ private:
 
     /// What the content of an element that is copied is written under; `depth` frames lead to it.
     Context contentContext(const Element& element, const Context& parent, std::size_t depth) {
-        std::vector<ElementName> names;
-        for (std::size_t i = 0; i < depth; ++i)
-            if (!frames_[i].loose) names.push_back(frames_[i].name);
-        Context context = contextOf(element, source_.sheet, names, parent);
+        Context context = contextOf(element, source_.sheet, path(depth), parent);
         if (element.name() == "svg") enterViewBox(element, context);
         return context;
     }
@@ -268,11 +274,9 @@ private:
         if (frame.keepsMasks && isClipMask(*art) && source != nullptr)
             return keepMask(source->node);
         if (source != nullptr && standsHere(source->node) && keep(*art, *source)) return;
-        if (isTop && source != nullptr && source->node == kNoNode &&
-            !layerTags_.tagged.contains(art))
-            return openLoose(*art);
-        if (isTop && source != nullptr && source->node == kNoNode) return openTagged(*art);
-        writeAnew(*art);
+        const bool isLoose = isTop && source != nullptr && source->node == kNoNode;
+        if (!isLoose) return writeAnew(*art);
+        layerTags_.tagged.contains(art) ? openTagged(*art) : openLoose(*art);
     }
 
     void close() {
@@ -338,8 +342,7 @@ private:
 
     /// From the effects' user space to soft coordinates.
     static Matrix effectSpace(const Art& art, const Effects& effects) {
-        const AIRealMatrix& m = art.style().foreignMatrix;
-        return Matrix{m.a, m.b, m.c, m.d, m.tx, m.ty} * effects.space;
+        return matrixOf(art.style().foreignMatrix) * effects.space;
     }
 
     /// The user space of art with effects that have their meaning in another one than the place's.
@@ -360,7 +363,7 @@ private:
         const bool sameStyle =
             source.stamp == art.stamp() || art.content().style.sharesWith(source.content.style);
         if (!isShape && !sameShape)
-            static_cast<void>(ownSpace(tag, placeSpace(), asMatrix(art.details().matrix)));
+            static_cast<void>(ownSpace(tag, placeSpace(), matrixOf(art.details().matrix)));
         if (isShape && !(sameShape && sameStyle)) {
             const UserSpace outer = placeSpace();
             const UserSpace space = moved != nullptr
@@ -388,7 +391,6 @@ private:
     }
 
     [[nodiscard]] bool hasSheet() const { return !source_.sheet.empty(); }
-    static Matrix asMatrix(const AIRealMatrix& m) { return {m.a, m.b, m.c, m.d, m.tx, m.ty}; }
 
     [[nodiscard]] ServerText serverText(const UserSpace& space) {
         return [this, &space](const Definition& definition, const AIRealMatrix& matrix) {
@@ -415,18 +417,13 @@ private:
         describe(tag, group, &source, source_, layerTags_.named);
         if (!keepsMasks) describeMasks(tag, group);
         copyUpTo(source.node);
-        Frame frame;
+        Frame frame = frameOf(group, element);
         frame.keepsMasks = keepsMasks;
-        frame.next = group.lastChild();
-        frame.node = source.node;
-        frame.child = tree_.at(source.node).firstChild;
-        frame.at = tree_.at(source.node).contentStart;
-        frame.start = out_.size();
-        frame.name = element.selectorName();
         frame.context = std::move(inner);
-        const bool hasMembers = std::ranges::any_of(
-            childrenOf(group), [&](const Art* art) { return !(keepsMasks && isClipMask(*art)); });
-        const bool empty = tree_.isSelfClosing(source.node) && !hasMembers;
+        const Art* member = group.lastChild();
+        while (keepsMasks && member != nullptr && isClipMask(*member))
+            member = member->previous();
+        const bool empty = tree_.isSelfClosing(source.node) && member == nullptr;
         out_ += tag.text(empty, prefixes_);
         if (empty)
             finish(source.node, frame.start);
@@ -435,20 +432,13 @@ private:
         return true;
     }
 
-    static std::vector<const Art*> childrenOf(const Art& container) {
-        std::vector<const Art*> children;
-        for (const Art* art = container.lastChild(); art != nullptr; art = art->previous())
-            children.push_back(art);
-        return children;
-    }
-
     /// Masks that are written among the members of their group. Several cut one another: each clip
     /// path is clipped by the one before, the group by the last.
     void describeMasks(TagText& tag, const Art& group) {
         tag.setProperty("clip-path", {}, false);
         tag.set("easel:clipped", group.content().clipped ? "true" : "");
         std::string last;
-        for (const Art* art : childrenOf(group))
+        for (const Art* art = group.lastChild(); art != nullptr; art = art->previous())
             if (isClipMask(*art)) clipIds_[art] = last = servers_.newId("easel-clip-", clipNumber_);
         if (!last.empty()) tag.setProperty("clip-path", "url(#" + last + ")", hasSheet());
     }
@@ -479,7 +469,7 @@ private:
     }
 
     void warnOfLoss(const Art& art) {
-        const auto* const effects = dynamic_cast<const Effects*>(art.style().foreign.get());
+        const Effects* const effects = effectsIn(art.style());
         if (effects != nullptr && !effects->lost.empty()) warn(effects->lost);
     }
 
@@ -494,11 +484,9 @@ private:
             warn("art in a group whose transform flattens it cannot be placed there");
             return outer;
         }
-        const auto* const effects = dynamic_cast<const Effects*>(art.style().foreign.get());
-        if (effects != nullptr && effects->spatial) {
-            const Matrix space = effectSpace(art, *effects);
-            if (inverse(space)) return ownSpace(tag, outer, space);
-        }
+        const Effects* const effects = effectsIn(art.style());
+        if (effects != nullptr && effects->spatial && inverse(effectSpace(art, *effects)))
+            return ownSpace(tag, outer, effectSpace(art, *effects));
         const bool isStroked = !isContainer(art) && art.style().path.strokePaint != 0;
         if (isStroked && !isConformal(outer.toDrawing()))
             return ownSpace(tag, outer, softMatrix(Matrix{}, offset_));
@@ -506,7 +494,7 @@ private:
     }
 
     [[nodiscard]] static Properties effectsOf(const Art& art) {
-        const auto* const effects = dynamic_cast<const Effects*>(art.style().foreign.get());
+        const Effects* const effects = effectsIn(art.style());
         return effects != nullptr ? effects->properties : Properties{};
     }
 
@@ -534,7 +522,7 @@ private:
         setId(tag, group);
         const UserSpace space = spaceFor(tag, group);
         Frame frame;
-        frame.next = groupContent(group);
+        frame.next = lastShown(group);
         if (group.content().clipped) describeMasks(tag, group);
         Properties wanted = effectsOf(group);
         wanted["opacity"] = formatNumber(group.style().opacity);
@@ -552,14 +540,6 @@ private:
         else
             frame.context = frames_.back().context;
         frames_.push_back(std::move(frame));
-    }
-
-    /// Of a plug-in group, what it looks like.
-    static const Art* groupContent(const Art& group) {
-        if (group.type() != kPluginArt) return group.lastChild();
-        const Art* const result = resultArt(group);
-        if (result != nullptr && result->lastChild() != nullptr) return result->lastChild();
-        return editArt(group) != nullptr ? editArt(group)->lastChild() : nullptr;
     }
 
     void writeShape(const Art& art) {
@@ -597,12 +577,12 @@ private:
         TagText tag{element};
         tag.set("id", {});
         setId(tag, art);
-        static_cast<void>(ownSpace(tag, placeSpace(), asMatrix(art.details().matrix)));
-        const Properties effects = effectsOf(art);
+        static_cast<void>(ownSpace(tag, placeSpace(), matrixOf(art.details().matrix)));
         for (const char* const own : {"clip-path", "display", "opacity"})
             tag.setProperty(own, {}, false);
-        for (const auto& [property, value] : effects)
-            if (property == "clip-path") tag.setProperty(property, value, hasSheet());
+        const Properties effects = effectsOf(art);
+        if (const auto clip = effects.find("clip-path"); clip != effects.end())
+            tag.setProperty(clip->first, clip->second, hasSheet());
         if (art.style().opacity != 1)
             tag.setProperty("opacity", formatNumber(art.style().opacity), hasSheet());
         ElementName name = element.selectorName();
@@ -629,7 +609,7 @@ private:
         const Definition* const symbol = art.details().symbol;
         TagText tag{std::string{tree_.prefix()} + (symbol != nullptr ? "use" : "g")};
         if (symbol != nullptr) tag.set("xlink:href", '#' + symbol->id());
-        static_cast<void>(ownSpace(tag, placeSpace(), asMatrix(art.details().matrix)));
+        static_cast<void>(ownSpace(tag, placeSpace(), matrixOf(art.details().matrix)));
         setProperties(tag, {{"opacity", formatNumber(art.style().opacity)}}, given("use"), true,
                       hasSheet());
         describe(tag, art, nullptr, source_, layerTags_.named);

@@ -217,8 +217,8 @@ TEST_CASE("what a plug-in made survives") {
     entry("au", Value{Boolean{false}}, *axes);
     entry("FacettaFT", Value{axes}, layer.dictionary());
     Ref<Array> array{new Array};
-    array->insert(0, Value{AIReal{0.1F}});
-    array->insert(1, Value{AIRealPoint{1.5F, -2}});
+    array->append(Value{AIReal{0.1F}});
+    array->append(Value{AIRealPoint{1.5F, -2}});
     entry("all", Value{array}, path.dictionary());
     entry("FTMirroredv1", Value{ai::int32{1}}, path.dictionary());
     entry("bytes", textValue("\xFF\x01'<&\""), path.dictionary());

@@ -1,6 +1,5 @@
 #include "host/suites/AIArtSetSuite.h"
 
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/document/Matching.h"
 #include "easel/document/Session.h"
@@ -99,16 +98,15 @@ void addArtToArtSet(AIArtSet set, AIArtHandle art) {
 
 void installArtSetSuite(SuiteServer& server) {
     using S = AIArtSetSuite;
-    auto table = server.table<S>(kAIArtSetSuite, kAIArtSetSuiteVersion);
-    expose<&S::NewArtSet, newArtSet>(table);
-    exposeEnding<&S::DisposeArtSet, disposeArtSet>(table);
-    expose<&S::CountArtSet, countArtSet>(table);
-    expose<&S::IndexArtSet, indexArtSet>(table);
-    expose<&S::SelectedArtSet, selectedArtSet>(table);
-    expose<&S::MatchingArtSet, matchingArtSet>(table);
-    expose<&S::LayerArtSet, layerArtSet>(table);
-    expose<&S::IntersectArtSet, intersectArtSet>(table);
-    expose<&S::AddArtToArtSet, addArtToArtSet>(table);
+    expose<&S::NewArtSet, newArtSet>(server);
+    exposeEnding<&S::DisposeArtSet, disposeArtSet>(server);
+    expose<&S::CountArtSet, countArtSet>(server);
+    expose<&S::IndexArtSet, indexArtSet>(server);
+    expose<&S::SelectedArtSet, selectedArtSet>(server);
+    expose<&S::MatchingArtSet, matchingArtSet>(server);
+    expose<&S::LayerArtSet, layerArtSet>(server);
+    expose<&S::IntersectArtSet, intersectArtSet>(server);
+    expose<&S::AddArtToArtSet, addArtToArtSet>(server);
 }
 
 } // namespace easel

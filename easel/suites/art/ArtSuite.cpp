@@ -1,8 +1,7 @@
 #include "host/suites/AIArtSuite.h"
 
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
-#include "easel/core/HostString.h"
+#include "easel/core/HostObjects.h"
 #include "easel/document/Attributes.h"
 #include "easel/document/Bounds.h"
 #include "easel/document/Layers.h"
@@ -194,29 +193,28 @@ std::size_t getArtTimeStamp(AIArtHandle art) {
 
 void installArtSuite(SuiteServer& server) {
     using S = AIArtSuite;
-    auto table = server.table<S>(kAIArtSuite, kAIArtSuiteVersion);
-    expose<&S::NewArt, newArt>(table);
-    expose<&S::DisposeArt, disposeArtObject>(table);
-    expose<&S::DuplicateArt, duplicateArtObject>(table);
-    expose<&S::GetFirstArtOfLayer, getFirstArtOfLayer>(table);
-    expose<&S::GetLayerOfArt, getLayerOfArt>(table);
-    expose<&S::GetArtType, getArtType>(table);
-    expose<&S::GetArtUserAttr, getArtUserAttr>(table);
-    expose<&S::SetArtUserAttr, setArtUserAttr>(table);
-    expose<&S::GetArtParent, getArtParent>(table);
-    expose<&S::GetArtFirstChild, getArtFirstChild>(table);
-    expose<&S::GetArtSibling, getArtSibling>(table);
-    expose<&S::GetArtBounds, getArtBounds>(table);
-    expose<&S::GetArtTransformBounds, getArtTransformBounds>(table);
-    expose<&S::ValidArt, validArt>(table);
-    expose<&S::GetInsertionPoint, getInsertionPoint>(table);
-    expose<&S::GetDictionary, getDictionary>(table);
-    expose<&S::IsArtLayerGroup, isArtLayerGroup>(table);
-    expose<&S::TransferAttributes, transferAttributes>(table);
-    expose<&S::SetNote, setNote>(table);
-    expose<&S::GetNote, getNote>(table);
-    expose<&S::HasNote, hasNote>(table);
-    expose<&S::GetArtTimeStamp, getArtTimeStamp>(table);
+    expose<&S::NewArt, newArt>(server);
+    expose<&S::DisposeArt, disposeArtObject>(server);
+    expose<&S::DuplicateArt, duplicateArtObject>(server);
+    expose<&S::GetFirstArtOfLayer, getFirstArtOfLayer>(server);
+    expose<&S::GetLayerOfArt, getLayerOfArt>(server);
+    expose<&S::GetArtType, getArtType>(server);
+    expose<&S::GetArtUserAttr, getArtUserAttr>(server);
+    expose<&S::SetArtUserAttr, setArtUserAttr>(server);
+    expose<&S::GetArtParent, getArtParent>(server);
+    expose<&S::GetArtFirstChild, getArtFirstChild>(server);
+    expose<&S::GetArtSibling, getArtSibling>(server);
+    expose<&S::GetArtBounds, getArtBounds>(server);
+    expose<&S::GetArtTransformBounds, getArtTransformBounds>(server);
+    expose<&S::ValidArt, validArt>(server);
+    expose<&S::GetInsertionPoint, getInsertionPoint>(server);
+    expose<&S::GetDictionary, getDictionary>(server);
+    expose<&S::IsArtLayerGroup, isArtLayerGroup>(server);
+    expose<&S::TransferAttributes, transferAttributes>(server);
+    expose<&S::SetNote, setNote>(server);
+    expose<&S::GetNote, getNote>(server);
+    expose<&S::HasNote, hasNote>(server);
+    expose<&S::GetArtTimeStamp, getArtTimeStamp>(server);
 }
 
 } // namespace easel

@@ -10,9 +10,9 @@ class SuiteServer;
 using SuiteInstaller = void(SuiteServer& server);
 
 SuiteInstaller installArtSuite, installArtSetSuite, installDictionarySuite, installEntrySuite,
-    installArraySuite, installLayerSuite, installPathSuite, installPathStyleSuite,
-    installGroupSuite, installPluginGroupSuite, installSymbolSuite, installRealMathSuite,
-    installTransformArtSuite, installHardSoftSuite, installHitTestSuite, installUndoSuite;
+    installLayerSuite, installPathSuite, installPathStyleSuite, installGroupSuite,
+    installPluginGroupSuite, installSymbolSuite, installRealMathSuite, installTransformArtSuite,
+    installHardSoftSuite, installHitTestSuite, installUndoSuite;
 
 /// All of them.
 void installArtSuites(SuiteServer& server);

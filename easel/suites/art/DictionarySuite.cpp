@@ -1,6 +1,5 @@
 #include "host/suites/AIDictionarySuite.h"
 
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/document/Session.h"
 #include "easel/suites/art/ArtSuites.h"
@@ -104,7 +103,7 @@ void leaveOutPointerSlots(AIDictionarySuite& suite) {
 
 void installDictionarySuite(SuiteServer& server) {
     using S = AIDictionarySuite;
-    auto table = server.table<S>(kAIDictionarySuite, kAIDictionarySuiteVersion);
+    auto table = server.table<S>();
     table.clear(); // the switch may have moved what is there
     expose<&S::CreateDictionary, createDictionary>(table);
     expose<&S::Release, release>(table);

@@ -27,10 +27,6 @@ Dictionary& dictionaryOf(ConstAIDictionaryRef dictionary) {
         session().counted(HandleKind::Dictionary, Lent::Dictionary, dictionary));
 }
 
-Array& arrayOf(AIArrayRef array) {
-    return static_cast<Array&>(session().counted(HandleKind::Array, Lent::Array, array));
-}
-
 AIDictionaryRef lend(const Ref<Dictionary>& dictionary) {
     return static_cast<AIDictionaryRef>(dictionary->lend(session()));
 }

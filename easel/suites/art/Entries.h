@@ -3,7 +3,7 @@
 #include "easel/document/Dictionary.h"
 #include "host/Handles.h"
 
-/// What the dictionary, array and entry suites share: values as counted entries, and reading a
+/// What the dictionary and entry suites share: values as counted entries, and reading a
 /// value as one type.
 
 namespace easel {
@@ -33,7 +33,6 @@ private:
 };
 
 [[nodiscard]] Dictionary& dictionaryOf(ConstAIDictionaryRef dictionary);
-[[nodiscard]] Array& arrayOf(AIArrayRef array);
 [[nodiscard]] AIDictionaryRef lend(const Ref<Dictionary>& dictionary);
 
 [[noreturn]] void throwWrongEntryType();

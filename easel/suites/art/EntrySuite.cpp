@@ -1,6 +1,5 @@
 #include "host/suites/AIEntrySuite.h"
 
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/document/Session.h"
 #include "easel/suites/art/ArtSuites.h"
@@ -34,12 +33,11 @@ AIEntryRef fromDict(AIDictionaryRef value) {
 
 void installEntrySuite(SuiteServer& server) {
     using S = AIEntrySuite;
-    auto table = server.table<S>(kAIEntrySuite, kAIEntrySuiteVersion);
-    expose<&S::Release, release>(table);
-    expose<&S::ToString, toString, FailsConsuming>(table);
-    expose<&S::FromString, fromString>(table);
-    expose<&S::ToDict, toDict, FailsConsuming>(table);
-    expose<&S::FromDict, fromDict>(table);
+    expose<&S::Release, release>(server);
+    expose<&S::ToString, toString, FailsConsuming>(server);
+    expose<&S::FromString, fromString>(server);
+    expose<&S::ToDict, toDict, FailsConsuming>(server);
+    expose<&S::FromDict, fromDict>(server);
 }
 
 } // namespace easel

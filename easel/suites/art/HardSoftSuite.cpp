@@ -1,8 +1,6 @@
 #include "host/suites/AIHardSoftSuite.h"
 
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
-#include "easel/document/HardSoft.h"
 #include "easel/document/Session.h"
 #include "easel/suites/art/ArtSuites.h"
 
@@ -23,9 +21,8 @@ AIRealPoint pointSoften(AIRealPoint* source) {
 
 void installHardSoftSuite(SuiteServer& server) {
     using S = AIHardSoftSuite;
-    auto table = server.table<S>(kAIHardSoftSuite, kAIHardSoftSuiteVersion);
-    expose<&S::AIRealPointHarden, pointHarden>(table);
-    expose<&S::AIRealPointSoften, pointSoften>(table);
+    expose<&S::AIRealPointHarden, pointHarden>(server);
+    expose<&S::AIRealPointSoften, pointSoften>(server);
 }
 
 } // namespace easel

@@ -1,6 +1,5 @@
 #include "host/suites/AIHitTestSuite.h"
 
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/document/HitTest.h"
 #include "easel/document/Session.h"
@@ -52,14 +51,13 @@ AIReal getPathParameter(AIHitRef hit) { return static_cast<AIReal>(resultOf(hit)
 
 void installHitTestSuite(SuiteServer& server) {
     using S = AIHitTestSuite;
-    auto table = server.table<S>(kAIHitTestSuite, kAIHitTestSuiteVersion);
-    expose<&S::HitTest, hitTestAt>(table);
-    expose<&S::Release, release>(table);
-    expose<&S::IsHit, isHit>(table);
-    expose<&S::GetType, getType>(table);
-    expose<&S::GetArt, getArt>(table);
-    expose<&S::GetPathSegment, getPathSegment>(table);
-    expose<&S::GetPathParameter, getPathParameter>(table);
+    expose<&S::HitTest, hitTestAt>(server);
+    expose<&S::Release, release>(server);
+    expose<&S::IsHit, isHit>(server);
+    expose<&S::GetType, getType>(server);
+    expose<&S::GetArt, getArt>(server);
+    expose<&S::GetPathSegment, getPathSegment>(server);
+    expose<&S::GetPathParameter, getPathParameter>(server);
 }
 
 } // namespace easel

@@ -1,6 +1,5 @@
 #include "host/suites/AILayerSuite.h"
 
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/document/Layers.h"
 #include "easel/document/Session.h"
@@ -50,14 +49,13 @@ bool layerHasSelectedArt(AILayerHandle layer) {
 
 void installLayerSuite(SuiteServer& server) {
     using S = AILayerSuite;
-    auto table = server.table<S>(kAILayerSuite, kAILayerSuiteVersion);
-    expose<&S::CountLayers, countLayers>(table);
-    expose<&S::GetNthLayer, getNthLayer>(table);
-    expose<&S::GetCurrentLayer, getCurrentLayer>(table);
-    expose<&S::GetLayerVisible, getWithout<kArtHidden>>(table);
-    expose<&S::GetLayerEditable, getWithout<kArtLocked>>(table);
-    expose<&S::LayerHasSelectedArt, layerHasSelectedArt>(table);
-    expose<&S::GetLayerParent, getLayerParent>(table);
+    expose<&S::CountLayers, countLayers>(server);
+    expose<&S::GetNthLayer, getNthLayer>(server);
+    expose<&S::GetCurrentLayer, getCurrentLayer>(server);
+    expose<&S::GetLayerVisible, getWithout<kArtHidden>>(server);
+    expose<&S::GetLayerEditable, getWithout<kArtLocked>>(server);
+    expose<&S::LayerHasSelectedArt, layerHasSelectedArt>(server);
+    expose<&S::GetLayerParent, getLayerParent>(server);
 }
 
 } // namespace easel

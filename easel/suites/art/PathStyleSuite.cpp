@@ -1,30 +1,20 @@
 #include "host/suites/AIPathStyleSuite.h"
 
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/document/Session.h"
 #include "easel/suites/art/ArtSuites.h"
 
+#include <algorithm>
+
 namespace easel {
 namespace {
 
-bool hasStyle(const Art& art) {
-    switch (art.type()) {
-    case kPathArt:
-    case kCompoundPathArt:
-    case kRasterArt:
-    case kMeshArt:
-    case kPlacedArt:
-    case kTextFrameArt:
-        return true;
-    default:
-        return false;
-    }
-}
-
 Art& styledArt(AIArtHandle handle) {
+    constexpr ai::int16 kStyled[] = {kPathArt, kCompoundPathArt, kRasterArt,
+                                     kMeshArt, kPlacedArt,       kTextFrameArt};
     Art& art = styleHolder(session().artOf(handle));
-    if (!hasStyle(art)) throw ai::Error{kBadParameterErr};
+    if (std::ranges::find(kStyled, art.type()) == std::end(kStyled))
+        throw ai::Error{kBadParameterErr};
     return art;
 }
 
@@ -55,9 +45,7 @@ AIPathStyle getPathStyle(AIArtHandle art) {
 } // namespace
 
 void installPathStyleSuite(SuiteServer& server) {
-    using S = AIPathStyleSuite;
-    auto table = server.table<S>(kAIPathStyleSuite, kAIPathStyleSuiteVersion);
-    expose<&S::GetPathStyle, getPathStyle>(table);
+    expose<&AIPathStyleSuite::GetPathStyle, getPathStyle>(server);
 }
 
 } // namespace easel

@@ -1,6 +1,5 @@
 #include "host/suites/AIPathSuite.h"
 
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/document/Attributes.h"
 #include "easel/document/Session.h"
@@ -12,11 +11,7 @@
 namespace easel {
 namespace {
 
-Art& pathOf(AIArtHandle handle) {
-    Art& art = session().artOf(handle);
-    if (art.type() != kPathArt) throw ai::Error{kBadParameterErr};
-    return art;
-}
+Art& pathOf(AIArtHandle handle) { return session().artOf(handle, kPathArt); }
 
 Art& editablePath(AIArtHandle handle) {
     Art& path = pathOf(handle);
@@ -102,18 +97,13 @@ void setPathSegments(AIArtHandle handle, ai::int16 first, ai::int16 count,
 
 // Flags.
 
-bool getPathClosed(AIArtHandle path) { return pathOf(path).content().closed; }
-
-void setPathClosed(AIArtHandle handle, AIBoolean closed) {
-    Art& path = editablePath(handle);
-    if (path.content().closed != (closed != 0)) path.write().closed = closed != 0;
+template <bool ArtContent::*Flag> bool getFlag(AIArtHandle path) {
+    return pathOf(path).content().*Flag;
 }
 
-bool getPathGuide(AIArtHandle path) { return pathOf(path).content().guide; }
-
-void setPathGuide(AIArtHandle handle, AIBoolean guide) {
+template <bool ArtContent::*Flag> void setFlag(AIArtHandle handle, AIBoolean value) {
     Art& path = editablePath(handle);
-    if (path.content().guide != (guide != 0)) path.write().guide = guide != 0;
+    if (path.content().*Flag != (value != 0)) path.write().*Flag = value != 0;
 }
 
 // Selection.
@@ -136,17 +126,16 @@ void setPathSegmentSelected(AIArtHandle handle, ai::int16 index, ai::int16 selec
 
 void installPathSuite(SuiteServer& server) {
     using S = AIPathSuite;
-    auto table = server.table<S>(kAIPathSuite, kAIPathSuiteVersion);
-    expose<&S::GetPathSegmentCount, getPathSegmentCount>(table);
-    expose<&S::SetPathSegmentCount, setPathSegmentCount>(table);
-    expose<&S::GetPathSegments, getPathSegments>(table);
-    expose<&S::SetPathSegments, setPathSegments>(table);
-    expose<&S::GetPathClosed, getPathClosed>(table);
-    expose<&S::SetPathClosed, setPathClosed>(table);
-    expose<&S::GetPathGuide, getPathGuide>(table);
-    expose<&S::SetPathGuide, setPathGuide>(table);
-    expose<&S::GetPathSegmentSelected, getPathSegmentSelected>(table);
-    expose<&S::SetPathSegmentSelected, setPathSegmentSelected>(table);
+    expose<&S::GetPathSegmentCount, getPathSegmentCount>(server);
+    expose<&S::SetPathSegmentCount, setPathSegmentCount>(server);
+    expose<&S::GetPathSegments, getPathSegments>(server);
+    expose<&S::SetPathSegments, setPathSegments>(server);
+    expose<&S::GetPathClosed, getFlag<&ArtContent::closed>>(server);
+    expose<&S::SetPathClosed, setFlag<&ArtContent::closed>>(server);
+    expose<&S::GetPathGuide, getFlag<&ArtContent::guide>>(server);
+    expose<&S::SetPathGuide, setFlag<&ArtContent::guide>>(server);
+    expose<&S::GetPathSegmentSelected, getPathSegmentSelected>(server);
+    expose<&S::SetPathSegmentSelected, setPathSegmentSelected>(server);
 }
 
 } // namespace easel

@@ -1,6 +1,5 @@
 #include "host/suites/AIRealMathSuite.h"
 
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/suites/art/ArtSuites.h"
 
@@ -14,9 +13,7 @@ void matrixSet(AIRealMatrix* m, AIReal a, AIReal b, AIReal c, AIReal d, AIReal t
 } // namespace
 
 void installRealMathSuite(SuiteServer& server) {
-    using S = AIRealMathSuite;
-    auto table = server.table<S>(kAIRealMathSuite, kAIRealMathSuiteVersion);
-    expose<&S::AIRealMatrixSet, matrixSet>(table);
+    expose<&AIRealMathSuite::AIRealMatrixSet, matrixSet>(server);
 }
 
 } // namespace easel

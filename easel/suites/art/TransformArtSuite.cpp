@@ -1,6 +1,5 @@
 #include "host/suites/AITransformArtSuite.h"
 
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/document/Attributes.h"
 #include "easel/document/Session.h"
@@ -30,9 +29,7 @@ void transform(AIArtHandle handle, AIRealMatrix* matrix, AIReal lineScale, ai::i
 } // namespace
 
 void installTransformArtSuite(SuiteServer& server) {
-    auto table =
-        server.table<AITransformArtSuite>(kAITransformArtSuite, kAITransformArtSuiteVersion);
-    expose<&AITransformArtSuite::TransformArt, transform>(table);
+    expose<&AITransformArtSuite::TransformArt, transform>(server);
 }
 
 } // namespace easel

@@ -1,8 +1,7 @@
 #include "host/suites/AIUndoSuite.h"
 
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
-#include "easel/core/HostString.h"
+#include "easel/core/HostObjects.h"
 #include "easel/document/Session.h"
 #include "easel/suites/art/ArtSuites.h"
 
@@ -32,11 +31,10 @@ void countTransactions(ai::int32* past, ai::int32* future) {
 
 void installUndoSuite(SuiteServer& server) {
     using S = AIUndoSuite;
-    auto table = server.table<S>(kAIUndoSuite, kAIUndoSuiteVersion);
-    expose<&S::SetUndoTextUS, setUndoText>(table);
-    expose<&S::UndoChanges, undoChanges>(table);
-    expose<&S::SetKind, setKind>(table);
-    expose<&S::CountTransactions, countTransactions>(table);
+    expose<&S::SetUndoTextUS, setUndoText>(server);
+    expose<&S::UndoChanges, undoChanges>(server);
+    expose<&S::SetKind, setKind>(server);
+    expose<&S::CountTransactions, countTransactions>(server);
 }
 
 } // namespace easel

@@ -1,8 +1,7 @@
 #include "host/suites/AIAnnotatorDrawerSuite.h"
 
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
-#include "easel/core/HostString.h"
+#include "easel/core/HostObjects.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 
@@ -36,16 +35,15 @@ void add(AIAnnotatorDrawer* drawer, DrawCommand command) {
     required(drawer).add(std::move(command));
 }
 
-std::vector<AIPoint> cornersOf(const AIRect& rect) {
-    return {{rect.left, rect.top}, {rect.right, rect.bottom}};
-}
-
 void drawLine(AIAnnotatorDrawer* drawer, const AIPoint& start, const AIPoint& end) {
     add(drawer, {.kind = Kind::Line, .style = {}, .points = {start, end}});
 }
 
-void drawRect(AIAnnotatorDrawer* drawer, const AIRect& rect, AIBoolean fill) {
-    add(drawer, {.kind = Kind::Rect, .style = {}, .points = cornersOf(rect), .fill = fill != 0});
+template <Kind Which> void drawIn(AIAnnotatorDrawer* drawer, const AIRect& rect, AIBoolean fill) {
+    add(drawer, {.kind = Which,
+                 .style = {},
+                 .points = {{rect.left, rect.top}, {rect.right, rect.bottom}},
+                 .fill = fill != 0});
 }
 
 void drawPolygon(AIAnnotatorDrawer* drawer, const AIPoint* points, ai::uint32 count,
@@ -54,10 +52,6 @@ void drawPolygon(AIAnnotatorDrawer* drawer, const AIPoint* points, ai::uint32 co
                  .style = {},
                  .points = {&required(points), points + count},
                  .fill = fill != 0});
-}
-
-void drawEllipse(AIAnnotatorDrawer* drawer, const AIRect& rect, AIBoolean fill) {
-    add(drawer, {.kind = Kind::Ellipse, .style = {}, .points = cornersOf(rect), .fill = fill != 0});
 }
 
 void drawBezier(AIAnnotatorDrawer* drawer, const AIPoint& start, const AIPoint (*sets)[3],
@@ -110,24 +104,23 @@ void setPortOptions(AIAnnotatorDrawer* drawer, ai::uint32 mask, ai::uint32 optio
 
 void installAnnotatorDrawerSuite(SuiteServer& server) {
     using Suite = AIAnnotatorDrawerSuite;
-    auto table = server.table<Suite>(kAIAnnotatorDrawerSuite, kAIAnnotatorDrawerSuiteVersion);
-    expose<&Suite::SetColor, setColour>(table);
-    expose<&Suite::SetLineWidth, setReal<&DrawStyle::lineWidth>>(table);
-    expose<&Suite::SetLineDashed, setDashed>(table);
-    expose<&Suite::DrawLine, drawLine>(table);
-    expose<&Suite::DrawRect, drawRect>(table);
-    expose<&Suite::DrawPolygon, drawPolygon>(table);
-    expose<&Suite::DrawEllipse, drawEllipse>(table);
-    expose<&Suite::DrawBezier, drawBezier>(table);
-    expose<&Suite::SetLineDashedEx, setDashes>(table);
-    expose<&Suite::DrawText, drawText>(table);
-    expose<&Suite::GetTextBounds, getTextBounds>(table);
-    expose<&Suite::SetFontSize, setReal<&DrawStyle::fontSize>>(table);
-    expose<&Suite::DefineClipStart, addMark<Kind::ClipStart>>(table);
-    expose<&Suite::DefineClipEnd, addMark<Kind::ClipEnd>>(table);
-    expose<&Suite::ClearClip, addMark<Kind::ClipClear>>(table);
-    expose<&Suite::SetPortOptions, setPortOptions>(table);
-    expose<&Suite::SetOpacity, setOpacity>(table);
+    expose<&Suite::SetColor, setColour>(server);
+    expose<&Suite::SetLineWidth, setReal<&DrawStyle::lineWidth>>(server);
+    expose<&Suite::SetLineDashed, setDashed>(server);
+    expose<&Suite::DrawLine, drawLine>(server);
+    expose<&Suite::DrawRect, drawIn<Kind::Rect>>(server);
+    expose<&Suite::DrawPolygon, drawPolygon>(server);
+    expose<&Suite::DrawEllipse, drawIn<Kind::Ellipse>>(server);
+    expose<&Suite::DrawBezier, drawBezier>(server);
+    expose<&Suite::SetLineDashedEx, setDashes>(server);
+    expose<&Suite::DrawText, drawText>(server);
+    expose<&Suite::GetTextBounds, getTextBounds>(server);
+    expose<&Suite::SetFontSize, setReal<&DrawStyle::fontSize>>(server);
+    expose<&Suite::DefineClipStart, addMark<Kind::ClipStart>>(server);
+    expose<&Suite::DefineClipEnd, addMark<Kind::ClipEnd>>(server);
+    expose<&Suite::ClearClip, addMark<Kind::ClipClear>>(server);
+    expose<&Suite::SetPortOptions, setPortOptions>(server);
+    expose<&Suite::SetOpacity, setOpacity>(server);
 }
 
 } // namespace easel

@@ -1,4 +1,3 @@
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
@@ -27,10 +26,9 @@ void setOptions(AIAnnotatorHandle annotator, AIAnnotatorOptionsFlags options) {
 } // namespace
 
 void installAnnotatorSuite(SuiteServer& server) {
-    auto table = server.table<AIAnnotatorSuite>(kAIAnnotatorSuite, kAIAnnotatorSuiteVersion);
-    expose<&AIAnnotatorSuite::AddAnnotator, addAnnotator, OutputMayBeNull>(table);
-    expose<&AIAnnotatorSuite::InvalAnnotationRect, invalidate>(table);
-    expose<&AIAnnotatorSuite::SetAnnotatorOptions, setOptions>(table);
+    expose<&AIAnnotatorSuite::AddAnnotator, addAnnotator, OutputMayBeNull>(server);
+    expose<&AIAnnotatorSuite::InvalAnnotationRect, invalidate>(server);
+    expose<&AIAnnotatorSuite::SetAnnotatorOptions, setOptions>(server);
 }
 
 } // namespace easel

@@ -1,4 +1,3 @@
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
@@ -28,20 +27,15 @@ void popAppContext(AIAppContextHandle context) {
     if (host().contexts.depth() == 0) host().collectChanges();
 }
 
-bool allowAllChanges(AIBoolean allow) {
-    const bool before = host().contexts.allowAllChanges();
-    host().contexts.setAllowAllChanges(allow != 0);
-    return before;
-}
+bool allowAllChanges(AIBoolean allow) { return host().contexts.allowAllChanges(allow != 0); }
 
 } // namespace
 
 void installContextSuite(SuiteServer& server) {
-    auto table = server.table<AIAppContextSuite>(kAIAppContextSuite, kAIAppContextSuiteVersion);
-    expose<&AIAppContextSuite::GetPlatformAppWindow, getPlatformAppWindow>(table);
-    expose<&AIAppContextSuite::PushAppContext, pushAppContext>(table);
-    exposeEnding<&AIAppContextSuite::PopAppContext, popAppContext>(table);
-    expose<&AIAppContextSuite::AllowAllChanges, allowAllChanges, OutputMayBeNull>(table);
+    expose<&AIAppContextSuite::GetPlatformAppWindow, getPlatformAppWindow>(server);
+    expose<&AIAppContextSuite::PushAppContext, pushAppContext>(server);
+    exposeEnding<&AIAppContextSuite::PopAppContext, popAppContext>(server);
+    expose<&AIAppContextSuite::AllowAllChanges, allowAllChanges, OutputMayBeNull>(server);
 }
 
 } // namespace easel

@@ -1,4 +1,3 @@
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
@@ -34,9 +33,8 @@ AIRealPoint track(AIDocumentViewHandle view, const AIRealPoint& argument, const 
 } // namespace
 
 void installCursorSnapSuite(SuiteServer& server) {
-    auto table = server.table<AICursorSnapSuite>(kAICursorSnapSuite, kAICursorSnapSuiteVersion);
-    expose<&AICursorSnapSuite::UseSmartGuides, useSmartGuides>(table);
-    expose<&AICursorSnapSuite::Track, track>(table);
+    expose<&AICursorSnapSuite::UseSmartGuides, useSmartGuides>(server);
+    expose<&AICursorSnapSuite::Track, track>(server);
 }
 
 } // namespace easel

@@ -1,4 +1,3 @@
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
@@ -13,9 +12,7 @@ ai::int32 count() { return static_cast<ai::int32>(host().documents().size()); }
 } // namespace
 
 void installDocumentListSuite(SuiteServer& server) {
-    using Suite = AIDocumentListSuite;
-    auto table = server.table<Suite>(kAIDocumentListSuite, kAIDocumentListSuiteVersion);
-    expose<&Suite::Count, count>(table);
+    expose<&AIDocumentListSuite::Count, count>(server);
 }
 
 } // namespace easel

@@ -1,4 +1,3 @@
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
@@ -22,22 +21,18 @@ AIDocumentHandle getDocument() { return session().document().handle(); }
 AIRealRect getMaxArtboardBounds() { return session().document().canvas(); }
 
 bool documentExists(AIDocumentHandle handle) {
-    const auto& open = host().documents();
-    const bool found = std::any_of(open.begin(), open.end(), [&](const auto& document) {
-        return document->handle() == handle;
-    });
-    return found;
+    return std::ranges::any_of(host().documents(),
+                               [&](const auto& open) { return open->handle() == handle; });
 }
 
 } // namespace
 
 void installDocumentSuite(SuiteServer& server) {
-    auto table = server.table<AIDocumentSuite>(kAIDocumentSuite, kAIDocumentSuiteVersion);
-    expose<&AIDocumentSuite::GetDocumentRulerUnits, getRulerUnits>(table);
-    expose<&AIDocumentSuite::RedrawDocument, redraw>(table);
-    expose<&AIDocumentSuite::GetDocument, getDocument>(table);
-    expose<&AIDocumentSuite::GetDocumentMaxArtboardBounds, getMaxArtboardBounds>(table);
-    expose<&AIDocumentSuite::DocumentExists, documentExists>(table);
+    expose<&AIDocumentSuite::GetDocumentRulerUnits, getRulerUnits>(server);
+    expose<&AIDocumentSuite::RedrawDocument, redraw>(server);
+    expose<&AIDocumentSuite::GetDocument, getDocument>(server);
+    expose<&AIDocumentSuite::GetDocumentMaxArtboardBounds, getMaxArtboardBounds>(server);
+    expose<&AIDocumentSuite::DocumentExists, documentExists>(server);
 }
 
 } // namespace easel

@@ -1,4 +1,3 @@
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
@@ -36,12 +35,11 @@ ViewRef nth(ai::int32 number) {
 
 void installDocumentViewSuite(SuiteServer& server) {
     using Suite = AIDocumentViewSuite;
-    auto table = server.table<Suite>(kAIDocumentViewSuite, kAIDocumentViewSuiteVersion);
-    expose<&Suite::GetDocumentViewBounds, getBounds>(table);
-    expose<&Suite::GetDocumentViewZoom, getZoom>(table);
-    expose<&Suite::ArtworkPointToViewPoint, artworkToView>(table);
-    expose<&Suite::GetNthDocumentView, nth>(table);
-    expose<&Suite::FixedArtworkPointToViewPoint, exactArtworkToView>(table);
+    expose<&Suite::GetDocumentViewBounds, getBounds>(server);
+    expose<&Suite::GetDocumentViewZoom, getZoom>(server);
+    expose<&Suite::ArtworkPointToViewPoint, artworkToView>(server);
+    expose<&Suite::GetNthDocumentView, nth>(server);
+    expose<&Suite::FixedArtworkPointToViewPoint, exactArtworkToView>(server);
 }
 
 } // namespace easel

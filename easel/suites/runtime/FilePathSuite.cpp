@@ -1,7 +1,5 @@
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
-#include "easel/core/HostPath.h"
-#include "easel/core/HostString.h"
+#include "easel/core/HostObjects.h"
 #include "easel/core/Text.h"
 #include "easel/document/Session.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
@@ -74,15 +72,14 @@ void getParent(const ai::FilePath& path, ai::FilePath& parent) {
 } // namespace
 
 void installFilePathSuite(SuiteServer& server) {
-    auto table = server.table<AIFilePathSuite>(kAIFilePathSuite, kAIFilePathSuiteVersion);
-    expose<&AIFilePathSuite::NewFilePath, newPath>(table);
-    exposeEnding<&AIFilePathSuite::DeleteFilePath, deleteFilePath>(table);
-    expose<&AIFilePathSuite::Copy, copy>(table);
-    expose<&AIFilePathSuite::AddComponent, addComponent>(table);
-    expose<&AIFilePathSuite::Exists, exists>(table);
-    expose<&AIFilePathSuite::Set, set>(table);
-    expose<&AIFilePathSuite::GetFullPath, getFullPath>(table);
-    expose<&AIFilePathSuite::GetParent, getParent>(table);
+    expose<&AIFilePathSuite::NewFilePath, newPath>(server);
+    exposeEnding<&AIFilePathSuite::DeleteFilePath, deleteFilePath>(server);
+    expose<&AIFilePathSuite::Copy, copy>(server);
+    expose<&AIFilePathSuite::AddComponent, addComponent>(server);
+    expose<&AIFilePathSuite::Exists, exists>(server);
+    expose<&AIFilePathSuite::Set, set>(server);
+    expose<&AIFilePathSuite::GetFullPath, getFullPath>(server);
+    expose<&AIFilePathSuite::GetParent, getParent>(server);
 }
 
 } // namespace easel

@@ -1,6 +1,5 @@
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
-#include "easel/core/HostString.h"
+#include "easel/core/HostObjects.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIMenuSuite.h"
@@ -16,13 +15,12 @@ AIMenuItemHandle addMenuItem(SPPluginRef plugin, const char* key, AIPlatformAddM
     static_cast<void>(host().plugins.at(plugin));
     const AIMenuGroup group = menus().groupNamed(&required(required(data).groupName));
     static_cast<void>(menus().groups.at(group)); // an unknown group is refused
-    MenuItem added;
-    added.plugin = plugin;
-    if (key != nullptr) added.key = key;
-    added.text = readString(session().ledger, data->itemText);
-    added.group = group;
-    added.options = options;
-    return menus().items.add(std::move(added));
+    return menus().items.add(
+        {.plugin = plugin,
+         .key = key != nullptr ? std::optional<std::string>{key} : std::nullopt,
+         .text = readString(session().ledger, data->itemText),
+         .group = group,
+         .options = options});
 }
 
 const char* getKey(AIMenuItemHandle item) {
@@ -62,19 +60,18 @@ AIMenuGroup nthGroup(ai::int32 index) { return menus().groups.nth(index); }
 } // namespace
 
 void installMenuSuite(SuiteServer& server) {
-    auto table = server.table<AIMenuSuite>(kAIMenuSuite, kAIMenuSuiteVersion);
-    expose<&AIMenuSuite::AddMenuItem, addMenuItem, OutputMayBeNull>(table);
-    expose<&AIMenuSuite::GetMenuItemKeyboardShortcutDictionaryKey, getKey>(table);
-    expose<&AIMenuSuite::CountMenuItems, countItems>(table);
-    expose<&AIMenuSuite::GetNthMenuItem, nthItem>(table);
-    expose<&AIMenuSuite::EnableItem, enableItem>(table);
-    expose<&AIMenuSuite::DisableItem, disableItem>(table);
-    expose<&AIMenuSuite::SetItemText, setText>(table);
-    expose<&AIMenuSuite::CheckItem, checkItem>(table);
-    expose<&AIMenuSuite::AddMenuGroupAsSubMenu, addSubMenu, OutputMayBeNull>(table);
-    expose<&AIMenuSuite::GetMenuGroupName, getGroupName>(table);
-    expose<&AIMenuSuite::CountMenuGroups, countGroups>(table);
-    expose<&AIMenuSuite::GetNthMenuGroup, nthGroup>(table);
+    expose<&AIMenuSuite::AddMenuItem, addMenuItem, OutputMayBeNull>(server);
+    expose<&AIMenuSuite::GetMenuItemKeyboardShortcutDictionaryKey, getKey>(server);
+    expose<&AIMenuSuite::CountMenuItems, countItems>(server);
+    expose<&AIMenuSuite::GetNthMenuItem, nthItem>(server);
+    expose<&AIMenuSuite::EnableItem, enableItem>(server);
+    expose<&AIMenuSuite::DisableItem, disableItem>(server);
+    expose<&AIMenuSuite::SetItemText, setText>(server);
+    expose<&AIMenuSuite::CheckItem, checkItem>(server);
+    expose<&AIMenuSuite::AddMenuGroupAsSubMenu, addSubMenu, OutputMayBeNull>(server);
+    expose<&AIMenuSuite::GetMenuGroupName, getGroupName>(server);
+    expose<&AIMenuSuite::CountMenuGroups, countGroups>(server);
+    expose<&AIMenuSuite::GetNthMenuGroup, nthGroup>(server);
 }
 
 } // namespace easel

@@ -18,9 +18,8 @@ void removeParent() {
 } // namespace
 
 void installModalParentSuite(SuiteServer& server) {
-    auto table = server.table<AIModalParentSuite>(kAIModalParentSuite, kAIModalParentSuiteVersion);
-    expose<&AIModalParentSuite::SetParent, setParent>(table);
-    expose<&AIModalParentSuite::RemoveParent, removeParent>(table);
+    expose<&AIModalParentSuite::SetParent, setParent>(server);
+    expose<&AIModalParentSuite::RemoveParent, removeParent>(server);
 }
 
 } // namespace easel

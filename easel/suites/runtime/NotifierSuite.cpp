@@ -1,4 +1,3 @@
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
@@ -17,9 +16,8 @@ void notify(const char* type, void* data) { host().notify(&required(type), data)
 } // namespace
 
 void installNotifierSuite(SuiteServer& server) {
-    auto table = server.table<AINotifierSuite>(kAINotifierSuite, kAINotifierSuiteVersion);
-    expose<&AINotifierSuite::AddNotifier, addNotifier, OutputMayBeNull>(table);
-    expose<&AINotifierSuite::Notify, notify>(table);
+    expose<&AINotifierSuite::AddNotifier, addNotifier, OutputMayBeNull>(server);
+    expose<&AINotifierSuite::Notify, notify>(server);
 }
 
 } // namespace easel

@@ -1,5 +1,5 @@
 #include "easel/core/Expose.h"
-#include "easel/core/HostString.h"
+#include "easel/core/HostObjects.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIPanelFlyoutMenuSuite.h"
@@ -20,15 +20,11 @@ FlyoutItem& itemAt(MenuRef menu, ai::uint32 index) {
 }
 
 /// Ids are unique and never 0, because 0 tells that nothing was chosen.
-void requireNewId(MenuRef menu, ai::uint32 id) {
-    const auto& items = at(menu).items;
-    if (id == 0 || std::ranges::find(items, id, &FlyoutItem::id) != items.end())
-        throw ai::Error{kBadParameterErr};
-}
-
 void append(MenuRef menu, FlyoutItem item) {
-    requireNewId(menu, item.id);
-    at(menu).items.push_back(std::move(item));
+    auto& items = at(menu).items;
+    if (item.id == 0 || std::ranges::find(items, item.id, &FlyoutItem::id) != items.end())
+        throw ai::Error{kBadParameterErr};
+    items.push_back(std::move(item));
 }
 
 MenuRef create() { return host().panels.addMenu(host().sender.receiver()); }
@@ -63,15 +59,14 @@ void setText(MenuRef menu, ai::uint32 index, const ai::UnicodeString& text) {
 void installPanelFlyoutMenuSuite(SuiteServer& server) {
     using Suite = AIPanelFlyoutMenuSuite;
     using Mark = AIPanelFlyoutMenuItemMark;
-    auto table = server.table<Suite>(kAIPanelFlyoutMenuSuite, kAIPanelFlyoutMenuSuiteVersion);
-    expose<&Suite::Create, create>(table);
-    exposeEnding<&Suite::Destroy, destroy>(table);
-    expose<&Suite::AppendItem, appendItem>(table);
-    expose<&Suite::AppendSeparator, appendSeparator>(table);
-    expose<&Suite::RemoveItem, removeItem>(table);
-    expose<&Suite::SetItemEnabled, set<AIBoolean, &FlyoutItem::enabled>>(table);
-    expose<&Suite::SetItemMark, set<Mark, &FlyoutItem::mark>>(table);
-    expose<&Suite::SetItemText, setText>(table);
+    expose<&Suite::Create, create>(server);
+    exposeEnding<&Suite::Destroy, destroy>(server);
+    expose<&Suite::AppendItem, appendItem>(server);
+    expose<&Suite::AppendSeparator, appendSeparator>(server);
+    expose<&Suite::RemoveItem, removeItem>(server);
+    expose<&Suite::SetItemEnabled, set<AIBoolean, &FlyoutItem::enabled>>(server);
+    expose<&Suite::SetItemMark, set<Mark, &FlyoutItem::mark>>(server);
+    expose<&Suite::SetItemText, setText>(server);
 }
 
 } // namespace easel

@@ -1,5 +1,5 @@
 #include "easel/core/Expose.h"
-#include "easel/core/HostString.h"
+#include "easel/core/HostObjects.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIPanelSuite.h"
@@ -57,23 +57,22 @@ using Callbacks = PanelCallbacks;
 } // namespace
 
 void installPanelSuite(SuiteServer& server) {
-    auto table = server.table<Suite>(kAIPanelSuite, kAIPanelSuiteVersion);
-    expose<&Suite::Create, create>(table);
-    exposeEnding<&Suite::Destroy, destroy>(table);
-    expose<&Suite::GetPlatformWindow, getPlatformWindow>(table);
-    expose<&Suite::Show, show>(table);
-    expose<&Suite::IsShown, get<&Panel::shown>>(table);
-    expose<&Suite::SetTitle, setTitle>(table);
-    expose<&Suite::SetCurrentState, setCurrentState>(table);
-    expose<&Suite::GetCurrentState, get<&Panel::state>>(table);
-    expose<&Suite::SetFlyoutMenu, setFlyoutMenu>(table);
-    expose<&Suite::GetSize, get<&Panel::size>>(table);
-    expose<&Suite::SetSize, setSize>(table);
-    expose<&Suite::SetFlyoutMenuPreVisibilityProc, Callback<&Callbacks::flyoutOpens>::set>(table);
-    expose<&Suite::SetFlyoutMenuProc, Callback<&Callbacks::flyoutChosen>::set>(table);
-    expose<&Suite::SetVisibilityChangedNotifyProc, Callback<&Callbacks::visibility>::set>(table);
-    expose<&Suite::SetSizeChangedNotifyProc, Callback<&Callbacks::size>::set>(table);
-    expose<&Suite::SetStateChangedNotifyProc, Callback<&Callbacks::state>::set>(table);
+    expose<&Suite::Create, create>(server);
+    exposeEnding<&Suite::Destroy, destroy>(server);
+    expose<&Suite::GetPlatformWindow, getPlatformWindow>(server);
+    expose<&Suite::Show, show>(server);
+    expose<&Suite::IsShown, get<&Panel::shown>>(server);
+    expose<&Suite::SetTitle, setTitle>(server);
+    expose<&Suite::SetCurrentState, setCurrentState>(server);
+    expose<&Suite::GetCurrentState, get<&Panel::state>>(server);
+    expose<&Suite::SetFlyoutMenu, setFlyoutMenu>(server);
+    expose<&Suite::GetSize, get<&Panel::size>>(server);
+    expose<&Suite::SetSize, setSize>(server);
+    expose<&Suite::SetFlyoutMenuPreVisibilityProc, Callback<&Callbacks::flyoutOpens>::set>(server);
+    expose<&Suite::SetFlyoutMenuProc, Callback<&Callbacks::flyoutChosen>::set>(server);
+    expose<&Suite::SetVisibilityChangedNotifyProc, Callback<&Callbacks::visibility>::set>(server);
+    expose<&Suite::SetSizeChangedNotifyProc, Callback<&Callbacks::size>::set>(server);
+    expose<&Suite::SetStateChangedNotifyProc, Callback<&Callbacks::state>::set>(server);
 }
 
 } // namespace easel

@@ -1,6 +1,4 @@
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
-#include "easel/core/HostString.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIPreferenceSuite.h"
@@ -59,16 +57,16 @@ template <typename Number> AIErr getNumber(const char* prefix, const char* suffi
     return answer(name);
 }
 
-template <typename Number> void putNumber(const char* prefix, const char* suffix, Number value) {
-    put(prefix, suffix, value);
-}
-
 AIErr getBoolean(const char* prefix, const char* suffix, AIBoolean* value) {
     const Name name = nameOf(prefix, suffix);
     AIBoolean& result = required(value);
     if (const auto number = host().preferences.number(name.prefix, name.suffix))
         result = *number != 0 ? 1 : 0;
     return answer(name);
+}
+
+template <typename Number> void putNumber(const char* prefix, const char* suffix, Number value) {
+    put(prefix, suffix, value);
 }
 
 void putBoolean(const char* prefix, const char* suffix, AIBoolean value) {
@@ -95,15 +93,14 @@ void putString(const char* prefix, const char* suffix, const char* value) {
 
 void installPreferenceSuite(SuiteServer& server) {
     using Suite = AIPreferenceSuite;
-    auto table = server.table<Suite>(kAIPreferenceSuite, kAIPreferenceSuiteVersion);
-    expose<&Suite::GetBooleanPreference, getBoolean, FailsWithPresets>(table);
-    expose<&Suite::PutBooleanPreference, putBoolean>(table);
-    expose<&Suite::GetIntegerPreference, getNumber<ai::int32>, FailsWithPresets>(table);
-    expose<&Suite::PutIntegerPreference, putNumber<ai::int32>>(table);
-    expose<&Suite::GetRealPreference, getNumber<double>, FailsWithPresets>(table);
-    expose<&Suite::PutRealPreference, putNumber<double>>(table);
-    expose<&Suite::GetStringPreference, getString, FailsWithPresets>(table);
-    expose<&Suite::PutStringPreference, putString>(table);
+    expose<&Suite::GetBooleanPreference, getBoolean, FailsWithPresets>(server);
+    expose<&Suite::PutBooleanPreference, putBoolean>(server);
+    expose<&Suite::GetIntegerPreference, getNumber<ai::int32>, FailsWithPresets>(server);
+    expose<&Suite::PutIntegerPreference, putNumber<ai::int32>>(server);
+    expose<&Suite::GetRealPreference, getNumber<double>, FailsWithPresets>(server);
+    expose<&Suite::PutRealPreference, putNumber<double>>(server);
+    expose<&Suite::GetStringPreference, getString, FailsWithPresets>(server);
+    expose<&Suite::PutStringPreference, putString>(server);
 }
 
 } // namespace easel

@@ -13,8 +13,7 @@ ai::int32 majorVersion() { return kGeneration; }
 } // namespace
 
 void installRuntimeSuite(SuiteServer& server) {
-    auto table = server.table<AIRuntimeSuite>(kAIRuntimeSuite, kAIRuntimeSuiteVersion);
-    expose<&AIRuntimeSuite::GetAppMajorVersion, majorVersion>(table);
+    expose<&AIRuntimeSuite::GetAppMajorVersion, majorVersion>(server);
 }
 
 } // namespace easel

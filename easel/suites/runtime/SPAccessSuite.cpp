@@ -1,6 +1,5 @@
 #include "host/suites/SPAccessSuite.h"
 
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
@@ -39,10 +38,9 @@ SPPlatformAccessRef getPluginResourceAccess(SPPluginRef ref) {
 } // namespace
 
 void installSPAccessSuite(SuiteServer& server) {
-    auto table = server.table<SPAccessSuite>(kSPAccessSuite, kSPAccessSuiteVersion);
-    expose<&SPAccessSuite::AcquirePlugin, acquirePlugin>(table);
-    exposeEnding<&SPAccessSuite::ReleasePlugin, releasePlugin>(table);
-    expose<&SPAccessSuite::GetPluginResourceAccess, getPluginResourceAccess>(table);
+    expose<&SPAccessSuite::AcquirePlugin, acquirePlugin>(server);
+    exposeEnding<&SPAccessSuite::ReleasePlugin, releasePlugin>(server);
+    expose<&SPAccessSuite::GetPluginResourceAccess, getPluginResourceAccess>(server);
 }
 
 } // namespace easel

@@ -1,12 +1,12 @@
 #include "host/suites/SPBasicSuite.h"
 
-#include "easel/core/Arguments.h"
-#include "easel/core/Blocks.h"
 #include "easel/core/Expose.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/SPBlocksSuite.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <cstring>
 
 namespace easel {
@@ -31,9 +31,22 @@ SPErr releaseSuite(const char* name, ai::int32 version) {
     return result;
 }
 
-void* allocate(std::size_t size) { return allocateBlock(session().ledger, size); }
+/// A size of 0 gives a block all the same.
+void* allocate(std::size_t size) {
+    const std::size_t bytes = std::max<std::size_t>(size, 1);
+    void* const block = std::malloc(bytes);
+    if (block == nullptr) throw ai::Error{kOutOfMemoryErr};
+    // Nobody may count on what is in a new block; that it is always the same makes mistakes repeat.
+    std::memset(block, 0xCD, bytes);
+    session().ledger.lend(Lent::Block, block);
+    return block;
+}
 
-void release(void* block) { freeBlock(session().ledger, block); }
+void release(void* block) {
+    if (block == nullptr) return;
+    session().ledger.takeBack(Lent::Block, block);
+    std::free(block);
+}
 
 } // namespace
 

@@ -29,9 +29,8 @@ bool isThemeDark() { return host().user.darkTheme; }
 } // namespace
 
 void installThemeSuite(SuiteServer& server) {
-    auto table = server.table<AIUIThemeSuite>(kAIUIThemeSuite, kAIUIThemeSuiteVersion);
-    expose<&AIUIThemeSuite::GetUIThemeColor, getThemeColor>(table);
-    expose<&AIUIThemeSuite::IsUIThemeDark, isThemeDark>(table);
+    expose<&AIUIThemeSuite::GetUIThemeColor, getThemeColor>(server);
+    expose<&AIUIThemeSuite::IsUIThemeDark, isThemeDark>(server);
 }
 
 } // namespace easel

@@ -1,4 +1,3 @@
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
@@ -23,9 +22,8 @@ void setActive(AITimerHandle handle, AIBoolean active) {
 } // namespace
 
 void installTimerSuite(SuiteServer& server) {
-    auto table = server.table<AITimerSuite>(kAITimerSuite, kAITimerSuiteVersion);
-    expose<&AITimerSuite::AddTimer, addTimer, OutputMayBeNull>(table);
-    expose<&AITimerSuite::SetTimerActive, setActive>(table);
+    expose<&AITimerSuite::AddTimer, addTimer, OutputMayBeNull>(server);
+    expose<&AITimerSuite::SetTimerActive, setActive>(server);
 }
 
 } // namespace easel

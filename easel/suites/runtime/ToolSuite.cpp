@@ -1,4 +1,3 @@
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
@@ -84,16 +83,15 @@ void setSelectedByName(const char* name) {
 } // namespace
 
 void installToolSuite(SuiteServer& server) {
-    auto table = server.table<AIToolSuite>(kAIToolSuite, kAIToolSuiteVersion);
-    expose<&AIToolSuite::AddTool, addTool, OutputMayBeNull>(table);
-    expose<&AIToolSuite::GetToolName, getName>(table);
+    expose<&AIToolSuite::AddTool, addTool, OutputMayBeNull>(server);
+    expose<&AIToolSuite::GetToolName, getName>(server);
     // What a table without the slot before it has there, for whoever asks which of both this is.
-    expose<&AIToolSuite::GetToolOptions, getOptions>(table);
-    expose<&AIToolSuite::SetSelectedTool, setSelected>(table);
-    expose<&AIToolSuite::SetToolInfoVars, setInfoVariables>(table);
-    expose<&AIToolSuite::SetToolInfoVarValues, setInfoValues>(table);
-    expose<&AIToolSuite::GetCurrentToolName, getCurrentName>(table);
-    expose<&AIToolSuite::SetSelectedToolByName, setSelectedByName>(table);
+    expose<&AIToolSuite::GetToolOptions, getOptions>(server);
+    expose<&AIToolSuite::SetSelectedTool, setSelected>(server);
+    expose<&AIToolSuite::SetToolInfoVars, setInfoVariables>(server);
+    expose<&AIToolSuite::SetToolInfoVarValues, setInfoValues>(server);
+    expose<&AIToolSuite::GetCurrentToolName, getCurrentName>(server);
+    expose<&AIToolSuite::SetSelectedToolByName, setSelectedByName>(server);
 }
 
 } // namespace easel

@@ -1,4 +1,3 @@
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
@@ -12,8 +11,7 @@ AIToolType getCurrentToolType() { return host().tools.currentNumber(); }
 } // namespace
 
 void installToolboxSuite(SuiteServer& server) {
-    auto table = server.table<AIToolboxSuite>(kAIToolboxSuite, kAIToolboxSuiteVersion);
-    expose<&AIToolboxSuite::GetCurrentToolType, getCurrentToolType>(table);
+    expose<&AIToolboxSuite::GetCurrentToolType, getCurrentToolType>(server);
 }
 
 } // namespace easel

@@ -1,6 +1,5 @@
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
-#include "easel/core/HostString.h"
+#include "easel/core/HostObjects.h"
 #include "easel/core/Text.h"
 #include "easel/document/Session.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
@@ -65,12 +64,11 @@ char32_t getChar(const String& string, std::size_t position) {
 
 void installUnicodeStringSuite(SuiteServer& server) {
     using Suite = AIUnicodeStringSuite;
-    auto table = server.table<Suite>(kAIUnicodeStringSuite, kAIUnicodeStringSuiteVersion);
-    expose<&Suite::Initialize, initialize>(table);
-    expose<&Suite::InitializeUTF16, initializeUtf16>(table);
-    exposeEnding<&Suite::Destroy, destroy>(table);
-    expose<&Suite::Assign, assign>(table);
-    expose<&Suite::GetChar, getChar>(table);
+    expose<&Suite::Initialize, initialize>(server);
+    expose<&Suite::InitializeUTF16, initializeUtf16>(server);
+    exposeEnding<&Suite::Destroy, destroy>(server);
+    expose<&Suite::Assign, assign>(server);
+    expose<&Suite::GetChar, getChar>(server);
 }
 
 } // namespace easel

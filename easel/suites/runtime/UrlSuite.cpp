@@ -1,4 +1,3 @@
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
@@ -12,8 +11,7 @@ bool isBrowserAvailable() { return host().user.browserAvailable; }
 } // namespace
 
 void installUrlSuite(SuiteServer& server) {
-    auto table = server.table<AIURLSuite>(kAIURLSuite, kAIURLSuiteVersion);
-    expose<&AIURLSuite::IsBrowserAvailable, isBrowserAvailable>(table);
+    expose<&AIURLSuite::IsBrowserAvailable, isBrowserAvailable>(server);
 }
 
 } // namespace easel

@@ -1,7 +1,5 @@
-#include "easel/core/Arguments.h"
 #include "easel/core/Expose.h"
-#include "easel/core/HostPath.h"
-#include "easel/core/HostString.h"
+#include "easel/core/HostObjects.h"
 #include "easel/suites/runtime/RunningHost.h"
 #include "easel/suites/runtime/RuntimeSuites.h"
 #include "host/suites/AIUserSuite.h"
@@ -42,20 +40,19 @@ void launchApp(const ai::FilePath& path, AIBoolean /*openDocument*/) {
     user().launched.push_back(readPath(session().ledger, path));
 }
 
+/// Nothing where nobody is shown it.
+std::optional<AIAnswer> tell(const char* kind, const ai::UnicodeString& text) {
+    user().alerts.push_back({kind, readUtf8(session().ledger, text)});
+    return user().showAlert ? std::optional{user().showAlert(Alert{user().alerts.back()})}
+                            : std::nullopt;
+}
+
 AIAnswer ask(const char* kind, const ai::UnicodeString& text) {
-    const Alert alert{kind, readUtf8(session().ledger, text)};
-    user().alerts.push_back(alert);
-    if (user().showAlert) return user().showAlert(alert);
+    if (const auto shown = tell(kind, text)) return *shown;
     if (user().answers.empty()) return kYes;
     const AIAnswer answer = user().answers.front();
     user().answers.pop_front();
     return answer;
-}
-
-void tell(const char* kind, const ai::UnicodeString& text) {
-    const Alert alert{kind, readUtf8(session().ledger, text)};
-    user().alerts.push_back(alert);
-    if (user().showAlert) static_cast<void>(user().showAlert(alert));
 }
 
 void warningAlert(const ai::UnicodeString& text, const char* /*key*/) { tell("warning", text); }
@@ -86,19 +83,18 @@ void disposeCursors(AIResourceManagerHandle manager) { user().cursorManagers.rem
 } // namespace
 
 void installUserSuite(SuiteServer& server) {
-    auto table = server.table<AIUserSuite>(kAIUserSuite, kAIUserSuiteVersion);
     // Easel's user has a period as the decimal separator: the same text in every locale.
-    expose<&AIUserSuite::IUAIRealToString, realToString>(table);
-    expose<&AIUserSuite::GetDateAndTime, getDateAndTime>(table);
-    expose<&AIUserSuite::LaunchApp, launchApp>(table);
-    expose<&AIUserSuite::WarningAlert, warningAlert>(table);
-    expose<&AIUserSuite::QuestionAlert, questionAlert>(table);
-    expose<&AIUserSuite::YesNoAlert, yesNoAlert>(table);
-    expose<&AIUserSuite::ErrorAlert, errorAlert>(table);
-    expose<&AIUserSuite::MessageAlert, messageAlert>(table);
-    expose<&AIUserSuite::CreateCursorResourceMgr, createCursors>(table);
-    expose<&AIUserSuite::SetCursor, setCursor>(table);
-    exposeEnding<&AIUserSuite::DisposeCursorResourceMgr, disposeCursors>(table);
+    expose<&AIUserSuite::IUAIRealToString, realToString>(server);
+    expose<&AIUserSuite::GetDateAndTime, getDateAndTime>(server);
+    expose<&AIUserSuite::LaunchApp, launchApp>(server);
+    expose<&AIUserSuite::WarningAlert, warningAlert>(server);
+    expose<&AIUserSuite::QuestionAlert, questionAlert>(server);
+    expose<&AIUserSuite::YesNoAlert, yesNoAlert>(server);
+    expose<&AIUserSuite::ErrorAlert, errorAlert>(server);
+    expose<&AIUserSuite::MessageAlert, messageAlert>(server);
+    expose<&AIUserSuite::CreateCursorResourceMgr, createCursors>(server);
+    expose<&AIUserSuite::SetCursor, setCursor>(server);
+    exposeEnding<&AIUserSuite::DisposeCursorResourceMgr, disposeCursors>(server);
 }
 
 } // namespace easel

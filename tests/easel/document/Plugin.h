@@ -2,7 +2,7 @@
 /// a test does.
 #pragma once
 
-#include "easel/core/HostString.h"
+#include "easel/core/HostObjects.h"
 #include "easel/core/Ledger.h"
 #include "easel/core/SuiteServer.h"
 #include "easel/document/ArtTree.h"

@@ -1,4 +1,4 @@
-#include "easel/core/HostString.h"
+#include "easel/core/HostObjects.h"
 #include "easel/core/Ledger.h"
 #include "easel/core/Text.h"
 #include "easel/suites/Suites.h"
