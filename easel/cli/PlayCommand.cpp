@@ -43,9 +43,7 @@ Switches hostOf(const PlayCommand& command) {
     Switches host;
     const std::span<const SwitchName> names = switchNames();
     for (const std::string& turned : command.turned) {
-        const auto named = std::find_if(names.begin(), names.end(), [&](const SwitchName& each) {
-            return each.name == turned;
-        });
+        const auto named = std::ranges::find(names, turned, &SwitchName::name);
         if (named == names.end()) throw SessionError("hosts do not differ in \"" + turned + '"');
         host.*named->value = !(host.*named->value);
     }

@@ -54,22 +54,17 @@ Pattern gradientPattern(const svg::GradientContent& gradient, const Matrix& back
     return pattern;
 }
 
-struct Bytes {
-    std::span<const std::byte> rest;
-};
-
 cairo_status_t readBytes(void* source, unsigned char* data, unsigned int length) {
-    Bytes& bytes = *static_cast<Bytes*>(source);
-    if (bytes.rest.size() < length) return CAIRO_STATUS_READ_ERROR;
-    std::memcpy(data, bytes.rest.data(), length);
-    bytes.rest = bytes.rest.subspan(length);
+    auto& rest = *static_cast<std::span<const std::byte>*>(source);
+    if (rest.size() < length) return CAIRO_STATUS_READ_ERROR;
+    std::memcpy(data, rest.data(), length);
+    rest = rest.subspan(length);
     return CAIRO_STATUS_SUCCESS;
 }
 
 /// Null when it is no PNG.
 Surface decodedPng(std::span<const std::byte> png) {
-    Bytes bytes{png};
-    Surface surface{cairo_image_surface_create_from_png_stream(readBytes, &bytes)};
+    Surface surface{cairo_image_surface_create_from_png_stream(readBytes, &png)};
     if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS) return nullptr;
     return surface;
 }

@@ -26,10 +26,7 @@ double positionAlong(const svg::GradientContent& gradient, Point point) {
 double spread(svg::GradientContent::Spread kind, double position) {
     using Spread = svg::GradientContent::Spread;
     if (kind == Spread::Repeat) return position - std::floor(position);
-    if (kind == Spread::Reflect) {
-        const double turn = std::abs(std::remainder(position, 2.0));
-        return turn;
-    }
+    if (kind == Spread::Reflect) return std::abs(std::remainder(position, 2.0));
     return std::clamp(position, 0.0, 1.0);
 }
 

@@ -377,10 +377,9 @@ Picture paintDocument(const Document& document, const PaintOptions& options) {
                           -options.scale * artboard.left,
                           options.scale * artboard.top};
     const auto all = [&](Painter& painter) {
-        if (options.background) {
+        if (options.background)
             painter.fill(rectangle({0, 0}, {width, height}), FillRule::NonZero,
                          {*options.background, nullptr, {}});
-        }
         painter.save();
         painter.transform(toPixels);
         paintArt(document, painter, options);

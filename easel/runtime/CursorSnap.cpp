@@ -18,17 +18,11 @@ public:
         distance_ = distance;
         place_ = place;
     }
-    void offerAnchor(AIRealPoint anchor) {
-        const CurvePoint place = curvePoint(anchor);
-        offer(place, length(place - point_));
-    }
+    void offerAnchor(CurvePoint anchor) { offer(anchor, length(anchor - point_)); }
     void offerCurve(const Curve& curve) {
         if (!mayReach(curve, point_, distance_)) return;
         const NearestPoint nearest = nearestPoint(curve, point_);
         offer(pointAt(curve, nearest.t), nearest.distance);
-    }
-    void offerSegment(AIRealPoint from, AIRealPoint to) {
-        offerCurve({curvePoint(from), curvePoint(from), curvePoint(to), curvePoint(to)});
     }
     [[nodiscard]] std::optional<CurvePoint> found() const { return place_; }
 
@@ -44,7 +38,7 @@ enum class Search { Anchors, Lines };
 void offerPath(const Art& path, Search search, Nearest& nearest) {
     if (search == Search::Anchors)
         for (const AIPathSegment& segment : path.segments())
-            nearest.offerAnchor(segment.p);
+            nearest.offerAnchor(curvePoint(segment.p));
     else
         for (std::size_t i = 0; i < curveCount(path); ++i)
             nearest.offerCurve(curveFrom(path, i));
@@ -61,15 +55,17 @@ void offerArt(const Document& document, Search search, Nearest& nearest) {
 }
 
 void offerRectangle(const AIRealRect& rect, Search search, Nearest& nearest) {
-    const std::array<AIRealPoint, 4> corners = {{{rect.left, rect.top},
-                                                 {rect.right, rect.top},
-                                                 {rect.right, rect.bottom},
-                                                 {rect.left, rect.bottom}}};
+    const std::array<CurvePoint, 4> corners = {{{rect.left, rect.top},
+                                                {rect.right, rect.top},
+                                                {rect.right, rect.bottom},
+                                                {rect.left, rect.bottom}}};
     for (std::size_t i = 0; i < corners.size(); ++i) {
+        const CurvePoint from = corners[i];
+        const CurvePoint to = corners[(i + 1) % corners.size()];
         if (search == Search::Anchors)
-            nearest.offerAnchor(corners[i]);
+            nearest.offerAnchor(from);
         else
-            nearest.offerSegment(corners[i], corners[(i + 1) % corners.size()]);
+            nearest.offerCurve({from, from, to, to});
     }
 }
 

@@ -222,8 +222,7 @@ Check readLineThrough(Arguments& arguments) {
         const auto through = [&](const DrawCommand& command) {
             return command.kind == Kind::Line && passesThrough(command, point);
         };
-        const DisplayList& shown = player.shown();
-        return {std::any_of(shown.begin(), shown.end(), through),
+        return {std::ranges::any_of(player.shown(), through),
                 "a line through " + script::textOf(place), "no such line"};
     };
 }
@@ -249,8 +248,7 @@ Check readCovered(Arguments& arguments) {
         const auto masks = [&](const DrawCommand& command) {
             return command.kind == Kind::Polygon && command.fill && covers(command, point);
         };
-        const DisplayList& shown = player.shown();
-        const bool found = std::any_of(shown.begin(), shown.end(), masks);
+        const bool found = std::ranges::any_of(player.shown(), masks);
         return compare(kAnswers[wanted ? 1 : 0], kAnswers[found ? 1 : 0]);
     };
 }

@@ -24,7 +24,6 @@ void DrawingSession::start() {
 
 std::vector<std::string> DrawingSession::open(const std::filesystem::path& file) {
     svg::OpenedDrawing drawing = svg::readSvg(host.session, file);
-    drawing.document->path = file;
     host.open(std::move(drawing.document));
     return std::move(drawing.warnings);
 }

@@ -44,21 +44,18 @@ void appendNumberAttribute(std::string& text, std::string_view name, double valu
 }
 
 void appendGradient(std::string& text, const GradientContent& gradient) {
-    const auto append = [&](const char* name, double value) {
-        appendNumberAttribute(text, name, value);
-    };
     if (gradient.kind == GradientContent::Kind::Linear) {
-        append("x1", gradient.start.x);
-        append("y1", gradient.start.y);
-        append("x2", gradient.end.x);
-        append("y2", gradient.end.y);
+        appendNumberAttribute(text, "x1", gradient.start.x);
+        appendNumberAttribute(text, "y1", gradient.start.y);
+        appendNumberAttribute(text, "x2", gradient.end.x);
+        appendNumberAttribute(text, "y2", gradient.end.y);
     } else {
-        append("cx", gradient.end.x);
-        append("cy", gradient.end.y);
-        append("r", gradient.radius);
-        append("fx", gradient.start.x);
-        append("fy", gradient.start.y);
-        if (gradient.focalRadius > 0) append("fr", gradient.focalRadius);
+        appendNumberAttribute(text, "cx", gradient.end.x);
+        appendNumberAttribute(text, "cy", gradient.end.y);
+        appendNumberAttribute(text, "r", gradient.radius);
+        appendNumberAttribute(text, "fx", gradient.start.x);
+        appendNumberAttribute(text, "fy", gradient.start.y);
+        if (gradient.focalRadius > 0) appendNumberAttribute(text, "fr", gradient.focalRadius);
     }
     text += " gradientUnits=\"userSpaceOnUse\"";
 }

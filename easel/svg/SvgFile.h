@@ -36,8 +36,5 @@ struct OpenedDrawing {
 /// The drawing as a text. `warnings` gets what is left out, one line each: "LINE: ...".
 [[nodiscard]] std::string svgText(const Document& document,
                                   std::vector<std::string>* warnings = nullptr);
-/// The same as a file, whole or not at all. Returns the warnings. Throws
-/// FileError.
-std::vector<std::string> writeSvg(const Document& document, const std::filesystem::path& file);
 
 } // namespace easel::svg

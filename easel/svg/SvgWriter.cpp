@@ -649,10 +649,4 @@ std::string svgText(const Document& document, std::vector<std::string>* warnings
     return text;
 }
 
-std::vector<std::string> writeSvg(const Document& document, const std::filesystem::path& file) {
-    std::vector<std::string> warnings;
-    writeFile(file, svgText(document, &warnings));
-    return warnings;
-}
-
 } // namespace easel::svg
