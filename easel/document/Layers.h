@@ -1,6 +1,6 @@
 #pragma once
 
-#include "easel/document/ArtTree.h"
+#include "easel/document/Document.h"
 
 #include <string_view>
 
@@ -31,14 +31,6 @@ Art& createLayer(Document& document, std::string title, Position position);
 void deleteLayer(Art& layer);
 void setCurrentLayer(Document& document, Art& layer);
 /// Writes through `change`, which gets the properties of the layer.
-template <typename Change> void changeLayer(Art& layer, Change change);
-
-} // namespace easel
-
-#include "easel/document/Document.h"
-
-namespace easel {
-
 template <typename Change> void changeLayer(Art& layer, Change change) {
     change(layer.write(Edit::Quiet).details.write().layer);
     layer.document().note(&DocumentChanges::layerOptions);
