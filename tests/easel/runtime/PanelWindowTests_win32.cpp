@@ -85,10 +85,10 @@ TEST_CASE("the flyout menu is chosen from by keyboard; disabled lines cannot be 
     window.show(true);
     const HWND frame = GetParent(clientOf(window));
     const auto line = [](ai::uint32 id, const std::u32string& text, bool enabled) {
-        return easel::PopupLine{id, text, text.empty(), enabled, /*marked*/ false};
+        return easel::FlyoutItem{id, text, text.empty(), enabled ? 1 : 0};
     };
-    const std::vector<easel::PopupLine> lines{line(1, U"One", true), line(2, U"", true),
-                                              line(3, U"Three", true), line(4, U"Four", false)};
+    const std::vector<easel::FlyoutItem> lines{line(1, U"One", true), line(2, U"", true),
+                                               line(3, U"Three", true), line(4, U"Four", false)};
     struct Row {
         std::vector<WPARAM> keys;
         ai::uint32 chosen;
