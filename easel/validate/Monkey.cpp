@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <map>
 #include <set>
 
 /// Acts in any order, with undo, redo and changes of the host's own in between, as nobody would
@@ -72,27 +73,45 @@ void judgeTags(Trials& trials, const Document& document) {
     }
 }
 
-/// Whose edit of its axes was cancelled, by the stamps that the layers have kept from there: what
-/// was drawn during the edit is mirrored with the next change, which gives another stamp.
-using CancelledEdits = std::set<std::pair<const Document*, ai::int32>>;
+/// The live layers that wait for their next change. What is drawn while a layer's axes are edited
+/// is not mirrored when the edit is cancelled, nor when the art is then moved with its axes, copies
+/// and all: the layer is given a stamp as it is.
+class WaitingLayers {
+public:
+    /// Whether `layer` waits; to be asked of each after each act. Undo and redo bring its stamps
+    /// back.
+    [[nodiscard]] bool waits(const Art& layer, ai::int32 stamp, bool isNewest,
+                             const std::string& undoText) {
+        const ai::int32 before = std::exchange(last_[&layer], stamp);
+        const bool cancelled = isNewest && undoText == "Undo Cancel Edit Symmetry Axes";
+        const bool moved = undoText == "Undo Reposition Symmetry Axes";
+        if (cancelled || (moved && waiting_.contains({&layer, before})))
+            waiting_.emplace(&layer, stamp);
+        return waiting_.contains({&layer, stamp});
+    }
+
+private:
+    std::set<std::pair<const Art*, ai::int32>> waiting_; ///< By the stamps they have then.
+    std::map<const Art*, ai::int32> last_;
+};
 
 /// The copies of each layer that mirrors by itself fit its art. While the pen is in hand a path may
 /// be under way, for which the layer waits; and what nobody can edit is left alone.
 void judgeLayers(Trials& trials, const Document& document, const Host& host,
-                 CancelledEdits& cancelled) {
+                 WaitingLayers& waiting) {
     if (host.tools.currentNumber() == Tools::kPenTool) return;
     constexpr std::size_t kMostAnchors = 200;
     std::vector<std::pair<const Art*, ai::int32>> live;
+    ai::int32 newest = 0;
     const Art& root = document.root();
     for (const Art* art = root.firstChild(); art != nullptr; art = art->next()) {
         const std::optional<LayerAxes> axes = art->isLayer() ? axesOn(*art) : std::nullopt;
-        if (axes && axes->automatic && isEditable(*art)) live.emplace_back(art, axes->stamp);
+        if (!axes || !axes->automatic || !isEditable(*art)) continue;
+        live.emplace_back(art, axes->stamp);
+        newest = std::max(newest, axes->stamp);
     }
-    constexpr auto kStamp = &decltype(live)::value_type::second;
-    if (!live.empty() && host.undoText() == "Undo Cancel Edit Symmetry Axes")
-        cancelled.emplace(&document, std::ranges::max(live, {}, kStamp).second);
     for (const auto& [layer, stamp] : live) {
-        if (cancelled.contains({&document, stamp})) continue;
+        if (waiting.waits(*layer, stamp, stamp == newest, host.undoText())) continue;
         for (const std::string& fault : {strayCopies(*layer), asymmetryOf(*layer, kMostAnchors)})
             if (!fault.empty()) trials.fail('"' + layer->details().layer.title + "\": " + fault);
     }
@@ -160,7 +179,7 @@ void play(Session& session, Trials& trials, const Plan& plan) {
         sitting.open(plan.drawing.text());
         const AIDocumentHandle first = session.document().handle();
         const std::string opened = sitting.artOf(session.document());
-        CancelledEdits cancelled;
+        WaitingLayers waiting;
         for (const char* const lines : plan.acts) {
             if (session.current == nullptr) sitting.perform("new 400 400");
             sitting.attempt(lines);
@@ -172,7 +191,7 @@ void play(Session& session, Trials& trials, const Plan& plan) {
             for (const auto& each : sitting.player().host().documents())
                 judgeTags(trials, *each);
             if (session.current == nullptr) continue;
-            judgeLayers(trials, session.document(), sitting.player().host(), cancelled);
+            judgeLayers(trials, session.document(), sitting.player().host(), waiting);
             if (isTooLarge(session.document())) break;
         }
         sitting.attempt("release");
