@@ -49,7 +49,8 @@ constexpr double kFlatness = 0.1;
 constexpr double kMostChords = 2000;
 
 /// Adds the chords of a curve that begins at the last of `points`. GDI+ takes curves too, but some
-/// of its implementations flatten them by recursion, which a cusp of coinciding points never ends.
+/// of its implementations flatten them by recursion, which rounding keeps from ending where a curve
+/// is short and far from the origin.
 void addChords(std::vector<Point>& points, Point p0, Point p1, Point p2, Point p3) {
     const auto size = [](double x, double y) { return std::sqrt(x * x + y * y); };
     const double bend = std::max(size(p0.x - 2 * p1.x + p2.x, p0.y - 2 * p1.y + p2.y),
@@ -67,6 +68,49 @@ void addChords(std::vector<Point>& points, Point p0, Point p1, Point p2, Point p
         points.push_back(inReach(b0 * p0 + b1 * p1 + b2 * p2 + b3 * p3));
     }
     points.push_back(inReach(p3));
+}
+
+/// The straight edges of a path.
+class Edges {
+public:
+    explicit Edges(Gdiplus::FillMode mode) : path_(std::make_unique<Gdiplus::GraphicsPath>(mode)) {}
+
+    void addFigure(const std::vector<Point>& points, bool closed) {
+        rounded_.resize(points.size());
+        std::ranges::transform(points, rounded_.begin(), pointF);
+        path_->StartFigure();
+        path_->AddLines(rounded_.data(), static_cast<INT>(rounded_.size()));
+        if (closed) path_->CloseFigure();
+    }
+
+    [[nodiscard]] std::unique_ptr<Gdiplus::GraphicsPath> take() { return std::move(path_); }
+
+private:
+    std::unique_ptr<Gdiplus::GraphicsPath> path_;
+    std::vector<Gdiplus::PointF> rounded_;
+};
+
+/// What GDI+ made with curves in it, letters and the ends of lines, `map` applied.
+std::unique_ptr<Gdiplus::GraphicsPath> flattened(const Gdiplus::GraphicsPath& path,
+                                                 const Matrix& map) {
+    Gdiplus::PathData data;
+    path.GetPathData(&data);
+    const auto at = [&](INT i) { return map * Point{data.Points[i].X, data.Points[i].Y}; };
+    const auto typeAt = [&](INT i) { return data.Types[i] & Gdiplus::PathPointTypePathTypeMask; };
+    Edges edges{path.GetFillMode()};
+    std::vector<Point> points;
+    for (INT i = 0; i < data.Count; ++i) {
+        if (typeAt(i) == Gdiplus::PathPointTypeBezier && i > 0 && i + 2 < data.Count) {
+            addChords(points, at(i - 1), at(i), at(i + 1), at(i + 2));
+            i += 2;
+        } else {
+            points.push_back(inReach(at(i)));
+        }
+        if (i + 1 < data.Count && typeAt(i + 1) != Gdiplus::PathPointTypeStart) continue;
+        edges.addFigure(points, (data.Types[i] & Gdiplus::PathPointTypeCloseSubpath) != 0);
+        points.clear();
+    }
+    return edges.take();
 }
 
 std::unique_ptr<Gdiplus::FontFamily> familyOf(const svg::Font& font) {
@@ -176,7 +220,8 @@ void GdiplusPainter::stroke(const Outline& outline, const Pen& pen, const Ink& i
     const double scale = svg::meanScale(matrix_);
     const auto width = static_cast<float>(std::min(pen.width * scale, kFarthest));
     constexpr float kThin = 1.5F; // needs no joins
-    if (direct_ && ink.gradient == nullptr && pen.dashes.empty() && width <= kThin)
+    const bool thin = width <= kThin;
+    if (thin && direct_ && ink.gradient == nullptr && pen.dashes.empty())
         return paintPlain(outline, FillRule::NonZero, std::max(width, 1.0F), ink);
     Gdiplus::Pen line{Gdiplus::Color{}, width};
     line.SetStartCap(kCaps[static_cast<std::size_t>(pen.cap)]);
@@ -192,10 +237,13 @@ void GdiplusPainter::stroke(const Outline& outline, const Pen& pen, const Ink& i
         line.SetDashOffset(static_cast<float>(pen.dashOffset / pen.width));
     }
     const auto path = pathOf(outline, FillRule::NonZero);
-    if (direct_ && ink.gradient == nullptr && path->Widen(&line) == Gdiplus::Ok &&
-        path->Flatten() == Gdiplus::Ok)
-        return paintFlat(*path, ink);
-    paint(*path, &line, ink);
+    // Where nothing is smoothed a thin shape would miss samples, and a thin line does not.
+    if ((thin && !direct_) || path->Widen(&line) != Gdiplus::Ok) return paint(*path, &line, ink);
+    const auto shape = flattened(*path, {});
+    if (direct_ && ink.gradient == nullptr)
+        paintFlat(*shape, ink);
+    else
+        paint(*shape, nullptr, ink);
 }
 
 void GdiplusPainter::paint(const Gdiplus::GraphicsPath& path, const Gdiplus::Pen* pen,
@@ -302,12 +350,8 @@ void GdiplusPainter::text(const std::string& text, const svg::Font& font, Point 
     Gdiplus::GraphicsPath path{Gdiplus::FillModeWinding};
     path.AddString(letters.c_str(), static_cast<INT>(letters.size()), family.get(), style, size,
                    Gdiplus::PointF{0, -ascent}, Gdiplus::StringFormat::GenericTypographic());
-    const Matrix m = matrix_ * Matrix{1, 0, 0, 1, start.x, start.y};
-    const Gdiplus::Matrix place{static_cast<float>(m.a), static_cast<float>(m.b),
-                                static_cast<float>(m.c), static_cast<float>(m.d),
-                                static_cast<float>(m.e), static_cast<float>(m.f)};
-    path.Transform(&place);
-    paint(path, nullptr, ink);
+    const Matrix place = matrix_ * Matrix{1, 0, 0, 1, start.x, start.y};
+    paint(*flattened(path, place), nullptr, ink);
 }
 
 /// Measured large: GDI+ fits small letters to whole pixels, and the outlines that are painted are
@@ -365,17 +409,11 @@ void GdiplusPainter::eachFigure(
 
 std::unique_ptr<Gdiplus::GraphicsPath> GdiplusPainter::pathOf(const Outline& outline,
                                                               FillRule rule) const {
-    auto path = std::make_unique<Gdiplus::GraphicsPath>(
-        rule == FillRule::EvenOdd ? Gdiplus::FillModeAlternate : Gdiplus::FillModeWinding);
-    std::vector<Gdiplus::PointF> rounded;
+    Edges edges{rule == FillRule::EvenOdd ? Gdiplus::FillModeAlternate : Gdiplus::FillModeWinding};
     eachFigure(outline, [&](const std::vector<Point>& points, bool closed) {
-        rounded.resize(points.size());
-        std::ranges::transform(points, rounded.begin(), pointF);
-        path->StartFigure();
-        path->AddLines(rounded.data(), static_cast<INT>(rounded.size()));
-        if (closed) path->CloseFigure();
+        edges.addFigure(points, closed);
     });
-    return path;
+    return edges.take();
 }
 
 /// A plain shape, or a thin line, straight on the pixels.
