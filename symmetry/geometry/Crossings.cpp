@@ -14,7 +14,7 @@ namespace {
 BernsteinCubic distancesFrom(const Wedge& wedge, Ray ray, const Cubic& curve) {
     const auto distance = [&](Point point) {
         const Wedge::Distances both = wedge.distances(point);
-        return ray == Ray::First ? both.fromFirst : both.fromLast;
+        return ray == Ray::First ? both.fromFirst() : both.fromLast();
     };
     return {distance(curve.p0), distance(curve.p1), distance(curve.p2), distance(curve.p3)};
 }
@@ -26,21 +26,14 @@ bool liesOnLine(const Wedge& wedge, Ray ray, const Cubic& curve) {
     });
 }
 
-// By value, unlike the standard functions, which choose between addresses: no branches arise.
-double lesser(double a, double b) { return a < b ? a : b; }
-double greater(double a, double b) { return a > b ? a : b; }
-
 /// Whether four points are clear of both bounding rays on the same side, so that their curve has
 /// nothing to do with them. This is all that is asked about most curves.
 bool staysClear(const Wedge::Distances& a, const Wedge::Distances& b, const Wedge::Distances& c,
                 const Wedge::Distances& d) {
-    const double lowest = lesser(lesser(a.margin(), b.margin()), lesser(c.margin(), d.margin()));
-    if (lowest > kOnAxisDistance) return true;
-    const double highestFirst =
-        greater(greater(a.fromFirst, b.fromFirst), greater(c.fromFirst, d.fromFirst));
-    const double highestLast =
-        greater(greater(a.fromLast, b.fromLast), greater(c.fromLast, d.fromLast));
-    return lesser(highestFirst, highestLast) < -kOnAxisDistance;
+    const Pair lowest = lesser(lesser(a.both, b.both), lesser(c.both, d.both));
+    if (std::min(lowest[0], lowest[1]) > kOnAxisDistance) return true;
+    const Pair highest = greater(greater(a.both, b.both), greater(c.both, d.both));
+    return std::min(highest[0], highest[1]) < -kOnAxisDistance;
 }
 
 Side sideOf(double margin) { return margin > 0.0 ? Side::Inside : Side::Outside; }
@@ -328,18 +321,19 @@ void ContactFinder::addContact(std::size_t begin, std::size_t last, Side before,
 
 Wedge::Wedge(const PageAxes& axes)
     : origin_(axes.origin), first_(direction(rayAngle(axes, 0))),
-      last_(axes.axisCount == 1 ? -first_ : direction(rayAngle(axes, sectorCount(axes) - 1))) {}
+      last_(axes.axisCount == 1 ? -first_ : direction(rayAngle(axes, sectorCount(axes) - 1))),
+      x_{first_.x, -last_.x}, y_{first_.y, -last_.y} {}
 
 bool Wedge::atOrigin(Point point) const { return distance(point, origin_) <= kOnAxisDistance; }
 
 Ray Wedge::rayAt(Point point) const {
     const Distances both = distances(point);
-    const bool onFirst =
-        std::abs(both.fromFirst) <= kOnAxisDistance && along(Ray::First, point) >= -kOnAxisDistance;
+    const bool onFirst = std::abs(both.fromFirst()) <= kOnAxisDistance &&
+                         along(Ray::First, point) >= -kOnAxisDistance;
     const bool onLast =
-        std::abs(both.fromLast) <= kOnAxisDistance && along(Ray::Last, point) >= -kOnAxisDistance;
+        std::abs(both.fromLast()) <= kOnAxisDistance && along(Ray::Last, point) >= -kOnAxisDistance;
     if (onFirst && onLast && atOrigin(point)) return Ray::Origin;
-    if (onFirst && (!onLast || std::abs(both.fromFirst) <= std::abs(both.fromLast)))
+    if (onFirst && (!onLast || std::abs(both.fromFirst()) <= std::abs(both.fromLast())))
         return Ray::First;
     return onLast ? Ray::Last : Ray::None;
 }

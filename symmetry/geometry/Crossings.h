@@ -7,6 +7,7 @@
 /// runs along a ray, or barely leaves it.
 
 #include "symmetry/geometry/PageAxes.h"
+#include "symmetry/geometry/Pair.h"
 #include "symmetry/geometry/PathShape.h"
 #include "symmetry/geometry/Spares.h"
 #include "symmetry/geometry/Tolerances.h"
@@ -35,17 +36,19 @@ public:
 
     /// Signed distances from the lines of the two rays, positive on the side of sector 0.
     struct Distances {
-        double fromFirst;
-        double fromLast;
+        Pair both; ///< From the first and from the last.
+
+        [[nodiscard]] double fromFirst() const { return both[0]; }
+        [[nodiscard]] double fromLast() const { return both[1]; }
 
         /// The signed distance from the edge of sector 0, positive inside; near the edge it is
         /// exact, outside it is at most the true distance.
-        [[nodiscard]] double margin() const { return std::min(fromFirst, fromLast); }
+        [[nodiscard]] double margin() const { return std::min(both[0], both[1]); }
     };
 
     [[nodiscard]] Distances distances(Point point) const {
-        const Vector offset = point - origin_;
-        return {cross(first_, offset), cross(offset, last_)};
+        const Pair offset = Pair{point.x, point.y} - Pair{origin_.x, origin_.y};
+        return {offset[1] * x_ - offset[0] * y_};
     }
     [[nodiscard]] double margin(Point point) const { return distances(point).margin(); }
 
@@ -63,7 +66,7 @@ public:
     /// is not behind the origin.
     [[nodiscard]] double distanceFrom(Ray ray, Point point) const {
         const Distances both = distances(point);
-        const double aside = ray == Ray::Last ? both.fromLast : both.fromFirst;
+        const double aside = ray == Ray::Last ? both.fromLast() : both.fromFirst();
         const double beyond = along(ray, point) - kRayLength;
         return beyond > 0.0 ? std::hypot(aside, beyond) : std::abs(aside);
     }
@@ -79,6 +82,9 @@ private:
     Point origin_;
     Vector first_;
     Vector last_;
+    /// The directions of the first ray and against the last: distances grow to the left of both.
+    Pair x_;
+    Pair y_;
 };
 
 /// A place where a path meets a bounding ray.

@@ -361,10 +361,12 @@ bool Mirroring::moveEnds() {
 }
 
 bool Mirroring::moveEnd(PathSegment& end) {
-    const PathSegment drawn = end;
     const Ray ray = rayNear(frame_, end.anchor);
-    if (ray != Ray::None) moveOnto(frame_.wedge, ray, end);
-    endsChanged_ = endsChanged_ || !sameShape(drawn, end);
+    if (ray != Ray::None) {
+        const PathSegment drawn = end;
+        moveOnto(frame_.wedge, ray, end);
+        endsChanged_ = endsChanged_ || !sameShape(drawn, end);
+    }
     return frame_.wedge.rayAt(end.anchor) != Ray::None;
 }
 

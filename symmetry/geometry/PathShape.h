@@ -64,9 +64,9 @@ struct PathShape {
 }
 
 /// The segment under `map`, its coordinates rounded once to what the host can store.
-[[nodiscard]] constexpr PathSegment transformed(const PathSegment& segment, const Matrix& map) {
-    return {rounded(apply(map, segment.anchor)), rounded(apply(map, segment.in)),
-            rounded(apply(map, segment.out)), segment.corner, segment.selection};
+[[nodiscard]] inline PathSegment transformed(const PathSegment& segment, const Matrix& map) {
+    return {roundedImage(map, segment.anchor), roundedImage(map, segment.in),
+            roundedImage(map, segment.out), segment.corner, segment.selection};
 }
 
 } // namespace facetta

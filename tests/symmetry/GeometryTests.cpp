@@ -4,8 +4,11 @@
 
 #include <doctest/doctest.h>
 
+#include <bit>
+#include <cstdint>
 #include <limits>
 #include <string>
+#include <utility>
 
 using namespace facetta;
 using facetta::tests::Random;
@@ -84,4 +87,22 @@ TEST_CASE("what is too large for the host becomes its largest number") {
     CHECK(narrow(1e300) == std::numeric_limits<float>::max());
     CHECK(narrow(-1e300) == -std::numeric_limits<float>::max());
     CHECK(narrow(0.1) == 0.1F);
+}
+
+TEST_CASE("a rounded image is the image, rounded, to the bit") {
+    Random random;
+    const auto bits = [](Point point) {
+        return std::pair{std::bit_cast<std::uint64_t>(point.x),
+                         std::bit_cast<std::uint64_t>(point.y)};
+    };
+    for (int i = 0; i < 10'000; ++i) {
+        const Matrix map = reflectionAcross(random.point({}, 2000.0), random.real(0.0, kTwoPi));
+        const Point point = random.point({}, i % 2 == 0 ? 1e4 : 1e38);
+        CHECK(bits(roundedImage(map, point)) == bits(rounded(apply(map, point))));
+    }
+    constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+    const Matrix larger{10.0, 0.0, 0.0, 10.0, 0.0, 0.0};
+    for (const Point point : {Point{1e300, -1e38}, Point{-0.0, 0.0}, Point{1e-300, -1e-300}})
+        CHECK(bits(roundedImage(larger, point)) == bits(rounded(apply(larger, point))));
+    CHECK(std::isnan(roundedImage(larger, {kNone, 0.0}).x));
 }
