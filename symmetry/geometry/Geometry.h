@@ -5,8 +5,6 @@
 /// All coordinates are 64-bit reals in points. y grows UPWARDS and angles are radians,
 /// counter-clockwise from the positive x axis, unless a name says otherwise.
 
-#include "symmetry/geometry/Pair.h"
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -123,16 +121,5 @@ struct LineSegment {
 
 /// The nearest point that the host can store.
 [[nodiscard]] constexpr Point rounded(Point point) { return {narrow(point.x), narrow(point.y)}; }
-
-/// What `rounded(apply(m, p))` is, to the bit, but quicker: nearly all that is made comes from
-/// here.
-[[nodiscard]] inline Point roundedImage(const Matrix& m, Point p) {
-    constexpr double kLargest = std::numeric_limits<float>::max();
-    const Pair place = p.x * Pair{m.a, m.b} + p.y * Pair{m.c, m.d} + Pair{m.tx, m.ty};
-    const Pair inRange =
-        lesser(Pair{kLargest, kLargest}, greater(Pair{-kLargest, -kLargest}, place));
-    const Pair stored = inSinglePrecision(inRange);
-    return {stored[0], stored[1]};
-}
 
 } // namespace facetta

@@ -4,7 +4,9 @@
 
 #include "symmetry/geometry/Bezier.h"
 #include "symmetry/geometry/Geometry.h"
+#include "symmetry/geometry/Pair.h"
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -63,10 +65,27 @@ struct PathShape {
     return {segment.anchor, segment.out, segment.in, segment.corner, selected};
 }
 
-/// The segment under `map`, its coordinates rounded once to what the host can store.
+/// As `transformed`, for coordinates of any size.
+[[nodiscard]] PathSegment transformedFarOut(const PathSegment& segment, const Matrix& map);
+
+/// The segment under `map`, its coordinates rounded once to what the host can store. Nearly all
+/// that is made comes from here, so that it is done in pairs.
 [[nodiscard]] inline PathSegment transformed(const PathSegment& segment, const Matrix& map) {
-    return {roundedImage(map, segment.anchor), roundedImage(map, segment.in),
-            roundedImage(map, segment.out), segment.corner, segment.selection};
+    const auto image = [&map](Point point) {
+        return inSinglePrecision(point.x * Pair{map.a, map.b} + point.y * Pair{map.c, map.d} +
+                                 Pair{map.tx, map.ty});
+    };
+    const Pair anchor = image(segment.anchor);
+    const Pair in = image(segment.in);
+    const Pair out = image(segment.out);
+    const Pair sums = anchor + in + out;
+    const bool inRange = std::isfinite(sums[0] + sums[1]);
+    if (!inRange) return transformedFarOut(segment, map);
+    return {{anchor[0], anchor[1]},
+            {in[0], in[1]},
+            {out[0], out[1]},
+            segment.corner,
+            segment.selection};
 }
 
 } // namespace facetta

@@ -1,11 +1,12 @@
 #include "symmetry/geometry/Geometry.h"
+#include "symmetry/geometry/PathShape.h"
 
 #include "tests/symmetry/RandomPaths.h"
 
 #include <doctest/doctest.h>
 
-#include <bit>
-#include <cstdint>
+#include <cmath>
+#include <cstring>
 #include <limits>
 #include <string>
 #include <utility>
@@ -89,20 +90,25 @@ TEST_CASE("what is too large for the host becomes its largest number") {
     CHECK(narrow(0.1) == 0.1F);
 }
 
-TEST_CASE("a rounded image is the image, rounded, to the bit") {
+TEST_CASE("a segment's image is that of its points, rounded, to the bit") {
     Random random;
-    const auto bits = [](Point point) {
-        return std::pair{std::bit_cast<std::uint64_t>(point.x),
-                         std::bit_cast<std::uint64_t>(point.y)};
+    const auto checkImage = [](const Matrix& map, Point anchor, Point in, Point out) {
+        const PathSegment image = transformed({anchor, in, out, true, selection::kIn}, map);
+        for (const auto& [made, from] :
+             {std::pair{image.anchor, anchor}, {image.in, in}, {image.out, out}}) {
+            const Point expected = rounded(apply(map, from));
+            CHECK(std::memcmp(&made, &expected, sizeof expected) == 0);
+        }
+        CHECK(image.corner);
+        CHECK(image.selection == selection::kIn);
     };
-    for (int i = 0; i < 10'000; ++i) {
-        const Matrix map = reflectionAcross(random.point({}, 2000.0), random.real(0.0, kTwoPi));
-        const Point point = random.point({}, i % 2 == 0 ? 1e4 : 1e38);
-        CHECK(bits(roundedImage(map, point)) == bits(rounded(apply(map, point))));
-    }
+    for (int i = 0; i < 3'000; ++i)
+        checkImage(reflectionAcross(random.point({}, 2000.0), random.real(0.0, kTwoPi)),
+                   random.point({}, 1e4), random.point({}, i % 2 == 0 ? 1.0 : 3e38),
+                   random.point({}, 1e-30));
     constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
     const Matrix larger{10.0, 0.0, 0.0, 10.0, 0.0, 0.0};
-    for (const Point point : {Point{1e300, -1e38}, Point{-0.0, 0.0}, Point{1e-300, -1e-300}})
-        CHECK(bits(roundedImage(larger, point)) == bits(rounded(apply(larger, point))));
-    CHECK(std::isnan(roundedImage(larger, {kNone, 0.0}).x));
+    checkImage(larger, {1e300, -1e38}, {1e38, 1.0}, {-1e38, 2.0});
+    checkImage(larger, {-0.0, 0.0}, {1e-300, -1e-300}, {3.4e37, 0.1});
+    CHECK(std::isnan(transformed({{kNone, 0.0}, {}, {}}, larger).anchor.x));
 }
