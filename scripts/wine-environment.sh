@@ -14,7 +14,7 @@ export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe="
 # on nothing. The server stays for ten minutes after its last program, the desktop for a second.
 start_wine() {
     wineserver -p600 </dev/null >/dev/null 2>&1 || true # it runs already
-    # On a busy machine the first program is now and then refused the desktop that it has to wait for.
+    # Twice, because the first start failed once on a busy machine; why is not known.
     wine rundll32 user32.dll,MessageBeep </dev/null >/dev/null 2>&1 ||
         wine rundll32 user32.dll,MessageBeep </dev/null >/dev/null 2>&1 ||
         fail "Wine does not run; delete build/wine to have its prefix made anew"
