@@ -10,29 +10,33 @@ namespace facetta {
 
 namespace {
 
-/// Signed distances of the four control points of a curve from the line of a ray.
-BernsteinCubic distancesFrom(const Wedge& wedge, Ray ray, const Cubic& curve) {
-    const auto distance = [&](Point point) {
-        const Wedge::Distances both = wedge.distances(point);
-        return ray == Ray::First ? both.fromFirst() : both.fromLast();
-    };
-    return {distance(curve.p0), distance(curve.p1), distance(curve.p2), distance(curve.p3)};
+/// Those of the four control points of a curve.
+using CurveDistances = std::array<Wedge::Distances, 4>;
+
+CurveDistances distancesOf(const Wedge& wedge, const Cubic& curve) {
+    return {wedge.distances(curve.p0), wedge.distances(curve.p1), wedge.distances(curve.p2),
+            wedge.distances(curve.p3)};
+}
+
+BernsteinCubic distancesFrom(Ray ray, const CurveDistances& all) {
+    const std::size_t side = ray == Ray::First ? 0 : 1;
+    return {all[0].both[side], all[1].both[side], all[2].both[side], all[3].both[side]};
 }
 
 /// Whether a curve runs along the line of a ray: its control points do.
-bool liesOnLine(const Wedge& wedge, Ray ray, const Cubic& curve) {
-    return std::ranges::all_of(distancesFrom(wedge, ray, curve), [](double distance) {
+bool liesOnLine(Ray ray, const CurveDistances& all) {
+    return std::ranges::all_of(distancesFrom(ray, all), [](double distance) {
         return std::abs(distance) <= kOnAxisDistance;
     });
 }
 
 /// Whether four points are clear of both bounding rays on the same side, so that their curve has
 /// nothing to do with them. This is all that is asked about most curves.
-bool staysClear(const Wedge::Distances& a, const Wedge::Distances& b, const Wedge::Distances& c,
-                const Wedge::Distances& d) {
-    const Pair lowest = lesser(lesser(a.both, b.both), lesser(c.both, d.both));
+bool staysClear(const CurveDistances& all) {
+    const Pair lowest = lesser(lesser(all[0].both, all[1].both), lesser(all[2].both, all[3].both));
     if (std::min(lowest[0], lowest[1]) > kOnAxisDistance) return true;
-    const Pair highest = greater(greater(a.both, b.both), greater(c.both, d.both));
+    const Pair highest =
+        greater(greater(all[0].both, all[1].both), greater(all[2].both, all[3].both));
     return std::min(highest[0], highest[1]) < -kOnAxisDistance;
 }
 
@@ -52,8 +56,9 @@ public:
 private:
     /// True when every curve is clear of both rays, so that any anchor tells the side of all.
     bool collectCrossings();
-    [[nodiscard]] Crossing anchorCrossing(std::size_t index, Point anchor) const;
-    void addCurveCrossings(std::size_t index, const Cubic& curve);
+    [[nodiscard]] Crossing anchorCrossing(std::size_t index, Point anchor,
+                                          const Wedge::Distances& distances) const;
+    void addCurveCrossings(std::size_t index, const Cubic& curve, const CurveDistances& distances);
     void addRayCrossings(std::size_t index, const Cubic& curve, Ray ray, const Roots& roots);
     [[nodiscard]] double farthestMargin(std::size_t firstAnchor, std::size_t endAnchor) const;
     [[nodiscard]] double farthestMargin(const Cubic& curve, const Crossing& from,
@@ -114,34 +119,36 @@ bool ContactFinder::collectCrossings() {
         const PathSegment& next = segments[i + 1 == segments.size() ? 0 : i + 1];
         const Wedge::Distances there = wedge.distances(next.anchor);
         margins[i] = here.margin();
-        const Wedge::Distances out = wedge.distances(segments[i].out);
-        const Wedge::Distances in = wedge.distances(next.in);
-        if (!staysClear(here, out, in, there)) {
-            addCurveCrossings(i, curveAt(path_, i));
+        const CurveDistances all{here, wedge.distances(segments[i].out), wedge.distances(next.in),
+                                 there};
+        if (!staysClear(all)) {
+            addCurveCrossings(i, curveAt(path_, i), all);
             allStayClear = false;
         }
         here = there;
     }
     if (!path_.closed) {
         margins_.back() = here.margin();
-        const Crossing end = anchorCrossing(segments.size() - 1, segments.back().anchor);
+        const Crossing end = anchorCrossing(segments.size() - 1, segments.back().anchor, here);
         if (end.ray != Ray::None) crossings_.push_back(end);
     }
     return allStayClear;
 }
 
-Crossing ContactFinder::anchorCrossing(std::size_t index, Point anchor) const {
-    return {static_cast<std::int32_t>(index), 0.0, anchor, wedge_.rayAt(anchor), true};
+Crossing ContactFinder::anchorCrossing(std::size_t index, Point anchor,
+                                       const Wedge::Distances& distances) const {
+    return {static_cast<std::int32_t>(index), 0.0, anchor, wedge_.rayAt(anchor, distances), true};
 }
 
 /// Adds the crossings of one curve: its first anchor and the places up to the second one.
-void ContactFinder::addCurveCrossings(std::size_t index, const Cubic& curve) {
-    const Crossing start = anchorCrossing(index, curve.p0);
-    const Crossing end = anchorCrossing(index + 1, curve.p3);
+void ContactFinder::addCurveCrossings(std::size_t index, const Cubic& curve,
+                                      const CurveDistances& distances) {
+    const Crossing start = anchorCrossing(index, curve.p0, distances.front());
+    const Crossing end = anchorCrossing(index + 1, curve.p3, distances.back());
     if (start.ray != Ray::None) crossings_.push_back(start);
     const auto first = std::ssize(crossings_);
-    const BernsteinCubic fromFirst = distancesFrom(wedge_, Ray::First, curve);
-    const BernsteinCubic fromLast = distancesFrom(wedge_, Ray::Last, curve);
+    const BernsteinCubic fromFirst = distancesFrom(Ray::First, distances);
+    const BernsteinCubic fromLast = distancesFrom(Ray::Last, distances);
     const Roots onFirst = signChanges(fromFirst);
     addRayCrossings(index, curve, Ray::First, onFirst);
     addRayCrossings(index, curve, Ray::Last,
@@ -229,8 +236,9 @@ double ContactFinder::farthestMargin(const Cubic& curve, const Crossing& from,
 
 /// Whether a curve that does not leave the edge between two places runs along it there.
 bool ContactFinder::runsAlong(const Cubic& curve, const Crossing& from, const Crossing& to) const {
-    return distance(from.point, to.point) > kOnAxisDistance &&
-           (liesOnLine(wedge_, Ray::First, curve) || liesOnLine(wedge_, Ray::Last, curve));
+    if (distance(from.point, to.point) <= kOnAxisDistance) return false;
+    const CurveDistances distances = distancesOf(wedge_, curve);
+    return liesOnLine(Ray::First, distances) || liesOnLine(Ray::Last, distances);
 }
 
 Side ContactFinder::sideOnCurve(const Cubic& curve, const Crossing& from,
@@ -326,8 +334,7 @@ Wedge::Wedge(const PageAxes& axes)
 
 bool Wedge::atOrigin(Point point) const { return distance(point, origin_) <= kOnAxisDistance; }
 
-Ray Wedge::rayAt(Point point) const {
-    const Distances both = distances(point);
+Ray Wedge::rayAt(Point point, const Distances& both) const {
     const bool onFirst = std::abs(both.fromFirst()) <= kOnAxisDistance &&
                          along(Ray::First, point) >= -kOnAxisDistance;
     const bool onLast =

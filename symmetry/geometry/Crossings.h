@@ -53,7 +53,9 @@ public:
     [[nodiscard]] double margin(Point point) const { return distances(point).margin(); }
 
     /// The ray on which `point` lies to within the on-axis distance, the nearer one of two.
-    [[nodiscard]] Ray rayAt(Point point) const;
+    [[nodiscard]] Ray rayAt(Point point) const { return rayAt(point, distances(point)); }
+    /// The same, where the distances of the point are known already.
+    [[nodiscard]] Ray rayAt(Point point, const Distances& both) const;
 
     [[nodiscard]] bool atOrigin(Point point) const;
 
