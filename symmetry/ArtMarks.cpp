@@ -28,19 +28,17 @@ bool wasRead(AIErr error) {
 MarkKeys markKeys() { return {MirrorTag::key(), GuideTag::key()}; }
 
 ai::int32 mirrorMarkIn(AIDictionaryRef entries, AIDictKey key) {
-    if (!ai::suites.dictionary->IsKnown(entries, key)) return MirrorTag::kSource;
     ai::int32 value = MirrorTag::kCopy;
-    return wasRead(ai::suites.dictionary->GetIntegerEntry(entries, key, &value))
-               ? std::clamp(value, MirrorTag::kCopy, MirrorTag::kKept)
-               : MirrorTag::kCopy;
+    if (wasRead(ai::suites.dictionary->GetIntegerEntry(entries, key, &value)))
+        return std::clamp(value, MirrorTag::kCopy, MirrorTag::kKept);
+    return ai::suites.dictionary->IsKnown(entries, key) ? MirrorTag::kCopy : MirrorTag::kSource;
 }
 
 ArtMarks marksOf(AIArtHandle art, const MarkKeys& keys) {
     const ai::Dictionary entries = dictionaryOf(art);
-    if (!entries) return {};
+    if (!entries || ai::suites.dictionary->Size(entries.get()) == 0) return {}; // nearly all art
     const ai::int32 mirror = mirrorMarkIn(entries.get(), keys.mirror);
     if (mirror == MirrorTag::kCopy) return {.mirror = mirror, .entries = true};
-    if (ai::suites.dictionary->Size(entries.get()) == 0) return {}; // as with nearly all art
     const bool guide = ai::suites.dictionary->IsKnown(entries.get(), keys.guide) != 0;
     return {.mirror = mirror, .guide = guide, .entries = true};
 }

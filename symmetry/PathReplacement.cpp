@@ -6,7 +6,6 @@
 #include "host/Suites.h"
 #include "host/UnicodeString.h"
 #include "host/suites/AIArtSuite.h"
-#include "host/suites/AIPathSuite.h"
 #include "symmetry/ArtMarks.h"
 #include "symmetry/ArtSpace.h"
 #include "symmetry/ArtTree.h"
@@ -62,7 +61,6 @@ void carryOver(const Unit& source, AIArtHandle art, const Matrix& fold) {
 Draft newPath(const Contour& contour, ai::int16 order, AIArtHandle place, PathTransfer& transfer) {
     Draft path = newArt(kPathArt, order, place);
     transfer.write(path.get(), contour.shape);
-    ai::check(ai::suites.path->SetPathGuide(path.get(), false));
     return path;
 }
 
