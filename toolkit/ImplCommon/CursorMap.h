@@ -29,7 +29,7 @@ struct CursorMap {
     static constexpr int kDefaultHotSpot = 15;
     static constexpr int kLargestSide = 256; ///< of a cursor, in pixels
     static constexpr std::size_t kMostPictures = 16;
-    static constexpr std::size_t kMostBytes = 64 * 1024; ///< of a document
+    static constexpr std::size_t kMostBytes = std::size_t{64} * 1024; ///< of a document
 };
 
 [[nodiscard]] CursorMap readCursorMap(std::string_view document);

@@ -1,5 +1,6 @@
 #include "toolkit/ImplWin/Pictures.h"
 
+#include <cmath>
 #include <cstring>
 
 namespace NRDM {
@@ -90,8 +91,8 @@ void Pictures::draw(Surface& surface, int id, bool dark, Scale scale, int x, int
     const auto width = static_cast<INT>(bitmap->GetWidth());
     const auto height = static_cast<INT>(bitmap->GetHeight());
     const double enlarged = scale.factor / density;
-    const Gdiplus::Rect place(x, y, static_cast<INT>(width * enlarged + 0.5),
-                              static_cast<INT>(height * enlarged + 0.5));
+    const Gdiplus::Rect place(x, y, static_cast<INT>(std::lround(width * enlarged)),
+                              static_cast<INT>(std::lround(height * enlarged)));
     Gdiplus::ImageAttributes attributes;
     if (tint == Tint::Dimmed) {
         constexpr Gdiplus::REAL kShare = 0.4F;

@@ -85,7 +85,8 @@ int writePictures(const Choice& choose, const std::string& folder) {
     for (const bool dark : {false, true}) {
         for (const auto& [scale, name] : kScales) {
             Gallery gallery({.dark = dark, .scale = scale});
-            const std::string variant = (dark ? "-dark-" : "-light-") + std::string(name) + ".png";
+            std::string variant = dark ? "-dark-" : "-light-";
+            variant.append(name).append(".png");
             NamedPages pages = choose(gallery.dialogs());
             for (auto& [file, page] : pages) {
                 written = writePicture(*page, folder + "/gallery-" + file + variant) && written;

@@ -7,7 +7,7 @@
 
 namespace NRDM::layout {
 
-constexpr std::size_t kMaxTextBytes = 64 * 1024;
+constexpr std::size_t kMaxTextBytes = std::size_t{64} * 1024;
 
 /// Nested blocks, and apart from them nested parentheses, lists and conditions of one value: both
 /// are read by functions that call themselves.
