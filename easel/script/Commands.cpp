@@ -62,7 +62,7 @@ Action readSave(Arguments& arguments) {
 void close(Player& player) { player.host().close(player.document()); }
 
 Action readSwitch(Arguments& arguments) {
-    constexpr int kMostDrawings = 100;
+    constexpr int kMostDrawings = 1'000'000; // how many are open is known when it is done
     const int number = arguments.whole("number of a drawing", 1, kMostDrawings);
     return [number](Player& player) {
         Host& host = player.host();

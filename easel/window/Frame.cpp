@@ -523,8 +523,9 @@ void Frame::exit() {
     for (std::size_t i = 0; i < hand_.host().documents().size(); ++i) {
         Document& document = *hand_.host().documents()[i];
         if (!document.isModified() || savedTexts_[&document] == textOf(document)) continue;
-        if (&document != &hand_.document()) hand_.act("switch " + std::to_string(i + 1));
-        if (!mayClose(document)) return;
+        const bool inFront =
+            &document == &hand_.document() || hand_.act("switch " + std::to_string(i + 1));
+        if (!inFront || !mayClose(document)) return; // what is saved is the drawing in front
     }
     for (const auto& document : hand_.host().documents())
         dropCopy(*document);

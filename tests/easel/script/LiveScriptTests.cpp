@@ -102,3 +102,17 @@ TEST_CASE("what could not be done is not kept; what was asked is answered before
                          "expect alert \"Are you \\\"sure\\\"?\"\n");
     CHECK(player.finish().empty());
 }
+
+TEST_CASE("a drawing can be brought to the front however many are open") {
+    constexpr std::size_t kOpen = 150;
+    Player player(easel::sessionWithSuites(), settingsOf(true));
+    LiveScript live(player);
+    for (std::size_t i = 0; i < kOpen; ++i)
+        live.act("new 100 100");
+    live.act("switch 1");
+    CHECK(&player.document() == player.host().documents().front().get());
+    live.act("switch 150");
+    CHECK(&player.document() == player.host().documents().back().get());
+    CHECK_THROWS_WITH(live.act("switch 151"), doctest::Contains("only 150 drawings are open"));
+    CHECK(player.finish().empty());
+}
