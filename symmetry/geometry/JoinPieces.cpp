@@ -81,25 +81,27 @@ Contour join(const ImageChains& chains, Piece piece) {
 
     const std::size_t anchors = path.size();
     const std::size_t images = ring ? chain.size() : 2;
-    path.reserve(images * (anchors - 1) + 1);
     // The images are made of the handles before they are rounded.
     const PathSegment first = path.front();
     const PathSegment last = path.back();
     path.front().in = rounded(first.in);
     path.back().out = rounded(last.out);
+    // Each image begins with the last anchor of the one before it.
+    if (anchors > 1) path.resize(images * (anchors - 1) + 1);
+    PathSegment* next = path.data() + anchors;
     for (std::size_t image = 1; image < images && anchors > 1; ++image) {
         const Matrix& map = chain[image];
-        const bool closing = closed && image + 1 == images; // its last anchor is the path's first
         if (image % 2 == 0) {
             for (std::size_t i = 1; i + 1 < anchors; ++i)
-                path.push_back(transformed(path[i], map));
-            path.push_back(transformed(last, map));
+                *next++ = transformed(path[i], map);
+            *next++ = transformed(last, map);
         } else {
             for (std::size_t i = anchors - 1; i-- > 1;)
-                path.push_back(transformed(reversed(path[i]), map));
-            if (!closing) path.push_back(transformed(reversed(first), map));
+                *next++ = transformed(reversed(path[i]), map);
+            *next++ = transformed(reversed(first), map);
         }
     }
+    if (closed && anchors > 1) path.pop_back(); // the path's first anchor again
     return {.shape = {std::move(path), closed},
             .images = ring ? Images::None : Images::Rotations,
             .firstJoint = 0,

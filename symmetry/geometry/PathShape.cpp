@@ -23,9 +23,9 @@ Cubic curveAt(const PathShape& shape, std::size_t index) {
     return {from.anchor, from.out, to.in, to.anchor};
 }
 
-PathSegment transformedFarOut(const PathSegment& segment, const Matrix& map) {
-    return {rounded(apply(map, segment.anchor)), rounded(apply(map, segment.in)),
-            rounded(apply(map, segment.out)), segment.corner, segment.selection};
+Pair imageFarOut(Point point, const Matrix& map) {
+    const Point image = rounded(apply(map, point));
+    return Pair{image.x, image.y};
 }
 
 } // namespace facetta

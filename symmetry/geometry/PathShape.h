@@ -65,8 +65,8 @@ struct PathShape {
     return {segment.anchor, segment.out, segment.in, segment.corner, selected};
 }
 
-/// As `transformed`, for coordinates of any size.
-[[nodiscard]] PathSegment transformedFarOut(const PathSegment& segment, const Matrix& map);
+/// The point under `map`, rounded to what the host can store; for coordinates of any size.
+[[nodiscard]] Pair imageFarOut(Point point, const Matrix& map);
 
 /// The segment under `map`, its coordinates rounded once to what the host can store. Nearly all
 /// that is made comes from here, so that it is done in pairs.
@@ -75,12 +75,16 @@ struct PathShape {
         return inSinglePrecision(point.x * Pair{map.a, map.b} + point.y * Pair{map.c, map.d} +
                                  Pair{map.tx, map.ty});
     };
-    const Pair anchor = image(segment.anchor);
-    const Pair in = image(segment.in);
-    const Pair out = image(segment.out);
+    Pair anchor = image(segment.anchor);
+    Pair in = image(segment.in);
+    Pair out = image(segment.out);
     const Pair sums = anchor + in + out;
     const bool inRange = std::isfinite(sums[0] + sums[1]);
-    if (!inRange) return transformedFarOut(segment, map);
+    if (!inRange) {
+        anchor = imageFarOut(segment.anchor, map);
+        in = imageFarOut(segment.in, map);
+        out = imageFarOut(segment.out, map);
+    }
     return {{anchor[0], anchor[1]},
             {in[0], in[1]},
             {out[0], out[1]},
