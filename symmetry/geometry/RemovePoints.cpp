@@ -88,12 +88,23 @@ Cubic curveBetween(const PathSegment& from, const PathSegment& to) {
     return {from.anchor, from.out, to.in, to.anchor};
 }
 
+/// Whether two curves bend too much where they meet for one curve that stays within `limit` of
+/// them, as most do. Split there, that curve has its point on the line between the handles beside
+/// it; so theirs is at most twice the limit from the line between their handles.
+bool bends(const Cubic& first, const Cubic& second, double limit) {
+    const Vector handles = second.p1 - first.p2;
+    const double area = cross(handles, first.p3 - first.p2); // length times distance
+    return area * area > 4.0 * limit * limit * dot(handles, handles);
+}
+
 /// One curve past the anchor `middle` in place of the two that meet there; none when it would be
 /// farther from them than `limit`.
 std::optional<MergedCurve> mergeWithin(const PathSegment& before, const PathSegment& middle,
                                        const PathSegment& after, double limit) {
-    std::optional<MergedCurve> merged =
-        merge(curveBetween(before, middle), curveBetween(middle, after));
+    const Cubic first = curveBetween(before, middle);
+    const Cubic second = curveBetween(middle, after);
+    if (limit < 0.0 || bends(first, second, limit)) return std::nullopt;
+    std::optional<MergedCurve> merged = merge(first, second);
     if (merged && merged->deviation > limit) merged.reset();
     return merged;
 }
