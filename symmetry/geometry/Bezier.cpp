@@ -105,6 +105,13 @@ Roots signChanges(const BernsteinCubic& function) {
     // The function lies within the range of its coefficients.
     const auto [least, most] = std::ranges::minmax(function);
     if (least >= 0.0 || most <= 0.0) return roots;
+    // It changes sign no more often than they do (Descartes' rule of signs).
+    const auto [b0, b1, b2, b3] = function;
+    if (b0 * b3 < 0.0 && !(b0 * b1 < 0.0 && b2 * b3 < 0.0)) {
+        roots.values[0] = rootBetween(function, 0.0, 1.0, b0);
+        roots.count = 1;
+        return roots;
+    }
     const Stretches stretches = monotoneStretches(function);
     double lastEnd = 0.0; // the last end of a stretch at which the function is not zero
     double lastValue = 0.0;
