@@ -62,17 +62,17 @@ Cut cutAtEdge(const Wedge& wedge, const PathShape& path, double start, CutScratc
 
 namespace {
 
-/// The segment at a place of the path: its anchor there, or a new one. A new anchor between two
-/// selected ones is selected, so that a wholly selected path stays so.
-PathSegment segmentAt(const PathShape& path, const Crossing& place) {
+/// Makes `end`, a copy of an anchor next to a place of the path, the new anchor at that place. One
+/// between two selected anchors is selected, so that a wholly selected path stays so.
+void moveTo(const PathShape& path, const Crossing& place, PathSegment& end) {
     const std::vector<PathSegment>& segments = path.segments;
     const auto index = static_cast<std::size_t>(place.segment);
-    if (place.onAnchor) return segments[index];
     const PathSegment& next = segments[index + 1 < segments.size() ? index + 1 : 0];
     const bool selected =
         segments[index].selection == selection::kAnchor && next.selection == selection::kAnchor;
-    return {place.point, place.point, place.point, true,
-            selected ? selection::kAnchor : selection::kNone};
+    end.anchor = end.in = end.out = place.point;
+    end.corner = true;
+    end.selection = selected ? selection::kAnchor : selection::kNone;
 }
 
 /// Sets the handles of a curve that is cut down to the part from `from` to `to`.
@@ -102,15 +102,12 @@ std::vector<PathSegment> extract(const PathShape& path, const Stretch& stretch, 
     std::vector<PathSegment> piece = std::move(storage);
     piece.clear();
     piece.reserve(room * (static_cast<std::size_t>(endAnchor - from.segment) + 1));
-    piece.push_back(segmentAt(path, from));
     const auto anchors = path.segments.begin();
-    const std::int32_t firstAnchor = from.segment + 1;
-    if (firstAnchor < std::min(endAnchor, count))
-        piece.insert(piece.end(), anchors + firstAnchor, anchors + std::min(endAnchor, count));
-    if (endAnchor > count)
-        piece.insert(piece.end(), anchors + std::max(firstAnchor - count, 0),
-                     anchors + (endAnchor - count));
-    piece.push_back(segmentAt(path, to));
+    piece.assign(anchors + from.segment, anchors + std::min(endAnchor, count));
+    if (endAnchor > count) piece.insert(piece.end(), anchors, anchors + (endAnchor - count));
+    piece.push_back(anchors[endAnchor % count]);
+    if (!from.onAnchor) moveTo(path, from, piece.front());
+    if (!to.onAnchor) moveTo(path, to, piece.back());
 
     const bool oneCurve = lastCurve == from.segment;
     if (!from.onAnchor || (oneCurve && !to.onAnchor))
