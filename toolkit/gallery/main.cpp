@@ -85,11 +85,12 @@ int writePictures(const Choice& choose, const std::string& folder) {
     for (const bool dark : {false, true}) {
         for (const auto& [scale, name] : kScales) {
             Gallery gallery({.dark = dark, .scale = scale});
-            std::string variant = dark ? "-dark-" : "-light-";
-            variant.append(name).append(".png");
+            const std::string variant = (dark ? "-dark-" : "-light-") + std::string(name) + ".png";
             NamedPages pages = choose(gallery.dialogs());
             for (auto& [file, page] : pages) {
-                written = writePicture(*page, folder + "/gallery-" + file + variant) && written;
+                std::string picture = folder;
+                picture.append("/gallery-").append(file).append(variant);
+                written = writePicture(*page, picture) && written;
                 page.reset(); // or it would lie above the next
             }
         }
