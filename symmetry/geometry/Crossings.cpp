@@ -10,7 +10,7 @@ namespace facetta {
 
 namespace {
 
-/// Those of the four control points of a curve.
+/// Signed distances of the four control points of a curve from the lines of both rays.
 using CurveDistances = std::array<Wedge::Distances, 4>;
 
 CurveDistances distancesOf(const Wedge& wedge, const Cubic& curve) {
